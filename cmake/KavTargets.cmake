@@ -1,0 +1,38 @@
+# What every target of the project has in common, and the one way to make a shared library or a test.
+
+add_library(kav_options INTERFACE)
+target_compile_features(kav_options INTERFACE cxx_std_20)
+target_compile_options(kav_options INTERFACE
+    -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor -Werror -Werror=switch)
+target_compile_definitions(kav_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+# Calls into the platform libraries must stay replaceable at load time: no symbolic binding, no inlining across
+# an exported entry point.
+target_compile_options(kav_options INTERFACE -fsemantic-interposition)
+if(KAV_SANITIZE)
+    target_compile_options(kav_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+    target_link_options(kav_options INTERFACE -fsanitize=address,undefined)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # With the sanitizers on, GCC 12 warns about code of its own library and of Qt's headers that is sound.
+        target_compile_options(kav_options INTERFACE -Wno-maybe-uninitialized -Wno-stringop-overflow)
+    endif()
+endif()
+
+# kav_shared_library(TARGET [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
+# A shared object under its own name and soname; headers are included as <folder/Header.h> from the given base.
+function(kav_shared_library target)
+    cmake_parse_arguments(ARG "" "OUTPUT;VERSION;SOVERSION" "SOURCES" ${ARGN})
+    add_library(${target} SHARED ${ARG_SOURCES})
+    if(ARG_OUTPUT)
+        set_target_properties(${target} PROPERTIES OUTPUT_NAME ${ARG_OUTPUT})
+    endif()
+    if(ARG_VERSION)
+        set_target_properties(${target} PROPERTIES VERSION ${ARG_VERSION} SOVERSION ${ARG_SOVERSION})
+    endif()
+    target_link_libraries(${target} PRIVATE kav_options)
+    target_link_options(${target} PRIVATE -Wl,--no-undefined-version)
+    if(NOT KAV_SANITIZE)
+        target_link_options(${target} PRIVATE -Wl,-z,defs)
+    endif()
+    install(TARGETS ${target} LIBRARY DESTINATION lib)
+endfunction()

@@ -1,0 +1,60 @@
+// The telephone behind the phone's libraries, and the one place where its backend is chosen.
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <memory>
+
+namespace handset {
+
+class CallLog;
+class CallService;
+class Clock;
+class DataCalls;
+
+/// A telephone: its roles, each an interface of its own. A role that the backend has not is null; the shims answer
+/// NotAvailable for it. The roles belong to the telephone.
+class Handset
+{
+public:
+    virtual ~Handset() = default;
+
+    virtual CallService *callService() = 0;
+    virtual CallLog *callLog() = 0;
+    virtual DataCalls *dataCalls() = 0;
+};
+
+struct Settings {
+    QString backend = QStringLiteral("simulated"); ///< one of backendNames()
+    /// Directory that keeps the state between starts, made when missing; empty keeps it in memory only.
+    QString stateDirectory;
+    std::shared_ptr<Clock> clock; ///< null is the machine's clocks
+};
+
+struct Opened {
+    std::shared_ptr<Handset> handset; ///< null when the telephone could not be opened
+    QString error;                    ///< then: one sentence that says why, for the user
+    QString notice;                   ///< what the user should know although it opened; empty for nothing
+};
+
+/// The names that Settings::backend may have.
+QStringList backendNames();
+
+/// Opens a telephone. Never throws; a backend name that is not known, a state directory that cannot be used and a
+/// state that another process uses are errors.
+Opened open(const Settings &settings);
+
+/// Where the default telephone keeps its state: a directory of the user's own data directory.
+QString defaultStateDirectory();
+
+/// Makes `handset` the one that the phone's libraries talk to; null for none. Whoever opens a telephone for the
+/// process, and a test with a telephone of its own, calls this before anything else uses the phone's libraries.
+void install(std::shared_ptr<Handset> handset);
+
+/// The installed telephone. A process that never called install() gets the default one, the simulated telephone on
+/// defaultStateDirectory(), opened on the first call; where that fails the answer is null from then on, and the
+/// reason is a warning. GUI thread only, like every operation of the telephone.
+std::shared_ptr<Handset> current();
+
+} // namespace handset

@@ -1,0 +1,24 @@
+// The phone's message client, as far as circuit-switched data calls go.
+#pragma once
+
+#include "classname.h"
+
+#include <QtCore/QObject>
+
+/// Asks the telephone about data calls. Every operation answers 0 on success, otherwise a number of
+/// handset/Status.h or the backend's own; without a telephone that is NotAvailable (2). GUI thread only.
+class PHONE_MsgClient : public QObject
+{
+    Q_OBJECT
+    KAV_CLASS_NAME
+
+public:
+    /// `parent` owns the client and may be null; `name` (Latin-1, may be null) is its object name.
+    explicit PHONE_MsgClient(QObject *parent, const char *name = nullptr);
+    ~PHONE_MsgClient() override;
+
+    /// Brings the telephone's data-call total up to date with a running call; UTIL_GetTotalDuration() tells it.
+    int getTotalByteAndConnectedDuration();
+    /// Zeroes the data-call total when `confirmed`; false asks for nothing and succeeds.
+    int resetTotalDuration(bool confirmed);
+};
