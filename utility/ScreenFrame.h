@@ -1,0 +1,69 @@
+// What the screens have in common: the frame, the rows of a settings list, the dialogs.
+#pragma once
+
+#include "ZListBox.h"
+#include "ZMessageDlg.h"
+#include "ZSettingItem.h"
+#include "translation.h"
+
+#include <QtCore/QString>
+
+class ZKbMainWidget;
+class ZSoftKey;
+
+namespace ScreenFrame {
+
+/// A text of the catalogue, both Latin-1 literals.
+struct ResourceText {
+    const char *key;
+    const char *english;
+};
+
+/// What tells the frames of the screens apart.
+struct Recipe {
+    const char *context;     ///< class name of the screen
+    ResourceText title;
+    const char *backMember;  ///< signal or slot of the screen for the right softkey and the clear key alike
+};
+
+/// `resource` in the catalogue, with the name of `Class` as the context.
+template <typename Class>
+QString textFor(const ResourceText &resource)
+{
+    return translatedFor<Class>(resource.key, resource.english);
+}
+
+/// Gives `screen` its title and its softkey bar: "Back" on the right, nothing on the left. Null when there is no
+/// memory for the bar.
+ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe);
+
+/// Fills the content area of `screen` with a settings list that reports to slotSelectedItem(ZSettingItem*), and
+/// connects the clear key. Null when there is no memory for the list.
+ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe);
+
+/// Makes a row with its title in the first column, not yet inserted. Null without a list or memory.
+ZSettingItem *newRow(ZListBox *list, const QString &title);
+void appendValue(ZSettingItem *row, const QString &value);
+void appendRow(ZListBox *list, ZSettingItem *row);
+
+/// Rewrites the value of row `row` with what `value()` answers; nothing is asked where there is no such row.
+template <typename Value>
+void rewriteValue(ZListBox *list, int row, Value value)
+{
+    if (auto *item = static_cast<ZSettingItem *>(list->item(row)))
+        item->setSubItem(0, 1, value(), false, ZSettingItem::ValueRegion);
+}
+
+/// Makes a dialog that answers to `leftSlot` and `rightSlot` of `screen`; a null slot is not connected. The dialog
+/// is modal and a child of the screen. Null when there is no memory for it.
+ZMessageDlg *newDialog(ZKbMainWidget *screen, const QString &header, const QString &message,
+                       ZMessageDlg::MessageDlgType type, const char *leftSlot, const char *rightSlot);
+
+template <typename Object>
+void deleteAndNull(Object *&object)
+{
+    delete object;
+    object = nullptr;
+}
+
+} // namespace ScreenFrame
