@@ -9,7 +9,7 @@ namespace ScreenFrame {
 
 namespace {
 
-constexpr int lineOfRow = 0;  // rows have one line
+constexpr int lineOfRow = 0; // rows have one line
 constexpr int atTheEnd = -1;
 
 void fillSoftKey(ZSoftKey *softKey, ZKbMainWidget *screen, const Recipe &recipe)
@@ -35,7 +35,8 @@ ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe)
 ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe)
 {
     QWidget *content = screen->getContentWidget(true);
-    auto *list = new (std::nothrow) ZListBox(QString::fromLatin1("%M"), content, 0, ZSkinService::SettingListClass);
+    auto *list =
+        new (std::nothrow) ZListBox(QString::fromLatin1("%M"), content, 0, ZSkinService::SettingListClass);
     if (list) {
         list->setGeometry(QRect(0, 0, content->width(), content->height()));
         QObject::connect(list, "2selected(ZSettingItem *)", screen, "1slotSelectedItem(ZSettingItem *)");

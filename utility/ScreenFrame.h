@@ -21,9 +21,9 @@ struct ResourceText {
 
 /// What tells the frames of the screens apart.
 struct Recipe {
-    const char *context;     ///< class name of the screen
+    const char *context; ///< class name of the screen
     ResourceText title;
-    const char *backMember;  ///< signal or slot of the screen for the right softkey and the clear key alike
+    const char *backMember; ///< signal or slot of the screen for the right softkey and the clear key alike
 };
 
 /// `resource` in the catalogue, with the name of `Class` as the context.
