@@ -13,7 +13,7 @@ class ZSoftKey;
 
 namespace ScreenFrame {
 
-/// A text of the catalogue, both Latin-1 literals.
+/// A text of the catalogue: its key (ASCII) and its English default (Latin-1).
 struct ResourceText {
     const char *key;
     const char *english;

@@ -2,12 +2,33 @@
 
 #include <QtCore/QCoreApplication>
 
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+bool isAscii(const char *text)
+{
+    return std::all_of(text, text + std::strlen(text), [](char c) { return static_cast<signed char>(c) >= 0; });
+}
+
+QString lookUp(const char *context, const char *key, const char *latin1)
+{
+    if (isAscii(latin1))
+        return QCoreApplication::translate(context, key, latin1);
+    return QCoreApplication::translate(context, key, QString::fromLatin1(latin1).toUtf8().constData());
+}
+
+} // namespace
+
 QString translated(const char *context, const char *key, const char *english)
 {
-    const QString fallback = QString::fromUtf8(english ? english : "");
-    if (!context || !key)
-        return fallback;
-    const QString text = QCoreApplication::translate(context, key, english);
-    // Where no translator knows the key, Qt answers the key itself.
-    return text == QString::fromUtf8(key) ? fallback : text;
+    const char *fallback = english ? english : "";
+    if (context && key) {
+        const QString text = lookUp(context, key, fallback);
+        // Where no translator knows the key, Qt answers the key itself.
+        if (text != QLatin1StringView(key))
+            return text;
+    }
+    return QString::fromLatin1(fallback);
 }
