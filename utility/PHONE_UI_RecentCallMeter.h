@@ -35,6 +35,65 @@ public:
     /// Zeroes all counters of the telephone's call log in one operation; a failure is traced.
     void resetAll();
 
+    /// Amounts as the telephone's own text, without a unit; "0.00" when the query fails.
+    QString getCreditAvailable();
+    /// year:month:day without padding; "2000/00/00" when the query fails.
+    QString getExpirationDate();
+    QString getLastDeposit();
+    QString getLastCallCost();
+    QString getDialedCallsCost();
+    QString getAnsweredCallsCost();
+    QString getAllCallsCost();
+
+    /// Zero the matching cost; a failure is traced.
+    void resetAllCallCosts();
+    void resetDialedCallCosts();
+    void resetAnsweredCallCosts();
+
+    /// Ask the telephone once and keep the texts for the accessors below; a failed query leaves the defaults
+    /// ("00:00:00", "0 B", a null access point name), never the figures of an earlier one.
+    void getRDT();
+    void getADT();
+    void getRDV();
+    void getADV();
+
+    /// Times and access point names of the three most recent data sessions, as getRDT() left them.
+    QString getRDT_Session1();
+    QString getRDT_Session2();
+    QString getRDT_Session3();
+    QString getRDT_Session1_Apn();
+    QString getRDT_Session2_Apn();
+    QString getRDT_Session3_Apn();
+    /// The time of all data sessions, as getADT() left it; the text that is kept is padded in place.
+    QString getADT_Sessions();
+
+    /// Volumes ("%1 B") and access point names of the three most recent data sessions, as getRDV() left them.
+    QString getRDV_Session1_Sent();
+    QString getRDV_Session1_Received();
+    QString getRDV_Session1_Total();
+    QString getRDV_Session2_Sent();
+    QString getRDV_Session2_Received();
+    QString getRDV_Session2_Total();
+    QString getRDV_Session3_Sent();
+    QString getRDV_Session3_Received();
+    QString getRDV_Session3_Total();
+    QString getRDV_Session1_Apn();
+    QString getRDV_Session2_Apn();
+    QString getRDV_Session3_Apn();
+    /// Volumes of all data sessions, as getADV() left them.
+    QString getADV_Sessions_Sent();
+    QString getADV_Sessions_Received();
+    QString getADV_Sessions_Total();
+
+    /// Zero the counters of all data sessions; a failure of the volume's is traced, one of the timer's is not.
+    void resetAllDataSessionsTimer();
+    void resetAllDataSessionsVolume();
+
+    /// The display text of a currency code, or of "units"; a code that is not known comes back as it is.
+    QString TranslateCurrency(QString code);
+    /// The display text of the unit that costs are counted in; null when the settings cannot be read.
+    QString getCurrencyUnit();
+
 private:
     struct DataTimeSession {
         quint8 sessionId; // set by the refresh that fills the record

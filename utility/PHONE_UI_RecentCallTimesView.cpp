@@ -8,9 +8,6 @@
 #include <iterator>
 #include <new>
 
-using ScreenFrame::ResourceText;
-using ScreenFrame::textFor;
-
 namespace {
 
 enum Row { LastCall, DialedCalls, AnsweredCalls, DataCalls, AllCalls, LifetimeCalls, RowCount };

@@ -1,10 +1,10 @@
 // What the screens have in common: the frame, the rows of a settings list, the dialogs.
 #pragma once
 
+#include "ResourceText.h"
 #include "ZListBox.h"
 #include "ZMessageDlg.h"
 #include "ZSettingItem.h"
-#include "translation.h"
 
 #include <QtCore/QString>
 
@@ -13,25 +13,12 @@ class ZSoftKey;
 
 namespace ScreenFrame {
 
-/// A text of the catalogue: its key (ASCII) and its English default (Latin-1).
-struct ResourceText {
-    const char *key;
-    const char *english;
-};
-
 /// What tells the frames of the screens apart.
 struct Recipe {
     const char *context; ///< class name of the screen
     ResourceText title;
     const char *backMember; ///< signal or slot of the screen for the right softkey and the clear key alike
 };
-
-/// `resource` in the catalogue, with the name of `Class` as the context.
-template <typename Class>
-QString textFor(const ResourceText &resource)
-{
-    return translatedFor<Class>(resource.key, resource.english);
-}
 
 /// Gives `screen` its title and its softkey bar: "Back" on the right, nothing on the left. Null when there is no
 /// memory for the bar.

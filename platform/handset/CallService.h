@@ -2,6 +2,9 @@
 #pragma once
 
 #include "CallTime.h"
+#include "Status.h"
+
+#include <QtCore/QByteArray>
 
 namespace handset {
 
@@ -14,6 +17,19 @@ public:
     virtual int totalCallTime(CallTime &time) = 0;
     /// Zeroes the time of all calls and nothing else.
     virtual int resetCallTime() = 0;
+
+    /// The prepaid credit left, as the telephone's own decimal text (Latin-1, without a unit).
+    virtual int remainingCredit(QByteArray &text)
+    {
+        Q_UNUSED(text)
+        return NotAvailable;
+    }
+    /// The cost of the last call, likewise.
+    virtual int lastCallCost(QByteArray &text)
+    {
+        Q_UNUSED(text)
+        return NotAvailable;
+    }
 };
 
 } // namespace handset

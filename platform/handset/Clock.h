@@ -29,7 +29,9 @@ public:
 class ManualClock final : public Clock
 {
 public:
-    explicit ManualClock(qint64 startWallMs = 0) : wall(startWallMs) {}
+    explicit ManualClock(qint64 startWallMs = 0)
+        : wall(startWallMs)
+    {}
 
     qint64 monotonicMs() const override { return monotonic; }
     qint64 wallMs() const override { return wall; }

@@ -10,10 +10,10 @@ class DataCalls
 public:
     /// The phone's data-call status byte. A reset of the total is allowed at 0 and 2, refused at 1 and 3.
     enum CallStatus : quint8 {
-        Idle = 0,       ///< no data call
-        SettingUp = 1,  ///< one is being set up
-        Released = 2,   ///< the last one has ended and its figures are written
-        Connected = 3   ///< one is connected
+        Idle = 0,      ///< no data call
+        SettingUp = 1, ///< one is being set up
+        Released = 2,  ///< the last one has ended and its figures are written
+        Connected = 3  ///< one is connected
     };
 
     virtual ~DataCalls() = default;

@@ -10,7 +10,8 @@ enum Status : int {
     InvalidArgument = 1, ///< a null pointer, a number out of range
     NotAvailable = 2,    ///< no telephone is open, or the one that is has no such thing
     StorageFailed = 3,   ///< the call log could not be read or written
-    WrongState = 4       ///< not possible now: no call to hang up, the line is busy
+    WrongState = 4,      ///< not possible now: no call to hang up, the line is busy
+    TextTooLong = 5      ///< a text does not fit the caller's buffer; nothing was written to it
 };
 
 } // namespace handset

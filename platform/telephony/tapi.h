@@ -38,6 +38,75 @@ int TAPI_LOG_ResetAnsweredCallsTime(void);
  * time of all calls (the call service's) and that of the data calls stay. */
 int TAPI_LOG_ResetAll(void);
 
+/** A day. The caller owns the record and zeroes it before a query. */
+typedef struct TAPI_Date {
+    uint16_t year;
+    uint8_t month; /**< 1 to 12 */
+    uint8_t day;   /**< 1 to 31 */
+} TAPI_Date;
+
+/** Sizes of the buffers that the amount queries fill, in bytes, the terminating NUL included. */
+enum { TAPI_CREDIT_TEXT_SIZE = 100, TAPI_AMOUNT_TEXT_SIZE = 50 };
+
+/* Amounts are the telephone's own decimal text, Latin-1, NUL-terminated, without a unit. A text that does not fit
+ * the buffer is answered with TextTooLong (5) and the buffer stays as it was. */
+
+/** The prepaid credit left; `text` has TAPI_CREDIT_TEXT_SIZE bytes. */
+int TAPI_CS_GetRemainCredit(char *text);
+/** The cost of the last call; `text` has TAPI_AMOUNT_TEXT_SIZE bytes, as in all queries below. */
+int TAPI_CS_GetLastCallCost(char *text);
+/** The day until which the last deposit is good. */
+int TAPI_LOG_GetDepositExpirationDate(TAPI_Date *date);
+int TAPI_LOG_GetLastDeposit(char *text);
+/** The costs of all dialed, answered and all calls since their last reset. */
+int TAPI_LOG_GetDialedCallsCost(char *text);
+int TAPI_LOG_GetAnsweredCallsCost(char *text);
+int TAPI_LOG_GetAllCallsCost(char *text);
+/** Each zeroes its own cost and nothing else. */
+int TAPI_LOG_ResetAllCallsCost(void);
+int TAPI_LOG_ResetDialedCallsCost(void);
+int TAPI_LOG_ResetAnsweredCallsCost(void);
+
+/** One of the three most recent packet-data sessions. All integers are little-endian, whatever the machine. */
+typedef struct TAPI_GPRS_SessionRecord {
+    uint8_t sessionId; /**< 0 marks an empty slot */
+    uint8_t reserved[3];
+    uint32_t bytesSent;
+    uint32_t bytesReceived;
+    uint32_t hours;
+    uint8_t minutes;
+    uint8_t seconds;
+    char apn[102]; /**< access point name, Latin-1, NUL-terminated */
+} TAPI_GPRS_SessionRecord;
+
+/** The caller owns the block and zeroes it before a query. */
+typedef struct TAPI_GPRS_SessionInfo {
+    uint32_t count; /**< number of records that count, from the first on; little-endian */
+    TAPI_GPRS_SessionRecord records[3];
+} TAPI_GPRS_SessionInfo;
+
+/** Fills the block with the three most recent sessions. */
+int TAPI_GPRS_GetAllSessionInfo(TAPI_GPRS_SessionInfo *info);
+/** The duration of all sessions since TAPI_GPRS_ResetTotalDuration(). */
+int TAPI_GPRS_GetTotalDuration(TAPI_CallTime *duration);
+/** Bytes of all sessions since TAPI_GPRS_ResetTotalDataBytes(), each 0 to 4294967295 (where it stops). */
+int TAPI_GPRS_GetTotalDataBytes(uint32_t *total, uint32_t *received, uint32_t *sent);
+int TAPI_GPRS_ResetTotalDuration(void);
+int TAPI_GPRS_ResetTotalDataBytes(void);
+
 #ifdef __cplusplus
 }
+
+static_assert(sizeof(TAPI_CallTime) == 8, "hours, minutes, seconds and padding");
+static_assert(sizeof(TAPI_Date) == 4, "no padding");
+static_assert(sizeof(TAPI_GPRS_SessionInfo) == 364, "the phone's block");
+static_assert(offsetof(TAPI_GPRS_SessionInfo, records) == 4, "records follow the count");
+static_assert(sizeof(TAPI_GPRS_SessionRecord) == 120, "records at 4, 124 and 244");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, sessionId) == 0, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, bytesSent) == 4, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, bytesReceived) == 8, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, hours) == 12, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, minutes) == 16, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, seconds) == 17, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, apn) == 18, "");
 #endif

@@ -1,0 +1,74 @@
+#include "PHONE_ENG_Setup.h"
+
+#include "AdviceOfCharge.h"
+#include "Handset.h"
+
+using handset::AdviceOfCharge;
+
+namespace {
+
+template <typename Call>
+int withAdviceOfCharge(Call call)
+{
+    const std::shared_ptr<handset::Handset> telephone = handset::current();
+    AdviceOfCharge *advice = telephone ? telephone->adviceOfCharge() : nullptr;
+    return advice ? call(*advice) : static_cast<int>(handset::NotAvailable);
+}
+
+} // namespace
+
+PHONE_ENG_Setup::PHONE_ENG_Setup() = default;
+
+PHONE_ENG_Setup::~PHONE_ENG_Setup() = default;
+
+PHONE_ENG_Setup *PHONE_ENG_Setup::instance()
+{
+    // Lives until the process ends: libraries may still hold it while they are taken down.
+    static auto *const engine = new PHONE_ENG_Setup;
+    return engine;
+}
+
+int PHONE_ENG_Setup::getEFUpdateRule(unsigned char file, unsigned char &rule)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.updateRule(file, rule); });
+}
+
+int PHONE_ENG_Setup::getMeterMax(QString &maximum, bool &enabled)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.meterMaximum(maximum, enabled); });
+}
+
+int PHONE_ENG_Setup::setMeterMax(QString const &maximum)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setMeterMaximum(maximum); });
+}
+
+int PHONE_ENG_Setup::disableCMM()
+{
+    return withAdviceOfCharge([](AdviceOfCharge &advice) { return advice.disableMeterMaximum(); });
+}
+
+int PHONE_ENG_Setup::getChargeType(unsigned char &type)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.chargeType(type); });
+}
+
+int PHONE_ENG_Setup::setChargeType(unsigned char type)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setChargeType(type); });
+}
+
+int PHONE_ENG_Setup::getPriceUnitCurrency(QString &price, QString &currency)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.priceAndCurrency(price, currency); });
+}
+
+int PHONE_ENG_Setup::setPriceUnitCurrency(QString const &price, QString const &currency)
+{
+    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setPriceAndCurrency(price, currency); });
+}
+
+void PHONE_ENG_Setup::updateCFFlag()
+{
+    emit updateCallForwardingFlag();
+}

@@ -1,0 +1,55 @@
+// The phone's call-setup engine, as far as advice of charge goes.
+#pragma once
+
+#include "classname.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+/// The SIM's advice-of-charge settings. Every operation answers 0 on success, otherwise a number of
+/// handset/Status.h or the backend's own; without a telephone, or with one that has no advice of charge, that is
+/// NotAvailable (2). Outputs are written only on success. GUI thread only.
+class PHONE_ENG_Setup : public QObject
+{
+    Q_OBJECT
+    KAV_CLASS_NAME
+
+public:
+    /// The one engine of the process, made on the first call and never deleted. Never null.
+    static PHONE_ENG_Setup *instance();
+
+    /// Who may update SIM file `file` (61 EF_ACM, 59 EF_ACMmax, 64 EF_PUCT): 4 whoever enters PIN2, 6 nobody, any
+    /// other number anybody.
+    int getEFUpdateRule(unsigned char file, unsigned char &rule);
+
+    /// The credit limit (ACMmax) as decimal text, and whether it is on.
+    int getMeterMax(QString &maximum, bool &enabled);
+    /// Sets the credit limit and switches it on.
+    int setMeterMax(QString const &maximum);
+    /// Switches the credit limit off.
+    int disableCMM();
+
+    /// 0: costs are in units. 1: costs are in the currency.
+    int getChargeType(unsigned char &type);
+    int setChargeType(unsigned char type);
+
+    /// Price per unit as decimal text, and the currency code as stored.
+    int getPriceUnitCurrency(QString &price, QString &currency);
+    /// Writes both, as they stand in one SIM file. Read them again to see what could be stored.
+    int setPriceUnitCurrency(QString const &price, QString const &currency);
+
+public slots:
+    /// Call forwarding may have changed: reports it on.
+    void updateCFFlag();
+
+signals:
+    /// The SIM's memory is full: a setting could not be written.
+    void flashFull();
+    /// The telephone refused a setting. (Spelled as the phone spells it.)
+    void sigSetupOpertionNotAllowed();
+    void updateCallForwardingFlag();
+
+private:
+    PHONE_ENG_Setup();
+    ~PHONE_ENG_Setup() override;
+};

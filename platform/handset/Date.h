@@ -1,0 +1,16 @@
+// A day as the telephone reports it.
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+namespace handset {
+
+struct Date {
+    quint16 year = 0;
+    quint8 month = 0; ///< 1 to 12
+    quint8 day = 0;   ///< 1 to 31
+
+    friend bool operator==(const Date &, const Date &) = default;
+};
+
+} // namespace handset

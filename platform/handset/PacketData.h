@@ -1,0 +1,42 @@
+// Packet data: what the TAPI_GPRS_* functions ask.
+#pragma once
+
+#include "CallTime.h"
+#include "Status.h"
+
+#include <QtCore/QByteArray>
+
+#include <array>
+
+namespace handset {
+
+/// One of the three most recent data sessions.
+struct DataSession {
+    quint8 id = 0; ///< 1 to 255; 0 is an empty slot
+    quint32 bytesSent = 0;
+    quint32 bytesReceived = 0;
+    CallTime duration;
+    QByteArray apn; ///< access point name, Latin-1, at most 101 characters
+};
+
+struct DataSessions {
+    quint32 count = 0; ///< how many of the records count, from the first on
+    std::array<DataSession, 3> records;
+};
+
+class PacketData
+{
+public:
+    virtual ~PacketData() = default;
+
+    /// The three records; one keeps its place while an earlier one is empty.
+    virtual int sessions(DataSessions &sessions) = 0;
+    /// The duration of all sessions since resetTotalDuration().
+    virtual int totalDuration(CallTime &duration) = 0;
+    /// Bytes of all sessions since resetTotalBytes(); each stops at 4294967295.
+    virtual int totalBytes(quint32 &total, quint32 &received, quint32 &sent) = 0;
+    virtual int resetTotalDuration() = 0;
+    virtual int resetTotalBytes() = 0;
+};
+
+} // namespace handset
