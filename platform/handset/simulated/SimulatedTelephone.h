@@ -1,6 +1,7 @@
 // The simulated telephone: the embedded default behind the phone's libraries.
 #pragma once
 
+#include "Call.h"
 #include "Handset.h"
 
 #include <QtCore/QList>
@@ -11,20 +12,13 @@
 
 namespace handset::simulated {
 
-enum class CallKind { Voice, Data };
-enum class CallDirection { Dialed, Answered };
-
-/// A call that is over, for a ready-made history.
-struct PastCall {
-    CallKind kind = CallKind::Voice;
-    CallDirection direction = CallDirection::Dialed;
-    QString number;        ///< as dialed or shown; may be empty (withheld)
-    qint64 startWallMs = 0;///< since 1970-01-01 00:00 UTC
-    qint64 durationMs = 0; ///< connected time, 0 or more; 0 is a call that was never connected
-};
+using handset::CallDirection;
+using handset::CallKind;
+using handset::PastCall;
 
 /// One line, one call at a time. Every operation answers a status of handset/Status.h; WrongState when the line is
-/// not in the state that the operation needs, and then nothing has changed.
+/// not in the state that the operation needs, StorageFailed when the call log could not be written. An operation
+/// that fails has changed nothing. The end of the telephone ends the call on the line.
 class SimulatedTelephone : public QObject, public Handset
 {
     Q_OBJECT
@@ -44,14 +38,19 @@ public:
     virtual int dial(const QString &number, CallKind kind) = 0;
     /// Dialing -> Connected: the other side answers.
     virtual int remoteAnswer() = 0;
-    /// Idle -> Ringing: a voice call from `number` (empty: withheld).
+    /// Idle -> Ringing: a voice call from `number` (as for dial(), or empty: withheld).
     virtual int ring(const QString &number) = 0;
     /// Ringing -> Connected: we answer.
     virtual int answer() = 0;
     /// Dialing, Ringing or Connected -> Idle. The call is in the log when this returns 0.
     virtual int hangUp() = 0;
-    /// Adds calls that are over to the log, in one transaction, counted as if they had been made.
+    /// Adds calls that are over to the log, in one transaction, counted as if they had been made in their order. The
+    /// last connected one becomes the last call, unless a call is connected now. InvalidArgument for a negative
+    /// duration or a number that could not have been dialed or shown.
     virtual int addHistory(const QList<PastCall> &calls) = 0;
+    /// Writes the time that the connected call has lasted so far, so that a crash loses no more than what follows.
+    /// The telephone does this by itself every few seconds; success without a connected call.
+    virtual int checkpoint() = 0;
 
     virtual LineState lineState() const = 0;
     virtual CallKind callKind() const = 0;     ///< of the call on the line; Voice when idle

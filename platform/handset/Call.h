@@ -1,0 +1,25 @@
+// A call as the telephone records it.
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QtGlobal>
+
+namespace handset {
+
+enum class CallKind {
+    Voice,
+    Data ///< circuit-switched
+};
+
+enum class CallDirection { Dialed, Answered };
+
+/// A call that is over.
+struct PastCall {
+    CallKind kind = CallKind::Voice;
+    CallDirection direction = CallDirection::Dialed;
+    QString number;         ///< as dialed or shown; may be empty (withheld)
+    qint64 startWallMs = 0; ///< since 1970-01-01 00:00 UTC: when it was dialed or began to ring
+    qint64 durationMs = 0;  ///< connected time, 0 or more; 0 is a call that was never connected
+};
+
+} // namespace handset

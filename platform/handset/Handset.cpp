@@ -1,0 +1,117 @@
+#include "Handset.h"
+
+#include "CallLog.h"
+#include "CallService.h"
+#include "Clock.h"
+#include "DataCalls.h"
+#include "SimulatedBackend.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+namespace handset {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcHandset, "kav.handset")
+
+struct Backend {
+    const char *name;
+    Opened (*open)(const Settings &settings); ///< is given a clock
+};
+
+constexpr std::array backends{
+    Backend{"simulated", &simulated::open},
+};
+
+/// What the phone's libraries talk to.
+struct Installation {
+    std::shared_ptr<Handset> handset;
+    bool decided = false; ///< by install() or by the first current()
+};
+
+Installation &installation()
+{
+    static auto *const instance = new Installation; // outlives every static that may still ask
+    return *instance;
+}
+
+// The telephone has a timer and a database connection, which must go before the application object does.
+void releaseWithApplication()
+{
+    installation() = {};
+}
+
+void decide(std::shared_ptr<Handset> handset)
+{
+    static bool registered = false;
+    if (!registered) {
+        registered = true;
+        qAddPostRoutine([] {
+            registered = false;
+            releaseWithApplication();
+        });
+    }
+    // The previous telephone goes last: its end must find the new one installed.
+    const auto previous = std::exchange(installation().handset, std::move(handset));
+    installation().decided = true;
+}
+
+void openDefault()
+{
+    Settings settings;
+    settings.stateDirectory = defaultStateDirectory();
+    Opened opened = open(settings);
+    if (!opened.error.isEmpty())
+        qCWarning(lcHandset, "%s", qUtf8Printable(opened.error));
+    if (!opened.notice.isEmpty())
+        qCWarning(lcHandset, "%s", qUtf8Printable(opened.notice));
+    decide(std::move(opened.handset));
+}
+
+} // namespace
+
+QStringList backendNames()
+{
+    QStringList names;
+    for (const Backend &backend : backends)
+        names << QString::fromLatin1(backend.name);
+    return names;
+}
+
+Opened open(const Settings &settings)
+{
+    const auto named = [&](const Backend &backend) { return settings.backend == QLatin1String(backend.name); };
+    const auto *const backend = std::find_if(backends.begin(), backends.end(), named);
+    if (backend == backends.end()) {
+        const QString error = QStringLiteral("There is no telephone named \"%1\"; those there are: %2.");
+        return {nullptr, error.arg(settings.backend, backendNames().join(QStringLiteral(", "))), {}};
+    }
+    Settings complete = settings;
+    if (!complete.clock)
+        complete.clock = std::make_shared<SystemClock>();
+    return backend->open(complete);
+}
+
+QString defaultStateDirectory()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/kavcallmeter");
+}
+
+void install(std::shared_ptr<Handset> handset)
+{
+    decide(std::move(handset));
+}
+
+std::shared_ptr<Handset> current()
+{
+    if (!installation().decided)
+        openDefault();
+    return installation().handset;
+}
+
+} // namespace handset

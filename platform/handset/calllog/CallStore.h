@@ -1,0 +1,78 @@
+// The calls and their running totals in SQLite.
+#pragma once
+
+#include "Call.h"
+#include "Counter.h"
+#include "Database.h"
+
+#include <QtCore/QList>
+
+#include <memory>
+#include <span>
+
+namespace handset::calllog {
+
+class StateDirectory;
+
+/// Connected time of a running call that is not in the database yet.
+struct UnwrittenTime {
+    qint64 call = 0; ///< the row's id
+    Counter own = Counter::Dialed;
+    qint64 ms = 0; ///< 0 or more
+};
+
+/// Every operation answers handset::Success or handset::StorageFailed; a failed one has changed nothing. A write is
+/// one transaction and is on the disk when it has succeeded; the totals change in the transaction of the row whose
+/// time they count. What an operation costs does not depend on how many calls there are.
+class CallStore
+{
+public:
+    /// Takes over an open database that has the newest schema, and the directory that stays locked for it (null for
+    /// none). Null when a statement cannot be prepared; `database` then still has the reason.
+    static std::unique_ptr<CallStore> create(std::unique_ptr<Database> &database,
+                                             std::unique_ptr<StateDirectory> &directory);
+    ~CallStore();
+
+    /// Adds the row of a call that has just been connected and makes it the last call. `call.durationMs` is not
+    /// used. `id` is the row's.
+    int beginCall(const PastCall &call, qint64 &id);
+    /// Adds the time to the row and to the totals.
+    int countTime(const UnwrittenTime &time);
+    /// The same, and the call is over.
+    int finishCall(const UnwrittenTime &time);
+    /// Adds the row of a call that was never connected. `call.durationMs` is not used.
+    int addUnconnected(const PastCall &call);
+    /// Adds calls that are over, in their order, and counts them. The last connected one becomes the last call when
+    /// `setLast`.
+    int addHistory(const QList<PastCall> &calls, bool setLast);
+
+    /// Milliseconds, 0 or more.
+    int total(Counter counter, qint64 &ms);
+    /// Counts the time of the running call (null for none), then zeroes `counters`.
+    int reset(std::span<const Counter> counters, const UnwrittenTime *running);
+
+    /// For salvage, in the transaction of the caller: puts a row as it is, or overwrites a total.
+    bool putRow(qint64 id, const PastCall &call, int state);
+    bool putTotal(Counter counter, qint64 ms);
+    Database &connection() { return *database; }
+
+private:
+    CallStore() = default;
+    bool prepareStatements();
+    bool insertRow(const QVariant &id, const PastCall &call, int state);
+    bool addTime(const UnwrittenTime &time, int state);
+    bool addToTotals(Counter own, qint64 ms, bool toLast);
+    bool addPastCall(const PastCall &call, bool setLast);
+    int status(bool succeeded) const;
+
+    // The order matters: statements go before their connection, the connection before the lock.
+    std::unique_ptr<StateDirectory> lockedDirectory;
+    std::unique_ptr<Database> database;
+    QSqlQuery insertStatement;
+    QSqlQuery timeStatement;
+    QSqlQuery totalsStatement;
+    QSqlQuery setTotalStatement;
+    QSqlQuery totalStatement;
+};
+
+} // namespace handset::calllog

@@ -1,0 +1,95 @@
+#include "Database.h"
+
+#include <QtCore/QVariant>
+
+namespace handset::calllog {
+
+namespace {
+
+QString newConnectionName()
+{
+    static int count = 0;
+    return QStringLiteral("kav-calllog-%1").arg(++count);
+}
+
+// A process that only looks at the log must not make ours fail at once; none holds it for long.
+constexpr auto options = "QSQLITE_BUSY_TIMEOUT=1000";
+
+} // namespace
+
+int sqlite::code(const QSqlError &error)
+{
+    return error.nativeErrorCode().toInt() & 0xff;
+}
+
+Database::Database(const QString &file, Access access)
+    : name(newConnectionName()), connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))
+{
+    QString settings = QString::fromLatin1(options);
+    if (access == Access::ReadOnly)
+        settings += QStringLiteral(";QSQLITE_OPEN_READONLY");
+    connection.setConnectOptions(settings);
+    connection.setDatabaseName(file);
+    if (!connection.open())
+        error = connection.lastError();
+}
+
+Database::~Database()
+{
+    connection.close();
+    connection = QSqlDatabase();
+    QSqlDatabase::removeDatabase(name);
+}
+
+QSqlQuery Database::query() const
+{
+    QSqlQuery fresh(connection);
+    fresh.setForwardOnly(true);
+    return fresh;
+}
+
+bool Database::run(const QString &statement)
+{
+    QSqlQuery once = query();
+    if (once.exec(statement))
+        return true;
+    error = once.lastError();
+    return false;
+}
+
+std::optional<qint64> Database::number(const QString &statement)
+{
+    QSqlQuery once = query();
+    if (once.exec(statement) && once.next())
+        return once.value(0).toLongLong();
+    error = once.lastError();
+    return std::nullopt;
+}
+
+QString Database::text(const QString &statement)
+{
+    QSqlQuery once = query();
+    if (once.exec(statement) && once.next())
+        return once.value(0).toString();
+    error = once.lastError();
+    return {};
+}
+
+bool Database::prepare(QSqlQuery &kept, const QString &statement)
+{
+    kept = query();
+    if (kept.prepare(statement))
+        return true;
+    error = kept.lastError();
+    return false;
+}
+
+bool Database::run(QSqlQuery &kept)
+{
+    if (kept.exec())
+        return true;
+    error = kept.lastError();
+    return false;
+}
+
+} // namespace handset::calllog

@@ -1,0 +1,72 @@
+// One named connection to an SQLite database.
+#pragma once
+
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlError>
+#include <QtSql/QSqlQuery>
+
+#include <optional>
+
+namespace handset::calllog {
+
+/// SQLite's primary result codes, as far as anything here depends on them.
+namespace sqlite {
+inline constexpr int Error = 1; ///< the statement does not fit the tables
+inline constexpr int Busy = 5;
+inline constexpr int Locked = 6;
+inline constexpr int Corrupt = 11;
+inline constexpr int NotADatabase = 26;
+
+/// The primary result code of an error; 0 when it has none.
+int code(const QSqlError &error);
+} // namespace sqlite
+
+/// Opens on construction, closes and forgets the connection on destruction. Every statement prepared on it must be
+/// gone by then. Every operation that answers false has left its reason in lastError().
+class Database
+{
+public:
+    enum class Access { ReadWrite, ReadOnly };
+
+    /// `file` is an absolute path, or ":memory:".
+    Database(const QString &file, Access access);
+    ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
+
+    bool isOpen() const { return connection.isOpen(); }
+    const QSqlError &lastError() const { return error; }
+
+    /// Runs one statement whose result does not matter.
+    bool run(const QString &statement);
+    /// The first column of the first row; nothing when there is no row or the statement failed.
+    std::optional<qint64> number(const QString &statement);
+    QString text(const QString &statement);
+    /// A statement to keep; false when it cannot be prepared.
+    bool prepare(QSqlQuery &query, const QString &statement);
+    /// Runs a kept statement with the values that are bound to it.
+    bool run(QSqlQuery &query);
+
+    /// Runs `work` in a transaction: all of it is in the database when this answers true, none of it otherwise.
+    template <typename Work>
+    bool inTransaction(Work work)
+    {
+        if (!run(QStringLiteral("BEGIN IMMEDIATE")))
+            return false;
+        if (work() && run(QStringLiteral("COMMIT")))
+            return true;
+        const QSqlError reason = error;
+        run(QStringLiteral("ROLLBACK"));
+        error = reason;
+        return false;
+    }
+
+    QSqlQuery query() const;
+
+private:
+    QString name;
+    QSqlDatabase connection;
+    QSqlError error;
+};
+
+} // namespace handset::calllog

@@ -1,0 +1,22 @@
+// Opens the call log of a state directory, whatever is found there.
+#pragma once
+
+#include "CallStore.h"
+
+#include <QtCore/QString>
+
+#include <memory>
+
+namespace handset::calllog {
+
+struct OpenedStore {
+    std::unique_ptr<CallStore> store; ///< null when it could not be opened
+    QString error;                    ///< then: why, in one sentence
+    QString notice;                   ///< what happened to a file that could not be used; empty for nothing
+};
+
+/// An empty directory name keeps the calls in memory only. A file that cannot be used as a call log, or not by this
+/// version, is kept under another name and a new log is begun, with the calls in it that can still be read.
+OpenedStore openCallStore(const QString &directory);
+
+} // namespace handset::calllog

@@ -1,0 +1,58 @@
+#include "Schema.h"
+
+#include <array>
+
+namespace handset::calllog {
+
+namespace {
+
+constexpr std::array toVersion1{
+    // kind: 0 voice, 1 data. direction: 0 dialed, 1 answered. state: CallState.
+    "CREATE TABLE calls ("
+    " id INTEGER PRIMARY KEY,"
+    " kind INTEGER NOT NULL CHECK (kind IN (0, 1)),"
+    " direction INTEGER NOT NULL CHECK (direction IN (0, 1)),"
+    " number TEXT NOT NULL,"
+    " started_ms INTEGER NOT NULL,"
+    " duration_ms INTEGER NOT NULL CHECK (duration_ms >= 0),"
+    " state INTEGER NOT NULL CHECK (state IN (0, 1, 2, 3))"
+    ") STRICT",
+    // Finds a call that was never closed without looking at all the others.
+    "CREATE INDEX running_calls ON calls (state) WHERE state = 0",
+    "CREATE TABLE totals (counter TEXT PRIMARY KEY, ms INTEGER NOT NULL CHECK (ms >= 0)) STRICT, WITHOUT ROWID",
+    "INSERT INTO totals (counter, ms) VALUES"
+    " ('last', 0), ('dialed', 0), ('answered', 0), ('data', 0), ('all', 0), ('lifetime', 0)",
+};
+
+constexpr std::array<Migration, 1> steps{toVersion1};
+
+bool runStep(Database &database, Migration step, qint64 version)
+{
+    return database.inTransaction([&] {
+        for (const char *statement : step)
+            if (!database.run(QString::fromLatin1(statement)))
+                return false;
+        return database.run(QStringLiteral("PRAGMA application_id = %1").arg(applicationId))
+            && database.run(QStringLiteral("PRAGMA user_version = %1").arg(version));
+    });
+}
+
+} // namespace
+
+std::span<const Migration> migrations()
+{
+    return steps;
+}
+
+bool migrate(Database &database, std::span<const Migration> path)
+{
+    const std::optional<qint64> version = database.number(QStringLiteral("PRAGMA user_version"));
+    if (!version)
+        return false;
+    for (qint64 at = *version; at < static_cast<qint64>(path.size()); ++at)
+        if (!runStep(database, path[static_cast<std::size_t>(at)], at + 1))
+            return false;
+    return true;
+}
+
+} // namespace handset::calllog

@@ -1,0 +1,41 @@
+// The directory that keeps a telephone's state between starts.
+#pragma once
+
+#include <QtCore/QString>
+
+#include <memory>
+
+namespace handset::calllog {
+
+/// Locked for as long as this lives, against other processes and other telephones of this one. The kernel drops the
+/// lock with the process, however it ends.
+class StateDirectory
+{
+public:
+    /// Makes the directory (mode 0700) when it is missing. Null when it cannot be used; `error` then says why, in
+    /// one sentence.
+    static std::unique_ptr<StateDirectory> open(const QString &path, QString &error);
+    ~StateDirectory();
+    StateDirectory(const StateDirectory &) = delete;
+    StateDirectory &operator=(const StateDirectory &) = delete;
+
+    QString filePath(const QString &name) const;
+
+    /// Renames `name` and what SQLite keeps beside it to the first unused "<base>-kept-<n>.<suffix>". Answers the new
+    /// name, or a null string with the reason in `error`.
+    QString keepAside(const QString &name, QString &error);
+    /// Renames a file of the directory to a name that is not in use; false when that cannot be done.
+    bool rename(const QString &from, const QString &to);
+    /// Removes `name` and what SQLite keeps beside it.
+    void remove(const QString &name);
+    /// Whether SQLite left something beside `name`: it was not closed.
+    bool hasLeftovers(const QString &name) const;
+
+private:
+    StateDirectory(const QString &absolutePath, int fd) : path(absolutePath), lock(fd) {}
+
+    QString path;
+    int lock;
+};
+
+} // namespace handset::calllog

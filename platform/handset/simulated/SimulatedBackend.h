@@ -1,0 +1,11 @@
+// How the factory reaches the simulated telephone.
+#pragma once
+
+#include "Handset.h"
+
+namespace handset::simulated {
+
+/// Opens a simulated telephone; `settings.clock` is not null. As handset::open().
+Opened open(const Settings &settings);
+
+} // namespace handset::simulated

@@ -1,0 +1,52 @@
+// The simulated telephone: a line that is driven by hand over the call log.
+#pragma once
+
+#include "CallRecorder.h"
+#include "Figures.h"
+#include "SimulatedTelephone.h"
+
+#include <QtCore/QTimer>
+
+namespace handset::simulated {
+
+class SimulatedHandset final : public SimulatedTelephone
+{
+    Q_OBJECT
+
+public:
+    /// Neither is null.
+    SimulatedHandset(std::unique_ptr<calllog::CallStore> store, std::shared_ptr<Clock> clocks);
+    ~SimulatedHandset() override;
+
+    CallService *callService() override { return &figures; }
+    CallLog *callLog() override { return &figures; }
+    DataCalls *dataCalls() override { return &figures; }
+
+    int dial(const QString &number, CallKind kind) override;
+    int remoteAnswer() override;
+    int ring(const QString &number) override;
+    int answer() override;
+    int hangUp() override;
+    int addHistory(const QList<PastCall> &calls) override;
+    int checkpoint() override;
+
+    LineState lineState() const override { return state; }
+    CallKind callKind() const override { return call.kind; }
+    QString number() const override { return call.number; }
+    qint64 connectedMs() const override { return recorder.connectedMs(); }
+
+private:
+    int begin(LineState begun, const PastCall &begunCall);
+    int connectCall(LineState from);
+    int endCall();
+    void setDataCallStatus(DataCalls::CallStatus status);
+
+    std::shared_ptr<Clock> clock;
+    calllog::CallRecorder recorder;
+    calllog::Figures figures;
+    QTimer checkpointTimer;
+    LineState state = LineState::Idle;
+    PastCall call; ///< on the line
+};
+
+} // namespace handset::simulated
