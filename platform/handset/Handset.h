@@ -8,10 +8,13 @@
 
 namespace handset {
 
+class AdviceOfCharge;
 class CallLog;
 class CallService;
 class Clock;
 class DataCalls;
+class PacketData;
+class SimSecurity;
 
 /// A telephone: its roles, each an interface of its own. A role that the backend has not is null; the shims answer
 /// NotAvailable for it. The roles belong to the telephone.
@@ -23,6 +26,9 @@ public:
     virtual CallService *callService() = 0;
     virtual CallLog *callLog() = 0;
     virtual DataCalls *dataCalls() = 0;
+    virtual AdviceOfCharge *adviceOfCharge() { return nullptr; }
+    virtual PacketData *packetData() { return nullptr; }
+    virtual SimSecurity *simSecurity() { return nullptr; }
 };
 
 struct Settings {

@@ -11,7 +11,8 @@ enum Status : int {
     NotAvailable = 2,    ///< no telephone is open, or the one that is has no such thing
     StorageFailed = 3,   ///< the call log could not be read or written
     WrongState = 4,      ///< not possible now: no call to hang up, the line is busy
-    TextTooLong = 5      ///< a text does not fit the caller's buffer; nothing was written to it
+    TextTooLong = 5,     ///< a text does not fit the caller's buffer; nothing was written to it
+    NotAllowed = 6       ///< the SIM or the network refuses
 };
 
 } // namespace handset

@@ -4,6 +4,7 @@
 #include "CallService.h"
 #include "PacketData.h"
 #include "Roles.h"
+#include "SimSecurity.h"
 
 #include <QtCore/QtEndian>
 
@@ -13,6 +14,7 @@ using handset::CallLog;
 using handset::CallService;
 using handset::Handset;
 using handset::PacketData;
+using handset::SimSecurity;
 
 namespace {
 
@@ -229,4 +231,17 @@ int TAPI_GPRS_ResetTotalDuration()
 int TAPI_GPRS_ResetTotalDataBytes()
 {
     return command(&Handset::packetData, &PacketData::resetTotalBytes);
+}
+
+int TAPI_SECURITY_GetAnyPinStatus(uint8_t pin, uint32_t *status)
+{
+    if (!status)
+        return handset::InvalidArgument;
+    return withRole(&Handset::simSecurity, [&](SimSecurity &security) {
+        quint32 answer = 0;
+        const int result = security.pinStatus(pin, answer);
+        if (result == handset::Success)
+            *status = answer;
+        return result;
+    });
 }

@@ -94,6 +94,10 @@ int TAPI_GPRS_GetTotalDataBytes(uint32_t *total, uint32_t *received, uint32_t *s
 int TAPI_GPRS_ResetTotalDuration(void);
 int TAPI_GPRS_ResetTotalDataBytes(void);
 
+/** What must be entered for PIN `pin` (1 is PIN2, the second PIN of the SIM): `status` 3 means nothing, any other
+ * number that the PIN has to be entered or cannot be (see handset/SimSecurity.h). */
+int TAPI_SECURITY_GetAnyPinStatus(uint8_t pin, uint32_t *status);
+
 #ifdef __cplusplus
 }
 

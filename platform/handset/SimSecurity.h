@@ -1,0 +1,34 @@
+// SIM security: the second PIN.
+#pragma once
+
+#include "Status.h"
+
+#include <QtCore/QByteArray>
+
+namespace handset {
+
+/// The SIM's PINs (3GPP TS 51.011, 9.3): PIN2 has 4 to 8 digits and three tries, then it is blocked until PUK2 is
+/// entered; the count survives power-off.
+class SimSecurity
+{
+public:
+    enum Pin : quint8 { Pin1 = 0, Pin2 = 1 };
+    /// What stands between the user and what a PIN guards.
+    enum PinStatus : quint32 {
+        EntryNeeded = 1,  ///< the PIN has to be entered
+        Blocked = 2,      ///< too many wrong tries: only the PUK helps
+        NoEntryNeeded = 3 ///< the PIN is switched off, or has been entered and still counts
+    };
+
+    virtual ~SimSecurity() = default;
+
+    /// PinStatus of `pin`; InvalidArgument for a number that is no Pin.
+    virtual int pinStatus(quint8 pin, quint32 &status) = 0;
+    /// Tries that are left, 0 to 3.
+    virtual int triesLeft(quint8 pin, int &tries) = 0;
+    /// Presents `digits` to the SIM. `accepted` false costs a try; a blocked PIN answers NotAllowed. The digits are
+    /// neither kept nor traced.
+    virtual int verifyPin(quint8 pin, const QByteArray &digits, bool &accepted) = 0;
+};
+
+} // namespace handset

@@ -1,0 +1,29 @@
+// The phone's PIN entry.
+#pragma once
+
+class QWidget;
+
+/// Which PIN is asked for. The numbers are the phone's own.
+enum SETUP_SECURITY_PINTYPE_E { SETUP_SECURITY_PIN1 = 0, SETUP_SECURITY_PIN2 = 1 };
+
+/// Which softkeys the entry has: 1 is "OK" on the left and "Cancel" on the right; any other number is taken as it.
+enum SETUP_SECURITY_SKTYPE_E { SETUP_SECURITY_SK_DEFAULT = 0, SETUP_SECURITY_SK_OK_CANCEL = 1 };
+
+/// Why a PIN was not accepted.
+enum SETUP_SECURITY_PINVERIFY_ERR_E {
+    SETUP_SECURITY_VERIFY_OK = 0,
+    SETUP_SECURITY_VERIFY_CANCELLED = 1, ///< the user gave up
+    SETUP_SECURITY_VERIFY_BLOCKED = 2,   ///< no tries are left: only the PUK helps
+    SETUP_SECURITY_VERIFY_FAILED = 3     ///< the SIM did not answer, or there is none
+};
+
+class SETUP_SECURITY_Util
+{
+public:
+    /// Asks the user for PIN `pinType` in a modal entry over `parent`, with masked digits (4 to 8) and the tries left,
+    /// again after a wrong one, and returns when it is answered. Non-zero with `error` 0: the PIN was accepted. Zero,
+    /// or another `error`: it was not. `pinType` comes back as the type that was asked for. The digits are cleared
+    /// after use and never traced.
+    static int verifyPin(SETUP_SECURITY_PINTYPE_E &pinType, SETUP_SECURITY_SKTYPE_E const &softkeyType,
+                         SETUP_SECURITY_PINVERIFY_ERR_E &error, QWidget *parent);
+};
