@@ -3,25 +3,34 @@
 
 #include "ZPopup.h"
 
+/// The message is wrapped, and scrolled with the up and down keys where it is longer than the display. Its whole
+/// text is the accessible description.
 class ZMessageDlg : public ZPopup
 {
     Q_OBJECT
     KAV_CLASS_NAME
 
 public:
+    /// The phone's own numbers. Any other number is taken as InformationDlg, with a warning.
     enum MessageDlgType {
         QuestionDlg = 1,   ///< softkeys "Yes" and "No"
         InformationDlg = 2 ///< softkey "OK" on the left
     };
 
     /// `timeout` is in milliseconds, after which the dialog answers as if by its right softkey (question) or left
-    /// softkey (information); 0 never. The other arguments as in ZPopup.
+    /// softkey (information), counted from its showing; 0 or less never. The other arguments as in ZPopup.
     ZMessageDlg(const QString &header, const QString &message, MessageDlgType type, int timeout, QWidget *parent,
                 const char *name, bool modal, unsigned int flags);
     ~ZMessageDlg() override;
 
     QString message() const;
     MessageDlgType type() const;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
 
 private:
     struct Private;

@@ -5,6 +5,7 @@
 
 #include <QtCore/QList>
 
+/// The texts of column 0 make the title and those of column 1 the value, joined by a blank where there are several.
 class ZSettingItem : public ZListItem
 {
 public:
@@ -14,8 +15,8 @@ public:
     ZSettingItem(ZListBox *list, QString type);
     ~ZSettingItem() override;
 
-    /// Appends a sub-item to line `line` and answers nothing. `line` is 0: a row has one line, and any other is
-    /// refused with a warning. `marked` asks for emphasis. `region` says in which column the text stands.
+    /// Appends a sub-item. `line` is 0: a row has one line, and any other is refused with a warning. `marked` asks
+    /// for emphasis. `region` says in which column the text stands; any other is refused with a warning.
     void appendSubItem(int line, QString text, bool marked, SettingItemRegion region);
     /// Rewrites sub-item `subItem` (0 is the first appended) of line `line` with `text`, in column `region`.
     /// A sub-item that was never appended is appended when it is the next one, else refused with a warning.
@@ -27,6 +28,7 @@ public:
 
     QString title() const override;
     QString value() const override;
+    bool isMarked() const override;
 
 private:
     struct SubItem {
@@ -34,5 +36,7 @@ private:
         SettingItemRegion region = TitleRegion;
         bool marked = false;
     };
+    QString joined(SettingItemRegion region) const;
+
     QList<SubItem> subItems;
 };

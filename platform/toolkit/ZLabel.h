@@ -1,0 +1,21 @@
+// A line of text on a screen.
+#pragma once
+
+#include "ZSkinService.h"
+#include "classname.h"
+
+#include <QtWidgets/QLabel>
+
+/// One line of plain text, elided on the display where it does not fit.
+class ZLabel : public QLabel
+{
+    Q_OBJECT
+    KAV_CLASS_NAME
+
+public:
+    /// `parent` owns the label; `name` (Latin-1, may be null) is the object name; `flags` are window flags (0);
+    /// `skinClass` what the skin draws the label as.
+    ZLabel(const QString &text, QWidget *parent, const char *name, unsigned int flags,
+           ZSkinService::WidgetClsID skinClass);
+    ~ZLabel() override;
+};

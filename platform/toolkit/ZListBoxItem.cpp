@@ -1,0 +1,48 @@
+#include "ZListBoxItem.h"
+
+#include <QtCore/qlogging.h>
+
+ZListBoxItem::ZListBoxItem(ZListBox *list, QString type)
+    : ZListItem(list, type)
+{
+}
+
+ZListBoxItem::~ZListBoxItem() = default;
+
+void ZListBoxItem::appendSubItem(int subItem, QString text, QString, const QPixmap *pixmap, unsigned int, ShowPriority)
+{
+    if (subItem < 0) {
+        qWarning("ZListBoxItem::appendSubItem: there is no sub-item %d", subItem);
+        return;
+    }
+    subItems[subItem] = {text, pixmap ? *pixmap : QPixmap()};
+    changed();
+}
+
+QString ZListBoxItem::getSubItemText(int line, int subItem, bool) const
+{
+    const auto it = subItems.find(subItem);
+    return line == 0 && it != subItems.cend() ? it->second.text : QString();
+}
+
+QString ZListBoxItem::title() const
+{
+    if (isSeparator())
+        return ZListItem::title();
+    for (const auto &entry : subItems) {
+        if (!entry.second.text.isEmpty())
+            return entry.second.text;
+    }
+    return QString();
+}
+
+QPixmap ZListBoxItem::icon() const
+{
+    if (isSeparator())
+        return ZListItem::icon();
+    for (const auto &entry : subItems) {
+        if (!entry.second.pixmap.isNull())
+            return entry.second.pixmap;
+    }
+    return QPixmap();
+}

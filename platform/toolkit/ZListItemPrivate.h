@@ -1,0 +1,15 @@
+// What a row keeps, shared with its list. Inside the toolkit only.
+#pragma once
+
+#include "ZListItem.h"
+
+#include <QtGui/QPixmap>
+
+struct ZListItem::Private {
+    ZListBox *list = nullptr; // the list clears it when it is destroyed first
+    QString type;
+    QString heading; // of a separator
+    QPixmap icon;
+    bool isHeading = false;
+    bool isEnabled = true;
+};

@@ -1,0 +1,378 @@
+#include "ZPopup.h"
+
+#include "ZApplication.h"
+#include "ZKeys.h"
+#include "ZLayers.h"
+#include "ZSkinService.h"
+#include "ZSoftKey.h"
+#include "ZText.h"
+
+#include <QtCore/QPointer>
+#include <QtGui/QAccessible>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtWidgets/QStyle>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+Qt::WindowFlags windowFlagsFor(const QWidget *parent, unsigned int flags)
+{
+    if (parent)
+        return Qt::Widget;
+    // A tool window stays over the phone's window without an entry in the task bar.
+    return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowFlags::fromInt(static_cast<int>(flags));
+}
+
+int heightOf(const QWidget *body, int width)
+{
+    return body->hasHeightForWidth() ? body->heightForWidth(width) : body->sizeHint().height();
+}
+
+QPainterPath rounded(const QRectF &box)
+{
+    QPainterPath path;
+    path.addRoundedRect(box, ZSkinService::DialogRadius, ZSkinService::DialogRadius);
+    return path;
+}
+
+} // namespace
+
+struct ZPopup::Private {
+    QString header;
+    bool modal = false;
+    bool waitsForDisplay = false; // hidden only because the display is
+    ZSoftKey *softKey = nullptr;
+    QPointer<QWidget> body;
+    QRect box;
+    QPointer<QWidget> focusBefore;
+    QPointer<QWidget> display; // what a dialog without a parent lies over
+    QList<QPointer<QWidget>> watched;
+
+    int headerHeight() const { return header.isEmpty() ? 0 : ZSkinService::DialogHeaderHeight; }
+    ZLayers::Kind kind() const { return modal ? ZLayers::Kind::ModalDialog : ZLayers::Kind::OpenDialog; }
+};
+
+ZPopup::ZPopup(const QString &header, QWidget *parent, const char *name, bool modal, unsigned int flags)
+    : QWidget(parent, windowFlagsFor(parent, flags))
+    , d(std::make_unique<Private>())
+{
+    if (name)
+        setObjectName(QString::fromLatin1(name));
+    d->header = header;
+    d->modal = modal;
+    hide(); // not shown along with a parent that is yet to be shown
+    setPalette(ZSkinService::palette());
+    setFont(ZSkinService::font(ZSkinService::RowFont));
+    setAttribute(Qt::WA_NoMousePropagation);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(header);
+    d->softKey = new ZSoftKey(QStringLiteral("CST_2A"), this, nullptr);
+    connect(d->softKey, &ZSoftKey::leftClicked, this, [this] { softkeyClicked(LeftAnswer); });
+    connect(d->softKey, &ZSoftKey::rightClicked, this, [this] { softkeyClicked(RightAnswer); });
+    if (parent) {
+        parent->installEventFilter(this);
+        coverParent();
+    } else {
+        resize(ZSkinService::DisplayWidth, ZSkinService::DisplayHeight);
+    }
+}
+
+ZPopup::~ZPopup()
+{
+    // While it is still a dialog, so that the keys are passed on.
+    hide();
+    ZLayers::gone(this);
+}
+
+QString ZPopup::header() const
+{
+    return d->header;
+}
+
+bool ZPopup::isModalOverParent() const
+{
+    return d->modal;
+}
+
+void ZPopup::setSoftkeyTextLeft(const QString &text)
+{
+    d->softKey->setText(ZSoftKey::LeftKey, text, ZSoftKey::DefaultTextPriority);
+}
+
+void ZPopup::setSoftkeyTextRight(const QString &text)
+{
+    d->softKey->setText(ZSoftKey::RightKey, text, ZSoftKey::DefaultTextPriority);
+}
+
+ZSoftKey *ZPopup::softKey() const
+{
+    return d->softKey;
+}
+
+void ZPopup::setBody(QWidget *body)
+{
+    d->body = body;
+    if (body && body->parentWidget() != this)
+        body->setParent(this);
+    layOut();
+}
+
+void ZPopup::setVisible(bool visible)
+{
+    d->waitsForDisplay = false;
+    const bool again = visible && isVisible();
+    if (visible && isWindow())
+        followDisplay(ZApplication::display());
+    QWidget::setVisible(visible);
+    if (again)
+        comeToFront();
+    if (visible && isWindow()) {
+        raise();
+        activateWindow();
+    }
+}
+
+// --- answers
+
+void ZPopup::answer(Answer answer)
+{
+    // The dialog is deleted, as likely as not, by whoever is told: nothing comes after the signals.
+    const QPointer<ZPopup> self(this);
+    hide();
+    if (!self)
+        return;
+    switch (answer) {
+    case LeftAnswer:
+        emit leftSoftkeyClicked();
+        break;
+    case RightAnswer:
+        emit rightSoftkeyClicked();
+        break;
+    case SelectAnswer:
+        emit signalCenterSelKeyPressed();
+        break;
+    }
+}
+
+void ZPopup::selectKeyPressed()
+{
+    answer(LeftAnswer);
+}
+
+void ZPopup::softkeyClicked(Answer side)
+{
+    const ZSoftKey::KEY_IDX key = side == RightAnswer ? ZSoftKey::RightKey : ZSoftKey::LeftKey;
+    if (!d->softKey->text(key).isEmpty())
+        answer(side);
+}
+
+void ZPopup::keyPressEvent(QKeyEvent *event)
+{
+    event->accept();
+    if (event->isAutoRepeat())
+        return;
+    const bool hasRight = !d->softKey->text(ZSoftKey::RightKey).isEmpty();
+    switch (ZKeys::phoneKey(event->key())) {
+    case ZKeys::PhoneKey::Select:
+        if (d->softKey->isButtonEnabled(ZSoftKey::LeftKey))
+            selectKeyPressed();
+        break;
+    case ZKeys::PhoneKey::LeftSoftkey:
+        d->softKey->click(ZSoftKey::LeftKey);
+        break;
+    case ZKeys::PhoneKey::RightSoftkey:
+        d->softKey->click(ZSoftKey::RightKey);
+        break;
+    case ZKeys::PhoneKey::Clear:
+        answer(hasRight ? RightAnswer : LeftAnswer);
+        break;
+    case ZKeys::PhoneKey::Up:
+    case ZKeys::PhoneKey::Down:
+    case ZKeys::PhoneKey::None:
+        break;
+    }
+}
+
+void ZPopup::keyReleaseEvent(QKeyEvent *event)
+{
+    event->accept();
+}
+
+void ZPopup::mousePressEvent(QMouseEvent *)
+{
+    ZLayers::takeKeys(this);
+}
+
+void ZPopup::wheelEvent(QWheelEvent *event)
+{
+    event->accept();
+}
+
+bool ZPopup::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto *key = static_cast<QKeyEvent *>(event);
+        if (key->modifiers() == Qt::NoModifier && ZKeys::phoneKey(key->key()) != ZKeys::PhoneKey::None) {
+            event->accept();
+            return true;
+        }
+    }
+    return QWidget::event(event);
+}
+
+bool ZPopup::focusNextPrevChild(bool next)
+{
+    if (isVisible())
+        ZLayers::tabOut(this, next);
+    return true;
+}
+
+// --- place
+
+void ZPopup::showEvent(QShowEvent *event)
+{
+    if (event->spontaneous())
+        return;
+    QWidget *focus = window()->focusWidget();
+    if (!isWindow() && focus && !isAncestorOf(focus) && focus != this)
+        d->focusBefore = focus;
+    comeToFront();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void ZPopup::hideEvent(QHideEvent *event)
+{
+    if (event->spontaneous())
+        return;
+    ZLayers::gone(this);
+    if (isWindow() && isActiveWindow() && d->display && d->display->isVisible())
+        d->display->window()->activateWindow();
+    ZLayers::passKeysOn(this, d->focusBefore);
+}
+
+void ZPopup::comeToFront()
+{
+    raise();
+    ZLayers::shown(this, d->kind());
+    ZLayers::takeKeys(this);
+}
+
+void ZPopup::coverParent()
+{
+    setGeometry(parentWidget()->rect());
+    layOut();
+}
+
+void ZPopup::followDisplay(QWidget *display)
+{
+    for (const QPointer<QWidget> &widget : std::exchange(d->watched, {})) {
+        if (widget)
+            widget->removeEventFilter(this);
+    }
+    d->display = display;
+    // The display moves over the desktop whenever anything around it does.
+    for (QWidget *w = display; w; w = w->isWindow() ? nullptr : w->parentWidget()) {
+        w->installEventFilter(this);
+        d->watched.append(w);
+    }
+    coverDisplay();
+    if (!display)
+        return;
+    (void)winId(); // the window exists from now on, and can be tied to the one it stays over
+    windowHandle()->setTransientParent(display->window()->windowHandle());
+}
+
+void ZPopup::coverDisplay()
+{
+    if (d->display) {
+        setGeometry(QRect(d->display->mapToGlobal(QPoint(0, 0)), d->display->size()));
+    } else if (const QScreen *screen = QGuiApplication::primaryScreen()) {
+        const QSize size(ZSkinService::DisplayWidth, ZSkinService::DisplayHeight);
+        setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, screen->availableGeometry()));
+    }
+    layOut();
+}
+
+// Hides the dialog while its display is out of sight, and brings it back with it.
+void ZPopup::showWithDisplay()
+{
+    const bool inSight = d->display && d->display->isVisible() && !d->display->window()->isMinimized();
+    if (d->display && isVisible() && !inSight) {
+        setVisible(false);
+        d->waitsForDisplay = true;
+    } else if (inSight && d->waitsForDisplay) {
+        setVisible(true);
+    }
+}
+
+bool ZPopup::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool moved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    if (!isWindow()) {
+        if (event->type() == QEvent::Resize && watched == parentWidget())
+            coverParent();
+        return false;
+    }
+    const bool toggled = event->type() == QEvent::Show || event->type() == QEvent::Hide
+                         || event->type() == QEvent::WindowStateChange;
+    if (moved && isVisible())
+        coverDisplay();
+    else if (toggled)
+        showWithDisplay();
+    return false;
+}
+
+// --- look
+
+void ZPopup::layOut()
+{
+    const int barTop = height() - ZSkinService::SoftkeyBarHeight;
+    d->softKey->setGeometry(0, barTop, width(), ZSkinService::SoftkeyBarHeight);
+    const QRect area = QRect(0, 0, width(), barTop)
+                           .adjusted(ZSkinService::DialogMargin, ZSkinService::DialogMargin,
+                                     -ZSkinService::DialogMargin, -ZSkinService::DialogMargin);
+    const int wanted = d->headerHeight() + (d->body ? heightOf(d->body, area.width() - 2) : 0) + 2;
+    const QSize size(area.width(), std::min(wanted, std::max(0, area.height())));
+    d->box = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, area);
+    if (d->body)
+        d->body->setGeometry(d->box.adjusted(1, 1 + d->headerHeight(), -1, -1));
+    if (!d->modal)
+        setMask(QRegion(d->box) + QRegion(d->softKey->geometry()));
+    update();
+}
+
+void ZPopup::resizeEvent(QResizeEvent *)
+{
+    layOut();
+}
+
+void ZPopup::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    if (d->modal)
+        painter.fillRect(rect(), ZSkinService::color(ZSkinService::BackdropColor));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPainterPath frame = rounded(d->box);
+    painter.fillPath(frame, ZSkinService::color(ZSkinService::DialogFrameColor));
+    const QRect inner = d->box.adjusted(1, 1, -1, -1);
+    painter.setClipPath(rounded(inner));
+    painter.fillRect(inner.adjusted(0, d->headerHeight(), 0, 0), ZSkinService::color(ZSkinService::DialogColor));
+    if (d->header.isEmpty())
+        return;
+    painter.setFont(ZSkinService::font(ZSkinService::TitleFont));
+    painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
+    const QRect text(inner.left() + ZSkinService::DialogPadding, inner.top(),
+                     inner.width() - 2 * ZSkinService::DialogPadding, d->headerHeight());
+    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter);
+    painter.drawText(text, static_cast<int>(side) | Qt::TextSingleLine,
+                     ZText::elided(d->header, painter.fontMetrics(), text.width()));
+}

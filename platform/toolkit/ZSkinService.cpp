@@ -1,0 +1,89 @@
+#include "ZSkinService.h"
+
+#include <array>
+
+namespace {
+
+struct ColorEntry {
+    ZSkinService::ColorRole role;
+    QRgb value;
+};
+
+constexpr std::array<ColorEntry, 22> colorTable = {{
+    {ZSkinService::ScreenColor, 0xffffffff},
+    {ZSkinService::TitleBarColor, 0xff1d3550},
+    {ZSkinService::TitleTextColor, 0xffffffff},
+    {ZSkinService::AccentColor, 0xff4da3e8},
+    {ZSkinService::RowTextColor, 0xff1b2530},
+    {ZSkinService::RowValueColor, 0xff1a5a96},
+    {ZSkinService::DisabledTextColor, 0xff8a929b},
+    {ZSkinService::DividerColor, 0xffe3e8ee},
+    {ZSkinService::FocusBarColor, 0xff1f6cb5},
+    {ZSkinService::FocusTextColor, 0xffffffff},
+    {ZSkinService::FocusDisabledTextColor, 0xffb9d2ea},
+    {ZSkinService::HeadingColor, 0xffe4ebf3},
+    {ZSkinService::HeadingTextColor, 0xff33485e},
+    {ZSkinService::SoftkeyBarColor, 0xff1d3550},
+    {ZSkinService::SoftkeyTextColor, 0xffffffff},
+    {ZSkinService::SoftkeyDisabledTextColor, 0xff7c8fa3},
+    {ZSkinService::SoftkeyPressedColor, 0xff37618d},
+    {ZSkinService::DialogColor, 0xffffffff},
+    {ZSkinService::DialogFrameColor, 0xff1d3550},
+    {ZSkinService::BackdropColor, 0x8c0a121c},
+    {ZSkinService::ScrollGrooveColor, 0xffeef2f6},
+    {ZSkinService::ScrollHandleColor, 0xff8fa6bd},
+}};
+
+constexpr bool inRoleOrder()
+{
+    for (std::size_t i = 0; i < colorTable.size(); ++i) {
+        if (colorTable[i].role != static_cast<ZSkinService::ColorRole>(i))
+            return false;
+    }
+    return colorTable.back().role == ZSkinService::ScrollHandleColor;
+}
+static_assert(inRoleOrder(), "a colour for every role, in the roles' order");
+
+struct FontEntry {
+    ZSkinService::FontRole role;
+    int pixelSize;
+    bool bold;
+};
+
+constexpr std::array<FontEntry, 5> fontTable = {{
+    {ZSkinService::RowFont, 13, false},
+    {ZSkinService::EmphasisFont, 13, true},
+    {ZSkinService::TitleFont, 14, true},
+    {ZSkinService::HeadingFont, 12, true},
+    {ZSkinService::SoftkeyFont, 13, true},
+}};
+static_assert(fontTable.back().role == ZSkinService::SoftkeyFont && fontTable.size() == ZSkinService::SoftkeyFont + 1);
+
+} // namespace
+
+QColor ZSkinService::color(ColorRole role)
+{
+    return QColor::fromRgba(colorTable[static_cast<std::size_t>(role)].value);
+}
+
+QFont ZSkinService::font(FontRole role)
+{
+    const FontEntry &entry = fontTable[static_cast<std::size_t>(role)];
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(entry.pixelSize);
+    font.setBold(entry.bold);
+    return font;
+}
+
+QPalette ZSkinService::palette()
+{
+    QPalette palette(color(RowTextColor), color(ScreenColor), color(DividerColor), color(HeadingTextColor),
+                     color(DisabledTextColor), color(RowTextColor), color(ScreenColor), color(ScreenColor),
+                     color(ScreenColor));
+    palette.setColor(QPalette::Highlight, color(FocusBarColor));
+    palette.setColor(QPalette::HighlightedText, color(FocusTextColor));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, color(DisabledTextColor));
+    palette.setColor(QPalette::Disabled, QPalette::Text, color(DisabledTextColor));
+    return palette;
+}

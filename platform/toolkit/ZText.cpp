@@ -1,0 +1,63 @@
+#include "ZText.h"
+
+#include <QtGui/QFontMetrics>
+
+namespace {
+
+// No display is as wide as this many characters.
+constexpr qsizetype longestLine = 1000;
+
+constexpr QChar ellipsis(0x2026);
+
+bool breaksLine(QChar c)
+{
+    return c == QLatin1Char('\n') || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+bool isControl(QChar c)
+{
+    return c.category() == QChar::Other_Control || breaksLine(c);
+}
+
+QString shortened(const QString &text)
+{
+    if (text.size() <= longestLine)
+        return text;
+    const bool splitsPair = text.at(longestLine - 1).isHighSurrogate();
+    return text.left(splitsPair ? longestLine - 1 : longestLine) + ellipsis;
+}
+
+} // namespace
+
+QString ZText::oneLine(const QString &text)
+{
+    QString line = shortened(text);
+    for (qsizetype i = 0; i < line.size(); ++i) {
+        if (isControl(line.at(i)))
+            line[i] = QLatin1Char(' ');
+    }
+    return line;
+}
+
+QString ZText::elided(const QString &text, const QFontMetrics &metrics, int width)
+{
+    const QString line = oneLine(text);
+    if (line.isEmpty() || width <= 0)
+        return QString();
+    const QString cut = metrics.elidedText(line, Qt::ElideRight, width);
+    return metrics.horizontalAdvance(cut) > width ? QString() : cut;
+}
+
+QString ZText::paragraph(const QString &text)
+{
+    QString result = text;
+    result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (qsizetype i = 0; i < result.size(); ++i) {
+        const QChar c = result.at(i);
+        if (breaksLine(c) || c == QLatin1Char('\r'))
+            result[i] = QChar(QChar::LineSeparator);
+        else if (isControl(c))
+            result[i] = QLatin1Char(' ');
+    }
+    return result;
+}

@@ -1,0 +1,36 @@
+// The text of a message: wrapped, scrolled when it is too long. Inside the toolkit only.
+#pragma once
+
+#include <QtGui/QTextLayout>
+#include <QtWidgets/QWidget>
+
+class QScrollBar;
+
+class ZTextPane : public QWidget
+{
+public:
+    ZTextPane(const QString &text, QWidget *parent);
+
+    bool hasHeightForWidth() const override;
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+
+    /// Scrolls on the up, down, page and end keys; answers false for other keys, and when there is nothing to scroll.
+    bool scrollByKey(int qtKey);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
+private:
+    void breakLines(int width) const;
+    int textHeight() const;
+    int maximumOffset() const;
+    void scrollTo(int newOffset);
+
+    mutable QTextLayout lines;
+    mutable int brokenAt = -1; // the width that the lines are broken for
+    QScrollBar *scrollBar = nullptr; // made on first need
+    int offset = 0;
+};
