@@ -6,9 +6,9 @@
 namespace handset::calllog {
 
 CallRecorder::CallRecorder(std::unique_ptr<CallStore> callStore, std::shared_ptr<Clock> clocks)
-    : store(std::move(callStore)), clock(std::move(clocks))
-{
-}
+    : store(std::move(callStore))
+    , clock(std::move(clocks))
+{}
 
 CallRecorder::~CallRecorder()
 {
@@ -88,9 +88,8 @@ int CallRecorder::figure(Counter counter, qint64 &ms) const
         return status;
     if (running)
         readClock();
-    const bool counts = running
-        && (counter == Counter::Last || counter == Counter::All || counter == Counter::Lifetime
-            || counter == running->unwritten.own);
+    const bool counts = running && (counter == Counter::Last || counter == Counter::All ||
+                                    counter == Counter::Lifetime || counter == running->unwritten.own);
     ms = counts ? saturatingSum(stored, running->unwritten.ms) : stored;
     return Success;
 }

@@ -1,11 +1,14 @@
 #include "CallStore.h"
 
+#include "Saturating.h"
 #include "Schema.h"
 #include "StateDirectory.h"
 #include "Status.h"
 
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>
+
+#include <array>
 
 namespace handset::calllog {
 
@@ -14,14 +17,16 @@ namespace {
 Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
 
 // SQLite's own sum would turn into a floating-point number beyond 2^63 - 1.
-#define KAV_SATURATING_SUM(column)                                                                              \
-    column " = CASE WHEN " column " > 9223372036854775807 - :ms THEN 9223372036854775807 ELSE " column " + :ms END"
+#define KAV_SATURATING_SUM(column)                                                                                \
+    column " = CASE WHEN " column " > 9223372036854775807 - :ms THEN 9223372036854775807 ELSE " column " + :ms "  \
+           "END"
 
 constexpr auto insertRowSql = "INSERT INTO calls (id, kind, direction, number, started_ms, duration_ms, state)"
                               " VALUES (:id, :kind, :direction, :number, :started, :duration, :state)";
-constexpr auto addTimeSql = "UPDATE calls SET state = :state, " KAV_SATURATING_SUM("duration_ms") " WHERE id = :id";
-constexpr auto addToTotalsSql = "UPDATE totals SET " KAV_SATURATING_SUM("ms")
-    " WHERE counter IN (:own, 'all', 'lifetime', :last)";
+constexpr auto addTimeSql =
+    "UPDATE calls SET state = :state, " KAV_SATURATING_SUM("duration_ms") " WHERE id = :id";
+constexpr auto addToTotalsSql =
+    "UPDATE totals SET " KAV_SATURATING_SUM("ms") " WHERE counter IN (:own, 'all', 'lifetime', :last)";
 constexpr auto setTotalSql = "UPDATE totals SET ms = :ms WHERE counter = :counter";
 constexpr auto totalSql = "SELECT ms FROM totals WHERE counter = :counter";
 
@@ -44,11 +49,11 @@ CallStore::~CallStore() = default;
 
 bool CallStore::prepareStatements()
 {
-    return database->prepare(insertStatement, QString::fromLatin1(insertRowSql))
-        && database->prepare(timeStatement, QString::fromLatin1(addTimeSql))
-        && database->prepare(totalsStatement, QString::fromLatin1(addToTotalsSql))
-        && database->prepare(setTotalStatement, QString::fromLatin1(setTotalSql))
-        && database->prepare(totalStatement, QString::fromLatin1(totalSql));
+    return database->prepare(insertStatement, QString::fromLatin1(insertRowSql)) &&
+           database->prepare(timeStatement, QString::fromLatin1(addTimeSql)) &&
+           database->prepare(totalsStatement, QString::fromLatin1(addToTotalsSql)) &&
+           database->prepare(setTotalStatement, QString::fromLatin1(setTotalSql)) &&
+           database->prepare(totalStatement, QString::fromLatin1(totalSql));
 }
 
 int CallStore::status(bool succeeded) const
@@ -89,16 +94,10 @@ bool CallStore::addTime(const UnwrittenTime &time, int state)
     return database->run(timeStatement) && addToTotals(time.own, time.ms, true);
 }
 
-bool CallStore::addPastCall(const PastCall &call, bool setLast)
+bool CallStore::insertPastCall(const PastCall &call)
 {
-    const bool connected = call.durationMs > 0;
-    const CallState state = connected ? CallState::Finished : CallState::NotConnected;
-    if (!insertRow(QVariant(), call, static_cast<int>(state)))
-        return false;
-    if (!connected)
-        return true;
-    return addToTotals(ownCounter(call.kind, call.direction), call.durationMs, false)
-        && (!setLast || putTotal(Counter::Last, call.durationMs));
+    const CallState state = call.durationMs > 0 ? CallState::Finished : CallState::NotConnected;
+    return insertRow(QVariant(), call, static_cast<int>(state));
 }
 
 bool CallStore::putRow(qint64 id, const PastCall &call, int state)
@@ -148,12 +147,25 @@ int CallStore::addUnconnected(const PastCall &call)
 
 int CallStore::addHistory(const QList<PastCall> &calls, bool setLast)
 {
-    return status(database->inTransaction([&] {
-        for (const PastCall &call : calls)
-            if (!addPastCall(call, setLast))
+    std::array<qint64, counterNames.size()> sums{};
+    qint64 last = 0;
+    const auto addRows = [&] {
+        for (const PastCall &call : calls) {
+            if (!insertPastCall(call))
                 return false;
+            qint64 &sum = sums[static_cast<std::size_t>(ownCounter(call.kind, call.direction))];
+            sum = saturatingSum(sum, call.durationMs);
+            last = call.durationMs > 0 ? call.durationMs : last;
+        }
         return true;
-    }));
+    };
+    const auto addSums = [&] {
+        for (const Counter own : {Counter::Dialed, Counter::Answered, Counter::Data})
+            if (!addToTotals(own, sums[static_cast<std::size_t>(own)], false))
+                return false;
+        return !setLast || last == 0 || putTotal(Counter::Last, last);
+    };
+    return status(database->inTransaction([&] { return addRows() && addSums(); }));
 }
 
 int CallStore::total(Counter counter, qint64 &ms)

@@ -62,7 +62,7 @@ private:
     bool insertRow(const QVariant &id, const PastCall &call, int state);
     bool addTime(const UnwrittenTime &time, int state);
     bool addToTotals(Counter own, qint64 ms, bool toLast);
-    bool addPastCall(const PastCall &call, bool setLast);
+    bool insertPastCall(const PastCall &call);
     int status(bool succeeded) const;
 
     // The order matters: statements go before their connection, the connection before the lock.

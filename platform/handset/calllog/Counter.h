@@ -23,17 +23,19 @@ struct CounterName {
 };
 
 inline constexpr std::array counterNames{
-    CounterName{Counter::Last, "last"}, CounterName{Counter::Dialed, "dialed"},
+    CounterName{Counter::Last, "last"},         CounterName{Counter::Dialed, "dialed"},
     CounterName{Counter::Answered, "answered"}, CounterName{Counter::Data, "data"},
-    CounterName{Counter::All, "all"}, CounterName{Counter::Lifetime, "lifetime"},
+    CounterName{Counter::All, "all"},           CounterName{Counter::Lifetime, "lifetime"},
 };
 static_assert(counterNames.size() == 6);
-static_assert([] {
-    for (std::size_t i = 0; i < counterNames.size(); ++i)
-        if (static_cast<std::size_t>(counterNames[i].counter) != i)
-            return false;
-    return true;
-}(), "counterNames is indexed by the counter");
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < counterNames.size(); ++i)
+            if (static_cast<std::size_t>(counterNames[i].counter) != i)
+                return false;
+        return true;
+    }(),
+    "counterNames is indexed by the counter");
 
 inline QString counterKey(Counter counter)
 {

@@ -23,7 +23,8 @@ int sqlite::code(const QSqlError &error)
 }
 
 Database::Database(const QString &file, Access access)
-    : name(newConnectionName()), connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))
+    : name(newConnectionName())
+    , connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))
 {
     QString settings = QString::fromLatin1(options);
     if (access == Access::ReadOnly)

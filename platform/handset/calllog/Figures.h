@@ -13,7 +13,9 @@ class Figures final : public CallLog, public CallService, public DataCalls
 {
 public:
     /// `recorder` outlives this.
-    explicit Figures(CallRecorder &callRecorder) : recorder(callRecorder) {}
+    explicit Figures(CallRecorder &callRecorder)
+        : recorder(callRecorder)
+    {}
 
     int lastCallTime(CallTime &time) override;
     int dialedCallsTime(CallTime &time) override;

@@ -13,23 +13,28 @@ namespace handset::calllog {
 
 namespace {
 
-constexpr auto rowsSql = "SELECT id, kind, direction, number, started_ms, duration_ms, state FROM calls ORDER BY id";
+constexpr auto rowsSql =
+    "SELECT id, kind, direction, number, started_ms, duration_ms, state FROM calls ORDER BY id";
 
 using Totals = std::array<qint64, counterNames.size()>;
 
 class Salvager
 {
 public:
-    Salvager(Database &damaged, CallStore &fresh) : source(damaged), target(fresh) {}
+    Salvager(Database &damaged, CallStore &fresh)
+        : source(damaged)
+        , target(fresh)
+    {}
 
     bool run()
     {
         // From both ends, so that one damaged page in the middle costs no more than its own calls.
-        return copyRows(QString::fromLatin1(rowsSql), false)
-            && copyRows(QString::fromLatin1(rowsSql) + QStringLiteral(" DESC"), true) && putTotals();
+        return copyRows(QString::fromLatin1(rowsSql), false) &&
+               copyRows(QString::fromLatin1(rowsSql) + QStringLiteral(" DESC"), true) && putTotals();
     }
 
     qint64 copied() const { return count; }
+    bool hasReadTotals() const { return totalsRead; }
 
 private:
     bool copyRows(const QString &select, bool descending);
@@ -42,6 +47,7 @@ private:
     CallStore &target;
     qint64 highest = std::numeric_limits<qint64>::min(); ///< id copied on the way up
     qint64 count = 0;
+    bool totalsRead = false;
     qint64 lastConnected = std::numeric_limits<qint64>::min(); ///< id
     Totals counted{};
 };
@@ -59,8 +65,8 @@ bool isPlausible(const QSqlQuery &row)
         return isNumber && value >= least && value <= most;
     };
     constexpr qint64 maximum = std::numeric_limits<qint64>::max();
-    return within(1, 0, 1) && within(2, 0, 1) && within(4, std::numeric_limits<qint64>::min(), maximum)
-        && within(5, 0, maximum) && within(6, 0, 3);
+    return within(1, 0, 1) && within(2, 0, 1) && within(4, std::numeric_limits<qint64>::min(), maximum) &&
+           within(5, 0, maximum) && within(6, 0, 3);
 }
 
 bool Salvager::copyRows(const QString &select, bool descending)
@@ -81,8 +87,9 @@ bool Salvager::copyRows(const QString &select, bool descending)
 
 bool Salvager::copyRow(const QSqlQuery &row)
 {
-    const PastCall call{static_cast<CallKind>(row.value(1).toInt()), static_cast<CallDirection>(row.value(2).toInt()),
-                        row.value(3).toString(), row.value(4).toLongLong(), row.value(5).toLongLong()};
+    const PastCall call{static_cast<CallKind>(row.value(1).toInt()),
+                        static_cast<CallDirection>(row.value(2).toInt()), row.value(3).toString(),
+                        row.value(4).toLongLong(), row.value(5).toLongLong()};
     const qint64 id = row.value(0).toLongLong();
     const auto state = static_cast<CallState>(row.value(6).toInt());
     if (!target.putRow(id, call, static_cast<int>(state)))
@@ -118,7 +125,9 @@ std::optional<Totals> Salvager::readTotals()
 
 bool Salvager::putTotals()
 {
-    Totals totals = readTotals().value_or(counted);
+    const std::optional<Totals> read = readTotals();
+    totalsRead = read.has_value();
+    Totals totals = read.value_or(counted);
     for (const CounterName &name : counterNames)
         if (!target.putTotal(name.counter, totalOf(totals, name.counter)))
             return false;
@@ -127,14 +136,14 @@ bool Salvager::putTotals()
 
 } // namespace
 
-qint64 salvage(const QString &file, CallStore &target)
+Salvaged salvage(const QString &file, CallStore &target)
 {
     Database source(file, Database::Access::ReadOnly);
     // Without this a database that is shorter than it says is refused as a whole.
     source.run(QStringLiteral("PRAGMA writable_schema = ON"));
     Salvager salvager(source, target);
     const bool written = target.connection().inTransaction([&] { return salvager.run(); });
-    return written ? salvager.copied() : -1;
+    return {written, salvager.copied(), salvager.hasReadTotals()};
 }
 
 } // namespace handset::calllog

@@ -7,9 +7,14 @@
 
 namespace handset::calllog {
 
-/// Copies the calls, and the totals where all of them can be read, from the database `file` into the empty `target`;
-/// without the totals those are counted anew from the calls, resets forgotten. `file` is only read. The number of
-/// calls copied; -1 when `target` could not be written.
-qint64 salvage(const QString &file, CallStore &target);
+struct Salvaged {
+    bool written = false;    ///< the target has what could be read
+    qint64 calls = 0;        ///< how many
+    bool totalsRead = false; ///< else they were counted anew from the calls, resets forgotten
+};
+
+/// Copies the calls, and the totals where all of them can be read, from the database `file` into the empty `target`,
+/// in one transaction. `file` is only read.
+Salvaged salvage(const QString &file, CallStore &target);
 
 } // namespace handset::calllog

@@ -32,8 +32,8 @@ bool runStep(Database &database, Migration step, qint64 version)
         for (const char *statement : step)
             if (!database.run(QString::fromLatin1(statement)))
                 return false;
-        return database.run(QStringLiteral("PRAGMA application_id = %1").arg(applicationId))
-            && database.run(QStringLiteral("PRAGMA user_version = %1").arg(version));
+        return database.run(QStringLiteral("PRAGMA application_id = %1").arg(applicationId)) &&
+               database.run(QStringLiteral("PRAGMA user_version = %1").arg(version));
     });
 }
 

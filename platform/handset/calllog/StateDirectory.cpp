@@ -4,8 +4,10 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 
 #include <fcntl.h>
@@ -18,8 +20,10 @@ namespace handset::calllog {
 namespace {
 
 constexpr auto lockName = "lock";
-// The database itself first: what is left beside a database that is gone is recognised as a leftover.
-constexpr std::array besides{"", "-wal", "-shm", "-journal"};
+// What SQLite keeps beside a database and what is recorded in it. (It also keeps "-shm", an index to the first that it
+// makes anew.)
+constexpr std::array recordings{"-wal", "-journal"};
+constexpr auto indexSuffix = "-shm";
 
 QByteArray encoded(const QString &path)
 {
@@ -29,12 +33,6 @@ QByteArray encoded(const QString &path)
 QString reason(int error)
 {
     return QString::fromLocal8Bit(std::strerror(error));
-}
-
-bool exists(const QString &path)
-{
-    struct stat status{};
-    return ::lstat(encoded(path).constData(), &status) == 0;
 }
 
 // 0 or an errno. Every directory made on the way is for the user alone.
@@ -106,48 +104,77 @@ bool StateDirectory::rename(const QString &from, const QString &to)
 {
     const QByteArray source = encoded(filePath(from));
     const QByteArray target = encoded(filePath(to));
-    return ::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0;
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) != 0)
+        return false;
+    // The order of renames must hold even when the machine goes down.
+    const int fd = ::open(encoded(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd >= 0) {
+        ::fsync(fd);
+        ::close(fd);
+    }
+    return true;
+}
+
+bool StateDirectory::exists(const QString &name) const
+{
+    struct stat status = {};
+    return ::lstat(encoded(filePath(name)).constData(), &status) == 0;
+}
+
+QString StateDirectory::unusedName(const QString &name) const
+{
+    const QFileInfo file(name);
+    for (int number = 1;; ++number) {
+        const QString candidate =
+            QStringLiteral("%1-kept-%2.%3").arg(file.completeBaseName()).arg(number).arg(file.suffix());
+        const auto inUse = [&](const char *suffix) { return exists(candidate + QLatin1String(suffix)); };
+        if (!exists(candidate) && std::none_of(recordings.begin(), recordings.end(), inUse))
+            return candidate;
+    }
 }
 
 QString StateDirectory::keepAside(const QString &name, QString &error)
 {
-    const QFileInfo file(name);
-    const auto candidate = [&](int n) {
-        return QStringLiteral("%1-kept-%2.%3").arg(file.completeBaseName()).arg(n).arg(file.suffix());
-    };
-    const auto inUse = [&](const QString &kept) {
-        return std::any_of(besides.begin(), besides.end(), [&](const char *beside) {
-            return exists(filePath(kept + QLatin1String(beside)));
-        });
-    };
-    int number = 1;
-    while (inUse(candidate(number)))
-        ++number;
-    const QString kept = candidate(number);
-    for (const char *beside : besides) {
-        const QLatin1String suffix(beside);
-        if (exists(filePath(name + suffix)) && !rename(name + suffix, kept + suffix)) {
-            error = reason(errno);
-            return {};
-        }
+    unlink(name + QLatin1String(indexSuffix));
+    const QString kept = unusedName(name);
+    // The database itself first: what is left beside a database that is gone is recognised as a leftover.
+    bool done = !exists(name) || rename(name, kept);
+    for (const char *recording : recordings) {
+        const QLatin1String suffix(recording);
+        if (done && hasContent(name + suffix))
+            done = rename(name + suffix, kept + suffix);
+        else if (done)
+            unlink(name + suffix);
     }
-    return kept;
+    if (done)
+        return kept;
+    error = reason(errno);
+    return {};
 }
 
 void StateDirectory::remove(const QString &name)
 {
-    for (const char *beside : besides)
-        ::unlink(encoded(filePath(name + QLatin1String(beside))).constData());
+    for (const char *recording : recordings)
+        unlink(name + QLatin1String(recording));
+    unlink(name + QLatin1String(indexSuffix));
+    unlink(name);
+}
+
+void StateDirectory::unlink(const QString &name)
+{
+    ::unlink(encoded(filePath(name)).constData());
+}
+
+bool StateDirectory::hasContent(const QString &name) const
+{
+    struct stat status = {};
+    return ::lstat(encoded(filePath(name)).constData(), &status) == 0 && status.st_size > 0;
 }
 
 bool StateDirectory::hasLeftovers(const QString &name) const
 {
-    struct stat status{};
-    const auto nonEmpty = [&](const char *beside) {
-        const QByteArray leftover = encoded(filePath(name + QLatin1String(beside)));
-        return ::lstat(leftover.constData(), &status) == 0 && status.st_size > 0;
-    };
-    return std::any_of(besides.begin() + 1, besides.end(), nonEmpty);
+    return std::any_of(recordings.begin(), recordings.end(),
+                       [&](const char *recording) { return hasContent(name + QLatin1String(recording)); });
 }
 
 } // namespace handset::calllog

@@ -21,18 +21,26 @@ public:
 
     QString filePath(const QString &name) const;
 
-    /// Renames `name` and what SQLite keeps beside it to the first unused "<base>-kept-<n>.<suffix>". Answers the new
+    /// Renames `name` and what is recorded beside it to the first unused "<base>-kept-<n>.<suffix>". Answers the new
     /// name, or a null string with the reason in `error`.
     QString keepAside(const QString &name, QString &error);
     /// Renames a file of the directory to a name that is not in use; false when that cannot be done.
     bool rename(const QString &from, const QString &to);
     /// Removes `name` and what SQLite keeps beside it.
     void remove(const QString &name);
-    /// Whether SQLite left something beside `name`: it was not closed.
+    bool exists(const QString &name) const;
+    /// Whether SQLite left recordings beside `name`: it was not closed.
     bool hasLeftovers(const QString &name) const;
 
 private:
-    StateDirectory(const QString &absolutePath, int fd) : path(absolutePath), lock(fd) {}
+    QString unusedName(const QString &name) const;
+    void unlink(const QString &name);
+    bool hasContent(const QString &name) const;
+
+    StateDirectory(const QString &absolutePath, int fd)
+        : path(absolutePath)
+        , lock(fd)
+    {}
 
     QString path;
     int lock;

@@ -15,11 +15,9 @@ constexpr qsizetype longestNumber = 80;
 // As a SIM can hold it and a keypad can dial it.
 bool isNumber(const QString &number)
 {
-    const auto dialable = [](QChar c) {
-        return (c >= u'0' && c <= u'9') || c == u'+' || c == u'*' || c == u'#';
-    };
-    return !number.isEmpty() && number.size() <= longestNumber
-        && std::all_of(number.begin(), number.end(), dialable);
+    const auto dialable = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'+' || c == u'*' || c == u'#'; };
+    return !number.isEmpty() && number.size() <= longestNumber &&
+           std::all_of(number.begin(), number.end(), dialable);
 }
 
 bool isShownNumber(const QString &number)
@@ -43,7 +41,9 @@ Opened open(const Settings &settings)
 }
 
 SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, std::shared_ptr<Clock> clocks)
-    : clock(clocks), recorder(std::move(store), std::move(clocks)), figures(recorder)
+    : clock(clocks)
+    , recorder(std::move(store), std::move(clocks))
+    , figures(recorder)
 {
     recorder.setResetListener([this] { emit changed(); });
     checkpointTimer.setInterval(calllog::CallRecorder::checkpointIntervalMs);

@@ -26,8 +26,8 @@ class SimulatedTelephone : public QObject, public Handset
 public:
     enum class LineState {
         Idle,
-        Dialing,  ///< we called, the other side has not answered
-        Ringing,  ///< the other side called, we have not answered
+        Dialing, ///< we called, the other side has not answered
+        Ringing, ///< the other side called, we have not answered
         Connected
     };
     Q_ENUM(LineState)
@@ -53,9 +53,9 @@ public:
     virtual int checkpoint() = 0;
 
     virtual LineState lineState() const = 0;
-    virtual CallKind callKind() const = 0;     ///< of the call on the line; Voice when idle
-    virtual QString number() const = 0;        ///< of the call on the line; null when idle
-    virtual qint64 connectedMs() const = 0;    ///< how long the call on the line is connected, by the clock; else 0
+    virtual CallKind callKind() const = 0;  ///< of the call on the line; Voice when idle
+    virtual QString number() const = 0;     ///< of the call on the line; null when idle
+    virtual qint64 connectedMs() const = 0; ///< how long the call on the line is connected, by the clock; else 0
 
 signals:
     /// The line state, or a figure that a query answers, has changed.
