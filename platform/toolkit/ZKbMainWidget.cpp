@@ -201,9 +201,7 @@ void ZKbMainWidget::paintEvent(QPaintEvent *)
     painter.setFont(ZSkinService::font(ZSkinService::TitleFont));
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
     const QRect text = bar.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, -ZSkinService::AccentHeight);
-    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter);
-    painter.drawText(text, static_cast<int>(side) | Qt::TextSingleLine,
-                     ZText::elided(d->title, painter.fontMetrics(), text.width()));
+    ZText::draw(painter, text, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->title);
 }
 
 void ZKbMainWidget::resizeEvent(QResizeEvent *event)

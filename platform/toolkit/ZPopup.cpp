@@ -26,13 +26,20 @@ Qt::WindowFlags windowFlagsFor(const QWidget *parent, unsigned int flags)
 {
     if (parent)
         return Qt::Widget;
-    // A tool window stays over the phone's window without an entry in the task bar.
-    return Qt::Tool | Qt::FramelessWindowHint | Qt::WindowFlags::fromInt(static_cast<int>(flags));
+    // Tied to the phone's window, a dialog stays over it without an entry in the task bar.
+    return Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowFlags::fromInt(static_cast<int>(flags));
 }
 
 int heightOf(const QWidget *body, int width)
 {
     return body->hasHeightForWidth() ? body->heightForWidth(width) : body->sizeHint().height();
+}
+
+// Without a display there is neither a stack of windows nor a window's shape, and each request for one a warning.
+bool hasWindowSystem()
+{
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
 }
 
 QPainterPath rounded(const QRectF &box)
@@ -81,6 +88,7 @@ ZPopup::ZPopup(const QString &header, QWidget *parent, const char *name, bool mo
         parent->installEventFilter(this);
         coverParent();
     } else {
+        setAttribute(Qt::WA_TranslucentBackground);
         resize(ZSkinService::DisplayWidth, ZSkinService::DisplayHeight);
     }
 }
@@ -134,10 +142,8 @@ void ZPopup::setVisible(bool visible)
     QWidget::setVisible(visible);
     if (again)
         comeToFront();
-    if (visible && isWindow()) {
-        raise();
+    if (visible && isWindow())
         activateWindow();
-    }
 }
 
 // --- answers
@@ -261,7 +267,8 @@ void ZPopup::hideEvent(QHideEvent *event)
 
 void ZPopup::comeToFront()
 {
-    raise();
+    if (!isWindow() || hasWindowSystem())
+        raise();
     ZLayers::shown(this, d->kind());
     ZLayers::takeKeys(this);
 }
@@ -345,8 +352,8 @@ void ZPopup::layOut()
     d->box = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, area);
     if (d->body)
         d->body->setGeometry(d->box.adjusted(1, 1 + d->headerHeight(), -1, -1));
-    if (!d->modal)
-        setMask(QRegion(d->box) + QRegion(d->softKey->geometry()));
+    if (!d->modal && (!isWindow() || hasWindowSystem()))
+        setMask(QRegion(rounded(d->box).toFillPolygon().toPolygon()) + QRegion(d->softKey->geometry()));
     update();
 }
 
@@ -372,7 +379,5 @@ void ZPopup::paintEvent(QPaintEvent *)
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
     const QRect text(inner.left() + ZSkinService::DialogPadding, inner.top(),
                      inner.width() - 2 * ZSkinService::DialogPadding, d->headerHeight());
-    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading | Qt::AlignVCenter);
-    painter.drawText(text, static_cast<int>(side) | Qt::TextSingleLine,
-                     ZText::elided(d->header, painter.fontMetrics(), text.width()));
+    ZText::draw(painter, text, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->header);
 }

@@ -87,9 +87,7 @@ private:
     {
         if (place.width() <= 0)
             return;
-        const Qt::Alignment alignment = QStyle::visualAlignment(direction, side | Qt::AlignVCenter);
-        painter->drawText(QStyle::visualRect(direction, row, place), static_cast<int>(alignment) | Qt::TextSingleLine,
-                          ZText::elided(text, painter->fontMetrics(), place.width()));
+        ZText::draw(*painter, QStyle::visualRect(direction, row, place), QStyle::visualAlignment(direction, side), text);
     }
 
     QColor textColor(ZSkinService::ColorRole plain) const

@@ -68,8 +68,7 @@ protected:
         painter.setPen(ZSkinService::color(isEnabled() ? ZSkinService::SoftkeyTextColor
                                                        : ZSkinService::SoftkeyDisabledTextColor));
         const QRect inner = rect().adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, 0);
-        painter.drawText(inner, static_cast<int>(alignment | Qt::AlignAbsolute | Qt::AlignVCenter) | Qt::TextSingleLine,
-                         ZText::elided(text, painter.fontMetrics(), inner.width()));
+        ZText::draw(painter, inner, alignment, text);
     }
 
 private:

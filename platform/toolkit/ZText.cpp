@@ -1,6 +1,7 @@
 #include "ZText.h"
 
 #include <QtGui/QFontMetrics>
+#include <QtGui/QPainter>
 
 namespace {
 
@@ -46,6 +47,16 @@ QString ZText::elided(const QString &text, const QFontMetrics &metrics, int widt
         return QString();
     const QString cut = metrics.elidedText(line, Qt::ElideRight, width);
     return metrics.horizontalAdvance(cut) > width ? QString() : cut;
+}
+
+void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text)
+{
+    const QString line = elided(text, painter.fontMetrics(), place.width());
+    if (line.isEmpty())
+        return;
+    painter.setLayoutDirection(line.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    const Qt::Alignment alignment = side | Qt::AlignAbsolute | Qt::AlignVCenter;
+    painter.drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, line);
 }
 
 QString ZText::paragraph(const QString &text)

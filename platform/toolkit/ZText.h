@@ -4,6 +4,8 @@
 #include <QtCore/QString>
 
 class QFontMetrics;
+class QPainter;
+class QRect;
 
 namespace ZText {
 
@@ -13,6 +15,10 @@ QString oneLine(const QString &text);
 
 /// oneLine(), cut with an ellipsis at the end to fit `width` pixels; empty when not even the ellipsis fits.
 QString elided(const QString &text, const QFontMetrics &metrics, int width);
+
+/// Draws `text` elided on one line of `place`, at its left or right edge as `side` says, halfway up. The text runs
+/// in its own direction whatever the display's, so that "12.50 EUR" stays in order.
+void draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text);
 
 /// `text` for a wrapped paragraph: line breaks stay (as line separators), other control characters become blanks.
 QString paragraph(const QString &text);

@@ -13,20 +13,24 @@
 namespace {
 
 constexpr int padding = ZSkinService::DialogPadding;
-constexpr int lineStep = 18; // pixels a key press scrolls by
+constexpr int wheelLines = 3;   // a notch of the wheel
+constexpr int wheelNotch = 120; // in the unit of QWheelEvent::angleDelta()
+
+int textWidth(int width)
+{
+    return std::max(1, width - 2 * padding);
+}
 
 } // namespace
 
-ZTextPane::ZTextPane(const QString &text, QWidget *parent)
+ZTextPane::ZTextPane(const QString &message, QWidget *parent)
     : QWidget(parent)
-    , lines(ZText::paragraph(text), ZSkinService::font(ZSkinService::RowFont))
+    , text(ZText::paragraph(message), ZSkinService::font(ZSkinService::RowFont))
 {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    option.setTextDirection(layoutDirection());
-    option.setAlignment(Qt::AlignLeading);
-    lines.setTextOption(option);
-    lines.setCacheEnabled(true);
+    text.setTextOption(option);
+    text.setCacheEnabled(true);
     setFocusPolicy(Qt::NoFocus);
 }
 
@@ -37,7 +41,7 @@ bool ZTextPane::hasHeightForWidth() const
 
 int ZTextPane::heightForWidth(int width) const
 {
-    breakLines(width - 2 * padding);
+    breakLines(textWidth(width));
     return textHeight() + 2 * padding;
 }
 
@@ -52,92 +56,112 @@ void ZTextPane::breakLines(int width) const
         return;
     brokenAt = width;
     qreal top = 0;
-    lines.beginLayout();
-    for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine()) {
-        line.setLineWidth(std::max(1, width));
+    text.beginLayout();
+    for (QTextLine line = text.createLine(); line.isValid(); line = text.createLine()) {
+        line.setLineWidth(width);
         line.setPosition(QPointF(0, top));
         top += std::ceil(line.height());
     }
-    lines.endLayout();
+    text.endLayout();
 }
 
 int ZTextPane::textHeight() const
 {
-    return static_cast<int>(std::ceil(lines.boundingRect().height()));
+    if (text.lineCount() == 0)
+        return 0;
+    const QTextLine last = text.lineAt(text.lineCount() - 1);
+    return static_cast<int>(std::ceil(last.y() + last.height()));
 }
 
-int ZTextPane::maximumOffset() const
+// How many lines from `line` on are in sight when it is the first one: one at the least.
+int ZTextPane::linesFrom(int line) const
 {
-    return std::max(0, textHeight() + 2 * padding - height());
+    const qreal bottom = text.lineAt(line).y() + height() - 2 * padding;
+    int end = line + 1;
+    while (end < text.lineCount() && text.lineAt(end).y() + text.lineAt(end).height() <= bottom)
+        ++end;
+    return end - line;
+}
+
+// How many lines up to `line` are in sight when it is the last one: one at the least.
+int ZTextPane::linesBackFrom(int line) const
+{
+    const qreal top = text.lineAt(line).y() + text.lineAt(line).height() - (height() - 2 * padding);
+    int first = line;
+    while (first > 0 && text.lineAt(first - 1).y() >= top)
+        --first;
+    return line + 1 - first;
 }
 
 bool ZTextPane::scrollByKey(int qtKey)
 {
-    if (maximumOffset() == 0)
+    if (lastFirstLine == 0)
         return false;
-    const int page = std::max(lineStep, height() - 2 * padding - lineStep);
     switch (qtKey) {
     case Qt::Key_Up:
-        scrollTo(offset - lineStep);
+        scrollTo(firstLine - 1);
         return true;
     case Qt::Key_Down:
-        scrollTo(offset + lineStep);
+        scrollTo(firstLine + 1);
         return true;
     case Qt::Key_PageUp:
-        scrollTo(offset - page);
+        scrollTo(firstLine + 1 - linesBackFrom(firstLine));
         return true;
     case Qt::Key_PageDown:
-        scrollTo(offset + page);
+        scrollTo(firstLine - 1 + linesFrom(firstLine));
         return true;
     case Qt::Key_Home:
         scrollTo(0);
         return true;
     case Qt::Key_End:
-        scrollTo(maximumOffset());
+        scrollTo(lastFirstLine);
         return true;
     }
     return false;
 }
 
-void ZTextPane::scrollTo(int newOffset)
+void ZTextPane::scrollTo(int line)
 {
-    offset = std::clamp(newOffset, 0, maximumOffset());
+    firstLine = std::clamp(line, 0, lastFirstLine);
     if (scrollBar)
-        scrollBar->setValue(offset);
+        scrollBar->setValue(firstLine);
     update();
 }
 
-void ZTextPane::paintEvent(QPaintEvent *event)
+void ZTextPane::paintEvent(QPaintEvent *)
 {
+    if (text.lineCount() == 0)
+        return;
     QPainter painter(this);
     painter.setPen(ZSkinService::color(ZSkinService::RowTextColor));
-    const QRect text = rect().adjusted(padding, padding, -padding, -padding);
-    painter.setClipRect(rect().adjusted(0, padding - 2, 0, 2 - padding));
-    lines.draw(&painter, QPointF(text.left(), text.top() - offset), {}, QRectF(event->rect()));
+    const QPointF origin(padding, padding - text.lineAt(firstLine).y());
+    const int end = firstLine + linesFrom(firstLine);
+    for (int line = firstLine; line < end; ++line)
+        text.lineAt(line).draw(&painter, origin);
 }
 
 void ZTextPane::resizeEvent(QResizeEvent *)
 {
-    breakLines(width() - 2 * padding);
-    const bool tooLong = maximumOffset() > 0;
-    if (tooLong && !scrollBar) {
+    breakLines(textWidth(width()));
+    const int count = text.lineCount();
+    lastFirstLine = count == 0 ? 0 : count - linesBackFrom(count - 1);
+    if (lastFirstLine > 0 && !scrollBar) {
         scrollBar = new ZScrollBar(this);
         scrollBar->setFocusPolicy(Qt::NoFocus);
-        connect(scrollBar, &QScrollBar::valueChanged, this, [this](int value) { scrollTo(value); });
+        connect(scrollBar, &QScrollBar::valueChanged, this, [this](int line) { scrollTo(line); });
     }
     if (scrollBar) {
         const int x = layoutDirection() == Qt::RightToLeft ? 0 : width() - ZSkinService::ScrollBarWidth;
         scrollBar->setGeometry(x, 0, ZSkinService::ScrollBarWidth, height());
-        scrollBar->setRange(0, maximumOffset());
-        scrollBar->setPageStep(height());
-        scrollBar->setSingleStep(lineStep);
-        scrollBar->setVisible(tooLong);
+        scrollBar->setRange(0, lastFirstLine);
+        scrollBar->setPageStep(std::max(1, count - lastFirstLine));
+        scrollBar->setVisible(lastFirstLine > 0);
     }
-    scrollTo(offset);
+    scrollTo(firstLine);
 }
 
 void ZTextPane::wheelEvent(QWheelEvent *event)
 {
-    scrollTo(offset - event->angleDelta().y() * 3 * lineStep / 120);
+    scrollTo(firstLine - wheelLines * event->angleDelta().y() / wheelNotch);
     event->accept();
 }

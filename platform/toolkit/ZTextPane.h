@@ -1,4 +1,4 @@
-// The text of a message: wrapped, scrolled when it is too long. Inside the toolkit only.
+// The text of a message: wrapped, scrolled by whole lines when it is too long. Inside the toolkit only.
 #pragma once
 
 #include <QtGui/QTextLayout>
@@ -15,7 +15,8 @@ public:
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
 
-    /// Scrolls on the up, down, page and end keys; answers false for other keys, and when there is nothing to scroll.
+    /// Scrolls on the up, down, page, home and end keys; answers false for other keys, and when all of the text is
+    /// on show.
     bool scrollByKey(int qtKey);
 
 protected:
@@ -26,11 +27,13 @@ protected:
 private:
     void breakLines(int width) const;
     int textHeight() const;
-    int maximumOffset() const;
-    void scrollTo(int newOffset);
+    int linesFrom(int line) const;
+    int linesBackFrom(int line) const;
+    void scrollTo(int line);
 
-    mutable QTextLayout lines;
-    mutable int brokenAt = -1; // the width that the lines are broken for
+    mutable QTextLayout text;
+    mutable int brokenAt = -1;       // the width that the lines are broken for
     QScrollBar *scrollBar = nullptr; // made on first need
-    int offset = 0;
+    int firstLine = 0;
+    int lastFirstLine = 0; // which has the end of the text in sight
 };
