@@ -12,23 +12,34 @@ namespace {
 constexpr int lineOfRow = 0; // rows have one line
 constexpr int atTheEnd = -1;
 
-void fillSoftKey(ZSoftKey *softKey, ZKbMainWidget *screen, const Recipe &recipe)
+} // namespace
+
+ZSoftKey *newSoftKey(ZKbMainWidget *screen)
+{
+    return new (std::nothrow) ZSoftKey(QString::fromLatin1("CST_2A"), screen, nullptr);
+}
+
+void nameBackKey(ZSoftKey *softKey, const Recipe &recipe)
 {
     softKey->setText(ZSoftKey::RightKey, translated(recipe.context, "TXT_RID_SOFTKEY_BACK", "Back"),
                      ZSoftKey::DefaultTextPriority);
-    softKey->setText(ZSoftKey::LeftKey, translated(recipe.context, "", ""), ZSoftKey::DefaultTextPriority);
-    softKey->setClickedSlot(ZSoftKey::RightKey, screen, recipe.backMember);
-    screen->setCSTWidget(softKey);
 }
 
-} // namespace
+void emptyLeftKey(ZSoftKey *softKey, const Recipe &recipe)
+{
+    softKey->setText(ZSoftKey::LeftKey, translated(recipe.context, "", ""), ZSoftKey::DefaultTextPriority);
+}
 
 ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe)
 {
     screen->setMainWidgetTitle(translated(recipe.context, recipe.title.key, recipe.title.english));
-    auto *softKey = new (std::nothrow) ZSoftKey(QString::fromLatin1("CST_2A"), screen, nullptr);
-    if (softKey)
-        fillSoftKey(softKey, screen, recipe);
+    ZSoftKey *softKey = newSoftKey(screen);
+    if (!softKey)
+        return nullptr;
+    nameBackKey(softKey, recipe);
+    emptyLeftKey(softKey, recipe);
+    softKey->setClickedSlot(ZSoftKey::RightKey, screen, recipe.backMember);
+    screen->setCSTWidget(softKey);
     return softKey;
 }
 
@@ -53,6 +64,14 @@ ZSettingItem *newRow(ZListBox *list, const QString &title)
     return row;
 }
 
+ZSettingItem *newSeparator(ZListBox *list, const QString &label)
+{
+    auto *row = list ? new (std::nothrow) ZSettingItem(list, QString::fromLatin1("%P")) : nullptr;
+    if (row)
+        row->setSeparator(label, nullptr);
+    return row;
+}
+
 void appendValue(ZSettingItem *row, const QString &value)
 {
     row->appendSubItem(lineOfRow, value, false, ZSettingItem::ValueRegion);
@@ -72,6 +91,17 @@ ZMessageDlg *newDialog(ZKbMainWidget *screen, const QString &header, const QStri
     if (dialog && rightSlot)
         QObject::connect(dialog, "2rightSoftkeyClicked()", screen, rightSlot);
     return dialog;
+}
+
+QString sessionName(const QString &apn, const ResourceText &fallback)
+{
+    return apn.isEmpty() ? textFor<QObject>(fallback) : QString::fromLatin1("%1").arg(apn);
+}
+
+void showSubScreen(ZKbMainWidget *screen, ZKbMainWidget *subScreen)
+{
+    QObject::connect(subScreen, "2closeWgt()", screen, "1slotCloseWgt()");
+    subScreen->show();
 }
 
 } // namespace ScreenFrame

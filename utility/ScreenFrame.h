@@ -20,6 +20,11 @@ struct Recipe {
     const char *backMember; ///< signal or slot of the screen for the right softkey and the clear key alike
 };
 
+/// The steps of buildTitleAndSoftKey(), for a screen that takes them in another order.
+ZSoftKey *newSoftKey(ZKbMainWidget *screen);
+void nameBackKey(ZSoftKey *softKey, const Recipe &recipe);
+void emptyLeftKey(ZSoftKey *softKey, const Recipe &recipe);
+
 /// Gives `screen` its title and its softkey bar: "Back" on the right, nothing on the left. Null when there is no
 /// memory for the bar.
 ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe);
@@ -30,6 +35,8 @@ ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe);
 
 /// Makes a row with its title in the first column, not yet inserted. Null without a list or memory.
 ZSettingItem *newRow(ZListBox *list, const QString &title);
+/// Makes a separator row, not yet inserted. Null without a list or memory.
+ZSettingItem *newSeparator(ZListBox *list, const QString &label);
 void appendValue(ZSettingItem *row, const QString &value);
 void appendRow(ZListBox *list, ZSettingItem *row);
 
@@ -45,6 +52,12 @@ void rewriteValue(ZListBox *list, int row, Value value)
 /// is modal and a child of the screen. Null when there is no memory for it.
 ZMessageDlg *newDialog(ZKbMainWidget *screen, const QString &header, const QString &message,
                        ZMessageDlg::MessageDlgType type, const char *leftSlot, const char *rightSlot);
+
+/// What a data session is called: its access point name, or `fallback` where it has none.
+QString sessionName(const QString &apn, const ResourceText &fallback);
+
+/// Shows a sub-screen, whose end `screen` hears of in slotCloseWgt().
+void showSubScreen(ZKbMainWidget *screen, ZKbMainWidget *subScreen);
 
 template <typename Object>
 void deleteAndNull(Object *&object)
