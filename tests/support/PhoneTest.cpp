@@ -1,0 +1,30 @@
+#include "PhoneTest.h"
+
+#include <QtCore/QRegularExpression>
+
+void PhoneTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".*")));
+    journal.clear();
+    handset = std::make_unique<InstalledHandset>();
+    traces = std::make_unique<TraceCapture>();
+}
+
+void PhoneTest::cleanup()
+{
+    traces.reset();
+    handset.reset();
+    QVERIFY2(QApplication::topLevelWidgets().isEmpty(), "a test function left a window behind");
+}
+
+void PhoneTestMain::prepareEnvironment()
+{
+    static constexpr const char *surroundings[][2] = {
+        {"QT_QPA_PLATFORM", "offscreen"}, {"QT_FONT_DPI", "96"}, {"QT_SCALE_FACTOR", "1"},
+        {"QT_STYLE_OVERRIDE", "fusion"},  {"LC_ALL", "C.UTF-8"}, {"LANGUAGE", "C"},
+    };
+    for (const auto &[name, value] : surroundings) {
+        if (!qEnvironmentVariableIsSet(name))
+            qputenv(name, value);
+    }
+}

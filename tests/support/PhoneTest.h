@@ -1,0 +1,52 @@
+// What every test of the phone starts from, and main().
+#pragma once
+
+#include "Journal.h"
+#include "ScriptedHandset.h"
+#include "TraceCapture.h"
+
+#include <QtCore/QObject>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+
+#include <memory>
+
+/// Before each test function: an empty journal, a scripted telephone of its own, traces caught, and a failure for
+/// any warning. Inherit, and override init() only to call it first.
+class PhoneTest : public QObject
+{
+    Q_OBJECT
+
+protected slots:
+    void init();
+    void cleanup();
+
+protected:
+    Journal &journal = Journal::shared();
+    std::unique_ptr<InstalledHandset> handset;
+    std::unique_ptr<TraceCapture> traces;
+
+    Script &script() const { return handset->script(); }
+};
+
+namespace PhoneTestMain {
+
+/// Sets what the test runner sets too, so that a program started by hand has the same surroundings.
+void prepareEnvironment();
+
+template <typename Test>
+int run(int argc, char *argv[])
+{
+    prepareEnvironment();
+    QApplication application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace PhoneTestMain
+
+#define KAV_TEST_MAIN(TEST)                                                                                       \
+    int main(int argc, char *argv[])                                                                              \
+    {                                                                                                             \
+        return PhoneTestMain::run<TEST>(argc, argv);                                                              \
+    }

@@ -1,0 +1,16 @@
+// The plug-in's calls into the toolkit, the message client and Qt, recorded with their arguments.
+//
+// A program that links kav_toolkit_recorder and exports its symbols stands between the plug-in and those libraries:
+// each call that the plug-in makes of the operations in ToolkitRecorder.cpp is recorded in the journal, and then goes
+// to the library's own. Calls of anybody else go through unrecorded.
+//
+// Objects appear under the names "screen", "softKey", "content", "list", "row 0"..., "dialog 1"... and "msgClient" in
+// the order of their making; others as the test named them. Deleting a dialog or the message client is recorded too.
+#pragma once
+
+namespace ToolkitRecorder {
+
+/// Numbers rows and dialogs from the start again. Every test function calls this first.
+void restart();
+
+} // namespace ToolkitRecorder
