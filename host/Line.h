@@ -1,0 +1,65 @@
+// The telephone's line as the panel and the keypad drive it.
+#pragma once
+
+#include "SimulatedTelephone.h"
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+#include <memory>
+
+namespace host {
+
+class Line : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Telephone = handset::simulated::SimulatedTelephone;
+
+    enum class Action { Dial, DialData, RemoteAnswer, Ring, Answer, HangUp };
+
+    /// `handset` need not be a simulated telephone: then the line cannot be driven.
+    explicit Line(std::shared_ptr<handset::Handset> handset);
+
+    handset::Handset &handset() const { return *owner; }
+    /// Null when the telephone behind is another than the simulated one.
+    Telephone *telephone() const { return simulated; }
+
+    /// The number that the next call is from or to.
+    QString number() const { return nextNumber; }
+    void setNumber(const QString &number);
+
+    /// Whether the line is in the state that `action` needs.
+    bool permits(Action action) const;
+    void perform(Action action);
+    /// The green key: answers, or dials the number.
+    void pressCallKey();
+    /// The red key.
+    void pressHangUpKey();
+    /// Adds the ready-made calls to the log.
+    void addReadyMadeHistory();
+
+    /// What is going on, for a person: "Connected 00:01:05, voice call, 5551234".
+    QString describeState() const;
+    /// Why the last operation failed; empty when it did not.
+    QString failure() const { return lastFailure; }
+
+signals:
+    /// The line state, a figure, the number or the failure has changed.
+    void changed();
+
+private:
+    int run(Action action);
+    void finish(int status);
+
+    std::shared_ptr<handset::Handset> owner;
+    Telephone *simulated;
+    QString nextNumber = QStringLiteral("5550123");
+    QString lastFailure;
+};
+
+/// "hh:mm:ss", the hours as long as they need to be.
+QString clockText(qint64 seconds);
+
+} // namespace host

@@ -1,0 +1,161 @@
+#include "Options.h"
+
+#include "Handset.h"
+#include "ScreenTable.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+
+namespace host {
+
+namespace {
+
+constexpr const char *defaultPlugin = "libkavcallmeter.so.1";
+constexpr const char *shippedTour = ":/tours/tour.tour";
+
+constexpr const char *description =
+    "Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel\n"
+    "that makes calls on the simulated telephone.";
+
+constexpr const char *exitCodes = "\nExit codes:\n"
+                                  "  0  all went well\n"
+                                  "  1  a tour saw something else than its script expects\n"
+                                  "  2  the command line is wrong\n"
+                                  "  3  the telephone cannot be opened\n"
+                                  "  4  the trace file cannot be opened\n"
+                                  "  5  the plug-in library, or a function of it, is missing\n"
+                                  "  6  the tour's script cannot be read, or has a mistake\n"
+                                  "  7  a photograph cannot be written\n"
+                                  "  8  the translation catalogue cannot be loaded\n"
+                                  "  9  there is no display to show the window on\n";
+
+struct OptionText {
+    const char *name;
+    const char *value;
+    const char *text;
+};
+
+constexpr OptionText optionTexts[] = {
+    {"state", "DIR", "Keep the telephone's state in DIR between starts; \"none\" keeps it in memory. Default: %1"},
+    {"trace", "FILE",
+     "Append the traces to FILE; \"-\" is standard output. Default: trace.log in the state "
+     "directory; no trace where the state is in memory, and on a tour."},
+    {"backend", "NAME", "The telephone behind: %2. Default: simulated."},
+    {"plugin", "NAME", "The plug-in library. Default: libkavcallmeter.so.1"},
+    {"screen", "NAME", "Open this screen at once: %3."},
+    {"translation", "FILE", "Load the texts of the catalogue FILE (.qm)."},
+    {"photo", "FILE", "Photograph the window as PNG to FILE and end."},
+    {"tour", "DIR",
+     "Play a tour without a display: put photographs of the screens into DIR and print their texts."},
+    {"script", "FILE", "Play this script instead of the tour of all screens; only with --tour."},
+};
+
+QString screenNames()
+{
+    QStringList names;
+    for (const ScreenEntry &entry : screenTable)
+        names << QLatin1StringView(entry.name);
+    return names.join(QStringLiteral(", "));
+}
+
+void describe(QCommandLineParser &parser)
+{
+    parser.setApplicationDescription(QLatin1StringView(description));
+    parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser.addHelpOption();
+    parser.addVersionOption();
+    for (const OptionText &option : optionTexts) {
+        const QString text = QString::fromLatin1(option.text)
+                                 .replace(QStringLiteral("%1"), handset::defaultStateDirectory())
+                                 .replace(QStringLiteral("%2"), handset::backendNames().join(QStringLiteral(", ")))
+                                 .replace(QStringLiteral("%3"), screenNames());
+        parser.addOption({QString::fromLatin1(option.name), text, QString::fromLatin1(option.value)});
+    }
+}
+
+bool knowsScreen(const QString &name)
+{
+    return screenIndex(name) >= 0;
+}
+
+// A value that is given but empty is nearly always a shell variable that was not set.
+QString findEmptyValue(const QCommandLineParser &parser)
+{
+    for (const OptionText &option : optionTexts) {
+        const QString name = QString::fromLatin1(option.name);
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return QStringLiteral("Option '%1' has an empty value.").arg(name);
+    }
+    return {};
+}
+
+QString findMistake(const QCommandLineParser &parser)
+{
+    if (!parser.positionalArguments().isEmpty())
+        return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+    if (const QString mistake = findEmptyValue(parser); !mistake.isEmpty())
+        return mistake;
+    if (parser.isSet(QStringLiteral("script")) && !parser.isSet(QStringLiteral("tour")))
+        return QStringLiteral("Option 'script' needs option 'tour'.");
+    for (const char *name : {"screen", "photo"}) {
+        if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
+            return QStringLiteral("Option '%1' does not go with option 'tour'.").arg(QLatin1StringView(name));
+    }
+    const QString screen = parser.value(QStringLiteral("screen"));
+    if (!screen.isEmpty() && !knowsScreen(screen))
+        return QStringLiteral("Unknown screen '%1'; there is: %2.").arg(screen, screenNames());
+    return {};
+}
+
+QString valueOr(const QCommandLineParser &parser, const char *name, const QString &fallback)
+{
+    const QString option = QString::fromLatin1(name);
+    return parser.isSet(option) ? parser.value(option) : fallback;
+}
+
+QString stateDirectoryOf(const QCommandLineParser &parser)
+{
+    const QString directory = valueOr(parser, "state", handset::defaultStateDirectory());
+    return directory == QLatin1StringView("none") ? QString() : directory;
+}
+
+Options readOptions(const QCommandLineParser &parser)
+{
+    Options options;
+    options.backend = valueOr(parser, "backend", QStringLiteral("simulated"));
+    options.stateGiven = parser.isSet(QStringLiteral("state"));
+    options.stateDirectory = stateDirectoryOf(parser);
+    options.plugin = valueOr(parser, "plugin", QString::fromLatin1(defaultPlugin));
+    options.screen = parser.value(QStringLiteral("screen"));
+    options.translation = parser.value(QStringLiteral("translation"));
+    options.photo = parser.value(QStringLiteral("photo"));
+    options.tourDirectory = parser.value(QStringLiteral("tour"));
+    options.script = valueOr(parser, "script", QString::fromLatin1(shippedTour));
+    const bool dropTrace = options.stateDirectory.isEmpty() || options.isTour();
+    options.traceFile =
+        valueOr(parser, "trace", dropTrace ? QString() : QDir(options.stateDirectory).filePath("trace.log"));
+    return options;
+}
+
+} // namespace
+
+CommandLine parseCommandLine(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    describe(parser);
+    const bool parsed = parser.parse(arguments);
+    if (!parsed)
+        return {{}, {}, parser.errorText()};
+    if (parser.isSet(QStringLiteral("help")))
+        return {{}, parser.helpText() + QLatin1StringView(exitCodes), {}};
+    if (parser.isSet(QStringLiteral("version"))) {
+        const QString version = QCoreApplication::applicationVersion();
+        return {{}, QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), version), {}};
+    }
+    if (const QString mistake = findMistake(parser); !mistake.isEmpty())
+        return {{}, {}, mistake};
+    return {readOptions(parser), {}, {}};
+}
+
+} // namespace host

@@ -1,0 +1,36 @@
+// The command line.
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <optional>
+
+namespace host {
+
+struct Options {
+    QString backend;
+    QString stateDirectory;  ///< empty keeps the state in memory
+    bool stateGiven = false; ///< --state was on the command line
+    QString traceFile;       ///< "-" is standard output, empty drops the trace
+    QString plugin;
+    QString screen;        ///< name of the screen to open at once; empty for the menu
+    QString translation;   ///< catalogue to load; empty for none
+    QString photo;         ///< where to photograph the window; empty shows it as usual
+    QString tourDirectory; ///< where a tour puts its photographs; empty for no tour
+    QString script;        ///< what the tour plays
+
+    bool isTour() const { return !tourDirectory.isEmpty(); }
+};
+
+struct CommandLine {
+    std::optional<Options> options; ///< null when there is nothing more to do
+    QString output;                 ///< then: for standard output
+    QString error;                  ///< then: one sentence for the user; the program ends with ExitBadCommandLine
+};
+
+/// Reads `arguments`, the first of which is the program's name. Needs an application object, asks nothing of the
+/// telephone.
+CommandLine parseCommandLine(const QStringList &arguments);
+
+} // namespace host

@@ -1,0 +1,74 @@
+#include "PhoneWindow.h"
+
+#include "MenuScreen.h"
+#include "ZApplication.h"
+#include "ZKeys.h"
+#include "panel/Panel.h"
+#include "phone/Display.h"
+#include "phone/Keypad.h"
+#include "phone/PhoneBody.h"
+
+#include <QtGui/QCloseEvent>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QHBoxLayout>
+
+namespace host {
+
+namespace {
+
+constexpr int deskMargin = 24;
+
+} // namespace
+
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephone)
+    : line(telephone.handset)
+    , body(new PhoneBody(this))
+    , menu(new MenuScreen(body->display()))
+    , screens(library, body->display())
+{
+    setWindowTitle(tr("Recent Calls"));
+    layOut(telephone);
+    connect(menu, &MenuScreen::chosen, &screens, &ScreenHost::open);
+    connect(menu, &MenuScreen::exitRequested, this, &PhoneWindow::close, Qt::QueuedConnection);
+    connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
+    connect(body->keypad(), &Keypad::callPressed, &line, &Line::pressCallKey);
+    connect(body->keypad(), &Keypad::hangUpPressed, &line, &Line::pressHangUpKey);
+    menu->show();
+    menu->takeFocus();
+}
+
+PhoneWindow::~PhoneWindow()
+{
+    screens.close();
+}
+
+void PhoneWindow::layOut(const Telephone &telephone)
+{
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(deskMargin, deskMargin, deskMargin, deskMargin);
+    row->setSpacing(deskMargin);
+    row->addWidget(body, 0, Qt::AlignTop);
+    row->addWidget(new Panel(line, telephone.stateDirectory, telephone.notice), 1);
+}
+
+bool PhoneWindow::openScreen(int index)
+{
+    return screens.open(index);
+}
+
+void PhoneWindow::keyPressEvent(QKeyEvent *event)
+{
+    const bool fromPhone = body->isAncestorOf(focusWidget());
+    if (fromPhone || ZKeys::phoneKey(event->key()) == ZKeys::PhoneKey::None)
+        QWidget::keyPressEvent(event);
+    else
+        ZApplication::pressKey(event->key());
+}
+
+void PhoneWindow::closeEvent(QCloseEvent *event)
+{
+    screens.close();
+    QWidget::closeEvent(event);
+}
+
+} // namespace host

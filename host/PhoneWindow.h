@@ -1,0 +1,47 @@
+// The application's window: the phone, and the panel beside it.
+#pragma once
+
+#include "Line.h"
+#include "ScreenHost.h"
+
+#include <QtWidgets/QWidget>
+
+namespace host {
+
+class MenuScreen;
+class PhoneBody;
+
+class PhoneWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    struct Telephone {
+        std::shared_ptr<handset::Handset> handset;
+        QString stateDirectory; ///< empty in memory
+        QString notice;         ///< of its opening
+    };
+
+    /// `library` is loaded and outlives the window.
+    PhoneWindow(const ScreenLibrary &library, const Telephone &telephone);
+    /// Gives back an open screen.
+    ~PhoneWindow() override;
+
+    /// Opens row `index` of the screen table; false as in ScreenHost::open().
+    bool openScreen(int index);
+
+protected:
+    /// Keys that nothing in the panel takes go to the phone.
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void layOut(const Telephone &telephone);
+
+    Line line;
+    PhoneBody *body;
+    MenuScreen *menu;
+    ScreenHost screens;
+};
+
+} // namespace host

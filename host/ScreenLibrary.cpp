@@ -1,0 +1,68 @@
+#include "ScreenLibrary.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QLibrary>
+
+namespace host {
+
+namespace {
+
+bool loadBesideProgram(QLibrary &library, const QString &name)
+{
+    const QString path = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../lib/" + name);
+    library.setFileName(path);
+    return library.load();
+}
+
+QString loadLibrary(QLibrary &library, const QString &name)
+{
+    library.setFileName(name);
+    if (library.load())
+        return {};
+    const QString reason = library.errorString();
+    if (name.contains(u'/'))
+        return QStringLiteral("The plug-in library \"%1\" cannot be loaded: %2").arg(name, reason);
+    if (loadBesideProgram(library, name))
+        return {};
+    return QStringLiteral("The plug-in library \"%1\" cannot be loaded: %2; %3")
+        .arg(name, reason, library.errorString());
+}
+
+template <typename Function>
+QString resolve(QLibrary &library, const char *symbol, Function *&function)
+{
+    function = reinterpret_cast<Function *>(library.resolve(symbol));
+    if (function)
+        return {};
+    return QStringLiteral("The plug-in library \"%1\" has no function \"%2\".")
+        .arg(library.fileName(), QLatin1StringView(symbol));
+}
+
+} // namespace
+
+int screenIndex(const QString &name)
+{
+    for (std::size_t index = 0; index < screenTable.size(); ++index) {
+        if (name == QLatin1StringView(screenTable[index].name))
+            return static_cast<int>(index);
+    }
+    return -1;
+}
+
+QString ScreenLibrary::load(const QString &name)
+{
+    QLibrary library;
+    if (const QString problem = loadLibrary(library, name); !problem.isEmpty())
+        return problem;
+    for (std::size_t index = 0; index < screenTable.size(); ++index) {
+        const ScreenEntry &entry = screenTable[index];
+        if (const QString problem = resolve(library, entry.create, resolved[index].create); !problem.isEmpty())
+            return problem;
+        if (const QString problem = resolve(library, entry.destroy, resolved[index].destroy); !problem.isEmpty())
+            return problem;
+    }
+    return {};
+}
+
+} // namespace host

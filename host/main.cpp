@@ -1,0 +1,187 @@
+// kavrecentcalls, the recent-calls application of the phone.
+
+#include "ExitCode.h"
+#include "Handset.h"
+#include "Options.h"
+#include "PhoneWindow.h"
+#include "ScreenLibrary.h"
+#include "aplog.h"
+#include "tour/TourPlayer.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QTextStream>
+#include <QtCore/QTranslator>
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+using namespace host;
+
+void nameProgram()
+{
+    QCoreApplication::setApplicationName(QStringLiteral("kavrecentcalls"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(KAV_VERSION));
+}
+
+int complain(int code, const QString &message)
+{
+    QTextStream(stderr) << "kavrecentcalls: " << message << Qt::endl;
+    return code;
+}
+
+// Before the GUI's application object, which would want a display even for --help.
+CommandLine readCommandLine(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    nameProgram();
+    return parseCommandLine(QCoreApplication::arguments());
+}
+
+bool hasPlatform()
+{
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+// Photographs must come out the same on every machine.
+void fixSurroundings(bool needsNoDisplay)
+{
+    if (!hasPlatform() && (needsNoDisplay || !hasDisplay()))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_FONT_DPI", "96");
+    qputenv("QT_SCALE_FACTOR", "1");
+    qputenv("QT_ENABLE_HIGHDPI_SCALING", "0");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setDesktopSettingsAware(false);
+}
+
+int startTrace(const QString &file)
+{
+    const QByteArray path = file.isEmpty() ? QByteArrayLiteral("/dev/null") : QFile::encodeName(file);
+    const int error = libaplog_open(path.constData());
+    if (error == 0)
+        return ExitSuccess;
+    return complain(ExitNoTrace, QStringLiteral("The trace file \"%1\" cannot be opened: %2.")
+                                     .arg(file, QString::fromLocal8Bit(std::strerror(error))));
+}
+
+int loadTranslation(QTranslator &translator, const QString &file)
+{
+    if (file.isEmpty())
+        return ExitSuccess;
+    // Qt would try other endings and shorter names; here the file that is named is the file that is meant.
+    if (!QFileInfo(file).isFile() || !translator.load(file))
+        return complain(ExitNoTranslation, QStringLiteral("The catalogue \"%1\" cannot be loaded.").arg(file));
+    QCoreApplication::installTranslator(&translator);
+    return ExitSuccess;
+}
+
+int loadScreens(ScreenLibrary &library, const QString &name)
+{
+    const QString problem = library.load(name);
+    return problem.isEmpty() ? ExitSuccess : complain(ExitNoPlugin, problem);
+}
+
+// --- the tour
+
+int readScript(const QString &fileName, tour::Script &script)
+{
+    QFile file(fileName);
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
+        return complain(ExitBadScript, QStringLiteral("The script \"%1\" cannot be read.").arg(fileName));
+    const QString name = fileName.startsWith(u':') ? QFileInfo(fileName).fileName() : fileName;
+    script = tour::parseScript(name, QString::fromUtf8(file.readAll()));
+    for (const QString &mistake : std::as_const(script.mistakes))
+        complain(ExitBadScript, mistake);
+    return script.mistakes.isEmpty() ? ExitSuccess : ExitBadScript;
+}
+
+int runTour(const Options &options, const ScreenLibrary &library)
+{
+    tour::Script script;
+    if (const int code = readScript(options.script, script))
+        return code;
+    if (const int code = startTrace(options.traceFile))
+        return code;
+    QTextStream output(stdout);
+    QTextStream errors(stderr);
+    return tour::TourPlayer(library, options, output, errors).play(script);
+}
+
+// --- the window
+
+int photographWindow(PhoneWindow &window, const QString &file)
+{
+    QCoreApplication::processEvents();
+    if (window.grab().save(file, "PNG"))
+        return ExitSuccess;
+    return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
+}
+
+int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened)
+{
+    PhoneWindow window(library, {opened.handset, options.stateDirectory, opened.notice});
+    window.show();
+    if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
+        return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));
+    return options.photo.isEmpty() ? QApplication::exec() : photographWindow(window, options.photo);
+}
+
+int runWindow(const Options &options, const ScreenLibrary &library)
+{
+    const handset::Opened opened = handset::open({options.backend, options.stateDirectory, nullptr});
+    if (!opened.handset)
+        return complain(ExitNoTelephone, opened.error);
+    if (!opened.notice.isEmpty())
+        complain(ExitSuccess, opened.notice);
+    if (const int code = startTrace(options.traceFile))
+        return code;
+    handset::install(opened.handset);
+    const int code = showWindow(options, library, opened);
+    handset::install(nullptr);
+    return code;
+}
+
+int run(const Options &options)
+{
+    QTranslator translator;
+    if (const int code = loadTranslation(translator, options.translation))
+        return code;
+    ScreenLibrary library;
+    if (const int code = loadScreens(library, options.plugin))
+        return code;
+    const int code = options.isTour() ? runTour(options, library) : runWindow(options, library);
+    libaplog_close();
+    return code;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const CommandLine line = readCommandLine(argc, argv);
+    if (!line.error.isEmpty())
+        return complain(ExitBadCommandLine, line.error + QStringLiteral(" See kavrecentcalls --help."));
+    if (!line.options) {
+        QTextStream(stdout) << line.output;
+        return ExitSuccess;
+    }
+    const Options &options = *line.options;
+    if (options.isTour() || !options.photo.isEmpty())
+        fixSurroundings(options.isTour());
+    else if (!hasPlatform() && !hasDisplay())
+        return complain(ExitNoDisplay,
+                        QStringLiteral("There is no display to show the phone on; --tour DIR needs none."));
+    const QApplication application(argc, argv);
+    nameProgram();
+    return run(options);
+}

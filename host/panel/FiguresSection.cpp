@@ -1,0 +1,103 @@
+#include "FiguresSection.h"
+
+#include "CallLog.h"
+#include "CallService.h"
+#include "DataCalls.h"
+#include "Handset.h"
+
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QPushButton>
+
+#include <optional>
+
+namespace host {
+
+namespace {
+
+using handset::CallTime;
+using handset::Handset;
+using Figure = std::optional<qint64>; // whole seconds; nothing where the telephone has none
+
+Figure secondsOf(int status, const CallTime &time)
+{
+    if (status != 0)
+        return {};
+    return qint64{time.hours} * 3600 + time.minutes * 60 + time.seconds;
+}
+
+template <int (handset::CallLog::*query)(CallTime &)>
+Figure fromCallLog(Handset &telephone)
+{
+    CallTime time;
+    handset::CallLog *log = telephone.callLog();
+    return log ? secondsOf((log->*query)(time), time) : Figure();
+}
+
+Figure allCalls(Handset &telephone)
+{
+    CallTime time;
+    handset::CallService *service = telephone.callService();
+    return service ? secondsOf(service->totalCallTime(time), time) : Figure();
+}
+
+Figure dataCalls(Handset &telephone)
+{
+    handset::DataCalls *calls = telephone.dataCalls();
+    quint32 seconds = 0;
+    if (!calls || calls->refreshTotals() != 0 || calls->totalDuration(seconds) != 0)
+        return {};
+    return qint64{seconds};
+}
+
+struct FigureSpec {
+    const char *label;
+    Figure (*query)(Handset &telephone);
+};
+
+constexpr std::array<FigureSpec, 6> figures{{
+    {"Last call", &fromCallLog<&handset::CallLog::lastCallTime>},
+    {"Dialed calls", &fromCallLog<&handset::CallLog::dialedCallsTime>},
+    {"Answered calls", &fromCallLog<&handset::CallLog::answeredCallsTime>},
+    {"Data calls", &dataCalls},
+    {"All calls", &allCalls},
+    {"Lifetime calls", &fromCallLog<&handset::CallLog::lifetimeCallsTime>},
+}};
+
+} // namespace
+
+FiguresSection::FiguresSection(Line &drivenLine)
+    : PanelSection(tr("Call timers"))
+    , line(drivenLine)
+    , addHistory(new QPushButton(tr("Add a &ready-made history")))
+{
+    auto *form = new QFormLayout(this);
+    form->setVerticalSpacing(6);
+    for (std::size_t index = 0; index < figures.size(); ++index) {
+        auto *value = new QLabel;
+        value->setAlignment(Qt::AlignRight);
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        value->setAccessibleName(tr(figures[index].label));
+        value->setObjectName(QStringLiteral("figure ") + QLatin1StringView(figures[index].label));
+        form->addRow(tr(figures[index].label), value);
+        values[index] = value;
+    }
+    addHistory->setToolTip(tr("Adds a dozen calls of the last days to the call log"));
+    addHistory->setFocusPolicy(Qt::TabFocus);
+    connect(addHistory, &QPushButton::clicked, &line, &Line::addReadyMadeHistory);
+    auto *spacer = new QWidget;
+    spacer->setFixedHeight(2);
+    form->addRow(spacer);
+    form->addRow(addHistory);
+}
+
+void FiguresSection::refresh()
+{
+    for (std::size_t index = 0; index < figures.size(); ++index) {
+        const Figure seconds = figures[index].query(line.handset());
+        values[index]->setText(seconds ? clockText(*seconds) : tr("not available"));
+    }
+    addHistory->setEnabled(line.telephone() != nullptr);
+}
+
+} // namespace host

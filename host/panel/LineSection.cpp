@@ -1,0 +1,95 @@
+#include "LineSection.h"
+
+#include <QtGui/QRegularExpressionValidator>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+namespace host {
+
+namespace {
+
+struct ButtonSpec {
+    Line::Action action;
+    const char *text;
+    const char *toolTip;
+};
+
+constexpr std::array<ButtonSpec, 6> buttonSpecs{{
+    {Line::Action::Dial, "&Dial", "Calls the number from this phone"},
+    {Line::Action::RemoteAnswer, "&Other side answers", "The called side answers; the call is connected"},
+    {Line::Action::DialData, "Dial d&ata call", "Sets up a circuit-switched data call to the number"},
+    {Line::Action::Ring, "&Incoming call", "The number calls this phone; empty for a withheld number"},
+    {Line::Action::HangUp, "&Hang up", "Ends the call on the line, whatever its state"},
+    {Line::Action::Answer, "A&nswer", "Answers the incoming call; the call is connected"},
+}};
+
+} // namespace
+
+LineSection::LineSection(Line &drivenLine)
+    : PanelSection(tr("Line"))
+    , line(drivenLine)
+    , state(new QLabel)
+    , failure(new QLabel)
+    , number(new QLineEdit(drivenLine.number()))
+{
+    auto *column = new QVBoxLayout(this);
+    column->setSpacing(10);
+    QFont bold = state->font();
+    bold.setBold(true);
+    state->setFont(bold);
+    state->setObjectName(QStringLiteral("line state"));
+    state->setAccessibleName(tr("State of the line"));
+    state->setWordWrap(true);
+    column->addWidget(state);
+    addNumber(column);
+    addButtons(column);
+    failure->setWordWrap(true);
+    failure->setObjectName(QStringLiteral("line failure"));
+    column->addWidget(failure);
+}
+
+void LineSection::addNumber(QVBoxLayout *column)
+{
+    static const QRegularExpression dialable(QStringLiteral("[0-9+*#]{0,80}"));
+    number->setValidator(new QRegularExpressionValidator(dialable, number));
+    number->setToolTip(tr("Digits, +, * and #"));
+    number->setClearButtonEnabled(true);
+    auto *label = new QLabel(tr("N&umber"));
+    label->setBuddy(number);
+    auto *row = new QHBoxLayout;
+    row->addWidget(label);
+    row->addWidget(number);
+    column->addLayout(row);
+    connect(number, &QLineEdit::textChanged, &line, &Line::setNumber);
+    connect(number, &QLineEdit::returnPressed, &line, [this] { line.perform(Line::Action::Dial); });
+}
+
+void LineSection::addButtons(QVBoxLayout *column)
+{
+    auto *grid = new QGridLayout;
+    grid->setSpacing(8);
+    for (std::size_t index = 0; index < buttonSpecs.size(); ++index) {
+        const ButtonSpec &spec = buttonSpecs[index];
+        auto *button = new QPushButton(tr(spec.text));
+        button->setToolTip(tr(spec.toolTip));
+        button->setFocusPolicy(Qt::TabFocus); // the pointer leaves the keys with the phone
+        connect(button, &QPushButton::clicked, &line, [this, action = spec.action] { line.perform(action); });
+        grid->addWidget(button, static_cast<int>(index / 2), static_cast<int>(index % 2));
+        buttons[index] = button;
+    }
+    column->addLayout(grid);
+}
+
+void LineSection::refresh()
+{
+    state->setText(line.describeState());
+    failure->setText(line.failure());
+    failure->setVisible(!line.failure().isEmpty());
+    for (std::size_t index = 0; index < buttonSpecs.size(); ++index)
+        buttons[index]->setEnabled(line.permits(buttonSpecs[index].action));
+    number->setEnabled(line.telephone() != nullptr);
+}
+
+} // namespace host

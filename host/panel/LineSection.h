@@ -1,0 +1,35 @@
+// The line: its state, and what can be done with it.
+#pragma once
+
+#include "Line.h"
+#include "PanelSection.h"
+
+#include <array>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QVBoxLayout;
+
+namespace host {
+
+class LineSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    explicit LineSection(Line &line);
+    void refresh() override;
+
+private:
+    void addNumber(QVBoxLayout *column);
+    void addButtons(QVBoxLayout *column);
+
+    Line &line;
+    QLabel *state;
+    QLabel *failure;
+    QLineEdit *number;
+    std::array<QPushButton *, 6> buttons{};
+};
+
+} // namespace host

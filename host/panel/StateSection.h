@@ -1,0 +1,18 @@
+// Where the telephone keeps its state.
+#pragma once
+
+#include "PanelSection.h"
+
+namespace host {
+
+class StateSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    /// The arguments as in Panel.
+    StateSection(const QString &stateDirectory, const QString &notice);
+    void refresh() override {} // decided when the telephone was opened
+};
+
+} // namespace host

@@ -1,0 +1,86 @@
+#include "Keypad.h"
+
+#include "PhoneKey.h"
+#include "ZApplication.h"
+
+#include <QtWidgets/QGridLayout>
+
+#include <array>
+
+namespace host {
+
+namespace {
+
+using Legend = PhoneKey::Legend;
+
+struct KeySpec {
+    int row;
+    int column;
+    int rowSpan;
+    int qtKey; ///< what the screen gets
+    Legend legend;
+    const char *text;
+    const char *letters;
+    const char *name; ///< for screen readers, tool tips and tests
+};
+
+constexpr int callKey = Qt::Key_Call;
+constexpr int hangUpKey = Qt::Key_Hangup;
+
+constexpr std::array<KeySpec, 20> keys{{
+    {0, 0, 2, Qt::Key_Context1, Legend::Bar, "", "", "Left softkey"},
+    {0, 1, 1, Qt::Key_Up, Legend::ArrowUp, "", "", "Up"},
+    {0, 2, 2, Qt::Key_Context2, Legend::Bar, "", "", "Right softkey"},
+    {1, 1, 1, Qt::Key_Select, Legend::Ring, "", "", "Select"},
+    {2, 0, 2, callKey, Legend::Call, "", "", "Call"},
+    {2, 2, 2, hangUpKey, Legend::HangUp, "", "", "Hang up"},
+    {2, 1, 1, Qt::Key_Down, Legend::ArrowDown, "", "", "Down"},
+    {3, 1, 1, Qt::Key_Clear, Legend::Text, "C", "", "Clear"},
+    {4, 0, 1, Qt::Key_1, Legend::Text, "1", "", "1"},
+    {4, 1, 1, Qt::Key_2, Legend::Text, "2", "abc", "2"},
+    {4, 2, 1, Qt::Key_3, Legend::Text, "3", "def", "3"},
+    {5, 0, 1, Qt::Key_4, Legend::Text, "4", "ghi", "4"},
+    {5, 1, 1, Qt::Key_5, Legend::Text, "5", "jkl", "5"},
+    {5, 2, 1, Qt::Key_6, Legend::Text, "6", "mno", "6"},
+    {6, 0, 1, Qt::Key_7, Legend::Text, "7", "pqrs", "7"},
+    {6, 1, 1, Qt::Key_8, Legend::Text, "8", "tuv", "8"},
+    {6, 2, 1, Qt::Key_9, Legend::Text, "9", "wxyz", "9"},
+    {7, 0, 1, Qt::Key_Asterisk, Legend::Text, "*", "", "Star"},
+    {7, 1, 1, Qt::Key_0, Legend::Text, "0", "", "0"},
+    {7, 2, 1, Qt::Key_NumberSign, Legend::Text, "#", "", "Hash"},
+}};
+
+PhoneKey *makeKey(const KeySpec &spec, QWidget *parent)
+{
+    auto *key =
+        new PhoneKey(spec.legend, QString::fromLatin1(spec.text), QString::fromLatin1(spec.letters), parent);
+    const QString name = QString::fromLatin1(spec.name);
+    key->setObjectName(QStringLiteral("key ") + name);
+    key->setAccessibleName(name);
+    if (spec.legend != Legend::Text || spec.qtKey == Qt::Key_Clear)
+        key->setToolTip(name);
+    return key;
+}
+
+} // namespace
+
+Keypad::Keypad(QWidget *parent)
+    : QWidget(parent)
+{
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(5);
+    for (const KeySpec &spec : keys) {
+        PhoneKey *key = makeKey(spec, this);
+        key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+        grid->addWidget(key, spec.row, spec.column, spec.rowSpan, 1);
+        if (spec.qtKey == callKey)
+            connect(key, &PhoneKey::clicked, this, &Keypad::callPressed);
+        else if (spec.qtKey == hangUpKey)
+            connect(key, &PhoneKey::clicked, this, &Keypad::hangUpPressed);
+        else
+            connect(key, &PhoneKey::clicked, this, [qtKey = spec.qtKey] { ZApplication::pressKey(qtKey); });
+    }
+}
+
+} // namespace host

@@ -1,0 +1,319 @@
+#include "TourPlayer.h"
+
+#include "Clock.h"
+#include "ExitCode.h"
+#include "Handset.h"
+#include "ReadyMadeHistory.h"
+#include "ScreenTable.h"
+#include "Status.h"
+#include "ZApplication.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTextStream>
+
+namespace host::tour {
+
+using handset::CallDirection;
+using LineState = handset::simulated::SimulatedTelephone::LineState;
+
+namespace {
+
+constexpr qint64 firstMomentMs = 1141905600000; // 2006-03-09 12:00 UTC, so that every tour sees the same dates
+constexpr int settleRounds = 3;                 // a key may end a screen, which passes the keys on, which repaints
+
+// Lets everything happen that a key has set off.
+void settle()
+{
+    for (int round = 0; round < settleRounds; ++round) {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+QString lineWord(LineState state)
+{
+    switch (state) {
+    case LineState::Idle:
+        return QStringLiteral("idle");
+    case LineState::Dialing:
+        return QStringLiteral("dialing");
+    case LineState::Ringing:
+        return QStringLiteral("ringing");
+    case LineState::Connected:
+        break;
+    }
+    return QStringLiteral("connected");
+}
+
+} // namespace
+
+TourPlayer::TourPlayer(const ScreenLibrary &pluginLibrary, const Options &tourOptions, QTextStream &transcript,
+                       QTextStream &complaints)
+    : library(pluginLibrary)
+    , options(tourOptions)
+    , output(transcript)
+    , errors(complaints)
+    , photographs(tourOptions.tourDirectory)
+    , clock(std::make_shared<handset::ManualClock>(firstMomentMs))
+    , screens(library, &display)
+{
+    QObject::connect(&screens, &ScreenHost::closed, &display, [this] {
+        if (menu)
+            menu->takeFocus();
+    });
+    display.show();
+}
+
+TourPlayer::~TourPlayer()
+{
+    screens.close();
+    handset::install(nullptr);
+}
+
+int TourPlayer::play(const Script &script)
+{
+    place = script.name;
+    if (const QString problem = photographs.prepare(); !problem.isEmpty())
+        stop(ExitNotWritten, problem);
+    if (!stopped)
+        perform(SetState{SetState::Empty});
+    for (const Step &step : script.steps) {
+        if (stopped)
+            break;
+        place = script.place(step.line);
+        playStep(step);
+    }
+    return finish();
+}
+
+void TourPlayer::playStep(const Step &step)
+{
+    const bool onlyLooks =
+        std::holds_alternative<Expect>(step.action) || std::holds_alternative<Photo>(step.action);
+    if (!onlyLooks) {
+        photographWhatIsMet();
+        output << step.source << '\n';
+    }
+    if (!stopped)
+        std::visit([this](const auto &action) { perform(action); }, step.action);
+}
+
+int TourPlayer::finish()
+{
+    if (!stopped)
+        photographWhatIsMet();
+    if (stopped)
+        return stopped;
+    output << "\n"
+           << expectations - failures << " of " << expectations << " expectations met, " << photographs.count()
+           << " photographs in " << options.tourDirectory << '\n';
+    output.flush();
+    return failures ? ExitExpectationFailed : ExitSuccess;
+}
+
+// --- the telephone
+
+void TourPlayer::perform(const SetState &action)
+{
+    const bool isKept = action.kind == SetState::Kept;
+    if (isKept && (!options.stateGiven || options.stateDirectory.isEmpty())) {
+        stop(ExitBadCommandLine,
+             QStringLiteral("The script keeps its state: option 'state' must name a directory."));
+        return;
+    }
+    openTelephone(isKept ? options.stateDirectory : QString());
+    if (!owner)
+        return;
+    if (action.kind == SetState::ReadyMade && telephone)
+        checkStatus(telephone->addHistory(handset::simulated::readyMadeHistory(clock->wallMs())));
+    freshDisplay();
+}
+
+// The telephone before it must be gone first: it may hold the same directory.
+void TourPlayer::openTelephone(const QString &directory)
+{
+    screens.close();
+    handset::install(nullptr);
+    telephone = nullptr;
+    owner.reset();
+    const handset::Opened opened = handset::open({options.backend, directory, clock});
+    if (!opened.notice.isEmpty())
+        errors << place << ": " << opened.notice << Qt::endl;
+    if (!opened.handset) {
+        stop(ExitNoTelephone, opened.error);
+        return;
+    }
+    owner = opened.handset;
+    telephone = dynamic_cast<handset::simulated::SimulatedTelephone *>(owner.get());
+    handset::install(owner);
+}
+
+void TourPlayer::freshDisplay()
+{
+    met = {};
+    menu = std::make_unique<MenuScreen>(&display);
+    QObject::connect(menu.get(), &MenuScreen::chosen, &screens, &ScreenHost::open);
+    menu->show();
+    menu->takeFocus();
+    lookAgain();
+}
+
+void TourPlayer::perform(const MakeCall &action)
+{
+    const bool dialed = action.direction == CallDirection::Dialed;
+    if (!telephone)
+        return checkStatus(handset::NotAvailable);
+    checkStatus(dialed ? telephone->dial(action.number, action.kind) : telephone->ring(action.number));
+    checkStatus(dialed ? telephone->remoteAnswer() : telephone->answer());
+    clock->advance(action.durationMs);
+    checkStatus(telephone->hangUp());
+    lookAgain();
+}
+
+void TourPlayer::perform(const Dial &action)
+{
+    checkStatus(telephone ? telephone->dial(action.number, action.kind) : int{handset::NotAvailable});
+    lookAgain();
+}
+
+void TourPlayer::perform(const Ring &action)
+{
+    checkStatus(telephone ? telephone->ring(action.number) : int{handset::NotAvailable});
+    lookAgain();
+}
+
+void TourPlayer::perform(const Answer &)
+{
+    if (!telephone)
+        return checkStatus(handset::NotAvailable);
+    const bool weCalled = telephone->lineState() == LineState::Dialing;
+    checkStatus(weCalled ? telephone->remoteAnswer() : telephone->answer());
+    lookAgain();
+}
+
+void TourPlayer::perform(const HangUp &)
+{
+    checkStatus(telephone ? telephone->hangUp() : int{handset::NotAvailable});
+    lookAgain();
+}
+
+void TourPlayer::perform(const MoveClock &action)
+{
+    clock->advance(action.ms);
+    lookAgain();
+}
+
+void TourPlayer::checkStatus(int status)
+{
+    if (status == handset::Success)
+        return;
+    ++expectations;
+    fail(QStringLiteral("the telephone does it"), QStringLiteral("status %1").arg(status));
+}
+
+// --- the phone
+
+void TourPlayer::perform(const Open &action)
+{
+    screens.close();
+    if (!screens.open(action.screen)) {
+        const char *name = screenTable[static_cast<std::size_t>(action.screen)].name;
+        fail(QStringLiteral("screen %1").arg(QLatin1StringView(name)),
+             QStringLiteral("no screen from the plug-in"));
+    }
+    lookAgain();
+}
+
+void TourPlayer::perform(const Press &action)
+{
+    for (const int key : action.keys) {
+        photographWhatIsMet();
+        if (stopped)
+            return;
+        ZApplication::pressKey(key);
+        lookAgain();
+    }
+}
+
+// --- looking
+
+ScreenText TourPlayer::read() const
+{
+    ScreenText text = readScreen();
+    if (telephone)
+        text.facts.append({QStringLiteral("line"), -1, {lineWord(telephone->lineState())}});
+    return text;
+}
+
+void TourPlayer::lookAgain()
+{
+    settle();
+    const ScreenText now = read();
+    if (now.isSameAs(met))
+        return;
+    met = now;
+    photographDue = true;
+    print(now);
+}
+
+void TourPlayer::photographWhatIsMet()
+{
+    if (!photographDue)
+        return;
+    photographDue = false;
+    QString file;
+    if (const QString problem = photographs.takeNumbered(display.photograph(), met.name, file); !problem.isEmpty())
+        stop(ExitNotWritten, problem);
+    else
+        output << "  photo " << file << "\n\n";
+}
+
+void TourPlayer::perform(const Photo &action)
+{
+    photographDue = false;
+    QString file;
+    if (const QString problem = photographs.takeNamed(display.photograph(), action.name, file); !problem.isEmpty())
+        stop(ExitNotWritten, problem);
+    else
+        output << "  photo " << file << "\n\n";
+}
+
+void TourPlayer::perform(const Show &)
+{
+    print(read());
+}
+
+void TourPlayer::print(const ScreenText &text)
+{
+    for (const Fact &fact : text.facts)
+        output << "  " << fact.line() << '\n';
+    output.flush();
+}
+
+void TourPlayer::perform(const Expect &action)
+{
+    ++expectations;
+    const ScreenText now = read();
+    const Fact *seen = now.find(action.fact.word, action.fact.number);
+    if (action.absent ? !seen : seen && *seen == action.fact)
+        return;
+    const Fact named{action.fact.word, action.fact.number, {}};
+    const QString nothing = QStringLiteral("no ") + named.line();
+    fail(action.absent ? nothing : action.fact.line(), seen ? seen->line() : nothing);
+}
+
+void TourPlayer::fail(const QString &expected, const QString &seen)
+{
+    ++failures;
+    output.flush();
+    errors << place << ": expected: " << expected << '\n' << place << ": seen:     " << seen << Qt::endl;
+}
+
+void TourPlayer::stop(int code, const QString &message)
+{
+    stopped = code;
+    output.flush();
+    errors << place << ": " << message << Qt::endl;
+}
+
+} // namespace host::tour

@@ -1,0 +1,79 @@
+// Plays the script of a tour on a phone without a window around it.
+#pragma once
+
+#include "MenuScreen.h"
+#include "Options.h"
+#include "Photographs.h"
+#include "ScreenHost.h"
+#include "SimulatedTelephone.h"
+#include "TourScript.h"
+#include "phone/Display.h"
+
+#include <memory>
+
+class QTextStream;
+
+namespace handset {
+class ManualClock;
+}
+
+namespace host::tour {
+
+class TourPlayer
+{
+public:
+    /// `library` is loaded; the streams and it outlive the player.
+    TourPlayer(const ScreenLibrary &library, const Options &options, QTextStream &output, QTextStream &errors);
+    ~TourPlayer();
+
+    /// Plays `script`, which has no mistakes, and answers an ExitCode.
+    int play(const Script &script);
+
+private:
+    void perform(const SetState &action);
+    void perform(const MakeCall &action);
+    void perform(const Dial &action);
+    void perform(const Ring &action);
+    void perform(const Answer &action);
+    void perform(const HangUp &action);
+    void perform(const MoveClock &action);
+    void perform(const Open &action);
+    void perform(const Press &action);
+    void perform(const Expect &action);
+    void perform(const Photo &action);
+    void perform(const Show &action);
+
+    void playStep(const Step &step);
+    void openTelephone(const QString &directory);
+    void freshDisplay();
+    void lookAgain();
+    void photographWhatIsMet();
+    void print(const ScreenText &text);
+    ScreenText read() const;
+    void checkStatus(int status);
+    void fail(const QString &expected, const QString &seen);
+    void stop(int code, const QString &message);
+    int finish();
+
+    const ScreenLibrary &library;
+    const Options &options;
+    QTextStream &output;
+    QTextStream &errors;
+    Photographs photographs;
+
+    std::shared_ptr<handset::ManualClock> clock;
+    std::shared_ptr<handset::Handset> owner;
+    handset::simulated::SimulatedTelephone *telephone = nullptr;
+    Display display;
+    std::unique_ptr<MenuScreen> menu;
+    ScreenHost screens;
+
+    QString place; // of the step that is played
+    ScreenText met;
+    bool photographDue = false;
+    int expectations = 0;
+    int failures = 0;
+    int stopped = 0; // the exit code that ended the tour early
+};
+
+} // namespace host::tour

@@ -1,0 +1,387 @@
+#include "TourScript.h"
+
+#include "ScreenTable.h"
+
+#include <QtCore/QRegularExpression>
+
+#include <array>
+#include <optional>
+
+namespace host::tour {
+
+namespace {
+
+using handset::CallDirection;
+using handset::CallKind;
+
+constexpr qint64 longestMs = qint64{100} * 365 * 24 * 3600 * 1000;
+constexpr int mostRepeats = 1000;
+constexpr const char *defaultNumber = "5550123";
+
+/// What a line came to: an action, or what is wrong with it.
+struct Parsed {
+    std::optional<Action> action;
+    QString mistake;
+
+    static Parsed wrong(const QString &what) { return {{}, what}; }
+};
+
+template <typename T>
+Parsed done(T action)
+{
+    return {Action(std::move(action)), {}};
+}
+
+struct KeyName {
+    const char *name;
+    int qtKey;
+};
+
+constexpr std::array<KeyName, 8> keyNames{{
+    {"up", Qt::Key_Up},
+    {"down", Qt::Key_Down},
+    {"select", Qt::Key_Select},
+    {"left", Qt::Key_Context1},
+    {"right", Qt::Key_Context2},
+    {"clear", Qt::Key_Clear},
+    {"*", Qt::Key_Asterisk},
+    {"#", Qt::Key_NumberSign},
+}};
+
+int keyOf(const QString &name)
+{
+    for (const KeyName &key : keyNames) {
+        if (name == QLatin1StringView(key.name))
+            return key.qtKey;
+    }
+    const bool isDigit = name.size() == 1 && name.front() >= u'0' && name.front() <= u'9';
+    return isDigit ? Qt::Key_0 + name.front().digitValue() : 0;
+}
+
+QStringList wordsOf(const QString &text)
+{
+    return text.split(u' ', Qt::SkipEmptyParts);
+}
+
+Parsed parseState(const QString &rest)
+{
+    if (rest == QLatin1StringView("empty"))
+        return done(SetState{SetState::Empty});
+    if (rest == QLatin1StringView("ready-made"))
+        return done(SetState{SetState::ReadyMade});
+    if (rest == QLatin1StringView("kept"))
+        return done(SetState{SetState::Kept});
+    return Parsed::wrong(QStringLiteral("the state is \"empty\", \"ready-made\" or \"kept\""));
+}
+
+std::optional<CallKind> kindOf(const QString &word)
+{
+    if (word == QLatin1StringView("voice"))
+        return CallKind::Voice;
+    if (word == QLatin1StringView("data"))
+        return CallKind::Data;
+    return {};
+}
+
+std::optional<CallDirection> directionOf(const QString &word)
+{
+    if (word == QLatin1StringView("dialed"))
+        return CallDirection::Dialed;
+    if (word == QLatin1StringView("answered"))
+        return CallDirection::Answered;
+    return {};
+}
+
+Parsed parseCall(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    const auto direction = directionOf(words.value(0));
+    const auto kind = kindOf(words.value(1));
+    const qint64 duration = parseDuration(words.value(2));
+    if (!direction || !kind || duration < 0 || words.size() > 4)
+        return Parsed::wrong(QStringLiteral("a call is \"call dialed|answered voice|data DURATION [NUMBER]\""));
+    if (direction == CallDirection::Answered && kind == CallKind::Data)
+        return Parsed::wrong(QStringLiteral("data calls are dialed; the telephone answers none"));
+    return done(MakeCall{*direction, *kind, duration, words.value(3, QString::fromLatin1(defaultNumber))});
+}
+
+Parsed parseDial(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    const bool isData = words.size() == 2 && words[1] == QLatin1StringView("data");
+    if (words.size() != 1 && !isData)
+        return Parsed::wrong(QStringLiteral("dialing is \"dial NUMBER [data]\""));
+    return done(Dial{words[0], isData ? CallKind::Data : CallKind::Voice});
+}
+
+Parsed parseRing(const QString &rest)
+{
+    if (wordsOf(rest).size() > 1)
+        return Parsed::wrong(QStringLiteral("an incoming call is \"ring [NUMBER]\""));
+    return done(Ring{rest});
+}
+
+template <typename Bare>
+Parsed parseBare(const QString &rest)
+{
+    return rest.isEmpty() ? done(Bare{}) : Parsed::wrong(QStringLiteral("nothing may follow this word"));
+}
+
+Parsed parseClock(const QString &rest)
+{
+    const qint64 ms = rest.startsWith(u'+') ? parseDuration(rest.mid(1)) : -1;
+    if (ms < 0)
+        return Parsed::wrong(QStringLiteral("the clock goes on by \"clock +1h2m3s\", \"clock +65s\""));
+    return done(MoveClock{ms});
+}
+
+Parsed parseOpen(const QString &rest)
+{
+    const int index = screenIndex(rest);
+    return index < 0 ? Parsed::wrong(QStringLiteral("there is no screen \"%1\"").arg(rest)) : done(Open{index});
+}
+
+// "down" or "down*3"; false when it is neither.
+bool appendKeys(const QString &word, QList<int> &keys)
+{
+    const qsizetype star = word.indexOf(u'*', 1);
+    bool isNumber = true;
+    const int times = star < 0 ? 1 : word.mid(star + 1).toInt(&isNumber);
+    const int key = keyOf(star < 0 ? word : word.left(star));
+    if (!key || !isNumber || times < 1 || times > mostRepeats)
+        return false;
+    keys.append(QList<int>(times, key));
+    return true;
+}
+
+Parsed parsePress(const QString &rest)
+{
+    Press press;
+    const QStringList words = wordsOf(rest);
+    for (const QString &word : words) {
+        if (!appendKeys(word, press.keys))
+            return Parsed::wrong(QStringLiteral("there is no key \"%1\"").arg(word));
+    }
+    return press.keys.isEmpty() ? Parsed::wrong(QStringLiteral("which key?")) : done(press);
+}
+
+// --- expectations
+
+// Splits at "|", takes the blanks around a cell away, and takes a quoted cell as it is. Nothing for bad quotes.
+class CellReader
+{
+public:
+    explicit CellReader(const QString &line)
+        : text(line)
+    {}
+
+    std::optional<QStringList> read()
+    {
+        QStringList cells;
+        do {
+            skipBlanks();
+            const auto cell = peek() == u'"' ? readQuoted() : readPlain();
+            if (!cell)
+                return {};
+            cells << *cell;
+        } while (takeBar());
+        return at == text.size() ? std::optional(cells) : std::nullopt;
+    }
+
+private:
+    QChar peek() const { return at < text.size() ? text[at] : QChar(); }
+    void skipBlanks()
+    {
+        while (peek().isSpace())
+            ++at;
+    }
+    bool takeBar()
+    {
+        skipBlanks();
+        if (peek() != u'|')
+            return false;
+        ++at;
+        return true;
+    }
+    std::optional<QString> readPlain()
+    {
+        const qsizetype start = at;
+        while (at < text.size() && text[at] != u'|')
+            ++at;
+        return text.mid(start, at - start).trimmed();
+    }
+    std::optional<QString> readQuoted()
+    {
+        QString cell = QStringLiteral("");
+        for (++at; at < text.size() && text[at] != u'"'; ++at) {
+            if (text[at] != u'\\')
+                cell += text[at];
+            else if (++at < text.size())
+                cell += text[at] == u'n' ? QChar(u'\n') : text[at];
+        }
+        if (at >= text.size())
+            return {};
+        ++at;
+        return cell;
+    }
+
+    const QString text;
+    qsizetype at = 0;
+};
+
+struct FactForm {
+    const char *word;
+    bool numbered;
+    int cells; ///< 0 none, 1 one, 2 two; -1 one or two
+};
+
+constexpr std::array<FactForm, 10> factForms{{
+    {"title", false, 1},
+    {"header", false, 1},
+    {"message", false, 1},
+    {"row", true, -1},
+    {"separator", true, 1},
+    {"rows", false, 1},
+    {"disabled", true, 0},
+    {"focus", false, 1},
+    {"softkeys", false, 2},
+    {"line", false, 1},
+}};
+
+const FactForm *formOf(const QString &word)
+{
+    for (const FactForm &form : factForms) {
+        if (word == QLatin1StringView(form.word))
+            return &form;
+    }
+    return nullptr;
+}
+
+// The first word of `text`, which is cut off it.
+QString takeWord(QString &text)
+{
+    const qsizetype blank = text.indexOf(u' ');
+    const QString word = text.left(blank);
+    text = blank < 0 ? QString() : text.mid(blank + 1).trimmed();
+    return word;
+}
+
+bool cellCountFits(const FactForm &form, qsizetype count)
+{
+    return form.cells < 0 ? count == 1 || count == 2 : count == form.cells;
+}
+
+Parsed parseCells(Expect expect, const FactForm &form, const QString &rest)
+{
+    const auto cells = CellReader(rest).read();
+    if (!cells)
+        return Parsed::wrong(QStringLiteral("a double quote is missing or too many"));
+    if (form.cells != 0)
+        expect.fact.cells = *cells;
+    else if (!rest.isEmpty())
+        return Parsed::wrong(QStringLiteral("nothing may follow the number"));
+    if (!cellCountFits(form, expect.fact.cells.size()))
+        return Parsed::wrong(QStringLiteral("\"%1\" does not have %2 texts between bars")
+                                 .arg(expect.fact.word)
+                                 .arg(expect.fact.cells.size()));
+    return done(expect);
+}
+
+Parsed parseExpect(const QString &all)
+{
+    QString rest = all;
+    Expect expect;
+    expect.fact.word = takeWord(rest);
+    if (expect.fact.word == QLatin1StringView("no")) {
+        expect.absent = true;
+        expect.fact.word = takeWord(rest);
+    }
+    const FactForm *form = formOf(expect.fact.word);
+    if (!form)
+        return Parsed::wrong(QStringLiteral("nothing on the display is called \"%1\"").arg(expect.fact.word));
+    if (form->numbered) {
+        bool isNumber = false;
+        expect.fact.number = takeWord(rest).toInt(&isNumber);
+        if (!isNumber || expect.fact.number < 0)
+            return Parsed::wrong(QStringLiteral("\"%1\" needs a number").arg(expect.fact.word));
+    }
+    if (expect.absent)
+        return rest.isEmpty() ? done(expect) : Parsed::wrong(QStringLiteral("\"no\" takes no text"));
+    return parseCells(expect, *form, rest);
+}
+
+Parsed parsePhoto(const QString &rest)
+{
+    static const QRegularExpression fileName(QStringLiteral("^[A-Za-z0-9_][A-Za-z0-9_.-]*$"));
+    if (!fileName.match(rest).hasMatch())
+        return Parsed::wrong(QStringLiteral("a photograph's name is letters, digits, \"-\", \"_\" and \".\""));
+    return done(Photo{rest});
+}
+
+struct Command {
+    const char *word;
+    Parsed (*parse)(const QString &rest);
+};
+
+constexpr std::array<Command, 12> commands{{
+    {"state", &parseState},
+    {"call", &parseCall},
+    {"dial", &parseDial},
+    {"ring", &parseRing},
+    {"answer", &parseBare<Answer>},
+    {"hangup", &parseBare<HangUp>},
+    {"clock", &parseClock},
+    {"open", &parseOpen},
+    {"press", &parsePress},
+    {"expect", &parseExpect},
+    {"photo", &parsePhoto},
+    {"show", &parseBare<Show>},
+}};
+static_assert(commands.size() == std::variant_size_v<Action>);
+
+Parsed parseLine(const QString &line)
+{
+    QString rest = line;
+    const QString word = takeWord(rest);
+    for (const Command &command : commands) {
+        if (word == QLatin1StringView(command.word))
+            return command.parse(rest);
+    }
+    return Parsed::wrong(QStringLiteral("unknown word \"%1\"").arg(word));
+}
+
+} // namespace
+
+Script parseScript(const QString &name, const QString &text)
+{
+    Script script;
+    script.name = name;
+    int number = 0;
+    const QStringList lines = text.split(u'\n');
+    for (const QString &raw : lines) {
+        ++number;
+        const QString line = raw.trimmed();
+        if (line.isEmpty() || line.startsWith(u'#'))
+            continue;
+        Parsed parsed = parseLine(line);
+        if (parsed.action)
+            script.steps.append({number, line, *parsed.action});
+        else
+            script.mistakes << QStringLiteral("%1: %2").arg(script.place(number), parsed.mistake);
+    }
+    return script;
+}
+
+qint64 parseDuration(const QString &text)
+{
+    static const QRegularExpression form(
+        QStringLiteral("^(?:(\\d{1,9})h)?(?:(\\d{1,9})m(?!s))?(?:(\\d{1,9})s)?(?:(\\d{1,9})ms)?$"));
+    const QRegularExpressionMatch match = form.match(text);
+    if (text.isEmpty() || !match.hasMatch())
+        return -1;
+    const auto part = [&](int index, qint64 unitMs) { return match.captured(index).toLongLong() * unitMs; };
+    const qint64 ms = part(1, 3600000) + part(2, 60000) + part(3, 1000) + part(4, 1);
+    return ms <= longestMs ? ms : -1;
+}
+
+} // namespace host::tour

@@ -1,0 +1,78 @@
+// The script of a tour: what to do, what to see.
+#pragma once
+
+#include "Call.h"
+#include "ScreenText.h"
+
+#include <QtCore/QList>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <variant>
+
+namespace host::tour {
+
+struct SetState {
+    enum Kind { Empty, ReadyMade, Kept } kind = Empty;
+};
+struct MakeCall {
+    handset::CallDirection direction = handset::CallDirection::Dialed;
+    handset::CallKind kind = handset::CallKind::Voice;
+    qint64 durationMs = 0;
+    QString number;
+};
+struct Dial {
+    QString number;
+    handset::CallKind kind = handset::CallKind::Voice;
+};
+struct Ring {
+    QString number; ///< empty is withheld
+};
+struct Answer {
+};
+struct HangUp {
+};
+struct MoveClock {
+    qint64 ms = 0;
+};
+struct Open {
+    int screen = 0; ///< row of the screen table
+};
+struct Press {
+    QList<int> keys; ///< Qt::Key
+};
+struct Expect {
+    Fact fact;
+    bool absent = false; ///< the fact must not be there
+};
+struct Photo {
+    QString name; ///< file name without its ending
+};
+struct Show {
+};
+
+using Action =
+    std::variant<SetState, MakeCall, Dial, Ring, Answer, HangUp, MoveClock, Open, Press, Expect, Photo, Show>;
+
+struct Step {
+    int line = 0;   ///< in the script, from 1
+    QString source; ///< as written, for the transcript
+    Action action;
+};
+
+struct Script {
+    QString name; ///< how messages call it: as given on the command line, the shipped one "tour.tour"
+    QList<Step> steps;
+    QStringList mistakes; ///< "name:line: what is wrong", one for each line that is not understood
+
+    /// "name:line"
+    QString place(int line) const { return QStringLiteral("%1:%2").arg(name).arg(line); }
+};
+
+/// Reads the text of a script. Every line is looked at, so that all mistakes are told at once.
+Script parseScript(const QString &name, const QString &text);
+
+/// "1h2m3s", "65s", "250ms" in milliseconds, 0 or more; -1 when it is no duration or more than 100 years.
+qint64 parseDuration(const QString &text);
+
+} // namespace host::tour
