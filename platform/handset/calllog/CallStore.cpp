@@ -1,7 +1,6 @@
 #include "CallStore.h"
 
 #include "Saturating.h"
-#include "Schema.h"
 #include "StateDirectory.h"
 #include "Status.h"
 
@@ -21,8 +20,8 @@ Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
     column " = CASE WHEN " column " > 9223372036854775807 - :ms THEN 9223372036854775807 ELSE " column " + :ms "  \
            "END"
 
-constexpr auto insertRowSql = "INSERT INTO calls (id, kind, direction, number, started_ms, duration_ms, state)"
-                              " VALUES (:id, :kind, :direction, :number, :started, :duration, :state)";
+constexpr auto insertRowSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, state)"
+                              " VALUES (:kind, :direction, :number, :started, :duration, :state)";
 constexpr auto addTimeSql =
     "UPDATE calls SET state = :state, " KAV_SATURATING_SUM("duration_ms") " WHERE id = :id";
 constexpr auto addToTotalsSql =
@@ -64,17 +63,16 @@ int CallStore::status(bool succeeded) const
     return StorageFailed;
 }
 
-bool CallStore::insertRow(const QVariant &id, const PastCall &call, int state)
+bool CallStore::insertRow(const PastCall &call, CallState state)
 {
     // A null string would be a NULL.
     const QString number = call.number.isNull() ? QStringLiteral("") : call.number;
-    insertStatement.bindValue(QStringLiteral(":id"), id);
     insertStatement.bindValue(QStringLiteral(":kind"), static_cast<int>(call.kind));
     insertStatement.bindValue(QStringLiteral(":direction"), static_cast<int>(call.direction));
     insertStatement.bindValue(QStringLiteral(":number"), number);
     insertStatement.bindValue(QStringLiteral(":started"), call.startWallMs);
     insertStatement.bindValue(QStringLiteral(":duration"), call.durationMs);
-    insertStatement.bindValue(QStringLiteral(":state"), state);
+    insertStatement.bindValue(QStringLiteral(":state"), static_cast<int>(state));
     return database->run(insertStatement);
 }
 
@@ -86,9 +84,9 @@ bool CallStore::addToTotals(Counter own, qint64 ms, bool toLast)
     return database->run(totalsStatement);
 }
 
-bool CallStore::addTime(const UnwrittenTime &time, int state)
+bool CallStore::addTime(const UnwrittenTime &time, CallState state)
 {
-    timeStatement.bindValue(QStringLiteral(":state"), state);
+    timeStatement.bindValue(QStringLiteral(":state"), static_cast<int>(state));
     timeStatement.bindValue(QStringLiteral(":ms"), time.ms);
     timeStatement.bindValue(QStringLiteral(":id"), time.call);
     return database->run(timeStatement) && addToTotals(time.own, time.ms, true);
@@ -97,12 +95,7 @@ bool CallStore::addTime(const UnwrittenTime &time, int state)
 bool CallStore::insertPastCall(const PastCall &call)
 {
     const CallState state = call.durationMs > 0 ? CallState::Finished : CallState::NotConnected;
-    return insertRow(QVariant(), call, static_cast<int>(state));
-}
-
-bool CallStore::putRow(qint64 id, const PastCall &call, int state)
-{
-    return insertRow(id, call, state);
+    return insertRow(call, state);
 }
 
 bool CallStore::putTotal(Counter counter, qint64 ms)
@@ -118,7 +111,7 @@ int CallStore::beginCall(const PastCall &call, qint64 &id)
     row.durationMs = 0;
     qint64 inserted = 0;
     const bool done = database->inTransaction([&] {
-        if (!insertRow(QVariant(), row, static_cast<int>(CallState::Running)))
+        if (!insertRow(row, CallState::Running))
             return false;
         inserted = insertStatement.lastInsertId().toLongLong();
         return putTotal(Counter::Last, 0);
@@ -130,12 +123,12 @@ int CallStore::beginCall(const PastCall &call, qint64 &id)
 
 int CallStore::countTime(const UnwrittenTime &time)
 {
-    return status(database->inTransaction([&] { return addTime(time, static_cast<int>(CallState::Running)); }));
+    return status(database->inTransaction([&] { return addTime(time, CallState::Running); }));
 }
 
 int CallStore::finishCall(const UnwrittenTime &time)
 {
-    return status(database->inTransaction([&] { return addTime(time, static_cast<int>(CallState::Finished)); }));
+    return status(database->inTransaction([&] { return addTime(time, CallState::Finished); }));
 }
 
 int CallStore::addUnconnected(const PastCall &call)
@@ -182,7 +175,7 @@ int CallStore::total(Counter counter, qint64 &ms)
 int CallStore::reset(std::span<const Counter> counters, const UnwrittenTime *running)
 {
     return status(database->inTransaction([&] {
-        if (running && !addTime(*running, static_cast<int>(CallState::Running)))
+        if (running && !addTime(*running, CallState::Running))
             return false;
         for (const Counter counter : counters)
             if (!putTotal(counter, 0))

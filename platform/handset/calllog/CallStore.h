@@ -4,6 +4,7 @@
 #include "Call.h"
 #include "Counter.h"
 #include "Database.h"
+#include "Schema.h"
 
 #include <QtCore/QList>
 
@@ -51,16 +52,15 @@ public:
     /// Counts the time of the running call (null for none), then zeroes `counters`.
     int reset(std::span<const Counter> counters, const UnwrittenTime *running);
 
-    /// For salvage, in the transaction of the caller: puts a row as it is, or overwrites a total.
-    bool putRow(qint64 id, const PastCall &call, int state);
+    /// For salvage, in the transaction of the caller.
     bool putTotal(Counter counter, qint64 ms);
     Database &connection() { return *database; }
 
 private:
     CallStore() = default;
     bool prepareStatements();
-    bool insertRow(const QVariant &id, const PastCall &call, int state);
-    bool addTime(const UnwrittenTime &time, int state);
+    bool insertRow(const PastCall &call, CallState state);
+    bool addTime(const UnwrittenTime &time, CallState state);
     bool addToTotals(Counter own, qint64 ms, bool toLast);
     bool insertPastCall(const PastCall &call);
     int status(bool succeeded) const;

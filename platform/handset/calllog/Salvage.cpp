@@ -15,6 +15,14 @@ namespace {
 
 constexpr auto rowsSql =
     "SELECT id, kind, direction, number, started_ms, duration_ms, state FROM calls ORDER BY id";
+constexpr auto putRowSql =
+    "INSERT OR IGNORE INTO calls (id, kind, direction, number, started_ms, duration_ms, state)"
+    " VALUES (?, ?, ?, ?, ?, ?, ?)";
+
+enum Column { Id, Kind, Direction, Number, Started, Duration, State, ColumnCount };
+
+/// No log gets that far; a damaged page may.
+constexpr qint64 highestId = 1'000'000'000'000;
 
 using Totals = std::array<qint64, counterNames.size()>;
 
@@ -26,29 +34,25 @@ public:
         , target(fresh)
     {}
 
-    bool run()
-    {
-        // From both ends, so that one damaged page in the middle costs no more than its own calls.
-        return copyRows(QString::fromLatin1(rowsSql), false) &&
-               copyRows(QString::fromLatin1(rowsSql) + QStringLiteral(" DESC"), true) && putTotals();
-    }
-
+    bool run();
     qint64 copied() const { return count; }
     bool hasReadTotals() const { return totalsRead; }
 
 private:
-    bool copyRows(const QString &select, bool descending);
-    bool copyRow(const QSqlQuery &row);
-    void countRow(qint64 id, const PastCall &call);
+    enum class Passed { ToTheEnd, UpToTheDamage, NotWritten };
+
+    Passed copyRows(const QString &select, bool untilKnown);
+    bool copyRow(const QSqlQuery &row, bool &isNew);
+    void countRow(const QSqlQuery &row);
     bool putTotals();
     std::optional<Totals> readTotals();
 
     Database &source;
     CallStore &target;
-    qint64 highest = std::numeric_limits<qint64>::min(); ///< id copied on the way up
+    QSqlQuery putRow;
     qint64 count = 0;
     bool totalsRead = false;
-    qint64 lastConnected = std::numeric_limits<qint64>::min(); ///< id
+    qint64 lastConnected = 0; ///< id
     Totals counted{};
 };
 
@@ -57,56 +61,72 @@ qint64 &totalOf(Totals &totals, Counter counter)
     return totals[static_cast<std::size_t>(counter)];
 }
 
+// What a damaged page yields may have any type, or be a row of nothing at all.
 bool isPlausible(const QSqlQuery &row)
 {
-    const auto within = [&](int column, qint64 least, qint64 most) {
-        bool isNumber = false;
-        const qint64 value = row.value(column).toLongLong(&isNumber);
-        return isNumber && value >= least && value <= most;
-    };
+    constexpr qint64 minimum = std::numeric_limits<qint64>::min();
     constexpr qint64 maximum = std::numeric_limits<qint64>::max();
-    return within(1, 0, 1) && within(2, 0, 1) && within(4, std::numeric_limits<qint64>::min(), maximum) &&
-           within(5, 0, maximum) && within(6, 0, 3);
+    const auto within = [&](Column column, qint64 least, qint64 most) {
+        const QVariant value = row.value(column);
+        const bool isInteger = value.typeId() == QMetaType::LongLong && !value.isNull();
+        return isInteger && value.toLongLong() >= least && value.toLongLong() <= most;
+    };
+    const QVariant number = row.value(Number);
+    return within(Id, 1, highestId) && within(Kind, 0, 1) && within(Direction, 0, 1) &&
+           number.typeId() == QMetaType::QString && !number.isNull() && within(Started, minimum, maximum) &&
+           within(Duration, 0, maximum) && within(State, 0, 3);
 }
 
-bool Salvager::copyRows(const QString &select, bool descending)
+bool Salvager::run()
+{
+    const QString upwards = QString::fromLatin1(rowsSql);
+    if (!target.connection().prepare(putRow, QString::fromLatin1(putRowSql)))
+        return false;
+    Passed passed = copyRows(upwards, false);
+    // From the other end as well, so that one damaged page in the middle costs no more than its own calls.
+    if (passed == Passed::UpToTheDamage)
+        passed = copyRows(upwards + QStringLiteral(" DESC"), true);
+    return passed != Passed::NotWritten && putTotals();
+}
+
+Salvager::Passed Salvager::copyRows(const QString &select, bool untilKnown)
 {
     QSqlQuery rows = source.query();
-    rows.exec(select);
-    while (rows.next()) { // also ends where the damage begins
-        const qint64 id = rows.value(0).toLongLong();
-        if (descending ? id <= highest : id < highest)
+    bool isNew = rows.exec(select);
+    while (rows.next()) {
+        if (isPlausible(rows) && !copyRow(rows, isNew))
+            return Passed::NotWritten;
+        if (untilKnown && !isNew)
             break;
-        if (isPlausible(rows) && !copyRow(rows))
-            return false;
-        if (!descending)
-            highest = id;
     }
-    return true;
+    return rows.lastError().isValid() ? Passed::UpToTheDamage : Passed::ToTheEnd;
 }
 
-bool Salvager::copyRow(const QSqlQuery &row)
+bool Salvager::copyRow(const QSqlQuery &row, bool &isNew)
 {
-    const PastCall call{static_cast<CallKind>(row.value(1).toInt()),
-                        static_cast<CallDirection>(row.value(2).toInt()), row.value(3).toString(),
-                        row.value(4).toLongLong(), row.value(5).toLongLong()};
-    const qint64 id = row.value(0).toLongLong();
-    const auto state = static_cast<CallState>(row.value(6).toInt());
-    if (!target.putRow(id, call, static_cast<int>(state)))
+    for (int column = 0; column < ColumnCount; ++column)
+        putRow.bindValue(column, row.value(column));
+    if (!target.connection().run(putRow))
         return false;
-    if (state != CallState::NotConnected)
-        countRow(id, call);
-    ++count;
+    isNew = putRow.numRowsAffected() > 0;
+    if (isNew)
+        countRow(row);
     return true;
 }
 
-void Salvager::countRow(qint64 id, const PastCall &call)
+void Salvager::countRow(const QSqlQuery &row)
 {
-    for (const Counter counter : {ownCounter(call.kind, call.direction), Counter::All, Counter::Lifetime})
-        totalOf(counted, counter) = saturatingSum(totalOf(counted, counter), call.durationMs);
-    if (id >= lastConnected) {
-        lastConnected = id;
-        totalOf(counted, Counter::Last) = call.durationMs;
+    ++count;
+    if (row.value(State).toInt() == static_cast<int>(CallState::NotConnected))
+        return;
+    const Counter own = ownCounter(static_cast<CallKind>(row.value(Kind).toInt()),
+                                   static_cast<CallDirection>(row.value(Direction).toInt()));
+    const qint64 duration = row.value(Duration).toLongLong();
+    for (const Counter counter : {own, Counter::All, Counter::Lifetime})
+        totalOf(counted, counter) = saturatingSum(totalOf(counted, counter), duration);
+    if (row.value(Id).toLongLong() > lastConnected) {
+        lastConnected = row.value(Id).toLongLong();
+        totalOf(counted, Counter::Last) = duration;
     }
 }
 

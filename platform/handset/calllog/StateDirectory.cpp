@@ -47,8 +47,9 @@ int makeDirectories(const QString &path)
     }
     if (::mkdir(encoded(path).constData(), 0700) == 0)
         return 0;
-    const int error = errno;
-    return QFileInfo(path).isDir() ? 0 : error;
+    if (errno != EEXIST)
+        return errno;
+    return QFileInfo(path).isDir() ? 0 : ENOTDIR; // another process may have been quicker
 }
 
 // A descriptor, or minus an errno. The lock file is never removed: another process may be about to lock it.

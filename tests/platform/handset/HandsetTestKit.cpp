@@ -1,0 +1,173 @@
+#include "HandsetTestKit.h"
+
+#include "CallLog.h"
+#include "CallService.h"
+#include "DataCalls.h"
+#include "Status.h"
+
+#include <QtCore/QDir>
+#include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlQuery>
+
+namespace handset::test {
+
+namespace {
+
+quint64 seconds(const CallTime &time)
+{
+    return quint64{time.hours} * 3600 + quint64{time.minutes} * 60 + time.seconds;
+}
+
+template <typename Role>
+quint64 query(Role &role, int (Role::*operation)(CallTime &))
+{
+    CallTime time;
+    const int status = (role.*operation)(time);
+    if (status != Success)
+        QTest::qFail(qPrintable(QStringLiteral("a query answered %1").arg(status)), __FILE__, __LINE__);
+    return seconds(time);
+}
+
+quint64 dataSeconds(DataCalls &calls)
+{
+    quint32 total = 0;
+    const int status = calls.totalDuration(total);
+    if (status != Success)
+        QTest::qFail(qPrintable(QStringLiteral("the data-call total answered %1").arg(status)), __FILE__,
+                     __LINE__);
+    return total;
+}
+
+} // namespace
+
+char *toString(const SixFigures &figures)
+{
+    return QTest::toString(QStringLiteral("last %1, dialed %2, answered %3, data %4, all %5, lifetime %6")
+                               .arg(figures.last)
+                               .arg(figures.dialed)
+                               .arg(figures.answered)
+                               .arg(figures.data)
+                               .arg(figures.all)
+                               .arg(figures.lifetime));
+}
+
+SixFigures figuresOf(Handset &handset)
+{
+    CallLog &log = *handset.callLog();
+    return {query(log, &CallLog::lastCallTime),
+            query(log, &CallLog::dialedCallsTime),
+            query(log, &CallLog::answeredCallsTime),
+            dataSeconds(*handset.dataCalls()),
+            query(*handset.callService(), &CallService::totalCallTime),
+            query(log, &CallLog::lifetimeCallsTime)};
+}
+
+StateDir::StateDir()
+    : temporary(QCoreApplication::applicationDirPath() + QStringLiteral("/state-XXXXXX"))
+{}
+
+QStringList StateDir::names() const
+{
+    QStringList found = QDir(path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
+    found.removeAll(QStringLiteral("lock"));
+    return found;
+}
+
+Phone::Phone(const QString &stateDirectory, std::shared_ptr<ManualClock> shared)
+    : clock(shared ? std::move(shared) : std::make_shared<ManualClock>(qint64{1'800'000'000'000}))
+{
+    Settings settings;
+    settings.stateDirectory = stateDirectory;
+    settings.clock = clock;
+    opened = open(settings);
+    telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
+}
+
+bool Phone::dial(CallKind kind, const QString &number)
+{
+    return telephone->dial(number, kind) == Success && telephone->remoteAnswer() == Success;
+}
+
+bool Phone::answer(const QString &number)
+{
+    return telephone->ring(number) == Success && telephone->answer() == Success;
+}
+
+bool Phone::dialed(qint64 ms, CallKind kind, const QString &number)
+{
+    if (!dial(kind, number))
+        return false;
+    clock->advance(ms);
+    return telephone->hangUp() == Success;
+}
+
+bool Phone::answered(qint64 ms, const QString &number)
+{
+    if (!answer(number))
+        return false;
+    clock->advance(ms);
+    return telephone->hangUp() == Success;
+}
+
+void Phone::close()
+{
+    telephone = nullptr;
+    opened = {};
+}
+
+LogFile::LogFile(const QString &file)
+{
+    static int count = 0;
+    name = QStringLiteral("test-%1").arg(++count);
+    QSqlDatabase connection = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+    connection.setDatabaseName(file);
+    if (!connection.open())
+        QTest::qFail("the database cannot be opened", __FILE__, __LINE__);
+}
+
+LogFile::~LogFile()
+{
+    QSqlDatabase::database(name, false).close();
+    QSqlDatabase::removeDatabase(name);
+}
+
+QVariant LogFile::value(const QString &select) const
+{
+    QSqlQuery query(QSqlDatabase::database(name));
+    return query.exec(select) && query.next() ? query.value(0) : QVariant();
+}
+
+QList<LoggedCall> LogFile::calls() const
+{
+    QSqlQuery query(QSqlDatabase::database(name));
+    QList<LoggedCall> rows;
+    query.exec(QStringLiteral(
+        "SELECT id, kind, direction, number, started_ms, duration_ms, state FROM calls ORDER BY id"));
+    while (query.next())
+        rows.append({query.value(0).toLongLong(), query.value(1).toInt(), query.value(2).toInt(),
+                     query.value(3).toString(), query.value(4).toLongLong(), query.value(5).toLongLong(),
+                     query.value(6).toInt()});
+    return rows;
+}
+
+bool LogFile::run(const QString &statement) const
+{
+    QSqlQuery query(QSqlDatabase::database(name));
+    return query.exec(statement);
+}
+
+bool copyState(const QString &fromDirectory, const QString &toDirectory)
+{
+    if (!QDir().mkpath(toDirectory))
+        return false;
+    for (const QString &name : {QStringLiteral("calllog.db"), QStringLiteral("calllog.db-wal")}) {
+        const QString from = fromDirectory + QLatin1Char('/') + name;
+        const QString to = toDirectory + QLatin1Char('/') + name;
+        QFile::remove(to);
+        if (QFile::exists(from) && !QFile::copy(from, to))
+            return false;
+    }
+    return true;
+}
+
+} // namespace handset::test

@@ -1,0 +1,116 @@
+// What the tests of the telephone share.
+#pragma once
+
+#include "Clock.h"
+#include "Handset.h"
+#include "SimulatedTelephone.h"
+
+#include <QtCore/QList>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <memory>
+
+namespace handset::test {
+
+inline constexpr qint64 second = 1000;
+inline constexpr qint64 minute = 60 * second;
+inline constexpr qint64 hour = 60 * minute;
+
+/// What the six queries answer, in whole seconds.
+struct SixFigures {
+    quint64 last = 0;
+    quint64 dialed = 0;
+    quint64 answered = 0;
+    quint64 data = 0;
+    quint64 all = 0;
+    quint64 lifetime = 0;
+
+    friend bool operator==(const SixFigures &, const SixFigures &) = default;
+};
+
+/// For QCOMPARE.
+char *toString(const SixFigures &figures);
+
+/// A failed query is a failed test.
+SixFigures figuresOf(Handset &handset);
+
+/// A row of the call log.
+struct LoggedCall {
+    qint64 id = 0;
+    int kind = 0;
+    int direction = 0;
+    QString number;
+    qint64 startedMs = 0;
+    qint64 durationMs = 0;
+    int state = 0;
+};
+
+/// A state directory beside the test program, on the same disk as the build, removed with the object.
+class StateDir
+{
+public:
+    StateDir();
+
+    QString path() const { return temporary.filePath(QStringLiteral("state")); }
+    QString file(const QString &name) const { return path() + QLatin1Char('/') + name; }
+    QString database() const { return file(QStringLiteral("calllog.db")); }
+    /// Beside path(), for copies.
+    QString sibling(const QString &name) const { return temporary.filePath(name); }
+    /// Of the files in path(), sorted, without the lock.
+    QStringList names() const;
+
+private:
+    QTemporaryDir temporary;
+};
+
+/// Opens the simulated telephone and drives it.
+class Phone
+{
+public:
+    /// A null clock makes a ManualClock of its own.
+    explicit Phone(const QString &stateDirectory = {}, std::shared_ptr<ManualClock> shared = nullptr);
+
+    explicit operator bool() const { return telephone; }
+    simulated::SimulatedTelephone *operator->() const { return telephone; }
+    Handset &handset() const { return *opened.handset; }
+    SixFigures figures() const { return figuresOf(*opened.handset); }
+    CallLog &log() const { return *opened.handset->callLog(); }
+    CallService &service() const { return *opened.handset->callService(); }
+    DataCalls &data() const { return *opened.handset->dataCalls(); }
+
+    /// Calls from dialing or ringing to the end; false when anything failed.
+    bool dialed(qint64 ms, CallKind kind = CallKind::Voice, const QString &number = QStringLiteral("1234"));
+    bool answered(qint64 ms, const QString &number = QStringLiteral("5678"));
+    /// The call is connected, and goes on.
+    bool dial(CallKind kind = CallKind::Voice, const QString &number = QStringLiteral("1234"));
+    bool answer(const QString &number = QStringLiteral("5678"));
+
+    void close();
+
+    std::shared_ptr<ManualClock> clock;
+    Opened opened;
+
+private:
+    simulated::SimulatedTelephone *telephone = nullptr;
+};
+
+/// Looks into a database file through a connection of its own.
+class LogFile
+{
+public:
+    explicit LogFile(const QString &file);
+    ~LogFile();
+
+    QVariant value(const QString &select) const;
+    QList<LoggedCall> calls() const;
+    bool run(const QString &statement) const;
+
+private:
+    QString name;
+};
+
+/// Copies a database and what is recorded beside it, as a crash would leave them. The directory is made.
+bool copyState(const QString &fromDirectory, const QString &toDirectory);
+
+} // namespace handset::test

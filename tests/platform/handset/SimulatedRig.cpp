@@ -1,0 +1,44 @@
+#include "HandsetRig.h"
+#include "HandsetTestKit.h"
+#include "Status.h"
+
+namespace handset::test {
+
+namespace {
+
+class SimulatedRig final : public HandsetRig
+{
+public:
+    bool open() override
+    {
+        phone = std::make_unique<Phone>(state.path(), clock);
+        return phone->opened.error.isEmpty() && phone->opened.notice.isEmpty() && *phone;
+    }
+    void close() override { phone.reset(); }
+    Handset &handset() override { return phone->handset(); }
+
+    bool begin(CallKind kind, CallDirection direction) override
+    {
+        const QString number = QStringLiteral("0301234");
+        answering = direction == CallDirection::Answered;
+        return (answering ? (*phone)->ring(number) : (*phone)->dial(number, kind)) == Success;
+    }
+    bool connectCall() override { return (answering ? (*phone)->answer() : (*phone)->remoteAnswer()) == Success; }
+    bool end() override { return (*phone)->hangUp() == Success; }
+    void pass(qint64 ms) override { clock->advance(ms); }
+
+private:
+    StateDir state;
+    std::shared_ptr<ManualClock> clock = std::make_shared<ManualClock>();
+    std::unique_ptr<Phone> phone;
+    bool answering = false;
+};
+
+} // namespace
+
+std::unique_ptr<HandsetRig> makeRig()
+{
+    return std::make_unique<SimulatedRig>();
+}
+
+} // namespace handset::test

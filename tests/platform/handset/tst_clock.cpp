@@ -1,0 +1,86 @@
+// The machine's clocks and the one that stands still.
+#include "HandsetTestKit.h"
+
+#include <QtCore/QDateTime>
+
+#include <ctime>
+
+using namespace handset;
+
+class TestClock : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void theMonotonicClockNeverGoesBack();
+    void theMonotonicClockCountsThroughSuspend();
+    void theWallClockIsUtcInEveryTimeZone_data();
+    void theWallClockIsUtcInEveryTimeZone();
+    void aManualClockStandsStillUntilItIsMoved();
+    void settingTheWallClockLeavesTheMonotonicOneAlone();
+};
+
+void TestClock::theMonotonicClockNeverGoesBack()
+{
+    const SystemClock clock;
+    qint64 previous = clock.monotonicMs();
+    for (int i = 0; i < 10000; ++i) {
+        const qint64 now = clock.monotonicMs();
+        QVERIFY(now >= previous);
+        previous = now;
+    }
+}
+
+void TestClock::theMonotonicClockCountsThroughSuspend()
+{
+    timespec before{};
+    timespec after{};
+    QCOMPARE(::clock_gettime(CLOCK_BOOTTIME, &before), 0);
+    const qint64 reading = SystemClock().monotonicMs();
+    QCOMPARE(::clock_gettime(CLOCK_BOOTTIME, &after), 0);
+    QVERIFY(reading >= qint64{before.tv_sec} * 1000 + before.tv_nsec / 1'000'000);
+    QVERIFY(reading <= qint64{after.tv_sec} * 1000 + after.tv_nsec / 1'000'000);
+}
+
+void TestClock::theWallClockIsUtcInEveryTimeZone_data()
+{
+    QTest::addColumn<QByteArray>("zone");
+    QTest::newRow("UTC") << QByteArray("UTC0");
+    QTest::newRow("east of Greenwich, by a quarter of an hour") << QByteArray("NPT-5:45");
+    QTest::newRow("west of Greenwich, in summer time") << QByteArray("NST3:30NDT,M1.1.0,M12.5.0");
+}
+
+void TestClock::theWallClockIsUtcInEveryTimeZone()
+{
+    QFETCH(QByteArray, zone);
+    qputenv("TZ", zone);
+    ::tzset();
+    const auto utc = [] { return static_cast<qint64>(::time(nullptr)) * 1000; };
+    const qint64 before = utc();
+    const qint64 reading = SystemClock().wallMs();
+    // time() may lag behind by a tick of the kernel
+    QVERIFY(reading >= before);
+    QVERIFY(reading <= utc() + 2000);
+}
+
+void TestClock::aManualClockStandsStillUntilItIsMoved()
+{
+    ManualClock clock(5000);
+    QCOMPARE(clock.monotonicMs(), qint64{0});
+    QCOMPARE(clock.wallMs(), qint64{5000});
+    clock.advance(250);
+    QCOMPARE(clock.monotonicMs(), qint64{250});
+    QCOMPARE(clock.wallMs(), qint64{5250});
+}
+
+void TestClock::settingTheWallClockLeavesTheMonotonicOneAlone()
+{
+    ManualClock clock(5000);
+    clock.advance(100);
+    clock.setWallMs(-7);
+    QCOMPARE(clock.monotonicMs(), qint64{100});
+    QCOMPARE(clock.wallMs(), qint64{-7});
+}
+
+QTEST_GUILESS_MAIN(TestClock)
+#include "tst_clock.moc"

@@ -1,0 +1,333 @@
+// What every backend must do alike, written against the interfaces alone.
+#include "CallLog.h"
+#include "CallService.h"
+#include "DataCalls.h"
+#include "HandsetRig.h"
+#include "HandsetTestKit.h"
+#include "Status.h"
+
+#include <functional>
+
+using namespace handset;
+using namespace handset::test;
+
+namespace {
+
+using Reset = std::function<int(Handset &)>;
+
+struct NamedReset {
+    const char *name;
+    Reset run;
+    SixFigures kept; ///< 1 where the reset leaves the figure alone
+};
+
+const NamedReset resets[] = {
+    {"dialed calls", [](Handset &h) { return h.callLog()->resetDialedCallsTime(); }, {1, 0, 1, 1, 1, 1}},
+    {"answered calls", [](Handset &h) { return h.callLog()->resetAnsweredCallsTime(); }, {1, 1, 0, 1, 1, 1}},
+    {"data calls", [](Handset &h) { return h.dataCalls()->resetTotalDuration(); }, {1, 1, 1, 0, 1, 1}},
+    {"all calls", [](Handset &h) { return h.callService()->resetCallTime(); }, {1, 1, 1, 1, 0, 1}},
+    {"the whole call log", [](Handset &h) { return h.callLog()->resetAll(); }, {0, 0, 0, 1, 1, 1}},
+};
+
+SixFigures masked(const SixFigures &figures, const SixFigures &mask)
+{
+    return {figures.last * mask.last, figures.dialed * mask.dialed, figures.answered * mask.answered,
+            figures.data * mask.data, figures.all * mask.all,       figures.lifetime * mask.lifetime};
+}
+
+} // namespace
+
+class TestContract : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { rig.reset(); }
+
+    void aNewTelephoneHasAllRolesAndNoTime();
+    void aCallCountsForItsOwnFigure_data();
+    void aCallCountsForItsOwnFigure();
+    void figuresAreCutToWholeSecondsOnlyWhenTheyAreAsked();
+    void aRunningCallIsCountedUpToNow();
+    void aCallThatWasNeverConnectedCountsNowhere_data();
+    void aCallThatWasNeverConnectedCountsNowhere();
+    void theLastCallIsTheOneConnectedLast();
+    void aResetZeroesItsOwnFiguresAndNothingElse_data();
+    void aResetZeroesItsOwnFiguresAndNothingElse();
+    void aResetDuringACallLetsTheRestOfItCount_data();
+    void aResetDuringACallLetsTheRestOfItCount();
+    void aResetFigureCountsTheNextCall();
+    void theDataCallStatusFollowsTheCall();
+    void aVoiceCallLeavesTheDataCallStatusAlone();
+    void theDataCallTotalCanBeResetDuringADataCall();
+    void refreshingTheDataCallTotalChangesNoFigure();
+    void figuresAndResetsSurviveARestart();
+    void theDataCallStatusOfANewStartIsIdle();
+
+private:
+    bool call(CallKind kind, CallDirection direction, qint64 ms);
+    bool everyKindOfCall();
+    SixFigures figures() { return figuresOf(rig->handset()); }
+    quint8 status();
+
+    std::unique_ptr<HandsetRig> rig;
+};
+
+void TestContract::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    rig = makeRig();
+    QVERIFY(rig->open());
+}
+
+bool TestContract::call(CallKind kind, CallDirection direction, qint64 ms)
+{
+    if (!rig->begin(kind, direction) || !rig->connectCall())
+        return false;
+    rig->pass(ms);
+    return rig->end();
+}
+
+bool TestContract::everyKindOfCall()
+{
+    return call(CallKind::Voice, CallDirection::Dialed, 100 * second) &&
+           call(CallKind::Voice, CallDirection::Answered, 20 * second) &&
+           call(CallKind::Data, CallDirection::Dialed, 3 * second);
+}
+
+quint8 TestContract::status()
+{
+    quint8 value = 99;
+    if (rig->handset().dataCalls()->callStatus(value) != Success)
+        QTest::qFail("the data-call status cannot be read", __FILE__, __LINE__);
+    return value;
+}
+
+void TestContract::aNewTelephoneHasAllRolesAndNoTime()
+{
+    QVERIFY(rig->handset().callLog());
+    QVERIFY(rig->handset().callService());
+    QVERIFY(rig->handset().dataCalls());
+    QCOMPARE(figures(), SixFigures());
+    QCOMPARE(status(), quint8(DataCalls::Idle));
+}
+
+void TestContract::aCallCountsForItsOwnFigure_data()
+{
+    QTest::addColumn<CallKind>("kind");
+    QTest::addColumn<CallDirection>("direction");
+    QTest::addColumn<SixFigures>("expected");
+
+    QTest::newRow("a dialed voice call is dialed")
+        << CallKind::Voice << CallDirection::Dialed << SixFigures{65, 65, 0, 0, 65, 65};
+    QTest::newRow("an answered voice call is answered")
+        << CallKind::Voice << CallDirection::Answered << SixFigures{65, 0, 65, 0, 65, 65};
+    QTest::newRow("a data call is no dialed call")
+        << CallKind::Data << CallDirection::Dialed << SixFigures{65, 0, 0, 65, 65, 65};
+}
+
+void TestContract::aCallCountsForItsOwnFigure()
+{
+    QFETCH(CallKind, kind);
+    QFETCH(CallDirection, direction);
+    QVERIFY(call(kind, direction, 65 * second));
+    QTEST(figures(), "expected");
+}
+
+void TestContract::figuresAreCutToWholeSecondsOnlyWhenTheyAreAsked()
+{
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 1999));
+    QCOMPARE(figures(), (SixFigures{1, 1, 0, 0, 1, 1}));
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 1));
+    QCOMPARE(figures(), (SixFigures{0, 2, 0, 0, 2, 2}));
+}
+
+void TestContract::aRunningCallIsCountedUpToNow()
+{
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 10 * second));
+    QVERIFY(rig->begin(CallKind::Voice, CallDirection::Answered));
+    rig->pass(30 * second); // it rings
+    QCOMPARE(figures(), (SixFigures{10, 10, 0, 0, 10, 10}));
+    QVERIFY(rig->connectCall());
+    QCOMPARE(figures(), (SixFigures{0, 10, 0, 0, 10, 10}));
+    rig->pass(4 * second);
+    QCOMPARE(figures(), (SixFigures{4, 10, 4, 0, 14, 14}));
+    rig->pass(2 * hour);
+    QVERIFY(rig->end());
+    QCOMPARE(figures(), (SixFigures{7204, 10, 7204, 0, 7214, 7214}));
+    rig->pass(hour); // nobody calls
+    QCOMPARE(figures(), (SixFigures{7204, 10, 7204, 0, 7214, 7214}));
+}
+
+void TestContract::aCallThatWasNeverConnectedCountsNowhere_data()
+{
+    QTest::addColumn<CallKind>("kind");
+    QTest::addColumn<CallDirection>("direction");
+
+    QTest::newRow("a dialed voice call without an answer") << CallKind::Voice << CallDirection::Dialed;
+    QTest::newRow("a missed call") << CallKind::Voice << CallDirection::Answered;
+    QTest::newRow("a data call without an answer") << CallKind::Data << CallDirection::Dialed;
+}
+
+void TestContract::aCallThatWasNeverConnectedCountsNowhere()
+{
+    QFETCH(CallKind, kind);
+    QFETCH(CallDirection, direction);
+    QVERIFY(everyKindOfCall());
+    QVERIFY(rig->begin(kind, direction));
+    rig->pass(50 * second);
+    QVERIFY(rig->end());
+    QCOMPARE(figures(), (SixFigures{3, 100, 20, 3, 123, 123}));
+}
+
+void TestContract::theLastCallIsTheOneConnectedLast()
+{
+    QVERIFY(everyKindOfCall());
+    QCOMPARE(figures().last, quint64{3});
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 41 * second));
+    QCOMPARE(figures().last, quint64{41});
+    QVERIFY(call(CallKind::Voice, CallDirection::Answered, 0));
+    QCOMPARE(figures().last, quint64{0});
+}
+
+void TestContract::aResetZeroesItsOwnFiguresAndNothingElse_data()
+{
+    QTest::addColumn<int>("reset");
+    for (int i = 0; i < static_cast<int>(std::size(resets)); ++i)
+        QTest::newRow(resets[i].name) << i;
+}
+
+void TestContract::aResetZeroesItsOwnFiguresAndNothingElse()
+{
+    QFETCH(int, reset);
+    QVERIFY(everyKindOfCall());
+    const SixFigures before = figures();
+    QCOMPARE(before, (SixFigures{3, 100, 20, 3, 123, 123}));
+    QCOMPARE(resets[reset].run(rig->handset()), int(Success));
+    QCOMPARE(figures(), masked(before, resets[reset].kept));
+    QCOMPARE(resets[reset].run(rig->handset()), int(Success));
+    QCOMPARE(figures(), masked(before, resets[reset].kept));
+}
+
+void TestContract::aResetDuringACallLetsTheRestOfItCount_data()
+{
+    aResetZeroesItsOwnFiguresAndNothingElse_data();
+}
+
+void TestContract::aResetDuringACallLetsTheRestOfItCount()
+{
+    QFETCH(int, reset);
+    QVERIFY(everyKindOfCall());
+    QVERIFY(rig->begin(CallKind::Voice, CallDirection::Dialed));
+    QVERIFY(rig->connectCall());
+    rig->pass(50 * second);
+    const SixFigures before = figures();
+    QCOMPARE(before, (SixFigures{50, 150, 20, 3, 173, 173}));
+    QCOMPARE(resets[reset].run(rig->handset()), int(Success));
+    SixFigures expected = masked(before, resets[reset].kept);
+    QCOMPARE(figures(), expected);
+
+    rig->pass(7 * second);
+    expected.last += 7;
+    expected.dialed += 7;
+    expected.all += 7;
+    expected.lifetime += 7;
+    QCOMPARE(figures(), expected);
+    QVERIFY(rig->end());
+    QCOMPARE(figures(), expected);
+}
+
+void TestContract::aResetFigureCountsTheNextCall()
+{
+    QVERIFY(everyKindOfCall());
+    for (const NamedReset &reset : resets)
+        QCOMPARE(reset.run(rig->handset()), int(Success));
+    QCOMPARE(figures(), (SixFigures{0, 0, 0, 0, 0, 123}));
+    QVERIFY(everyKindOfCall());
+    QCOMPARE(figures(), (SixFigures{3, 100, 20, 3, 123, 246}));
+}
+
+void TestContract::theDataCallStatusFollowsTheCall()
+{
+    QVERIFY(rig->begin(CallKind::Data, CallDirection::Dialed));
+    QCOMPARE(status(), quint8(DataCalls::SettingUp));
+    QVERIFY(rig->connectCall());
+    QCOMPARE(status(), quint8(DataCalls::Connected));
+    QVERIFY(rig->end());
+    QCOMPARE(status(), quint8(DataCalls::Released));
+    QVERIFY(rig->begin(CallKind::Data, CallDirection::Dialed));
+    QCOMPARE(status(), quint8(DataCalls::SettingUp));
+    QVERIFY(rig->end());
+    QCOMPARE(status(), quint8(DataCalls::Released));
+}
+
+void TestContract::aVoiceCallLeavesTheDataCallStatusAlone()
+{
+    QVERIFY(rig->begin(CallKind::Voice, CallDirection::Dialed));
+    QCOMPARE(status(), quint8(DataCalls::Idle));
+    QVERIFY(rig->connectCall());
+    QCOMPARE(status(), quint8(DataCalls::Idle));
+    QVERIFY(rig->end());
+    QCOMPARE(status(), quint8(DataCalls::Idle));
+    QVERIFY(call(CallKind::Data, CallDirection::Dialed, second));
+    QVERIFY(call(CallKind::Voice, CallDirection::Answered, second));
+    QCOMPARE(status(), quint8(DataCalls::Released));
+}
+
+void TestContract::theDataCallTotalCanBeResetDuringADataCall()
+{
+    QVERIFY(rig->begin(CallKind::Data, CallDirection::Dialed));
+    QCOMPARE(rig->handset().dataCalls()->resetTotalDuration(), int(Success));
+    QVERIFY(rig->connectCall());
+    rig->pass(9 * second);
+    QCOMPARE(figures().data, quint64{9});
+    QCOMPARE(rig->handset().dataCalls()->resetTotalDuration(), int(Success));
+    QCOMPARE(figures(), (SixFigures{9, 0, 0, 0, 9, 9}));
+    rig->pass(2 * second);
+    QVERIFY(rig->end());
+    QCOMPARE(figures(), (SixFigures{11, 0, 0, 2, 11, 11}));
+}
+
+void TestContract::refreshingTheDataCallTotalChangesNoFigure()
+{
+    DataCalls &calls = *rig->handset().dataCalls();
+    QCOMPARE(calls.refreshTotals(), int(Success));
+    QCOMPARE(figures(), SixFigures());
+    QVERIFY(rig->begin(CallKind::Data, CallDirection::Dialed));
+    QCOMPARE(calls.refreshTotals(), int(Success));
+    QVERIFY(rig->connectCall());
+    for (quint64 expected = 3; expected <= 9; expected += 3) {
+        rig->pass(3 * second);
+        QCOMPARE(calls.refreshTotals(), int(Success));
+        QCOMPARE(figures(), (SixFigures{expected, 0, 0, expected, expected, expected}));
+    }
+}
+
+void TestContract::figuresAndResetsSurviveARestart()
+{
+    QVERIFY(everyKindOfCall());
+    QCOMPARE(rig->handset().callLog()->resetDialedCallsTime(), int(Success));
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 1500));
+    QVERIFY(call(CallKind::Voice, CallDirection::Answered, 700));
+    const SixFigures before = figures();
+    QCOMPARE(before, (SixFigures{0, 1, 20, 3, 125, 125}));
+    for (int start = 0; start < 3; ++start) {
+        rig->close();
+        QVERIFY(rig->open());
+        QCOMPARE(figures(), before);
+    }
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 500)); // the fractions were kept, too
+    QCOMPARE(figures().dialed, quint64{2});
+}
+
+void TestContract::theDataCallStatusOfANewStartIsIdle()
+{
+    QVERIFY(call(CallKind::Data, CallDirection::Dialed, second));
+    rig->close();
+    QVERIFY(rig->open());
+    QCOMPARE(status(), quint8(DataCalls::Idle));
+}
+
+QTEST_GUILESS_MAIN(TestContract)
+#include "tst_contract.moc"

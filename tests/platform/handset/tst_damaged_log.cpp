@@ -1,0 +1,637 @@
+// Whatever stands in the place of the call log: a clear message, the old file kept, no crash, nothing readable lost.
+#include "CallLog.h"
+#include "CallService.h"
+#include "DataCalls.h"
+#include "HandsetTestKit.h"
+#include "Schema.h"
+#include "Status.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QHash>
+
+#include <csignal>
+#include <functional>
+#include <random>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace handset;
+using namespace handset::test;
+using calllog::CallState;
+
+namespace {
+
+constexpr qint64 pageSize = 4096;
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+QList<PastCall> manyCalls(int count)
+{
+    QList<PastCall> calls;
+    for (int i = 0; i < count; ++i)
+        calls.append({i % 7 == 0 ? CallKind::Data : CallKind::Voice,
+                      i % 7 != 0 && i % 2 == 0 ? CallDirection::Answered : CallDirection::Dialed,
+                      QString::number(100000 + i), i * minute, i % 11 == 0 ? 0 : i * 1000 + 7});
+    return calls;
+}
+
+/// The files of a log of some pages: closed, and as a crash in the middle of a call would leave it.
+struct Sample {
+    QByteArray closed;
+    QByteArray crashed;
+    QByteArray crashedWal;
+    QList<LoggedCall> calls; ///< of both
+    SixFigures figures;
+};
+
+Sample makeSample(int count)
+{
+    const StateDir state;
+    Sample sample;
+    {
+        Phone phone(state.path());
+        phone->addHistory(manyCalls(count));
+    }
+    sample.closed = readFile(state.database());
+    {
+        Phone phone(state.path());
+        sample.figures = phone.figures();
+        for (int i = 0; i < 5; ++i)
+            phone->addHistory({{CallKind::Voice, CallDirection::Dialed, QStringLiteral("5"), 0, 1000}});
+        sample.crashed = readFile(state.database());
+        sample.crashedWal = readFile(state.file(QStringLiteral("calllog.db-wal")));
+    }
+    sample.calls = LogFile(state.database()).calls();
+    return sample;
+}
+
+SixFigures sumsOf(const QList<LoggedCall> &calls)
+{
+    quint64 last = 0;
+    quint64 sums[4] = {0, 0, 0, 0};
+    for (const LoggedCall &call : calls) {
+        const auto ms = static_cast<quint64>(call.durationMs);
+        sums[call.kind == 1 ? 2 : call.direction] += ms;
+        sums[3] += ms;
+        if (call.state != static_cast<int>(CallState::NotConnected))
+            last = ms;
+    }
+    return {last / 1000, sums[0] / 1000, sums[1] / 1000, sums[2] / 1000, sums[3] / 1000, sums[3] / 1000};
+}
+
+bool same(const LoggedCall &a, const LoggedCall &b)
+{
+    return a.id == b.id && a.kind == b.kind && a.direction == b.direction && a.number == b.number &&
+           a.startedMs == b.startedMs && a.durationMs == b.durationMs && a.state == b.state;
+}
+
+/// Files cannot grow beyond a size while this lives, as on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &previous);
+        const rlimit limit{bytes, previous.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &previous); }
+
+private:
+    rlimit previous{};
+};
+
+} // namespace
+
+class TestDamagedLog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead();
+    void aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes();
+    void aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd();
+    void aPageOverwrittenCostsNoMoreThanItsCalls_data();
+    void aPageOverwrittenCostsNoMoreThanItsCalls();
+    void bytesChangedAtRandomNeverCrash();
+
+    void whatIsNotACallLogIsKeptAndSaid_data();
+    void whatIsNotACallLogIsKeptAndSaid();
+    void somethingThatIsNoFileIsKeptAndSaid_data();
+    void somethingThatIsNoFileIsKeptAndSaid();
+    void aLogWithWrongTablesIsReplaced_data();
+    void aLogWithWrongTablesIsReplaced();
+    void aLogEmptiedWhileInUseKeepsItsWriteAheadLog();
+    void timersThatCannotBeReadAreCountedAnew();
+    void aLinkInThePlaceOfTheLogIsAnErrorAndStays();
+
+    void keptFilesNeverReplaceOneAnother();
+    void aLogInUseByAnotherProgramIsLeftAlone();
+    void aReplacementThatWasInterruptedIsMadeUpFor_data();
+    void aReplacementThatWasInterruptedIsMadeUpFor();
+    void aDiskThatIsFullIsAnErrorAndChangesNothing();
+    void aDiskThatFillsUpFailsTheWriteAndNothingElse();
+    void aBigLogThatWasClosedIsNotReadThroughButOneThatWasNotIs();
+
+private:
+    void openAndCheck(const StateDir &state, bool mayBeQuiet);
+
+    Sample sample;
+};
+
+void TestDamagedLog::initTestCase()
+{
+    sample = makeSample(1500);
+    QVERIFY(sample.closed.size() >= 10 * pageSize);
+    QVERIFY(sample.crashedWal.size() > 0);
+    QCOMPARE(sample.calls.size(), 1505);
+}
+
+/// Opens what is in the directory: whatever it is, there must be a telephone that works, a sound log with nothing in it
+/// but what was recorded, and a notice if anything was amiss.
+void TestDamagedLog::openAndCheck(const StateDir &state, bool mayBeQuiet)
+{
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QVERIFY(mayBeQuiet || !phone.opened.notice.isEmpty());
+    const SixFigures before = phone.figures();
+    phone.close();
+
+    const LogFile file(state.database());
+    QCOMPARE(file.value(QStringLiteral("PRAGMA integrity_check")), QVariant(QStringLiteral("ok")));
+    const QList<LoggedCall> calls = file.calls();
+    for (const LoggedCall &call : calls)
+        QVERIFY(call.id >= 1 && call.id <= sample.calls.size() && same(call, sample.calls[call.id - 1]));
+    // Either the totals could be read, and are those of one of the writes, or they are those of the calls.
+    bool known = before == sumsOf(calls);
+    for (qsizetype count = 1500; count <= sample.calls.size(); ++count)
+        known = known || before == sumsOf(sample.calls.first(count));
+    QVERIFY(known);
+
+    Phone again(state.path());
+    QVERIFY(again.opened.notice.isEmpty());
+    QVERIFY(again.dialed(2 * second));
+    QCOMPARE(again.figures().lifetime, before.lifetime + 2);
+}
+
+void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
+{
+    QList<qint64> lengths;
+    for (qint64 length = 0; length < 110; length += length < 20 ? 1 : 9)
+        lengths << length;
+    for (qint64 edge = 512; edge < sample.closed.size(); edge += 1024)
+        lengths << edge << (edge % pageSize == 0 ? edge + 1 : edge / pageSize * pageSize + pageSize - 1);
+    for (qint64 edge = pageSize; edge < sample.closed.size(); edge += pageSize)
+        lengths << edge;
+    lengths << sample.closed.size() - 1;
+    for (const qint64 length : lengths) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        QVERIFY(writeFile(state.database(), sample.closed.left(length)));
+        openAndCheck(state, false);
+        QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db"))), sample.closed.left(length));
+        if (QTest::currentTestFailed()) {
+            qInfo("cut off at %lld of %lld bytes", length, qint64(sample.closed.size()));
+            return;
+        }
+    }
+}
+
+void TestDamagedLog::aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes()
+{
+    for (qint64 length = 0; length < sample.crashed.size(); length += length < 200 ? 50 : 2011) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        QVERIFY(writeFile(state.database(), sample.crashed.left(length)));
+        QVERIFY(writeFile(state.file(QStringLiteral("calllog.db-wal")), sample.crashedWal));
+        openAndCheck(state, true);
+        if (QTest::currentTestFailed()) {
+            qInfo("cut off at %lld of %lld bytes", length, qint64(sample.crashed.size()));
+            return;
+        }
+    }
+}
+
+void TestDamagedLog::aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd()
+{
+    qsizetype most = 0;
+    for (qint64 length = 0; length <= sample.crashedWal.size(); length += length < 100 ? 7 : 509) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        QVERIFY(writeFile(state.database(), sample.crashed));
+        QVERIFY(writeFile(state.file(QStringLiteral("calllog.db-wal")), sample.crashedWal.left(length)));
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QVERIFY(phone.opened.notice.isEmpty());
+        const SixFigures figures = phone.figures();
+        phone.close();
+        const QList<LoggedCall> calls = LogFile(state.database()).calls();
+        QCOMPARE(figures, sumsOf(calls));
+        QVERIFY(calls.size() >= std::max<qsizetype>(most, 1500)); // a longer one never has fewer calls
+        most = calls.size();
+    }
+    QVERIFY(most > 1500);
+}
+
+void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls_data()
+{
+    QTest::addColumn<QByteArray>("filling");
+    QTest::newRow("with zeros") << QByteArray(pageSize, '\0');
+    QTest::newRow("with ones") << QByteArray(pageSize, '\xff');
+    std::mt19937 random(1);
+    QByteArray noise(pageSize, '\0');
+    std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random()); });
+    QTest::newRow("with noise") << noise;
+}
+
+void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls()
+{
+    QFETCH(QByteArray, filling);
+    constexpr qint64 calls = 1500;
+    constexpr qint64 mostCallsOfAPage = 200;
+    int complete = 0;
+    for (qint64 offset = pageSize; offset < sample.closed.size(); offset += pageSize) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        QByteArray content = sample.closed;
+        QVERIFY(writeFile(state.database(), content.replace(offset, pageSize, filling)));
+        openAndCheck(state, false);
+        if (QTest::currentTestFailed()) {
+            qInfo("page at %lld", offset);
+            return;
+        }
+        // openAndCheck() made one more
+        const auto kept = LogFile(state.database()).calls().size() - 1;
+        complete += kept >= calls - mostCallsOfAPage ? 1 : 0;
+    }
+    // All but the page that leads to all others.
+    QVERIFY2(complete >= sample.closed.size() / pageSize - 2, qPrintable(QString::number(complete)));
+}
+
+void TestDamagedLog::bytesChangedAtRandomNeverCrash()
+{
+    const quint32 given = qEnvironmentVariable("KAV_SEED").toUInt();
+    const quint32 seed = given ? given : std::random_device()();
+    qInfo("seed %u (KAV_SEED repeats it)", seed);
+    std::mt19937 random(seed);
+    const auto below = [&](qsizetype bound) {
+        return std::uniform_int_distribution<qsizetype>(0, bound - 1)(random);
+    };
+    for (int round = 0; round < 300; ++round) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        const bool closed = round % 2 == 0;
+        QByteArray database = closed ? sample.closed : sample.crashed;
+        QByteArray wal = closed ? QByteArray() : sample.crashedWal;
+        QByteArray &victim = closed || round % 4 == 1 ? database : wal;
+        // Often in the first pages, where the structure is.
+        for (qsizetype changes = 1 + below(8); changes > 0; --changes)
+            victim[below(round % 3 == 0 ? victim.size() : std::min<qsizetype>(victim.size(), 3 * pageSize))] =
+                static_cast<char>(random());
+        QVERIFY(writeFile(state.database(), database));
+        if (!closed)
+            QVERIFY(writeFile(state.file(QStringLiteral("calllog.db-wal")), wal));
+
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QVERIFY(phone.dialed(second));
+        phone.figures();
+        QVERIFY(phone.log().resetAll() == Success);
+        phone.close();
+        QCOMPARE(LogFile(state.database()).value(QStringLiteral("PRAGMA quick_check")),
+                 QVariant(QStringLiteral("ok")));
+    }
+}
+
+void TestDamagedLog::whatIsNotACallLogIsKeptAndSaid_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("notice");
+    const QString notOne = QStringLiteral(
+        "\"calllog.db\" is not a call log; it was kept as \"calllog-kept-1.db\" and a new one was begun.");
+    QTest::newRow("one byte") << QByteArray("x") << notOne;
+    QTest::newRow("a text") << QByteArray("Dear diary,\ntoday I called nobody.\n").repeated(200) << notOne;
+    QTest::newRow("zeros") << QByteArray(20000, '\0') << notOne;
+    QTest::newRow("nothing but the beginning of a database") << QByteArray("SQLite format 3", 16) << notOne;
+    QTest::newRow("nothing") << QByteArray()
+                             << QStringLiteral(
+                                    "The call log was emptied; it was kept as \"calllog-kept-1.db\" and a "
+                                    "new one was begun.");
+
+    const auto database = [](const QStringList &statements) {
+        const StateDir state;
+        if (!QDir().mkpath(state.path()))
+            return QByteArray();
+        {
+            const LogFile file(state.database());
+            for (const QString &statement : statements)
+                if (!file.run(statement))
+                    return QByteArray();
+        }
+        return readFile(state.database());
+    };
+    const QString table = QStringLiteral("CREATE TABLE recipes (name TEXT)");
+    QTest::newRow("a database of another program") << database({table}) << notOne;
+    QTest::newRow("a database of another program with a version")
+        << database({table, QStringLiteral("PRAGMA user_version = 1")}) << notOne;
+    QTest::newRow("a database with another application's id")
+        << database({table, QStringLiteral("PRAGMA application_id = 7")}) << notOne;
+    QTest::newRow("an empty database with another application's id")
+        << database({QStringLiteral("PRAGMA application_id = 7")}) << notOne;
+    const qsizetype newer = static_cast<qsizetype>(calllog::migrations().size()) + 1;
+    QTest::newRow("a log of a newer version")
+        << database({QStringLiteral("PRAGMA application_id = %1").arg(calllog::applicationId),
+                     QStringLiteral("PRAGMA user_version = %1").arg(newer),
+                     QStringLiteral("CREATE TABLE calls (everything TEXT)")})
+        << QStringLiteral(
+               "The call log was written by a newer version; it was kept as \"calllog-kept-1.db\" and a new "
+               "one was begun.");
+}
+
+void TestDamagedLog::whatIsNotACallLogIsKeptAndSaid()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, notice);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(writeFile(state.database(), content));
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.notice, notice);
+    QCOMPARE(phone.figures(), SixFigures());
+    QVERIFY(phone.dialed(3 * second));
+    phone.close();
+    QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db"))), content);
+    QCOMPARE(Phone(state.path()).figures().dialed, quint64{3});
+    QCOMPARE(state.names(), (QStringList{QStringLiteral("calllog-kept-1.db"), QStringLiteral("calllog.db")}));
+}
+
+void TestDamagedLog::somethingThatIsNoFileIsKeptAndSaid_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("a directory") << int(S_IFDIR);
+    QTest::newRow("a pipe") << int(S_IFIFO);
+}
+
+void TestDamagedLog::somethingThatIsNoFileIsKeptAndSaid()
+{
+    QFETCH(int, kind);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    const QByteArray path = QFile::encodeName(state.database());
+    QCOMPARE(kind == S_IFDIR ? ::mkdir(path.constData(), 0700) : ::mkfifo(path.constData(), 0600), 0);
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(
+        phone.opened.notice,
+        QStringLiteral("\"calllog.db\" is not a call log; it was kept as \"calllog-kept-1.db\" and a new one was "
+                       "begun."));
+    QVERIFY(phone.dialed(second));
+    struct stat status = {};
+    QCOMPARE(::lstat(QFile::encodeName(state.file(QStringLiteral("calllog-kept-1.db"))).constData(), &status), 0);
+    QCOMPARE(int(status.st_mode & S_IFMT), kind);
+}
+
+void TestDamagedLog::aLogWithWrongTablesIsReplaced_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<int>("calls");
+    QTest::newRow("a total that is missing")
+        << QStringLiteral("DELETE FROM totals WHERE counter = 'data'") << 1500;
+    QTest::newRow("no totals at all") << QStringLiteral("DROP TABLE totals") << 1500;
+    QTest::newRow("no calls at all") << QStringLiteral("DROP TABLE calls") << 0;
+    QTest::newRow("a column that is missing")
+        << QStringLiteral("ALTER TABLE calls RENAME COLUMN number TO name") << 0;
+    QTest::newRow("a version before the first") << QStringLiteral("PRAGMA user_version = 0") << 1500;
+    QTest::newRow("a negative version") << QStringLiteral("PRAGMA user_version = -3") << 1500;
+}
+
+void TestDamagedLog::aLogWithWrongTablesIsReplaced()
+{
+    QFETCH(QString, statement);
+    QFETCH(int, calls);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(writeFile(state.database(), sample.closed));
+    QVERIFY(LogFile(state.database()).run(statement));
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    const QString begin =
+        QStringLiteral("The call log is damaged; it was kept as \"calllog-kept-1.db\" and a new one "
+                       "was begun with the calls that could be read (%1)")
+            .arg(calls);
+    QVERIFY2(phone.opened.notice.startsWith(begin), qPrintable(phone.opened.notice));
+    QCOMPARE(phone.figures(), sample.figures); // from the totals, or from the calls
+    phone.close();
+    QCOMPARE(LogFile(state.database()).calls().size(), calls);
+}
+
+void TestDamagedLog::aLogEmptiedWhileInUseKeepsItsWriteAheadLog()
+{
+    for (const bool removed : {false, true}) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        if (!removed)
+            QVERIFY(writeFile(state.database(), {}));
+        QVERIFY(writeFile(state.file(QStringLiteral("calllog.db-wal")), sample.crashedWal));
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QCOMPARE(phone.opened.notice,
+                 QStringLiteral("The call log was emptied; it was kept as \"calllog-kept-1.db\" "
+                                "and a new one was begun."));
+        QCOMPARE(phone.figures(), SixFigures());
+        QVERIFY(phone.dialed(second));
+        QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db-wal"))), sample.crashedWal);
+    }
+}
+
+void TestDamagedLog::timersThatCannotBeReadAreCountedAnew()
+{
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.dialed(10 * second));
+        QCOMPARE(phone.log().resetDialedCallsTime(), int(Success));
+        QVERIFY(phone.dialed(2 * second));
+        QVERIFY(phone.answered(5 * second));
+        QVERIFY(phone.dialed(1 * second, CallKind::Data));
+    }
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'last'")));
+    Phone phone(state.path());
+    QCOMPARE(phone.opened.notice,
+             QStringLiteral("The call log is damaged; it was kept as \"calllog-kept-1.db\" and a "
+                            "new one was begun with the calls that could be read (4) and timers "
+                            "counted from them."));
+    QCOMPARE(phone.figures(), (SixFigures{1, 12, 5, 1, 18, 18}));
+}
+
+void TestDamagedLog::aLinkInThePlaceOfTheLogIsAnErrorAndStays()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(second));
+    QVERIFY(QFile::rename(state.database(), state.sibling(QStringLiteral("elsewhere.db"))));
+    for (const char *target : {"../elsewhere.db", "nowhere", "calllog.db", "."}) {
+        QCOMPARE(::symlink(target, QFile::encodeName(state.database()).constData()), 0);
+        const Phone phone(state.path());
+        QVERIFY(!phone);
+        QCOMPARE(
+            phone.opened.error,
+            QStringLiteral("The call log \"%1\" cannot be used: it is a symbolic link.").arg(state.database()));
+        QCOMPARE(state.names().size(),
+                 target == QByteArray("nowhere") || target == QByteArray("calllog.db") ? 0 : 1);
+        QCOMPARE(::unlink(QFile::encodeName(state.database()).constData()), 0);
+    }
+    QCOMPARE(LogFile(state.sibling(QStringLiteral("elsewhere.db"))).calls().size(), 1);
+}
+
+void TestDamagedLog::keptFilesNeverReplaceOneAnother()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(writeFile(state.file(QStringLiteral("calllog-kept-2.db-wal")), "a write-ahead log alone"));
+    for (const int number : {1, 3, 4}) {
+        const QByteArray content = "garbage " + QByteArray::number(number);
+        QVERIFY(writeFile(state.database(), content));
+        const Phone phone(state.path());
+        const QString kept = QStringLiteral("calllog-kept-%1.db").arg(number);
+        QVERIFY2(phone.opened.notice.contains(kept), qPrintable(phone.opened.notice));
+        QCOMPARE(readFile(state.file(kept)), content);
+    }
+    QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db"))), QByteArray("garbage 1"));
+    QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-2.db-wal"))), QByteArray("a write-ahead log alone"));
+}
+
+void TestDamagedLog::aLogInUseByAnotherProgramIsLeftAlone()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(8 * second));
+    {
+        const LogFile other(state.database());
+        QVERIFY(other.run(QStringLiteral("BEGIN IMMEDIATE")));
+        const Phone phone(state.path());
+        QVERIFY(!phone);
+        QCOMPARE(phone.opened.error,
+                 QStringLiteral("The call log \"%1\" cannot be used: another process is using it.")
+                     .arg(state.database()));
+        QVERIFY(!state.names().contains(QStringLiteral("calllog-kept-1.db")));
+    }
+    QCOMPARE(Phone(state.path()).figures().dialed, quint64{8});
+    QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")});
+}
+
+void TestDamagedLog::aReplacementThatWasInterruptedIsMadeUpFor_data()
+{
+    QTest::addColumn<QStringList>("files"); // beside the lock, with the content of the sample
+    QTest::addColumn<QStringList>("left");
+    const QString log = QStringLiteral("calllog.db");
+    const QString wal = QStringLiteral("calllog.db-wal");
+    const QString unfinished = QStringLiteral("calllog-new.db");
+    const QString ready = QStringLiteral("calllog-ready.db");
+    const QStringList onlyTheLog{log};
+    QTest::newRow("while the new one was made")
+        << QStringList{log, unfinished, unfinished + QStringLiteral("-wal")} << onlyTheLog;
+    QTest::newRow("while the very first was made") << QStringList{ready, unfinished} << onlyTheLog;
+    QTest::newRow("before the old one made way") << QStringList{log, ready} << onlyTheLog;
+    QTest::newRow("before the new one took its place") << QStringList{ready} << onlyTheLog;
+    QTest::newRow("before the write-ahead log followed the old one")
+        << QStringList{ready, wal} << QStringList{QStringLiteral("calllog-kept-1.db-wal"), log};
+}
+
+void TestDamagedLog::aReplacementThatWasInterruptedIsMadeUpFor()
+{
+    QFETCH(QStringList, files);
+    QFETCH(QStringList, left);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    for (const QString &name : files)
+        QVERIFY(writeFile(state.file(name),
+                          name.endsWith(QStringLiteral("-wal")) ? QByteArray("stale") : sample.closed));
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QVERIFY(phone.opened.notice.isEmpty());
+    QCOMPARE(phone.figures(), sample.figures);
+    phone.close();
+    QCOMPARE(state.names(), left);
+}
+
+void TestDamagedLog::aDiskThatIsFullIsAnErrorAndChangesNothing()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    const QByteArray damaged = sample.closed.left(sample.closed.size() - pageSize);
+    QVERIFY(writeFile(state.database(), damaged));
+    for (const rlim_t limit : {0U, 100U, 5000U, 20000U}) {
+        const FullDisk full(limit);
+        const Phone phone(state.path());
+        QVERIFY(!phone);
+        const QString begin = QStringLiteral("The call log \"%1\" cannot be used: a new one cannot be made (");
+        QVERIFY2(phone.opened.error.startsWith(begin.arg(state.database())), qPrintable(phone.opened.error));
+        QCOMPARE(readFile(state.database()), damaged);
+    }
+    openAndCheck(state, false);
+}
+
+void TestDamagedLog::aDiskThatFillsUpFailsTheWriteAndNothingElse()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.dialed(4 * second));
+    QVERIFY(phone.dial());
+    phone.clock->advance(6 * second);
+    const SixFigures before = phone.figures();
+    {
+        const FullDisk full(static_cast<rlim_t>(QFileInfo(state.file(QStringLiteral("calllog.db-wal"))).size()));
+        const QRegularExpression warning(QStringLiteral("^The call log failed: "));
+        QTest::ignoreMessage(QtWarningMsg, warning);
+        QCOMPARE(phone->hangUp(), int(StorageFailed));
+        QTest::ignoreMessage(QtWarningMsg, warning);
+        QCOMPARE(phone.service().resetCallTime(), int(StorageFailed));
+        QCOMPARE(phone.figures(), before);
+    }
+    QCOMPARE(phone->hangUp(), int(Success));
+    QCOMPARE(phone.figures(), before);
+    phone.close();
+    QCOMPARE(Phone(state.path()).figures(), before);
+}
+
+void TestDamagedLog::aBigLogThatWasClosedIsNotReadThroughButOneThatWasNotIs()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path())->addHistory(manyCalls(150'000)) == Success);
+    QByteArray content = readFile(state.database());
+    QVERIFY(content.size() > 4 << 20);
+    const SixFigures figures = Phone(state.path()).figures();
+    content.replace(content.size() / pageSize / 2 * pageSize, pageSize, QByteArray(pageSize, '\0'));
+    QVERIFY(writeFile(state.database(), content));
+    {
+        // Nothing that the figures or the next calls depend on is damaged.
+        Phone phone(state.path());
+        QVERIFY(phone.opened.notice.isEmpty());
+        QCOMPARE(phone.figures(), figures);
+        QVERIFY(phone.dial());
+        QVERIFY(copyState(state.path(), state.sibling(QStringLiteral("crashed"))));
+    }
+    const Phone crashed(state.sibling(QStringLiteral("crashed")));
+    QVERIFY(crashed.opened.notice.startsWith(QStringLiteral("The call log is damaged")));
+    QCOMPARE(crashed.figures().lifetime, figures.lifetime);
+    QVERIFY(LogFile(state.sibling(QStringLiteral("crashed/calllog.db"))).calls().size() > 149'000);
+}
+
+QTEST_GUILESS_MAIN(TestDamagedLog)
+#include "tst_damaged_log.moc"

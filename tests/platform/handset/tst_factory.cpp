@@ -1,0 +1,128 @@
+// Opening a telephone by name and installing it for the phone's libraries.
+#include "DataCalls.h"
+#include "HandsetTestKit.h"
+#include "Status.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QStandardPaths>
+
+using namespace handset;
+using namespace handset::test;
+
+class TestFactory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    // These three need a process in which nothing was installed yet: they come first.
+    void aDefaultThatCannotBeOpenedIsAWarningAndNoTelephone();
+    void noTelephoneAtTheFirstCallIsNoneFromThenOn();
+    void installReplacesWhatCurrentDecided();
+
+    void theSimulatedTelephoneIsTheDefault();
+    void aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre();
+    void withoutAClockItIsTheMachines();
+    void installingNullLeavesNoTelephone();
+    void theInstalledTelephoneLivesAsLongAsItIsUsed();
+    void theDefaultStateIsBelowTheUsersDataDirectory();
+
+private:
+    QTemporaryDir home;
+};
+
+void TestFactory::initTestCase()
+{
+    QVERIFY(home.isValid());
+    QFile inTheWay(home.filePath(QStringLiteral("data")));
+    QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+    qputenv("XDG_DATA_HOME", inTheWay.fileName().toLocal8Bit());
+}
+
+void TestFactory::aDefaultThatCannotBeOpenedIsAWarningAndNoTelephone()
+{
+    QTest::ignoreMessage(
+        QtWarningMsg, QRegularExpression(QStringLiteral("^The state directory \".*/data/kavcallmeter\" cannot be "
+                                                        "used: Not a directory\\.$")));
+    QVERIFY(!current());
+}
+
+void TestFactory::noTelephoneAtTheFirstCallIsNoneFromThenOn()
+{
+    QVERIFY(QFile::remove(home.filePath(QStringLiteral("data"))));
+    QVERIFY(!current()); // and no second warning
+    QVERIFY(!QDir(home.filePath(QStringLiteral("data"))).exists());
+}
+
+void TestFactory::installReplacesWhatCurrentDecided()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    QCOMPARE(current().get(), phone.opened.handset.get());
+    install(nullptr);
+}
+
+void TestFactory::theSimulatedTelephoneIsTheDefault()
+{
+    QVERIFY(backendNames().contains(QStringLiteral("simulated")));
+    QCOMPARE(Settings().backend, QStringLiteral("simulated"));
+    const Opened opened = open({});
+    QVERIFY(opened.handset);
+    QVERIFY(opened.error.isNull());
+    QVERIFY(opened.notice.isNull());
+    QVERIFY(dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get()));
+}
+
+void TestFactory::aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre()
+{
+    Settings settings;
+    settings.backend = QStringLiteral("tin can");
+    const Opened opened = open(settings);
+    QVERIFY(!opened.handset);
+    QCOMPARE(opened.error, QStringLiteral("There is no telephone named \"tin can\"; those there are: %1.")
+                               .arg(backendNames().join(QStringLiteral(", "))));
+    QVERIFY(opened.notice.isEmpty());
+}
+
+void TestFactory::withoutAClockItIsTheMachines()
+{
+    const Opened opened = open({});
+    auto *telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
+    QVERIFY(telephone);
+    QCOMPARE(telephone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
+    QCOMPARE(telephone->remoteAnswer(), int(Success));
+    QTRY_VERIFY(telephone->connectedMs() > 0);
+}
+
+void TestFactory::installingNullLeavesNoTelephone()
+{
+    install(open({}).handset);
+    QVERIFY(current());
+    install(nullptr);
+    QVERIFY(!current());
+}
+
+void TestFactory::theInstalledTelephoneLivesAsLongAsItIsUsed()
+{
+    install(open({}).handset);
+    const std::shared_ptr<Handset> held = current();
+    const std::weak_ptr<Handset> watched = held;
+    install(open({}).handset);
+    QVERIFY(!watched.expired());
+    quint8 status = 99;
+    QCOMPARE(held->dataCalls()->callStatus(status), int(Success));
+    const std::weak_ptr<Handset> replaced = current();
+    install(nullptr);
+    QVERIFY(replaced.expired());
+}
+
+void TestFactory::theDefaultStateIsBelowTheUsersDataDirectory()
+{
+    qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("elsewhere")).toLocal8Bit());
+    QCOMPARE(defaultStateDirectory(), home.filePath(QStringLiteral("elsewhere/kavcallmeter")));
+}
+
+QTEST_GUILESS_MAIN(TestFactory)
+#include "tst_factory.moc"

@@ -1,0 +1,206 @@
+// Directories that cannot be used, and directories that somebody else uses.
+#include "HandsetTestKit.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace handset;
+using namespace handset::test;
+
+namespace {
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Another process that uses a state directory.
+class Holder
+{
+public:
+    explicit Holder(const QString &directory)
+    {
+        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
+                      {QStringLiteral("hold"), directory});
+    }
+    ~Holder() { kill(); }
+
+    QByteArray firstLine()
+    {
+        while (!process.canReadLine() && process.waitForReadyRead(30000)) {
+        }
+        return process.readLine().trimmed();
+    }
+    void kill()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+
+private:
+    QProcess process;
+};
+
+} // namespace
+
+class TestStateDirectory : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void aDirectoryThatCannotBeUsedIsOneSentence_data();
+    void aDirectoryThatCannotBeUsedIsOneSentence();
+    void aLockThatIsSomethingElseIsAnError_data();
+    void aLockThatIsSomethingElseIsAnError();
+    void aLinkToADirectoryIsFollowed();
+    void aSecondProcessIsToldWhichDirectoryIsInUse();
+    void aSecondProcessMovesNothingAside();
+    void aSecondTelephoneOfThisProcessIsRefusedToo();
+    void theLockGoesWithTheProcessThatWasKilled();
+    void theLockGoesWithTheTelephone();
+};
+
+void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("a file in its place") << QStringLiteral("file") << QStringLiteral("Not a directory");
+    QTest::newRow("a file on the way") << QStringLiteral("file/below/it") << QStringLiteral("Not a directory");
+    QTest::newRow("a link to nowhere") << QStringLiteral("dangling") << QStringLiteral("Not a directory");
+    QTest::newRow("a link to itself") << QStringLiteral("loop/state") << QStringLiteral("Not a directory");
+    QTest::newRow("a place where nothing can be made")
+        << QStringLiteral("/proc/kav") << QStringLiteral("No such file");
+    QTest::newRow("a directory that cannot be written") << QStringLiteral("/proc/1") << QStringLiteral("");
+    QTest::newRow("a name that is too long")
+        << QString(300, QLatin1Char('n')) << QStringLiteral("File name too long");
+    QTest::newRow("a name with a zero character")
+        << QStringLiteral("a") + QChar(u'\0') + QStringLiteral("b") << QStringLiteral("Invalid argument");
+}
+
+void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, reason);
+    const StateDir state;
+    QVERIFY(writeFile(state.sibling(QStringLiteral("file")), "precious"));
+    QCOMPARE(::symlink("nowhere", QFile::encodeName(state.sibling(QStringLiteral("dangling"))).constData()), 0);
+    QCOMPARE(::symlink("loop", QFile::encodeName(state.sibling(QStringLiteral("loop"))).constData()), 0);
+
+    const Phone phone(path.startsWith(QLatin1Char('/')) ? path : state.sibling(path));
+    QVERIFY(!phone);
+    QVERIFY(!phone.opened.handset);
+    const QRegularExpression sentence(
+        QStringLiteral("^The state directory \".+\" cannot be used: .*%1.*\\.$").arg(reason));
+    QVERIFY2(sentence.match(phone.opened.error).hasMatch(), qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.error.count(QLatin1Char('\n')), 0);
+    QVERIFY(phone.opened.notice.isEmpty());
+    QCOMPARE(readFile(state.sibling(QStringLiteral("file"))), QByteArray("precious"));
+}
+
+void TestStateDirectory::aLockThatIsSomethingElseIsAnError_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("a directory") << int(S_IFDIR);
+    QTest::newRow("a link") << int(S_IFLNK);
+}
+
+void TestStateDirectory::aLockThatIsSomethingElseIsAnError()
+{
+    QFETCH(int, kind);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    const QByteArray lock = QFile::encodeName(state.file(QStringLiteral("lock")));
+    QCOMPARE(kind == S_IFDIR ? ::mkdir(lock.constData(), 0700) : ::symlink("elsewhere", lock.constData()), 0);
+    const Phone phone(state.path());
+    QVERIFY(!phone);
+    QVERIFY(phone.opened.error.contains(state.path()));
+    QVERIFY(!QFile::exists(state.file(QStringLiteral("elsewhere"))));
+}
+
+void TestStateDirectory::aLinkToADirectoryIsFollowed()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(4 * second));
+    const QString link = state.sibling(QStringLiteral("link"));
+    QVERIFY(QFile::link(state.path(), link));
+    QCOMPARE(Phone(link).figures().dialed, quint64{4});
+    const Phone phone(link);
+    QVERIFY(!Phone(state.path())); // the same directory, however it is named
+}
+
+void TestStateDirectory::aSecondProcessIsToldWhichDirectoryIsInUse()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.dial());
+    QCOMPARE(Holder(state.path()).firstLine(),
+             "error The state directory \"" + state.path().toUtf8() + "\" is in use by another telephone.");
+    phone.clock->advance(3 * second);
+    QCOMPARE(phone->hangUp(), 0);
+    QCOMPARE(phone.figures().dialed, quint64{3});
+}
+
+void TestStateDirectory::aSecondProcessMovesNothingAside()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(4 * second));
+    Holder holder(state.path());
+    QCOMPARE(holder.firstLine(), QByteArray("holding"));
+    // Even a database that is none now.
+    const QStringList before = state.names();
+    QVERIFY(writeFile(state.sibling(QStringLiteral("garbage")), QByteArray(5000, 'g')));
+    QVERIFY(QFile::remove(state.database()));
+    QVERIFY(QFile::copy(state.sibling(QStringLiteral("garbage")), state.database()));
+    const Phone phone(state.path());
+    QVERIFY(!phone);
+    QVERIFY(phone.opened.error.contains(QStringLiteral("in use")));
+    QCOMPARE(state.names(), before);
+    QCOMPARE(readFile(state.database()), QByteArray(5000, 'g'));
+}
+
+void TestStateDirectory::aSecondTelephoneOfThisProcessIsRefusedToo()
+{
+    const StateDir state;
+    const Phone phone(state.path());
+    QVERIFY(phone);
+    const Phone second(state.path() + QStringLiteral("/../state/"));
+    QVERIFY(!second);
+    QCOMPARE(second.opened.error,
+             QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(state.path()));
+}
+
+void TestStateDirectory::theLockGoesWithTheProcessThatWasKilled()
+{
+    const StateDir state;
+    Holder holder(state.path());
+    QCOMPARE(holder.firstLine(), QByteArray("holding"));
+    QVERIFY(!Phone(state.path()));
+    holder.kill();
+    const Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QVERIFY(phone.opened.notice.isEmpty());
+}
+
+void TestStateDirectory::theLockGoesWithTheTelephone()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(!Phone(state.path()));
+    phone.close();
+    QVERIFY(Phone(state.path()));
+}
+
+QTEST_GUILESS_MAIN(TestStateDirectory)
+#include "tst_state_directory.moc"
