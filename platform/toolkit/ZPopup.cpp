@@ -7,6 +7,7 @@
 #include "ZSoftKey.h"
 #include "ZText.h"
 
+#include <QtCore/QBasicTimer>
 #include <QtCore/QPointer>
 #include <QtGui/QAccessible>
 #include <QtGui/QGuiApplication>
@@ -61,6 +62,9 @@ struct ZPopup::Private {
     QPointer<QWidget> focusBefore;
     QPointer<QWidget> display; // what a dialog without a parent lies over
     QList<QPointer<QWidget>> watched;
+    int timeout = 0;
+    Answer timeoutAnswer = RightAnswer;
+    QBasicTimer timer;
 
     int headerHeight() const { return header.isEmpty() ? 0 : ZSkinService::DialogHeaderHeight; }
     ZLayers::Kind kind() const { return modal ? ZLayers::Kind::ModalDialog : ZLayers::Kind::OpenDialog; }
@@ -133,12 +137,32 @@ void ZPopup::setBody(QWidget *body)
     layOut();
 }
 
+void ZPopup::bodySizeChanged()
+{
+    layOut();
+}
+
+int ZPopup::roomForBody() const
+{
+    const int box = height() - ZSkinService::SoftkeyBarHeight - 2 * ZSkinService::DialogMargin;
+    return std::max(0, box - d->headerHeight() - 2);
+}
+
+void ZPopup::answerAfter(int milliseconds, Answer answer)
+{
+    d->timeout = milliseconds;
+    d->timeoutAnswer = answer;
+}
+
 void ZPopup::setVisible(bool visible)
 {
     d->waitsForDisplay = false;
     const bool again = visible && isVisible();
     if (visible && isWindow())
         followDisplay(ZApplication::display());
+    // Once it is gone it is too late: without a window manager nobody would get the keys.
+    if (!visible && isWindow() && isActiveWindow() && d->display && d->display->isVisible())
+        d->display->window()->activateWindow();
     QWidget::setVisible(visible);
     if (again)
         comeToFront();
@@ -250,6 +274,8 @@ void ZPopup::showEvent(QShowEvent *event)
     QWidget *focus = window()->focusWidget();
     if (!isWindow() && focus && !isAncestorOf(focus) && focus != this)
         d->focusBefore = focus;
+    if (d->timeout > 0)
+        d->timer.start(d->timeout, this);
     comeToFront();
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
@@ -259,10 +285,19 @@ void ZPopup::hideEvent(QHideEvent *event)
 {
     if (event->spontaneous())
         return;
+    d->timer.stop();
     ZLayers::gone(this);
-    if (isWindow() && isActiveWindow() && d->display && d->display->isVisible())
-        d->display->window()->activateWindow();
     ZLayers::passKeysOn(this, d->focusBefore);
+}
+
+void ZPopup::timerEvent(QTimerEvent *event)
+{
+    if (event->timerId() != d->timer.timerId()) {
+        QWidget::timerEvent(event);
+        return;
+    }
+    d->timer.stop();
+    answer(d->timeoutAnswer);
 }
 
 void ZPopup::comeToFront()

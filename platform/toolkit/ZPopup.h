@@ -57,7 +57,13 @@ protected:
     /// the body's heightForWidth() or sizeHint() asks for, within the display. A body that can have the focus gets
     /// the keys first.
     void setBody(QWidget *body);
+    /// To be called when the body asks for another height: the box is made anew.
+    void bodySizeChanged();
+    /// How high a body can be at most before it is cut: what the display leaves under the header.
+    int roomForBody() const;
 
+    /// The dialog answers `answer` by itself `milliseconds` after each of its showings; 0 or less never.
+    void answerAfter(int milliseconds, Answer answer);
     /// Hides the dialog and emits the signal of `answer`. The dialog may be gone afterwards.
     void answer(Answer answer);
     /// What the select key does: answer(LeftAnswer).
@@ -72,6 +78,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:

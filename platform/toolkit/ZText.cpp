@@ -40,18 +40,19 @@ QString ZText::oneLine(const QString &text)
     return line;
 }
 
-QString ZText::elided(const QString &text, const QFontMetrics &metrics, int width)
+QString ZText::elided(const QString &text, const QFontMetrics &metrics, int width, Qt::TextElideMode where)
 {
     const QString line = oneLine(text);
     if (line.isEmpty() || width <= 0)
         return QString();
-    const QString cut = metrics.elidedText(line, Qt::ElideRight, width);
+    const QString cut = metrics.elidedText(line, where, width);
     return metrics.horizontalAdvance(cut) > width ? QString() : cut;
 }
 
-void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text)
+void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text,
+                 Qt::TextElideMode where)
 {
-    const QString line = elided(text, painter.fontMetrics(), place.width());
+    const QString line = elided(text, painter.fontMetrics(), place.width(), where);
     if (line.isEmpty())
         return;
     painter.setLayoutDirection(line.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
