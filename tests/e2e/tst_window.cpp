@@ -1,0 +1,235 @@
+// The recent-calls application as a user has it: its real window, real key events, what the display shows.
+#include "CallLog.h"
+#include "Clock.h"
+#include "DataCalls.h"
+#include "Handset.h"
+#include "Picture.h"
+#include "SimulatedTelephone.h"
+#include "XServer.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QScreen>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+
+using namespace handset;
+using simulated::CallDirection;
+using simulated::CallKind;
+
+namespace {
+
+constexpr int patience = 20'000; // milliseconds for the application to react, far more than it needs
+
+// Where the display lies in the window, which a server without a window manager puts at its top-left corner.
+constexpr QRect displayRect(50, 72, 240, 320);
+
+const QList<simulated::PastCall> history = {
+    {CallKind::Voice, CallDirection::Dialed, QStringLiteral("5550101"), 1'000'000, 65'000},
+    {CallKind::Voice, CallDirection::Answered, QStringLiteral("5550102"), 2'000'000, 3'725'000},
+    {CallKind::Data, CallDirection::Dialed, QStringLiteral("5550103"), 9'000'000, 36'000'000},
+};
+
+} // namespace
+
+class WindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void oneWrongDigitIsNotTakenForTheReference();
+    void keysLeadFromTheMenuThroughAResetAndOutAgain();
+    void theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey();
+
+private:
+    void start();
+    void xdotool(const QStringList &arguments);
+    void press(const char *keys);
+    QImage photograph() const;
+    void verifyDisplay(const QString &name);
+    void leave();
+    std::shared_ptr<Handset> reopenState();
+
+    std::unique_ptr<QTemporaryDir> state;
+    std::unique_ptr<QProcess> host;
+};
+
+void WindowTest::init()
+{
+    state = std::make_unique<QTemporaryDir>();
+    QVERIFY(state->isValid());
+    const std::shared_ptr<Handset> telephone = reopenState();
+    QVERIFY(telephone);
+    auto *simulation = dynamic_cast<simulated::SimulatedTelephone *>(telephone.get());
+    QVERIFY(simulation);
+    QCOMPARE(simulation->addHistory(history), 0);
+}
+
+void WindowTest::cleanup()
+{
+    if (host && host->state() != QProcess::NotRunning) {
+        host->kill();
+        host->waitForFinished(patience);
+    }
+    host.reset();
+    state.reset();
+}
+
+std::shared_ptr<Handset> WindowTest::reopenState()
+{
+    Settings settings;
+    settings.stateDirectory = state->path();
+    const Opened opened = open(settings);
+    if (!opened.handset || !opened.notice.isEmpty())
+        qWarning("%s%s", qPrintable(opened.error), qPrintable(opened.notice));
+    return opened.handset;
+}
+
+void WindowTest::start()
+{
+    host = std::make_unique<QProcess>();
+    host->setProcessChannelMode(QProcess::ForwardedChannels);
+    host->start(QStringLiteral(KAV_HOST), {QStringLiteral("--state"), state->path()});
+    QVERIFY2(host->waitForStarted(patience), qPrintable(host->errorString()));
+    // Without a window manager the focus is given by hand, to the window once it is there.
+    xdotool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+             QStringLiteral("--name"), QStringLiteral("^Recent Calls$"), QStringLiteral("windowmove"),
+             QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("windowfocus"), QStringLiteral("--sync")});
+}
+
+void WindowTest::xdotool(const QStringList &arguments)
+{
+    QProcess tool;
+    tool.setProcessChannelMode(QProcess::ForwardedChannels);
+    tool.start(QStringLiteral("xdotool"), arguments);
+    QVERIFY2(tool.waitForFinished(patience), qPrintable(tool.errorString()));
+    QCOMPARE(tool.exitCode(), 0);
+}
+
+void WindowTest::press(const char *keys)
+{
+    xdotool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")} +
+            QString::fromLatin1(keys).split(QLatin1Char(' ')));
+}
+
+QImage WindowTest::photograph() const
+{
+    return QGuiApplication::primaryScreen()
+        ->grabWindow(0, displayRect.x(), displayRect.y(), displayRect.width(), displayRect.height())
+        .toImage()
+        .convertToFormat(QImage::Format_RGB32);
+}
+
+void WindowTest::verifyDisplay(const QString &name)
+{
+    const QString path = QStringLiteral(KAV_REFERENCES "/%1.png").arg(name);
+    if (qEnvironmentVariableIsSet("KAV_UPDATE_REFERENCES")) {
+        QTest::qWait(1500);
+        QVERIFY(photograph().save(path));
+        return;
+    }
+    const QImage reference(path);
+    QVERIFY2(!reference.isNull(), qPrintable(path));
+    QImage seen;
+    const bool same = QTest::qWaitFor(
+        [&] {
+            seen = photograph();
+            return difference(seen, reference).isSmall();
+        },
+        patience);
+    if (same)
+        return;
+    const PictureDifference apart = difference(seen, reference);
+    const QString kept = QStringLiteral("seen-%1.png").arg(name);
+    seen.save(kept);
+    QFAIL(qPrintable(QStringLiteral("%1: %2 of the pixels are far off, mean difference %3; what was seen is in %4")
+                         .arg(name)
+                         .arg(apart.farPixels)
+                         .arg(apart.mean)
+                         .arg(kept)));
+}
+
+void WindowTest::leave()
+{
+    press("F2");
+    QVERIFY(host->waitForFinished(patience));
+    QCOMPARE(host->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host->exitCode(), 0);
+}
+
+void WindowTest::oneWrongDigitIsNotTakenForTheReference()
+{
+    const QImage reference = QImage(QStringLiteral(KAV_REFERENCES "/call-times.png"));
+    QVERIFY(difference(reference, reference).isSmall());
+    // The last digits of "01:02:05" and "10:00:00", one row below.
+    constexpr QRect five(229, 82, 11, 23);
+    constexpr QRect zero(229, 106, 11, 23);
+    QImage altered = reference.copy();
+    for (int y = 0; y < five.height(); ++y) {
+        for (int x = 0; x < five.width(); ++x)
+            altered.setPixel(five.x() + x, five.y() + y, reference.pixel(zero.x() + x, zero.y() + y));
+    }
+    QVERIFY(!difference(altered, reference).isSmall());
+}
+
+void WindowTest::keysLeadFromTheMenuThroughAResetAndOutAgain()
+{
+    start();
+    verifyDisplay(QStringLiteral("menu"));
+    press("Return");
+    verifyDisplay(QStringLiteral("call-times"));
+    press("Down Return");
+    verifyDisplay(QStringLiteral("reset-dialed-calls"));
+    press("F1");
+    verifyDisplay(QStringLiteral("dialed-calls-reset"));
+    press("Escape");
+    verifyDisplay(QStringLiteral("menu"));
+    leave();
+
+    const std::shared_ptr<Handset> telephone = reopenState();
+    CallTime time;
+    QCOMPARE(telephone->callLog()->dialedCallsTime(time), 0);
+    QVERIFY(time == CallTime());
+    QCOMPARE(telephone->callLog()->lifetimeCallsTime(time), 0);
+    QVERIFY(time == CallTime::fromSeconds(65 + 3725 + 36000));
+}
+
+void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey()
+{
+    start();
+    verifyDisplay(QStringLiteral("menu"));
+    press("Return");
+    verifyDisplay(QStringLiteral("call-times"));
+    press("alt+a"); // the panel's "Dial data call"
+    press("Down Down Down Return");
+    verifyDisplay(QStringLiteral("reset-data-calls"));
+    press("F1");
+    verifyDisplay(QStringLiteral("refused"));
+    press("Return");
+    verifyDisplay(QStringLiteral("data-calls-kept"));
+    press("F2");
+    verifyDisplay(QStringLiteral("menu"));
+    leave();
+
+    quint32 seconds = 0;
+    QCOMPARE(reopenState()->dataCalls()->totalDuration(seconds), 0);
+    QCOMPARE(seconds, 36000U);
+}
+
+int main(int argc, char *argv[])
+{
+    const XServer server;
+    if (server.display().isEmpty()) {
+        qCritical("%s", qPrintable(server.error()));
+        return 1;
+    }
+    qputenv("DISPLAY", server.display().toLatin1());
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    QApplication application(argc, argv);
+    WindowTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_window.moc"
