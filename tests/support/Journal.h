@@ -27,6 +27,7 @@ public:
 
     /// What an object is called in the lines from now on.
     void nameObject(const void *object, const QString &name) { names.insert(object, name); }
+    bool knows(const void *object) const { return names.contains(object); }
     /// The object's name, "null", or "unknown".
     QString nameOf(const void *object) const;
 

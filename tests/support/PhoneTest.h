@@ -29,6 +29,16 @@ protected:
     Script &script() const { return handset->script(); }
 };
 
+/// Empty when both lists are equal; otherwise where they part, and both.
+QString differenceOf(const QStringList &actual, const QStringList &expected);
+
+/// QCOMPARE() for lists of lines, whose failure shows them whole.
+#define COMPARE_LINES(ACTUAL, EXPECTED)                                                                           \
+    do {                                                                                                          \
+        const QString difference = differenceOf(ACTUAL, EXPECTED);                                                \
+        QVERIFY2(difference.isEmpty(), qPrintable(difference));                                                   \
+    } while (false)
+
 namespace PhoneTestMain {
 
 /// Sets what the test runner sets too, so that a program started by hand has the same surroundings.

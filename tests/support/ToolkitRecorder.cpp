@@ -1,6 +1,5 @@
 #include "ToolkitRecorder.h"
 
-#include "CalledFrom.h"
 #include "Journal.h"
 
 #include "PHONE_MsgClient.h"
@@ -12,10 +11,22 @@
 
 #include <type_traits>
 
+#include <dlfcn.h>
+
 namespace {
 
 int rowsMade = 0;
 int dialogsMade = 0;
+int depth = 0; // of recorded operations inside each other
+
+// What an operation does inside is not the plug-in's doing, and not recorded. (Who called cannot be seen from the
+// return address: a call at the end of a function may be a jump.)
+struct Recorded {
+    Recorded() { ++depth; }
+    ~Recorded() { --depth; }
+    Q_DISABLE_COPY_MOVE(Recorded)
+    const bool isOutermost = depth == 0;
+};
 
 template <typename Argument>
 QString shown(const Argument &argument)
@@ -48,6 +59,11 @@ void record(const QString &operation, const Arguments &...arguments)
 QString of(const void *object, const char *operation)
 {
     return Journal::shared().nameOf(object) + QLatin1Char('.') + QLatin1String(operation);
+}
+
+bool isKnown(const void *object)
+{
+    return object && Journal::shared().knows(object);
 }
 
 void nameAndWatch(QObject *object, const QString &name)
@@ -86,12 +102,11 @@ void ToolkitRecorder::restart()
     }                                                                                                             \
     RESULT NAME(__VA_ARGS__)
 
-#define KAV_FROM_PLUGIN isCodeOf(pluginFile, __builtin_return_address(0))
-
 KAV_STANDS_FOR("_ZN13ZKbMainWidgetC2EP7QWidgetPKcj", void, makeScreen, ZKbMainWidget *self, QWidget *parent,
                const char *name, unsigned int flags)
 {
-    if (KAV_FROM_PLUGIN) {
+    const Recorded call;
+    if (call.isOutermost) {
         Journal::shared().nameObject(self, QStringLiteral("screen"));
         record(QStringLiteral("ZKbMainWidget"), parent, name, flags);
     }
@@ -101,22 +116,25 @@ KAV_STANDS_FOR("_ZN13ZKbMainWidgetC2EP7QWidgetPKcj", void, makeScreen, ZKbMainWi
 KAV_STANDS_FOR("_ZN13ZKbMainWidget18setMainWidgetTitleERK7QString", void, setTitle, ZKbMainWidget *self,
                const QString &title)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "setMainWidgetTitle"), title);
     original_setTitle()(self, title);
 }
 
 KAV_STANDS_FOR("_ZN13ZKbMainWidget12setCSTWidgetEP7QWidget", void, setBar, ZKbMainWidget *self, QWidget *bar)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "setCSTWidget"), bar);
     original_setBar()(self, bar);
 }
 
 KAV_STANDS_FOR("_ZN13ZKbMainWidget16getContentWidgetEb", QWidget *, getContent, ZKbMainWidget *self, bool create)
 {
+    const Recorded call;
     QWidget *content = original_getContent()(self, create);
-    if (KAV_FROM_PLUGIN) {
+    if (call.isOutermost && isKnown(self)) {
         Journal::shared().nameObject(content, QStringLiteral("content"));
         record(of(self, "getContentWidget"), create);
     }
@@ -126,7 +144,8 @@ KAV_STANDS_FOR("_ZN13ZKbMainWidget16getContentWidgetEb", QWidget *, getContent, 
 KAV_STANDS_FOR("_ZN8ZSoftKeyC1ERK7QStringP7QWidgetS4_", void, makeSoftKey, ZSoftKey *self, const QString &layout,
                QWidget *parent, QWidget *target)
 {
-    if (KAV_FROM_PLUGIN) {
+    const Recorded call;
+    if (call.isOutermost) {
         Journal::shared().nameObject(self, QStringLiteral("softKey"));
         record(QStringLiteral("ZSoftKey"), layout, parent, target);
     }
@@ -136,7 +155,8 @@ KAV_STANDS_FOR("_ZN8ZSoftKeyC1ERK7QStringP7QWidgetS4_", void, makeSoftKey, ZSoft
 KAV_STANDS_FOR("_ZN8ZSoftKey7setTextENS_7KEY_IDXERK7QStringNS_13TEXT_PRIORITYE", void, setSoftKeyText,
                ZSoftKey *self, ZSoftKey::KEY_IDX key, const QString &text, ZSoftKey::TEXT_PRIORITY priority)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "setText"), key, text, priority);
     original_setSoftKeyText()(self, key, text, priority);
 }
@@ -144,7 +164,8 @@ KAV_STANDS_FOR("_ZN8ZSoftKey7setTextENS_7KEY_IDXERK7QStringNS_13TEXT_PRIORITYE",
 KAV_STANDS_FOR("_ZN8ZSoftKey14setClickedSlotENS_7KEY_IDXEPK7QObjectPKc", void, setClickedSlot, ZSoftKey *self,
                ZSoftKey::KEY_IDX key, const QObject *receiver, const char *member)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "setClickedSlot"), key, receiver, member);
     original_setClickedSlot()(self, key, receiver, member);
 }
@@ -152,7 +173,8 @@ KAV_STANDS_FOR("_ZN8ZSoftKey14setClickedSlotENS_7KEY_IDXEPK7QObjectPKc", void, s
 KAV_STANDS_FOR("_ZN8ZListBoxC1E7QStringP7QWidgetjN12ZSkinService11WidgetClsIDE", void, makeList, ZListBox *self,
                QString type, QWidget *parent, unsigned int flags, ZSkinService::WidgetClsID skinClass)
 {
-    if (KAV_FROM_PLUGIN) {
+    const Recorded call;
+    if (call.isOutermost) {
         Journal::shared().nameObject(self, QStringLiteral("list"));
         record(QStringLiteral("ZListBox"), type, parent, flags, skinClass);
     }
@@ -162,7 +184,8 @@ KAV_STANDS_FOR("_ZN8ZListBoxC1E7QStringP7QWidgetjN12ZSkinService11WidgetClsIDE",
 KAV_STANDS_FOR("_ZN8ZListBox10insertItemEPK9ZListItemib", void, insertItem, ZListBox *self, const ZListItem *item,
                int index, bool show)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "insertItem"), item, index, show);
     original_insertItem()(self, item, index, show);
 }
@@ -170,7 +193,8 @@ KAV_STANDS_FOR("_ZN8ZListBox10insertItemEPK9ZListItemib", void, insertItem, ZLis
 KAV_STANDS_FOR("_ZN12ZSettingItemC1EP8ZListBox7QString", void, makeRow, ZSettingItem *self, ZListBox *list,
                QString type)
 {
-    if (KAV_FROM_PLUGIN) {
+    const Recorded call;
+    if (call.isOutermost) {
         Journal::shared().nameObject(self, QStringLiteral("row %1").arg(rowsMade++));
         record(QStringLiteral("ZSettingItem"), list, type);
     }
@@ -180,7 +204,8 @@ KAV_STANDS_FOR("_ZN12ZSettingItemC1EP8ZListBox7QString", void, makeRow, ZSetting
 KAV_STANDS_FOR("_ZN12ZSettingItem13appendSubItemEi7QStringbNS_17SettingItemRegionE", void, appendSubItem,
                ZSettingItem *self, int line, QString text, bool marked, ZSettingItem::SettingItemRegion region)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "appendSubItem"), line, text, marked, region);
     original_appendSubItem()(self, line, text, marked, region);
 }
@@ -189,7 +214,8 @@ KAV_STANDS_FOR("_ZN12ZSettingItem10setSubItemEii7QStringbNS_17SettingItemRegionE
                ZSettingItem *self, int line, int subItem, QString text, bool marked,
                ZSettingItem::SettingItemRegion region)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "setSubItem"), line, subItem, text, marked, region);
     original_setSubItem()(self, line, subItem, text, marked, region);
 }
@@ -198,29 +224,30 @@ KAV_STANDS_FOR("_ZN11ZMessageDlgC1ERK7QStringS2_NS_14MessageDlgTypeEiP7QWidgetPK
                ZMessageDlg *self, const QString &header, const QString &message, ZMessageDlg::MessageDlgType type,
                int timeout, QWidget *parent, const char *name, bool modal, unsigned int flags)
 {
-    const bool isPlugins = KAV_FROM_PLUGIN;
-    if (isPlugins)
+    const Recorded call;
+    if (call.isOutermost)
         record(QStringLiteral("ZMessageDlg"), header, message, type, timeout, parent, name, modal, flags);
     original_makeDialog()(self, header, message, type, timeout, parent, name, modal, flags);
-    if (isPlugins)
+    if (call.isOutermost)
         nameAndWatch(self, QStringLiteral("dialog %1").arg(++dialogsMade));
 }
 
 KAV_STANDS_FOR("_ZN15PHONE_MsgClientC1EP7QObjectPKc", void, makeClient, PHONE_MsgClient *self, QObject *parent,
                const char *name)
 {
-    const bool isPlugins = KAV_FROM_PLUGIN;
-    if (isPlugins)
+    const Recorded call;
+    if (call.isOutermost)
         record(QStringLiteral("PHONE_MsgClient"), parent, name);
     original_makeClient()(self, parent, name);
-    if (isPlugins)
+    if (call.isOutermost)
         nameAndWatch(self, QStringLiteral("msgClient"));
 }
 
 KAV_STANDS_FOR("_ZN15PHONE_MsgClient32getTotalByteAndConnectedDurationEv", int, refreshTotals,
                PHONE_MsgClient *self)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "getTotalByteAndConnectedDuration"));
     return original_refreshTotals()(self);
 }
@@ -228,21 +255,24 @@ KAV_STANDS_FOR("_ZN15PHONE_MsgClient32getTotalByteAndConnectedDurationEv", int, 
 KAV_STANDS_FOR("_ZN15PHONE_MsgClient18resetTotalDurationEb", int, resetTotal, PHONE_MsgClient *self,
                bool confirmed)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "resetTotalDuration"), confirmed);
     return original_resetTotal()(self, confirmed);
 }
 
 KAV_STANDS_FOR("_ZN7QWidget11setGeometryERK5QRect", void, setGeometry, QWidget *self, const QRect &rectangle)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "setGeometry"), rectangle);
     original_setGeometry()(self, rectangle);
 }
 
 KAV_STANDS_FOR("_ZN7QWidget4showEv", void, showWidget, QWidget *self)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
         record(of(self, "show"));
     original_showWidget()(self);
 }
@@ -251,7 +281,8 @@ KAV_STANDS_FOR("_ZN7QObject7connectEPKS_PKcS1_S3_N2Qt14ConnectionTypeE", QMetaOb
                const QObject *sender, const char *signal, const QObject *receiver, const char *member,
                Qt::ConnectionType type)
 {
-    if (KAV_FROM_PLUGIN)
+    const Recorded call;
+    if (call.isOutermost && isKnown(sender) && isKnown(receiver))
         record(QStringLiteral("connect"), sender, signal, receiver, member);
     return original_connectObjects()(sender, signal, receiver, member, type);
 }

@@ -1,8 +1,8 @@
 // The plug-in's calls into the toolkit, the message client and Qt, recorded with their arguments.
 //
 // A program that links kav_toolkit_recorder and exports its symbols stands between the plug-in and those libraries:
-// each call that the plug-in makes of the operations in ToolkitRecorder.cpp is recorded in the journal, and then goes
-// to the library's own. Calls of anybody else go through unrecorded.
+// each call of the operations in ToolkitRecorder.cpp on an object of the plug-in's making is recorded in the journal,
+// and then goes to the library's own. What an operation calls in turn is not recorded.
 //
 // Objects appear under the names "screen", "softKey", "content", "list", "row 0"..., "dialog 1"... and "msgClient" in
 // the order of their making; others as the test named them. Deleting a dialog or the message client is recorded too.
