@@ -20,6 +20,7 @@ public:
         , index(rowIndex)
         , row(option.rect)
         , direction(option.direction)
+        , titleElision(option.textElideMode)
         , underBar(option.state & QStyle::State_Selected)
         , room(row.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, 0))
     {
@@ -40,7 +41,7 @@ private:
         painter->setFont(ZSkinService::font(ZSkinService::HeadingFont));
         painter->setPen(ZSkinService::color(ZSkinService::HeadingTextColor));
         paintIcon();
-        paintText(index.data(Qt::DisplayRole).toString(), room, Qt::AlignLeft);
+        paintText(index.data(Qt::DisplayRole).toString(), room, Qt::AlignLeft, titleElision);
     }
 
     void paintItem()
@@ -53,7 +54,7 @@ private:
         paintValue();
         paintIcon();
         painter->setPen(textColor(ZSkinService::RowTextColor));
-        paintText(index.data(Qt::DisplayRole).toString(), room, Qt::AlignLeft);
+        paintText(index.data(Qt::DisplayRole).toString(), room, Qt::AlignLeft, titleElision);
     }
 
     // Takes the value's room from the trailing edge: the title gets what the value leaves.
@@ -83,11 +84,13 @@ private:
         room.setLeft(place.right() + 1 + ZSkinService::RowGap);
     }
 
-    void paintText(const QString &text, const QRect &place, Qt::Alignment side)
+    void paintText(const QString &text, const QRect &place, Qt::Alignment side,
+                   Qt::TextElideMode where = Qt::ElideRight)
     {
         if (place.width() <= 0)
             return;
-        ZText::draw(*painter, QStyle::visualRect(direction, row, place), QStyle::visualAlignment(direction, side), text);
+        ZText::draw(*painter, QStyle::visualRect(direction, row, place), QStyle::visualAlignment(direction, side),
+                    text, where);
     }
 
     QColor textColor(ZSkinService::ColorRole plain) const
@@ -102,6 +105,7 @@ private:
     const QModelIndex &index;
     const QRect row;
     const Qt::LayoutDirection direction;
+    const Qt::TextElideMode titleElision; // the view's
     const bool underBar;
     QRect room; // what is still free for text
 };
