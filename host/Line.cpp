@@ -87,6 +87,14 @@ void Line::setNumber(const QString &number)
     emit changed();
 }
 
+void Line::typeNumber(QChar digit)
+{
+    const QString begun = typing ? nextNumber : QString();
+    typing = true;
+    if (begun.size() < longestNumber)
+        setNumber(begun + digit);
+}
+
 bool Line::permits(Action action) const
 {
     if (!simulated)
@@ -99,8 +107,10 @@ bool Line::permits(Action action) const
 
 void Line::perform(Action action)
 {
-    if (permits(action))
-        finish(run(action));
+    if (!permits(action))
+        return;
+    typing = false;
+    finish(run(action));
 }
 
 int Line::run(Action action)

@@ -19,6 +19,8 @@ public:
 
     enum class Action { Dial, DialData, RemoteAnswer, Ring, Answer, HangUp };
 
+    static constexpr int longestNumber = 80;
+
     /// `handset` need not be a simulated telephone: then the line cannot be driven.
     explicit Line(std::shared_ptr<handset::Handset> handset);
 
@@ -29,6 +31,8 @@ public:
     /// The number that the next call is from or to.
     QString number() const { return nextNumber; }
     void setNumber(const QString &number);
+    /// Appends what the keypad types; the first digit after a call begins a new number.
+    void typeNumber(QChar digit);
 
     /// Whether the line is in the state that `action` needs.
     bool permits(Action action) const;
@@ -56,6 +60,7 @@ private:
     std::shared_ptr<handset::Handset> owner;
     Telephone *simulated;
     QString nextNumber = QStringLiteral("5550123");
+    bool typing = false;
     QString lastFailure;
 };
 

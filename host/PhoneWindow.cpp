@@ -33,6 +33,7 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephon
     connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
     connect(body->keypad(), &Keypad::callPressed, &line, &Line::pressCallKey);
     connect(body->keypad(), &Keypad::hangUpPressed, &line, &Line::pressHangUpKey);
+    connect(body->keypad(), &Keypad::numberTyped, &line, &Line::typeNumber);
     menu->show();
     menu->takeFocus();
 }

@@ -47,6 +47,7 @@ bool ScreenHost::open(int index)
     const ScreenEntry &entry = screenTable[static_cast<std::size_t>(index)];
     auto *opening = new OpenScreen(entry, library.functions(index), display, this);
     if (!opening->widget()) {
+        qWarning("The plug-in gives no screen \"%s\".", entry.name);
         delete opening;
         return false;
     }

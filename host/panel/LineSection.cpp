@@ -89,6 +89,8 @@ void LineSection::refresh()
     failure->setVisible(!line.failure().isEmpty());
     for (std::size_t index = 0; index < buttonSpecs.size(); ++index)
         buttons[index]->setEnabled(line.permits(buttonSpecs[index].action));
+    if (number->text() != line.number())
+        number->setText(line.number());
     number->setEnabled(line.telephone() != nullptr);
 }
 

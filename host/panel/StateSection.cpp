@@ -1,5 +1,6 @@
 #include "StateSection.h"
 
+#include <QtCore/QFileInfo>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
 
@@ -29,10 +30,11 @@ StateSection::StateSection(const QString &stateDirectory, const QString &notice)
     : PanelSection(tr("State"))
 {
     auto *column = new QVBoxLayout(this);
-    const QString place = stateDirectory.isEmpty() ? tr("In memory; gone when the window closes.")
-                                                   : tr("Kept in %1").arg(breakable(stateDirectory));
+    const QString directory = stateDirectory.isEmpty() ? QString() : QFileInfo(stateDirectory).absoluteFilePath();
+    const QString place = directory.isEmpty() ? tr("In memory; gone when the window closes.")
+                                              : tr("Kept in %1").arg(breakable(directory));
     QLabel *placeLabel = makeLabel(place, "state directory");
-    placeLabel->setToolTip(stateDirectory);
+    placeLabel->setToolTip(directory);
     placeLabel->setAccessibleName(tr("Where the state is kept"));
     column->addWidget(placeLabel);
     if (!notice.isEmpty())

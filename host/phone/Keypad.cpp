@@ -2,6 +2,7 @@
 
 #include "PhoneKey.h"
 #include "ZApplication.h"
+#include "ZPopup.h"
 
 #include <QtWidgets/QGridLayout>
 
@@ -62,6 +63,14 @@ PhoneKey *makeKey(const KeySpec &spec, QWidget *parent)
     return key;
 }
 
+bool dialogHasKeys()
+{
+    QWidget *widget = ZApplication::keyTarget();
+    while (widget && !qobject_cast<ZPopup *>(widget))
+        widget = widget->parentWidget();
+    return widget != nullptr;
+}
+
 } // namespace
 
 Keypad::Keypad(QWidget *parent)
@@ -74,12 +83,22 @@ Keypad::Keypad(QWidget *parent)
         PhoneKey *key = makeKey(spec, this);
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
         grid->addWidget(key, spec.row, spec.column, spec.rowSpan, 1);
-        if (spec.qtKey == callKey)
-            connect(key, &PhoneKey::clicked, this, &Keypad::callPressed);
-        else if (spec.qtKey == hangUpKey)
-            connect(key, &PhoneKey::clicked, this, &Keypad::hangUpPressed);
-        else
-            connect(key, &PhoneKey::clicked, this, [qtKey = spec.qtKey] { ZApplication::pressKey(qtKey); });
+        connect(key, &PhoneKey::clicked, this, [this, qtKey = spec.qtKey] { press(qtKey); });
+    }
+}
+
+void Keypad::press(int qtKey)
+{
+    if (qtKey == callKey) {
+        emit callPressed();
+    } else if (qtKey == hangUpKey) {
+        emit hangUpPressed();
+    } else {
+        const bool isText = qtKey < Qt::Key_Escape; // above are the keys that stand for no character
+        const bool isNumber = isText && !dialogHasKeys();
+        ZApplication::pressKey(qtKey);
+        if (isNumber)
+            emit numberTyped(QChar(static_cast<char16_t>(qtKey)));
     }
 }
 

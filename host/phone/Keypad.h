@@ -5,8 +5,7 @@
 
 namespace host {
 
-/// Real buttons that never take the focus. The keys that screens know go to the screen or dialog on top; the two
-/// coloured keys are reported.
+/// Real buttons that never take the focus. Every key but the two coloured ones goes to the screen or dialog on top.
 class Keypad : public QWidget
 {
     Q_OBJECT
@@ -17,6 +16,11 @@ public:
 signals:
     void callPressed();
     void hangUpPressed();
+    /// A digit, "*" or "#" was pressed where nobody asks for text: on a screen, not in a dialog.
+    void numberTyped(QChar digit);
+
+private:
+    void press(int qtKey);
 };
 
 } // namespace host

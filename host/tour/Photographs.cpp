@@ -36,9 +36,9 @@ QString Photographs::prepare() const
 
 QString Photographs::takeNumbered(const QImage &image, const QString &name, QString &file)
 {
-    for (auto it = taken.cbegin(); it != taken.cend(); ++it) {
-        if (it.value() == image) {
-            file = it.key();
+    for (const Taken &earlier : std::as_const(taken)) {
+        if (earlier.image == image) {
+            file = earlier.file;
             return {};
         }
     }
@@ -58,7 +58,8 @@ QString Photographs::write(const QImage &image, const QString &file)
     if (!writer.write(image))
         return QStringLiteral("The photograph \"%1\" cannot be written: %2.")
             .arg(writer.fileName(), writer.errorString());
-    taken.insert(file, image);
+    taken.removeIf([&](const Taken &earlier) { return earlier.file == file; }); // written over
+    taken.append({file, image});
     return {};
 }
 

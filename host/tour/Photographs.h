@@ -1,7 +1,7 @@
 // The photographs of a tour.
 #pragma once
 
-#include <QtCore/QHash>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtGui/QImage>
 
@@ -28,7 +28,11 @@ private:
     QString write(const QImage &image, const QString &file);
 
     QString directory;
-    QHash<QString, QImage> taken; // by file name
+    struct Taken {
+        QString file;
+        QImage image;
+    };
+    QList<Taken> taken; // in their order
     int lastNumber = 0;
 };
 

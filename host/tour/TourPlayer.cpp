@@ -75,7 +75,9 @@ int TourPlayer::play(const Script &script)
     place = script.name;
     if (const QString problem = photographs.prepare(); !problem.isEmpty())
         stop(ExitNotWritten, problem);
-    if (!stopped)
+    const bool beginsWithState =
+        !script.steps.isEmpty() && std::holds_alternative<SetState>(script.steps[0].action);
+    if (!stopped && !beginsWithState)
         perform(SetState{SetState::Empty});
     for (const Step &step : script.steps) {
         if (stopped)

@@ -4,6 +4,7 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -60,7 +61,7 @@ int keyOf(const QString &name)
 
 QStringList wordsOf(const QString &text)
 {
-    return text.split(u' ', Qt::SkipEmptyParts);
+    return text.simplified().split(u' ', Qt::SkipEmptyParts);
 }
 
 Parsed parseState(const QString &rest)
@@ -260,9 +261,10 @@ const FactForm *formOf(const QString &word)
 // The first word of `text`, which is cut off it.
 QString takeWord(QString &text)
 {
-    const qsizetype blank = text.indexOf(u' ');
-    const QString word = text.left(blank);
-    text = blank < 0 ? QString() : text.mid(blank + 1).trimmed();
+    const auto *const blank = std::find_if(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
+    const qsizetype length = blank - text.cbegin();
+    const QString word = text.left(length);
+    text = text.mid(length).trimmed();
     return word;
 }
 

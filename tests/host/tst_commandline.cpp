@@ -1,0 +1,291 @@
+// What the program answers to its command line, and how it ends.
+
+#include "Handset.h"
+#include "HostProcess.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
+#include <QtTest/QTest>
+
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void helpAndVersionAreAnswered_data();
+    void helpAndVersionAreAnswered();
+    void aWrongCommandLineIsRefusedWithCode2_data();
+    void aWrongCommandLineIsRefusedWithCode2();
+    void aPluginThatCannotServeIsNamed_data();
+    void aPluginThatCannotServeIsNamed();
+    void aPluginWithoutAScreenIsSaid();
+    void anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin();
+    void anUnusableStateDirectoryIsSaid();
+    void aSecondStartOnTheSameStateIsRefused();
+    void anUnknownBackendIsSaid();
+    void theTraceIsAppendedToItsFile();
+    void theTraceGoesToStandardOutputWhenAskedTo();
+    void theTraceIsKeptBesideTheStateByDefault();
+    void theTraceIsDroppedWhereTheStateIsInMemory();
+    void aTraceFileThatCannotBeOpenedIsSaid();
+    void aCatalogueTranslatesMenuAndScreens();
+    void aCatalogueThatCannotBeLoadedIsSaid_data();
+    void aCatalogueThatCannotBeLoadedIsSaid();
+    void withoutADisplayTheWindowIsRefused();
+    void theWindowIsPhotographed();
+    void aPhotographThatCannotBeWrittenIsSaid();
+
+private:
+    HostResult run(const QStringList &arguments) const { return runHost(arguments, environment); }
+    // Opens the Call Times screen in a window, and ends.
+    HostResult showCallTimes(const QStringList &more) const;
+    QString path(const QString &name) const { return home->filePath(name); }
+    QString contents(const QString &name) const;
+
+    std::unique_ptr<QTemporaryDir> home;
+    QProcessEnvironment environment;
+};
+
+void CommandLineTest::init()
+{
+    home = std::make_unique<QTemporaryDir>();
+    QVERIFY(home->isValid());
+    environment = hostEnvironment(home->path());
+}
+
+HostResult CommandLineTest::showCallTimes(const QStringList &more) const
+{
+    return run(QStringList{"--screen", "callTime", "--photo", path("window.png")} + more);
+}
+
+QString CommandLineTest::contents(const QString &name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("(no file)");
+}
+
+// A line that the meter writes before and after each question to the telephone.
+static bool hasMeterTrace(const QString &text)
+{
+    static const QRegularExpression line(
+        QStringLiteral("^utility/PHONE_UI_RecentCallMeter[^,]*,getLastCallTimes,\\d+ $"),
+        QRegularExpression::MultilineOption);
+    return line.match(text).hasMatch();
+}
+
+void CommandLineTest::helpAndVersionAreAnswered_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("help names the options") << QStringList{"--help"} << "--state <DIR>";
+    QTest::newRow("help names the exit codes") << QStringList{"--help"} << "\n  5  the plug-in library";
+    QTest::newRow("help names the screens") << QStringList{"-h"} << "callTime";
+    QTest::newRow("help comes before other options") << QStringList{"--screen", "nowhere", "--help"} << "Usage:";
+    QTest::newRow("version") << QStringList{"--version"} << "kavrecentcalls 1.";
+}
+
+void CommandLineTest::helpAndVersionAreAnswered()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, text);
+    environment.remove("QT_QPA_PLATFORM"); // no display is needed
+    const HostResult result = run(arguments);
+    QCOMPARE(result.code, 0);
+    QVERIFY2(result.output.contains(text), qPrintable(result.output));
+    QCOMPARE(result.errors, QString());
+}
+
+void CommandLineTest::aWrongCommandLineIsRefusedWithCode2_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("an unknown option") << QStringList{"--frobnicate"} << "frobnicate";
+    QTest::newRow("an argument that is no option") << QStringList{"call"} << "'call'";
+    QTest::newRow("an option without its value") << QStringList{"--state"} << "state";
+    QTest::newRow("an empty value") << QStringList{"--state", ""} << "'state' has an empty value";
+    QTest::newRow("a screen that there is not") << QStringList{"--screen", "nowhere"} << "'nowhere'";
+    QTest::newRow("a script without a tour") << QStringList{"--script", "x"} << "'script' needs option 'tour'";
+    QTest::newRow("a screen on a tour") << QStringList{"--tour", "t", "--screen", "callTime"} << "'screen'";
+    QTest::newRow("a window's photograph on a tour") << QStringList{"--tour", "t", "--photo", "x"} << "'photo'";
+}
+
+void CommandLineTest::aWrongCommandLineIsRefusedWithCode2()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, text);
+    const HostResult result = run(arguments);
+    QCOMPARE(result.code, 2);
+    QVERIFY2(result.errors.contains(text), qPrintable(result.errors));
+    QCOMPARE(result.output, QString());
+}
+
+void CommandLineTest::aPluginThatCannotServeIsNamed_data()
+{
+    QTest::addColumn<QString>("plugin");
+    QTest::addColumn<QString>("missing");
+    const QString doubles = QStringLiteral(KAV_DOUBLES);
+    QTest::newRow("no such library by name") << "libnothere.so.1"
+                                             << "\"libnothere.so.1\" cannot be loaded";
+    QTest::newRow("no such library by path") << "/nowhere/lib.so"
+                                             << "\"/nowhere/lib.so\" cannot be loaded";
+    QTest::newRow("no create function") << doubles + "/libnocreate.so"
+                                        << "no function \"create_callTime\"";
+    QTest::newRow("no destroy function") << doubles + "/libnodestroy.so"
+                                         << "no function \"destroy_callTime\"";
+}
+
+void CommandLineTest::aPluginThatCannotServeIsNamed()
+{
+    QFETCH(QString, plugin);
+    QFETCH(QString, missing);
+    for (const QStringList &mode : {QStringList{"--state", "none"}, QStringList{"--tour", path("tour")}}) {
+        const HostResult result = run(QStringList{"--plugin", plugin} + mode);
+        QCOMPARE(result.code, 5);
+        QVERIFY2(result.errors.contains(missing), qPrintable(result.errors));
+    }
+}
+
+void CommandLineTest::aPluginWithoutAScreenIsSaid()
+{
+    const HostResult result = showCallTimes({"--state", "none", "--plugin", KAV_DOUBLES "/libnull.so"});
+    QCOMPARE(result.code, 5);
+    QVERIFY2(result.errors.contains("gives no screen \"callTime\""), qPrintable(result.errors));
+}
+
+void CommandLineTest::anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin()
+{
+    environment.insert("LD_LIBRARY_PATH", KAV_DOUBLES "/replacement");
+    environment.insert("KAV_RECORD", path("record"));
+    const HostResult result = showCallTimes({"--state", "none"});
+    QCOMPARE(result.code, 0);
+    QVERIFY2(contents("record").startsWith("create callTime"), qPrintable(contents("record")));
+}
+
+void CommandLineTest::anUnusableStateDirectoryIsSaid()
+{
+    QFile file(path("file"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QString directory = path("file/state");
+    const HostResult result = showCallTimes({"--state", directory});
+    QCOMPARE(result.code, 3);
+    QVERIFY2(result.errors.contains(directory), qPrintable(result.errors));
+}
+
+void CommandLineTest::aSecondStartOnTheSameStateIsRefused()
+{
+    const handset::Opened first = handset::open({"simulated", path("state"), nullptr});
+    QVERIFY2(first.handset, qPrintable(first.error));
+    const HostResult result = showCallTimes({"--state", path("state")});
+    QCOMPARE(result.code, 3);
+    QVERIFY2(result.errors.contains(path("state")), qPrintable(result.errors));
+}
+
+void CommandLineTest::anUnknownBackendIsSaid()
+{
+    const HostResult result = showCallTimes({"--state", "none", "--backend", "pigeon"});
+    QCOMPARE(result.code, 3);
+    QVERIFY2(result.errors.contains("pigeon"), qPrintable(result.errors));
+}
+
+void CommandLineTest::theTraceIsAppendedToItsFile()
+{
+    const QStringList arguments{"--state", "none", "--trace", path("trace")};
+    QCOMPARE(showCallTimes(arguments).code, 0);
+    const QString once = contents("trace");
+    QVERIFY2(hasMeterTrace(once), qPrintable(once));
+    QCOMPARE(showCallTimes(arguments).code, 0);
+    QCOMPARE(contents("trace"), once + once);
+}
+
+void CommandLineTest::theTraceGoesToStandardOutputWhenAskedTo()
+{
+    const HostResult result = showCallTimes({"--state", "none", "--trace", "-"});
+    QCOMPARE(result.code, 0);
+    QVERIFY2(hasMeterTrace(result.output), qPrintable(result.output));
+}
+
+void CommandLineTest::theTraceIsKeptBesideTheStateByDefault()
+{
+    QCOMPARE(showCallTimes({"--state", path("state")}).code, 0);
+    QVERIFY(hasMeterTrace(contents("state/trace.log")));
+}
+
+void CommandLineTest::theTraceIsDroppedWhereTheStateIsInMemory()
+{
+    const HostResult result = showCallTimes({"--state", "none"});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(result.output, QString());
+    QVERIFY(!QFile::exists(path("data/kavcallmeter/trace.log")));
+}
+
+void CommandLineTest::aTraceFileThatCannotBeOpenedIsSaid()
+{
+    const QString file = path("missing/trace");
+    const HostResult result = showCallTimes({"--state", "none", "--trace", file});
+    QCOMPARE(result.code, 4);
+    QVERIFY2(result.errors.contains(file), qPrintable(result.errors));
+}
+
+void CommandLineTest::aCatalogueTranslatesMenuAndScreens()
+{
+    QFile script(path("short.tour"));
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write("state empty\n"
+                 "expect title Anrufe zuletzt gef\xc3\xbchrt\n"
+                 "expect softkeys Open | Exit\n"
+                 "press select\n"
+                 "expect title Gespr\xc3\xa4"
+                 "chszeiten\n"
+                 "expect softkeys | Back\n");
+    script.close();
+    const HostResult result =
+        run({"--tour", path("tour"), "--script", script.fileName(), "--translation", KAV_CATALOGUE});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+}
+
+void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::newRow("there is none") << "/nowhere/texts.qm";
+    QTest::newRow("it is no catalogue") << QFINDTESTDATA("host.ts");
+    QTest::newRow("it is a directory") << QDir::tempPath();
+}
+
+void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid()
+{
+    QFETCH(QString, file);
+    const HostResult result = showCallTimes({"--state", "none", "--translation", file});
+    QCOMPARE(result.code, 8);
+    QVERIFY2(result.errors.contains(file), qPrintable(result.errors));
+}
+
+void CommandLineTest::withoutADisplayTheWindowIsRefused()
+{
+    environment.remove("QT_QPA_PLATFORM");
+    const HostResult result = run({"--state", "none"});
+    QCOMPARE(result.code, 9);
+    QVERIFY2(result.errors.contains("--tour"), qPrintable(result.errors));
+}
+
+void CommandLineTest::theWindowIsPhotographed()
+{
+    environment.remove("QT_QPA_PLATFORM");
+    QCOMPARE(showCallTimes({"--state", "none"}).code, 0);
+    const QImage photograph(path("window.png"));
+    QVERIFY(photograph.width() > 600);
+    QVERIFY(photograph.height() > 600);
+}
+
+void CommandLineTest::aPhotographThatCannotBeWrittenIsSaid()
+{
+    const HostResult result = run({"--state", "none", "--photo", path("missing/window.png")});
+    QCOMPARE(result.code, 7);
+    QVERIFY2(result.errors.contains("missing/window.png"), qPrintable(result.errors));
+}
+
+QTEST_GUILESS_MAIN(CommandLineTest)
+#include "tst_commandline.moc"

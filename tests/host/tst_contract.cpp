@@ -1,0 +1,160 @@
+// What the host owes to a screen of the plug-in: shown once made, given back once, never from inside its signal.
+
+#include "ScreenHost.h"
+#include "ScreenLibrary.h"
+#include "ZApplication.h"
+#include "doubles/RecordingPlugin.h"
+#include "phone/Display.h"
+
+#include <QtCore/QLibrary>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <memory>
+
+using namespace host;
+
+class ContractTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void aScreenIsMadeInTheDisplayAndShown();
+    void theScreenIsDestroyedOnceAndAfterItsSignal();
+    void aSecondSignalOfALeavingScreenChangesNothing();
+    void aSecondSignalDoesNotReachTheNextScreen();
+    void onlyOneScreenIsOpenAtATime();
+    void closingGivesTheScreenBackAtOnce();
+    void theEndOfTheHostGivesTheScreenBack();
+    void aScreenThatIsGoneIsNotDestroyed();
+    void anIndexOutsideTheTableOpensNothing();
+    void theNextScreenOpensWhenOneHasClosed();
+
+private:
+    void press(int key) { QVERIFY(ZApplication::pressKey(key)); }
+
+    ScreenLibrary library;
+    QStringList *calls = nullptr;
+    std::unique_ptr<host::Display> display;
+    std::unique_ptr<ScreenHost> screens;
+};
+
+void ContractTest::initTestCase()
+{
+    const QString plugin = QStringLiteral(KAV_DOUBLES "/librecording.so");
+    const QString problem = library.load(plugin);
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    auto *recorded = reinterpret_cast<RecordedCalls *>(QLibrary::resolve(plugin, "recordedCalls"));
+    QVERIFY(recorded);
+    calls = &recorded();
+}
+
+void ContractTest::init()
+{
+    screens.reset();
+    display = std::make_unique<host::Display>();
+    screens = std::make_unique<ScreenHost>(library, display.get());
+    display->show();
+    calls->clear();
+}
+
+void ContractTest::aScreenIsMadeInTheDisplayAndShown()
+{
+    QVERIFY(screens->open(0));
+    QCOMPARE(*calls, (QStringList{"create callTime in a parent", "show"}));
+    QCOMPARE(screens->screen()->parentWidget(), display.get());
+    QVERIFY(screens->screen()->isVisible());
+    QCOMPARE(screens->screen()->geometry(), QRect(0, 0, 240, 320));
+}
+
+void ContractTest::theScreenIsDestroyedOnceAndAfterItsSignal()
+{
+    QSignalSpy closed(screens.get(), &ScreenHost::closed);
+    QVERIFY(screens->open(0));
+    calls->clear();
+    press(Qt::Key_Context2);
+    QCOMPARE(*calls, (QStringList{"emit", "emitted"}));
+    QTRY_COMPARE(*calls, (QStringList{"emit", "emitted", "destroy callTime", "deleted"}));
+    QCOMPARE(closed.size(), 1);
+    QVERIFY(!screens->screen());
+}
+
+void ContractTest::aSecondSignalOfALeavingScreenChangesNothing()
+{
+    QSignalSpy closed(screens.get(), &ScreenHost::closed);
+    QVERIFY(screens->open(0));
+    press(Qt::Key_Clear); // the double emits twice
+    QTRY_VERIFY(calls->contains("deleted"));
+    QCoreApplication::processEvents();
+    QCOMPARE(calls->count("emit"), 2);
+    QCOMPARE(calls->count("destroy callTime"), 1);
+    QCOMPARE(closed.size(), 1);
+}
+
+void ContractTest::aSecondSignalDoesNotReachTheNextScreen()
+{
+    connect(screens.get(), &ScreenHost::closed, screens.get(), [this] { screens->open(0); });
+    QVERIFY(screens->open(0));
+    press(Qt::Key_Clear);
+    QTRY_COMPARE(calls->count("create callTime in a parent"), 2);
+    QCoreApplication::processEvents();
+    QCOMPARE(calls->count("destroy callTime"), 1);
+    QVERIFY(screens->screen());
+    screens->disconnect();
+}
+
+void ContractTest::onlyOneScreenIsOpenAtATime()
+{
+    QVERIFY(screens->open(0));
+    QVERIFY(!screens->open(0));
+    QCOMPARE(calls->count("create callTime in a parent"), 1);
+}
+
+void ContractTest::closingGivesTheScreenBackAtOnce()
+{
+    QVERIFY(screens->open(0));
+    screens->close();
+    QCOMPARE(calls->mid(2), (QStringList{"destroy callTime", "deleted"}));
+    screens->close();
+    QCOMPARE(calls->count("destroy callTime"), 1);
+}
+
+void ContractTest::theEndOfTheHostGivesTheScreenBack()
+{
+    QVERIFY(screens->open(0));
+    press(Qt::Key_Context2); // and the signal is still under way
+    screens.reset();
+    QCoreApplication::processEvents();
+    QCOMPARE(calls->mid(2), (QStringList{"emit", "emitted", "destroy callTime", "deleted"}));
+}
+
+void ContractTest::aScreenThatIsGoneIsNotDestroyed()
+{
+    QVERIFY(screens->open(0));
+    delete screens->screen();
+    screens->close();
+    QCOMPARE(calls->mid(2), QStringList{"deleted"});
+}
+
+void ContractTest::anIndexOutsideTheTableOpensNothing()
+{
+    QVERIFY(!screens->open(-1));
+    QVERIFY(!screens->open(static_cast<int>(screenTable.size())));
+    QCOMPARE(*calls, QStringList());
+}
+
+void ContractTest::theNextScreenOpensWhenOneHasClosed()
+{
+    for (int time = 1; time <= 3; ++time) {
+        QVERIFY(screens->open(0));
+        press(Qt::Key_Context2);
+        QTRY_VERIFY(!screens->screen());
+        QCOMPARE(calls->count("deleted"), time);
+    }
+    QCOMPARE(calls->count("deleted while emitting"), 0);
+}
+
+QTEST_MAIN(ContractTest)
+#include "tst_contract.moc"

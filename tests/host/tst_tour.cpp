@@ -1,0 +1,309 @@
+// The tour: what it prints, photographs, expects, and how it fails.
+
+#include "HostProcess.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtTest/QTest>
+
+class TourTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void theShippedTourMeetsItsExpectations();
+    void theShippedTourComesOutTheSameEveryTime();
+    void screensAndDialogsArePrintedAsText();
+    void whatIsMetIsPhotographedWithoutBeingAskedFor();
+    void aDialogWithoutAParentIsOnThePhotograph();
+    void aFailedExpectationTellsItsLine_data();
+    void aFailedExpectationTellsItsLine();
+    void theTourGoesOnAfterAFailedExpectation();
+    void mistakesInTheScriptAreAllTold();
+    void aScriptThatCannotBeReadIsSaid_data();
+    void aScriptThatCannotBeReadIsSaid();
+    void aDirectoryThatCannotBeMadeIsSaid();
+    void aPhotographThatCannotBeWrittenEndsTheTour();
+    void theTourTouchesNoStateThatIsNotNamed();
+    void aKeptStateNeedsItsDirectory();
+    void aKeptStateIsThereAtTheNextStart();
+    void anUnusableKeptStateIsSaid();
+    void tracesAreDroppedUnlessAskedFor();
+
+private:
+    HostResult play(const QByteArray &script, const QStringList &more = {});
+    QString path(const QString &name) const { return home->filePath(name); }
+    QImage photograph(const QString &name) const { return QImage(path("tour/" + name)); }
+    void writeFile(const QString &name, const QByteArray &text) const;
+
+    std::unique_ptr<QTemporaryDir> home;
+    QProcessEnvironment environment;
+};
+
+void TourTest::init()
+{
+    home = std::make_unique<QTemporaryDir>();
+    QVERIFY(home->isValid());
+    environment = hostEnvironment(home->path());
+    environment.remove("QT_QPA_PLATFORM"); // the tour sees to that itself
+}
+
+void TourTest::writeFile(const QString &name, const QByteArray &text) const
+{
+    QFile file(path(name));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+HostResult TourTest::play(const QByteArray &script, const QStringList &more)
+{
+    writeFile("a.tour", script);
+    return runHost(QStringList{"--tour", path("tour"), "--script", path("a.tour")} + more, environment);
+}
+
+void TourTest::theShippedTourMeetsItsExpectations()
+{
+    const HostResult result = runHost({"--tour", path("tour")}, environment);
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    const QDir directory(path("tour"));
+    const QStringList photographs = directory.entryList({"*.png"}, QDir::Files);
+    QVERIFY(photographs.size() >= 20);
+    for (const QString &name : photographs)
+        QCOMPARE(photograph(name).size(), QSize(240, 320));
+    for (const char *name :
+         {"menu", "call-times-empty", "call-times", "reset-dialed-calls", "reset-answered-calls",
+          "reset-data-calls", "reset-all-calls", "refused-while-calling"})
+        QVERIFY2(photographs.contains(QString(name) + ".png"), name);
+}
+
+void TourTest::theShippedTourComesOutTheSameEveryTime()
+{
+    const HostResult first = runHost({"--tour", path("tour")}, environment);
+    environment.insert("TZ", "Pacific/Auckland");
+    environment.insert("QT_FONT_DPI", "144");
+    environment.insert("QT_SCALE_FACTOR", "2");
+    environment.insert("QT_STYLE_OVERRIDE", "windows");
+    const HostResult second = runHost({"--tour", path("again")}, environment);
+    QCOMPARE(second.code, 0);
+    QCOMPARE(QString(second.output).replace(path("again"), path("tour")), first.output);
+    const QStringList photographs = QDir(path("tour")).entryList({"*.png"}, QDir::Files);
+    QCOMPARE(QDir(path("again")).entryList({"*.png"}, QDir::Files), photographs);
+    for (const QString &name : photographs)
+        QVERIFY2(photograph(name) == QImage(path("again/" + name)), qPrintable(name));
+}
+
+void TourTest::screensAndDialogsArePrintedAsText()
+{
+    const HostResult result = play("state empty\n"
+                                   "call dialed voice 65s\n"
+                                   "open callTime\n"
+                                   "press down select\n");
+    QCOMPARE(result.code, 0);
+    const QString screen = QStringLiteral("open callTime\n"
+                                          "  title Call Times\n"
+                                          "  rows 6\n"
+                                          "  row 0 Last Call | 00:01:05\n"
+                                          "  row 1 Dialed Calls | 00:01:05\n"
+                                          "  row 2 Answered Calls | 00:00:00\n"
+                                          "  row 3 Data Calls | 00:00:00\n"
+                                          "  row 4 All Calls | 00:01:05\n"
+                                          "  row 5 Lifetime Calls | 00:01:05\n"
+                                          "  focus 0\n"
+                                          "  softkeys | Back\n"
+                                          "  line idle\n");
+    QVERIFY2(result.output.contains(screen), qPrintable(result.output));
+    const QString dialog = QStringLiteral("  header Reset Timer\n"
+                                          "  message Would you like to reset the Dialed Calls timer?\n"
+                                          "  softkeys Yes | No\n");
+    QVERIFY2(result.output.contains(dialog), qPrintable(result.output));
+}
+
+void TourTest::whatIsMetIsPhotographedWithoutBeingAskedFor()
+{
+    QCOMPARE(play("open callTime\npress down select right clear\n").code, 0);
+    // The screen is met three times; coming back from the dialog the focus bar is elsewhere.
+    const QStringList expected{"01-recent-calls.png", "02-call-times.png", "03-reset-timer.png",
+                               "04-call-times.png"};
+    QCOMPARE(QDir(path("tour")).entryList({"*.png"}, QDir::Files, QDir::Name), expected);
+}
+
+// How many pixels two pictures of the same size differ in.
+static int differences(const QImage &one, const QImage &other)
+{
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            count += one.pixel(x, y) != other.pixel(x, y);
+    }
+    return count;
+}
+
+void TourTest::aDialogWithoutAParentIsOnThePhotograph()
+{
+    const HostResult result = play("dial 123 data\n"
+                                   "open callTime\n"
+                                   "press down*3\n"
+                                   "photo without\n"
+                                   "press select left\n"
+                                   "photo with\n"
+                                   "press left\n"
+                                   "photo after\n");
+    QCOMPARE(result.code, 0);
+    QVERIFY(differences(photograph("without.png"), photograph("with.png")) > 5000);
+    QCOMPARE(differences(photograph("without.png"), photograph("after.png")), 0);
+    // It does not darken the screen around it.
+    QCOMPARE(photograph("with.png").pixel(120, 20), photograph("without.png").pixel(120, 20));
+}
+
+void TourTest::aFailedExpectationTellsItsLine_data()
+{
+    QTest::addColumn<QByteArray>("expectation");
+    QTest::addColumn<QString>("seen");
+    QTest::newRow("another title") << QByteArray("title Call Costs") << "title Call Times";
+    QTest::newRow("another value") << QByteArray("row 1 Dialed Calls | 00:01:05")
+                                   << "row 1 Dialed Calls | 00:00:00";
+    QTest::newRow("a value left out") << QByteArray("row 1 Dialed Calls") << "row 1 Dialed Calls | 00:00:00";
+    QTest::newRow("a row that there is not") << QByteArray("row 6 More | 1") << "no row 6";
+    QTest::newRow("another number of rows") << QByteArray("rows 5") << "rows 6";
+    QTest::newRow("another focus") << QByteArray("focus 1") << "focus 0";
+    QTest::newRow("other softkeys") << QByteArray("softkeys Select | Back") << "softkeys | Back";
+    QTest::newRow("a dialog that is not open") << QByteArray("header Reset Timer") << "no header";
+    QTest::newRow("a message where there is none") << QByteArray("message \"\"") << "no message";
+    QTest::newRow("no title where there is one") << QByteArray("no title") << "title Call Times";
+    QTest::newRow("another line state") << QByteArray("line ringing") << "line idle";
+    QTest::newRow("a separator that is a row") << QByteArray("separator 0 Last Call") << "no separator 0";
+    QTest::newRow("a row that is not disabled") << QByteArray("disabled 0") << "no disabled 0";
+    QTest::newRow("a trailing blank too many") << QByteArray("title \"Call Times \"") << "title Call Times";
+}
+
+void TourTest::aFailedExpectationTellsItsLine()
+{
+    QFETCH(QByteArray, expectation);
+    QFETCH(QString, seen);
+    const HostResult result = play("# a comment\n\nopen callTime\nexpect " + expectation + "\n");
+    QCOMPARE(result.code, 1);
+    const QString place = path("a.tour") + ":4: ";
+    QVERIFY2(result.errors.contains(place + "expected: " + expectation + '\n'), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(place + "seen:     " + seen + '\n'), qPrintable(result.errors));
+    QVERIFY2(result.output.contains("0 of 1 expectations met"), qPrintable(result.output));
+}
+
+void TourTest::theTourGoesOnAfterAFailedExpectation()
+{
+    const HostResult result = play("expect title Nothing\n"
+                                   "hangup\n"
+                                   "open callTime\n"
+                                   "expect title Call Times\n"
+                                   "photo last\n");
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.errors.contains(":1: expected: title Nothing"), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(":2: seen:     status 4"), qPrintable(result.errors));
+    QVERIFY2(!result.errors.contains(":4:"), qPrintable(result.errors));
+    QVERIFY(!photograph("last.png").isNull());
+}
+
+void TourTest::mistakesInTheScriptAreAllTold()
+{
+    const HostResult result = play("state empty\nfly away\npress sideways\nphoto ../outside\n");
+    QCOMPARE(result.code, 6);
+    QVERIFY2(result.errors.contains(path("a.tour") + ":2: unknown word \"fly\""), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(path("a.tour") + ":3: there is no key \"sideways\""),
+             qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(path("a.tour") + ":4: a photograph's name"), qPrintable(result.errors));
+    QVERIFY(!QDir(path("tour")).exists());
+}
+
+void TourTest::aScriptThatCannotBeReadIsSaid_data()
+{
+    QTest::addColumn<QString>("script");
+    QTest::newRow("there is none") << "/nowhere/a.tour";
+    QTest::newRow("it is a directory") << QDir::tempPath();
+}
+
+void TourTest::aScriptThatCannotBeReadIsSaid()
+{
+    QFETCH(QString, script);
+    const HostResult result = runHost({"--tour", path("tour"), "--script", script}, environment);
+    QCOMPARE(result.code, 6);
+    QVERIFY2(result.errors.contains('"' + script + "\" cannot be read"), qPrintable(result.errors));
+}
+
+void TourTest::aDirectoryThatCannotBeMadeIsSaid()
+{
+    writeFile("file", {});
+    const HostResult result = runHost({"--tour", path("file/tour")}, environment);
+    QCOMPARE(result.code, 7);
+    QVERIFY2(result.errors.contains(path("file/tour")), qPrintable(result.errors));
+}
+
+void TourTest::aPhotographThatCannotBeWrittenEndsTheTour()
+{
+    QVERIFY(QDir().mkpath(path("tour/taken.png"))); // a directory in its place
+    const HostResult result = play("photo taken\nopen callTime\n");
+    QCOMPARE(result.code, 7);
+    QVERIFY2(result.errors.contains(path("tour/taken.png")), qPrintable(result.errors));
+    QVERIFY(!result.output.contains("Call Times | "));
+    QVERIFY(!result.output.contains("open callTime"));
+}
+
+void TourTest::theTourTouchesNoStateThatIsNotNamed()
+{
+    QCOMPARE(play("state ready-made\ncall dialed voice 1s\nstate empty\nopen callTime\nexpect row 4 All Calls | "
+                  "00:00:00\n")
+                 .code,
+             0);
+    QVERIFY(!QDir(path("data")).exists());
+}
+
+void TourTest::aKeptStateNeedsItsDirectory()
+{
+    for (const QStringList &more : {QStringList{}, QStringList{"--state", "none"}}) {
+        const HostResult result = play("state kept\n", more);
+        QCOMPARE(result.code, 2);
+        QVERIFY2(result.errors.contains("a.tour:1: "), qPrintable(result.errors));
+        QVERIFY2(result.errors.contains("option 'state'"), qPrintable(result.errors));
+    }
+}
+
+void TourTest::aKeptStateIsThereAtTheNextStart()
+{
+    const QStringList kept{"--state", path("state")};
+    QCOMPARE(play("state kept\ncall answered voice 2m5s\ncall dialed data 1h\n", kept).code, 0);
+    const HostResult next = play("state kept\n"
+                                 "open callTime\n"
+                                 "expect row 0 Last Call | 01:00:00\n"
+                                 "expect row 1 Dialed Calls | 00:00:00\n"
+                                 "expect row 2 Answered Calls | 00:02:05\n"
+                                 "expect row 3 Data Calls | 01:00:00\n"
+                                 "expect row 4 All Calls | 01:02:05\n"
+                                 "expect row 5 Lifetime Calls | 01:02:05\n"
+                                 "press down*2 select left clear\n"
+                                 "state kept\n"
+                                 "open callTime\n"
+                                 "expect row 2 Answered Calls | 00:00:00\n"
+                                 "expect row 5 Lifetime Calls | 01:02:05\n",
+                                 kept);
+    QVERIFY2(next.code == 0, qPrintable(next.errors));
+}
+
+void TourTest::anUnusableKeptStateIsSaid()
+{
+    writeFile("file", {});
+    const HostResult result = play("\nstate kept\n", {"--state", path("file/state")});
+    QCOMPARE(result.code, 3);
+    QVERIFY2(result.errors.contains("a.tour:2: "), qPrintable(result.errors));
+    QVERIFY2(result.errors.contains(path("file/state")), qPrintable(result.errors));
+}
+
+void TourTest::tracesAreDroppedUnlessAskedFor()
+{
+    QVERIFY(!play("open callTime\n").output.contains("utility/"));
+    QVERIFY(play("open callTime\n", {"--trace", "-"}).output.contains("utility/PHONE_UI_RecentCallMeter"));
+}
+
+QTEST_GUILESS_MAIN(TourTest)
+#include "tst_tour.moc"

@@ -1,0 +1,229 @@
+// What a line of a script means.
+
+#include "tour/TourScript.h"
+
+#include <QtTest/QTest>
+
+using namespace host::tour;
+
+class TourScriptTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void commentsAndBlankLinesAreSkippedAndLinesCounted();
+    void durations_data();
+    void durations();
+    void keys_data();
+    void keys();
+    void calls();
+    void expectedTextsAreReadAsThePhoneShowsThem_data();
+    void expectedTextsAreReadAsThePhoneShowsThem();
+    void whatIsPrintedCanBeExpected_data();
+    void whatIsPrintedCanBeExpected();
+    void mistakes_data();
+    void mistakes();
+};
+
+template <typename T>
+static T onlyAction(const QString &line)
+{
+    const Script script = parseScript("a.tour", line);
+    if (script.steps.size() != 1 || !std::holds_alternative<T>(script.steps[0].action)) {
+        qWarning("%s: not understood as one such step: %s", qPrintable(line),
+                 qPrintable(script.mistakes.join(u' ')));
+        return {};
+    }
+    return std::get<T>(script.steps[0].action);
+}
+
+void TourScriptTest::commentsAndBlankLinesAreSkippedAndLinesCounted()
+{
+    const Script script = parseScript("a.tour", "# first\r\n\r\n  state empty  \r\n\t# third\n\tshow\n");
+    QCOMPARE(script.mistakes, QStringList());
+    QCOMPARE(script.steps.size(), 2);
+    QCOMPARE(script.steps[0].line, 3);
+    QCOMPARE(script.steps[0].source, "state empty");
+    QCOMPARE(script.steps[1].line, 5);
+    QCOMPARE(script.place(5), "a.tour:5");
+}
+
+void TourScriptTest::durations_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<qint64>("ms");
+    QTest::newRow("seconds") << "65s" << qint64{65000};
+    QTest::newRow("minutes") << "2m" << qint64{120000};
+    QTest::newRow("milliseconds are no minutes") << "250ms" << qint64{250};
+    QTest::newRow("all parts") << "1h2m3s4ms" << qint64{3723004};
+    QTest::newRow("minutes and milliseconds") << "1m5ms" << qint64{60005};
+    QTest::newRow("nothing at all") << "0s" << qint64{0};
+    QTest::newRow("more than a field holds") << "100h61m" << qint64{363660000};
+    QTest::newRow("a hundred years") << "876000h" << qint64{876000} * 3600000;
+    QTest::newRow("more than a hundred years") << "876000h1ms" << qint64{-1};
+    QTest::newRow("too long to be a number") << "99999999999999999999s" << qint64{-1};
+    QTest::newRow("no unit") << "65" << qint64{-1};
+    QTest::newRow("empty") << "" << qint64{-1};
+    QTest::newRow("wrong order") << "3s2m" << qint64{-1};
+    QTest::newRow("negative") << "-5s" << qint64{-1};
+    QTest::newRow("something behind") << "5s!" << qint64{-1};
+}
+
+void TourScriptTest::durations()
+{
+    QFETCH(QString, text);
+    QFETCH(qint64, ms);
+    QCOMPARE(parseDuration(text), ms);
+}
+
+void TourScriptTest::keys_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QList<int>>("keys");
+    QTest::newRow("the six keys of a screen")
+        << "press up down select left right clear"
+        << QList<int>{Qt::Key_Up, Qt::Key_Down, Qt::Key_Select, Qt::Key_Context1, Qt::Key_Context2, Qt::Key_Clear};
+    QTest::newRow("digits and signs") << "press 0 9 * #"
+                                      << QList<int>{Qt::Key_0, Qt::Key_9, Qt::Key_Asterisk, Qt::Key_NumberSign};
+    QTest::newRow("again and again") << "press down*3 **2"
+                                     << QList<int>{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Asterisk,
+                                                   Qt::Key_Asterisk};
+}
+
+void TourScriptTest::keys()
+{
+    QFETCH(QString, line);
+    QFETCH(QList<int>, keys);
+    QCOMPARE(onlyAction<Press>(line).keys, keys);
+}
+
+void TourScriptTest::calls()
+{
+    const auto call = onlyAction<MakeCall>("call answered voice 1m5s +4930555010");
+    QCOMPARE(call.direction, handset::CallDirection::Answered);
+    QCOMPARE(call.kind, handset::CallKind::Voice);
+    QCOMPARE(call.durationMs, qint64{65000});
+    QCOMPARE(call.number, "+4930555010");
+    QCOMPARE(onlyAction<MakeCall>("call dialed  data 0s").kind, handset::CallKind::Data);
+    QCOMPARE(onlyAction<Dial>("dial *99# data").kind, handset::CallKind::Data);
+    QCOMPARE(onlyAction<Dial>("dial *99#").number, "*99#");
+    QCOMPARE(onlyAction<Ring>("ring").number, "");
+    QCOMPARE(onlyAction<MoveClock>("clock +65s").ms, qint64{65000});
+}
+
+void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QStringList>("cells");
+    QTest::newRow("a title") << "expect title Call Times"
+                             << "title" << -1 << QStringList{"Call Times"};
+    QTest::newRow("a row and its value") << "expect row 1 Dialed Calls | 00:01:05"
+                                         << "row" << 1 << QStringList{"Dialed Calls", "00:01:05"};
+    QTest::newRow("a row without a value") << "expect row 0 Call Times"
+                                           << "row" << 0 << QStringList{"Call Times"};
+    QTest::newRow("a row with an empty value") << "expect row 0 Credit |"
+                                               << "row" << 0 << QStringList{"Credit", ""};
+    QTest::newRow("one softkey") << "expect softkeys | Back"
+                                 << "softkeys" << -1 << QStringList{"", "Back"};
+    QTest::newRow("an empty header") << "expect header"
+                                     << "header" << -1 << QStringList{""};
+    QTest::newRow("a blank at the end") << "expect message \"in calling. \""
+                                        << "message" << -1 << QStringList{"in calling. "};
+    QTest::newRow("a bar in quotes") << "expect title \"a | b\""
+                                     << "title" << -1 << QStringList{"a | b"};
+    QTest::newRow("a quote and a new line") << "expect message \"say \\\"no\\\"\\nnow\""
+                                            << "message" << -1 << QStringList{"say \"no\"\nnow"};
+    QTest::newRow("blanks within stay") << "expect title a  b"
+                                        << "title" << -1 << QStringList{"a  b"};
+    QTest::newRow("a separator") << "expect separator 2 Session 1"
+                                 << "separator" << 2 << QStringList{"Session 1"};
+    QTest::newRow("a disabled row") << "expect disabled 5"
+                                    << "disabled" << 5 << QStringList{};
+}
+
+void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, word);
+    QFETCH(int, number);
+    QFETCH(QStringList, cells);
+    const auto expect = onlyAction<Expect>(line);
+    QCOMPARE(expect.fact.word, word);
+    QCOMPARE(expect.fact.number, number);
+    QCOMPARE(expect.fact.cells, cells);
+    QVERIFY(!expect.absent);
+}
+
+void TourScriptTest::whatIsPrintedCanBeExpected_data()
+{
+    QTest::addColumn<QStringList>("cells");
+    QTest::newRow("plain") << QStringList{"Dialed Calls", "00:01:05"};
+    QTest::newRow("empty value") << QStringList{"Dialed Calls", ""};
+    QTest::newRow("empty title") << QStringList{"", "x"};
+    QTest::newRow("nothing") << QStringList{""};
+    QTest::newRow("both empty") << QStringList{"", ""};
+    QTest::newRow("blanks at the ends") << QStringList{" x", "y "};
+    QTest::newRow("bars and quotes") << QStringList{"a|b", "\"c\""};
+    QTest::newRow("a back slash and a new line") << QStringList{"a\\n", "b\nc"};
+    QTest::newRow("letters beyond ASCII") << QStringList{QString::fromUtf8("Gespr\xc3\xa4"
+                                                                           "che")};
+}
+
+void TourScriptTest::whatIsPrintedCanBeExpected()
+{
+    QFETCH(QStringList, cells);
+    const Fact fact{"row", 3, cells};
+    QCOMPARE(onlyAction<Expect>("expect " + fact.line()).fact, fact);
+}
+
+void TourScriptTest::mistakes_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::newRow("an unknown word") << "fly";
+    QTest::newRow("a word in another case") << "State empty";
+    QTest::newRow("a state that there is not") << "state full";
+    QTest::newRow("no state") << "state";
+    QTest::newRow("a call of no kind") << "call dialed 65s";
+    QTest::newRow("a call too long") << "call dialed voice 65s 123 more";
+    QTest::newRow("an answered data call") << "call answered data 65s";
+    QTest::newRow("dialing nothing") << "dial";
+    QTest::newRow("dialing with a word too many") << "dial 123 voice";
+    QTest::newRow("answering somebody") << "answer me";
+    QTest::newRow("a clock that goes back") << "clock -5s";
+    QTest::newRow("a clock without a sign") << "clock 5s";
+    QTest::newRow("an unknown screen") << "open nowhere";
+    QTest::newRow("no key") << "press";
+    QTest::newRow("no such key") << "press middle";
+    QTest::newRow("a letter") << "press a";
+    QTest::newRow("a key no times") << "press down*0";
+    QTest::newRow("a key too many times") << "press down*1001";
+    QTest::newRow("a key some times") << "press down*x";
+    QTest::newRow("expecting nothing") << "expect";
+    QTest::newRow("expecting what is not known") << "expect colour red";
+    QTest::newRow("a row without a number") << "expect row Dialed Calls";
+    QTest::newRow("a row before the first") << "expect row -1 x";
+    QTest::newRow("a row of three columns") << "expect row 1 a | b | c";
+    QTest::newRow("softkeys of one") << "expect softkeys Back";
+    QTest::newRow("a title of two") << "expect title a | b";
+    QTest::newRow("an open quote") << "expect title \"a";
+    QTest::newRow("text behind a quote") << "expect title \"a\" b";
+    QTest::newRow("text behind a disabled row") << "expect disabled 1 x";
+    QTest::newRow("text behind no") << "expect no title x";
+    QTest::newRow("a photograph elsewhere") << "photo ../x";
+    QTest::newRow("a photograph without a name") << "photo";
+    QTest::newRow("a hidden photograph") << "photo .x";
+}
+
+void TourScriptTest::mistakes()
+{
+    QFETCH(QString, line);
+    const Script script = parseScript("a.tour", "show\n" + line + "\nshow\n");
+    QCOMPARE(script.mistakes.size(), 1);
+    QVERIFY2(script.mistakes[0].startsWith("a.tour:2: "), qPrintable(script.mistakes[0]));
+    QCOMPARE(script.steps.size(), 2);
+}
+
+QTEST_GUILESS_MAIN(TourScriptTest)
+#include "tst_tourscript.moc"

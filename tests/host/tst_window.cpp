@@ -1,0 +1,388 @@
+// The window: the phone's keys, and the panel beside it.
+
+#include "CallLog.h"
+#include "CallService.h"
+#include "Clock.h"
+#include "DataCalls.h"
+#include "Handset.h"
+#include "Line.h"
+#include "PhoneWindow.h"
+#include "SimulatedTelephone.h"
+#include "Status.h"
+#include "ZApplication.h"
+#include "ZKbMainWidget.h"
+#include "ZListBox.h"
+#include "ZListItem.h"
+#include "phone/PhoneKey.h"
+
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+using namespace host;
+using handset::simulated::SimulatedTelephone;
+
+namespace {
+
+// A telephone that is not the simulated one and has no role at all.
+class BareHandset : public handset::Handset
+{
+public:
+    handset::CallService *callService() override { return nullptr; }
+    handset::CallLog *callLog() override { return nullptr; }
+    handset::DataCalls *dataCalls() override { return nullptr; }
+};
+
+} // namespace
+
+class WindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void theMenuHasTheKeysAtTheStart();
+    void keypadKeysDriveTheScreensAndLeaveTheFocus();
+    void theDesktopKeyboardDrivesTheScreens();
+    void softkeysWorkWhileThePanelHasTheFocus();
+    void theMenuHasTheKeysAgainAfterAScreen();
+    void exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot();
+    void closingTheWindowGivesTheScreenBack();
+    void buttonsAreEnabledAsTheLinePermits();
+    void aWithheldNumberCanRing();
+    void theColouredKeysAnswerDialAndHangUp();
+    void digitsOfTheKeypadMakeUpTheNumber();
+    void theRunningTimeAndTheFiguresGoOnBySecond();
+    void theReadyMadeHistoryIsAdded();
+    void aRefusedOperationIsToldAndForgotten();
+    void stateDirectoryAndNoticeAreShown();
+    void anotherTelephoneThanTheSimulatedIsSaid();
+    void everyControlHasANameAndATabStop();
+
+private:
+    void openWindow(const std::shared_ptr<handset::Handset> &telephone, const QString &directory = {},
+                    const QString &notice = {});
+    QPushButton *button(const char *text) const;
+    void click(const char *text) const { QTest::mouseClick(button(text), Qt::LeftButton); }
+    void clickKey(const char *name) const
+    {
+        QTest::mouseClick(window->findChild<PhoneKey *>(QString("key ") + name), Qt::LeftButton);
+    }
+    QString label(const char *name) const { return window->findChild<QLabel *>(name)->text(); }
+    QStringList enabledButtons() const;
+    QString title() const;
+
+    ScreenLibrary library;
+    std::shared_ptr<handset::ManualClock> clock;
+    std::shared_ptr<handset::Handset> owner;
+    SimulatedTelephone *telephone = nullptr;
+    std::unique_ptr<PhoneWindow> window;
+};
+
+void WindowTest::initTestCase()
+{
+    const QString problem = library.load("libkavcallmeter.so.1");
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+}
+
+void WindowTest::init()
+{
+    clock = std::make_shared<handset::ManualClock>(1000000);
+    const handset::Opened opened = handset::open({"simulated", {}, clock});
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    owner = opened.handset;
+    telephone = dynamic_cast<SimulatedTelephone *>(owner.get());
+    QVERIFY(telephone);
+    openWindow(owner);
+}
+
+void WindowTest::cleanup()
+{
+    window.reset();
+    handset::install(nullptr);
+    owner.reset();
+}
+
+void WindowTest::openWindow(const std::shared_ptr<handset::Handset> &handset, const QString &directory,
+                            const QString &notice)
+{
+    window.reset();
+    handset::install(handset);
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{handset, directory, notice});
+    window->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+}
+
+QPushButton *WindowTest::button(const char *text) const
+{
+    const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
+    for (QPushButton *candidate : buttons) {
+        if (candidate->text().remove(u'&') == QLatin1StringView(text))
+            return candidate;
+    }
+    qFatal("there is no button \"%s\"", text);
+}
+
+QStringList WindowTest::enabledButtons() const
+{
+    QStringList texts;
+    for (const char *text :
+         {"Dial", "Dial data call", "Incoming call", "Other side answers", "Answer", "Hang up"}) {
+        if (button(text)->isEnabled())
+            texts << text;
+    }
+    return texts;
+}
+
+// Of the screen that has the keys.
+QString WindowTest::title() const
+{
+    QWidget *widget = ZApplication::keyTarget();
+    while (widget && !qobject_cast<ZKbMainWidget *>(widget))
+        widget = widget->parentWidget();
+    const auto *screen = qobject_cast<ZKbMainWidget *>(widget);
+    return screen ? screen->mainWidgetTitle() : QStringLiteral("(none)");
+}
+
+void WindowTest::theMenuHasTheKeysAtTheStart()
+{
+    QCOMPARE(title(), "Recent Calls");
+    QVERIFY(qobject_cast<ZListBox *>(window->focusWidget()));
+}
+
+void WindowTest::keypadKeysDriveTheScreensAndLeaveTheFocus()
+{
+    window->findChild<QLineEdit *>()->setFocus();
+    clickKey("Select");
+    QCOMPARE(title(), "Call Times");
+    clickKey("Down");
+    clickKey("Down");
+    auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
+    QVERIFY(list);
+    QCOMPARE(list->currentItem(), 2);
+    clickKey("Up");
+    QCOMPARE(list->currentItem(), 1);
+    clickKey("Right softkey");
+    QTRY_COMPARE(title(), "Recent Calls");
+    clickKey("Left softkey");
+    QCOMPARE(title(), "Call Times");
+    clickKey("Clear");
+    QTRY_COMPARE(title(), "Recent Calls");
+    const QList<PhoneKey *> keys = window->findChildren<PhoneKey *>();
+    QCOMPARE(keys.size(), 20);
+    for (const PhoneKey *key : keys)
+        QCOMPARE(key->focusPolicy(), Qt::NoFocus);
+}
+
+void WindowTest::theDesktopKeyboardDrivesTheScreens()
+{
+    QTest::keyClick(window->windowHandle(), Qt::Key_Return);
+    QCOMPARE(title(), "Call Times");
+    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+    QTRY_COMPARE(title(), "Recent Calls");
+    QTest::keyClick(window->windowHandle(), Qt::Key_F1);
+    QCOMPARE(title(), "Call Times");
+    QTest::keyClick(window->windowHandle(), Qt::Key_F2);
+    QTRY_COMPARE(title(), "Recent Calls");
+}
+
+void WindowTest::softkeysWorkWhileThePanelHasTheFocus()
+{
+    QWidget *dial = button("Dial");
+    dial->setFocus();
+    QTest::keyClick(window->windowHandle(), Qt::Key_F1);
+    QCOMPARE(title(), "Call Times");
+    dial->setFocus();
+    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+    QTRY_COMPARE(title(), "Recent Calls");
+}
+
+void WindowTest::theMenuHasTheKeysAgainAfterAScreen()
+{
+    QVERIFY(window->openScreen(0));
+    clickKey("Clear");
+    QTRY_COMPARE(title(), "Recent Calls");
+    QVERIFY(qobject_cast<ZListBox *>(window->focusWidget()));
+    QCOMPARE(window->focusWidget(), ZApplication::keyTarget());
+}
+
+void WindowTest::exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot()
+{
+    clickKey("Clear");
+    QCoreApplication::processEvents();
+    QVERIFY(window->isVisible());
+    clickKey("Right softkey");
+    QTRY_VERIFY(!window->isVisible());
+}
+
+void WindowTest::closingTheWindowGivesTheScreenBack()
+{
+    QVERIFY(window->openScreen(0));
+    const QPointer<QWidget> screen = window->findChild<ZKbMainWidget *>("callTime");
+    QVERIFY(screen);
+    window->close();
+    QVERIFY(!screen);
+}
+
+void WindowTest::buttonsAreEnabledAsTheLinePermits()
+{
+    const QStringList idle{"Dial", "Dial data call", "Incoming call"};
+    QCOMPARE(enabledButtons(), idle);
+    QCOMPARE(label("line state"), "Idle");
+    click("Dial");
+    QCOMPARE(enabledButtons(), (QStringList{"Other side answers", "Hang up"}));
+    QCOMPARE(label("line state"), "Dialing, voice call, 5550123");
+    click("Other side answers");
+    QCOMPARE(enabledButtons(), QStringList{"Hang up"});
+    QCOMPARE(label("line state"), "Connected 00:00:00, voice call, 5550123");
+    click("Hang up");
+    QCOMPARE(enabledButtons(), idle);
+    click("Incoming call");
+    QCOMPARE(enabledButtons(), (QStringList{"Answer", "Hang up"}));
+    QCOMPARE(label("line state"), "Ringing, voice call, 5550123");
+    click("Answer");
+    QCOMPARE(enabledButtons(), QStringList{"Hang up"});
+    click("Hang up");
+    click("Dial data call");
+    QCOMPARE(label("line state"), "Dialing, data call, 5550123");
+    click("Hang up");
+    QCOMPARE(label("line state"), "Idle");
+}
+
+void WindowTest::aWithheldNumberCanRing()
+{
+    window->findChild<QLineEdit *>()->clear();
+    QCOMPARE(enabledButtons(), QStringList{"Incoming call"});
+    click("Incoming call");
+    QCOMPARE(label("line state"), "Ringing, voice call, number withheld");
+}
+
+void WindowTest::theColouredKeysAnswerDialAndHangUp()
+{
+    clickKey("Call");
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Dialing);
+    clickKey("Call"); // nothing to answer, and the line is taken
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Dialing);
+    clickKey("Hang up");
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    click("Incoming call");
+    clickKey("Call");
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Connected);
+    clickKey("Hang up");
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    clickKey("Hang up");
+    QCOMPARE(label("line failure"), "");
+}
+
+void WindowTest::digitsOfTheKeypadMakeUpTheNumber()
+{
+    for (const char *key : {"Star", "1", "0", "0", "Hash"})
+        clickKey(key);
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "*100#");
+    clickKey("Call");
+    QCOMPARE(telephone->number(), "*100#");
+    clickKey("Hang up");
+    clickKey("9");
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
+
+    window->openScreen(0);
+    clickKey("Down");
+    clickKey("Select"); // a dialog: what is typed is meant for it
+    clickKey("8");
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
+}
+
+void WindowTest::theRunningTimeAndTheFiguresGoOnBySecond()
+{
+    click("Incoming call");
+    click("Answer");
+    QCOMPARE(label("figure Answered calls"), "00:00:00");
+    clock->advance(3661000);
+    QTRY_COMPARE(label("line state"), "Connected 01:01:01, voice call, 5550123");
+    for (const char *figure : {"Last call", "Answered calls", "All calls", "Lifetime calls"})
+        QCOMPARE(label(qPrintable(QString("figure ") + figure)), "01:01:01");
+    QCOMPARE(label("figure Dialed calls"), "00:00:00");
+    QCOMPARE(label("figure Data calls"), "00:00:00");
+    click("Hang up");
+    click("Dial data call");
+    click("Other side answers");
+    clock->advance(9000);
+    QTRY_COMPARE(label("figure Data calls"), "00:00:09");
+    QCOMPARE(label("figure All calls"), "01:01:10");
+}
+
+void WindowTest::theReadyMadeHistoryIsAdded()
+{
+    click("Add a ready-made history");
+    QCOMPARE(label("figure Last call"), "00:04:26");
+    QCOMPARE(label("figure All calls"), "03:05:19");
+    click("Add a ready-made history");
+    QCOMPARE(label("figure All calls"), "06:10:38");
+    QVERIFY(window->openScreen(0));
+    const auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
+    QCOMPARE(list->item(4)->value(), "06:10:38");
+}
+
+void WindowTest::aRefusedOperationIsToldAndForgotten()
+{
+    auto *line = window->findChild<QLineEdit *>();
+    // What the validator lets nobody type.
+    line->setText("call me");
+    click("Dial");
+    QCOMPARE(label("line failure"), "Not done: the number is not one that can be dialed.");
+    QVERIFY(window->findChild<QLabel *>("line failure")->isVisible());
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    line->setText("123");
+    click("Dial");
+    QCOMPARE(label("line failure"), "");
+    QVERIFY(!window->findChild<QLabel *>("line failure")->isVisible());
+}
+
+void WindowTest::stateDirectoryAndNoticeAreShown()
+{
+    QCOMPARE(label("state directory"), "In memory; gone when the window closes.");
+    QVERIFY(!window->findChild<QLabel *>("notice"));
+    openWindow(owner, "/some/where", "The old file is kept aside.");
+    QCOMPARE(QString(label("state directory")).remove(QChar(0x200b)), "Kept in /some/where");
+    QCOMPARE(window->findChild<QLabel *>("state directory")->toolTip(), "/some/where");
+    QCOMPARE(label("notice"), "The old file is kept aside.");
+}
+
+void WindowTest::anotherTelephoneThanTheSimulatedIsSaid()
+{
+    openWindow(std::make_shared<BareHandset>());
+    QCOMPARE(label("line state"), "This telephone cannot be driven from here.");
+    QCOMPARE(enabledButtons(), QStringList());
+    QVERIFY(!button("Add a ready-made history")->isEnabled());
+    for (const char *figure :
+         {"Last call", "Dialed calls", "Answered calls", "Data calls", "All calls", "Lifetime calls"})
+        QCOMPARE(label(qPrintable(QString("figure ") + figure)), "not available");
+    clickKey("Call");
+    clickKey("Hang up");
+    QVERIFY(window->openScreen(0));
+    QCOMPARE(title(), "Call Times");
+}
+
+void WindowTest::everyControlHasANameAndATabStop()
+{
+    const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
+    for (const QAbstractButton *control : buttons) {
+        const bool isPhoneKey = qobject_cast<const PhoneKey *>(control);
+        if (qobject_cast<const QPushButton *>(control)) {
+            QVERIFY2(!control->toolTip().isEmpty(), qPrintable(control->text()));
+            QVERIFY2(control->focusPolicy() & Qt::TabFocus, qPrintable(control->text()));
+        }
+        if (isPhoneKey)
+            QVERIFY(!control->accessibleName().isEmpty());
+    }
+    for (const char *name : {"line state", "figure Last call", "state directory"})
+        QVERIFY2(!window->findChild<QLabel *>(name)->accessibleName().isEmpty(), name);
+}
+
+QTEST_MAIN(WindowTest)
+#include "tst_window.moc"
