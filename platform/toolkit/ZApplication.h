@@ -1,6 +1,11 @@
 // What the toolkit knows of the application around it: where the phone's display is, and who gets its keys.
 #pragma once
 
+#include "QValueList.h"
+
+#include <QtCore/QString>
+
+class QUuid;
 class QWidget;
 
 /// Static operations only; all of them belong to the GUI thread.
@@ -23,4 +28,20 @@ public:
     /// Presses and releases `qtKey` (a Qt::Key, see ZKeys.h) on keyTarget(), as an on-screen keypad does. The target
     /// may be deleted by the press; the release is then dropped. Answers false when there is no target.
     static bool pressKey(int qtKey);
+
+    /// Says what is typed in `field`, a text field of any class, in place of what was said before. The methods and
+    /// modes are the phone's own; `defaultMethod` with `mode` is what the field starts with:
+    ///
+    /// 637a8c00-1098-42ca-969a-2bf163cd3c14 (numbers), mode 6: a decimal number. The phone's star key and a comma
+    /// give the point.
+    /// 637a8c00-1098-42ca-969a-2bf163cd3c12 (letters), mode 0: letters from the number keys, pressed once or more
+    /// for one letter; a number key that is held gives its digit; upper case, which the star key changes.
+    /// 637a8c00-1098-42ca-969a-2bf163cd3c15 (symbols), any mode: plain typing.
+    ///
+    /// In the first two the hash key takes away the character before the cursor. No method refuses what a keyboard
+    /// types, so that no allowed method has to be changed to: `allowedMethods` are only looked at for ones that are
+    /// not known. Those, a method and mode that are not in this list (the field is typed in plainly then), and a
+    /// null field are warnings. `hint` is shown in the field while it is empty; null leaves what it has.
+    static void setInputMethods(QWidget *field, QUuid const &defaultMethod,
+                                QValueList<QUuid> const &allowedMethods, int mode, QString hint);
 };

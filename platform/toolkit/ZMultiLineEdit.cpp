@@ -1,0 +1,153 @@
+#include "ZMultiLineEdit.h"
+
+#include "ZKeys.h"
+#include "ZScrollBar.h"
+#include "ZSkinService.h"
+
+#include <QtCore/QMimeData>
+#include <QtGui/QInputMethodEvent>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QTextBlock>
+#include <QtGui/QTextDocument>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int mostLines = 4;  // before the field scrolls
+constexpr qreal margin = 4;   // around the text, device-independent pixels
+constexpr int cursorPixels = 2;
+
+bool isBreak(QChar c)
+{
+    return c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+// Breaks at the end are what copying a line brings along; those in between part words.
+QString asOneParagraph(QString text)
+{
+    while (!text.isEmpty() && isBreak(text.back()))
+        text.chop(1);
+    std::replace_if(text.begin(), text.end(), isBreak, QChar(QLatin1Char(' ')));
+    return text;
+}
+
+} // namespace
+
+struct ZMultiLineEdit::Private {
+    int maxLength = -1;
+    // Of the last change.
+    int position = 0;
+    int added = 0;
+};
+
+ZMultiLineEdit::ZMultiLineEdit(QWidget *parent, const char *name)
+    : QPlainTextEdit(parent)
+    , d(std::make_unique<Private>())
+{
+    if (name)
+        setObjectName(QString::fromLatin1(name));
+    setFont(ZSkinService::font(ZSkinService::RowFont));
+    setPalette(ZSkinService::palette());
+    setFrameShape(NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBar(new ZScrollBar(this));
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setTabChangesFocus(true);
+    setCursorWidth(cursorPixels);
+    document()->setDocumentMargin(margin);
+    connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
+        d->position = position;
+        d->added = added;
+    });
+    connect(this, &QPlainTextEdit::textChanged, this, &ZMultiLineEdit::cutToLength);
+    connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
+            [this] { updateGeometry(); });
+}
+
+ZMultiLineEdit::~ZMultiLineEdit() = default;
+
+void ZMultiLineEdit::setMaxLength(int length)
+{
+    d->maxLength = length;
+    d->added = 0;
+    cutToLength();
+}
+
+int ZMultiLineEdit::maxLength() const
+{
+    return d->maxLength;
+}
+
+QSize ZMultiLineEdit::sizeHint() const
+{
+    const int lines = std::clamp(static_cast<int>(document()->size().height()), 1, mostLines);
+    const int height = lines * fontMetrics().lineSpacing() + static_cast<int>(2 * margin);
+    return QSize(ZSkinService::DisplayWidth, height);
+}
+
+QSize ZMultiLineEdit::minimumSizeHint() const
+{
+    return QSize(0, 0);
+}
+
+// The one place for every way in: keys, paste, drop, input methods, undo, the program.
+void ZMultiLineEdit::cutToLength()
+{
+    const int length = document()->characterCount() - 1;
+    const int excess = length - d->maxLength;
+    if (d->maxLength < 0 || excess <= 0)
+        return;
+    const bool isInNew = excess <= d->added;
+    const int end = isInNew ? std::min(d->position + d->added, length) : length;
+    int begin = std::max(0, end - excess);
+    const QChar first = document()->characterAt(begin);
+    if (begin > 0 && first.isLowSurrogate() && document()->characterAt(begin - 1).isHighSurrogate())
+        --begin;
+    QTextCursor cut(document());
+    cut.joinPreviousEditBlock();
+    cut.setPosition(begin);
+    cut.setPosition(end, QTextCursor::KeepAnchor);
+    cut.removeSelectedText();
+    cut.endEditBlock();
+}
+
+void ZMultiLineEdit::keyPressEvent(QKeyEvent *event)
+{
+    bool isForDialog = false;
+    switch (ZKeys::phoneKey(event->key())) {
+    case ZKeys::PhoneKey::Select:
+        isForDialog = event->key() != Qt::Key_Space;
+        break;
+    case ZKeys::PhoneKey::LeftSoftkey:
+    case ZKeys::PhoneKey::RightSoftkey:
+        isForDialog = true;
+        break;
+    case ZKeys::PhoneKey::Clear:
+        isForDialog = event->key() != Qt::Key_Backspace || document()->isEmpty();
+        break;
+    case ZKeys::PhoneKey::Up:
+    case ZKeys::PhoneKey::Down:
+    case ZKeys::PhoneKey::None:
+        break;
+    }
+    if (isForDialog)
+        event->ignore();
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+void ZMultiLineEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    QInputMethodEvent plain(event->preeditString(), event->attributes());
+    plain.setCommitString(asOneParagraph(event->commitString()), event->replacementStart(), event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&plain);
+    event->setAccepted(plain.isAccepted());
+}
+
+void ZMultiLineEdit::insertFromMimeData(const QMimeData *source)
+{
+    textCursor().insertText(asOneParagraph(source->text()));
+    ensureCursorVisible();
+}
