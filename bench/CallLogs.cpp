@@ -1,0 +1,140 @@
+#include "CallLogs.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+
+#include <algorithm>
+#include <cstdio>
+
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace bench {
+
+namespace {
+
+using handset::CallDirection;
+using handset::CallKind;
+using handset::PastCall;
+
+constexpr int batchSize = 10'000;
+constexpr qint64 firstCallMs = 1'136'073'600'000; // 2006-01-01
+constexpr qint64 callEveryMs = 15 * 60'000;
+
+// Of every four calls two are dialed, one answered and one a data call; they last 1 to 120 s.
+PastCall callAt(int i)
+{
+    PastCall call;
+    call.kind = i % 4 == 3 ? CallKind::Data : CallKind::Voice;
+    call.direction = i % 4 == 2 ? CallDirection::Answered : CallDirection::Dialed;
+    call.number = QStringLiteral("+4930555%1").arg(i % 1000, 3, 10, QLatin1Char('0'));
+    call.startWallMs = firstCallMs + i * callEveryMs;
+    call.durationMs = (i % 120 + 1) * 1000;
+    return call;
+}
+
+Line openLine(const QString &directory)
+{
+    Line line;
+    line.clock = std::make_shared<handset::ManualClock>(firstCallMs);
+    handset::Settings settings;
+    settings.stateDirectory = directory;
+    settings.clock = line.clock;
+    const handset::Opened opened = handset::open(settings);
+    line.telephone = std::dynamic_pointer_cast<handset::simulated::SimulatedTelephone>(opened.handset);
+    line.error = line.telephone ? opened.notice : opened.error;
+    if (!line.error.isEmpty())
+        line.telephone.reset();
+    return line;
+}
+
+QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
+{
+    for (int next = 0; next < calls;) {
+        QList<PastCall> batch;
+        const int end = std::min(calls, next + batchSize);
+        batch.reserve(end - next);
+        while (next < end)
+            batch.append(callAt(next++));
+        if (telephone.addHistory(batch) != 0)
+            return QStringLiteral("The calls could not be written.");
+        if (calls > batchSize)
+            std::fprintf(stderr, "\r  building a log of %d calls: %d", calls, next);
+    }
+    if (calls > batchSize)
+        std::fputc('\n', stderr);
+    return {};
+}
+
+// Under another name until it is whole.
+QString build(const QString &path, int calls)
+{
+    const QString unfinished = path + QStringLiteral(".unfinished");
+    QDir(unfinished).removeRecursively();
+    Line line = openLine(unfinished);
+    if (!line.telephone)
+        return line.error;
+    const QString error = fill(*line.telephone, calls);
+    line.telephone.reset();
+    if (!error.isEmpty())
+        return error;
+    QDir(path).removeRecursively();
+    return QDir().rename(unfinished, path) ? QString() : QStringLiteral("%1 cannot be made.").arg(path);
+}
+
+// The tables of the log may be others since.
+bool isUpToDate(const QString &path)
+{
+    Dl_info library = {};
+    if (!::dladdr(reinterpret_cast<const void *>(&handset::open), &library))
+        return false;
+    const QFileInfo built(path);
+    return built.exists() &&
+           built.lastModified() > QFileInfo(QString::fromLocal8Bit(library.dli_fname)).lastModified();
+}
+
+// On the disk when it is done: writing it back must not disturb what is measured next.
+bool copyFile(const QString &from, const QString &to)
+{
+    if (!QFile::copy(from, to))
+        return false;
+    const int fd = ::open(QFile::encodeName(to).constData(), O_RDONLY | O_CLOEXEC);
+    const bool written = fd >= 0 && ::fsync(fd) == 0;
+    if (fd >= 0)
+        ::close(fd);
+    return written;
+}
+
+bool copyDirectory(const QString &from, const QString &to)
+{
+    QDir(to).removeRecursively();
+    if (!QDir().mkpath(to))
+        return false;
+    const QStringList names = QDir(from).entryList(QDir::Files);
+    return std::all_of(names.begin(), names.end(), [&](const QString &name) {
+        return copyFile(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
+    });
+}
+
+} // namespace
+
+Line CallLogs::open(int calls, bool keep)
+{
+    Line failed;
+    const QString original = QStringLiteral("%1/calls-%2").arg(directory).arg(calls);
+    if (!isUpToDate(original)) {
+        failed.error = build(original, calls);
+        if (!failed.error.isEmpty())
+            return failed;
+    }
+    const QString copy = original + QStringLiteral(".measured");
+    if ((!keep || !copied.contains(copy)) && !copyDirectory(original, copy)) {
+        failed.error = QStringLiteral("%1 cannot be copied.").arg(original);
+        return failed;
+    }
+    copied.append(copy);
+    return openLine(copy);
+}
+
+} // namespace bench

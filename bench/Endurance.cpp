@@ -1,0 +1,67 @@
+#include "Endurance.h"
+
+#include "FixedTelephone.h"
+#include "ScreenTable.h"
+#include "Stage.h"
+
+#include <cstdio>
+#include <fstream>
+
+#include <malloc.h>
+
+namespace bench {
+
+namespace {
+
+// From the page tables: the quicker counters of the kernel are some hundred KiB off.
+long long residentBytes()
+{
+    std::ifstream rollup("/proc/self/smaps_rollup");
+    for (std::string line; std::getline(rollup, line);) {
+        long long kib = 0;
+        if (std::sscanf(line.c_str(), "Rss: %lld kB", &kib) == 1)
+            return kib * 1024;
+    }
+    return 0;
+}
+
+Memory memory()
+{
+    const struct mallinfo2 heap = ::mallinfo2();
+    return {static_cast<long long>(heap.uordblks + heap.hblkhd), residentBytes()};
+}
+
+void openAndDestroy(const ScreenEntry &entry, Stage &stage, int times)
+{
+    for (int i = 0; i < times; ++i) {
+        QWidget *screen = entry.create(&stage);
+        screen->show();
+        stage.paint();
+        entry.destroy(screen);
+        stage.paint();
+    }
+}
+
+} // namespace
+
+std::vector<Endured> endure(const std::string &filter, int cycles)
+{
+    useFixedTelephone();
+    memory(); // the first reading takes memory itself
+    std::vector<Endured> all;
+    for (const ScreenEntry &entry : screenTable()) {
+        if (std::string(entry.name).find(filter) == std::string::npos)
+            continue;
+        std::fprintf(stderr, "Opening and destroying \"%s\" %d times\n", entry.name, cycles);
+        Stage stage;
+        Endured endured{entry.name, cycles / 10, cycles - cycles / 10, {}, {}};
+        openAndDestroy(entry, stage, endured.warmUp);
+        endured.before = memory();
+        openAndDestroy(entry, stage, endured.cycles);
+        endured.after = memory();
+        all.push_back(endured);
+    }
+    return all;
+}
+
+} // namespace bench

@@ -1,0 +1,148 @@
+#include "FixedTelephone.h"
+
+#include "AdviceOfCharge.h"
+#include "CallLog.h"
+#include "CallService.h"
+#include "DataCalls.h"
+#include "Handset.h"
+#include "PacketData.h"
+#include "SimSecurity.h"
+#include "aplog.h"
+
+#include <memory>
+
+namespace bench {
+
+namespace {
+
+using handset::CallTime;
+using handset::Success;
+
+template <typename Value>
+int answer(Value &out, const Value &value)
+{
+    out = value;
+    return Success;
+}
+
+QByteArray amount()
+{
+    return QByteArrayLiteral("12.50");
+}
+
+class Service final : public handset::CallService
+{
+public:
+    int totalCallTime(CallTime &time) override { return answer(time, fixedTime); }
+    int resetCallTime() override { return Success; }
+    int remainingCredit(QByteArray &text) override { return answer(text, amount()); }
+    int lastCallCost(QByteArray &text) override { return answer(text, amount()); }
+};
+
+class Log final : public handset::CallLog
+{
+public:
+    int lastCallTime(CallTime &time) override { return answer(time, fixedTime); }
+    int dialedCallsTime(CallTime &time) override { return answer(time, fixedTime); }
+    int answeredCallsTime(CallTime &time) override { return answer(time, fixedTime); }
+    int lifetimeCallsTime(CallTime &time) override { return answer(time, fixedTime); }
+    int resetDialedCallsTime() override { return Success; }
+    int resetAnsweredCallsTime() override { return Success; }
+    int resetAll() override { return Success; }
+    int depositExpirationDate(handset::Date &date) override { return answer(date, {2006, 3, 9}); }
+    int lastDeposit(QByteArray &text) override { return answer(text, amount()); }
+    int dialedCallsCost(QByteArray &text) override { return answer(text, amount()); }
+    int answeredCallsCost(QByteArray &text) override { return answer(text, amount()); }
+    int allCallsCost(QByteArray &text) override { return answer(text, amount()); }
+};
+
+class Data final : public handset::DataCalls
+{
+public:
+    int refreshTotals() override { return Success; }
+    int totalDuration(quint32 &seconds) override
+    {
+        return answer(seconds, (fixedTime.hours * 60 + fixedTime.minutes) * 60 + fixedTime.seconds);
+    }
+    int callStatus(quint8 &status) override { return answer<quint8>(status, Idle); }
+    int resetTotalDuration() override { return Success; }
+};
+
+class Packets final : public handset::PacketData
+{
+public:
+    int sessions(handset::DataSessions &sessions) override
+    {
+        const handset::DataSession first{1, 123'456, 7'890'123, fixedTime, QByteArrayLiteral("internet")};
+        const handset::DataSession second{2, 2'345, 67'890, fixedTime, QByteArrayLiteral("mms.example")};
+        return answer(sessions, {3, {first, second, handset::DataSession{}}});
+    }
+    int totalDuration(CallTime &duration) override { return answer(duration, fixedTime); }
+    int totalBytes(quint32 &total, quint32 &received, quint32 &sent) override
+    {
+        received = 7'958'013;
+        sent = 125'801;
+        return answer(total, received + sent);
+    }
+    int resetTotalDuration() override { return Success; }
+    int resetTotalBytes() override { return Success; }
+};
+
+class Charge final : public handset::AdviceOfCharge
+{
+public:
+    int updateRule(quint8, quint8 &rule) override { return answer<quint8>(rule, FreeUpdate); }
+    int meterMaximum(QString &maximum, bool &enabled) override
+    {
+        enabled = true;
+        return answer(maximum, QStringLiteral("100.00"));
+    }
+    int setMeterMaximum(const QString &) override { return Success; }
+    int disableMeterMaximum() override { return Success; }
+    int chargeType(quint8 &type) override { return answer<quint8>(type, InCurrency); }
+    int setChargeType(quint8) override { return Success; }
+    int priceAndCurrency(QString &price, QString &currency) override
+    {
+        price = QStringLiteral("0.250");
+        return answer(currency, QStringLiteral("EUR"));
+    }
+    int setPriceAndCurrency(const QString &, const QString &) override { return Success; }
+};
+
+class Security final : public handset::SimSecurity
+{
+public:
+    int pinStatus(quint8, quint32 &status) override { return answer<quint32>(status, NoEntryNeeded); }
+    int triesLeft(quint8, int &tries) override { return answer(tries, 3); }
+    int verifyPin(quint8, const QByteArray &, bool &accepted) override { return answer(accepted, true); }
+};
+
+class FixedTelephone final : public handset::Handset
+{
+public:
+    handset::CallService *callService() override { return &service; }
+    handset::CallLog *callLog() override { return &log; }
+    handset::DataCalls *dataCalls() override { return &data; }
+    handset::AdviceOfCharge *adviceOfCharge() override { return &charge; }
+    handset::PacketData *packetData() override { return &packets; }
+    handset::SimSecurity *simSecurity() override { return &security; }
+
+private:
+    Service service;
+    Log log;
+    Data data;
+    Charge charge;
+    Packets packets;
+    Security security;
+};
+
+} // namespace
+
+void useFixedTelephone()
+{
+    handset::install(std::make_shared<FixedTelephone>());
+    if (!libaplog_to_module_ptr)
+        libaplog_open("/dev/null");
+}
+
+} // namespace bench

@@ -1,0 +1,17 @@
+// The rows that there are, by what they are about.
+#pragma once
+
+#include "Comparison.h"
+
+#include <QtCore/QString>
+
+#include <vector>
+
+namespace bench {
+
+std::vector<Comparison> getterComparisons();
+std::vector<Comparison> openingComparisons();
+/// `directory` keeps the logs that are measured; they are built on first use.
+std::vector<Comparison> callLogComparisons(const QString &directory);
+
+} // namespace bench

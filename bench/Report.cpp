@@ -1,0 +1,138 @@
+#include "Report.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace bench {
+
+namespace {
+
+struct Unit {
+    const char *name;
+    double ns;
+};
+constexpr std::array units{Unit{"ms", 1e6}, Unit{"us", 1e3}, Unit{"ns", 1}};
+
+struct Tally {
+    int bars = 0;
+    int met = 0;
+
+    const char *count(bool isMet)
+    {
+        ++bars;
+        met += isMet ? 1 : 0;
+        return isMet ? "met" : "MISSED";
+    }
+};
+
+std::vector<double> times(const std::vector<Sample> &samples, Clock clock)
+{
+    std::vector<double> values;
+    values.reserve(samples.size());
+    for (const Sample &sample : samples)
+        values.push_back(clock == Clock::Wall ? sample.wallNs : sample.processorNs);
+    std::sort(values.begin(), values.end());
+    return values;
+}
+
+double median(const std::vector<double> &sorted)
+{
+    const std::size_t half = sorted.size() / 2;
+    return sorted.size() % 2 == 1 ? sorted[half] : (sorted[half - 1] + sorted[half]) / 2;
+}
+
+std::string timeText(double ns)
+{
+    const auto *unit = std::find_if(units.begin(), units.end(), [ns](const Unit &u) { return ns >= u.ns; });
+    unit = unit == units.end() ? std::prev(units.end()) : unit;
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.3g %s", ns / unit->ns, unit->name);
+    return text.data();
+}
+
+std::string withLabel(const Side &side, double ns)
+{
+    return side.label + ": " + timeText(ns);
+}
+
+const char *clockName(Clock clock)
+{
+    switch (clock) {
+    case Clock::Processor:
+        return "cpu";
+    case Clock::Wall:
+        return "wall";
+    }
+    return "";
+}
+
+void printComparison(const Result &result, Tally &tally)
+{
+    const Comparison &row = result.comparison;
+    if (!result.measured.error.empty()) {
+        std::printf("%-50s  not measured: %s  %s\n", row.name.c_str(), result.measured.error.c_str(),
+                    row.bar ? tally.count(false) : "");
+        return;
+    }
+    const std::vector<double> ours = times(result.measured.ours, row.clock);
+    const std::vector<double> beside = times(result.measured.beside, row.clock);
+    const double ratio = median(ours) / median(beside);
+    std::printf("%-50s  %-26s %-28s %-5s %7.2f %9.2f", row.name.c_str(), withLabel(row.ours, median(ours)).c_str(),
+                withLabel(row.beside, median(beside)).c_str(), clockName(row.clock), ratio,
+                ours.front() / beside.front());
+    if (row.bar)
+        std::printf("  <= %.1f  %s", *row.bar, tally.count(ratio <= *row.bar));
+    std::printf("\n");
+}
+
+void printComparisons(const std::vector<Result> &results, Tally &tally)
+{
+    if (results.empty())
+        return;
+    std::printf("\n%-50s  %-26s %-28s %-5s %7s %9s  %s\n", "What is measured", "Ours (median)",
+                "Beside it (median)", "Clock", "Ratio", "Of fastest", "Bar");
+    for (const Result &result : results)
+        printComparison(result, tally);
+}
+
+double perCycle(long long before, long long after, int cycles)
+{
+    return static_cast<double>(after - before) / cycles;
+}
+
+void printMemory(const char *what, const Endured &row, long long before, long long after, double bar, Tally &tally)
+{
+    constexpr double kib = 1024;
+    const double growth = perCycle(before, after, row.cycles);
+    std::printf("%-24s %-10s %11.1f KiB %11.1f KiB %12.3f B  <= %2.0f B  %s\n", row.screen.c_str(), what,
+                static_cast<double>(before) / kib, static_cast<double>(after) / kib, growth, bar,
+                tally.count(growth <= bar));
+}
+
+void printEndured(const std::vector<Endured> &endured, Tally &tally)
+{
+    if (endured.empty())
+        return;
+    const Endured &first = endured.front();
+    std::printf("\n%-24s %-10s %15s %15s %14s  %s\n", "Opened and destroyed", "Memory",
+                ("after " + std::to_string(first.warmUp)).c_str(),
+                ("after " + std::to_string(first.warmUp + first.cycles)).c_str(), "per cycle", "Bar");
+    for (const Endured &row : endured) {
+        printMemory("heap", row, row.before.heap, row.after.heap, mostHeapPerCycle, tally);
+        printMemory("resident", row, row.before.resident, row.after.resident, mostResidentPerCycle, tally);
+    }
+}
+
+} // namespace
+
+bool report(const std::vector<Result> &results, const std::vector<Endured> &endured)
+{
+    Tally tally;
+    printComparisons(results, tally);
+    printEndured(endured, tally);
+    std::printf("\n%d of %d bars met.\n", tally.met, tally.bars);
+    return tally.met == tally.bars;
+}
+
+} // namespace bench

@@ -1,0 +1,19 @@
+// The table at the end.
+#pragma once
+
+#include "Endurance.h"
+#include "Measurement.h"
+
+#include <vector>
+
+namespace bench {
+
+struct Result {
+    Comparison comparison;
+    Measured measured;
+};
+
+/// Prints both tables and how many bars there are to meet and are met. Answers whether all are.
+bool report(const std::vector<Result> &results, const std::vector<Endured> &endured);
+
+} // namespace bench
