@@ -1,0 +1,89 @@
+// The channels' end of the session bus. Not a public header: the screens know QCopChannel only.
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QTimer>
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtDBus/QDBusVirtualObject>
+
+#include <chrono>
+#include <memory>
+
+class QCopBusAttempt;
+
+/// The process's one connection to the session bus, opened when the first channel or message wants it. What may
+/// wait for the bus (finding it, logging in, the acknowledgement of the subscription) is done in a helper thread;
+/// everything here belongs to the GUI thread.
+///
+/// A channel message on the bus is a broadcast signal: path "/org/kav/QCop", interface "org.kav.QCop", member
+/// "Message", signature "ayayay" (channel, message, data). One match rule is for all channels, and stays.
+class QCopBus : public QDBusVirtualObject
+{
+    Q_OBJECT
+
+public:
+    enum Use {
+        Sending,
+        Receiving, ///< includes sending
+    };
+
+    /// The process's bus; null while there is no application object. It goes with the application, and sees to it
+    /// that what was sent is at the bus before.
+    static QCopBus *instance();
+
+    /// Connects for `use` if that is not done yet and the last failure is long enough ago. Waits a quarter of a
+    /// second at most; when that once was not enough, not at all until a connection has succeeded.
+    void want(Use use);
+
+    /// The same with `limit` as the longest wait, for programs without a screen. True when the bus is ready.
+    bool waitFor(Use use, std::chrono::milliseconds limit);
+
+    bool isReady(Use use) const;
+
+    /// Queues a message for the bus, which is wanted. False without a bus and for a message that is too large.
+    bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
+
+    /// What a bus carries: 64 MiB for each of the three, 127 MiB for all.
+    static bool isSendable(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
+
+    /// Waits until everything sent is at the bus. False when it did not get there within `limit`.
+    bool sync(std::chrono::milliseconds limit);
+
+    QString introspect(const QString &path) const override;
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &from) override;
+
+signals:
+    /// The bus went away.
+    void lost();
+
+private slots:
+    void take(const QDBusMessage &message);
+    void checkLink();
+    void start();
+
+private:
+    QCopBus();
+    ~QCopBus() override;
+    static void leave();
+
+    void startIfDue(Use use);
+    bool waitForAttempt(std::chrono::milliseconds limit);
+    void collect();
+    void retryLater();
+
+    static QCopBus *self;
+
+    QDBusConnection link; // invalid unless ready for sending
+    QString ownName;      // on the bus
+    bool receivingWanted = false;
+    bool subscribed = false;
+    bool patient = true;
+    bool unsynced = false; // sent since the last sync
+
+    std::unique_ptr<QCopBusAttempt> attempt; // while one runs
+    std::chrono::milliseconds pause;         // after the next failure
+    QDeadlineTimer nextAttempt;              // not before
+    QTimer retry;
+};

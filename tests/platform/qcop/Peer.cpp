@@ -1,0 +1,157 @@
+#include "Peer.h"
+
+#include "PeerPattern.h"
+#include "PrivateBus.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QProcessEnvironment>
+
+namespace {
+
+constexpr int limitMs = 60000;
+
+} // namespace
+
+Peer::Peer(const QString &bus)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus);
+    process.setProcessEnvironment(environment);
+    endWithParent(process);
+    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/qcop_peer"), QStringList());
+}
+
+Peer::~Peer()
+{
+    finish();
+    process.kill();
+    process.waitForFinished();
+}
+
+bool Peer::subscribe(int id, const QByteArray &channel)
+{
+    make(id, channel);
+    command("await");
+    return answer() == "1";
+}
+
+void Peer::make(int id, const QByteArray &channel)
+{
+    command("make " + QByteArray::number(id) + ' ' + channel.toHex());
+    answer();
+}
+
+void Peer::unsubscribe(int id)
+{
+    command("unsubscribe " + QByteArray::number(id));
+    answer();
+}
+
+bool Peer::send(const QByteArray &channel, const QByteArray &message, const QByteArray &data)
+{
+    command("send " + channel.toHex() + ' ' + message.toHex() + ' ' + data.toHex());
+    return answer() == "1";
+}
+
+void Peer::startBurst(const QByteArray &channel, const QByteArray &prefix, int count)
+{
+    command("burst " + channel.toHex() + ' ' + prefix.toHex() + ' ' + QByteArray::number(count));
+    process.waitForBytesWritten(limitMs);
+}
+
+bool Peer::finishBurst()
+{
+    return answer() == "1";
+}
+
+bool Peer::sendPattern(const QByteArray &channel, const QByteArray &message, qint64 size)
+{
+    command("pattern " + channel.toHex() + ' ' + message.toHex() + ' ' + QByteArray::number(size));
+    return answer() == "1";
+}
+
+bool Peer::isOnBus()
+{
+    command("status");
+    return answer() == "1";
+}
+
+int Peer::cycle(int count)
+{
+    command("cycle " + QByteArray::number(count));
+    return answer().toInt();
+}
+
+int Peer::finish()
+{
+    if (process.state() != QProcess::NotRunning) {
+        process.closeWriteChannel();
+        process.waitForFinished(limitMs);
+    }
+    const bool isDone = process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit;
+    return isDone ? process.exitCode() : -1;
+}
+
+QByteArray Peer::take()
+{
+    while (messages.isEmpty()) {
+        const QByteArray line = readLine();
+        if (line.isNull())
+            return QByteArray();
+        messages.append(line);
+    }
+    return messages.takeFirst();
+}
+
+QList<QByteArray> Peer::takeUntil(int id, const QByteArray &message)
+{
+    QList<QByteArray> taken;
+    for (QByteArray line = take(); line != Peer::line(id, message); line = take()) {
+        if (line.isNull())
+            return taken << "missing: " + message;
+        taken << line;
+    }
+    return taken;
+}
+
+QByteArray Peer::line(int id, const QByteArray &message, const QByteArray &data)
+{
+    return "got " + QByteArray::number(id) + ' ' + message.toHex() + ' ' + peerDigest(data);
+}
+
+QByteArray Peer::patternLine(int id, const QByteArray &message, qint64 size)
+{
+    return line(id, message, peerPattern(size));
+}
+
+QByteArray Peer::errors()
+{
+    process.waitForReadyRead(0);
+    errorText += process.readAllStandardError();
+    return errorText;
+}
+
+void Peer::command(const QByteArray &line)
+{
+    process.write(line + '\n');
+}
+
+// Messages may come in between.
+QByteArray Peer::answer()
+{
+    for (QByteArray line = readLine(); !line.isNull(); line = readLine()) {
+        if (line.startsWith("= "))
+            return line.mid(2);
+        messages.append(line);
+    }
+    return QByteArray();
+}
+
+QByteArray Peer::readLine()
+{
+    while (!process.canReadLine()) {
+        if (!process.waitForReadyRead(limitMs))
+            return QByteArray();
+    }
+    return process.readLine().chopped(1);
+}

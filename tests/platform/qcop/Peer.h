@@ -1,0 +1,59 @@
+// The test's side of a process with channels of its own.
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QProcess>
+
+/// A running qcop_peer. Its subscribers are named by numbers; what they get is kept as lines until it is asked for.
+class Peer
+{
+public:
+    /// `bus` is the address of its session bus.
+    explicit Peer(const QString &bus);
+    ~Peer();
+    Q_DISABLE_COPY_MOVE(Peer)
+
+    /// Makes subscriber `id`. True when the bus has acknowledged the process's subscription, which it waits for.
+    bool subscribe(int id, const QByteArray &channel);
+    /// The same without waiting for more than the constructor does.
+    void make(int id, const QByteArray &channel);
+    void unsubscribe(int id);
+    /// What QCopChannel::send() said.
+    bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data = QByteArray());
+    /// Sends `count` messages, named `prefix` and their numbers from 0 on, and does not wait for them to be sent.
+    void startBurst(const QByteArray &channel, const QByteArray &prefix, int count);
+    /// True when the bus took them all.
+    bool finishBurst();
+    /// Sends a message with `size` bytes of a pattern.
+    bool sendPattern(const QByteArray &channel, const QByteArray &message, qint64 size);
+    /// True when the bus has acknowledged the process's subscription; asks the bus nothing.
+    bool isOnBus();
+    /// Makes and deletes a channel `count` times. The milliseconds it took.
+    int cycle(int count);
+    /// Ends the input, on which the process ends. Its exit status; -1 when it crashed or goes on.
+    int finish();
+
+    /// The next message, of whichever subscriber, as line(); a null array when none comes.
+    QByteArray take();
+    /// All messages up to the one named `message` on subscriber `id`, without it. An entry "missing" stands for it
+    /// when it does not come.
+    QList<QByteArray> takeUntil(int id, const QByteArray &message);
+
+    static QByteArray line(int id, const QByteArray &message, const QByteArray &data = QByteArray());
+    static QByteArray patternLine(int id, const QByteArray &message, qint64 size);
+
+    /// All it wrote to standard error so far.
+    QByteArray errors();
+    bool isRunning() const { return process.state() == QProcess::Running; }
+    qint64 processId() const { return process.processId(); }
+
+private:
+    void command(const QByteArray &line);
+    QByteArray answer();
+    QByteArray readLine();
+
+    QProcess process;
+    QList<QByteArray> messages;
+    QByteArray errorText;
+};

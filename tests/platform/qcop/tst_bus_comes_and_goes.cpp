@@ -1,0 +1,167 @@
+// A session bus that is not there, that does not answer, that dies and comes back.
+#include "FakeBus.h"
+#include "Peer.h"
+#include "PrivateBus.h"
+
+#include <QtTest/QtTest>
+
+namespace {
+
+constexpr char phone[] = "/KAV/phone";
+constexpr int limitMs = 60000;
+using Lines = QList<QByteArray>;
+
+Lines numberLines(int id, qsizetype count)
+{
+    Lines lines;
+    for (qsizetype number = 0; number < count; ++number)
+        lines << Peer::line(id, QByteArray::number(number));
+    return lines;
+}
+
+} // namespace
+
+class TestBusComesAndGoes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsAskedOfTheBusBeforeTheFirstChannel();
+    void nothingIsAskedOfTheBusBeforeTheFirstMessage();
+    void manyChannelsAskForAMissingBusOnceASecondAtMost();
+    void aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly();
+    void aBusThatComesLaterIsFoundByAWaitingSubscriber();
+    void aBusKilledAmidABurstLosesNothingWithinTheProcess();
+    void aBusThatIsGoneIsToldByTheNextMessage();
+    void aBusThatComesBackIsUsedAgain();
+    void aProcessEndsWellAfterItsBus();
+};
+
+void TestBusComesAndGoes::nothingIsAskedOfTheBusBeforeTheFirstChannel()
+{
+    const FakeBus bus(FakeBus::TurnsAway);
+    QVERIFY(bus.isListening());
+    Peer peer(bus.address());
+    QVERIFY(!peer.isOnBus()); // it runs
+    QCOMPARE(bus.callers(), 0);
+    peer.make(1, phone);
+    QTRY_VERIFY_WITH_TIMEOUT(bus.callers() > 0, limitMs);
+    QCOMPARE(peer.finish(), 0);
+}
+
+void TestBusComesAndGoes::nothingIsAskedOfTheBusBeforeTheFirstMessage()
+{
+    const FakeBus bus(FakeBus::TurnsAway);
+    Peer peer(bus.address());
+    QVERIFY(!peer.isOnBus());
+    QCOMPARE(bus.callers(), 0);
+    QVERIFY(!peer.send(phone, "message"));
+    QTRY_VERIFY_WITH_TIMEOUT(bus.callers() > 0, limitMs);
+    QCOMPARE(peer.finish(), 0);
+}
+
+void TestBusComesAndGoes::manyChannelsAskForAMissingBusOnceASecondAtMost()
+{
+    const FakeBus bus(FakeBus::TurnsAway);
+    Peer peer(bus.address());
+    const int milliseconds = peer.cycle(10000);
+    QTRY_VERIFY_WITH_TIMEOUT(bus.callers() > 0, limitMs);
+    QVERIFY2(bus.callers() <= 1 + milliseconds / 1000,
+             qPrintable(QStringLiteral("%1 calls in %2 ms").arg(bus.callers()).arg(milliseconds)));
+    QCOMPARE(peer.finish(), 0);
+}
+
+void TestBusComesAndGoes::aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly()
+{
+    FakeBus bus(FakeBus::Silent);
+    QVERIFY(bus.isListening());
+    Peer peer(bus.address());
+    // A quarter of a second for each would be more than four minutes.
+    const int milliseconds = peer.cycle(1000);
+    QVERIFY2(milliseconds < 20000, qPrintable(QStringLiteral("%1 ms").arg(milliseconds)));
+    peer.make(1, phone);
+    QVERIFY(!peer.send(phone, "at home"));
+    QCOMPARE(peer.take(), Peer::line(1, "at home"));
+    bus.close();
+    QCOMPARE(peer.finish(), 0);
+}
+
+void TestBusComesAndGoes::aBusThatComesLaterIsFoundByAWaitingSubscriber()
+{
+    PrivateBus bus(false);
+    Peer peer(bus.address());
+    QVERIFY(!peer.subscribe(1, phone));
+    QVERIFY(bus.start());
+    QTRY_VERIFY_WITH_TIMEOUT(peer.isOnBus(), limitMs);
+    Peer other(bus.address());
+    QVERIFY(other.send(phone, "found"));
+    QCOMPARE(peer.take(), Peer::line(1, "found"));
+}
+
+void TestBusComesAndGoes::aBusKilledAmidABurstLosesNothingWithinTheProcess()
+{
+    constexpr int burst = 20000;
+    PrivateBus bus;
+    Peer one(bus.address());
+    Peer two(bus.address());
+    QVERIFY(one.subscribe(1, phone) && two.subscribe(2, phone));
+    one.startBurst(phone, "", burst);
+    QCOMPARE(two.take(), Peer::line(2, "0"));
+    bus.kill();
+    one.finishBurst();
+    QTRY_VERIFY_WITH_TIMEOUT(!one.isOnBus() && !two.isOnBus(), limitMs);
+    QVERIFY(!one.send(phone, "end"));
+    QVERIFY(!two.send(phone, "end"));
+    QCOMPARE(one.takeUntil(1, "end"), numberLines(1, burst));
+    const Lines atTwo = Lines({Peer::line(2, "0")}) + two.takeUntil(2, "end");
+    QCOMPARE(atTwo, numberLines(2, atTwo.size())); // the bus took some with it, the last ones
+    QCOMPARE(one.finish(), 0);
+    QCOMPARE(two.finish(), 0);
+}
+
+void TestBusComesAndGoes::aBusThatIsGoneIsToldByTheNextMessage()
+{
+    PrivateBus bus;
+    Peer peer(bus.address());
+    QVERIFY(peer.subscribe(1, phone));
+    QVERIFY(peer.send(phone, "with"));
+    bus.kill();
+    QTRY_VERIFY_WITH_TIMEOUT(!peer.isOnBus(), limitMs);
+    QVERIFY(!peer.send(phone, "without"));
+    QCOMPARE(peer.take(), Peer::line(1, "with"));
+    QCOMPARE(peer.take(), Peer::line(1, "without"));
+}
+
+void TestBusComesAndGoes::aBusThatComesBackIsUsedAgain()
+{
+    PrivateBus bus;
+    Peer one(bus.address());
+    Peer two(bus.address());
+    QVERIFY(one.subscribe(1, phone) && two.subscribe(2, phone));
+    for (int round = 0; round < 2; ++round) {
+        bus.kill();
+        QTRY_VERIFY_WITH_TIMEOUT(!one.isOnBus() && !two.isOnBus(), limitMs);
+        QVERIFY(bus.start());
+        QTRY_VERIFY_WITH_TIMEOUT(one.isOnBus() && two.isOnBus(), limitMs);
+        QVERIFY(one.send(phone, "there"));
+        QCOMPARE(two.take(), Peer::line(2, "there"));
+        QVERIFY(two.send(phone, "and back"));
+        QCOMPARE(two.take(), Peer::line(2, "and back"));
+        QCOMPARE(one.takeUntil(1, "and back"), Lines({Peer::line(1, "there")}));
+    }
+    QCOMPARE(one.errors() + two.errors(), QByteArray());
+}
+
+void TestBusComesAndGoes::aProcessEndsWellAfterItsBus()
+{
+    PrivateBus bus;
+    Peer peer(bus.address());
+    QVERIFY(peer.subscribe(1, phone));
+    QVERIFY(peer.send(phone, "message"));
+    bus.kill();
+    QCOMPARE(peer.finish(), 0);
+    QCOMPARE(peer.errors(), QByteArray());
+}
+
+QTEST_GUILESS_MAIN(TestBusComesAndGoes)
+#include "tst_bus_comes_and_goes.moc"

@@ -1,0 +1,313 @@
+// kavqcop, as a shell calls it.
+#include "Peer.h"
+#include "PrivateBus.h"
+
+#include <QtTest/QtTest>
+
+namespace {
+
+constexpr char phone[] = "/KAV/phone";
+constexpr int limitMs = 60000;
+constexpr int exitFailure = 1;
+constexpr int exitUsage = 2;
+using Arguments = QList<QByteArray>;
+
+/// A shell line that calls its $0 with `arguments`. QProcess takes texts, arguments are bytes: printf makes them of
+/// octal escapes.
+QString shellLine(const Arguments &arguments)
+{
+    QString line = QStringLiteral("exec \"$0\"");
+    for (const QByteArray &argument : arguments) {
+        line += QStringLiteral(" \"$(printf '");
+        for (const char byte : argument)
+            line += QStringLiteral("\\%1").arg(static_cast<unsigned char>(byte), 3, 8, QLatin1Char('0'));
+        line += QStringLiteral("')\"");
+    }
+    return line;
+}
+
+/// A running kavqcop.
+class Command
+{
+public:
+    Command(const QString &bus, const Arguments &arguments)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus);
+        process.setProcessEnvironment(environment);
+        process.setReadChannel(QProcess::StandardError);
+        endWithParent(process);
+        process.start(QStringLiteral("/bin/sh"),
+                      {QStringLiteral("-c"), shellLine(arguments),
+                       QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/kavqcop")});
+    }
+
+    ~Command()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+    Q_DISABLE_COPY_MOVE(Command)
+
+    bool isListening()
+    {
+        while (!errors().contains("listening on ")) {
+            if (!process.waitForReadyRead(limitMs))
+                return false;
+        }
+        return true;
+    }
+
+    /// The exit status; -1 when it crashed or goes on.
+    int finish()
+    {
+        if (process.state() != QProcess::NotRunning)
+            process.waitForFinished(limitMs);
+        const bool isDone =
+            process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit;
+        return isDone ? process.exitCode() : -1;
+    }
+
+    QByteArray output() { return process.readAllStandardOutput(); }
+    QByteArray errors() { return errorText += process.readAllStandardError(); }
+
+private:
+    QProcess process;
+    QByteArray errorText;
+};
+
+} // namespace
+
+class TestCommand : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(bus.isRunning()); }
+
+    void aSentMessageReachesASubscriber_data();
+    void aSentMessageReachesASubscriber();
+    void aFileIsSentWhole();
+    void aListenerPrintsEachMessageAsALine();
+    void aListenerHearsASenderOnAnyChannelName();
+    void withoutABusItFailsAndSaysSo_data();
+    void withoutABusItFailsAndSaysSo();
+    void aListenerEndsWithItsBus();
+    void aListenerThatCannotPrintEnds();
+    void aMessageLargerThanABusCarriesIsRefused();
+    void wrongUsageIsRefusedWithItsReason_data();
+    void wrongUsageIsRefusedWithItsReason();
+    void aFileThatCannotBeReadIsRefused();
+    void helpNamesEveryOption();
+    void theVersionIsOneLine();
+
+private:
+    PrivateBus bus;
+};
+
+void TestCommand::aSentMessageReachesASubscriber_data()
+{
+    QTest::addColumn<Arguments>("options");
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<QByteArray>("data");
+    QTest::newRow("without data") << Arguments{phone, "/KAV/phone/RecentCall/Update"}
+                                  << QByteArray("/KAV/phone/RecentCall/Update") << QByteArray();
+    QTest::newRow("data as text") << Arguments{phone, "m", "--data", "\xff text"} << QByteArray("m")
+                                  << QByteArray("\xff text");
+    QTest::newRow("data in hexadecimal digits")
+        << Arguments{phone, "m", "--data-hex", "00fF41"} << QByteArray("m") << QByteArray("\0\xff\x41", 3);
+    QTest::newRow("options in front") << Arguments{"--data", "x", phone, "m"} << QByteArray("m")
+                                      << QByteArray("x");
+    QTest::newRow("an empty message") << Arguments{phone, "", "--data", ""} << QByteArray() << QByteArray();
+    QTest::newRow("bytes that are no UTF-8")
+        << Arguments{phone, "\xff\xfe"} << QByteArray("\xff\xfe") << QByteArray();
+    QTest::newRow("a message that looks like an option")
+        << Arguments{"--data", "--data", "--", phone, "--help"} << QByteArray("--help") << QByteArray("--data");
+}
+
+void TestCommand::aSentMessageReachesASubscriber()
+{
+    QFETCH(Arguments, options);
+    QFETCH(QByteArray, message);
+    QFETCH(QByteArray, data);
+    Peer peer(bus.address());
+    QVERIFY(peer.subscribe(1, phone));
+    Command command(bus.address(), Arguments{"send"} + options);
+    QCOMPARE(command.finish(), 0);
+    QCOMPARE(command.errors() + command.output(), QByteArray());
+    QCOMPARE(peer.take(), Peer::line(1, message, data));
+}
+
+void TestCommand::aFileIsSentWhole()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("data")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    const QByteArray data = QByteArray("\0\n\xff line", 8).repeated(100000);
+    QCOMPARE(file.write(data), data.size());
+    file.close();
+    Peer peer(bus.address());
+    QVERIFY(peer.subscribe(1, phone));
+    Command command(bus.address(), {"send", phone, "m", "--data-file", file.fileName().toLocal8Bit()});
+    QCOMPARE(command.finish(), 0);
+    QCOMPARE(peer.take(), Peer::line(1, "m", data));
+}
+
+void TestCommand::aListenerPrintsEachMessageAsALine()
+{
+    Peer peer(bus.address());
+    Command command(bus.address(), {"listen", phone, "--count", "3"});
+    QVERIFY(command.isListening());
+    QVERIFY(peer.send("/KAV/other", "not for you"));
+    QVERIFY(peer.send(phone, "/KAV/phone/RecentCall/Update"));
+    QVERIFY(peer.send(phone, "tab\t line\n \\ ~", QByteArray("\0 \x7f\xff", 4)));
+    QVERIFY(peer.send(phone, "", ""));
+    QVERIFY(peer.send(phone, "one too many"));
+    QCOMPARE(command.finish(), 0);
+    QCOMPARE(command.output(), QByteArray("/KAV/phone/RecentCall/Update\t\n"
+                                          "tab\\x09 line\\x0a \\\\ ~\t\\x00 \\x7f\\xff\n"
+                                          "\t\n"));
+}
+
+void TestCommand::aListenerHearsASenderOnAnyChannelName()
+{
+    Command listener(bus.address(), {"listen", "\xff\xfe", "--count", "1"});
+    QVERIFY(listener.isListening());
+    Command sender(bus.address(), {"send", "\xff\xfe", "hello", "--data", "you"});
+    QCOMPARE(sender.finish(), 0);
+    QCOMPARE(listener.finish(), 0);
+    QCOMPARE(listener.output(), QByteArray("hello\tyou\n"));
+    QCOMPARE(listener.errors(), QByteArray("kavqcop: listening on \\xff\\xfe\n"));
+}
+
+void TestCommand::withoutABusItFailsAndSaysSo_data()
+{
+    QTest::addColumn<Arguments>("arguments");
+    QTest::newRow("send") << Arguments{"send", phone, "m"};
+    QTest::newRow("listen") << Arguments{"listen", phone};
+}
+
+void TestCommand::withoutABusItFailsAndSaysSo()
+{
+    QFETCH(Arguments, arguments);
+    const PrivateBus absent(false);
+    for (const QString &address : {absent.address(), QStringLiteral("disabled:")}) {
+        Command command(address, arguments);
+        QCOMPARE(command.finish(), exitFailure);
+        QCOMPARE(command.errors(),
+                 QByteArray("kavqcop: there is no session bus (is DBUS_SESSION_BUS_ADDRESS set?)\n"));
+        QCOMPARE(command.output(), QByteArray());
+    }
+}
+
+void TestCommand::aListenerEndsWithItsBus()
+{
+    PrivateBus own;
+    Command command(own.address(), {"listen", phone});
+    QVERIFY(command.isListening());
+    own.kill();
+    QCOMPARE(command.finish(), exitFailure);
+    QVERIFY(command.errors().endsWith("kavqcop: the session bus went away\n"));
+}
+
+void TestCommand::aListenerThatCannotPrintEnds()
+{
+    Peer peer(bus.address());
+    const QString kavqcop = QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/kavqcop");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setStandardOutputFile(QStringLiteral("/dev/full"));
+    process.setReadChannel(QProcess::StandardError);
+    endWithParent(process);
+    process.start(kavqcop, {QStringLiteral("listen"), QLatin1String(phone)});
+    QVERIFY(process.waitForReadyRead(limitMs)); // it listens
+    QVERIFY(peer.send(phone, "m"));
+    QVERIFY(process.waitForFinished(limitMs));
+    QCOMPARE(process.exitCode(), exitFailure);
+    QVERIFY(process.readAllStandardError().endsWith("kavqcop: cannot write to the standard output\n"));
+}
+
+void TestCommand::aMessageLargerThanABusCarriesIsRefused()
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("data")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.resize(64 * 1024 * 1024 + 1));
+    Command command(bus.address(), {"send", phone, "m", "--data-file", file.fileName().toLocal8Bit()});
+    QCOMPARE(command.finish(), exitFailure);
+    QCOMPARE(command.errors(), QByteArray("kavqcop: the message is larger than a bus carries\n"));
+}
+
+void TestCommand::wrongUsageIsRefusedWithItsReason_data()
+{
+    QTest::addColumn<Arguments>("arguments");
+    QTest::addColumn<QByteArray>("reason");
+    const QByteArray usage("wrong usage; kavqcop --help shows the right one");
+    const QByteArray count("--count wants a number from 1 on, not ");
+    const QByteArray hex("--data-hex wants pairs of hexadecimal digits, not ");
+    QTest::newRow("nothing") << Arguments{} << usage;
+    QTest::newRow("an unknown command") << Arguments{"receive", phone} << usage;
+    QTest::newRow("send without a message") << Arguments{"send", phone} << usage;
+    QTest::newRow("send with a word too many") << Arguments{"send", phone, "m", "d"} << usage;
+    QTest::newRow("send with a count") << Arguments{"send", phone, "m", "--count", "1"} << usage;
+    QTest::newRow("listen without a channel") << Arguments{"listen"} << usage;
+    QTest::newRow("listen with a message") << Arguments{"listen", phone, "m"} << usage;
+    QTest::newRow("listen with data") << Arguments{"listen", phone, "--data", ""} << usage;
+    QTest::newRow("help with more") << Arguments{"--help", "send"} << QByteArray("unknown option --help");
+    QTest::newRow("an unknown option") << Arguments{"send", phone, "m", "--date", "x"}
+                                       << QByteArray("unknown option --date");
+    QTest::newRow("an option without its value")
+        << Arguments{"send", phone, "m", "--data"} << QByteArray("a value is missing after --data");
+    QTest::newRow("two data blocks") << Arguments{"send", phone, "m", "--data", "a", "--data-hex", "00"}
+                                     << QByteArray("there is more than one data block: --data-hex");
+    QTest::newRow("an odd digit") << Arguments{"send", phone, "m", "--data-hex", "abc"} << hex + "abc";
+    QTest::newRow("a digit that is none") << Arguments{"send", phone, "m", "--data-hex", "0g"} << hex + "0g";
+    QTest::newRow("a count of none") << Arguments{"listen", phone, "--count", "0"} << count + "0";
+    QTest::newRow("a count below none") << Arguments{"listen", phone, "--count", "-1"} << count + "-1";
+    QTest::newRow("a count that is no number") << Arguments{"listen", phone, "--count", "2x"} << count + "2x";
+}
+
+void TestCommand::wrongUsageIsRefusedWithItsReason()
+{
+    QFETCH(Arguments, arguments);
+    QFETCH(QByteArray, reason);
+    Command command(bus.address(), arguments);
+    QCOMPARE(command.finish(), exitUsage);
+    QCOMPARE(command.errors(), "kavqcop: " + reason + '\n');
+    QCOMPARE(command.output(), QByteArray());
+}
+
+void TestCommand::aFileThatCannotBeReadIsRefused()
+{
+    const QTemporaryDir folder;
+    for (const QString &name : {folder.filePath(QStringLiteral("missing")), folder.path()}) {
+        Command command(bus.address(), {"send", phone, "m", "--data-file", name.toLocal8Bit()});
+        QCOMPARE(command.finish(), exitUsage);
+        QVERIFY2(command.errors().startsWith("kavqcop: cannot read " + name.toLocal8Bit() + ": "),
+                 command.errors().constData());
+    }
+}
+
+void TestCommand::helpNamesEveryOption()
+{
+    Command command(QStringLiteral("disabled:"), {"--help"});
+    QCOMPARE(command.finish(), 0);
+    const QByteArray help = command.output();
+    for (const char *word : {"send CHANNEL MESSAGE", "listen CHANNEL", "--data TEXT", "--data-hex HEX",
+                             "--data-file FILE", "--count N", "--version", "--help"})
+        QVERIFY2(help.contains(word), word);
+    QCOMPARE(command.errors(), QByteArray());
+}
+
+void TestCommand::theVersionIsOneLine()
+{
+    Command command(QStringLiteral("disabled:"), {"--version"});
+    QCOMPARE(command.finish(), 0);
+    const QByteArray version = command.output();
+    QVERIFY2(version.startsWith("kavqcop 1.") && version.indexOf('\n') == version.size() - 1, version.constData());
+}
+
+QTEST_GUILESS_MAIN(TestCommand)
+#include "tst_command.moc"

@@ -1,0 +1,164 @@
+// What other programs see of a channel on the bus, and what they can do to it.
+#include "Peer.h"
+#include "PrivateBus.h"
+
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
+#include <QtTest/QtTest>
+
+namespace {
+
+constexpr char phone[] = "/KAV/phone";
+const QString path = QStringLiteral("/org/kav/QCop");
+const QString interface = QStringLiteral("org.kav.QCop");
+const QString member = QStringLiteral("Message");
+const QString linkName = QStringLiteral("foreign");
+constexpr char trace[] = "is no channel message and is ignored";
+
+QVariant bytes(const char *text)
+{
+    return QByteArray(text);
+}
+
+} // namespace
+
+class TestForeignMessages : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void see(const QDBusMessage &message)
+    {
+        if (message.service() != link().baseService())
+            seen << message;
+    }
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { peer.reset(); }
+    void cleanupTestCase() { QDBusConnection::disconnectFromBus(linkName); }
+
+    void aMessageIsOneBroadcastSignal();
+    void aWellFormedMessageOfAnotherProgramArrives();
+    void aMalformedMessageIsIgnoredWithATrace_data();
+    void aMalformedMessageIsIgnoredWithATrace();
+    void aCallIsRefusedWithATrace();
+    void signalsOfOtherInterfacesLeaveNoTrace();
+
+private:
+    QDBusConnection link() const { return QDBusConnection(linkName); }
+    void sendWellFormed();
+
+    PrivateBus bus;
+    std::unique_ptr<Peer> peer;
+    QString peerName;
+    QList<QDBusMessage> seen;
+};
+
+void TestForeignMessages::initTestCase()
+{
+    QVERIFY(bus.isRunning());
+    QDBusConnection connection = QDBusConnection::connectToBus(bus.address(), linkName);
+    QVERIFY(connection.connect(QString(), QString(), interface, QString(), this, SLOT(see(QDBusMessage))));
+}
+
+void TestForeignMessages::init()
+{
+    peer = std::make_unique<Peer>(bus.address());
+    QVERIFY(peer->subscribe(1, phone));
+    seen.clear();
+    QVERIFY(peer->send("", "who"));
+    QTRY_COMPARE(seen.size(), 1);
+    peerName = seen.first().service();
+    seen.clear();
+}
+
+void TestForeignMessages::sendWellFormed()
+{
+    QDBusMessage message = QDBusMessage::createSignal(path, interface, member);
+    message << bytes(phone) << bytes("well formed") << bytes("data");
+    QVERIFY(link().send(message));
+}
+
+void TestForeignMessages::aMessageIsOneBroadcastSignal()
+{
+    QVERIFY(peer->send(phone, QByteArray("a\0\xff", 3), "data"));
+    QVERIFY(peer->send(phone, ""));
+    QTRY_COMPARE(seen.size(), 2);
+    const QDBusMessage &message = seen.first();
+    QCOMPARE(message.type(), QDBusMessage::SignalMessage);
+    QCOMPARE(message.path(), path);
+    QCOMPARE(message.interface(), interface);
+    QCOMPARE(message.member(), member);
+    QCOMPARE(message.signature(), QStringLiteral("ayayay"));
+    QCOMPARE(message.arguments(), QVariantList({bytes(phone), QByteArray("a\0\xff", 3), bytes("data")}));
+}
+
+void TestForeignMessages::aWellFormedMessageOfAnotherProgramArrives()
+{
+    sendWellFormed();
+    QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
+    QCOMPARE(peer->errors(), QByteArray());
+}
+
+void TestForeignMessages::aMalformedMessageIsIgnoredWithATrace_data()
+{
+    QTest::addColumn<QDBusMessage>("message");
+    const auto row = [](const char *name, const QVariantList &arguments) {
+        QDBusMessage message = QDBusMessage::createSignal(path, interface, member);
+        message.setArguments(arguments);
+        QTest::newRow(name) << message;
+    };
+    row("no arguments", {});
+    row("texts in place of bytes", {QStringLiteral("/KAV/phone"), QStringLiteral("a"), QStringLiteral("b")});
+    row("no data block", {bytes(phone), bytes("a")});
+    row("one argument too many", {bytes(phone), bytes("a"), bytes("b"), bytes("c")});
+    row("a number in place of the message", {bytes(phone), 7, bytes("b")});
+    row("lists in place of bytes", {QStringList{QStringLiteral("/KAV/phone")}, QStringList(), QStringList()});
+
+    const QVariantList good{bytes(phone), bytes("a"), bytes("b")};
+    QDBusMessage message = QDBusMessage::createSignal(QStringLiteral("/elsewhere"), interface, member);
+    message.setArguments(good);
+    QTest::newRow("another object") << message;
+    message = QDBusMessage::createSignal(path, interface, QStringLiteral("message"));
+    message.setArguments(good);
+    QTest::newRow("another member") << message;
+}
+
+void TestForeignMessages::aMalformedMessageIsIgnoredWithATrace()
+{
+    QFETCH(QDBusMessage, message);
+    QVERIFY(link().send(message));
+    QDBusMessage directed =
+        QDBusMessage::createTargetedSignal(peerName, message.path(), interface, message.member());
+    directed.setArguments(message.arguments());
+    QVERIFY(link().send(directed));
+    sendWellFormed();
+    QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
+    QTRY_COMPARE(peer->errors().count(trace), 2);
+}
+
+void TestForeignMessages::aCallIsRefusedWithATrace()
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(peerName, path, interface, member);
+    call << bytes(phone) << bytes("called") << bytes("data");
+    QCOMPARE(link().call(call, QDBus::BlockWithGui).type(), QDBusMessage::ErrorMessage);
+    sendWellFormed();
+    QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
+    QTRY_COMPARE(peer->errors().count(trace), 1);
+}
+
+void TestForeignMessages::signalsOfOtherInterfacesLeaveNoTrace()
+{
+    QDBusMessage other = QDBusMessage::createSignal(path, QStringLiteral("org.other"), member);
+    other << bytes(phone) << bytes("a") << bytes("b");
+    QVERIFY(link().send(other));
+    QVERIFY(link().send(QDBusMessage::createTargetedSignal(peerName, path, QStringLiteral("org.other"), member)));
+    sendWellFormed();
+    QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
+    QCOMPARE(peer->errors(), QByteArray());
+}
+
+QTEST_GUILESS_MAIN(TestForeignMessages)
+#include "tst_foreign_messages.moc"
