@@ -27,9 +27,9 @@ void ZLabel::paintEvent(QPaintEvent *)
     if (isHeading)
         painter.fillRect(rect(), ZSkinService::color(ZSkinService::HeadingColor));
     painter.setFont(font());
-    painter.setPen(ZSkinService::color(!isEnabled()  ? ZSkinService::DisabledTextColor
-                                       : isHeading ? ZSkinService::HeadingTextColor
-                                                   : ZSkinService::RowTextColor));
+    painter.setPen(ZSkinService::color(!isEnabled() ? ZSkinService::DisabledTextColor
+                                       : isHeading  ? ZSkinService::HeadingTextColor
+                                                    : ZSkinService::RowTextColor));
     const QRect line = rect().adjusted(indent(), 0, -indent(), 0);
     ZText::draw(painter, line, QStyle::visualAlignment(layoutDirection(), alignment()), text());
 }

@@ -15,8 +15,8 @@
 
 namespace {
 
-constexpr int mostLines = 4;  // before the field scrolls
-constexpr qreal margin = 4;   // around the text, device-independent pixels
+constexpr int mostLines = 4; // before the field scrolls
+constexpr int margin = 4;    // around the text, device-independent pixels
 constexpr int cursorPixels = 2;
 
 bool isBreak(QChar c)
@@ -53,17 +53,19 @@ ZMultiLineEdit::ZMultiLineEdit(QWidget *parent, const char *name)
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new ZScrollBar(this));
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setContextMenuPolicy(Qt::NoContextMenu);
     setTabChangesFocus(true);
     setCursorWidth(cursorPixels);
-    document()->setDocumentMargin(margin);
+    document()->setDocumentMargin(0); // which would scroll away with the text
+    setViewportMargins(margin, margin, margin, margin);
     connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
         d->position = position;
         d->added = added;
     });
     connect(this, &QPlainTextEdit::textChanged, this, &ZMultiLineEdit::cutToLength);
     connect(document()->documentLayout(), &QAbstractTextDocumentLayout::documentSizeChanged, this,
-            [this] { updateGeometry(); });
+            &ZMultiLineEdit::linesChanged);
 }
 
 ZMultiLineEdit::~ZMultiLineEdit() = default;
@@ -80,11 +82,35 @@ int ZMultiLineEdit::maxLength() const
     return d->maxLength;
 }
 
+// Of what the field shows: the document's height is in lines.
+int ZMultiLineEdit::shownLines() const
+{
+    return std::clamp(static_cast<int>(document()->size().height()), 1, mostLines);
+}
+
 QSize ZMultiLineEdit::sizeHint() const
 {
-    const int lines = std::clamp(static_cast<int>(document()->size().height()), 1, mostLines);
-    const int height = lines * fontMetrics().lineSpacing() + static_cast<int>(2 * margin);
-    return QSize(ZSkinService::DisplayWidth, height);
+    // A line is laid out in whole pixels above and below its base, and the last one has to end within the field.
+    const QFontMetricsF metrics(font());
+    const double lineHeight = std::ceil(metrics.ascent()) + std::ceil(metrics.descent());
+    return QSize(ZSkinService::DisplayWidth, static_cast<int>(shownLines() * lineHeight) + 2 * margin + 1);
+}
+
+void ZMultiLineEdit::linesChanged()
+{
+    const bool scrolls = document()->size().height() > mostLines;
+    setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    updateGeometry();
+}
+
+void ZMultiLineEdit::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    // What had to be scrolled away in the lower field is in sight again.
+    if (verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOff)
+        verticalScrollBar()->setValue(0);
+    else
+        ensureCursorVisible();
 }
 
 QSize ZMultiLineEdit::minimumSizeHint() const
@@ -141,7 +167,8 @@ void ZMultiLineEdit::keyPressEvent(QKeyEvent *event)
 void ZMultiLineEdit::inputMethodEvent(QInputMethodEvent *event)
 {
     QInputMethodEvent plain(event->preeditString(), event->attributes());
-    plain.setCommitString(asOneParagraph(event->commitString()), event->replacementStart(), event->replacementLength());
+    plain.setCommitString(asOneParagraph(event->commitString()), event->replacementStart(),
+                          event->replacementLength());
     QPlainTextEdit::inputMethodEvent(&plain);
     event->setAccepted(plain.isAccepted());
 }

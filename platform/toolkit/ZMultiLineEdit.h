@@ -36,8 +36,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void insertFromMimeData(const QMimeData *source) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    int shownLines() const;
+    void linesChanged();
     void cutToLength();
 
     struct Private;

@@ -7,7 +7,7 @@
 namespace {
 
 // As they are printed on the keys; 0 has the blank.
-constexpr std::array<const char *, 10> characters = {" 0",   "1",     "ABC2", "DEF3",  "GHI4",
+constexpr std::array<const char *, 10> characters = {" 0",   "1",    "ABC2",  "DEF3", "GHI4",
                                                      "JKL5", "MNO6", "PQRS7", "TUV8", "WXYZ9"};
 static_assert(characters.size() == Qt::Key_9 - Qt::Key_0 + 1);
 

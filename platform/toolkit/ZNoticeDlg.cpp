@@ -28,8 +28,7 @@ public:
     NoticeBody(const QString &message, QWidget *parent)
         : QWidget(parent)
         , text(new ZTextPane(message, this))
-    {
-    }
+    {}
 
     ZTextPane *pane() const { return text; }
 
@@ -43,7 +42,8 @@ protected:
     void resizeEvent(QResizeEvent *) override
     {
         const int paneHeight = std::min(text->heightForWidth(textWidth(width())), height());
-        const QRect pane(width() - textWidth(width()), (height() - paneHeight) / 2, textWidth(width()), paneHeight);
+        const QRect pane(width() - textWidth(width()), (height() - paneHeight) / 2, textWidth(width()),
+                         paneHeight);
         text->setGeometry(QStyle::visualRect(layoutDirection(), rect(), pane));
     }
 

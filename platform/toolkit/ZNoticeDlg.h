@@ -13,7 +13,7 @@ class ZNoticeDlg : public ZPopup
 
 public:
     /// The phone's own numbers. Any other number is taken as DoneNotice, with a warning.
-    enum Type {
+    enum Type : int {
         DoneNotice = 1 ///< something has been done: a check mark
     };
 

@@ -7,8 +7,8 @@
 #include "ZTextPane.h"
 #include "translation.h"
 
-#include <QtCore/qlogging.h>
 #include <QtCore/QEvent>
+#include <QtCore/qlogging.h>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
 
@@ -31,8 +31,7 @@ public:
         , tellSize(std::move(sizeChanged))
         , message(text.isEmpty() ? nullptr : new ZTextPane(text, this))
         , edit(new ZMultiLineEdit(this))
-    {
-    }
+    {}
 
     ZMultiLineEdit *field() const { return edit; }
 
@@ -58,7 +57,9 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.fillRect(edit->geometry().adjusted(-1, -1, 1, 1), ZSkinService::color(ZSkinService::RowValueColor));
+        painter.fillRect(edit->geometry().adjusted(-1, -1, 1, 1),
+                         ZSkinService::color(ZSkinService::RowValueColor));
+        painter.fillRect(edit->geometry(), ZSkinService::color(ZSkinService::ScreenColor));
         const ZKeypadInput *input = ZKeypadInput::of(edit);
         if (!input)
             return;
@@ -85,7 +86,8 @@ private:
             message->setGeometry(0, 0, width(), top);
         edit->setGeometry(padding, top + 1, std::max(0, width() - 2 * padding), fieldHeight);
         if (ZKeypadInput *input = ZKeypadInput::of(edit))
-            connect(input, &ZKeypadInput::indicatorChanged, this, qOverload<>(&QWidget::update), Qt::UniqueConnection);
+            connect(input, &ZKeypadInput::indicatorChanged, this, qOverload<>(&QWidget::update),
+                    Qt::UniqueConnection);
         update();
     }
 
@@ -101,7 +103,8 @@ struct ZSingleCaptureDlg::Private {
 };
 
 ZSingleCaptureDlg::ZSingleCaptureDlg(const QString &header, const QString &message, CaptureDlgType type,
-                                     QWidget *parent, const char *name, bool modal, unsigned int flags, int timeout)
+                                     QWidget *parent, const char *name, bool modal, unsigned int flags,
+                                     int timeout)
     : ZPopup(header, parent, name, modal, flags)
     , d(std::make_unique<Private>())
 {

@@ -16,7 +16,7 @@ class ZSingleCaptureDlg : public ZPopup
 
 public:
     /// The phone's own numbers. Any other number is taken as TextCaptureDlg, with a warning.
-    enum CaptureDlgType {
+    enum CaptureDlgType : int {
         TextCaptureDlg = 2 ///< a text that is shown as it is typed
     };
 

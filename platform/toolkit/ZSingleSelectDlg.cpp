@@ -10,6 +10,7 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
 #include <QtGui/QPixmap>
 #include <QtWidgets/QStyle>
 
@@ -19,8 +20,8 @@
 
 namespace {
 
-constexpr int markSize = 13;    // of the ring in front of a row
-constexpr qreal dotSize = 6;    // of what is inside the chosen row's
+constexpr int markSize = 13; // of the ring in front of a row
+constexpr qreal dotSize = 6; // of what is inside the chosen row's
 constexpr qreal ringWidth = 1.5;
 
 // Rows as everywhere, and a ring in front of those that have an icon's place and no icon.
@@ -30,8 +31,7 @@ public:
     explicit ChoiceDelegate(ZListBox *rows)
         : ZRowDelegate(rows)
         , list(rows)
-    {
-    }
+    {}
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
@@ -60,7 +60,8 @@ private:
 
     static void paintMark(QPainter *painter, const QRect &place, bool chosen)
     {
-        const QColor color = ZSkinService::color(chosen ? ZSkinService::FocusTextColor : ZSkinService::RowValueColor);
+        const QColor color =
+            ZSkinService::color(chosen ? ZSkinService::FocusTextColor : ZSkinService::RowValueColor);
         const qreal inset = ringWidth / 2;
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
@@ -87,8 +88,7 @@ public:
         , room(std::move(roomForBody))
         , message(text.isEmpty() ? nullptr : new ZTextPane(text, this))
         , list(new ZListBox(QStringLiteral("%M"), this, 0, ZSkinService::SettingListClass))
-    {
-    }
+    {}
 
     ZListBox *rows() const { return list; }
 
@@ -102,6 +102,11 @@ protected:
         if (message)
             message->setGeometry(0, 0, width(), top);
         list->setGeometry(0, top, width(), std::max(0, height() - top));
+        // The last row ends where the box is rounded.
+        QPainterPath box;
+        box.addRoundedRect(QRectF(rect()).adjusted(0, -ZSkinService::DialogRadius, 0, 0),
+                           ZSkinService::DialogRadius, ZSkinService::DialogRadius);
+        setMask(QRegion(box.toFillPolygon().toPolygon()) & rect());
     }
 
 private:
@@ -147,8 +152,8 @@ struct ZSingleSelectDlg::Private {
     ZMultiTap multiTap;
 };
 
-ZSingleSelectDlg::ZSingleSelectDlg(const QString &header, const QString &message, QWidget *parent, const char *name,
-                                   bool modal, unsigned int flags, int timeout)
+ZSingleSelectDlg::ZSingleSelectDlg(const QString &header, const QString &message, QWidget *parent,
+                                   const char *name, bool modal, unsigned int flags, int timeout)
     : ZPopup(header, parent, name, modal, flags)
     , d(std::make_unique<Private>())
 {
