@@ -29,6 +29,7 @@ class ZListBox : public QListView
 {
     Q_OBJECT
     KAV_CLASS_NAME
+    Q_MOC_INCLUDE("ZSettingItem.h") // so that the signals' arguments can be recorded and queued
 
 public:
     enum ItemDataRole {

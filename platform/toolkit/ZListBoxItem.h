@@ -14,7 +14,7 @@ class ZListBoxItem : public ZListItem
 public:
     /// How long a text keeps its room when a row is too narrow. The numbers are the phone's own; a row here has one
     /// text, which always keeps it.
-    enum ShowPriority { LowShowPriority = 0, MiddleShowPriority = 1, HighShowPriority = 2 };
+    enum ShowPriority : int { LowShowPriority = 0, MiddleShowPriority = 1, HighShowPriority = 2 };
 
     /// A row on `list` (see ZListItem) with no sub-items yet. `type` as in ZListItem.
     ZListBoxItem(ZListBox *list, QString type);

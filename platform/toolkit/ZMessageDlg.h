@@ -12,7 +12,7 @@ class ZMessageDlg : public ZPopup
 
 public:
     /// The phone's own numbers. Any other number is taken as InformationDlg, with a warning.
-    enum MessageDlgType {
+    enum MessageDlgType : int {
         QuestionDlg = 1,   ///< softkeys "Yes" and "No"
         InformationDlg = 2 ///< softkey "OK" on the left
     };

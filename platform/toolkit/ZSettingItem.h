@@ -9,7 +9,7 @@
 class ZSettingItem : public ZListItem
 {
 public:
-    enum SettingItemRegion { TitleRegion = 0, ValueRegion = 1 };
+    enum SettingItemRegion : int { TitleRegion = 0, ValueRegion = 1 };
 
     /// A row on `list` (see ZListItem) with no sub-items yet. `type` as in ZListItem.
     ZSettingItem(ZListBox *list, QString type);

@@ -10,7 +10,7 @@ class ZSkinService
 {
 public:
     /// The numbers are the phone's own.
-    enum WidgetClsID {
+    enum WidgetClsID : int {
         SettingListClass = 40, ///< the list that fills a screen
         HeadingLabelClass = 86 ///< a heading line over a list
     };

@@ -76,19 +76,16 @@ private:
     std::map<int, QString> captions; // by priority
 };
 
-// The code and the normalized signature of "2closeWidget()"; an empty signature when it is not in that form.
-QByteArray signatureOf(const char *member)
-{
-    const bool coded = member[0] == '0' + QSLOT_CODE || member[0] == '0' + QSIGNAL_CODE;
-    return coded ? QMetaObject::normalizedSignature(member + 1) : QByteArray();
-}
-
+// Whether `receiver` has `member`, given as "2closeWidget()" or "1slotBack()", and it wants no arguments.
 bool hasMember(const QObject *receiver, const char *member)
 {
-    const QByteArray signature = signatureOf(member);
+    const bool isSignal = member[0] == '0' + QSIGNAL_CODE;
+    if (!isSignal && member[0] != '0' + QSLOT_CODE)
+        return false;
+    const QByteArray signature = QMetaObject::normalizedSignature(member + 1);
     const QMetaObject *meta = receiver->metaObject();
-    const int index = member[0] == '0' + QSIGNAL_CODE ? meta->indexOfSignal(signature) : meta->indexOfSlot(signature);
-    return !signature.isEmpty() && index >= 0;
+    const int index = isSignal ? meta->indexOfSignal(signature) : meta->indexOfSlot(signature);
+    return index >= 0 && QMetaObject::checkConnectArgs("leftClicked()", signature);
 }
 
 } // namespace

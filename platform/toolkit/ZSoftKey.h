@@ -17,8 +17,8 @@ class ZSoftKey : public QWidget
 
 public:
     /// The phone's own numbers.
-    enum KEY_IDX { LeftKey = 0, RightKey = 1 };
-    enum TEXT_PRIORITY { DefaultTextPriority = 0 };
+    enum KEY_IDX : int { LeftKey = 0, RightKey = 1 };
+    enum TEXT_PRIORITY : int { DefaultTextPriority = 0 };
 
     /// `layout` is the bar's layout; "CST_2A" is two keys, and any other layout is taken as it, with a warning.
     /// `parent` owns the bar. `target` is the widget whose keys the bar serves; null means `parent`, which then
