@@ -34,7 +34,10 @@ int printScreen(QLibrary &plugin)
     const auto destroy =
         reinterpret_cast<void (*)(PHONE_UI_RecentCallTimesView *)>(plugin.resolve("destroy_callTime"));
     if (!create || !destroy) {
-        std::fprintf(stderr, "%s\n", qPrintable(plugin.errorString()));
+        const QString reason = plugin.isLoaded()
+                                   ? plugin.fileName() + " has no create_callTime or destroy_callTime"
+                                   : plugin.errorString();
+        std::fprintf(stderr, "%s\n", qPrintable(reason));
         return 2;
     }
     PHONE_UI_RecentCallTimesView *screen = create(nullptr, "callTime");

@@ -58,10 +58,10 @@ constexpr int dataRow = 3;
 constexpr int allRow = 4;
 
 constexpr const char *usedOperations[] = {
-    "CallLog::lastCallTime",          "CallLog::dialedCallsTime",        "CallLog::answeredCallsTime",
-    "CallLog::lifetimeCallsTime",     "CallService::totalCallTime",      "CallLog::resetDialedCallsTime",
-    "CallLog::resetAnsweredCallsTime", "CallService::resetCallTime",     "DataCalls::refreshTotals",
-    "DataCalls::totalDuration",       "DataCalls::callStatus",           "DataCalls::resetTotalDuration",
+    "CallLog::lastCallTime",           "CallLog::dialedCallsTime",   "CallLog::answeredCallsTime",
+    "CallLog::lifetimeCallsTime",      "CallService::totalCallTime", "CallLog::resetDialedCallsTime",
+    "CallLog::resetAnsweredCallsTime", "CallService::resetCallTime", "DataCalls::refreshTotals",
+    "DataCalls::totalDuration",        "DataCalls::callStatus",      "DataCalls::resetTotalDuration",
 };
 
 QStringList expectedRows(const QStringList &values)
@@ -272,7 +272,9 @@ void TestCallTimes::secondsAreShownAs_data()
 {
     QTest::addColumn<quint32>("seconds");
     QTest::addColumn<QString>("text");
-    const auto row = [](quint32 seconds, const char *text) { QTest::addRow("%u s", seconds) << seconds << QString(text); };
+    const auto row = [](quint32 seconds, const char *text) {
+        QTest::addRow("%u s", seconds) << seconds << QString(text);
+    };
     row(0, "00:00:00");
     row(1, "00:00:01");
     row(9, "00:00:09");
@@ -457,10 +459,10 @@ void TestCallTimes::yesToAllCallsRewritesSixRowsAfterReadingTheDataTime()
     script().answer("DataCalls::totalDuration", quint32{60});
     const QSignalSpy rewritten(PhoneScreen::list(screen())->model(), &QAbstractItemModel::dataChanged);
     reset(allRow);
-    COMPARE_LINES(journal.lines(),
-                  QStringList({"CallService::resetCallTime", "DataCalls::refreshTotals", "DataCalls::totalDuration",
-                               "CallLog::lastCallTime", "CallLog::dialedCallsTime", "CallLog::answeredCallsTime",
-                               "CallService::totalCallTime", "CallLog::lifetimeCallsTime"}));
+    COMPARE_LINES(journal.lines(), QStringList({"CallService::resetCallTime", "DataCalls::refreshTotals",
+                                                "DataCalls::totalDuration", "CallLog::lastCallTime",
+                                                "CallLog::dialedCallsTime", "CallLog::answeredCallsTime",
+                                                "CallService::totalCallTime", "CallLog::lifetimeCallsTime"}));
     QCOMPARE(rewrittenRows(rewritten), (QList<int>{0, 1, 2, 3, 4, 5}));
     const QString nine = QStringLiteral("09:09:09");
     COMPARE_LINES(PhoneScreen::rows(screen()), expectedRows({nine, nine, nine, "00:01:00", nine, nine}));
@@ -568,7 +570,10 @@ void TestCallTimes::theDataCallStatusDecides_data()
     for (int status = 0; status <= 255; ++status) {
         const bool resets = status == 0 || status == 2;
         const bool refuses = status == 1 || status == 3;
-        QTest::addRow("status %d %s", status, resets ? "resets" : refuses ? "refuses" : "does nothing")
+        QTest::addRow("status %d %s", status,
+                      resets    ? "resets"
+                      : refuses ? "refuses"
+                                : "does nothing")
             << quint8(status) << resets << refuses;
     }
 }

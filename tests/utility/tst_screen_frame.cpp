@@ -78,7 +78,9 @@ void TestScreenFrame::parentAndNameArePassedOn_data()
     QTest::newRow("a parent and a name") << true << QByteArray("callTime");
     QTest::newRow("no parent") << false << QByteArray("callTime");
     QTest::newRow("a null name") << true << QByteArray();
-    QTest::newRow("a name beyond ASCII") << false << QByteArray("dur\xe9""e");
+    QTest::newRow("a name beyond ASCII") << false
+                                         << QByteArray("dur\xe9"
+                                                       "e");
 }
 
 void TestScreenFrame::parentAndNameArePassedOn()
@@ -271,8 +273,8 @@ void TestScreenFrame::aClickOnBackEmitsCloseWidgetOnce()
 void TestScreenFrame::otherKeysDoNotLeave_data()
 {
     QTest::addColumn<int>("key");
-    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Select, Qt::Key_Return, Qt::Key_Context1, Qt::Key_F1,
-                              Qt::Key_1, Qt::Key_Asterisk, Qt::Key_Left, Qt::Key_Right, Qt::Key_Tab})
+    for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Select, Qt::Key_Return, Qt::Key_Context1,
+                              Qt::Key_F1, Qt::Key_1, Qt::Key_Asterisk, Qt::Key_Left, Qt::Key_Right, Qt::Key_Tab})
         QTest::newRow(QKeySequence(key).toString().toLatin1().constData()) << int(key);
 }
 

@@ -1,0 +1,210 @@
+// Memory that runs out: every allocation of the plug-in fails once, one after the other.
+#include "PHONE_UI_RecentCallTimesView.h"
+
+#include "AllocationFailure.h"
+#include "PhoneScreen.h"
+#include "PhoneTest.h"
+#include "PluginLibrary.h"
+
+#include "ZApplication.h"
+#include "ZListBox.h"
+
+#include <QtTest/QSignalSpy>
+
+using handset::CallTime;
+using ZKeys::PhoneKey;
+using View = PHONE_UI_RecentCallTimesView;
+using CallTimes = HostedScreen<View>;
+
+namespace {
+
+// What the plug-in allocates while it opens the screen, in order.
+enum Allocation {
+    ScreenItself = 1,
+    SoftkeyBar,
+    List,
+    Meter,
+    MessageClient,
+    FirstRow,
+    LastRow = FirstRow + 5,
+    // and while the screen is used
+    FirstDialog
+};
+
+bool isAsking()
+{
+    return !PhoneScreen::shownDialogs().isEmpty();
+}
+
+int shownRowCount(const View *screen)
+{
+    const ZListBox *list = PhoneScreen::list(screen);
+    return list ? list->count() : 0;
+}
+
+} // namespace
+
+class TestAllocationFailures : public PhoneTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void openingAllocatesWhatIsListed();
+    void whatIsMissingIsMissingAndTheRestWorks_data();
+    void whatIsMissingIsMissingAndTheRestWorks();
+    void withoutTheMeterNothingIsAskedOrAllocatedAnyMore();
+    void withoutTheMessageClientNothingIsAsked();
+    void aQuestionThatCannotBeMadeIsAskedTheNextTime();
+    void aNoticeThatCannotBeMadeIsMadeTheNextTime();
+    void noFailureAnywhereIsACrash();
+
+private:
+    void useEverything();
+};
+
+void TestAllocationFailures::init()
+{
+    PhoneTest::init();
+    script().answer("DataCalls::totalDuration", quint32{3725});
+    script().answer("DataCalls::callStatus", quint8{1});
+}
+
+void TestAllocationFailures::openingAllocatesWhatIsListed()
+{
+    const AllocationFailure none(0);
+    const CallTimes screen("callTime");
+    QCOMPARE(AllocationFailure::count(), int(LastRow));
+}
+
+void TestAllocationFailures::whatIsMissingIsMissingAndTheRestWorks_data()
+{
+    QTest::addColumn<int>("nth");
+    QTest::addColumn<bool>("hasScreen");
+    QTest::addColumn<bool>("hasSoftkeys");
+    QTest::addColumn<bool>("hasList");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("no failure: all there is") << 0 << true << true << true << 6;
+    QTest::newRow("no screen: create answers null") << int(ScreenItself) << false << false << false << 0;
+    QTest::newRow("no softkey bar: the clear key leaves") << int(SoftkeyBar) << true << false << true << 6;
+    QTest::newRow("no list: title and Back") << int(List) << true << true << false << 0;
+    QTest::newRow("no meter: title, Back and an empty list") << int(Meter) << true << true << true << 0;
+    QTest::newRow("no message client: the same") << int(MessageClient) << true << true << true << 0;
+    for (int row = 0; row < 6; ++row)
+        QTest::addRow("no row %d: the rows before it", row) << FirstRow + row << true << true << true << row;
+}
+
+void TestAllocationFailures::whatIsMissingIsMissingAndTheRestWorks()
+{
+    QFETCH(const int, nth);
+    QFETCH(const bool, hasScreen);
+    QFETCH(const bool, hasSoftkeys);
+    QFETCH(const bool, hasList);
+    QFETCH(const int, rows);
+    const AllocationFailure failure(nth);
+    const CallTimes screen("callTime");
+    QCOMPARE(AllocationFailure::happened(), nth > 0);
+    QCOMPARE(screen.get() != nullptr, hasScreen);
+    if (!hasScreen)
+        return;
+    screen->show();
+    QCOMPARE(screen->mainWidgetTitle(), QString("Call Times"));
+    QCOMPARE(screen->cstWidget() != nullptr, hasSoftkeys);
+    QCOMPARE(PhoneScreen::softkey(screen.get(), ZSoftKey::RightKey), hasSoftkeys ? "Back" : QString());
+    QCOMPARE(PhoneScreen::list(screen.get()) != nullptr, hasList);
+    QCOMPARE(shownRowCount(screen.get()), rows);
+    const QSignalSpy closed(screen.get(), "2closeWidget()");
+    PhoneScreen::press(PhoneKey::Select);
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QCOMPARE(closed.count(), hasSoftkeys ? 1 : 0);
+    PhoneScreen::press(PhoneKey::Clear);
+    QCOMPARE(closed.count(), hasSoftkeys ? 2 : 1);
+}
+
+void TestAllocationFailures::withoutTheMeterNothingIsAskedOrAllocatedAnyMore()
+{
+    const AllocationFailure failure(Meter);
+    const CallTimes screen("callTime");
+    QCOMPARE(AllocationFailure::count(), int(Meter));
+    QCOMPARE(journal.lines(), QStringList());
+    QCOMPARE(traces->text(), QString());
+}
+
+void TestAllocationFailures::withoutTheMessageClientNothingIsAsked()
+{
+    const AllocationFailure failure(MessageClient);
+    const CallTimes screen("callTime");
+    QCOMPARE(AllocationFailure::count(), int(MessageClient));
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestAllocationFailures::aQuestionThatCannotBeMadeIsAskedTheNextTime()
+{
+    const CallTimes screen("callTime");
+    screen->show();
+    {
+        const AllocationFailure failure(1);
+        PhoneScreen::chooseRow(screen.get(), 1);
+        QVERIFY(AllocationFailure::happened());
+    }
+    QVERIFY(!isAsking());
+    journal.clear();
+    PhoneScreen::chooseRow(screen.get(), 1);
+    QVERIFY(isAsking());
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QCOMPARE(journal.lines().value(0), QString("CallLog::resetDialedCallsTime"));
+}
+
+void TestAllocationFailures::aNoticeThatCannotBeMadeIsMadeTheNextTime()
+{
+    const CallTimes screen("callTime");
+    screen->show();
+    PhoneScreen::chooseRow(screen.get(), 3);
+    journal.clear();
+    {
+        const AllocationFailure failure(1);
+        PhoneScreen::press(PhoneKey::LeftSoftkey);
+        QVERIFY(AllocationFailure::happened());
+    }
+    QVERIFY(!isAsking());
+    QCOMPARE(journal.lines(), QStringList("DataCalls::callStatus"));
+    PhoneScreen::chooseRow(screen.get(), 3);
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QVERIFY(isAsking());
+}
+
+// Opens the screen, chooses every row there is and says yes, and leaves by both ways. During a data call.
+void TestAllocationFailures::useEverything()
+{
+    CallTimes screen("callTime");
+    if (!screen.get())
+        return;
+    screen->show();
+    const QSignalSpy closed(screen.get(), "2closeWidget()");
+    for (int row = 0; row < shownRowCount(screen.get()); ++row) {
+        PhoneScreen::chooseRow(screen.get(), row);
+        while (isAsking())
+            PhoneScreen::press(PhoneKey::LeftSoftkey);
+    }
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    PhoneScreen::press(PhoneKey::Clear);
+    QVERIFY(closed.count() >= 1);
+    screen.destroy();
+}
+
+void TestAllocationFailures::noFailureAnywhereIsACrash()
+{
+    int nth = 1;
+    for (; nth < 1000; ++nth) {
+        const AllocationFailure failure(nth);
+        useEverything();
+        if (QTest::currentTestFailed() || !AllocationFailure::happened())
+            break;
+    }
+    // All that is listed, four questions and the notice have had their turn.
+    QCOMPARE(nth, FirstDialog + 5);
+}
+
+KAV_TEST_MAIN(TestAllocationFailures)
+#include "tst_allocation_failures.moc"

@@ -1,0 +1,283 @@
+// The plug-in as a shared object: loading, names, what it exports and what it needs.
+#include "PHONE_UI_RecentCallTimesView.h"
+
+#include "PhoneScreen.h"
+#include "PhoneTest.h"
+#include "PluginLibrary.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+
+namespace {
+
+QString builtFile(const char *name)
+{
+    return QDir::cleanPath(libraryDirectory()) + QLatin1Char('/') + QLatin1String(name);
+}
+
+// The standard output of a tool of the build machine, as lines.
+QStringList outputOf(const QString &tool, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(tool, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0)
+        qFatal("%s failed: %s", qPrintable(tool), process.readAllStandardError().constData());
+    return QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+// The names in square brackets of the entries of a kind in the dynamic section.
+QStringList dynamicEntries(const QString &file, const char *kind)
+{
+    QStringList names;
+    const QStringList lines = outputOf("readelf", {"-d", "-W", file});
+    for (const QString &line : lines) {
+        if (line.contains(QLatin1Char('(') + QLatin1String(kind) + QLatin1Char(')')))
+            names.append(line.section(QLatin1Char('['), 1).section(QLatin1Char(']'), 0, 0));
+    }
+    return names;
+}
+
+// What the plug-in exports, without what only some compilers and build types write out: inline members of the classes
+// that are nested in the plug-in's own, such as destructors of records. They are weak, and a symbol of the plug-in's
+// own that is weak is a virtual operation, or a table of one of its classes.
+QStringList exportedNames()
+{
+    QStringList names;
+    const QStringList lines = outputOf("nm", {"-D", "-C", "--defined-only", builtFile("libkavcallmeter.so.1")});
+    for (const QString &line : lines) {
+        const QString kind = line.section(QLatin1Char(' '), 1, 1);
+        const QString name = line.section(QLatin1Char(' '), 2);
+        const bool isMemberOfNestedClass = name.section(QLatin1Char('('), 0, 0).count(QLatin1String("::")) > 1;
+        if (!(kind == QLatin1String("W") && isMemberOfNestedClass))
+            names.append(name);
+    }
+    names.removeDuplicates(); // constructors and destructors come in several kinds of one name
+    names.sort();
+    return names;
+}
+
+QStringList without(const QStringList &all, const QStringList &some)
+{
+    QStringList rest = all;
+    rest.removeIf([&](const QString &line) { return some.contains(line); });
+    return rest;
+}
+
+struct ProbeRun {
+    int exitCode = -1;
+    QString output;
+    QString error;
+};
+
+// Runs the probe with `libraryPath` as the linker's search path.
+ProbeRun probe(const QStringList &arguments, const QString &libraryPath)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LD_LIBRARY_PATH", libraryPath);
+    process.setProcessEnvironment(environment);
+    process.start(QCoreApplication::applicationDirPath() + "/phone_probe", arguments);
+    process.waitForFinished(60000);
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+}
+
+} // namespace
+
+class TestLibrary : public PhoneTest
+{
+    Q_OBJECT
+
+private slots:
+    void theLibraryCanBeUnloadedAndLoadedAgain(); // first: those after it leave the library loaded
+    void theLibraryLoadsByName();
+    void exportedNamesAreFound_data();
+    void exportedNamesAreFound();
+    void otherNamesAreNotFound_data();
+    void otherNamesAreNotFound();
+    void anotherLibraryNameDoesNotLoad();
+    void theLibraryCanBeLoadedTwice();
+    void theBareNameIsEnoughWhereTheLinkerLooks();
+    void aMissingLibraryIsToldAndNoCrash();
+
+    void theExportedSymbolsAreThoseOfTheList();
+    void everyLibraryHasItsOwnName_data();
+    void everyLibraryHasItsOwnName();
+    void thePluginNeedsThePhonesLibrariesByTheirNames_data();
+    void thePluginNeedsThePhonesLibrariesByTheirNames();
+    void thePluginDoesNotNeedTheTelephoneBehind();
+    void callsGoThroughTheDynamicLinker_data();
+    void callsGoThroughTheDynamicLinker();
+    void anotherTelephonyLibraryTakesThePlaceOfOurs();
+};
+
+// Whether the dynamic linker also takes it out of memory is the linker's business: the engine's library is bound to the
+// meta-object that the plug-in provides.
+void TestLibrary::theLibraryCanBeUnloadedAndLoadedAgain()
+{
+    for (int round = 0; round < 20; ++round) {
+        PluginLibrary plugin;
+        QVERIFY2(plugin.isLoaded(), qPrintable(plugin.error()));
+        const auto create =
+            plugin.function<PHONE_UI_RecentCallTimesView *(QWidget *, const char *)>("create_callTime");
+        const auto destroy = plugin.function<void(PHONE_UI_RecentCallTimesView *)>("destroy_callTime");
+        QVERIFY(create && destroy);
+        PHONE_UI_RecentCallTimesView *screen = create(nullptr, "callTime");
+        QCOMPARE(PhoneScreen::rows(screen).size(), 6);
+        destroy(screen);
+        QVERIFY2(plugin.unload(), qPrintable(plugin.error()));
+        QVERIFY(!plugin.isLoaded());
+    }
+}
+
+void TestLibrary::theLibraryLoadsByName()
+{
+    PluginLibrary plugin;
+    QVERIFY2(plugin.isLoaded(), qPrintable(plugin.error()));
+    QCOMPARE(QFileInfo(plugin.fileName()).fileName(), QString("libkavcallmeter.so.1"));
+}
+
+void TestLibrary::exportedNamesAreFound_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name : {"create_callTime", "destroy_callTime"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+void TestLibrary::exportedNamesAreFound()
+{
+    QFETCH(const QByteArray, name);
+    PluginLibrary plugin;
+    QVERIFY2(plugin.function<void()>(name.constData()), qPrintable(plugin.error()));
+}
+
+void TestLibrary::otherNamesAreNotFound_data()
+{
+    QTest::addColumn<QByteArray>("name");
+    for (const char *name : {"create_callTimes", "Create_callTime", "create_calltime", "create_", "newSoftKey",
+                             "_Z15create_callTimeP7QWidgetPKc"})
+        QTest::newRow(name) << QByteArray(name);
+}
+
+void TestLibrary::otherNamesAreNotFound()
+{
+    QFETCH(const QByteArray, name);
+    PluginLibrary plugin;
+    QVERIFY(plugin.isLoaded());
+    QVERIFY(!plugin.function<void()>(name.constData()));
+}
+
+void TestLibrary::anotherLibraryNameDoesNotLoad()
+{
+    QLibrary library(builtFile("kavcallmetre"), 1);
+    QVERIFY(!library.load());
+    QVERIFY(!library.errorString().isEmpty());
+    QLibrary version(builtFile("kavcallmeter"), 2);
+    QVERIFY(!version.load());
+}
+
+void TestLibrary::theLibraryCanBeLoadedTwice()
+{
+    PluginLibrary first;
+    PluginLibrary second;
+    QVERIFY(first.isLoaded() && second.isLoaded());
+    QVERIFY(first.function<void()>("create_callTime") == second.function<void()>("create_callTime"));
+}
+
+void TestLibrary::theBareNameIsEnoughWhereTheLinkerLooks()
+{
+    const ProbeRun run = probe({"rows", "libkavcallmeter.so.1"}, QDir::cleanPath(libraryDirectory()));
+    QVERIFY2(run.exitCode == 0, qPrintable(run.error));
+    QVERIFY2(run.output.contains("Last Call|01:02:03\n"), qPrintable(run.output));
+}
+
+void TestLibrary::aMissingLibraryIsToldAndNoCrash()
+{
+    const ProbeRun missing = probe({"rows", "libkavcallmetre.so.1"}, QDir::cleanPath(libraryDirectory()));
+    QCOMPARE(missing.exitCode, 2);
+    QVERIFY2(missing.error.contains("libkavcallmetre.so.1"), qPrintable(missing.error));
+    const ProbeRun other = probe({"rows", builtFile("libkavqt.so.1")}, QString());
+    QCOMPARE(other.exitCode, 2);
+    QVERIFY2(other.error.contains("create_callTime"), qPrintable(other.error));
+}
+
+void TestLibrary::theExportedSymbolsAreThoseOfTheList()
+{
+    QFile file(QStringLiteral(KAV_EXPORTED_SYMBOLS));
+    QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(file.fileName()));
+    QStringList listed = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    listed.removeIf([](const QString &line) { return line.startsWith(QLatin1Char('#')); });
+    QStringList sorted = listed;
+    sorted.sort();
+    COMPARE_LINES(listed, sorted);
+    const QStringList exported = exportedNames();
+    const QString difference =
+        QStringLiteral("\nexported but not in the list:\n  ") + without(exported, listed).join("\n  ") +
+        QStringLiteral("\nin the list but not exported:\n  ") + without(listed, exported).join("\n  ");
+    QVERIFY2(exported == listed, qPrintable(difference));
+}
+
+void TestLibrary::everyLibraryHasItsOwnName_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"libkavcallmeter.so.1", "libkavappbase.so.1", "libkavtapi-xscale-r.so",
+                             "libkavphone.so.1", "libaplog.so.1.0.0", "libkavcallsetupengine.so.1"})
+        QTest::newRow(name) << QString(name);
+}
+
+void TestLibrary::everyLibraryHasItsOwnName()
+{
+    QFETCH(const QString, name);
+    COMPARE_LINES(dynamicEntries(builtFile(name.toLatin1()), "SONAME"), QStringList(name));
+}
+
+void TestLibrary::thePluginNeedsThePhonesLibrariesByTheirNames_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"libkavappbase.so.1", "libkavtapi-xscale-r.so", "libkavphone.so.1",
+                             "libaplog.so.1.0.0", "libkavcallsetupengine.so.1"})
+        QTest::newRow(name) << QString(name);
+}
+
+void TestLibrary::thePluginNeedsThePhonesLibrariesByTheirNames()
+{
+    QFETCH(const QString, name);
+    const QStringList needed = dynamicEntries(builtFile("libkavcallmeter.so.1"), "NEEDED");
+    QVERIFY2(needed.contains(name), qPrintable(needed.join('\n')));
+}
+
+void TestLibrary::thePluginDoesNotNeedTheTelephoneBehind()
+{
+    const QStringList needed = dynamicEntries(builtFile("libkavcallmeter.so.1"), "NEEDED");
+    QCOMPARE(needed.filter("handset"), QStringList());
+    QCOMPARE(needed.filter("Sql"), QStringList());
+}
+
+void TestLibrary::callsGoThroughTheDynamicLinker_data()
+{
+    everyLibraryHasItsOwnName_data();
+}
+
+void TestLibrary::callsGoThroughTheDynamicLinker()
+{
+    QFETCH(const QString, name);
+    const QStringList lines = outputOf("readelf", {"-d", "-W", builtFile(name.toLatin1())});
+    QVERIFY(!lines.filter("(SONAME)").isEmpty());
+    QCOMPARE(lines.filter("SYMBOLIC"), QStringList());
+}
+
+void TestLibrary::anotherTelephonyLibraryTakesThePlaceOfOurs()
+{
+    const QString doubles = QCoreApplication::applicationDirPath() + "/doubles";
+    QVERIFY(QFile::exists(doubles + "/libkavtapi-xscale-r.so"));
+    const ProbeRun run = probe({"rows"}, doubles);
+    QVERIFY2(run.exitCode == 0, qPrintable(run.error));
+    COMPARE_LINES(
+        run.output.trimmed().split('\n'),
+        QStringList({"title: Call Times", "Last Call|42:42:42", "Dialed Calls|42:42:42", "Answered Calls|42:42:42",
+                     "Data Calls|00:00:42", "All Calls|42:42:42", "Lifetime Calls|42:42:42", "softkeys: |Back"}));
+}
+
+KAV_TEST_MAIN(TestLibrary)
+#include "tst_library.moc"
