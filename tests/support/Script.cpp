@@ -27,7 +27,8 @@ const Script::Step &Script::begin(const char *operation, const QString &argument
     Step &step = known(operation);
     const QString name = QString::fromLatin1(operation);
     Journal::shared().record(arguments.isNull() ? name : name + QLatin1Char('(') + arguments + QLatin1Char(')'));
-    if (step.effect)
-        step.effect();
+    const std::function<void()> effect = step.effect; // which may script this very operation anew
+    if (effect)
+        effect();
     return step;
 }

@@ -1,0 +1,320 @@
+// Who may include whom: the rules as a table, and every source file held against them.
+#include "PhoneTest.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QDirIterator>
+#include <QtCore/QFile>
+#include <QtCore/QMap>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
+
+namespace {
+
+// Folders, separated by blanks. One that ends with "/" stands for all below it too.
+struct Rule {
+    const char *folder; ///< and all below it that has no rule of its own; may be a single file
+    const char *mayInclude;
+    const char *because;
+};
+constexpr Rule rules[] = {
+    {"utility/",
+     "utility/ platform/qt platform/log platform/toolkit platform/telephony platform/callsetup platform/message "
+     "platform/security",
+     "the plug-in knows the phone's libraries, never the telephone behind them"},
+    {"platform/log/", "platform/log", "the log is a leaf"},
+    {"platform/qt/", "platform/qt/", "names over the installed Qt, nothing of the phone"},
+    {"platform/toolkit/", "platform/toolkit/ platform/qt", "widgets know no telephony"},
+    {"platform/telephony/", "platform/telephony/ platform/handset", "a shim over the telephone's interfaces"},
+    {"platform/callsetup/", "platform/callsetup/ platform/handset platform/qt", "a shim, and a Qt object"},
+    {"platform/message/", "platform/message/ platform/handset platform/qt", "a shim, and a Qt object"},
+    {"platform/security/", "platform/security/ platform/handset platform/qt platform/toolkit",
+     "a shim that asks the user for a PIN"},
+    {"platform/handset/", "platform/handset", "interfaces know no backend"},
+    {"platform/handset/Handset.cpp", "platform/handset platform/handset/simulated platform/handset/ofono",
+     "the factory alone knows every backend"},
+    {"platform/handset/calllog/", "platform/handset/calllog/ platform/handset", "a store knows no backend"},
+    {"platform/handset/simulated/", "platform/handset/simulated/ platform/handset/calllog platform/handset",
+     "a backend knows no other"},
+    {"platform/handset/ofono/", "platform/handset/ofono/ platform/handset/calllog platform/handset",
+     "a backend knows no other"},
+    {"host/", "host/ platform/", "the host reaches the plug-in by its exported names only"},
+    {"bench/", "bench/ host/ utility/ platform/", "a benchmark is no test"},
+    {"tests/", "tests/ bench/ host/ utility/ platform/", "tests see everything"},
+};
+
+// Modules of Qt that only some may use.
+struct ModuleRule {
+    const char *module;
+    const char *users;
+    const char *because;
+};
+constexpr ModuleRule moduleRules[] = {
+    {"QtSql", "platform/handset/calllog/ tests/ bench/", "the call log is the one database"},
+    {"QtDBus", "platform/qt/qcop platform/handset/ofono/ tests/ bench/", "channels and the live telephone"},
+    {"QtTest", "tests/", "product code has no tests in it"},
+};
+
+// Path from the root of the project, and what stands in the file.
+using Tree = QMap<QString, QString>;
+
+QString folderOf(const QString &file)
+{
+    return file.section(QLatin1Char('/'), 0, -2);
+}
+
+bool isIn(const QString &folder, const QString &place)
+{
+    return place.endsWith(QLatin1Char('/')) ? (folder + QLatin1Char('/')).startsWith(place) : folder == place;
+}
+
+bool isInAny(const QString &folder, const char *places)
+{
+    const QStringList list = QString::fromLatin1(places).split(QLatin1Char(' '));
+    return std::any_of(list.begin(), list.end(), [&](const QString &place) { return isIn(folder, place); });
+}
+
+const Rule *ruleFor(const QString &file)
+{
+    const Rule *best = nullptr;
+    for (const Rule &rule : rules) {
+        const QString place = QLatin1String(rule.folder);
+        const bool applies = file == place || (place.endsWith(QLatin1Char('/')) && isIn(folderOf(file), place));
+        if (applies && (!best || qstrlen(rule.folder) > qstrlen(best->folder)))
+            best = &rule;
+    }
+    return best;
+}
+
+QStringList includesOf(const QString &content)
+{
+    static const QRegularExpression include(QStringLiteral("^\\s*#\\s*include\\s*[<\"]([^>\"]+)[>\"]"),
+                                            QRegularExpression::MultilineOption);
+    QStringList names;
+    for (const auto &match : include.globalMatch(content))
+        names.append(match.captured(1));
+    return names;
+}
+
+// The file of the project that `name` in `file` means: in the same folder, else in the same part, else anywhere.
+// Null for what is not the project's.
+QString resolved(const Tree &tree, const QString &file, const QString &name)
+{
+    const QString sibling = QDir::cleanPath(folderOf(file) + QLatin1Char('/') + name);
+    if (tree.contains(sibling))
+        return sibling;
+    const QString part = file.section(QLatin1Char('/'), 0, 0) + QLatin1Char('/');
+    QString found;
+    for (auto it = tree.keyBegin(); it != tree.keyEnd(); ++it) {
+        if (it->endsWith(QLatin1Char('/') + name) && (found.isNull() || it->startsWith(part)))
+            found = *it;
+    }
+    return found;
+}
+
+QStringList moduleViolations(const QString &file, const QString &name)
+{
+    QStringList violations;
+    for (const ModuleRule &rule : moduleRules) {
+        if (name.section(QLatin1Char('/'), 0, 0) == QLatin1String(rule.module) &&
+            !isInAny(folderOf(file), rule.users))
+            violations.append(QStringLiteral("%1 includes <%2>: %3").arg(file, name, QLatin1String(rule.because)));
+    }
+    return violations;
+}
+
+QStringList violationsOf(const Tree &tree, const QString &file)
+{
+    const Rule *rule = ruleFor(file);
+    if (!rule)
+        return {QStringLiteral("%1: no rule says what it may include").arg(file)};
+    QStringList violations;
+    const QStringList names = includesOf(tree.value(file));
+    for (const QString &name : names) {
+        violations += moduleViolations(file, name);
+        const QString target = resolved(tree, file, name);
+        if (!target.isNull() && folderOf(target) != folderOf(file) && !isInAny(folderOf(target), rule->mayInclude))
+            violations.append(
+                QStringLiteral("%1 includes %2: %3").arg(file, target, QLatin1String(rule->because)));
+    }
+    return violations;
+}
+
+// Through what the plug-in includes it must not reach the telephone either.
+QStringList pluginReaches(const Tree &tree, const char *place)
+{
+    QStringList ways;
+    QStringList open;
+    QSet<QString> seen;
+    for (auto it = tree.keyBegin(); it != tree.keyEnd(); ++it) {
+        if (it->startsWith(QLatin1String("utility/")))
+            open.append(*it);
+    }
+    while (!open.isEmpty()) {
+        const QString file = open.takeFirst();
+        const QStringList names = includesOf(tree.value(file));
+        for (const QString &name : names) {
+            const QString target = resolved(tree, file, name);
+            if (target.isNull() || seen.contains(target))
+                continue;
+            seen.insert(target);
+            open.append(target);
+            if (target.startsWith(QLatin1String(place)))
+                ways.append(QStringLiteral("utility reaches %1 through %2").arg(target, file));
+        }
+    }
+    return ways;
+}
+
+QStringList allViolations(const Tree &tree)
+{
+    QStringList violations = pluginReaches(tree, "platform/handset/");
+    for (auto it = tree.keyBegin(); it != tree.keyEnd(); ++it)
+        violations += violationsOf(tree, *it);
+    violations.sort();
+    return violations;
+}
+
+bool isGenerated(const QString &folder)
+{
+    return QFile::exists(folder + QLatin1String("/CMakeCache.txt"));
+}
+
+void readInto(Tree &tree, const QDir &root, const QString &folder)
+{
+    const QDir here(root.filePath(folder));
+    const QFileInfoList entries = here.entryInfoList({"*.h", "*.cpp", "*.cc", "*.hpp"}, QDir::Files);
+    for (const QFileInfo &entry : entries) {
+        QFile file(entry.filePath());
+        if (file.open(QIODevice::ReadOnly))
+            tree.insert(root.relativeFilePath(entry.filePath()), QString::fromUtf8(file.readAll()));
+    }
+    const QFileInfoList folders = here.entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QFileInfo &entry : folders) {
+        if (!isGenerated(entry.filePath()) && entry.fileName() != QLatin1String("build"))
+            readInto(tree, root, root.relativeFilePath(entry.filePath()));
+    }
+}
+
+// A small project that keeps every rule.
+Tree soundTree()
+{
+    return {
+        {"utility/Screen.h", "#include \"ZListBox.h\"\n"},
+        {"utility/Screen.cpp", "#include \"Screen.h\"\n#include \"tapi.h\"\n#include <QtCore/QString>\n"},
+        {"platform/qt/classname.h", ""},
+        {"platform/qt/qcop/Bus.cpp", "#include <QtDBus/QDBusConnection>\n"},
+        {"platform/log/aplog.h", ""},
+        {"platform/toolkit/ZListBox.h", "#include \"classname.h\"\n"},
+        {"platform/telephony/tapi.h", ""},
+        {"platform/telephony/tapi.cpp", "#include \"tapi.h\"\n#include \"Handset.h\"\n"},
+        {"platform/handset/Handset.h", ""},
+        {"platform/handset/Handset.cpp", "#include \"Handset.h\"\n#include \"Simulated.h\"\n"},
+        {"platform/handset/calllog/Store.h", "#include <QtSql/QSqlQuery>\n"},
+        {"platform/handset/simulated/Simulated.h", "#include \"Store.h\"\n#include \"Handset.h\"\n"},
+        {"platform/handset/ofono/Ofono.h", "#include \"Handset.h\"\n"},
+        {"host/Window.cpp", "#include \"ZListBox.h\"\n#include \"Simulated.h\"\n"},
+        {"bench/Bench.cpp", "#include \"Screen.h\"\n"},
+        {"tests/support/Fixture.h", "#include \"Handset.h\"\n"},
+        {"tests/utility/tst.cpp", "#include \"Fixture.h\"\n#include \"Screen.h\"\n#include <QtTest/QTest>\n"},
+    };
+}
+
+} // namespace
+
+class TestIncludes : public PhoneTest
+{
+    Q_OBJECT
+
+private slots:
+    void everyFileKeepsTheRules();
+    void everyPartOfTheProjectIsLookedAt();
+    void aSoundProjectHasNoViolation();
+    void aViolationIsFound_data();
+    void aViolationIsFound();
+};
+
+void TestIncludes::everyFileKeepsTheRules()
+{
+    Tree tree;
+    readInto(tree, QDir(QStringLiteral(KAV_SOURCE_DIR)), QString());
+    COMPARE_LINES(allViolations(tree), QStringList());
+}
+
+void TestIncludes::everyPartOfTheProjectIsLookedAt()
+{
+    Tree tree;
+    readInto(tree, QDir(QStringLiteral(KAV_SOURCE_DIR)), QString());
+    for (const char *file : {"utility/PHONE_UI_RecentCallMeter.cpp", "platform/handset/Handset.cpp",
+                             "platform/toolkit/ZListBox.cpp", "tests/utility/tst_includes.cpp"})
+        QVERIFY2(tree.contains(QLatin1String(file)), file);
+    QCOMPARE(resolved(tree, "utility/PHONE_UI_RecentCallMeter.cpp", "tapi.h"),
+             QString("platform/telephony/tapi.h"));
+    QCOMPARE(resolved(tree, "utility/PHONE_UI_RecentCallMeter.cpp", "QtCore/QString"), QString());
+}
+
+void TestIncludes::aSoundProjectHasNoViolation()
+{
+    COMPARE_LINES(allViolations(soundTree()), QStringList());
+}
+
+void TestIncludes::aViolationIsFound_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("content");
+    QTest::addColumn<QString>("violation"); // the beginning of it
+    const auto row = [](const char *name, const char *file, const char *content, const char *violation) {
+        QTest::newRow(name) << QString(file) << QString(content) << QString(violation);
+    };
+    row("the plug-in includes the telephone", "utility/New.cpp", "#include \"Handset.h\"\n",
+        "utility/New.cpp includes platform/handset/Handset.h");
+    row("in angle brackets", "utility/New.cpp", "#include <Handset.h>\n",
+        "utility/New.cpp includes platform/handset/Handset.h");
+    row("with blanks", "utility/New.cpp", "  #  include   \"Handset.h\"\n",
+        "utility/New.cpp includes platform/handset/Handset.h");
+    row("by a path", "utility/New.cpp", "#include \"../platform/handset/Handset.h\"\n",
+        "utility/New.cpp includes platform/handset/Handset.h");
+    row("the plug-in reaches the telephone through a shim", "platform/telephony/tapi.h",
+        "#include \"Handset.h\"\n",
+        "utility reaches platform/handset/Handset.h through platform/telephony/tapi.h");
+    row("the plug-in includes a test", "utility/New.cpp", "#include \"Fixture.h\"\n",
+        "utility/New.cpp includes tests/support/Fixture.h");
+    row("the toolkit includes telephony", "platform/toolkit/New.h", "#include \"tapi.h\"\n",
+        "platform/toolkit/New.h includes platform/telephony/tapi.h");
+    row("the log includes anything", "platform/log/New.h", "#include \"classname.h\"\n",
+        "platform/log/New.h includes platform/qt/classname.h");
+    row("the Qt names include the toolkit", "platform/qt/New.h", "#include \"ZListBox.h\"\n",
+        "platform/qt/New.h includes platform/toolkit/ZListBox.h");
+    row("a shim includes a backend", "platform/telephony/New.cpp", "#include \"Simulated.h\"\n",
+        "platform/telephony/New.cpp includes platform/handset/simulated/Simulated.h");
+    row("a shim asks a database", "platform/telephony/New.cpp", "#include <QtSql/QSqlQuery>\n",
+        "platform/telephony/New.cpp includes <QtSql/QSqlQuery>");
+    row("a shim speaks D-Bus", "platform/message/New.cpp", "#include <QtDBus/QDBusConnection>\n",
+        "platform/message/New.cpp includes <QtDBus/QDBusConnection>");
+    row("an interface includes a backend", "platform/handset/New.h", "#include \"Simulated.h\"\n",
+        "platform/handset/New.h includes platform/handset/simulated/Simulated.h");
+    row("a backend includes the other", "platform/handset/simulated/New.cpp", "#include \"Ofono.h\"\n",
+        "platform/handset/simulated/New.cpp includes platform/handset/ofono/Ofono.h");
+    row("the call log includes a backend", "platform/handset/calllog/New.cpp", "#include \"Simulated.h\"\n",
+        "platform/handset/calllog/New.cpp includes platform/handset/simulated/Simulated.h");
+    row("the host includes the plug-in", "host/New.cpp", "#include \"Screen.h\"\n",
+        "host/New.cpp includes utility/Screen.h");
+    row("the host includes a test", "host/New.cpp", "#include \"Fixture.h\"\n",
+        "host/New.cpp includes tests/support/Fixture.h");
+    row("product code is a test", "host/New.cpp", "#include <QtTest/QTest>\n",
+        "host/New.cpp includes <QtTest/QTest>");
+    row("a folder without a rule", "recorder/New.cpp", "", "recorder/New.cpp: no rule");
+}
+
+void TestIncludes::aViolationIsFound()
+{
+    QFETCH(const QString, file);
+    QFETCH(const QString, content);
+    QFETCH(const QString, violation);
+    Tree tree = soundTree();
+    tree.insert(file, content);
+    const QStringList found = allViolations(tree);
+    QVERIFY2(!found.filter(violation).isEmpty(), qPrintable("found only: " + found.join('\n')));
+}
+
+KAV_TEST_MAIN(TestIncludes)
+#include "tst_includes.moc"
