@@ -1,0 +1,446 @@
+// PIN2: tries, PUK, and what is kept of the digits.
+#include "Pin2.h"
+#include "Wipe.h"
+
+#include <QtCore/QRandomGenerator>
+#include <QtTest/QTest>
+
+using namespace handset;
+using namespace handset::sim;
+
+namespace {
+
+constexpr auto entryNeeded = SimSecurity::EntryNeeded;
+constexpr auto blocked = SimSecurity::Blocked;
+constexpr auto noEntryNeeded = SimSecurity::NoEntryNeeded;
+
+QByteArray bytes(const Sha256 &hash)
+{
+    return {hash.data(), static_cast<qsizetype>(hash.size())};
+}
+
+} // namespace
+
+class Pin2Test : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        pin = Pin2("2580", "87654321");
+    }
+
+    void a_new_pin_has_to_be_entered();
+    void the_right_pin_counts_until_power_off();
+    void a_wrong_pin_costs_a_try();
+    void the_third_wrong_pin_blocks();
+    void a_blocked_pin_does_not_take_the_right_one_either();
+    void the_right_pin_gives_the_tries_back();
+    void a_wrong_pin_takes_back_what_a_right_one_allowed();
+    void power_off_does_not_give_tries_back();
+    void what_is_no_pin_costs_nothing_data();
+    void what_is_no_pin_costs_nothing();
+    void pins_of_four_to_eight_digits_are_taken_data();
+    void pins_of_four_to_eight_digits_are_taken();
+    void a_pin_that_is_off_guards_nothing();
+    void a_pin_that_is_off_is_still_blocked_by_wrong_tries();
+    void the_puk_sets_a_new_pin_and_gives_all_tries_back();
+    void the_puk_works_without_a_blocked_pin();
+    void ten_wrong_puks_block_for_good();
+    void what_is_no_puk_costs_nothing_data();
+    void what_is_no_puk_costs_nothing();
+    void a_wrong_puk_leaves_the_pin_alone();
+    void the_tries_survive_storing_and_the_entry_does_not();
+    void every_order_of_tries_counts_as_the_rules_say();
+    void the_hash_is_the_standards_data();
+    void the_hash_is_the_standards();
+    void the_same_digits_are_never_kept_alike();
+    void a_wiped_buffer_holds_no_digit();
+    void a_wiped_buffer_holds_no_digit_that_was_deleted();
+    void wiping_leaves_what_others_share_alone();
+    void wiping_takes_a_literal_and_nothing();
+
+private:
+    // 1 accepted, 0 not, minus the status on failure.
+    int enter(const QByteArray &digits)
+    {
+        bool accepted = false;
+        const int status = pin.verify(digits, accepted);
+        return status == Success ? int(accepted) : -status;
+    }
+    int enterPuk(const QByteArray &puk, const QByteArray &newPin)
+    {
+        bool accepted = false;
+        const int status = pin.unblock(puk, newPin, accepted);
+        return status == Success ? int(accepted) : -status;
+    }
+
+    Pin2 pin{Pin2Record{}};
+};
+
+void Pin2Test::a_new_pin_has_to_be_entered()
+{
+    QCOMPARE(pin.status(), entryNeeded);
+    QCOMPARE(pin.triesLeft(), 3);
+    QCOMPARE(pin.pukTriesLeft(), 10);
+    QVERIFY(pin.isEnabled());
+    QVERIFY(!pin.isVerified());
+    QVERIFY(!pin.isSatisfied());
+}
+
+void Pin2Test::the_right_pin_counts_until_power_off()
+{
+    QCOMPARE(enter("2580"), 1);
+    QCOMPARE(pin.status(), noEntryNeeded);
+    QVERIFY(pin.isVerified());
+    pin.powerOff();
+    QCOMPARE(pin.status(), entryNeeded);
+    QVERIFY(!pin.isVerified());
+}
+
+void Pin2Test::a_wrong_pin_costs_a_try()
+{
+    QCOMPARE(enter("2581"), 0);
+    QCOMPARE(pin.triesLeft(), 2);
+    QCOMPARE(pin.status(), entryNeeded);
+    // Not a part of the right one, either
+    QCOMPARE(enter("25800"), 0);
+    QCOMPARE(pin.triesLeft(), 1);
+}
+
+void Pin2Test::the_third_wrong_pin_blocks()
+{
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(enter("0000"), 0);
+    QCOMPARE(pin.triesLeft(), 0);
+    QCOMPARE(pin.status(), blocked);
+    QCOMPARE(pin.pukTriesLeft(), 10);
+}
+
+void Pin2Test::a_blocked_pin_does_not_take_the_right_one_either()
+{
+    for (int i = 0; i < 3; ++i)
+        enter("0000");
+    bool accepted = true;
+    QCOMPARE(pin.verify("2580", accepted), int(NotAllowed));
+    QVERIFY(accepted); // not written
+    QCOMPARE(pin.status(), blocked);
+}
+
+void Pin2Test::the_right_pin_gives_the_tries_back()
+{
+    enter("0000");
+    enter("0000");
+    QCOMPARE(pin.triesLeft(), 1);
+    QCOMPARE(enter("2580"), 1);
+    QCOMPARE(pin.triesLeft(), 3);
+}
+
+void Pin2Test::a_wrong_pin_takes_back_what_a_right_one_allowed()
+{
+    QCOMPARE(enter("2580"), 1);
+    QCOMPARE(enter("0000"), 0);
+    QCOMPARE(pin.status(), entryNeeded);
+    enter("2580");
+    for (int i = 0; i < 3; ++i)
+        enter("0000");
+    QCOMPARE(pin.status(), blocked);
+}
+
+void Pin2Test::power_off_does_not_give_tries_back()
+{
+    enter("0000");
+    pin.powerOff();
+    QCOMPARE(pin.triesLeft(), 2);
+}
+
+void Pin2Test::what_is_no_pin_costs_nothing_data()
+{
+    QTest::addColumn<QByteArray>("digits");
+
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("three digits") << QByteArray("258");
+    QTest::newRow("nine digits") << QByteArray("258025802");
+    QTest::newRow("a letter") << QByteArray("258a");
+    QTest::newRow("a blank") << QByteArray("2580 ");
+    QTest::newRow("a NUL") << QByteArray("2580\0", 5);
+    QTest::newRow("a byte with the high bit") << QByteArray("258\xB0");
+    QTest::newRow("very many digits") << QByteArray(100'000, '1');
+}
+
+void Pin2Test::what_is_no_pin_costs_nothing()
+{
+    QFETCH(QByteArray, digits);
+    const Pin2Record before = pin.record();
+    bool accepted = true;
+    QCOMPARE(pin.verify(digits, accepted), int(InvalidArgument));
+    QVERIFY(accepted); // not written
+    QCOMPARE(pin.record(), before);
+}
+
+void Pin2Test::pins_of_four_to_eight_digits_are_taken_data()
+{
+    QTest::addColumn<QByteArray>("digits");
+
+    QTest::newRow("four") << QByteArray("0000");
+    QTest::newRow("five") << QByteArray("00000");
+    QTest::newRow("seven") << QByteArray("1234567");
+    QTest::newRow("eight") << QByteArray("99999999");
+}
+
+void Pin2Test::pins_of_four_to_eight_digits_are_taken()
+{
+    QFETCH(QByteArray, digits);
+    QCOMPARE(enterPuk("87654321", digits), 1);
+    pin.powerOff();
+    QCOMPARE(enter(digits), 1);
+    QCOMPARE(enter("2580"), 0);
+}
+
+void Pin2Test::a_pin_that_is_off_guards_nothing()
+{
+    pin.setEnabled(false);
+    QCOMPARE(pin.status(), noEntryNeeded);
+    QVERIFY(pin.isSatisfied());
+    QVERIFY(!pin.isVerified());
+    pin.setEnabled(true);
+    QCOMPARE(pin.status(), entryNeeded);
+}
+
+void Pin2Test::a_pin_that_is_off_is_still_blocked_by_wrong_tries()
+{
+    pin.setEnabled(false);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(enter("0000"), 0);
+    QCOMPARE(pin.status(), noEntryNeeded);
+    QCOMPARE(enter("2580"), -NotAllowed);
+    pin.setEnabled(true);
+    QCOMPARE(pin.status(), blocked);
+}
+
+void Pin2Test::the_puk_sets_a_new_pin_and_gives_all_tries_back()
+{
+    for (int i = 0; i < 3; ++i)
+        enter("0000");
+    pin.setEnabled(false);
+    QCOMPARE(enterPuk("00000000", "1111"), 0);
+    QCOMPARE(pin.pukTriesLeft(), 9);
+    QCOMPARE(enterPuk("87654321", "1111"), 1);
+    QCOMPARE(pin.triesLeft(), 3);
+    QCOMPARE(pin.pukTriesLeft(), 10);
+    QVERIFY(pin.isEnabled());
+    QVERIFY(pin.isVerified());
+    pin.powerOff();
+    QCOMPARE(pin.status(), entryNeeded);
+    QCOMPARE(enter("2580"), 0);
+    QCOMPARE(enter("1111"), 1);
+}
+
+void Pin2Test::the_puk_works_without_a_blocked_pin()
+{
+    QCOMPARE(enterPuk("87654321", "1111"), 1);
+    QCOMPARE(enter("1111"), 1);
+    QCOMPARE(enterPuk("87654321", "2222"), 1);
+    QCOMPARE(enter("2222"), 1);
+}
+
+void Pin2Test::ten_wrong_puks_block_for_good()
+{
+    for (int i = 0; i < 3; ++i)
+        enter("0000");
+    for (int left = 9; left >= 0; --left) {
+        QCOMPARE(enterPuk("00000000", "1111"), 0);
+        QCOMPARE(pin.pukTriesLeft(), left);
+    }
+    QCOMPARE(enterPuk("87654321", "1111"), -NotAllowed);
+    QCOMPARE(enter("2580"), -NotAllowed);
+    QCOMPARE(pin.status(), blocked);
+}
+
+void Pin2Test::what_is_no_puk_costs_nothing_data()
+{
+    QTest::addColumn<QByteArray>("puk");
+    QTest::addColumn<QByteArray>("newPin");
+
+    QTest::newRow("seven digits") << QByteArray("8765432") << QByteArray("1111");
+    QTest::newRow("nine digits") << QByteArray("876543210") << QByteArray("1111");
+    QTest::newRow("a letter") << QByteArray("8765432x") << QByteArray("1111");
+    QTest::newRow("no new PIN") << QByteArray("87654321") << QByteArray();
+    QTest::newRow("a new PIN of three digits") << QByteArray("87654321") << QByteArray("111");
+    QTest::newRow("a new PIN of nine digits") << QByteArray("87654321") << QByteArray("111111111");
+}
+
+void Pin2Test::what_is_no_puk_costs_nothing()
+{
+    QFETCH(QByteArray, puk);
+    QFETCH(QByteArray, newPin);
+    const Pin2Record before = pin.record();
+    QCOMPARE(enterPuk(puk, newPin), -InvalidArgument);
+    QCOMPARE(pin.record(), before);
+    QVERIFY(!pin.isVerified());
+}
+
+void Pin2Test::a_wrong_puk_leaves_the_pin_alone()
+{
+    QCOMPARE(enter("2580"), 1);
+    QCOMPARE(enterPuk("00000000", "1111"), 0);
+    QVERIFY(pin.isVerified());
+    QCOMPARE(pin.triesLeft(), 3);
+    QCOMPARE(enter("2580"), 1);
+    // A right PIN does not give the PUK's tries back.
+    QCOMPARE(pin.pukTriesLeft(), 9);
+}
+
+void Pin2Test::the_tries_survive_storing_and_the_entry_does_not()
+{
+    enter("0000");
+    enterPuk("00000000", "1111");
+    Pin2 again(pin.record());
+    QCOMPARE(again.triesLeft(), 2);
+    QCOMPARE(again.pukTriesLeft(), 9);
+    enter("2580");
+    QVERIFY(pin.isVerified());
+    QVERIFY(!Pin2(pin.record()).isVerified());
+}
+
+void Pin2Test::every_order_of_tries_counts_as_the_rules_say()
+{
+    QRandomGenerator random(93);
+    const QByteArray pins[] = {"2580", "1111", "22222222"};
+    QByteArray right = pins[0];
+    int tries = 3;
+    int pukTries = 10;
+    bool verified = false;
+    for (int step = 0; step < 1'000; ++step) {
+        const QByteArray &digits = pins[random.bounded(3)];
+        switch (random.bounded(8)) {
+        case 0:
+            pin.powerOff();
+            verified = false;
+            break;
+        case 1: {
+            const bool rightPuk = random.bounded(2) == 0;
+            const int expected = pukTries == 0 ? -NotAllowed : int(rightPuk);
+            QCOMPARE(enterPuk(rightPuk ? "87654321" : "87654322", digits), expected);
+            if (expected == 1) {
+                right = digits;
+                tries = 3;
+                pukTries = 10;
+                verified = true;
+            } else if (expected == 0) {
+                --pukTries;
+            }
+            break;
+        }
+        default: {
+            const int expected = tries == 0 ? -NotAllowed : int(digits == right);
+            QCOMPARE(enter(digits), expected);
+            if (expected >= 0) {
+                verified = expected == 1;
+                tries = verified ? 3 : tries - 1;
+            }
+        }
+        }
+        QCOMPARE(pin.triesLeft(), tries);
+        QCOMPARE(pin.pukTriesLeft(), pukTries);
+        QCOMPARE(pin.isVerified(), verified);
+        QCOMPARE(pin.status(), verified ? noEntryNeeded : tries == 0 ? blocked : entryNeeded);
+    }
+}
+
+void Pin2Test::the_hash_is_the_standards_data()
+{
+    QTest::addColumn<QByteArray>("password");
+    QTest::addColumn<QByteArray>("salt");
+    QTest::addColumn<int>("iterations");
+    QTest::addColumn<QByteArray>("hash");
+
+    // RFC 7914, 11; the first 32 of 64 bytes.
+    QTest::newRow("once") << QByteArray("passwd") << QByteArray("salt") << 1
+                          << QByteArray("55ac046e56e3089fec1691c22544b605f94185216dde0465e68b9d57c20dacbc");
+    QTest::newRow("eighty thousand times")
+        << QByteArray("Password") << QByteArray("NaCl") << 80'000
+        << QByteArray("4ddcd8f60b98be21830cee5ef22701f9641a4418d04c0414aeff08876b34ab56");
+    QTest::newRow("a password as long as a block")
+        << QByteArray(64, 'x') << QByteArray("salt") << 2
+        << QByteArray("dd8fa7b308feaa9333ea55e991da1d5c56a362ad7223189930e314c831c53427");
+}
+
+void Pin2Test::the_hash_is_the_standards()
+{
+    QFETCH(QByteArray, password);
+    QFETCH(QByteArray, salt);
+    QFETCH(int, iterations);
+    QTEST(bytes(pbkdf2Sha256(password, salt, iterations)).toHex(), "hash");
+}
+
+void Pin2Test::the_same_digits_are_never_kept_alike()
+{
+    const CodeHash one = CodeHash::of("2580");
+    const CodeHash other = CodeHash::of("2580");
+    QVERIFY(one.salt != other.salt);
+    QVERIFY(one.hash != other.hash);
+    QVERIFY(one.matches("2580"));
+    QVERIFY(other.matches("2580"));
+    QVERIFY(!one.matches("2581"));
+    QVERIFY(!one.matches(""));
+}
+
+void Pin2Test::a_wiped_buffer_holds_no_digit()
+{
+    QByteArray digits;
+    digits.append("25802580");
+    const char *const buffer = digits.constData();
+    const auto size = static_cast<std::size_t>(digits.capacity());
+    wipe(digits);
+    QVERIFY(digits.isEmpty());
+    QCOMPARE(digits.constData(), buffer); // still alive, so it can be looked at
+    QVERIFY(std::all_of(buffer, buffer + size, [](char c) { return c == 0; }));
+}
+
+void Pin2Test::a_wiped_buffer_holds_no_digit_that_was_deleted()
+{
+    QByteArray digits;
+    digits.reserve(64);
+    digits.append("12345678");
+    digits.remove(0, 2);
+    digits.chop(3);
+    digits.prepend('9');
+    QCOMPARE(digits, QByteArray("9345"));
+    const auto &buffer = digits.data_ptr();
+    const char *const begin = buffer.data() - buffer.freeSpaceAtBegin();
+    const char *const end = begin + buffer.constAllocatedCapacity();
+    QVERIFY(std::find(begin, end, '7') != end);
+    wipe(digits);
+    QVERIFY(digits.isEmpty());
+    QCOMPARE(buffer.data() - buffer.freeSpaceAtBegin(), begin);
+    QVERIFY(std::all_of(begin, end, [](char c) { return c == 0; }));
+}
+
+void Pin2Test::wiping_leaves_what_others_share_alone()
+{
+    QByteArray digits("2580");
+    const QByteArray other = digits;
+    wipe(digits);
+    QVERIFY(digits.isEmpty());
+    QCOMPARE(other, QByteArray("2580"));
+}
+
+void Pin2Test::wiping_takes_a_literal_and_nothing()
+{
+    static const char literal[] = "2580";
+    QByteArray raw = QByteArray::fromRawData(literal, 4);
+    wipe(raw);
+    QVERIFY(raw.isEmpty());
+    QCOMPARE(literal[0], '2');
+    QByteArray null;
+    wipe(null);
+    QVERIFY(null.isEmpty());
+    wipe(null);
+    QVERIFY(null.isEmpty());
+}
+
+QTEST_APPLESS_MAIN(Pin2Test)
+#include "Pin2Test.moc"
