@@ -1,7 +1,8 @@
 #include "ExamineFile.h"
 
+#include "FileHeader.h"
+
 #include <QtCore/QFile>
-#include <QtCore/QtEndian>
 
 #include <cerrno>
 
@@ -11,21 +12,20 @@ namespace handset::calllog {
 
 namespace {
 
-// SQLite takes a file that lost the end of its last page for a whole one.
-Finding checkHeader(const QString &path)
+// What SQLite would not mind, or mistake for a file that must not be written. `whole` is false while leftovers wait to
+// be worked in: the length may differ until then.
+Finding checkHeader(const QString &path, bool whole)
 {
-    constexpr qint64 headerSize = 100;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {Verdict::Blocked, file.errorString()};
-    const QByteArray header = file.read(headerSize);
-    if (header.size() < headerSize || !header.startsWith(QByteArray("SQLite format 3", 16)))
+    const std::optional<FileHeader> header = FileHeader::parse(file.read(FileHeader::size));
+    if (!header)
         return {Verdict::Foreign, {}};
-    const auto number = [&](qsizetype offset) { return qFromBigEndian<quint32>(header.constData() + offset); };
-    const qint64 stored = qFromBigEndian<quint16>(header.constData() + 16);
-    const qint64 pageSize = stored == 1 ? 65536 : stored;
-    const bool countIsValid = number(24) == number(92);
-    if (countIsValid && file.size() < pageSize * static_cast<qint64>(number(28)))
+    if (!header->versionIsKnown)
+        return {Verdict::Damaged, QStringLiteral("its format is wrong")};
+    // SQLite takes a file that lost the end of its last page for a whole one.
+    if (whole && header->pageCountIsValid && file.size() < header->pageSize * header->pageCount)
         return {Verdict::Damaged, QStringLiteral("its end is missing")};
     return {};
 }
@@ -51,7 +51,7 @@ Finding examineFile(const StateDirectory &directory, const QString &name)
         return blocked(errno);
     if (status.st_size == 0) // SQLite would take it for a new one and throw the leftovers away
         return {Verdict::Lost, {}};
-    return leftovers ? Finding{} : checkHeader(path); // the length may differ until the leftovers are worked in
+    return checkHeader(path, !leftovers);
 }
 
 } // namespace handset::calllog

@@ -13,15 +13,21 @@ namespace {
 /// Bytes, some 100,000 calls; that much is read through in less than 0.1 s.
 constexpr qint64 alwaysVerifiedSize = 4 << 20;
 
+Care careFor(const StateDirectory &directory, const QString &name)
+{
+    if (directory.hasLeftovers(name))
+        return Care::Leftovers;
+    return QFileInfo(directory.filePath(name)).size() <= alwaysVerifiedSize ? Care::Thorough : Care::Quick;
+}
+
 Attempt openFile(std::unique_ptr<StateDirectory> &directory)
 {
     const QString name = QString::fromLatin1(databaseName);
     Finding finding = examineFile(*directory, name);
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
-    const QString path = directory->filePath(name);
-    const bool thorough = directory->hasLeftovers(name) || QFileInfo(path).size() <= alwaysVerifiedSize;
-    return openDatabase(path, directory, thorough);
+    const Care care = careFor(*directory, name);
+    return openDatabase(directory->filePath(name), directory, care);
 }
 
 QString cannotBeUsed(const StateDirectory &directory, const QString &reason)
@@ -51,7 +57,7 @@ OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory)
 OpenedStore openInMemory()
 {
     std::unique_ptr<StateDirectory> none;
-    Attempt attempt = openDatabase(QStringLiteral(":memory:"), none, false);
+    Attempt attempt = openDatabase(QStringLiteral(":memory:"), none, Care::Quick);
     if (!attempt.store)
         return {nullptr, QStringLiteral("The call log cannot be opened: %1.").arg(attempt.finding.reason), {}};
     return {std::move(attempt.store), {}, {}};

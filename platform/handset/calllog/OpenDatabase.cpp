@@ -2,6 +2,8 @@
 
 #include "Schema.h"
 
+#include <initializer_list>
+
 namespace handset::calllog {
 
 namespace {
@@ -45,11 +47,6 @@ Finding verify(Database &database)
     return result.isEmpty() ? failure(database) : Finding{Verdict::Damaged, result};
 }
 
-Finding skip(Database &)
-{
-    return {};
-}
-
 // Reads and writes what every later operation depends on, and closes the call that was running when the telephone
 // stopped: its time is counted up to its last checkpoint.
 Finding settle(Database &database)
@@ -68,18 +65,45 @@ Finding settle(Database &database)
     return database.inTransaction([&] { return database.run(close); }) ? Finding{} : failure(database);
 }
 
+using Step = Finding (*)(Database &);
+
+Finding walk(Database &database, std::initializer_list<Step> steps)
+{
+    if (!database.isOpen())
+        return failure(database);
+    for (const Step step : steps) {
+        Finding finding = step(database);
+        if (finding.verdict != Verdict::Usable)
+            return finding;
+    }
+    return {};
+}
+
+// Closing a damaged database that could be written would work its leftovers in, and make it worse. (A database that
+// is only read passes this without its CHECK constraints: it is verified again.)
+Finding examine(const QString &file)
+{
+    Database database(file, Database::Access::ReadOnly);
+    Finding finding = walk(database, {identify, verify});
+    if (finding.verdict == Verdict::Blocked) // some leftovers cannot be read without writing
+        return {};
+    return finding;
+}
+
 } // namespace
 
-Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, bool thorough)
+Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care)
 {
-    auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
-    if (!database->isOpen())
-        return {failure(*database), nullptr};
-    for (const auto step : {identify, configure, thorough ? verify : skip, settle}) {
-        Finding finding = step(*database);
-        if (finding.verdict != Verdict::Usable)
-            return {std::move(finding), nullptr};
+    if (care == Care::Leftovers) {
+        Finding examined = examine(file);
+        if (examined.verdict != Verdict::Usable)
+            return {std::move(examined), nullptr};
     }
+    auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
+    Finding finding = care == Care::Quick ? walk(*database, {identify, configure, settle})
+                                          : walk(*database, {identify, verify, configure, settle});
+    if (finding.verdict != Verdict::Usable)
+        return {std::move(finding), nullptr};
     auto store = CallStore::create(database, directory);
     if (!store)
         return {failure(*database), nullptr};

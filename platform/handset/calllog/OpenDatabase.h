@@ -14,8 +14,14 @@ struct Attempt {
     std::unique_ptr<CallStore> store; ///< null unless usable
 };
 
+enum class Care {
+    Quick,    ///< reads what later operations depend on
+    Thorough, ///< reads the whole file
+    Leftovers ///< the same, once before anything is written: there are leftovers to be worked in
+};
+
 /// `file` is an absolute path, or ":memory:". `directory` goes over to the store; it may be null, and stays where it
-/// is when there is no store. `thorough` reads the whole file first.
-Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, bool thorough);
+/// is when there is no store.
+Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care);
 
 } // namespace handset::calllog

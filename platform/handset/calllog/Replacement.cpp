@@ -18,6 +18,8 @@ namespace {
 // when what was there before has made way. So a database is never seen half made.
 constexpr auto unfinishedName = "calllog-new.db";
 constexpr auto readyName = "calllog-ready.db";
+// What a damaged log is read from, so that it is kept as it was found.
+constexpr auto copyName = "calllog-copy.db";
 
 QString describe(Verdict verdict)
 {
@@ -48,6 +50,19 @@ Finding createFile(const QString &path)
     return {};
 }
 
+Finding readCopy(StateDirectory &directory, CallStore &target, Salvaged &salvaged)
+{
+    const QString copy = QString::fromLatin1(copyName);
+    directory.remove(copy);
+    if (!directory.copy(QString::fromLatin1(databaseName), copy)) {
+        directory.remove(copy);
+        return {Verdict::Blocked, QStringLiteral("the old one cannot be copied")};
+    }
+    salvaged = salvage(directory.filePath(copy), target);
+    directory.remove(copy);
+    return salvaged.written ? Finding{} : failure(target.connection());
+}
+
 // A complete new log under the ready name, with what can be read of the damaged one. Anything but Usable says why
 // there is none.
 Finding makeReplacement(StateDirectory &directory, Verdict verdict, Salvaged &salvaged)
@@ -58,13 +73,13 @@ Finding makeReplacement(StateDirectory &directory, Verdict verdict, Salvaged &sa
     if (created.verdict != Verdict::Usable)
         return created;
     std::unique_ptr<StateDirectory> unlocked;
-    Attempt fresh = openDatabase(directory.filePath(name), unlocked, false);
+    Attempt fresh = openDatabase(directory.filePath(name), unlocked, Care::Quick);
     if (!fresh.store)
         return fresh.finding;
     if (verdict == Verdict::Damaged) {
-        salvaged = salvage(directory.filePath(QString::fromLatin1(databaseName)), *fresh.store);
-        if (!salvaged.written)
-            return failure(fresh.store->connection());
+        Finding read = readCopy(directory, *fresh.store, salvaged);
+        if (read.verdict != Verdict::Usable)
+            return read;
     }
     fresh.store.reset();
     return directory.rename(name, QString::fromLatin1(readyName)) ? Finding{} : blocked(errno);
@@ -106,6 +121,7 @@ void finishReplacement(StateDirectory &directory)
 {
     const QString name = QString::fromLatin1(databaseName);
     const QString ready = QString::fromLatin1(readyName);
+    directory.remove(QString::fromLatin1(copyName));
     directory.remove(QString::fromLatin1(unfinishedName));
     if (directory.exists(name)) {
         directory.remove(ready);

@@ -1,8 +1,10 @@
 #include "Salvage.h"
 
+#include "FileHeader.h"
 #include "Saturating.h"
 #include "Schema.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QVariant>
 
 #include <array>
@@ -154,10 +156,22 @@ bool Salvager::putTotals()
     return true;
 }
 
+// SQLite would fill up a page that was cut off with zeros, and read calls from it that nobody made.
+void cutToWholePages(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return;
+    const std::optional<FileHeader> header = FileHeader::parse(file.read(FileHeader::size));
+    if (header && header->pageSize > 0)
+        file.resize(file.size() / header->pageSize * header->pageSize);
+}
+
 } // namespace
 
 Salvaged salvage(const QString &file, CallStore &target)
 {
+    cutToWholePages(file);
     Database source(file, Database::Access::ReadOnly);
     // Without this a database that is shorter than it says is refused as a whole.
     source.run(QStringLiteral("PRAGMA writable_schema = ON"));

@@ -14,7 +14,7 @@ struct Salvaged {
 };
 
 /// Copies the calls, and the totals where all of them can be read, from the database `file` into the empty `target`,
-/// in one transaction. `file` is only read.
+/// in one transaction. `file` may be changed on the way: it is to be a copy.
 Salvaged salvage(const QString &file, CallStore &target);
 
 } // namespace handset::calllog

@@ -153,6 +153,16 @@ QString StateDirectory::keepAside(const QString &name, QString &error)
     return {};
 }
 
+bool StateDirectory::copy(const QString &from, const QString &to)
+{
+    for (const char *recording : recordings) {
+        const QLatin1String suffix(recording);
+        if (exists(from + suffix) && !QFile::copy(filePath(from + suffix), filePath(to + suffix)))
+            return false;
+    }
+    return QFile::copy(filePath(from), filePath(to));
+}
+
 void StateDirectory::remove(const QString &name)
 {
     for (const char *recording : recordings)

@@ -26,6 +26,8 @@ public:
     QString keepAside(const QString &name, QString &error);
     /// Renames a file of the directory to a name that is not in use; false when that cannot be done.
     bool rename(const QString &from, const QString &to);
+    /// Copies `from` and what is recorded beside it to a name that is not in use; false when that cannot be done.
+    bool copy(const QString &from, const QString &to);
     /// Removes `name` and what SQLite keeps beside it.
     void remove(const QString &name);
     bool exists(const QString &name) const;

@@ -24,6 +24,7 @@ using calllog::CallState;
 namespace {
 
 constexpr qint64 pageSize = 4096;
+constexpr int wholeCalls = 1000; ///< of the sample, when it was closed
 
 QByteArray readFile(const QString &path)
 {
@@ -140,6 +141,10 @@ private slots:
     void aLogEmptiedWhileInUseKeepsItsWriteAheadLog();
     void timersThatCannotBeReadAreCountedAnew();
     void aLinkInThePlaceOfTheLogIsAnErrorAndStays();
+    void nonsenseBesideAGoodLogDoesItNoHarm_data();
+    void nonsenseBesideAGoodLogDoesItNoHarm();
+    void aDirectoryBesideAGoodLogIsAnErrorOrNothing_data();
+    void aDirectoryBesideAGoodLogIsAnErrorOrNothing();
 
     void keptFilesNeverReplaceOneAnother();
     void aLogInUseByAnotherProgramIsLeftAlone();
@@ -157,10 +162,10 @@ private:
 
 void TestDamagedLog::initTestCase()
 {
-    sample = makeSample(1500);
-    QVERIFY(sample.closed.size() >= 10 * pageSize);
+    sample = makeSample(wholeCalls);
+    QVERIFY(sample.closed.size() >= 8 * pageSize);
     QVERIFY(sample.crashedWal.size() > 0);
-    QCOMPARE(sample.calls.size(), 1505);
+    QCOMPARE(sample.calls.size(), wholeCalls + 5);
 }
 
 /// Opens what is in the directory: whatever it is, there must be a telephone that works, a sound log with nothing in it
@@ -180,7 +185,7 @@ void TestDamagedLog::openAndCheck(const StateDir &state, bool mayBeQuiet)
         QVERIFY(call.id >= 1 && call.id <= sample.calls.size() && same(call, sample.calls[call.id - 1]));
     // Either the totals could be read, and are those of one of the writes, or they are those of the calls.
     bool known = before == sumsOf(calls);
-    for (qsizetype count = 1500; count <= sample.calls.size(); ++count)
+    for (qsizetype count = wholeCalls; count <= sample.calls.size(); ++count)
         known = known || before == sumsOf(sample.calls.first(count));
     QVERIFY(known);
 
@@ -243,10 +248,10 @@ void TestDamagedLog::aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd()
         phone.close();
         const QList<LoggedCall> calls = LogFile(state.database()).calls();
         QCOMPARE(figures, sumsOf(calls));
-        QVERIFY(calls.size() >= std::max<qsizetype>(most, 1500)); // a longer one never has fewer calls
+        QVERIFY(calls.size() >= std::max<qsizetype>(most, wholeCalls)); // a longer one never has fewer calls
         most = calls.size();
     }
-    QVERIFY(most > 1500);
+    QVERIFY(most > wholeCalls);
 }
 
 void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls_data()
@@ -263,7 +268,6 @@ void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls_data()
 void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls()
 {
     QFETCH(QByteArray, filling);
-    constexpr qint64 calls = 1500;
     constexpr qint64 mostCallsOfAPage = 200;
     int complete = 0;
     for (qint64 offset = pageSize; offset < sample.closed.size(); offset += pageSize) {
@@ -278,7 +282,7 @@ void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls()
         }
         // openAndCheck() made one more
         const auto kept = LogFile(state.database()).calls().size() - 1;
-        complete += kept >= calls - mostCallsOfAPage ? 1 : 0;
+        complete += kept >= wholeCalls - mostCallsOfAPage ? 1 : 0;
     }
     // All but the page that leads to all others.
     QVERIFY2(complete >= sample.closed.size() / pageSize - 2, qPrintable(QString::number(complete)));
@@ -413,13 +417,13 @@ void TestDamagedLog::aLogWithWrongTablesIsReplaced_data()
     QTest::addColumn<QString>("statement");
     QTest::addColumn<int>("calls");
     QTest::newRow("a total that is missing")
-        << QStringLiteral("DELETE FROM totals WHERE counter = 'data'") << 1500;
-    QTest::newRow("no totals at all") << QStringLiteral("DROP TABLE totals") << 1500;
+        << QStringLiteral("DELETE FROM totals WHERE counter = 'data'") << wholeCalls;
+    QTest::newRow("no totals at all") << QStringLiteral("DROP TABLE totals") << wholeCalls;
     QTest::newRow("no calls at all") << QStringLiteral("DROP TABLE calls") << 0;
     QTest::newRow("a column that is missing")
         << QStringLiteral("ALTER TABLE calls RENAME COLUMN number TO name") << 0;
-    QTest::newRow("a version before the first") << QStringLiteral("PRAGMA user_version = 0") << 1500;
-    QTest::newRow("a negative version") << QStringLiteral("PRAGMA user_version = -3") << 1500;
+    QTest::newRow("a version before the first") << QStringLiteral("PRAGMA user_version = 0") << wholeCalls;
+    QTest::newRow("a negative version") << QStringLiteral("PRAGMA user_version = -3") << wholeCalls;
 }
 
 void TestDamagedLog::aLogWithWrongTablesIsReplaced()
@@ -500,6 +504,57 @@ void TestDamagedLog::aLinkInThePlaceOfTheLogIsAnErrorAndStays()
     QCOMPARE(LogFile(state.sibling(QStringLiteral("elsewhere.db"))).calls().size(), 1);
 }
 
+void TestDamagedLog::nonsenseBesideAGoodLogDoesItNoHarm_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *suffix : {"-wal", "-shm", "-journal"})
+        QTest::addRow("as its %s file", suffix) << QStringLiteral("calllog.db") + QLatin1String(suffix);
+}
+
+void TestDamagedLog::nonsenseBesideAGoodLogDoesItNoHarm()
+{
+    QFETCH(QString, name);
+    for (const QByteArray &content : {QByteArray("x"), QByteArray(100'000, 'x'), QByteArray(40'000, '\0')}) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()));
+        QVERIFY(writeFile(state.database(), sample.closed));
+        QVERIFY(writeFile(state.file(name), content));
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QVERIFY2(phone.opened.notice.isEmpty(), qPrintable(phone.opened.notice));
+        QCOMPARE(phone.figures(), sample.figures);
+        QVERIFY(phone.dialed(second));
+        phone.close();
+        QCOMPARE(LogFile(state.database()).calls().size(), wholeCalls + 1);
+    }
+}
+
+void TestDamagedLog::aDirectoryBesideAGoodLogIsAnErrorOrNothing_data()
+{
+    nonsenseBesideAGoodLogDoesItNoHarm_data();
+}
+
+void TestDamagedLog::aDirectoryBesideAGoodLogIsAnErrorOrNothing()
+{
+    QFETCH(QString, name);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.file(name)));
+    QVERIFY(writeFile(state.database(), sample.closed));
+    {
+        const Phone phone(state.path());
+        if (phone)
+            QCOMPARE(phone.figures(), sample.figures);
+        else
+            QVERIFY2(phone.opened.error.contains(state.database()), qPrintable(phone.opened.error));
+        QVERIFY(phone.opened.notice.isEmpty());
+    }
+    QDir().rmdir(state.file(name));
+    const Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.figures(), sample.figures);
+    QVERIFY(phone.opened.notice.isEmpty());
+}
+
 void TestDamagedLog::keptFilesNeverReplaceOneAnother()
 {
     const StateDir state;
@@ -545,7 +600,8 @@ void TestDamagedLog::aReplacementThatWasInterruptedIsMadeUpFor_data()
     const QString ready = QStringLiteral("calllog-ready.db");
     const QStringList onlyTheLog{log};
     QTest::newRow("while the new one was made")
-        << QStringList{log, unfinished, unfinished + QStringLiteral("-wal")} << onlyTheLog;
+        << QStringList{log, unfinished, unfinished + QStringLiteral("-wal"), QStringLiteral("calllog-copy.db")}
+        << onlyTheLog;
     QTest::newRow("while the very first was made") << QStringList{ready, unfinished} << onlyTheLog;
     QTest::newRow("before the old one made way") << QStringList{log, ready} << onlyTheLog;
     QTest::newRow("before the new one took its place") << QStringList{ready} << onlyTheLog;
