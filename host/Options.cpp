@@ -94,7 +94,7 @@ QString findMistake(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
-    if (const QString mistake = findEmptyValue(parser); !mistake.isEmpty())
+    if (QString mistake = findEmptyValue(parser); !mistake.isEmpty())
         return mistake;
     if (parser.isSet(QStringLiteral("script")) && !parser.isSet(QStringLiteral("tour")))
         return QStringLiteral("Option 'script' needs option 'tour'.");
@@ -153,7 +153,7 @@ CommandLine parseCommandLine(const QStringList &arguments)
         const QString version = QCoreApplication::applicationVersion();
         return {{}, QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), version), {}};
     }
-    if (const QString mistake = findMistake(parser); !mistake.isEmpty())
+    if (QString mistake = findMistake(parser); !mistake.isEmpty())
         return {{}, {}, mistake};
     return {readOptions(parser), {}, {}};
 }

@@ -8,7 +8,6 @@
 #include "phone/Keypad.h"
 #include "phone/PhoneBody.h"
 
-#include <QtGui/QCloseEvent>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
 
@@ -64,12 +63,6 @@ void PhoneWindow::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
     else
         ZApplication::pressKey(event->key());
-}
-
-void PhoneWindow::closeEvent(QCloseEvent *event)
-{
-    screens.close();
-    QWidget::closeEvent(event);
 }
 
 } // namespace host

@@ -24,7 +24,8 @@ public:
 
     /// `library` is loaded and outlives the window.
     PhoneWindow(const ScreenLibrary &library, const Telephone &telephone);
-    /// Gives back an open screen.
+    /// Gives back an open screen. Not before: a closed window's screen may still wait for a dialog that blocks it,
+    /// and is destroyed once the event loop has ended.
     ~PhoneWindow() override;
 
     /// Opens row `index` of the screen table; false as in ScreenHost::open().
@@ -33,7 +34,6 @@ public:
 protected:
     /// Keys that nothing in the panel takes go to the phone.
     void keyPressEvent(QKeyEvent *event) override;
-    void closeEvent(QCloseEvent *event) override;
 
 private:
     void layOut(const Telephone &telephone);

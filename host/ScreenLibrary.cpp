@@ -53,13 +53,13 @@ int screenIndex(const QString &name)
 QString ScreenLibrary::load(const QString &name)
 {
     QLibrary library;
-    if (const QString problem = loadLibrary(library, name); !problem.isEmpty())
+    if (QString problem = loadLibrary(library, name); !problem.isEmpty())
         return problem;
     for (std::size_t index = 0; index < screenTable.size(); ++index) {
         const ScreenEntry &entry = screenTable[index];
-        if (const QString problem = resolve(library, entry.create, resolved[index].create); !problem.isEmpty())
+        if (QString problem = resolve(library, entry.create, resolved[index].create); !problem.isEmpty())
             return problem;
-        if (const QString problem = resolve(library, entry.destroy, resolved[index].destroy); !problem.isEmpty())
+        if (QString problem = resolve(library, entry.destroy, resolved[index].destroy); !problem.isEmpty())
             return problem;
     }
     return {};

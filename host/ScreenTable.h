@@ -16,8 +16,11 @@ struct ScreenEntry {
     const char *english; ///< the menu row where the catalogue has none
 };
 
-inline constexpr std::array<ScreenEntry, 1> screenTable{{
+inline constexpr std::array<ScreenEntry, 4> screenTable{{
     {"callTime", "create_callTime", "destroy_callTime", "TXT_RID_HEADER_CALL_TIMES", "Call Times"},
+    {"callCost", "create_callCost", "destroy_callCost", "TXT_RID_HEADER_CALL_COSTS", "Call Costs"},
+    {"dataTime", "create_dataTime", "destroy_dataTime", "TXT_RID_HEADER_DATA_TIMES", "Data Times"},
+    {"dataVolume", "create_dataVolume", "destroy_dataVolume", "TXT_RID_HEADER_DATA_VOLUMES", "Data Volumes"},
 }};
 
 /// The row of the screen called `name`, -1 for none.

@@ -23,7 +23,7 @@ Figure secondsOf(int status, const CallTime &time)
 {
     if (status != 0)
         return {};
-    return qint64{time.hours} * 3600 + time.minutes * 60 + time.seconds;
+    return qint64{time.hours} * 3600 + qint64{time.minutes} * 60 + time.seconds;
 }
 
 template <int (handset::CallLog::*query)(CallTime &)>

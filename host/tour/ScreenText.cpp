@@ -2,9 +2,11 @@
 
 #include "ZApplication.h"
 #include "ZKbMainWidget.h"
+#include "ZLabel.h"
 #include "ZListBox.h"
 #include "ZListItem.h"
 #include "ZMessageDlg.h"
+#include "ZMultiLineEdit.h"
 #include "ZSoftKey.h"
 
 #include <algorithm>
@@ -73,6 +75,11 @@ void readList(const ZListBox &list, QList<Fact> &facts)
 
 void readContent(const QWidget *layer, QList<Fact> &facts)
 {
+    int number = 0;
+    for (const ZLabel *label : ownWidgets<ZLabel>(layer))
+        facts.append({QStringLiteral("label"), number++, {label->text()}});
+    for (const ZMultiLineEdit *field : ownWidgets<ZMultiLineEdit>(layer))
+        facts.append({QStringLiteral("entry"), -1, {field->toPlainText()}});
     for (const ZListBox *list : ownWidgets<ZListBox>(layer))
         readList(*list, facts);
 }
@@ -96,8 +103,9 @@ void readDialogLayer(const ZPopup &dialog, ScreenText &text)
 {
     text.name = dialog.header().isEmpty() ? QStringLiteral("notice") : dialog.header();
     text.facts.append({QStringLiteral("header"), -1, {dialog.header()}});
-    if (const auto *message = qobject_cast<const ZMessageDlg *>(&dialog))
-        text.facts.append({QStringLiteral("message"), -1, {message->message()}});
+    const QString message = dialog.accessibleDescription();
+    if (!message.isEmpty() || qobject_cast<const ZMessageDlg *>(&dialog))
+        text.facts.append({QStringLiteral("message"), -1, {message}});
     readContent(&dialog, text.facts);
     readSoftkeys(dialog.softKey(), text.facts);
 }

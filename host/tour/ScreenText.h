@@ -12,7 +12,7 @@ namespace host::tour {
 /// One thing that can be read: a word, for some a number, and one or more cells of text.
 struct Fact {
     QString word;
-    int number = -1; ///< of a row, counted from 0; -1 where the word has none
+    int number = -1; ///< of a row or a label, counted from 0; -1 where the word has none
     QStringList cells;
 
     friend bool operator==(const Fact &, const Fact &) = default;

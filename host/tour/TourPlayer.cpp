@@ -8,8 +8,9 @@
 #include "Status.h"
 #include "ZApplication.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QTextStream>
+#include <QtCore/QThread>
+#include <QtCore/QTimer>
 
 namespace host::tour {
 
@@ -19,16 +20,7 @@ using LineState = handset::simulated::SimulatedTelephone::LineState;
 namespace {
 
 constexpr qint64 firstMomentMs = 1141905600000; // 2006-03-09 12:00 UTC, so that every tour sees the same dates
-constexpr int settleRounds = 3;                 // a key may end a screen, which passes the keys on, which repaints
-
-// Lets everything happen that a key has set off.
-void settle()
-{
-    for (int round = 0; round < settleRounds; ++round) {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-}
+constexpr int settlingTurns = 3;                // a key may end a screen, which passes the keys on, which repaints
 
 QString lineWord(LineState state)
 {
@@ -70,40 +62,112 @@ TourPlayer::~TourPlayer()
     handset::install(nullptr);
 }
 
-int TourPlayer::play(const Script &script)
+int TourPlayer::play(const Script &played)
 {
-    place = script.name;
-    if (const QString problem = photographs.prepare(); !problem.isEmpty())
+    script = &played;
+    place = script->name;
+    if (const QString problem = photographs.prepare(); !problem.isEmpty()) {
         stop(ExitNotWritten, problem);
-    const bool beginsWithState =
-        !script.steps.isEmpty() && std::holds_alternative<SetState>(script.steps[0].action);
-    if (!stopped && !beginsWithState)
-        perform(SetState{SetState::Empty});
-    for (const Step &step : script.steps) {
-        if (stopped)
-            break;
-        place = script.place(step.line);
-        playStep(step);
+        return stopped;
     }
+    collectMoves(played);
+    scheduleTurn();
+    loopLevel = QThread::currentThread()->loopLevel() + 1;
+    loop.exec();
     return finish();
 }
 
-void TourPlayer::playStep(const Step &step)
+void TourPlayer::collectMoves(const Script &played)
+{
+    static const Step emptyState{0, {}, SetState{}};
+    const bool beginsWithState =
+        !played.steps.isEmpty() && std::holds_alternative<SetState>(played.steps.constFirst().action);
+    if (!beginsWithState)
+        moves.append(Move{&emptyState, {}});
+    for (const Step &step : played.steps) {
+        moves.append(Move{&step, {}});
+        if (const auto *press = std::get_if<Press>(&step.action)) {
+            for (const int key : press->keys)
+                moves.append(Move{&step, key});
+        }
+    }
+}
+
+// A timer for each turn: one that is being served does not fire again in the loop of a dialog that blocks.
+void TourPlayer::scheduleTurn()
+{
+    QTimer::singleShot(0, this, &TourPlayer::turn);
+}
+
+void TourPlayer::turn()
+{
+    if (turnsToWait > 0) {
+        --turnsToWait;
+        scheduleTurn();
+        return;
+    }
+    if (display.isVisible())
+        look();
+    if (closesScreens()) {
+        photographWhatIsMet();
+        if (!unblock())
+            return;
+    }
+    if (isAtEnd()) {
+        loop.quit();
+        return;
+    }
+    scheduleTurn(); // before it is done: the next move may be what ends it
+    turnsToWait = settlingTurns;
+    act(moves[nextMove++]);
+}
+
+bool TourPlayer::isAtEnd() const
+{
+    return stopped || nextMove == moves.size();
+}
+
+// Whether the next move does.
+bool TourPlayer::closesScreens() const
+{
+    if (isAtEnd())
+        return true;
+    const Step &step = *moves[nextMove].step;
+    return std::holds_alternative<SetState>(step.action) || std::holds_alternative<Open>(step.action);
+}
+
+// True when no dialog blocks the screen. Such a dialog gives up when the display goes out of sight; the screen can
+// be closed when it has gone on from there.
+bool TourPlayer::unblock()
+{
+    const bool blocked = QThread::currentThread()->loopLevel() > loopLevel;
+    display.setVisible(!blocked);
+    if (blocked)
+        scheduleTurn();
+    return !blocked;
+}
+
+void TourPlayer::act(const Move &move)
 {
     const bool onlyLooks =
-        std::holds_alternative<Expect>(step.action) || std::holds_alternative<Photo>(step.action);
-    if (!onlyLooks) {
+        std::holds_alternative<Expect>(move.step->action) || std::holds_alternative<Photo>(move.step->action);
+    if (!onlyLooks)
         photographWhatIsMet();
-        output << step.source << '\n';
+    if (stopped)
+        return;
+    if (move.key) {
+        ZApplication::pressKey(*move.key);
+        return;
     }
-    if (!stopped)
-        std::visit([this](const auto &action) { perform(action); }, step.action);
+    if (move.step->line > 0)
+        place = script->place(move.step->line);
+    if (!onlyLooks && !move.step->source.isEmpty())
+        output << move.step->source << '\n';
+    std::visit([this](const auto &action) { perform(action); }, move.step->action);
 }
 
 int TourPlayer::finish()
 {
-    if (!stopped)
-        photographWhatIsMet();
     if (stopped)
         return stopped;
     output << "\n"
@@ -157,52 +221,49 @@ void TourPlayer::freshDisplay()
     QObject::connect(menu.get(), &MenuScreen::chosen, &screens, &ScreenHost::open);
     menu->show();
     menu->takeFocus();
-    lookAgain();
 }
 
 void TourPlayer::perform(const MakeCall &action)
 {
     const bool dialed = action.direction == CallDirection::Dialed;
-    if (!telephone)
-        return checkStatus(handset::NotAvailable);
+    if (!telephone) {
+        checkStatus(handset::NotAvailable);
+        return;
+    }
     checkStatus(dialed ? telephone->dial(action.number, action.kind) : telephone->ring(action.number));
     checkStatus(dialed ? telephone->remoteAnswer() : telephone->answer());
     clock->advance(action.durationMs);
     checkStatus(telephone->hangUp());
-    lookAgain();
 }
 
 void TourPlayer::perform(const Dial &action)
 {
     checkStatus(telephone ? telephone->dial(action.number, action.kind) : int{handset::NotAvailable});
-    lookAgain();
 }
 
 void TourPlayer::perform(const Ring &action)
 {
     checkStatus(telephone ? telephone->ring(action.number) : int{handset::NotAvailable});
-    lookAgain();
 }
 
 void TourPlayer::perform(const Answer &)
 {
-    if (!telephone)
-        return checkStatus(handset::NotAvailable);
+    if (!telephone) {
+        checkStatus(handset::NotAvailable);
+        return;
+    }
     const bool weCalled = telephone->lineState() == LineState::Dialing;
     checkStatus(weCalled ? telephone->remoteAnswer() : telephone->answer());
-    lookAgain();
 }
 
 void TourPlayer::perform(const HangUp &)
 {
     checkStatus(telephone ? telephone->hangUp() : int{handset::NotAvailable});
-    lookAgain();
 }
 
 void TourPlayer::perform(const MoveClock &action)
 {
     clock->advance(action.ms);
-    lookAgain();
 }
 
 void TourPlayer::checkStatus(int status)
@@ -223,18 +284,6 @@ void TourPlayer::perform(const Open &action)
         fail(QStringLiteral("screen %1").arg(QLatin1StringView(name)),
              QStringLiteral("no screen from the plug-in"));
     }
-    lookAgain();
-}
-
-void TourPlayer::perform(const Press &action)
-{
-    for (const int key : action.keys) {
-        photographWhatIsMet();
-        if (stopped)
-            return;
-        ZApplication::pressKey(key);
-        lookAgain();
-    }
 }
 
 // --- looking
@@ -247,9 +296,8 @@ ScreenText TourPlayer::read() const
     return text;
 }
 
-void TourPlayer::lookAgain()
+void TourPlayer::look()
 {
-    settle();
     const ScreenText now = read();
     if (now.isSameAs(met))
         return;

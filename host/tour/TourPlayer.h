@@ -9,7 +9,10 @@
 #include "TourScript.h"
 #include "phone/Display.h"
 
+#include <QtCore/QEventLoop>
+
 #include <memory>
+#include <optional>
 
 class QTextStream;
 
@@ -19,12 +22,16 @@ class ManualClock;
 
 namespace host::tour {
 
-class TourPlayer
+/// Does one thing a turn of the event loop and looks at the display once what it has set off is over. A dialog that
+/// blocks its screen until it is answered, with an event loop of its own, is so answered by the steps that follow.
+class TourPlayer : public QObject
 {
+    Q_OBJECT
+
 public:
     /// `library` is loaded; the streams and it outlive the player.
     TourPlayer(const ScreenLibrary &library, const Options &options, QTextStream &output, QTextStream &errors);
-    ~TourPlayer();
+    ~TourPlayer() override;
 
     /// Plays `script`, which has no mistakes, and answers an ExitCode.
     int play(const Script &script);
@@ -38,15 +45,27 @@ private:
     void perform(const HangUp &action);
     void perform(const MoveClock &action);
     void perform(const Open &action);
-    void perform(const Press &action);
+    void perform(const Press &) {} // its keys are moves of their own
     void perform(const Expect &action);
     void perform(const Photo &action);
     void perform(const Show &action);
 
-    void playStep(const Step &step);
+    /// What is done in one turn: a step, or one of the keys it presses.
+    struct Move {
+        const Step *step;
+        std::optional<int> key;
+    };
+
+    void collectMoves(const Script &script);
+    void scheduleTurn();
+    void turn();
+    bool isAtEnd() const;
+    bool closesScreens() const;
+    bool unblock();
+    void act(const Move &move);
     void openTelephone(const QString &directory);
     void freshDisplay();
-    void lookAgain();
+    void look();
     void photographWhatIsMet();
     void print(const ScreenText &text);
     ScreenText read() const;
@@ -68,6 +87,12 @@ private:
     std::unique_ptr<MenuScreen> menu;
     ScreenHost screens;
 
+    const Script *script = nullptr;
+    QList<Move> moves;
+    qsizetype nextMove = 0;
+    int turnsToWait = 0;
+    int loopLevel = 0; // of the loop that the tour is played in
+    QEventLoop loop;
     QString place; // of the step that is played
     ScreenText met;
     bool photographDue = false;

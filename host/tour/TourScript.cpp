@@ -236,12 +236,14 @@ struct FactForm {
     int cells; ///< 0 none, 1 one, 2 two; -1 one or two
 };
 
-constexpr std::array<FactForm, 10> factForms{{
+constexpr std::array<FactForm, 12> factForms{{
     {"title", false, 1},
     {"header", false, 1},
     {"message", false, 1},
     {"row", true, -1},
     {"separator", true, 1},
+    {"label", true, 1},
+    {"entry", false, 1},
     {"rows", false, 1},
     {"disabled", true, 0},
     {"focus", false, 1},
@@ -263,7 +265,7 @@ QString takeWord(QString &text)
 {
     const auto *const blank = std::find_if(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
     const qsizetype length = blank - text.cbegin();
-    const QString word = text.left(length);
+    QString word = text.left(length);
     text = text.mid(length).trimmed();
     return word;
 }

@@ -33,11 +33,14 @@ private slots:
     void aKeptStateIsThereAtTheNextStart();
     void anUnusableKeptStateIsSaid();
     void tracesAreDroppedUnlessAskedFor();
+    void aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps();
+    void aDialogThatBlocksGivesUpBeforeItsScreenGoes();
 
 private:
     HostResult play(const QByteArray &script, const QStringList &more = {});
     QString path(const QString &name) const { return home->filePath(name); }
     QImage photograph(const QString &name) const { return QImage(path("tour/" + name)); }
+    QStringList recorded() const; // by the plug-in's double
     void writeFile(const QString &name, const QByteArray &text) const;
 
     std::unique_ptr<QTemporaryDir> home;
@@ -57,6 +60,13 @@ void TourTest::writeFile(const QString &name, const QByteArray &text) const
     QFile file(path(name));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
+}
+
+QStringList TourTest::recorded() const
+{
+    QFile file(path("record"));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)
+                                          : QStringList();
 }
 
 HostResult TourTest::play(const QByteArray &script, const QStringList &more)
@@ -303,6 +313,57 @@ void TourTest::tracesAreDroppedUnlessAskedFor()
 {
     QVERIFY(!play("open callTime\n").output.contains("utility/"));
     QVERIFY(play("open callTime\n", {"--trace", "-"}).output.contains("utility/PHONE_UI_RecentCallMeter"));
+}
+
+void TourTest::aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps()
+{
+    environment.insert("KAV_RECORD", path("record"));
+    const HostResult result = play("open callTime\n"
+                                   "press select\n"
+                                   "expect header Question\n"
+                                   "photo question\n"
+                                   "press left\n"
+                                   "expect title Recording\n"
+                                   "press select right select\n"
+                                   "expect header Question\n"
+                                   "press left right\n"
+                                   "expect title Recent Calls\n",
+                                   {"--plugin", KAV_DOUBLES "/librecording.so"});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QCOMPARE(photograph("question.png").size(), QSize(240, 320));
+    const QStringList expected{"create callTime in a parent",
+                               "show",
+                               "ask",
+                               "yes",
+                               "ask",
+                               "no",
+                               "ask",
+                               "yes",
+                               "emit",
+                               "emitted",
+                               "destroy callTime",
+                               "deleted"};
+    QCOMPARE(recorded(), expected);
+}
+
+void TourTest::aDialogThatBlocksGivesUpBeforeItsScreenGoes()
+{
+    environment.insert("KAV_RECORD", path("record"));
+    const HostResult result = play("open callTime\n"
+                                   "press select\n"
+                                   "open callTime\n"
+                                   "expect title Recording\n"
+                                   "press select\n"
+                                   "state empty\n"
+                                   "expect title Recent Calls\n"
+                                   "open callTime\n"
+                                   "press select\n",
+                                   {"--plugin", KAV_DOUBLES "/librecording.so"});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QStringList calls = recorded();
+    calls.removeAll("show"); // again, too, when the display comes back
+    const QStringList once{"create callTime in a parent", "ask", "given up", "destroy callTime", "deleted"};
+    QCOMPARE(calls, once + once + once);
 }
 
 QTEST_GUILESS_MAIN(TourTest)

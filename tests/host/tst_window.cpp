@@ -13,8 +13,11 @@
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
 #include "ZListItem.h"
+#include "doubles/RecordingPlugin.h"
 #include "phone/PhoneKey.h"
 
+#include <QtCore/QLibrary>
+#include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QGroupBox>
@@ -52,7 +55,8 @@ private slots:
     void softkeysWorkWhileThePanelHasTheFocus();
     void theMenuHasTheKeysAgainAfterAScreen();
     void exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot();
-    void closingTheWindowGivesTheScreenBack();
+    void theEndOfTheWindowGivesTheScreenBack();
+    void aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst();
     void buttonsAreEnabledAsTheLinePermits();
     void aWithheldNumberCanRing();
     void theColouredKeysAnswerDialAndHangUp();
@@ -220,13 +224,35 @@ void WindowTest::exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot()
     QTRY_VERIFY(!window->isVisible());
 }
 
-void WindowTest::closingTheWindowGivesTheScreenBack()
+void WindowTest::theEndOfTheWindowGivesTheScreenBack()
 {
     QVERIFY(window->openScreen(0));
     const QPointer<QWidget> screen = window->findChild<ZKbMainWidget *>("callTime");
     QVERIFY(screen);
     window->close();
+    QVERIFY(screen); // it may be waiting for a dialog of its own
+    window.reset();
     QVERIFY(!screen);
+}
+
+void WindowTest::aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst()
+{
+    const QString plugin = QStringLiteral(KAV_DOUBLES "/librecording.so");
+    ScreenLibrary recording;
+    QCOMPARE(recording.load(plugin), QString());
+    auto *recorded = reinterpret_cast<RecordedCalls *>(QLibrary::resolve(plugin, "recordedCalls"));
+    QVERIFY(recorded);
+    QStringList &calls = recorded();
+    window = std::make_unique<PhoneWindow>(recording, PhoneWindow::Telephone{owner, {}, {}});
+    window->show();
+    QVERIFY(window->openScreen(0));
+    calls.clear();
+
+    QTimer::singleShot(0, window.get(), &QWidget::close);
+    clickKey("Select");
+    QCOMPARE(calls, (QStringList{"ask", "given up"}));
+    window.reset();
+    QCOMPARE(calls, (QStringList{"ask", "given up", "destroy callTime", "deleted"}));
 }
 
 void WindowTest::buttonsAreEnabledAsTheLinePermits()

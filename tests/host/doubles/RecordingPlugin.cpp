@@ -2,10 +2,13 @@
 
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
+#include "ZMessageDlg.h"
 #include "ZSettingItem.h"
 #include "ZSoftKey.h"
 
+#include <QtCore/QEventLoop>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 #include <QtGui/QShowEvent>
 
 namespace {
@@ -36,6 +39,11 @@ public:
         bar->setClickedSlot(ZSoftKey::RightKey, this, SLOT(leave()));
         setCSTWidget(bar);
         connect(this, &ZKbMainWidget::clearKeyClicked, this, &RecordingScreen::leaveTwice);
+        list->setGeometry(getContentWidget(true)->rect());
+        auto *row = new ZSettingItem(list, QString());
+        row->appendSubItem(0, QStringLiteral("Ask"), false, ZSettingItem::TitleRegion);
+        list->insertItem(row, -1, true);
+        connect(list, &ZListBox::selected, this, &RecordingScreen::ask);
     }
     ~RecordingScreen() override
     {
@@ -59,6 +67,29 @@ public slots:
         leave();
     }
 
+    // A question that blocks the screen until it is answered or out of sight.
+    void ask()
+    {
+        record(QStringLiteral("ask"));
+        const QPointer<RecordingScreen> self(this);
+        QString answer = QStringLiteral("given up");
+        auto *question = new ZMessageDlg(QStringLiteral("Question"), QStringLiteral("Really?"),
+                                         ZMessageDlg::QuestionDlg, 0, this, nullptr, true, 0);
+        connect(question, &ZPopup::leftSoftkeyClicked, this, [&answer] { answer = QStringLiteral("yes"); });
+        connect(question, &ZPopup::rightSoftkeyClicked, this, [&answer] { answer = QStringLiteral("no"); });
+        question->installEventFilter(this);
+        question->show();
+        asking.exec();
+        record(self ? answer : QStringLiteral("deleted while asking"));
+    }
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide && !event->spontaneous())
+            asking.quit();
+        return ZKbMainWidget::eventFilter(watched, event);
+    }
+
 signals:
     void closeWidget();
 
@@ -71,6 +102,7 @@ protected:
 
 private:
     ZListBox *list;
+    QEventLoop asking;
     bool emitting = false;
 };
 

@@ -3,5 +3,6 @@
 
 #include <QtCore/QStringList>
 
-/// Exported as recordedCalls(): "create callTime", "show", "emit", "emitted", "destroy". The caller may empty it.
+/// Exported as recordedCalls(): "create callTime", "show", "emit", "emitted", "destroy callTime", "deleted"; for
+/// its only row, which asks a question that blocks, "ask" and "yes", "no" or "given up". The caller may empty it.
 using RecordedCalls = QStringList &();
