@@ -6,6 +6,8 @@
 #include <QtWidgets/QWidget>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -66,13 +68,23 @@ bool canBeReached(QWidget *widget)
     return !layer || !ZLayers::covering(layer);
 }
 
+// The covered widget that asked for the focus which is now above it, if so: where the Tab key has got to.
+QPointer<QWidget> &turnedAway()
+{
+    static QPointer<QWidget> widget;
+    return widget;
+}
+
 // Whoever asks for the focus under a dialog or a sub-screen does not get it.
 void guardFocus(QWidget *, QWidget *now)
 {
+    turnedAway() = nullptr;
     QWidget *layer = now ? ZLayers::layerOf(now) : nullptr;
     QWidget *cover = layer ? ZLayers::covering(layer) : nullptr;
-    if (cover)
-        ZLayers::keyTarget(cover)->setFocus(Qt::OtherFocusReason);
+    if (!cover)
+        return;
+    ZLayers::keyTarget(cover)->setFocus(Qt::OtherFocusReason);
+    turnedAway() = now;
 }
 
 void startGuard()
@@ -91,13 +103,19 @@ void ZLayers::shown(QWidget *layer, Kind kind)
     startGuard();
     gone(layer);
     QList<Layer> &list = layers();
-    list.append({layer, kind});
-    std::stable_partition(list.begin(), list.end(),
-                          [layer](const Layer &other) { return !holds(layer, other.widget); });
-    // The layer itself was appended last, and comes right below what is inside it.
-    const auto first = std::find_if(list.begin(), list.end(),
-                                    [layer](const Layer &other) { return holds(layer, other.widget); });
-    std::rotate(first, std::prev(list.end()), list.end());
+    // What is inside the layer was shown before it, if its window was; it lies over it all the same.
+    QList<Layer> group = {{layer, kind}};
+    std::copy_if(list.cbegin(), list.cend(), std::back_inserter(group),
+                 [layer](const Layer &other) { return holds(layer, other.widget); });
+    list.removeIf([layer](const Layer &other) { return holds(layer, other.widget); });
+    // On top of what lies in the same layer, and under whatever covers that one.
+    const QWidget *outer = layer->isWindow() ? nullptr : layerOf(layer->parentWidget());
+    const auto last = std::find_if(list.crbegin(), list.crend(), [outer](const Layer &other) {
+        return !outer || holds(outer, other.widget);
+    });
+    qsizetype place = std::distance(last, list.crend());
+    for (const Layer &moved : std::as_const(group))
+        list.insert(place++, moved);
 }
 
 void ZLayers::gone(const QWidget *layer)
@@ -165,8 +183,8 @@ QWidget *ZLayers::keyTarget(QWidget *layer)
 
 void ZLayers::takeKeys(QWidget *layer)
 {
-    if (!covering(layer))
-        keyTarget(layer)->setFocus(Qt::OtherFocusReason);
+    QWidget *cover = covering(layer);
+    keyTarget(cover ? cover : layer)->setFocus(Qt::OtherFocusReason);
 }
 
 void ZLayers::passKeysOn(QWidget *layer, QWidget *preferred)
@@ -184,9 +202,8 @@ void ZLayers::passKeysOn(QWidget *layer, QWidget *preferred)
 
 void ZLayers::tabOut(QWidget *layer, bool next)
 {
-    QWidget *start = layer->window()->focusWidget();
-    if (!start)
-        start = layer;
+    QWidget *focus = layer->window()->focusWidget();
+    QWidget *start = turnedAway() ? turnedAway().data() : focus ? focus : layer;
     const auto step = [next](QWidget *w) { return next ? w->nextInFocusChain() : w->previousInFocusChain(); };
     for (QWidget *w = step(start); w && w != start; w = step(w)) {
         const bool wanted = (w->focusPolicy() & Qt::TabFocus) && w->isEnabled() && !w->focusProxy()

@@ -4,7 +4,7 @@
 class QWidget;
 
 /// A layer is a screen or a dialog. The order is that of their showing; whatever lies inside a layer (a sub-screen,
-/// a dialog of the screen) comes up with it. Keys belong to the layer on top.
+/// a dialog of the screen) comes up with it, and never higher. Keys belong to the layer on top.
 namespace ZLayers {
 
 enum class Kind {
@@ -13,7 +13,7 @@ enum class Kind {
     OpenDialog   ///< the layers under it can be reached with the pointer and the Tab key
 };
 
-/// `layer` was shown, or shown again: it and the layers inside it are now on top.
+/// `layer` was shown, or shown again: it and the layers inside it are now on top of the layer around it.
 void shown(QWidget *layer, Kind kind);
 /// `layer` was hidden or is about to be destroyed. Not finding it is no error.
 void gone(const QWidget *layer);
@@ -30,7 +30,7 @@ QWidget *covering(const QWidget *layer);
 /// The widget of `layer` that takes its keys: the one that last had the focus, else the first that can have it,
 /// else the layer.
 QWidget *keyTarget(QWidget *layer);
-/// Gives the keys to `layer`, unless another layer covers it.
+/// Gives the keys to `layer`, or to the layer that covers it.
 void takeKeys(QWidget *layer);
 /// `layer` is going and is gone() already: where the focus is inside it, moves it to `preferred` if that can be
 /// reached, or else to the layer then on top.

@@ -56,6 +56,7 @@ ZMultiLineEdit::ZMultiLineEdit(QWidget *parent, const char *name)
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setContextMenuPolicy(Qt::NoContextMenu);
     setTabChangesFocus(true);
+    setUndoRedoEnabled(false);
     setCursorWidth(cursorPixels);
     document()->setDocumentMargin(0); // which would scroll away with the text
     setViewportMargins(margin, margin, margin, margin);
@@ -118,7 +119,7 @@ QSize ZMultiLineEdit::minimumSizeHint() const
     return QSize(0, 0);
 }
 
-// The one place for every way in: keys, paste, drop, input methods, undo, the program.
+// The one place for every way in but input methods, whose changes do not tell what is new in them.
 void ZMultiLineEdit::cutToLength()
 {
     const int length = document()->characterCount() - 1;
@@ -132,11 +133,9 @@ void ZMultiLineEdit::cutToLength()
     if (begin > 0 && first.isLowSurrogate() && document()->characterAt(begin - 1).isHighSurrogate())
         --begin;
     QTextCursor cut(document());
-    cut.joinPreviousEditBlock();
     cut.setPosition(begin);
     cut.setPosition(end, QTextCursor::KeepAnchor);
     cut.removeSelectedText();
-    cut.endEditBlock();
 }
 
 void ZMultiLineEdit::keyPressEvent(QKeyEvent *event)
@@ -164,10 +163,22 @@ void ZMultiLineEdit::keyPressEvent(QKeyEvent *event)
         QPlainTextEdit::keyPressEvent(event);
 }
 
+// What of `text` has room when `given` characters make way for it.
+QString ZMultiLineEdit::fitting(const QString &text, qsizetype given) const
+{
+    const qsizetype room = d->maxLength - (document()->characterCount() - 1 - given);
+    if (d->maxLength < 0 || text.size() <= room)
+        return text;
+    const qsizetype fits = std::max<qsizetype>(0, room);
+    const bool splitsPair = fits > 0 && text.at(fits - 1).isHighSurrogate();
+    return text.left(splitsPair ? fits - 1 : fits);
+}
+
 void ZMultiLineEdit::inputMethodEvent(QInputMethodEvent *event)
 {
     QInputMethodEvent plain(event->preeditString(), event->attributes());
-    plain.setCommitString(asOneParagraph(event->commitString()), event->replacementStart(),
+    const qsizetype given = event->replacementLength() + textCursor().selectedText().size();
+    plain.setCommitString(fitting(asOneParagraph(event->commitString()), given), event->replacementStart(),
                           event->replacementLength());
     QPlainTextEdit::inputMethodEvent(&plain);
     event->setAccepted(plain.isAccepted());

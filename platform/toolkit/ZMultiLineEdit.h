@@ -8,7 +8,7 @@
 #include <memory>
 
 /// A field for one paragraph: it wraps, and is as high as its lines ask for, up to a few, after which it scrolls. No
-/// line break gets in by key, paste, drop or input method; those of a pasted text become blanks.
+/// line break gets in by key, paste, drop or input method; those of a pasted text become blanks. There is no undo.
 ///
 /// Keys that are not the field's own go to the dialog around it: the select key (not the space bar, which types a
 /// blank), the softkeys and the clear key. The Backspace key takes away the character before the cursor, and is the
@@ -42,6 +42,7 @@ private:
     int shownLines() const;
     void linesChanged();
     void cutToLength();
+    QString fitting(const QString &text, qsizetype given) const;
 
     struct Private;
     std::unique_ptr<Private> d;

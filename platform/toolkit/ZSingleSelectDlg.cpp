@@ -1,5 +1,6 @@
 #include "ZSingleSelectDlg.h"
 
+#include "ZKeys.h"
 #include "ZListBox.h"
 #include "ZListItem.h"
 #include "ZMultiTap.h"
@@ -8,10 +9,12 @@
 #include "ZTextPane.h"
 #include "translation.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtGui/QPixmap>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
@@ -128,18 +131,14 @@ private:
     ZListBox *list;
 };
 
-bool beginsWith(const ZListItem *item, QChar letter)
-{
-    return !item->isSeparator() && item->title().startsWith(letter, Qt::CaseInsensitive);
-}
-
-// The next row after the current one that begins with `letter`, going round; -1 for none.
-int nextRowWith(const ZListBox *list, QChar letter)
+// The next row that begins with `start`, from `step` rows after the current one on and round; -1 for none.
+int nextRowWith(const ZListBox *list, const QString &start, int step)
 {
     const int count = list->count();
-    for (int step = 1; step <= count; ++step) {
-        const int row = (std::max(0, list->currentItem()) + step) % count;
-        if (beginsWith(list->item(row), letter))
+    for (int passed = 0; passed < count; ++passed) {
+        const int row = (std::max(0, list->currentItem()) + step + passed) % count;
+        const ZListItem *item = list->item(row);
+        if (!item->isSeparator() && item->title().startsWith(start, Qt::CaseInsensitive))
             return row;
     }
     return -1;
@@ -150,6 +149,8 @@ int nextRowWith(const ZListBox *list, QChar letter)
 struct ZSingleSelectDlg::Private {
     ZListBox *list = nullptr;
     ZMultiTap multiTap;
+    QString letters; // that were typed quickly, one after the other
+    QElapsedTimer sinceLetter;
 };
 
 ZSingleSelectDlg::ZSingleSelectDlg(const QString &header, const QString &message, QWidget *parent,
@@ -198,24 +199,47 @@ bool ZSingleSelectDlg::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched != d->list)
         return ZPopup::eventFilter(watched, event);
-    return event->type() == QEvent::KeyPress && moveByNumberKey(static_cast<const QKeyEvent *>(event));
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto *press = static_cast<const QKeyEvent *>(event);
+    return moveByNumberKey(press) || moveByLetter(press);
 }
 
-// Answers whether the key has done its work.
+// Answers whether the key has done its work, here and below.
 bool ZSingleSelectDlg::moveByNumberKey(const QKeyEvent *event)
 {
     const QString characters = ZMultiTap::charactersOf(event->key());
     const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
-    if (characters.isEmpty() || !isPlain || nextRowWith(d->list, characters.back()) >= 0) {
+    if (characters.isEmpty() || !isPlain || nextRowWith(d->list, characters.right(1), 0) >= 0) {
         d->multiTap.end();
         return false;
     }
     for (qsizetype tries = 0; tries < characters.size() && !event->isAutoRepeat(); ++tries) {
-        const int row = nextRowWith(d->list, d->multiTap.tap(event->key()).character);
+        const int row = nextRowWith(d->list, d->multiTap.tap(event->key()).character, 1);
         if (row < 0)
             continue;
         d->list->setSelected(row, true);
         break;
     }
+    return true;
+}
+
+bool ZSingleSelectDlg::moveByLetter(const QKeyEvent *event)
+{
+    const QString letter = event->text();
+    const bool isShortcut = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (letter.isEmpty() || !letter.front().isPrint() || isShortcut ||
+        ZKeys::phoneKey(event->key()) != ZKeys::PhoneKey::None)
+        return false;
+    const bool isQuick =
+        d->sinceLetter.isValid() && !d->sinceLetter.hasExpired(QApplication::keyboardInputInterval());
+    d->letters = isQuick ? d->letters + letter : letter;
+    d->sinceLetter.start();
+    const bool isOneLetter = d->letters.count(letter) * letter.size() == d->letters.size();
+    int row = nextRowWith(d->list, d->letters, d->letters == letter ? 1 : 0);
+    if (row < 0 && isOneLetter)
+        row = nextRowWith(d->list, letter, 1);
+    if (row >= 0)
+        d->list->setSelected(row, true);
     return true;
 }

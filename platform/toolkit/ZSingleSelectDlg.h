@@ -14,8 +14,8 @@ class ZListBox;
 /// Rows of the layout "%I%M" that have no icon show whether they are the chosen one. Titles too long for the
 /// display lose their middle: lists of names that end in a code stay readable at both ends.
 ///
-/// A typed letter moves to the next row that begins with it, several typed quickly to the next row that begins with
-/// all of them. On the phone's own keys each number key stands for its letters, the next one with each quick press,
+/// A typed letter moves to the next row that begins with it, several typed quickly (within
+/// QApplication::keyboardInputInterval()) to the next row that begins with all of them. On the phone's own keys each number key stands for its letters, the next one with each quick press,
 /// in a list where no row begins with the digit itself.
 class ZSingleSelectDlg : public ZPopup
 {
@@ -37,6 +37,7 @@ public:
 
 private:
     bool moveByNumberKey(const QKeyEvent *event);
+    bool moveByLetter(const QKeyEvent *event);
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -3,12 +3,15 @@
 #include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>
 
+#include <utility>
+
 namespace {
 
 // No display is as wide as this many characters.
 constexpr qsizetype longestLine = 1000;
 
 constexpr QChar ellipsis(0x2026);
+constexpr QChar zeroWidthSpace(0x200b);
 
 bool breaksLine(QChar c)
 {
@@ -62,14 +65,22 @@ void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, cons
 
 QString ZText::paragraph(const QString &text)
 {
-    QString result = text;
-    result.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    for (qsizetype i = 0; i < result.size(); ++i) {
-        const QChar c = result.at(i);
-        if (breaksLine(c) || c == QLatin1Char('\r'))
-            result[i] = QChar(QChar::LineSeparator);
-        else if (isControl(c))
-            result[i] = QLatin1Char(' ');
+    QString plain = text;
+    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    QString result;
+    result.reserve(plain.size());
+    qsizetype wordLength = 0;
+    for (const QChar c : std::as_const(plain)) {
+        // Breaking lines takes a time that grows with the square of the longest word.
+        if (++wordLength > longestLine && !c.isLowSurrogate()) {
+            result += zeroWidthSpace;
+            wordLength = 0;
+        }
+        const bool breaks = breaksLine(c) || c == QLatin1Char('\r');
+        const QChar shown = breaks ? QChar(QChar::LineSeparator) : isControl(c) ? QChar(QLatin1Char(' ')) : c;
+        if (shown.isSpace())
+            wordLength = 0;
+        result += shown;
     }
     return result;
 }

@@ -1,0 +1,310 @@
+// Dialogs without a parent: windows of their own over the phone's display.
+#include "ToolkitTestKit.h"
+#include "ZApplication.h"
+
+using namespace ToolkitTestKit;
+
+namespace {
+
+class Notice : public ZMessageDlg
+{
+public:
+    explicit Notice(int timeout = 0)
+        : ZMessageDlg(QString(), QStringLiteral("You are in a call."), InformationDlg, timeout, nullptr, nullptr, false, 0)
+    {
+    }
+};
+
+// The phone as a host shows it: a display inside a larger window.
+struct Phone {
+    Phone()
+    {
+        around.setGeometry(100, 80, 500, 420);
+        display.setGeometry(30, 40, 240, 320);
+        ZApplication::setDisplay(&display);
+        screen.addRows(6);
+        around.show();
+        screen.show();
+    }
+    ~Phone() { ZApplication::setDisplay(nullptr); }
+
+    QRect displayOnDesktop() const { return QRect(display.mapToGlobal(QPoint(0, 0)), display.size()); }
+
+    QWidget around;
+    QWidget frame{&around};
+    QWidget display{&around};
+    TestScreen screen{&display};
+};
+
+} // namespace
+
+class DialogWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void it_has_no_parent_and_keeps_none();
+    void it_lies_over_the_display();
+    void without_a_display_it_has_the_displays_size();
+    void it_moves_with_the_display_whatever_moves();
+    void it_hides_with_the_display_and_comes_back_with_it();
+    void one_that_was_dismissed_does_not_come_back();
+    void it_takes_the_keys_and_gives_them_back();
+    void showing_it_again_takes_the_keys_again();
+    void it_stays_over_the_confirmation_that_goes();
+    void it_survives_its_display();
+    void whoever_answers_may_delete_it_data();
+    void whoever_answers_may_delete_it();
+    void only_box_and_softkeys_are_painted();
+    void a_screen_that_deletes_it_in_its_destructor_leaves_nothing_behind();
+    void the_display_is_what_was_set_or_else_the_outermost_screen();
+};
+
+void DialogWindowTest::init()
+{
+    noWarnings();
+}
+
+void DialogWindowTest::it_has_no_parent_and_keeps_none()
+{
+    const Phone phone;
+    Notice notice;
+    QVERIFY(!notice.parent());
+    notice.show();
+    QVERIFY(!notice.parent());
+    QVERIFY(notice.isWindow());
+    notice.hide();
+    QVERIFY(!notice.parent());
+}
+
+void DialogWindowTest::it_lies_over_the_display()
+{
+    const Phone phone;
+    Notice notice;
+    notice.show();
+    QCOMPARE(notice.geometry(), phone.displayOnDesktop());
+    QCOMPARE(notice.windowHandle()->transientParent(), phone.around.windowHandle());
+}
+
+void DialogWindowTest::without_a_display_it_has_the_displays_size()
+{
+    QVERIFY(!ZApplication::display());
+    Notice notice;
+    notice.show();
+    QCOMPARE(notice.size(), QSize(240, 320));
+    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    clickInWindow(&notice, Qt::Key_Select);
+    QVERIFY(!notice.isVisible());
+}
+
+void DialogWindowTest::it_moves_with_the_display_whatever_moves()
+{
+    Phone phone;
+    Notice notice;
+    notice.show();
+    phone.around.move(220, 130);
+    settle();
+    QCOMPARE(notice.geometry(), phone.displayOnDesktop());
+    phone.display.move(60, 10);
+    settle();
+    QCOMPARE(notice.geometry(), phone.displayOnDesktop());
+    phone.display.resize(260, 340);
+    settle();
+    QCOMPARE(notice.geometry(), phone.displayOnDesktop());
+    QCOMPARE(notice.softKey()->geometry().bottom(), notice.rect().bottom());
+    notice.hide();
+    phone.around.move(100, 80);
+    notice.show();
+    QCOMPARE(notice.geometry(), phone.displayOnDesktop());
+}
+
+void DialogWindowTest::it_hides_with_the_display_and_comes_back_with_it()
+{
+    Phone phone;
+    Notice notice;
+    QSignalSpy answered(&notice, &ZPopup::leftSoftkeyClicked);
+    notice.show();
+    phone.around.hide();
+    QVERIFY(!notice.isVisible());
+    phone.around.show();
+    QVERIFY(notice.isVisible());
+    phone.display.hide();
+    QVERIFY(!notice.isVisible());
+    phone.display.show();
+    QVERIFY(notice.isVisible());
+    QCOMPARE(answered.count(), 0);
+}
+
+void DialogWindowTest::one_that_was_dismissed_does_not_come_back()
+{
+    Phone phone;
+    Notice notice;
+    notice.show();
+    click(&notice, Qt::Key_Select);
+    phone.around.hide();
+    phone.around.show();
+    QVERIFY(!notice.isVisible());
+    notice.show();
+    phone.around.hide();
+    notice.hide();
+    phone.around.show();
+    QVERIFY(!notice.isVisible());
+}
+
+void DialogWindowTest::it_takes_the_keys_and_gives_them_back()
+{
+    Phone phone;
+    QVERIFY(QTest::qWaitForWindowActive(&phone.around));
+    Notice notice;
+    notice.show();
+    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    QTRY_COMPARE(QApplication::focusWidget(), &notice);
+    QCOMPARE(ZApplication::keyTarget(), &notice);
+    QVERIFY(ZApplication::pressKey(Qt::Key_Down));
+    QCOMPARE(phone.screen.list->currentItem(), 0);
+    clickInWindow(&notice, Qt::Key_Select);
+    QVERIFY(!notice.isVisible());
+    QTRY_VERIFY(phone.screen.list->hasFocus());
+    QVERIFY(ZApplication::pressKey(Qt::Key_Down));
+    clickInWindow(&phone.around, Qt::Key_Down);
+    QCOMPARE(phone.screen.list->currentItem(), 2);
+}
+
+void DialogWindowTest::showing_it_again_takes_the_keys_again()
+{
+    Phone phone;
+    Notice notice;
+    QSignalSpy answered(&notice, &ZPopup::leftSoftkeyClicked);
+    for (int i = 1; i <= 3; ++i) {
+        notice.show();
+        QVERIFY(QTest::qWaitForWindowActive(&notice));
+        clickInWindow(&notice, Qt::Key_Context1);
+        QCOMPARE(answered.count(), i);
+        QTRY_VERIFY(phone.around.isActiveWindow());
+    }
+    notice.show();
+    phone.around.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&phone.around));
+    notice.show();
+    QVERIFY(QTest::qWaitForWindowActive(&notice));
+}
+
+void DialogWindowTest::it_stays_over_the_confirmation_that_goes()
+{
+    // As a refused reset does it: the notice comes up in the answer, then the question is deleted.
+    Phone phone;
+    QVERIFY(QTest::qWaitForWindowActive(&phone.around));
+    Notice notice;
+    auto *question = new ZMessageDlg(QStringLiteral("Reset"), QStringLiteral("Sure?"), ZMessageDlg::QuestionDlg, 0,
+                                     &phone.screen, nullptr, true, 0);
+    connect(question, &ZPopup::leftSoftkeyClicked, this, [&] {
+        notice.show();
+        delete question;
+    });
+    question->show();
+    clickInWindow(&phone.around, Qt::Key_Select);
+    QVERIFY(notice.isVisible());
+    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    QCOMPARE(ZApplication::keyTarget(), &notice);
+    clickInWindow(&notice, Qt::Key_Select);
+    QTRY_VERIFY(phone.screen.list->hasFocus());
+}
+
+void DialogWindowTest::it_survives_its_display()
+{
+    auto *screen = new TestScreen;
+    screen->show();
+    Notice notice;
+    notice.show();
+    QCOMPARE(notice.geometry().size(), screen->size());
+    delete screen;
+    settle();
+    notice.show();
+    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    clickInWindow(&notice, Qt::Key_Select);
+    QVERIFY(!notice.isVisible());
+}
+
+void DialogWindowTest::whoever_answers_may_delete_it_data()
+{
+    QTest::addColumn<int>("by");
+    QTest::newRow("by key") << 0;
+    QTest::newRow("by a key through the window system") << 1;
+    QTest::newRow("by the pointer") << 2;
+    QTest::newRow("by the timer") << 3;
+}
+
+void DialogWindowTest::whoever_answers_may_delete_it()
+{
+    QFETCH(int, by);
+    const Phone phone;
+    const QPointer<Notice> notice = new Notice(by == 3 ? 1 : 0);
+    connect(notice, &ZPopup::leftSoftkeyClicked, this, [&] { delete notice; });
+    notice->show();
+    QVERIFY(by == 3 || QTest::qWaitForWindowActive(notice));
+    if (by == 0)
+        press(notice, Qt::Key_Select);
+    else if (by == 1)
+        clickInWindow(notice, Qt::Key_Select);
+    else if (by == 2)
+        QTest::mouseClick(notice->windowHandle(), Qt::LeftButton, {}, QPoint(20, 310));
+    QTRY_VERIFY(!notice);
+    settle();
+}
+
+void DialogWindowTest::only_box_and_softkeys_are_painted()
+{
+    const Phone phone;
+    Notice notice;
+    notice.show();
+    QImage image(notice.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    notice.render(&image, QPoint(), QRegion(), QWidget::DrawChildren);
+    QCOMPARE(image.pixelColor(2, 2).alpha(), 0);
+    QCOMPARE(image.pixelColor(120, 280).alpha(), 0);
+    QCOMPARE(image.pixelColor(120, 310).alpha(), 255);
+    QCOMPARE(image.pixelColor(120, 146).alpha(), 255);
+}
+
+void DialogWindowTest::a_screen_that_deletes_it_in_its_destructor_leaves_nothing_behind()
+{
+    struct Owner : TestScreen {
+        Owner() { notice.show(); }
+        Notice notice;
+    };
+    auto *owner = new Owner;
+    owner->show();
+    owner->notice.show();
+    delete owner;
+    settle();
+    QVERIFY(!ZApplication::keyTarget());
+    QVERIFY(!ZApplication::pressKey(Qt::Key_Select));
+}
+
+void DialogWindowTest::the_display_is_what_was_set_or_else_the_outermost_screen()
+{
+    QVERIFY(!ZApplication::display());
+    TestScreen screen;
+    QVERIFY(!ZApplication::display());
+    screen.show();
+    QCOMPARE(ZApplication::display(), &screen);
+    TestScreen sub(&screen);
+    sub.show();
+    QCOMPARE(ZApplication::display(), &screen);
+    TestScreen later;
+    later.show();
+    QCOMPARE(ZApplication::display(), &later);
+    later.hide();
+    QCOMPARE(ZApplication::display(), &screen);
+    {
+        QWidget chosen;
+        ZApplication::setDisplay(&chosen);
+        QCOMPARE(ZApplication::display(), &chosen);
+    }
+    QCOMPARE(ZApplication::display(), &screen);
+}
+
+QTEST_MAIN(DialogWindowTest)
+#include "tst_dialog_window.moc"

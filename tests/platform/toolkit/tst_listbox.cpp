@@ -1,0 +1,779 @@
+// The list: rows, ownership, the focus bar, keys and pointer, what is reported.
+#include "ToolkitTestKit.h"
+#include "ZListBoxItem.h"
+
+#include <array>
+
+using namespace ToolkitTestKit;
+
+namespace {
+
+constexpr auto Title = ZSettingItem::TitleRegion;
+constexpr auto Value = ZSettingItem::ValueRegion;
+
+int livingItems = 0;
+
+class CountedItem : public ZSettingItem
+{
+public:
+    explicit CountedItem(ZListBox *list)
+        : ZSettingItem(list, QString())
+    {
+        ++livingItems;
+    }
+    ~CountedItem() override { --livingItems; }
+};
+
+// The rows that a model reports as changed, in order.
+class ChangedRows : public QObject
+{
+public:
+    explicit ChangedRows(QAbstractItemModel *model)
+    {
+        connect(model, &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &from, const QModelIndex &to) {
+            for (int row = from.row(); row <= to.row(); ++row)
+                rows << row;
+        });
+        connect(model, &QAbstractItemModel::modelReset, this, [this] { rows << -1; });
+        connect(model, &QAbstractItemModel::layoutChanged, this, [this] { rows << -2; });
+    }
+
+    QList<int> rows;
+};
+
+qint64 nanosecondsToFill(int count)
+{
+    QElapsedTimer timer;
+    timer.start();
+    TestScreen screen;
+    for (int i = 0; i < count; ++i) {
+        ZSettingItem *item = screen.addRow(QStringLiteral("Row"));
+        if (screen.list->index(item) != i)
+            return -1;
+    }
+    return timer.nsecsElapsed();
+}
+
+} // namespace
+
+class ListBoxTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void rows_are_kept_in_the_order_of_their_insertion();
+    void a_row_can_be_put_before_another_and_all_rows_know_their_place();
+    void an_index_that_is_not_there_gives_no_row();
+    void what_cannot_be_inserted_is_refused_with_a_warning();
+    void the_list_deletes_all_items_made_on_it_inserted_or_not();
+    void a_deleted_item_takes_its_row_along();
+    void an_item_that_outlives_its_list_knows_of_none();
+    void clear_deletes_the_rows_and_leaves_the_list_usable();
+    void sub_items_make_title_and_value();
+    void a_sub_item_that_has_no_place_is_refused_with_a_warning();
+    void plain_items_keep_their_texts_by_number();
+    void an_item_without_a_layout_of_its_own_has_the_lists();
+    void a_rewritten_value_is_reported_for_its_row_only();
+    void rewriting_the_same_text_is_reported_too();
+    void what_a_screen_reader_says_is_title_and_value();
+    void the_first_row_that_can_be_chosen_gets_the_focus_bar();
+    void setSelected_moves_and_takes_away_the_bar_and_ignores_bad_rows();
+    void up_and_down_pass_over_separators_and_go_on_at_the_other_end();
+    void a_held_key_stops_at_the_end();
+    void page_and_end_keys_move_the_bar_data();
+    void page_and_end_keys_move_the_bar();
+    void a_typed_letter_moves_to_the_next_row_that_begins_with_it();
+    void the_headings_over_a_row_come_into_view_with_it();
+    void keys_on_a_list_without_choosable_rows_are_harmless();
+    void the_bar_leaves_a_row_that_becomes_a_separator();
+    void choosing_is_reported_once_data();
+    void choosing_is_reported_once();
+    void a_held_select_key_chooses_once();
+    void a_disabled_row_is_reported_and_says_that_it_is_disabled();
+    void a_separator_is_never_reported();
+    void a_row_of_another_kind_is_reported_without_a_setting_item();
+    void a_pointer_released_on_another_row_chooses_nothing();
+    void only_the_main_button_chooses();
+    void whoever_hears_of_a_choice_may_do_anything_data();
+    void whoever_hears_of_a_choice_may_do_anything();
+    void a_list_rebuilt_in_the_first_report_does_not_report_the_new_row();
+    void texts_of_any_length_and_content_do_no_harm();
+    void the_cost_of_filling_grows_with_the_number_of_rows_only();
+    void random_insertions_and_deletions_agree_with_a_plain_list();
+};
+
+void ListBoxTest::init()
+{
+    noWarnings();
+}
+
+void ListBoxTest::rows_are_kept_in_the_order_of_their_insertion()
+{
+    TestScreen screen;
+    ZSettingItem *a = screen.addRow(QStringLiteral("A"));
+    ZSettingItem *b = screen.addRow(QStringLiteral("B"));
+    QCOMPARE(screen.list->count(), 2);
+    QCOMPARE(screen.list->item(0), a);
+    QCOMPARE(screen.list->item(1), b);
+    QCOMPARE(screen.list->index(a), 0);
+    QCOMPARE(screen.list->index(b), 1);
+    QCOMPARE(screen.list->model()->rowCount(), 2);
+}
+
+void ListBoxTest::a_row_can_be_put_before_another_and_all_rows_know_their_place()
+{
+    TestScreen screen;
+    screen.addRows(3);
+    for (const int place : {0, 2, 4, 100, -5}) {
+        auto *item = new ZSettingItem(screen.list, QString());
+        item->appendSubItem(0, QStringLiteral("at %1").arg(place), false, Title);
+        screen.list->insertItem(item, place, place > 1);
+    }
+    QCOMPARE(screen.titles(), QStringLiteral("at 0|Row 0|at 2|Row 1|at 4|Row 2|at 100|at -5"));
+    for (int row = 0; row < screen.list->count(); ++row)
+        QCOMPARE(screen.list->index(screen.list->item(row)), row);
+    QVERIFY2(screen.list->isSelected(1), "the bar does not stay on its row");
+}
+
+void ListBoxTest::an_index_that_is_not_there_gives_no_row()
+{
+    TestScreen screen;
+    TestScreen other;
+    screen.addRows(2);
+    QVERIFY(!screen.list->item(-1));
+    QVERIFY(!screen.list->item(2));
+    QCOMPARE(screen.list->index(nullptr), -1);
+    QCOMPARE(screen.list->index(other.addRow(QStringLiteral("X"))), -1);
+    QCOMPARE(screen.list->index(new ZSettingItem(screen.list, QString())), -1);
+}
+
+void ListBoxTest::what_cannot_be_inserted_is_refused_with_a_warning()
+{
+    TestScreen screen;
+    TestScreen other;
+    ZSettingItem *a = screen.addRow(QStringLiteral("A"));
+    ZSettingItem ownerless(nullptr, QString());
+    ownerless.appendSubItem(0, QStringLiteral("nobody's"), false, Title);
+    const auto refused = [](const char *why) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QLatin1String(why)));
+    };
+    refused("not made on this list");
+    screen.list->insertItem(nullptr, -1, true);
+    refused("not made on this list");
+    screen.list->insertItem(&ownerless, -1, true);
+    refused("not made on this list");
+    other.list->insertItem(a, -1, true);
+    refused("in the list already");
+    screen.list->insertItem(a, 0, true);
+    QCOMPARE(screen.titles(), QStringLiteral("A"));
+    QCOMPARE(other.list->count(), 0);
+    QVERIFY(!ownerless.listBox());
+}
+
+void ListBoxTest::the_list_deletes_all_items_made_on_it_inserted_or_not()
+{
+    livingItems = 0;
+    {
+        TestScreen screen;
+        for (int i = 0; i < 20; ++i) {
+            auto *item = new CountedItem(screen.list);
+            if (i % 2)
+                screen.list->insertItem(item, -1, true);
+        }
+        QCOMPARE(livingItems, 20);
+        screen.list->clear();
+        QCOMPARE(livingItems, 10);
+    }
+    QCOMPARE(livingItems, 0);
+}
+
+void ListBoxTest::a_deleted_item_takes_its_row_along()
+{
+    TestScreen screen;
+    screen.addRows(4);
+    screen.list->setSelected(1, true);
+    ZListItem *gone = screen.list->item(1);
+    delete gone;
+    QCOMPARE(screen.titles(), QStringLiteral("Row 0|Row 2|Row 3"));
+    QCOMPARE(screen.list->index(gone), -1);
+    QCOMPARE(screen.list->currentItem(), 1);
+    delete screen.list->item(2);
+    QCOMPARE(screen.list->currentItem(), 1);
+    delete screen.list->item(1);
+    QCOMPARE(screen.list->currentItem(), 0);
+    delete screen.list->item(0);
+    QCOMPARE(screen.list->currentItem(), -1);
+    delete new ZSettingItem(screen.list, QString());
+    QCOMPARE(screen.list->count(), 0);
+}
+
+void ListBoxTest::an_item_that_outlives_its_list_knows_of_none()
+{
+    // An item's own destructor runs while the list goes.
+    struct Asking : ZSettingItem {
+        Asking(ZListBox *list, bool *hadList)
+            : ZSettingItem(list, QString())
+            , answer(hadList)
+        {
+        }
+        ~Asking() override
+        {
+            setEnabled(false);
+            *answer = listBox() != nullptr;
+        }
+        bool *answer;
+    };
+    bool hadList = true;
+    {
+        TestScreen screen;
+        screen.list->insertItem(new Asking(screen.list, &hadList), -1, true);
+    }
+    QVERIFY(!hadList);
+}
+
+void ListBoxTest::clear_deletes_the_rows_and_leaves_the_list_usable()
+{
+    TestScreen screen;
+    screen.addRows(30);
+    screen.show();
+    screen.list->setSelected(25, true);
+    screen.list->clear();
+    QCOMPARE(screen.list->count(), 0);
+    QCOMPARE(screen.list->currentItem(), -1);
+    screen.list->clear();
+    screen.addRows(2);
+    QCOMPARE(screen.titles(), QStringLiteral("Row 0|Row 1"));
+    QCOMPARE(screen.list->currentItem(), 0);
+}
+
+void ListBoxTest::sub_items_make_title_and_value()
+{
+    TestScreen screen;
+    auto *item = new ZSettingItem(screen.list, QString());
+    QVERIFY(item->title().isNull());
+    QVERIFY(item->value().isNull());
+    item->appendSubItem(0, QStringLiteral("Credit"), false, Title);
+    QVERIFY(item->value().isNull());
+    item->setSubItem(0, 1, QStringLiteral("12.50 EUR "), false, Value);
+    QCOMPARE(item->subItemCount(), 2);
+    QCOMPARE(item->title(), QStringLiteral("Credit"));
+    QCOMPARE(item->value(), QStringLiteral("12.50 EUR "));
+    item->setSubItem(0, 1, QStringLiteral("0.00"), true, Value);
+    QCOMPARE(item->subItemText(1), QStringLiteral("0.00"));
+    QVERIFY(item->isMarked());
+    QCOMPARE(item->subItemText(0), QStringLiteral("Credit"));
+    QVERIFY(item->subItemText(2).isNull());
+    QVERIFY(item->subItemText(-1).isNull());
+}
+
+void ListBoxTest::a_sub_item_that_has_no_place_is_refused_with_a_warning()
+{
+    TestScreen screen;
+    ZSettingItem *item = screen.addRow(QStringLiteral("Title"), QStringLiteral("Value"));
+    const auto refused = [] {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("ZSettingItem::.*there is no")));
+    };
+    refused();
+    item->setSubItem(0, 3, QStringLiteral("x"), false, Value);
+    refused();
+    item->setSubItem(0, -1, QStringLiteral("x"), false, Value);
+    refused();
+    item->setSubItem(1, 1, QStringLiteral("x"), false, Value);
+    refused();
+    item->setSubItem(0, 1, QStringLiteral("x"), false, static_cast<ZSettingItem::SettingItemRegion>(2));
+    refused();
+    item->appendSubItem(1, QStringLiteral("x"), false, Title);
+    QCOMPARE(item->subItemCount(), 2);
+    QCOMPARE(item->title(), QStringLiteral("Title"));
+    QCOMPARE(item->value(), QStringLiteral("Value"));
+}
+
+void ListBoxTest::plain_items_keep_their_texts_by_number()
+{
+    TestScreen screen;
+    auto *item = new ZListBoxItem(screen.list, QString());
+    QPixmap icon(8, 8);
+    item->appendSubItem(0, QString(), QString(), &icon, 50, ZListBoxItem::HighShowPriority);
+    item->appendSubItem(1, QStringLiteral("On"), QString(), nullptr, 50, ZListBoxItem::HighShowPriority);
+    screen.list->insertItem(item, -1, true);
+    QCOMPARE(item->getSubItemText(0, 1, false), QStringLiteral("On"));
+    QVERIFY(item->getSubItemText(0, 0, false).isEmpty());
+    QVERIFY(item->getSubItemText(0, 2, false).isNull());
+    QVERIFY(item->getSubItemText(1, 1, false).isNull());
+    QCOMPARE(item->title(), QStringLiteral("On"));
+    QCOMPARE(item->icon().size(), QSize(8, 8));
+    QTest::ignoreMessage(QtWarningMsg, "ZListBoxItem::appendSubItem: there is no sub-item -1");
+    item->appendSubItem(-1, QStringLiteral("x"), QString(), nullptr, 50, ZListBoxItem::LowShowPriority);
+    item->setSeparator(QStringLiteral("Heading"), nullptr);
+    QCOMPARE(item->title(), QStringLiteral("Heading"));
+    QVERIFY(item->icon().isNull());
+}
+
+void ListBoxTest::an_item_without_a_layout_of_its_own_has_the_lists()
+{
+    TestScreen screen;
+    const ZSettingItem own(screen.list, QStringLiteral("%P"));
+    const ZSettingItem none(screen.list, QString());
+    QCOMPARE(own.type(), QStringLiteral("%P"));
+    QVERIFY(own.isSeparator());
+    QCOMPARE(none.type(), QStringLiteral("%M"));
+    QVERIFY(!none.isSeparator());
+    screen.list->setItemType(QStringLiteral("%I%M"));
+    QCOMPARE(none.type(), QStringLiteral("%I%M"));
+}
+
+void ListBoxTest::a_rewritten_value_is_reported_for_its_row_only()
+{
+    TestScreen screen;
+    screen.addRows(6);
+    ChangedRows changed(screen.list->model());
+    for (const int row : {3, 0, 5})
+        static_cast<ZSettingItem *>(screen.list->item(row))->setSubItem(0, 1, QStringLiteral("new"), false, Value);
+    QCOMPARE(changed.rows, QList<int>({3, 0, 5}));
+    QCOMPARE(screen.list->model()->index(3, 0).data(ZListBox::ValueRole).toString(), QStringLiteral("new"));
+    QCOMPARE(screen.list->model()->index(4, 0).data(ZListBox::ValueRole).toString(), QStringLiteral("4"));
+    changed.rows.clear();
+    screen.list->item(2)->setEnabled(false);
+    screen.list->item(2)->setEnabled(false);
+    QCOMPARE(changed.rows, QList<int>({2}));
+}
+
+void ListBoxTest::rewriting_the_same_text_is_reported_too()
+{
+    TestScreen screen;
+    screen.addRows(2);
+    ChangedRows changed(screen.list->model());
+    auto *item = static_cast<ZSettingItem *>(screen.list->item(1));
+    item->setSubItem(0, 1, item->value(), false, Value);
+    QCOMPARE(changed.rows, QList<int>({1}));
+}
+
+void ListBoxTest::what_a_screen_reader_says_is_title_and_value()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("Last Call"), QStringLiteral("00:01:05"));
+    screen.addRow(QStringLiteral("Call Cost Setup"));
+    screen.addSeparator(QStringLiteral("All Data Sessions"));
+    const auto spoken = [&](int row) {
+        return screen.list->model()->index(row, 0).data(Qt::AccessibleTextRole).toString();
+    };
+    QCOMPARE(spoken(0), QStringLiteral("Last Call, 00:01:05"));
+    QCOMPARE(spoken(1), QStringLiteral("Call Cost Setup"));
+    QCOMPARE(spoken(2), QStringLiteral("All Data Sessions"));
+    QVERIFY(screen.list->model()->index(2, 0).data(ZListBox::SeparatorRole).toBool());
+    const QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(screen.list);
+    QVERIFY(accessible);
+    QCOMPARE(accessible->childCount(), 3);
+    QCOMPARE(accessible->child(0)->text(QAccessible::Name), QStringLiteral("Last Call, 00:01:05"));
+}
+
+void ListBoxTest::the_first_row_that_can_be_chosen_gets_the_focus_bar()
+{
+    TestScreen screen;
+    QCOMPARE(screen.list->currentItem(), -1);
+    screen.addSeparator(QStringLiteral("Heading"));
+    QCOMPARE(screen.list->currentItem(), -1);
+    screen.addRow(QStringLiteral("A"))->setEnabled(false);
+    screen.addRow(QStringLiteral("B"));
+    QCOMPARE(screen.list->currentItem(), 1);
+    QVERIFY(screen.list->isSelected(1));
+    QVERIFY(!screen.list->isSelected(0));
+    QVERIFY(!screen.list->isSelected(-1));
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QCOMPARE(screen.list->currentItem(), 1);
+}
+
+void ListBoxTest::setSelected_moves_and_takes_away_the_bar_and_ignores_bad_rows()
+{
+    TestScreen screen;
+    screen.addRows(3);
+    screen.addSeparator(QStringLiteral("Heading"));
+    screen.list->setSelected(2, true);
+    QCOMPARE(screen.list->currentItem(), 2);
+    for (const int bad : {-1, 3, 4, 1000}) {
+        screen.list->setSelected(bad, true);
+        screen.list->setSelected(bad, false);
+        QCOMPARE(screen.list->currentItem(), 2);
+    }
+    screen.list->setSelected(1, false);
+    QCOMPARE(screen.list->currentItem(), 2);
+    screen.list->setSelected(2, false);
+    QCOMPARE(screen.list->currentItem(), -1);
+    QVERIFY(!screen.list->isSelected(-1));
+    click(screen.list, Qt::Key_Down);
+    QCOMPARE(screen.list->currentItem(), 0);
+}
+
+void ListBoxTest::up_and_down_pass_over_separators_and_go_on_at_the_other_end()
+{
+    TestScreen screen;
+    screen.addSeparator(QStringLiteral("Heading"));
+    screen.addSeparator(QStringLiteral("Heading"));
+    screen.addRow(QStringLiteral("2"));
+    screen.addSeparator(QStringLiteral("Heading"));
+    screen.addRow(QStringLiteral("4"));
+    screen.addRow(QStringLiteral("5"))->setEnabled(false);
+    screen.addSeparator(QStringLiteral("Heading"));
+    QList<int> way;
+    for (int i = 0; i < 4; ++i) {
+        click(screen.list, Qt::Key_Down);
+        way << screen.list->currentItem();
+    }
+    QCOMPARE(way, QList<int>({4, 5, 2, 4}));
+    way.clear();
+    for (int i = 0; i < 4; ++i) {
+        click(screen.list, Qt::Key_Up);
+        way << screen.list->currentItem();
+    }
+    QCOMPARE(way, QList<int>({2, 5, 4, 2}));
+}
+
+void ListBoxTest::a_held_key_stops_at_the_end()
+{
+    TestScreen screen;
+    screen.addRows(5);
+    press(screen.list, Qt::Key_Down);
+    for (int i = 0; i < 20; ++i)
+        press(screen.list, Qt::Key_Down, true);
+    QCOMPARE(screen.list->currentItem(), 4);
+    press(screen.list, Qt::Key_Down);
+    QCOMPARE(screen.list->currentItem(), 0);
+    press(screen.list, Qt::Key_Up, true);
+    QCOMPARE(screen.list->currentItem(), 0);
+}
+
+void ListBoxTest::page_and_end_keys_move_the_bar_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("to");
+    // 11 rows are in sight; row 0 and row 39 are separators.
+    QTest::newRow("a page down") << 1 << int(Qt::Key_PageDown) << 11;
+    QTest::newRow("a page down near the end") << 35 << int(Qt::Key_PageDown) << 38;
+    QTest::newRow("a page up") << 20 << int(Qt::Key_PageUp) << 10;
+    QTest::newRow("a page up near the start") << 4 << int(Qt::Key_PageUp) << 1;
+    QTest::newRow("home") << 20 << int(Qt::Key_Home) << 1;
+    QTest::newRow("end") << 20 << int(Qt::Key_End) << 38;
+}
+
+void ListBoxTest::page_and_end_keys_move_the_bar()
+{
+    QFETCH(int, from);
+    QFETCH(int, key);
+    QFETCH(int, to);
+    TestScreen screen;
+    screen.addSeparator(QStringLiteral("First"));
+    screen.addRows(38);
+    screen.addSeparator(QStringLiteral("Last"));
+    screen.show();
+    screen.list->setSelected(from, true);
+    click(screen.list, key);
+    QCOMPARE(screen.list->currentItem(), to);
+    const QRect seen = screen.list->visualRect(screen.list->currentIndex());
+    QVERIFY(screen.list->viewport()->rect().contains(seen));
+}
+
+void ListBoxTest::a_typed_letter_moves_to_the_next_row_that_begins_with_it()
+{
+    TestScreen screen;
+    for (const char *title : {"Andorra", "Belgium", "Bhutan", "Chad"})
+        screen.addRow(QLatin1String(title));
+    screen.addSeparator(QStringLiteral("Denmark"));
+    QApplication::setKeyboardInputInterval(100'000);
+    type(screen.list, QLatin1Char('b'));
+    QCOMPARE(screen.list->currentItem(), 1);
+    type(screen.list, QLatin1Char('h'));
+    QCOMPARE(screen.list->currentItem(), 2);
+    for (const auto &[letter, row] : {std::pair('a', 0), std::pair('d', 2)}) {
+        screen.list->keyboardSearch(QString()); // as after a pause, but for the bar
+        screen.list->setSelected(2, true);
+        type(screen.list, QLatin1Char(letter));
+        QCOMPARE(screen.list->currentItem(), row);
+    }
+}
+
+void ListBoxTest::the_headings_over_a_row_come_into_view_with_it()
+{
+    TestScreen screen;
+    screen.addSeparator(QStringLiteral("First"));
+    screen.addSeparator(QStringLiteral("Second"));
+    screen.addRows(30);
+    screen.show();
+    settle();
+    click(screen.list, Qt::Key_End);
+    QVERIFY(screen.list->verticalScrollBar()->value() > 0);
+    click(screen.list, Qt::Key_Down);
+    QCOMPARE(screen.list->currentItem(), 2);
+    QCOMPARE(screen.list->verticalScrollBar()->value(), 0);
+}
+
+void ListBoxTest::keys_on_a_list_without_choosable_rows_are_harmless()
+{
+    TestScreen screen;
+    QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
+    screen.show();
+    for (int round = 0; round < 2; ++round) {
+        for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
+                               Qt::Key_Select, Qt::Key_B})
+            click(screen.list, key);
+        QCOMPARE(screen.list->currentItem(), -1);
+        screen.addSeparator(QStringLiteral("Heading"));
+    }
+    QCOMPARE(chosen.count(), 0);
+}
+
+void ListBoxTest::the_bar_leaves_a_row_that_becomes_a_separator()
+{
+    TestScreen screen;
+    screen.addRows(3);
+    screen.list->setSelected(2, true);
+    screen.list->item(2)->setSeparator(QStringLiteral("Heading"), nullptr);
+    QCOMPARE(screen.list->currentItem(), 1);
+    screen.list->item(1)->setSeparator(QStringLiteral("Heading"), nullptr);
+    screen.list->item(0)->setSeparator(QStringLiteral("Heading"), nullptr);
+    QCOMPARE(screen.list->currentItem(), -1);
+}
+
+void ListBoxTest::choosing_is_reported_once_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("by the select key") << int(Qt::Key_Select);
+    QTest::newRow("by return") << int(Qt::Key_Return);
+    QTest::newRow("by enter") << int(Qt::Key_Enter);
+    QTest::newRow("by space") << int(Qt::Key_Space);
+    QTest::newRow("by the pointer") << 0;
+}
+
+void ListBoxTest::choosing_is_reported_once()
+{
+    QFETCH(int, key);
+    TestScreen screen;
+    screen.addRows(4);
+    screen.show();
+    QList<int> selected;
+    QList<int> chosen;
+    connect(screen.list, &ZListBox::selected, this, [&](ZSettingItem *item) { selected << screen.list->index(item); });
+    connect(screen.list, &ZListBox::itemChosen, this, [&](ZListItem *item) { chosen << screen.list->index(item); });
+    if (key) {
+        screen.list->setSelected(2, true);
+        click(screen.list, key);
+    } else {
+        QTest::mouseClick(screen.list->viewport(), Qt::LeftButton, {}, middleOfRow(screen.list, 2));
+    }
+    QCOMPARE(selected, QList<int>({2}));
+    QCOMPARE(chosen, QList<int>({2}));
+    QCOMPARE(screen.list->currentItem(), 2);
+}
+
+void ListBoxTest::a_held_select_key_chooses_once()
+{
+    TestScreen screen;
+    screen.addRows(2);
+    QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
+    press(screen.list, Qt::Key_Select);
+    for (int i = 0; i < 5; ++i)
+        press(screen.list, Qt::Key_Select, true);
+    QCOMPARE(chosen.count(), 1);
+}
+
+void ListBoxTest::a_disabled_row_is_reported_and_says_that_it_is_disabled()
+{
+    TestScreen screen;
+    screen.addRows(2);
+    screen.list->item(1)->setEnabled(false);
+    QVERIFY(!screen.list->model()->index(1, 0).data(ZListBox::EnabledRole).toBool());
+    QList<bool> enabled;
+    connect(screen.list, &ZListBox::selected, this, [&](ZSettingItem *item) { enabled << item->enabled(); });
+    click(screen.list, Qt::Key_Down);
+    click(screen.list, Qt::Key_Select);
+    screen.list->item(1)->setEnabled(true);
+    click(screen.list, Qt::Key_Select);
+    QCOMPARE(enabled, QList<bool>({false, true}));
+}
+
+void ListBoxTest::a_separator_is_never_reported()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("A"));
+    screen.addSeparator(QStringLiteral("Heading"));
+    screen.show();
+    QSignalSpy selected(screen.list, &ZListBox::selected);
+    QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
+    QTest::mouseClick(screen.list->viewport(), Qt::LeftButton, {}, middleOfRow(screen.list, 1));
+    QTest::mouseDClick(screen.list->viewport(), Qt::LeftButton, {}, middleOfRow(screen.list, 1));
+    QCOMPARE(selected.count() + chosen.count(), 0);
+    QCOMPARE(screen.list->currentItem(), 0);
+}
+
+void ListBoxTest::a_row_of_another_kind_is_reported_without_a_setting_item()
+{
+    TestScreen screen;
+    auto *item = new ZListBoxItem(screen.list, QString());
+    item->appendSubItem(0, QStringLiteral("Custom"), QString(), nullptr, 50, ZListBoxItem::HighShowPriority);
+    screen.list->insertItem(item, -1, true);
+    QSignalSpy selected(screen.list, &ZListBox::selected);
+    QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
+    click(screen.list, Qt::Key_Select);
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(selected.count(), 0);
+}
+
+void ListBoxTest::a_pointer_released_on_another_row_chooses_nothing()
+{
+    TestScreen screen;
+    screen.addRows(4);
+    screen.show();
+    QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
+    QWidget *viewport = screen.list->viewport();
+    QTest::mousePress(viewport, Qt::LeftButton, {}, middleOfRow(screen.list, 1));
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, middleOfRow(screen.list, 2));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, QPoint(100, 200));
+    QCOMPARE(chosen.count(), 0);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, middleOfRow(screen.list, 1));
+    screen.list->clear();
+    screen.addRows(4);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, middleOfRow(screen.list, 1));
+    QCOMPARE(chosen.count(), 0);
+}
+
+void ListBoxTest::only_the_main_button_chooses()
+{
+    TestScreen screen;
+    screen.addRows(4);
+    screen.show();
+    QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
+    QTest::mouseClick(screen.list->viewport(), Qt::RightButton, {}, middleOfRow(screen.list, 1));
+    QTest::mouseClick(screen.list->viewport(), Qt::MiddleButton, {}, middleOfRow(screen.list, 1));
+    QCOMPARE(chosen.count(), 0);
+}
+
+void ListBoxTest::whoever_hears_of_a_choice_may_do_anything_data()
+{
+    QTest::addColumn<int>("deed");
+    QTest::addColumn<bool>("byKey");
+    const std::array<const char *, 5> deeds = {"clear the list", "rebuild the list", "delete the row", "delete the list",
+                                               "delete the screen"};
+    for (int deed = 0; deed < static_cast<int>(deeds.size()); ++deed) {
+        QTest::addRow("%s, chosen by key", deeds[static_cast<std::size_t>(deed)]) << deed << true;
+        QTest::addRow("%s, chosen by the pointer", deeds[static_cast<std::size_t>(deed)]) << deed << false;
+    }
+}
+
+void ListBoxTest::whoever_hears_of_a_choice_may_do_anything()
+{
+    QFETCH(int, deed);
+    QFETCH(bool, byKey);
+    QPointer<TestScreen> screen = new TestScreen;
+    screen->addRows(4);
+    screen->show();
+    QVERIFY(QTest::qWaitForWindowActive(screen));
+    int reports = 0;
+    connect(screen->list, &ZListBox::selected, this, [&](ZSettingItem *item) {
+        ++reports;
+        if (deed < 2)
+            screen->list->clear();
+        if (deed == 1)
+            screen->addRows(7);
+        if (deed == 2)
+            delete item;
+        if (deed == 3)
+            delete screen->list;
+        if (deed == 4)
+            delete screen;
+    });
+    const QPoint middle = screen->list->viewport()->mapTo(screen, middleOfRow(screen->list, 0));
+    if (byKey)
+        clickInWindow(screen, Qt::Key_Select);
+    else
+        QTest::mouseClick(screen->windowHandle(), Qt::LeftButton, {}, middle);
+    settle();
+    QCOMPARE(reports, 1);
+    QCOMPARE(screen.isNull(), deed == 4);
+    if (deed < 3)
+        QCOMPARE(screen->list->count(), deed == 0 ? 0 : deed == 1 ? 7 : 3);
+    delete screen;
+}
+
+void ListBoxTest::a_list_rebuilt_in_the_first_report_does_not_report_the_new_row()
+{
+    TestScreen screen;
+    screen.addRows(1);
+    QSignalSpy selected(screen.list, &ZListBox::selected);
+    connect(screen.list, &ZListBox::itemChosen, this, [&] {
+        screen.list->clear();
+        screen.addRows(1);
+    });
+    for (int i = 0; i < 50; ++i)
+        click(screen.list, Qt::Key_Select);
+    QCOMPARE(selected.count(), 0);
+}
+
+void ListBoxTest::texts_of_any_length_and_content_do_no_harm()
+{
+    TestScreen screen;
+    const QString endless(100'000, QLatin1Char('W'));
+    QString odd = QStringLiteral("a\nb\tc\r") + QChar(0) + QChar(QChar::ParagraphSeparator) + QChar(0xd800);
+    for (int i = 0; i < 600; ++i)
+        odd += QString::fromUtf8("\xf0\x9f\x93\x9e");
+    screen.addRow(endless, endless);
+    screen.addRow(odd, odd);
+    screen.addRow(QString(), QString());
+    screen.addSeparator(endless);
+    screen.addSeparator(odd);
+    screen.show();
+    QVERIFY(!screen.grab().isNull());
+    const ZListItem *row = screen.list->item(0);
+    QCOMPARE(row->title(), endless);
+    QCOMPARE(row->value(), endless);
+    QCOMPARE(screen.list->item(1)->title(), odd);
+    for (int i = 0; i < screen.list->count(); ++i)
+        QCOMPARE(screen.list->visualRect(screen.list->model()->index(i, 0)).size(), QSize(240, ZSkinService::RowHeight));
+}
+
+void ListBoxTest::the_cost_of_filling_grows_with_the_number_of_rows_only()
+{
+    // The best of several, as the machine has other things to do: ten times the rows, a hundred times the work if
+    // every row were looked for.
+    qint64 few = std::numeric_limits<qint64>::max();
+    qint64 many = std::numeric_limits<qint64>::max();
+    for (int i = 0; i < 3; ++i) {
+        few = std::min(few, nanosecondsToFill(2'000));
+        many = std::min(many, nanosecondsToFill(20'000));
+    }
+    QVERIFY(few > 0 && many > 0);
+    QVERIFY2(many < 35 * few, qPrintable(QStringLiteral("%1 ns against %2 ns").arg(many).arg(few)));
+}
+
+void ListBoxTest::random_insertions_and_deletions_agree_with_a_plain_list()
+{
+    TestScreen screen;
+    screen.show();
+    QRandomGenerator random(20'240);
+    QList<ZListItem *> model;
+    for (int step = 0; step < 3'000; ++step) {
+        const int place = random.bounded(static_cast<int>(model.size()) + 1);
+        if (random.bounded(5) < 3 || model.isEmpty()) {
+            auto *item = new ZSettingItem(screen.list, random.bounded(4) ? QString() : QStringLiteral("%P"));
+            screen.list->insertItem(item, place, true);
+            model.insert(place, item);
+        } else {
+            delete model.takeAt(place % model.size());
+        }
+        QCOMPARE(screen.list->count(), model.size());
+        const int probe = random.bounded(static_cast<int>(model.size()) + 1);
+        QCOMPARE(screen.list->item(probe), model.value(probe));
+        QCOMPARE(screen.list->index(model.value(probe)), probe < model.size() ? probe : -1);
+        const ZListItem *current = screen.list->item(screen.list->currentItem());
+        const bool choosable = std::any_of(model.cbegin(), model.cend(), [](auto *row) { return !row->isSeparator(); });
+        QCOMPARE(current != nullptr, choosable);
+        QVERIFY(!current || !current->isSeparator());
+        if (step % 100 == 0)
+            settle();
+    }
+}
+
+QTEST_MAIN(ListBoxTest)
+#include "tst_listbox.moc"

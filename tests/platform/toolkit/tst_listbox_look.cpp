@@ -1,0 +1,261 @@
+// What the rows of a list look like.
+#include "ToolkitTestKit.h"
+
+using namespace ToolkitTestKit;
+
+namespace {
+
+const QString endless = QStringLiteral("A title that is far too long for any row of this display");
+
+QColor color(ZSkinService::ColorRole role)
+{
+    return ZSkinService::color(role);
+}
+
+int widthOf(const QString &text)
+{
+    return QFontMetrics(ZSkinService::font(ZSkinService::RowFont)).horizontalAdvance(text);
+}
+
+} // namespace
+
+class ListBoxLookTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void the_focus_bar_is_seen_on_its_row_and_nowhere_else();
+    void a_value_stands_at_the_right_edge();
+    void a_value_is_kept_whole_and_the_title_makes_room();
+    void a_value_that_needs_the_row_leaves_no_title();
+    void a_value_wider_than_the_row_is_elided();
+    void a_row_without_a_value_gives_its_title_the_whole_width();
+    void a_separator_is_seen_as_a_heading();
+    void a_disabled_row_is_greyed();
+    void a_marked_row_is_heavier();
+    void a_row_repaints_when_its_value_is_rewritten();
+    void the_scroll_bar_is_there_only_when_needed();
+    void a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left();
+    void an_icon_stands_before_the_title_and_never_outgrows_its_row();
+    void the_look_does_not_depend_on_the_application_around();
+};
+
+void ListBoxLookTest::init()
+{
+    noWarnings();
+}
+
+void ListBoxLookTest::the_focus_bar_is_seen_on_its_row_and_nowhere_else()
+{
+    TestScreen screen;
+    screen.addRows(4);
+    screen.list->setSelected(2, true);
+    for (int row = 0; row < 4; ++row) {
+        const QColor expected = color(row == 2 ? ZSkinService::FocusBarColor : ZSkinService::ScreenColor);
+        QCOMPARE(lookOfRow(screen.list, row).pixelColor(2, 4), expected);
+    }
+}
+
+void ListBoxLookTest::a_value_stands_at_the_right_edge()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QString(), QStringLiteral("00:01:05"));
+    const QImage row = lookOfRow(screen.list, 1);
+    const int margin = ZSkinService::RowMargin;
+    const int left = firstInk(row, color(ZSkinService::ScreenColor));
+    const int right = lastInk(row, color(ZSkinService::ScreenColor));
+    QVERIFY(right < 240 - margin && right > 240 - margin - 4);
+    QVERIFY(std::abs(left - (240 - margin - widthOf(QStringLiteral("00:01:05")))) < 4);
+}
+
+void ListBoxLookTest::a_value_is_kept_whole_and_the_title_makes_room()
+{
+    TestScreen screen;
+    const QString value = QStringLiteral("1042:09:59");
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("T"), value);
+    screen.addRow(endless, value);
+    const int start = 240 - ZSkinService::RowMargin - widthOf(value) - 1;
+    const QRect right(start - ZSkinService::RowGap + 1, 0, 240 - start + ZSkinService::RowGap - 1, ZSkinService::RowHeight);
+    const QImage roomy = lookOfRow(screen.list, 1);
+    const QImage crowded = lookOfRow(screen.list, 2);
+    QCOMPARE(crowded.copy(right), roomy.copy(right));
+    const QImage title = crowded.copy(0, 0, right.left(), ZSkinService::RowHeight);
+    QVERIFY2(lastInk(title, color(ZSkinService::ScreenColor)) > right.left() - 20, "the title wastes room");
+}
+
+void ListBoxLookTest::a_value_that_needs_the_row_leaves_no_title()
+{
+    TestScreen screen;
+    QString value = QStringLiteral("9");
+    while (widthOf(value + QLatin1Char('9')) < 240 - 2 * ZSkinService::RowMargin)
+        value += QLatin1Char('9');
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QString(), value);
+    screen.addRow(endless, value);
+    QCOMPARE(lookOfRow(screen.list, 2), lookOfRow(screen.list, 1));
+    QVERIFY(firstInk(lookOfRow(screen.list, 2), color(ZSkinService::ScreenColor)) < 20);
+}
+
+void ListBoxLookTest::a_value_wider_than_the_row_is_elided()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(endless, endless + endless);
+    const QImage row = lookOfRow(screen.list, 1);
+    QVERIFY(firstInk(row, color(ZSkinService::ScreenColor)) >= ZSkinService::RowMargin - 1);
+    QVERIFY(lastInk(row, color(ZSkinService::ScreenColor)) < 240 - ZSkinService::RowMargin);
+}
+
+void ListBoxLookTest::a_row_without_a_value_gives_its_title_the_whole_width()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(endless);
+    screen.addRow(endless, QString::fromLatin1(""));
+    const QImage row = lookOfRow(screen.list, 1);
+    QVERIFY(lastInk(row, color(ZSkinService::ScreenColor)) > 240 - ZSkinService::RowMargin - 20);
+    QVERIFY(lastInk(row, color(ZSkinService::ScreenColor)) < 240 - ZSkinService::RowMargin);
+    QCOMPARE(lookOfRow(screen.list, 2), row);
+}
+
+void ListBoxLookTest::a_separator_is_seen_as_a_heading()
+{
+    TestScreen screen;
+    screen.addSeparator(QStringLiteral("Heading"));
+    screen.addRow(QStringLiteral("bar"));
+    QCOMPARE(lookOfRow(screen.list, 0).pixelColor(2, 4), color(ZSkinService::HeadingColor));
+    QVERIFY(lastInk(lookOfRow(screen.list, 0), color(ZSkinService::HeadingColor)) > 40);
+}
+
+void ListBoxLookTest::a_disabled_row_is_greyed()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    ZSettingItem *row = screen.addRow(QStringLiteral("Adjust Credit Limit"), QStringLiteral("5"));
+    const auto darkest = [&](int index) {
+        const QImage image = lookOfRow(screen.list, index);
+        int result = 255;
+        for (int x = 0; x < image.width(); ++x) {
+            for (int y = 0; y < image.height() - 1; ++y)
+                result = std::min(result, qGray(image.pixel(x, y)));
+        }
+        return result;
+    };
+    const int enabled = darkest(1);
+    row->setEnabled(false);
+    QVERIFY2(darkest(1) > enabled + 60, "a disabled row looks like an enabled one");
+    screen.list->setSelected(1, true);
+    const QImage greyedUnderBar = lookOfRow(screen.list, 1);
+    row->setEnabled(true);
+    QVERIFY(lookOfRow(screen.list, 1) != greyedUnderBar);
+}
+
+void ListBoxLookTest::a_marked_row_is_heavier()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    ZSettingItem *row = screen.addRow(QStringLiteral("Some title"));
+    const QImage plain = lookOfRow(screen.list, 1);
+    row->setSubItem(0, 0, QStringLiteral("Some title"), true, ZSettingItem::TitleRegion);
+    QVERIFY(lastInk(lookOfRow(screen.list, 1), color(ZSkinService::ScreenColor))
+            > lastInk(plain, color(ZSkinService::ScreenColor)));
+}
+
+void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
+{
+    struct PaintWatch : QObject {
+        QRegion painted;
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            if (event->type() == QEvent::Paint)
+                painted += static_cast<QPaintEvent *>(event)->region();
+            return false;
+        }
+    };
+    TestScreen screen;
+    screen.addRows(6);
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    settle();
+    PaintWatch watch;
+    screen.list->viewport()->installEventFilter(&watch);
+    auto *item = static_cast<ZSettingItem *>(screen.list->item(3));
+    item->setSubItem(0, 1, QStringLiteral("77"), false, ZSettingItem::ValueRegion);
+    QTRY_VERIFY(watch.painted.contains(middleOfRow(screen.list, 3)));
+}
+
+void ListBoxLookTest::the_scroll_bar_is_there_only_when_needed()
+{
+    TestScreen screen;
+    const int fitting = screen.list->height() / ZSkinService::RowHeight;
+    screen.addRows(fitting);
+    screen.show();
+    settle();
+    QVERIFY(!screen.list->verticalScrollBar()->isVisible());
+    ZSettingItem *tooMuch = screen.addRow(QStringLiteral("One more"));
+    settle();
+    QVERIFY(screen.list->verticalScrollBar()->isVisible());
+    QVERIFY(!screen.list->horizontalScrollBar()->isVisible());
+    QCOMPARE(screen.list->verticalScrollBar()->width(), ZSkinService::ScrollBarWidth);
+    delete tooMuch;
+    settle();
+    QVERIFY(!screen.list->verticalScrollBar()->isVisible());
+}
+
+void ListBoxLookTest::a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left()
+{
+    TestScreen screen;
+    screen.setLayoutDirection(Qt::RightToLeft);
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("Title"));
+    screen.addRow(QString(), QStringLiteral("1 WWWWWW"));
+    const QColor background = color(ZSkinService::ScreenColor);
+    QVERIFY(firstInk(lookOfRow(screen.list, 1), background) > 150);
+    const QImage value = lookOfRow(screen.list, 2);
+    const int left = firstInk(value, background);
+    QVERIFY(lastInk(value, background) < 120);
+    // After the figure comes the blank, if figure and unit keep their order.
+    QVERIFY2(lastInk(value.copy(0, 0, left + 11, value.height()), background) < left + 8, "figure and unit change places");
+    QVERIFY(lastInk(value.copy(0, 0, left + 40, value.height()), background) > left + 30);
+}
+
+void ListBoxLookTest::an_icon_stands_before_the_title_and_never_outgrows_its_row()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    QPixmap huge(500, 500);
+    huge.fill(Qt::red);
+    auto *item = new ZSettingItem(screen.list, QString());
+    item->setSeparator(QStringLiteral("Heading"), &huge);
+    screen.list->insertItem(item, -1, true);
+    const QImage row = lookOfRow(screen.list, 1);
+    QCOMPARE(row.pixelColor(ZSkinService::RowMargin + 5, ZSkinService::RowHeight / 2), QColor(Qt::red));
+    QCOMPARE(row.pixelColor(120, 2), color(ZSkinService::HeadingColor));
+    QVERIFY(lastInk(row, color(ZSkinService::HeadingColor)) > 60);
+    QCOMPARE(row.height(), ZSkinService::RowHeight);
+}
+
+void ListBoxLookTest::the_look_does_not_depend_on_the_application_around()
+{
+    TestScreen plain;
+    plain.addRows(3);
+    const QImage expected = plain.grab().toImage();
+    QWidget around;
+    QPalette dark(Qt::black);
+    around.setPalette(dark);
+    QFont large = around.font();
+    large.setPointSize(30);
+    around.setFont(large);
+    TestScreen screen(&around);
+    screen.addRows(3);
+    around.show();
+    screen.show();
+    QCOMPARE(screen.grab().toImage(), expected);
+}
+
+QTEST_MAIN(ListBoxLookTest)
+#include "tst_listbox_look.moc"

@@ -1,0 +1,421 @@
+// The frame of a screen: places, title, keys, showing and closing.
+#include "ToolkitTestKit.h"
+#include "ZKeys.h"
+
+using namespace ToolkitTestKit;
+
+namespace {
+
+// Whatever a screen lies in must not hear of its keys and clicks.
+class Listener : public QWidget
+{
+public:
+    int heard = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *) override { ++heard; }
+    void keyReleaseEvent(QKeyEvent *) override { ++heard; }
+    void mousePressEvent(QMouseEvent *) override { ++heard; }
+    void mouseReleaseEvent(QMouseEvent *) override { ++heard; }
+};
+
+} // namespace
+
+class ScreenTest : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void deleteVictim() { delete victim; }
+
+private slots:
+    void init();
+
+    void a_new_screen_has_the_displays_size_and_its_areas_do_not_overlap();
+    void the_name_is_the_object_name_and_may_be_null();
+    void it_says_its_class_name();
+    void the_content_widget_is_made_on_demand_and_only_once();
+    void what_fills_the_content_area_goes_on_filling_it();
+    void a_child_screen_covers_a_screen_and_stays_as_large();
+    void a_child_screen_is_not_shown_along_with_its_parent();
+    void the_title_is_kept_whole_whatever_the_display_shows();
+    void the_installed_bar_lies_at_the_foot_until_another_takes_its_place();
+    void a_bar_that_was_deleted_is_forgotten();
+    void a_softkey_key_clicks_the_bar_once_a_press_data();
+    void a_softkey_key_clicks_the_bar_once_a_press();
+    void the_clear_key_is_reported_once_a_press_data();
+    void the_clear_key_is_reported_once_a_press();
+    void keys_without_a_bar_are_harmless();
+    void no_key_and_no_click_reaches_what_the_screen_lies_in();
+    void showing_gives_the_keys_to_the_list();
+    void showing_again_brings_the_screen_back_up();
+    void a_click_on_the_title_gives_the_keys_back_to_the_list();
+    void close_without_the_flag_only_hides();
+    void close_with_the_flag_deletes_later();
+    void close_that_is_refused_does_not_delete();
+    void whoever_hears_of_the_clear_key_may_delete_the_screen_data();
+    void whoever_hears_of_the_clear_key_may_delete_the_screen();
+    void a_mirrored_display_has_the_title_on_the_right();
+    void opening_and_destroying_ten_thousand_screens_leaves_no_widget_behind();
+
+private:
+    QPointer<QWidget> victim;
+};
+
+void ScreenTest::init()
+{
+    noWarnings();
+}
+
+void ScreenTest::a_new_screen_has_the_displays_size_and_its_areas_do_not_overlap()
+{
+    TestScreen screen;
+    QCOMPARE(screen.size(), QSize(240, 320));
+    const QWidget *content = screen.getContentWidget(true);
+    QCOMPARE(content->width(), 240);
+    QVERIFY2(content->y() >= 20, "no room for the title");
+    QCOMPARE(content->geometry().bottom() + 1, screen.bar->y());
+    QCOMPARE(screen.bar->geometry().bottom() + 1, 320);
+    QCOMPARE(screen.bar->width(), 240);
+    QCOMPARE(content->height() % ZSkinService::RowHeight, 0);
+}
+
+void ScreenTest::the_name_is_the_object_name_and_may_be_null()
+{
+    ZKbMainWidget named(nullptr, "caf\xe9", 0);
+    QCOMPARE(named.objectName(), QString::fromLatin1("caf\xe9"));
+    ZKbMainWidget nameless(nullptr, nullptr, 0);
+    QVERIFY(nameless.objectName().isEmpty());
+}
+
+void ScreenTest::it_says_its_class_name()
+{
+    ZKbMainWidget screen(nullptr, nullptr, 0);
+    QCOMPARE(screen.className(), "ZKbMainWidget");
+    ZListBox list(QStringLiteral("%M"), nullptr, 0, ZSkinService::SettingListClass);
+    QCOMPARE(list.className(), "ZListBox");
+    const ZMessageDlg dialog(QString(), QString(), ZMessageDlg::QuestionDlg, 0, &screen, nullptr, true, 0);
+    const ZPopup &popup = dialog;
+    QCOMPARE(popup.className(), "ZMessageDlg");
+}
+
+void ScreenTest::the_content_widget_is_made_on_demand_and_only_once()
+{
+    ZKbMainWidget screen(nullptr, nullptr, 0);
+    QVERIFY(!screen.getContentWidget(false));
+    QWidget *content = screen.getContentWidget(true);
+    QVERIFY(content);
+    QCOMPARE(screen.getContentWidget(true), content);
+    QCOMPARE(screen.getContentWidget(false), content);
+}
+
+void ScreenTest::what_fills_the_content_area_goes_on_filling_it()
+{
+    TestScreen screen;
+    QWidget *content = screen.getContentWidget(true);
+    QWidget label(content);
+    label.setGeometry(0, 10, 240, 20);
+    screen.resize(300, 400);
+    screen.show();
+    settle();
+    QCOMPARE(content->width(), 300);
+    QCOMPARE(screen.list->geometry(), content->rect());
+    QCOMPARE(label.geometry(), QRect(0, 10, 240, 20));
+    QCOMPARE(screen.bar->geometry(), QRect(0, content->geometry().bottom() + 1, 300, 28));
+    QCOMPARE(screen.bar->geometry().bottom() + 1, 400);
+    screen.resize(100, 20);
+    settle();
+    QVERIFY(content->height() >= 0);
+}
+
+void ScreenTest::a_child_screen_covers_a_screen_and_stays_as_large()
+{
+    TestScreen screen;
+    screen.resize(300, 400);
+    TestScreen sub(&screen);
+    QCOMPARE(sub.geometry(), QRect(0, 0, 300, 400));
+    screen.show();
+    sub.show();
+    screen.resize(260, 330);
+    settle();
+    QCOMPARE(sub.geometry(), QRect(0, 0, 260, 330));
+    QWidget plain;
+    plain.resize(800, 600);
+    const TestScreen embedded(&plain);
+    QCOMPARE(embedded.geometry(), QRect(0, 0, 240, 320));
+}
+
+void ScreenTest::a_child_screen_is_not_shown_along_with_its_parent()
+{
+    QWidget plain;
+    TestScreen screen(&plain);
+    plain.show();
+    QVERIFY(!screen.isVisible());
+    screen.show();
+    QVERIFY(screen.isVisible());
+}
+
+void ScreenTest::the_title_is_kept_whole_whatever_the_display_shows()
+{
+    TestScreen screen;
+    const QString title = QString(100'000, QLatin1Char('m')) + QLatin1String("\nend") + QChar(0);
+    screen.setMainWidgetTitle(title);
+    QCOMPARE(screen.mainWidgetTitle(), title);
+    QCOMPARE(screen.accessibleName(), title);
+    const QImage strip = screen.grab(QRect(0, 0, 240, 20)).toImage();
+    const QColor background = ZSkinService::color(ZSkinService::TitleBarColor);
+    QVERIFY(lastInk(strip, background) > 200);
+    QVERIFY2(lastInk(strip, background) < 240 - ZSkinService::RowMargin, "the title is cut, not elided");
+    screen.setMainWidgetTitle(QString());
+    QCOMPARE(lastInk(screen.grab(QRect(0, 0, 240, 20)).toImage(), background), -1);
+}
+
+void ScreenTest::the_installed_bar_lies_at_the_foot_until_another_takes_its_place()
+{
+    TestScreen screen;
+    screen.show();
+    auto *second = new ZSoftKey(QStringLiteral("CST_2A"), nullptr, nullptr);
+    screen.setCSTWidget(second);
+    QCOMPARE(screen.cstWidget(), second);
+    QCOMPARE(second->parentWidget(), &screen);
+    QVERIFY(second->isVisible());
+    QVERIFY(!screen.bar->isVisible());
+    QSignalSpy first(screen.bar, &ZSoftKey::leftClicked);
+    QSignalSpy later(second, &ZSoftKey::leftClicked);
+    click(&screen, Qt::Key_Context1);
+    QCOMPARE(first.count(), 0);
+    QCOMPARE(later.count(), 1);
+    screen.setCSTWidget(nullptr);
+    QVERIFY(!screen.cstWidget());
+    QVERIFY(!second->isVisible());
+    click(&screen, Qt::Key_Context1);
+    QCOMPARE(later.count(), 1);
+}
+
+void ScreenTest::a_bar_that_was_deleted_is_forgotten()
+{
+    TestScreen screen;
+    delete screen.cstWidget();
+    QVERIFY(!screen.cstWidget());
+    click(&screen, Qt::Key_Context1);
+    screen.resize(300, 400);
+    (void)screen.grab();
+}
+
+void ScreenTest::a_softkey_key_clicks_the_bar_once_a_press_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("left");
+    QTest::newRow("left softkey") << int(Qt::Key_Context1) << true;
+    QTest::newRow("left softkey on a keyboard") << int(Qt::Key_F1) << true;
+    QTest::newRow("right softkey") << int(Qt::Key_Context2) << false;
+    QTest::newRow("right softkey on a keyboard") << int(Qt::Key_F2) << false;
+}
+
+void ScreenTest::a_softkey_key_clicks_the_bar_once_a_press()
+{
+    QFETCH(int, key);
+    QFETCH(bool, left);
+    TestScreen screen;
+    screen.addRows(2);
+    QSignalSpy leftSpy(screen.bar, &ZSoftKey::leftClicked);
+    QSignalSpy rightSpy(screen.bar, &ZSoftKey::rightClicked);
+    QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
+    press(screen.list, key);
+    for (int i = 0; i < 5; ++i)
+        press(screen.list, key, true);
+    QCOMPARE(leftSpy.count(), left ? 1 : 0);
+    QCOMPARE(rightSpy.count(), left ? 0 : 1);
+    QCOMPARE(clear.count(), 0);
+}
+
+void ScreenTest::the_clear_key_is_reported_once_a_press_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::newRow("clear") << int(Qt::Key_Clear);
+    QTest::newRow("escape") << int(Qt::Key_Escape);
+    QTest::newRow("backspace") << int(Qt::Key_Backspace);
+    QTest::newRow("back") << int(Qt::Key_Back);
+}
+
+void ScreenTest::the_clear_key_is_reported_once_a_press()
+{
+    QFETCH(int, key);
+    TestScreen screen;
+    screen.addRows(2);
+    QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
+    QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
+    QSignalSpy right(screen.bar, &ZSoftKey::rightClicked);
+    press(screen.list, key);
+    for (int i = 0; i < 5; ++i)
+        press(screen.list, key, true);
+    QCOMPARE(clear.count(), 1);
+    press(screen.list, key);
+    QCOMPARE(clear.count(), 2);
+    QCOMPARE(left.count() + right.count(), 0);
+}
+
+void ScreenTest::keys_without_a_bar_are_harmless()
+{
+    ZKbMainWidget screen(nullptr, nullptr, 0);
+    for (const ZKeys::Binding &binding : ZKeys::bindings)
+        click(&screen, binding.key);
+}
+
+void ScreenTest::no_key_and_no_click_reaches_what_the_screen_lies_in()
+{
+    Listener outer;
+    outer.resize(240, 320);
+    TestScreen screen(&outer);
+    screen.addRow(QStringLiteral("One"));
+    outer.show();
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowActive(&outer));
+    const QList<Qt::Key> keys = {Qt::Key_Up,       Qt::Key_Down,     Qt::Key_Left,  Qt::Key_Select, Qt::Key_Space,
+                                 Qt::Key_Context1, Qt::Key_Context2, Qt::Key_Clear, Qt::Key_A,      Qt::Key_F12,
+                                 Qt::Key_Call,     Qt::Key_PageDown, Qt::Key_Tab,   Qt::Key_5,      Qt::Key_Shift};
+    for (const Qt::Key key : keys)
+        clickInWindow(&outer, key);
+    for (const QPoint &point : {QPoint(5, 5), QPoint(100, 200), QPoint(100, 310)})
+        QTest::mouseClick(outer.windowHandle(), Qt::LeftButton, {}, point);
+    QCOMPARE(outer.heard, 0);
+}
+
+void ScreenTest::showing_gives_the_keys_to_the_list()
+{
+    QWidget plain;
+    plain.resize(500, 400);
+    QLineEdit edit(&plain);
+    edit.setGeometry(300, 0, 100, 30);
+    plain.show();
+    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    edit.setFocus();
+    TestScreen screen(&plain);
+    screen.addRows(3);
+    screen.show();
+    QVERIFY(screen.list->hasFocus());
+    clickInWindow(&plain, Qt::Key_Down);
+    QCOMPARE(screen.list->currentItem(), 1);
+}
+
+void ScreenTest::showing_again_brings_the_screen_back_up()
+{
+    QWidget plain;
+    plain.resize(240, 320);
+    TestScreen first(&plain);
+    TestScreen second(&plain);
+    plain.show();
+    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    first.show();
+    second.show();
+    QVERIFY(second.list->hasFocus());
+    QVERIFY(second.isAncestorOf(plain.childAt(120, 160)));
+    first.show();
+    QVERIFY(first.list->hasFocus());
+    QVERIFY(first.isAncestorOf(plain.childAt(120, 160)));
+}
+
+void ScreenTest::a_click_on_the_title_gives_the_keys_back_to_the_list()
+{
+    QWidget plain;
+    plain.resize(500, 400);
+    QLineEdit edit(&plain);
+    edit.setGeometry(300, 0, 100, 30);
+    TestScreen screen(&plain);
+    plain.show();
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    edit.setFocus();
+    QVERIFY(edit.hasFocus());
+    QTest::mouseClick(plain.windowHandle(), Qt::LeftButton, {}, QPoint(10, 10));
+    QVERIFY(screen.list->hasFocus());
+}
+
+void ScreenTest::close_without_the_flag_only_hides()
+{
+    TestScreen screen;
+    screen.show();
+    ZKbMainWidget *base = &screen;
+    QVERIFY(base->close(false));
+    QVERIFY(!screen.isVisible());
+    settle();
+    screen.show();
+    QVERIFY(screen.isVisible());
+}
+
+void ScreenTest::close_with_the_flag_deletes_later()
+{
+    QPointer<ZKbMainWidget> screen = new TestScreen;
+    screen->show();
+    QVERIFY(screen->close(true));
+    QVERIFY(screen);
+    settle();
+    QVERIFY(!screen);
+}
+
+void ScreenTest::close_that_is_refused_does_not_delete()
+{
+    struct Stubborn : TestScreen {
+        void closeEvent(QCloseEvent *event) override { event->ignore(); }
+    };
+    QPointer<ZKbMainWidget> screen = new Stubborn;
+    screen->show();
+    QVERIFY(!screen->close(true));
+    settle();
+    QVERIFY(screen);
+    QVERIFY(screen->isVisible());
+    delete screen;
+}
+
+void ScreenTest::whoever_hears_of_the_clear_key_may_delete_the_screen_data()
+{
+    QTest::addColumn<bool>("embedded");
+    QTest::newRow("a window of its own") << false;
+    QTest::newRow("inside another window") << true;
+}
+
+void ScreenTest::whoever_hears_of_the_clear_key_may_delete_the_screen()
+{
+    QFETCH(bool, embedded);
+    QWidget plain;
+    plain.resize(300, 400);
+    if (embedded)
+        plain.show();
+    auto *screen = new TestScreen(embedded ? &plain : nullptr);
+    victim = screen;
+    screen->addRows(3);
+    screen->show();
+    connect(screen, SIGNAL(clearKeyClicked()), screen, SIGNAL(closeWidget()));
+    connect(screen, SIGNAL(closeWidget()), this, SLOT(deleteVictim()));
+    QVERIFY(QTest::qWaitForWindowActive(screen->window()));
+    clickInWindow(screen->window(), Qt::Key_Clear);
+    settle();
+    QVERIFY(!victim);
+}
+
+void ScreenTest::a_mirrored_display_has_the_title_on_the_right()
+{
+    TestScreen screen;
+    screen.setLayoutDirection(Qt::RightToLeft);
+    screen.setMainWidgetTitle(QStringLiteral("Abc"));
+    const QImage strip = screen.grab(QRect(0, 0, 240, 20)).toImage();
+    QVERIFY(firstInk(strip, ZSkinService::color(ZSkinService::TitleBarColor)) > 180);
+}
+
+void ScreenTest::opening_and_destroying_ten_thousand_screens_leaves_no_widget_behind()
+{
+    QWidget plain;
+    plain.resize(240, 320);
+    plain.show();
+    const auto before = QApplication::allWidgets().size();
+    for (int i = 0; i < 10'000; ++i) {
+        TestScreen screen(&plain);
+        screen.addRow(QStringLiteral("Row"), QStringLiteral("1"));
+        screen.show();
+    }
+    QCOMPARE(QApplication::allWidgets().size(), before);
+    QVERIFY(plain.children().isEmpty());
+}
+
+QTEST_MAIN(ScreenTest)
+#include "tst_screen.moc"
