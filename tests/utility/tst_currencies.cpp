@@ -1,0 +1,287 @@
+// Currency codes as texts, the unit of costs, and the catalogue of currencies.
+#include "CurrencyCatalogue.h"
+#include "ListedCurrencies.h"
+#include "PHONE_UI_RecentCallMeter.h"
+
+#include "PhoneTest.h"
+#include "RecordingTranslator.h"
+
+#include <QtCore/QSet>
+
+#include <iterator>
+
+using Meter = PHONE_UI_RecentCallMeter;
+
+namespace {
+
+const QString source = QStringLiteral("utility/PHONE_UI_RecentCallMeter");
+constexpr const char *context = "PHONE_UI_RecentCallMeter";
+
+// The rule of the long keys in words: the words of the name, joined by "_"; a word is a run of letters and digits, an
+// accented letter counts as its plain one, anything else separates.
+QString keyByRule(const QString &name)
+{
+    const QString plain = name.normalized(QString::NormalizationForm_D);
+    QStringList words(QString{});
+    for (const QChar c : plain) {
+        if (c.category() == QChar::Mark_NonSpacing)
+            continue;
+        if (c.isLetterOrNumber())
+            words.last().append(c.toUpper());
+        else if (!words.last().isEmpty())
+            words.append(QString());
+    }
+    words.removeAll(QString());
+    return QStringLiteral("TXT_RID_LIST_A_") + words.join(QLatin1Char('_'));
+}
+
+// Rows, from 1, whose keys depart from the rule.
+QString exceptionalKey(qsizetype row)
+{
+    switch (row) {
+    case 30:
+        return QStringLiteral("TXT_RID_LIST_A_CHINA_RENMINBI_YUAN_CNY");
+    case 81:
+        return QStringLiteral("TXT_RID_LIST_A_KOREA_DEMOCRATIC_PEOPLES_REPUBLIC_WON_KPW");
+    case 152:
+        return QStringLiteral("TXT_RID_LIST_A_TONGA_PAANGA_TOP");
+    }
+    return QString();
+}
+
+QString listedName(qsizetype index)
+{
+    return QString::fromUtf8(listedCurrencies[index].name);
+}
+
+QString rowCode(qsizetype index)
+{
+    return QString::fromLatin1(listedCurrencies[index].code);
+}
+
+} // namespace
+
+class TestCurrencies : public PhoneTest
+{
+    Q_OBJECT
+
+private slots:
+    void theCatalogueHasEveryListedNameInItsPlace();
+    void everyLongKeyFollowsFromItsNameButForThree();
+    void everyNameEndsInItsCodeInParenthesesAndTwoInABlankMore();
+    void theOrderOfCodesBreaksAtTwoPlacesOnly();
+    void theShortTableIsTheCatalogueWithoutTwoCodes();
+
+    void everyShortCodeIsTranslatedUnderItsKey();
+    void withoutACatalogueEveryShortCodeIsItself();
+    void anUnknownCodeComesBackAsItIs_data();
+    void anUnknownCodeComesBackAsItIs();
+    void aTranslatedCodeIsTracedFirst();
+
+    void unitsAreTheUnitOfChargeTypeZero();
+    void theCurrencyIsTheUnitOfChargeTypeOne_data();
+    void theCurrencyIsTheUnitOfChargeTypeOne();
+    void anyOtherChargeTypeHasNoUnit();
+    void aFailedChargeTypeHasNoUnitAndAsksNoMore();
+    void aFailedCurrencyHasNoUnit();
+
+private:
+    Meter meter;
+};
+
+// --- the catalogue
+
+void TestCurrencies::theCatalogueHasEveryListedNameInItsPlace()
+{
+    const auto rows = CurrencyCatalogue::rows();
+    QCOMPARE(rows.size(), std::size_t(193));
+    QCOMPARE(std::size(listedCurrencies), std::size_t(193));
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        QCOMPARE(QString::fromLatin1(rows[i].english), listedName(qsizetype(i)));
+    QCOMPARE(rows.front().english, "UNITED ARAB EMIRATES  DIRHAM  (AED)");
+    QCOMPARE(rows.back().english, "ZIMBABWE  DOLLAR  (ZWD)");
+}
+
+void TestCurrencies::everyLongKeyFollowsFromItsNameButForThree()
+{
+    const auto rows = CurrencyCatalogue::rows();
+    QSet<QString> keys;
+    int exceptions = 0;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const QString byRule = keyByRule(listedName(qsizetype(i)));
+        const QString exceptional = exceptionalKey(qsizetype(i) + 1);
+        QCOMPARE(QString::fromLatin1(rows[i].key), exceptional.isEmpty() ? byRule : exceptional);
+        exceptions += exceptional.isEmpty() || exceptional == byRule ? 0 : 1;
+        keys.insert(QString::fromLatin1(rows[i].key));
+    }
+    QCOMPARE(exceptions, 3);
+    QCOMPARE(keys.size(), 193);
+    QCOMPARE(rows[50].key, "TXT_RID_LIST_A_UNITED_KINGDOM_GREAT_BRITAIN_POUND_STERLING_GBP");
+    QCOMPARE(rows[89].key, "TXT_RID_LIST_A_LESOTHO_LOTI_PL_MALOTI_LSL");
+}
+
+void TestCurrencies::everyNameEndsInItsCodeInParenthesesAndTwoInABlankMore()
+{
+    QStringList blank;
+    for (qsizetype i = 0; i < 193; ++i) {
+        const QString name = QString::fromLatin1(CurrencyCatalogue::rows()[std::size_t(i)].english);
+        const QString ending = QLatin1Char('(') + rowCode(i) + QLatin1Char(')');
+        if (name.endsWith(QLatin1Char(' ')))
+            blank.append(QString::number(i + 1));
+        QVERIFY2(name.endsWith(ending) || name.endsWith(ending + QLatin1Char(' ')), qPrintable(name));
+    }
+    QCOMPARE(blank, QStringList({"182", "185"}));
+}
+
+void TestCurrencies::theOrderOfCodesBreaksAtTwoPlacesOnly()
+{
+    QStringList breaks;
+    for (qsizetype i = 1; i < 193; ++i) {
+        if (rowCode(i) < rowCode(i - 1))
+            breaks.append(rowCode(i - 1) + QLatin1Char('>') + rowCode(i));
+    }
+    QCOMPARE(breaks, QStringList({"PYK>PLN", "SRG>SRD"}));
+}
+
+void TestCurrencies::theShortTableIsTheCatalogueWithoutTwoCodes()
+{
+    QStringList codes;
+    for (qsizetype i = 0; i < 193; ++i) {
+        if (codes.isEmpty() || codes.last() != rowCode(i))
+            codes.append(rowCode(i));
+    }
+    QCOMPARE(codes.removeAll(QStringLiteral("ATS")), 1);
+    QCOMPARE(codes.removeAll(QStringLiteral("BND")), 1);
+    QStringList listed;
+    for (const char *code : listedShortCodes)
+        listed.append(QString::fromLatin1(code));
+    QCOMPARE(listed.size(), 171);
+    QCOMPARE(codes, listed);
+}
+
+// --- the short table
+
+void TestCurrencies::everyShortCodeIsTranslatedUnderItsKey()
+{
+    RecordingTranslator translator;
+    QStringList codes(QStringLiteral("units"));
+    for (const char *code : listedShortCodes)
+        codes.append(QString::fromLatin1(code));
+    QCOMPARE(codes.size(), 172);
+    for (const QString &code : codes) {
+        const QString key = QStringLiteral("TXT_RID_LIST_A_") + code.toUpper();
+        translator.add(key, QString::fromUtf8("währung-") + code);
+        QCOMPARE(meter.TranslateCurrency(code), QString::fromUtf8("währung-") + code);
+        const QList<RecordingTranslator::Request> asked = translator.take();
+        QCOMPARE(lines(asked), lines({{QString::fromLatin1(context), key, code}}));
+    }
+}
+
+void TestCurrencies::withoutACatalogueEveryShortCodeIsItself()
+{
+    for (const char *code : listedShortCodes)
+        QCOMPARE(meter.TranslateCurrency(QString::fromLatin1(code)), QString::fromLatin1(code));
+    QCOMPARE(meter.TranslateCurrency(QStringLiteral("units")), QString("units"));
+}
+
+void TestCurrencies::anUnknownCodeComesBackAsItIs_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::newRow("a currency of today") << "EUR";
+    QTest::newRow("offered, but not in the short table: Austria") << "ATS";
+    QTest::newRow("offered, but not in the short table: Brunei") << "BND";
+    QTest::newRow("lower case") << "usd";
+    QTest::newRow("mixed case") << "Usd";
+    QTest::newRow("a leading blank") << " USD";
+    QTest::newRow("a trailing blank") << "USD ";
+    QTest::newRow("nothing") << "";
+    QTest::newRow("no text at all") << QString();
+    QTest::newRow("upper-case units") << "UNITS";
+    QTest::newRow("two letters") << "US";
+    QTest::newRow("four letters") << "USDX";
+    QTest::newRow("what the two blank-ended rows give") << "OF)";
+    QTest::newRow("letters whose low bytes spell a code") << QString(QChar(0x155)) + QChar(0x153) + QChar(0x144);
+    QTest::newRow("full-width letters") << QString::fromUtf8("ＵＳＤ");
+    QTest::newRow("very long") << QString(100'000, QLatin1Char('A'));
+}
+
+void TestCurrencies::anUnknownCodeComesBackAsItIs()
+{
+    QFETCH(const QString, code);
+    RecordingTranslator translator;
+    const QString answer = meter.TranslateCurrency(code);
+    QCOMPARE(answer, code);
+    QCOMPARE(answer.isNull(), code.isNull());
+    QCOMPARE(translator.take().size(), 0);
+}
+
+void TestCurrencies::aTranslatedCodeIsTracedFirst()
+{
+    meter.TranslateCurrency(QStringLiteral("GBP"));
+    const QString message = QStringLiteral("PHONE_UI_RecentCallMeter::TranslateCurrency string=%1.\\n");
+    QCOMPARE(traces->take(), longTrace(source, "TranslateCurrency", message.arg("GBP")));
+    meter.TranslateCurrency(QString::fromLatin1("\xA3x"));
+    QCOMPARE(traces->take(), longTrace(source, "TranslateCurrency", message.arg(QString::fromLatin1("\xA3x"))));
+}
+
+// --- the unit
+
+void TestCurrencies::unitsAreTheUnitOfChargeTypeZero()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(0));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    QCOMPARE(meter.getCurrencyUnit(), QString("units"));
+    QCOMPARE(journal.lines(), QStringList("AdviceOfCharge::chargeType"));
+}
+
+void TestCurrencies::theCurrencyIsTheUnitOfChargeTypeOne_data()
+{
+    QTest::addColumn<QString>("currency");
+    for (const char *currency : {"GBP", "ATS", "EUR", "OF)", "", "units"})
+        QTest::newRow(currency) << currency;
+}
+
+void TestCurrencies::theCurrencyIsTheUnitOfChargeTypeOne()
+{
+    QFETCH(const QString, currency);
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), currency);
+    QCOMPARE(meter.getCurrencyUnit(), currency);
+    QCOMPARE(journal.lines(), QStringList({"AdviceOfCharge::chargeType", "AdviceOfCharge::priceAndCurrency"}));
+    RecordingTranslator translator;
+    translator.add(QStringLiteral("TXT_RID_LIST_A_GBP"), QString::fromUtf8("£"));
+    QCOMPARE(meter.getCurrencyUnit(), currency == "GBP" ? QString::fromUtf8("£") : currency);
+}
+
+void TestCurrencies::anyOtherChargeTypeHasNoUnit()
+{
+    for (int type = 2; type <= 255; ++type) {
+        script().answer("AdviceOfCharge::chargeType", quint8(type));
+        journal.clear();
+        QVERIFY(meter.getCurrencyUnit().isNull());
+        QCOMPARE(journal.lines(), QStringList("AdviceOfCharge::chargeType"));
+    }
+}
+
+void TestCurrencies::aFailedChargeTypeHasNoUnitAndAsksNoMore()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    for (const int code : {1, 2, -1}) {
+        script().fail("AdviceOfCharge::chargeType", code);
+        journal.clear();
+        QVERIFY(meter.getCurrencyUnit().isNull());
+        QCOMPARE(journal.lines(), QStringList("AdviceOfCharge::chargeType"));
+    }
+}
+
+void TestCurrencies::aFailedCurrencyHasNoUnit()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    script().fail("AdviceOfCharge::priceAndCurrency", 3);
+    QVERIFY(meter.getCurrencyUnit().isNull());
+}
+
+KAV_TEST_MAIN(TestCurrencies)
+#include "tst_currencies.moc"
