@@ -141,7 +141,8 @@ void TestLibrary::theLibraryLoadsByName()
 void TestLibrary::exportedNamesAreFound_data()
 {
     QTest::addColumn<QByteArray>("name");
-    for (const char *name : {"create_callTime", "destroy_callTime"})
+    for (const char *name : {"create_callTime", "destroy_callTime", "create_callCost", "destroy_callCost",
+                             "create_dataTime", "destroy_dataTime", "create_dataVolume", "destroy_dataVolume"})
         QTest::newRow(name) << QByteArray(name);
 }
 
@@ -212,17 +213,21 @@ void TestLibrary::theExportedSymbolsAreThoseOfTheList()
     sorted.sort();
     COMPARE_LINES(listed, sorted);
     const QStringList exported = exportedNames();
-    const QString difference =
-        QStringLiteral("\nexported but not in the list:\n  ") + without(exported, listed).join("\n  ") +
-        QStringLiteral("\nin the list but not exported:\n  ") + without(listed, exported).join("\n  ");
-    QVERIFY2(exported == listed, qPrintable(difference));
+    const QStringList unlisted = without(exported, listed);
+    const QStringList missing = without(listed, exported);
+    if (!unlisted.isEmpty())
+        qInfo("exported but not in the list:\n%s", qPrintable(unlisted.join('\n')));
+    if (!missing.isEmpty())
+        qInfo("in the list but not exported:\n%s", qPrintable(missing.join('\n')));
+    QVERIFY(unlisted.isEmpty() && missing.isEmpty());
 }
 
 void TestLibrary::everyLibraryHasItsOwnName_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char *name : {"libkavcallmeter.so.1", "libkavappbase.so.1", "libkavtapi-xscale-r.so",
-                             "libkavphone.so.1", "libaplog.so.1.0.0", "libkavcallsetupengine.so.1"})
+    for (const char *name :
+         {"libkavcallmeter.so.1", "libkavappbase.so.1", "libkavtapi-xscale-r.so", "libkavphone.so.1",
+          "libaplog.so.1.0.0", "libkavcallsetupengine.so.1", "libkavsecuritysetup.so.1"})
         QTest::newRow(name) << QString(name);
 }
 
@@ -236,7 +241,7 @@ void TestLibrary::thePluginNeedsThePhonesLibrariesByTheirNames_data()
 {
     QTest::addColumn<QString>("name");
     for (const char *name : {"libkavappbase.so.1", "libkavtapi-xscale-r.so", "libkavphone.so.1",
-                             "libaplog.so.1.0.0", "libkavcallsetupengine.so.1"})
+                             "libaplog.so.1.0.0", "libkavcallsetupengine.so.1", "libkavsecuritysetup.so.1"})
         QTest::newRow(name) << QString(name);
 }
 
