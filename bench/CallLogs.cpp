@@ -20,7 +20,7 @@ using handset::PastCall;
 
 constexpr int batchSize = 10'000;
 constexpr qint64 firstCallMs = 1'136'073'600'000; // 2006-01-01
-constexpr qint64 callEveryMs = 15 * 60'000;
+constexpr qint64 callEveryMs = 900'000;
 
 // Of every four calls two are dialed, one answered and one a data call; they last 1 to 120 s.
 PastCall callAt(int i)
@@ -30,7 +30,7 @@ PastCall callAt(int i)
     call.direction = i % 4 == 2 ? CallDirection::Answered : CallDirection::Dialed;
     call.number = QStringLiteral("+4930555%1").arg(i % 1000, 3, 10, QLatin1Char('0'));
     call.startWallMs = firstCallMs + i * callEveryMs;
-    call.durationMs = (i % 120 + 1) * 1000;
+    call.durationMs = (i % 120 + 1) * qint64{1000};
     return call;
 }
 
@@ -49,6 +49,18 @@ Line openLine(const QString &directory)
     return line;
 }
 
+void showProgress(int done, int calls)
+{
+    if (calls <= batchSize)
+        return;
+    if (done == batchSize)
+        std::fprintf(stderr, "  building a log of %d calls:", calls);
+    if (done % (calls / 10) == 0)
+        std::fprintf(stderr, " %d%%", done / (calls / 100));
+    if (done == calls)
+        std::fputc('\n', stderr);
+}
+
 QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
 {
     for (int next = 0; next < calls;) {
@@ -59,11 +71,8 @@ QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
             batch.append(callAt(next++));
         if (telephone.addHistory(batch) != 0)
             return QStringLiteral("The calls could not be written.");
-        if (calls > batchSize)
-            std::fprintf(stderr, "\r  building a log of %d calls: %d", calls, next);
+        showProgress(next, calls);
     }
-    if (calls > batchSize)
-        std::fputc('\n', stderr);
     return {};
 }
 
@@ -75,7 +84,7 @@ QString build(const QString &path, int calls)
     Line line = openLine(unfinished);
     if (!line.telephone)
         return line.error;
-    const QString error = fill(*line.telephone, calls);
+    QString error = fill(*line.telephone, calls);
     line.telephone.reset();
     if (!error.isEmpty())
         return error;

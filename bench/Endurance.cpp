@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <memory>
 
 #include <malloc.h>
 
@@ -29,6 +30,17 @@ Memory memory()
 {
     const struct mallinfo2 heap = ::mallinfo2();
     return {static_cast<long long>(heap.uordblks + heap.hblkhd), residentBytes()};
+}
+
+// Bytes of the heap that one of them takes.
+double sizeOf(QObject *(*make)())
+{
+    constexpr int count = 1000;
+    std::vector<std::unique_ptr<QObject>> objects(count);
+    const Memory before = memory();
+    for (std::unique_ptr<QObject> &object : objects)
+        object.reset(make());
+    return static_cast<double>(memory().heap - before.heap) / count;
 }
 
 void openAndDestroy(const ScreenEntry &entry, Stage &stage, int times)
@@ -55,6 +67,7 @@ std::vector<Endured> endure(const std::string &filter, int cycles)
         std::fprintf(stderr, "Opening and destroying \"%s\" %d times\n", entry.name, cycles);
         Stage stage;
         Endured endured{entry.name, cycles / 10, cycles - cycles / 10, {}, {}};
+        endured.leftBehind = entry.leftBehind ? sizeOf(entry.leftBehind) : 0;
         openAndDestroy(entry, stage, endured.warmUp);
         endured.before = memory();
         openAndDestroy(entry, stage, endured.cycles);

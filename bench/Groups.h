@@ -10,6 +10,7 @@
 namespace bench {
 
 std::vector<Comparison> getterComparisons();
+std::vector<Comparison> currencyComparisons();
 std::vector<Comparison> openingComparisons();
 /// `directory` keeps the logs that are measured; they are built on first use.
 std::vector<Comparison> callLogComparisons(const QString &directory);

@@ -31,7 +31,7 @@ public:
 std::string registerSide(const Side &side, const char *role, const Comparison &comparison)
 {
     static int count = 0;
-    const std::string name = std::to_string(++count) + role;
+    std::string name = std::to_string(++count) + role;
     auto *registered = benchmark::RegisterBenchmark(name.c_str(), side.run);
     if (comparison.iterations > 0)
         registered->Iterations(comparison.iterations);

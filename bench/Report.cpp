@@ -17,6 +17,7 @@ constexpr std::array units{Unit{"ms", 1e6}, Unit{"us", 1e3}, Unit{"ns", 1}};
 struct Tally {
     int bars = 0;
     int met = 0;
+    int unmeasured = 0; ///< rows
 
     const char *count(bool isMet)
     {
@@ -67,23 +68,36 @@ const char *clockName(Clock clock)
     return "";
 }
 
+// Answers the ratio.
+double printTimes(const char *name, const Result &result, Clock clock)
+{
+    const Comparison &row = result.comparison;
+    const std::vector<double> ours = times(result.measured.ours, clock);
+    const std::vector<double> beside = times(result.measured.beside, clock);
+    const double ratio = median(ours) / median(beside);
+    std::printf("%-50s  %-26s %-28s %-5s %7.2f %9.2f", name, withLabel(row.ours, median(ours)).c_str(),
+                withLabel(row.beside, median(beside)).c_str(), clockName(clock), ratio,
+                ours.front() / beside.front());
+    return ratio;
+}
+
 void printComparison(const Result &result, Tally &tally)
 {
     const Comparison &row = result.comparison;
-    if (!result.measured.error.empty()) {
-        std::printf("%-50s  not measured: %s  %s\n", row.name.c_str(), result.measured.error.c_str(),
-                    row.bar ? tally.count(false) : "");
+    const std::string &error = result.measured.error;
+    if (!error.empty()) {
+        ++tally.unmeasured;
+        std::printf("%-50s  NOT MEASURED: %s\n", row.name.c_str(), error.c_str());
         return;
     }
-    const std::vector<double> ours = times(result.measured.ours, row.clock);
-    const std::vector<double> beside = times(result.measured.beside, row.clock);
-    const double ratio = median(ours) / median(beside);
-    std::printf("%-50s  %-26s %-28s %-5s %7.2f %9.2f", row.name.c_str(), withLabel(row.ours, median(ours)).c_str(),
-                withLabel(row.beside, median(beside)).c_str(), clockName(row.clock), ratio,
-                ours.front() / beside.front());
+    const double ratio = printTimes(row.name.c_str(), result, row.clock);
     if (row.bar)
         std::printf("  <= %.1f  %s", *row.bar, tally.count(ratio <= *row.bar));
     std::printf("\n");
+    if (row.clock == Clock::Wall) {
+        printTimes("  the processor's part of it", result, Clock::Processor);
+        std::printf("\n");
+    }
 }
 
 void printComparisons(const std::vector<Result> &results, Tally &tally)
@@ -101,11 +115,13 @@ double perCycle(long long before, long long after, int cycles)
     return static_cast<double>(after - before) / cycles;
 }
 
-void printMemory(const char *what, const Endured &row, long long before, long long after, double bar, Tally &tally)
+void printMemory(const char *what, const Endured &row, long long before, long long after, double noise,
+                 Tally &tally)
 {
     constexpr double kib = 1024;
     const double growth = perCycle(before, after, row.cycles);
-    std::printf("%-24s %-10s %11.1f KiB %11.1f KiB %12.3f B  <= %2.0f B  %s\n", row.screen.c_str(), what,
+    const double bar = row.leftBehind + noise;
+    std::printf("%-24s %-10s %11.1f KiB %11.1f KiB %12.3f B  <= %3.0f B  %s\n", row.screen.c_str(), what,
                 static_cast<double>(before) / kib, static_cast<double>(after) / kib, growth, bar,
                 tally.count(growth <= bar));
 }
@@ -119,8 +135,11 @@ void printEndured(const std::vector<Endured> &endured, Tally &tally)
                 ("after " + std::to_string(first.warmUp)).c_str(),
                 ("after " + std::to_string(first.warmUp + first.cycles)).c_str(), "per cycle", "Bar");
     for (const Endured &row : endured) {
-        printMemory("heap", row, row.before.heap, row.after.heap, mostHeapPerCycle, tally);
-        printMemory("resident", row, row.before.resident, row.after.resident, mostResidentPerCycle, tally);
+        const double heapNoise = row.leftBehind > 0 ? mostHeapBrokenUp : mostHeap;
+        printMemory("heap", row, row.before.heap, row.after.heap, heapNoise, tally);
+        printMemory("resident", row, row.before.resident, row.after.resident, mostResident, tally);
+        if (row.leftBehind > 0)
+            std::printf("  every cycle is meant to leave %.1f B of that behind\n", row.leftBehind);
     }
 }
 
@@ -132,7 +151,9 @@ bool report(const std::vector<Result> &results, const std::vector<Endured> &endu
     printComparisons(results, tally);
     printEndured(endured, tally);
     std::printf("\n%d of %d bars met.\n", tally.met, tally.bars);
-    return tally.met == tally.bars;
+    if (tally.unmeasured > 0)
+        std::printf("%d rows could not be measured.\n", tally.unmeasured);
+    return tally.met == tally.bars && tally.unmeasured == 0;
 }
 
 } // namespace bench

@@ -13,7 +13,8 @@ struct Result {
     Measured measured;
 };
 
-/// Prints both tables and how many bars there are to meet and are met. Answers whether all are.
+/// Prints both tables and how many bars there are to meet and are met. Answers whether all are and every row could be
+/// measured.
 bool report(const std::vector<Result> &results, const std::vector<Endured> &endured);
 
 } // namespace bench

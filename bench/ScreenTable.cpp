@@ -1,6 +1,9 @@
 #include "ScreenTable.h"
 
 #include "PHONE_MsgClient.h"
+#include "PHONE_UI_RecentCallDataTimesView.h"
+#include "PHONE_UI_RecentCallDataVolumesDetailView.h"
+#include "PHONE_UI_RecentCallDataVolumesView.h"
 #include "PHONE_UI_RecentCallMeter.h"
 #include "PHONE_UI_RecentCallTimesView.h"
 #include "ZKbMainWidget.h"
@@ -23,18 +26,91 @@ QString dataCallTime()
     return QString::asprintf("%02u:%02u:%02u", seconds / 3600, seconds / 60 % 60, seconds % 60);
 }
 
+// Every screen has "Back" on the right, and nothing on the left.
+ScreenTexts screenTexts(const QString &title, const QList<TextRow> &rows)
+{
+    return {title, QString(), QStringLiteral("Back"), rows};
+}
+
 ScreenTexts callTimes()
 {
     PHONE_UI_RecentCallMeter meter;
-    return {QStringLiteral("Call Times"),
-            QString(),
-            QStringLiteral("Back"),
-            {{QStringLiteral("Last Call"), meter.getLastCallTimes()},
-             {QStringLiteral("Dialed Calls"), meter.getDialedCallsTimes()},
-             {QStringLiteral("Answered Calls"), meter.getAnsweredCallsTimes()},
-             {QStringLiteral("Data Calls"), dataCallTime()},
-             {QStringLiteral("All Calls"), meter.getAllCallsTimes()},
-             {QStringLiteral("Lifetime Calls"), meter.getLifeTimeCallsTimes()}}};
+    return screenTexts(QStringLiteral("Call Times"),
+                       {{QStringLiteral("Last Call"), meter.getLastCallTimes()},
+                        {QStringLiteral("Dialed Calls"), meter.getDialedCallsTimes()},
+                        {QStringLiteral("Answered Calls"), meter.getAnsweredCallsTimes()},
+                        {QStringLiteral("Data Calls"), dataCallTime()},
+                        {QStringLiteral("All Calls"), meter.getAllCallsTimes()},
+                        {QStringLiteral("Lifetime Calls"), meter.getLifeTimeCallsTimes()}});
+}
+
+QString orElse(const QString &name, const QString &fallback)
+{
+    return name.isEmpty() ? fallback : name;
+}
+
+ScreenTexts dataTimes()
+{
+    PHONE_UI_RecentCallMeter meter;
+    meter.getRDT();
+    meter.getADT();
+    return screenTexts(
+        QStringLiteral("Data Times"),
+        {{QStringLiteral("Current Data Session"), QString()},
+         {orElse(meter.getRDT_Session1_Apn(), QStringLiteral("GPRS Data Session 1")), meter.getRDT_Session1()},
+         {orElse(meter.getRDT_Session2_Apn(), QStringLiteral("GPRS Data Session 2")), meter.getRDT_Session2()},
+         {orElse(meter.getRDT_Session3_Apn(), QStringLiteral("GPRS Data Session 3")), meter.getRDT_Session3()},
+         {QStringLiteral("All Data Sessions"), QString()},
+         {QStringLiteral("Total Time"), meter.getADT_Sessions()},
+         {QStringLiteral("Reset All Data Sessions"), QString()}});
+}
+
+ScreenTexts dataVolumes()
+{
+    PHONE_UI_RecentCallMeter meter;
+    meter.getRDV();
+    return screenTexts(QStringLiteral("Data Volumes"),
+                       {{QStringLiteral("Current Data Session"), QString()},
+                        {orElse(meter.getRDV_Session1_Apn(), QStringLiteral("GPRS Data Session 1")), QString()},
+                        {orElse(meter.getRDV_Session2_Apn(), QStringLiteral("GPRS Data Session 2")), QString()},
+                        {orElse(meter.getRDV_Session3_Apn(), QStringLiteral("GPRS Data Session 3")), QString()},
+                        {QStringLiteral("All Data Sessions"), QString()},
+                        {QStringLiteral("Total Data Transferred"), QString()},
+                        {QStringLiteral("Reset All Data Sessions"), QString()}});
+}
+
+QString detailName()
+{
+    return QStringLiteral("internet");
+}
+
+ScreenTexts dataVolume()
+{
+    PHONE_UI_RecentCallMeter meter;
+    meter.getRDV();
+    return screenTexts(QStringLiteral("Data Volume"),
+                       {{QStringLiteral("Current Data Session"), QString()},
+                        {detailName(), QString()},
+                        {QStringLiteral("Sent"), meter.getRDV_Session1_Sent()},
+                        {QStringLiteral("Received"), meter.getRDV_Session1_Received()},
+                        {QStringLiteral("Sum"), meter.getRDV_Session1_Total()}});
+}
+
+QWidget *createDataVolume(QWidget *display)
+{
+    return new PHONE_UI_RecentCallDataVolumesDetailView(QString(), detailName(), 1, display, nullptr);
+}
+
+QObject *dataVolumeMeter()
+{
+    auto *meter = new PHONE_UI_RecentCallMeter;
+    meter->getRDV();
+    return meter;
+}
+
+void deleteScreen(QWidget *screen)
+{
+    delete screen;
 }
 
 // What an exported pair of functions is to the host.
@@ -53,6 +129,11 @@ void destroy(QWidget *screen)
 constexpr std::array screens{
     ScreenEntry{"Call Times", &create<&create_callTime>, &destroy<PHONE_UI_RecentCallTimesView, &destroy_callTime>,
                 &callTimes},
+    ScreenEntry{"Data Times", &create<&create_dataTime>,
+                &destroy<PHONE_UI_RecentCallDataTimesView, &destroy_dataTime>, &dataTimes},
+    ScreenEntry{"Data Volumes", &create<&create_dataVolume>,
+                &destroy<PHONE_UI_RecentCallDataVolumesView, &destroy_dataVolume>, &dataVolumes},
+    ScreenEntry{"Data Volume (detail)", &createDataVolume, &deleteScreen, &dataVolume, &dataVolumeMeter},
 };
 
 } // namespace

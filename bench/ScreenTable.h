@@ -6,6 +6,7 @@
 
 #include <span>
 
+class QObject;
 class QWidget;
 
 namespace bench {
@@ -29,10 +30,12 @@ struct ScreenTexts {
 
 struct ScreenEntry {
     const char *name;
-    QWidget *(*create)(QWidget *display); ///< through the plug-in's exported function
+    QWidget *(*create)(QWidget *display); ///< through the plug-in's exported function, where there is one
     void (*destroy)(QWidget *screen);     ///< likewise
     /// The same texts for the hand-made screen, with the figures asked from the same telephone in the same way.
     ScreenTexts (*texts)();
+    /// Makes what the screen is meant to leave behind when it is destroyed; null where that is nothing.
+    QObject *(*leftBehind)() = nullptr;
 };
 
 std::span<const ScreenEntry> screenTable();

@@ -29,8 +29,8 @@ void ownSurroundings(const char *home)
 std::vector<bench::Comparison> chosenComparisons(const bench::Options &options)
 {
     std::vector<bench::Comparison> chosen;
-    for (const auto &group :
-         {bench::getterComparisons(), bench::openingComparisons(), bench::callLogComparisons(options.directory)})
+    for (const auto &group : {bench::getterComparisons(), bench::currencyComparisons(),
+                              bench::openingComparisons(), bench::callLogComparisons(options.directory)})
         for (const bench::Comparison &comparison : group)
             if (comparison.name.find(options.only.toStdString()) != std::string::npos)
                 chosen.push_back(comparison);
@@ -62,6 +62,10 @@ int main(int argc, char **argv)
     std::vector<bench::Endured> endured;
     if (options.cycles > 0)
         endured = bench::endure(options.only.toStdString(), options.cycles);
+    if (results.empty() && endured.empty()) {
+        std::fprintf(stderr, "Nothing has \"%s\" in its name.\n", qUtf8Printable(options.only));
+        return 2;
+    }
     std::printf("Each side %d times, taking turns.\n", options.repetitions);
     return bench::report(results, endured) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -49,7 +49,7 @@ QString asGetterDoes()
     traceQuery();
     if (result != 0)
         return QStringLiteral("00:00:00");
-    const QString text = format(time);
+    QString text = format(time);
     traceFormat("begin", text);
     traceFormat("after", text);
     return text;
