@@ -1,0 +1,661 @@
+#include "DialogTestKit.h"
+
+#include "Handset.h"
+#include "PinEntryDlg.h"
+#include "SETUP_SECURITY_Util.h"
+#include "SimSecurity.h"
+#include "ZApplication.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+
+#include <functional>
+
+using namespace DialogTestKit;
+using namespace ToolkitTestKit;
+
+namespace {
+
+class Sim : public handset::SimSecurity
+{
+public:
+    QByteArray code = "4711";
+    int tries = 3;
+    int statusOfPinStatus = handset::Success;
+    int statusOfTriesLeft = handset::Success;
+    int statusOfVerifyPin = handset::Success;
+    QList<QByteArray> presented;
+    QList<int> pins;
+    const char *lastSeenAt = nullptr;
+    std::function<void()> whenTriesAreAsked;
+
+    int pinStatus(quint8 pin, quint32 &status) override
+    {
+        pins << pin;
+        if (statusOfPinStatus == handset::Success)
+            status = tries > 0 ? EntryNeeded : Blocked;
+        return statusOfPinStatus;
+    }
+    int triesLeft(quint8 pin, int &left) override
+    {
+        pins << pin;
+        if (whenTriesAreAsked)
+            whenTriesAreAsked();
+        if (statusOfTriesLeft == handset::Success)
+            left = tries;
+        return statusOfTriesLeft;
+    }
+    int verifyPin(quint8 pin, const QByteArray &digits, bool &accepted) override
+    {
+        pins << pin;
+        lastSeenAt = digits.constData();
+        presented << QByteArray(digits.constData(), digits.size());
+        if (statusOfVerifyPin != handset::Success)
+            return statusOfVerifyPin;
+        accepted = presented.last() == code;
+        tries = accepted ? 3 : tries - 1;
+        return handset::Success;
+    }
+};
+
+class Telephone : public handset::Handset
+{
+public:
+    Sim sim;
+    bool hasSim = true;
+
+    handset::CallService *callService() override { return nullptr; }
+    handset::CallLog *callLog() override { return nullptr; }
+    handset::DataCalls *dataCalls() override { return nullptr; }
+    handset::SimSecurity *simSecurity() override { return hasSim ? &sim : nullptr; }
+};
+
+ZPopup *shownPopup()
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget *widget : widgets) {
+        auto *popup = qobject_cast<ZPopup *>(widget);
+        if (popup && popup->isVisible())
+            return popup;
+    }
+    return nullptr;
+}
+
+QString shownText()
+{
+    const ZPopup *popup = shownPopup();
+    return popup ? popup->header() + QLatin1Char('|') + popup->accessibleDescription() : QStringLiteral("nothing");
+}
+
+// Does one step whenever the entry waits for its user.
+class User : public QObject
+{
+public:
+    explicit User(QList<std::function<void()>> deeds)
+        : steps(std::move(deeds))
+    {
+        waiting.start();
+        startTimer(0);
+    }
+
+    bool isDone() const { return steps.isEmpty() && !gaveUp; }
+
+protected:
+    void timerEvent(QTimerEvent *) override
+    {
+        if (!steps.isEmpty())
+            steps.takeFirst()();
+        else if (waiting.hasExpired(10000))
+            giveUp();
+    }
+
+private:
+    // Nobody answers any more: the test is to fail, not to hang.
+    void giveUp()
+    {
+        gaveUp = true;
+        delete shownPopup();
+    }
+
+    QList<std::function<void()>> steps;
+    QElapsedTimer waiting;
+    bool gaveUp = false;
+};
+
+struct Result {
+    int result = -1;
+    SETUP_SECURITY_PINTYPE_E pin = SETUP_SECURITY_PIN2;
+    SETUP_SECURITY_PINVERIFY_ERR_E error = SETUP_SECURITY_VERIFY_OK;
+
+    bool isAccepted() const { return result != 0 && error == SETUP_SECURITY_VERIFY_OK; }
+};
+
+Result verify(QWidget *parent, SETUP_SECURITY_PINTYPE_E pin = SETUP_SECURITY_PIN2)
+{
+    Result answer;
+    answer.pin = pin;
+    answer.result = SETUP_SECURITY_Util::verifyPin(answer.pin, SETUP_SECURITY_SK_OK_CANCEL, answer.error, parent);
+    return answer;
+}
+
+std::function<void()> keys(const char *text)
+{
+    return [text] { pressKeys(text); };
+}
+
+std::function<void()> key(int qtKey)
+{
+    return [qtKey] { pressKey(qtKey); };
+}
+
+int messages = 0; // that went to the log
+
+void countMessages(QtMsgType, const QMessageLogContext &, const QString &)
+{
+    ++messages;
+}
+
+} // namespace
+
+class VerifyPinTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void theRightPinIsAccepted();
+    void everyKeyThatConfirmsConfirms_data();
+    void everyKeyThatConfirmsConfirms();
+    void aWrongPinIsSaidAndAskedAgainWithTheNewCount();
+    void theThirdWrongPinBlocksAndThatIsSaid();
+    void aBlockedPinIsNotAskedFor();
+    void aSimThatCannotBeAskedIsSaid_data();
+    void aSimThatCannotBeAskedIsSaid();
+    void aPinThatTheSimRefusesToLookAtIsBlocked();
+    void aSimThatDoesNotTellTheTriesIsAskedAllTheSame();
+    void theUserCanGiveUp_data();
+    void theUserCanGiveUp();
+    void theClearKeyTakesBackDigitsAndThenGivesUp_data();
+    void theClearKeyTakesBackDigitsAndThenGivesUp();
+    void theHashKeyTakesBackAndNeverGivesUp();
+    void fewerThanFourDigitsDoNotConfirm();
+    void moreThanEightDigitsAreNotTaken();
+    void aHeldKeyIsOneDigit();
+    void otherKeysTypeNothing();
+    void theEntryLooksTheSameWhateverTheDigits();
+    void noTextAnywhereHasTheDigits();
+    void theDigitsAreOverwrittenOnceTheSimHasSeenThem();
+    void nothingIsWrittenToAnyLog();
+    void theEntryIsModalOverItsScreen();
+    void theOtherPinIsAskedForByItsName();
+    void aNumberThatIsNoPinFails();
+    void aSecondCallIsRefusedWhileTheFirstIsOpen();
+    void theEntryEndsWhenWhatIsAroundItGoes_data();
+    void theEntryEndsWhenWhatIsAroundItGoes();
+    void aMessageEndsWhenItsScreenGoes();
+    void theEntryEndsWithTheApplication();
+    void nobodyIsAskedOverAHiddenScreen();
+    void withoutAScreenTheEntryLiesOverTheDisplay();
+    void anotherTelephoneInstalledMeanwhileIsTheOneAsked();
+    void theEntryCanBeOpenedByAKeyPress();
+
+private:
+    std::shared_ptr<Telephone> telephone;
+    std::unique_ptr<TestScreen> screen;
+};
+
+void VerifyPinTest::init()
+{
+    noWarnings();
+    telephone = std::make_shared<Telephone>();
+    handset::install(telephone);
+    screen = std::make_unique<TestScreen>();
+    screen->addRows(3);
+    screen->show();
+}
+
+void VerifyPinTest::cleanup()
+{
+    screen.reset();
+    handset::install(nullptr);
+    telephone.reset();
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void VerifyPinTest::theRightPinIsAccepted()
+{
+    QString text;
+    User user({[&] { text = shownText(); }, keys("4711"), key(Qt::Key_Context1)});
+    const Result answer = verify(screen.get());
+    QVERIFY(user.isDone());
+    QVERIFY(answer.isAccepted());
+    QCOMPARE(answer.pin, SETUP_SECURITY_PIN2);
+    QCOMPARE(text, QStringLiteral("Enter PIN2|Tries left: 3"));
+    QCOMPARE(telephone->sim.presented, QList<QByteArray>{"4711"});
+    QCOMPARE(telephone->sim.pins, QList<int>(3, 1));
+    QCOMPARE(ZApplication::keyTarget(), screen->list);
+}
+
+void VerifyPinTest::everyKeyThatConfirmsConfirms_data()
+{
+    QTest::addColumn<int>("confirm");
+    QTest::newRow("the left softkey") << int(Qt::Key_Context1);
+    QTest::newRow("the left softkey of a keyboard") << int(Qt::Key_F1);
+    QTest::newRow("the select key") << int(Qt::Key_Select);
+    QTest::newRow("the Enter key") << int(Qt::Key_Return);
+}
+
+void VerifyPinTest::everyKeyThatConfirmsConfirms()
+{
+    QFETCH(int, confirm);
+    User user({keys("4711"), key(confirm)});
+    QVERIFY(verify(screen.get()).isAccepted());
+}
+
+void VerifyPinTest::aWrongPinIsSaidAndAskedAgainWithTheNewCount()
+{
+    QStringList texts;
+    const auto look = [&] { texts << shownText(); };
+    User user({look, keys("0000"), key(Qt::Key_Select), look, keys("00001111"), key(Qt::Key_Select), look,
+               keys("4711"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+    QVERIFY(user.isDone());
+    QCOMPARE(texts, QStringList({QStringLiteral("Enter PIN2|Tries left: 3"),
+                                 QStringLiteral("Enter PIN2|Wrong PIN2. Tries left: 2"),
+                                 QStringLiteral("Enter PIN2|Wrong PIN2. Tries left: 1")}));
+    QCOMPARE(telephone->sim.presented, QList<QByteArray>({"0000", "00001111", "4711"}));
+}
+
+void VerifyPinTest::theThirdWrongPinBlocksAndThatIsSaid()
+{
+    telephone->sim.tries = 1;
+    QString text;
+    User user({keys("0000"), key(Qt::Key_Select), [&] { text = shownText(); }, key(Qt::Key_Context1)});
+    const Result answer = verify(screen.get());
+    QVERIFY(user.isDone());
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_BLOCKED);
+    QCOMPARE(text, QStringLiteral("PIN2|PIN2 is blocked. Only PUK2 can unblock it."));
+    QCOMPARE(telephone->sim.presented.size(), 1);
+    QVERIFY(!shownPopup());
+}
+
+void VerifyPinTest::aBlockedPinIsNotAskedFor()
+{
+    telephone->sim.tries = 0;
+    QString text;
+    User user({[&] { text = shownText(); }, key(Qt::Key_Clear)});
+    const Result answer = verify(screen.get());
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_BLOCKED);
+    QCOMPARE(text, QStringLiteral("PIN2|PIN2 is blocked. Only PUK2 can unblock it."));
+    QVERIFY(telephone->sim.presented.isEmpty());
+}
+
+void VerifyPinTest::aSimThatCannotBeAskedIsSaid_data()
+{
+    QTest::addColumn<bool>("hasTelephone");
+    QTest::addColumn<bool>("hasSim");
+    QTest::addColumn<int>("pinStatus");
+    QTest::addColumn<int>("verifyPin");
+    QTest::newRow("no telephone at all") << false << false << 0 << 0;
+    QTest::newRow("a telephone without a SIM") << true << false << 0 << 0;
+    QTest::newRow("a SIM that does not answer") << true << true << int(handset::NotAvailable) << 0;
+    QTest::newRow("a SIM that fails while it looks at the PIN")
+        << true << true << 0 << int(handset::StorageFailed);
+    QTest::newRow("a SIM with a failure of its own") << true << true << 0 << 4242;
+}
+
+void VerifyPinTest::aSimThatCannotBeAskedIsSaid()
+{
+    QFETCH(bool, hasTelephone);
+    QFETCH(bool, hasSim);
+    QFETCH(int, pinStatus);
+    QFETCH(int, verifyPin);
+    telephone->hasSim = hasSim;
+    telephone->sim.statusOfPinStatus = pinStatus;
+    telephone->sim.statusOfVerifyPin = verifyPin;
+    if (!hasTelephone)
+        handset::install(nullptr);
+    QString text;
+    QList<std::function<void()>> steps = {[&] { text = shownText(); }, key(Qt::Key_Select)};
+    if (verifyPin != 0)
+        steps = QList<std::function<void()>>{keys("4711"), key(Qt::Key_Select)} + steps;
+    User user(steps);
+    const Result answer = verify(screen.get());
+    QVERIFY(user.isDone());
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_FAILED);
+    QCOMPARE(text, QStringLiteral("PIN2|The SIM card cannot be asked for PIN2."));
+}
+
+void VerifyPinTest::aPinThatTheSimRefusesToLookAtIsBlocked()
+{
+    telephone->sim.statusOfVerifyPin = handset::NotAllowed;
+    User user({keys("4711"), key(Qt::Key_Select), key(Qt::Key_Select)});
+    const Result answer = verify(screen.get());
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_BLOCKED);
+}
+
+void VerifyPinTest::aSimThatDoesNotTellTheTriesIsAskedAllTheSame()
+{
+    telephone->sim.statusOfTriesLeft = handset::NotAvailable;
+    QStringList texts;
+    const auto look = [&] { texts << shownText(); };
+    User user({look, keys("0000"), key(Qt::Key_Select), look, keys("4711"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+    QCOMPARE(texts, QStringList({QStringLiteral("Enter PIN2|"), QStringLiteral("Enter PIN2|Wrong PIN2")}));
+}
+
+void VerifyPinTest::theUserCanGiveUp_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("last");
+    QTest::newRow("by the right softkey at once") << "" << int(Qt::Key_Context2);
+    QTest::newRow("by the right softkey after digits") << "471" << int(Qt::Key_Context2);
+    QTest::newRow("by the right softkey of a keyboard") << "4711" << int(Qt::Key_F2);
+    QTest::newRow("by the clear key at once") << "" << int(Qt::Key_Clear);
+    QTest::newRow("by the Backspace key at once") << "" << int(Qt::Key_Backspace);
+    QTest::newRow("by the Escape key at once") << "" << int(Qt::Key_Escape);
+    QTest::newRow("by the Escape key after digits") << "4711" << int(Qt::Key_Escape);
+    QTest::newRow("by the Back key after digits") << "4711" << int(Qt::Key_Back);
+}
+
+void VerifyPinTest::theUserCanGiveUp()
+{
+    QFETCH(QString, typed);
+    QFETCH(int, last);
+    const QByteArray text = typed.toLatin1();
+    User user({keys(text.constData()), key(last)});
+    const Result answer = verify(screen.get());
+    QVERIFY(user.isDone());
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
+    QVERIFY(telephone->sim.presented.isEmpty());
+    QCOMPARE(telephone->sim.tries, 3);
+}
+
+void VerifyPinTest::theClearKeyTakesBackDigitsAndThenGivesUp_data()
+{
+    QTest::addColumn<int>("clear");
+    QTest::newRow("the phone's clear key") << int(Qt::Key_Clear);
+    QTest::newRow("the Backspace key of a keyboard") << int(Qt::Key_Backspace);
+}
+
+void VerifyPinTest::theClearKeyTakesBackDigitsAndThenGivesUp()
+{
+    QFETCH(int, clear);
+    {
+        User user({keys("4712"), key(clear), keys("1"), key(Qt::Key_Select)});
+        QVERIFY(verify(screen.get()).isAccepted());
+    }
+    bool wasOpenWhenEmpty = false;
+    User user({keys("47"), key(clear), key(clear), [&] { wasOpenWhenEmpty = shownPopup(); },
+               // A key that is held empties the field and stops there.
+               [&] { press(ZApplication::keyTarget(), clear, true); },
+               [&] { wasOpenWhenEmpty = wasOpenWhenEmpty && shownPopup(); }, key(clear)});
+    QCOMPARE(verify(screen.get()).error, SETUP_SECURITY_VERIFY_CANCELLED);
+    QVERIFY(user.isDone());
+    QVERIFY(wasOpenWhenEmpty);
+}
+
+void VerifyPinTest::theHashKeyTakesBackAndNeverGivesUp()
+{
+    User user({keys("47##########4712#1"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+}
+
+void VerifyPinTest::fewerThanFourDigitsDoNotConfirm()
+{
+    bool wasEnabled = true;
+    User user({keys("471"), key(Qt::Key_Select), key(Qt::Key_Context1),
+               [&] { wasEnabled = shownPopup()->softKey()->isButtonEnabled(ZSoftKey::LeftKey); }, keys("1"),
+               key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+    QVERIFY(!wasEnabled);
+    QCOMPARE(telephone->sim.presented.size(), 1);
+}
+
+void VerifyPinTest::moreThanEightDigitsAreNotTaken()
+{
+    telephone->sim.code = "12345678";
+    User user({keys("1234567899"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+}
+
+void VerifyPinTest::aHeldKeyIsOneDigit()
+{
+    User user(
+        {keys("4"), [] { press(ZApplication::keyTarget(), Qt::Key_4, true); }, keys("711"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+}
+
+void VerifyPinTest::otherKeysTypeNothing()
+{
+    User user({keys("47"), keys("*"), key(Qt::Key_A), key(Qt::Key_Up), key(Qt::Key_Down), key(Qt::Key_Left),
+               [] { QTest::keyClick(ZApplication::keyTarget(), Qt::Key_1, Qt::ControlModifier); },
+               [] { QTest::keyClick(ZApplication::keyTarget(), Qt::Key_1, Qt::KeypadModifier); }, keys("1"),
+               key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+}
+
+void VerifyPinTest::theEntryLooksTheSameWhateverTheDigits()
+{
+    QList<QImage> looks;
+    const auto look = [&] { looks << screen->grab().toImage(); };
+    for (const char *digits : {"1234", "9087"}) {
+        User user({look, keys(digits), look, key(Qt::Key_Context2)});
+        verify(screen.get());
+    }
+    QCOMPARE(looks.size(), 4);
+    QCOMPARE(looks.at(0), looks.at(2));
+    QCOMPARE(looks.at(1), looks.at(3));
+    QVERIFY2(looks.at(0) != looks.at(1), "the digits typed cannot be counted");
+}
+
+void VerifyPinTest::noTextAnywhereHasTheDigits()
+{
+    QStringList texts;
+    const auto read = [&] {
+        const QObjectList objects = QList<QObject *>{shownPopup()} + shownPopup()->findChildren<QObject *>();
+        for (const QObject *object : objects) {
+            const QMetaObject *meta = object->metaObject();
+            for (int i = 0; i < meta->propertyCount(); ++i)
+                texts << meta->property(i).read(object).toString();
+        }
+    };
+    User user({keys("90817263"), read, key(Qt::Key_Context2)});
+    verify(screen.get());
+    QVERIFY(user.isDone());
+    QVERIFY(texts.contains(QString(8, QChar(0x2022))));
+    QVERIFY(texts.filter(QStringLiteral("9081")).isEmpty());
+    QVERIFY(texts.filter(QStringLiteral("7263")).isEmpty());
+}
+
+void VerifyPinTest::theDigitsAreOverwrittenOnceTheSimHasSeenThem()
+{
+    int looks = 0;
+    bool anyDigit = false;
+    telephone->sim.whenTriesAreAsked = [&] {
+        const char *place = telephone->sim.lastSeenAt; // in the entry, which is still there
+        for (int i = 0; place && i < 8; ++i, ++looks)
+            anyDigit = anyDigit || place[i] != 0;
+    };
+    User user({keys("12345678"), key(Qt::Key_Select), keys("4711"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+    QCOMPARE(looks, 8);
+    QVERIFY(!anyDigit);
+}
+
+void VerifyPinTest::nothingIsWrittenToAnyLog()
+{
+    messages = 0;
+    const QtMessageHandler before = qInstallMessageHandler(countMessages);
+    User user({keys("0000"), key(Qt::Key_Select), keys("4711"), key(Qt::Key_Select)});
+    const Result answer = verify(screen.get());
+    qInstallMessageHandler(before);
+    QVERIFY(answer.isAccepted());
+    QCOMPARE(messages, 0);
+}
+
+void VerifyPinTest::theEntryIsModalOverItsScreen()
+{
+    int chosenRows = 0;
+    connect(screen->list, &ZListBox::itemChosen, this, [&] { ++chosenRows; });
+    int current = -1;
+    User user({[&] {
+                   QTest::mouseClick(screen->window(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 40));
+                   QTest::mouseClick(shownPopup(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 40));
+               },
+               key(Qt::Key_Down), key(Qt::Key_Select), [&] { current = screen->list->currentItem(); },
+               key(Qt::Key_Context2)});
+    QCOMPARE(verify(screen.get()).error, SETUP_SECURITY_VERIFY_CANCELLED);
+    QCOMPARE(chosenRows, 0);
+    QCOMPARE(current, 0);
+}
+
+void VerifyPinTest::theOtherPinIsAskedForByItsName()
+{
+    QString text;
+    User user({[&] { text = shownText(); }, keys("4711"), key(Qt::Key_Select)});
+    const Result answer = verify(screen.get(), SETUP_SECURITY_PIN1);
+    QVERIFY(answer.isAccepted());
+    QCOMPARE(answer.pin, SETUP_SECURITY_PIN1);
+    QCOMPARE(text, QStringLiteral("Enter PIN1|Tries left: 3"));
+    QCOMPARE(telephone->sim.pins, QList<int>(3, 0));
+}
+
+void VerifyPinTest::aNumberThatIsNoPinFails()
+{
+    QTest::ignoreMessage(QtWarningMsg, "SETUP_SECURITY_Util::verifyPin: there is no PIN 7");
+    const Result answer = verify(screen.get(), static_cast<SETUP_SECURITY_PINTYPE_E>(7));
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_FAILED);
+    QVERIFY(telephone->sim.pins.isEmpty());
+}
+
+void VerifyPinTest::aSecondCallIsRefusedWhileTheFirstIsOpen()
+{
+    Result second;
+    User user({[&] { second = verify(screen.get()); }, keys("4711"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+    QCOMPARE(second.result, 0);
+    QCOMPARE(second.error, SETUP_SECURITY_VERIFY_CANCELLED);
+    User again({keys("4711"), key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+}
+
+using Deed = std::function<void(std::unique_ptr<TestScreen> &)>;
+Q_DECLARE_METATYPE(Deed)
+
+void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes_data()
+{
+    QTest::addColumn<Deed>("deed");
+    QTest::newRow("the screen is destroyed") << Deed([](auto &parent) { parent.reset(); });
+    QTest::newRow("the screen is hidden") << Deed([](auto &parent) { parent->hide(); });
+    QTest::newRow("the screen is closed") << Deed([](auto &parent) { parent->close(false); });
+    QTest::newRow("all windows are closed") << Deed([](auto &) { QApplication::closeAllWindows(); });
+    QTest::newRow("the entry is deleted by another") << Deed([](auto &) { delete shownPopup(); });
+}
+
+void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes()
+{
+    QFETCH(Deed, deed);
+    for (const char *typed : {"", "47", "4711"}) {
+        screen = std::make_unique<TestScreen>();
+        screen->show();
+        User user({keys(typed), [&] { deed(screen); }});
+        const Result answer = verify(screen.get());
+        QVERIFY(user.isDone());
+        QCOMPARE(answer.result, 0);
+        QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
+        QVERIFY(telephone->sim.presented.isEmpty());
+        QVERIFY(!shownPopup());
+    }
+}
+
+void VerifyPinTest::aMessageEndsWhenItsScreenGoes()
+{
+    telephone->sim.tries = 0;
+    User user({[&] { screen.reset(); }});
+    QCOMPARE(verify(screen.get()).error, SETUP_SECURITY_VERIFY_BLOCKED);
+    QVERIFY(user.isDone());
+    QVERIFY(!shownPopup());
+}
+
+void VerifyPinTest::theEntryEndsWithTheApplication()
+{
+    Result answer;
+    QTimer::singleShot(0, this, [&] { answer = verify(screen.get()); });
+    User user({[] {}, [] { QCoreApplication::quit(); }});
+    QCoreApplication::exec();
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
+    QVERIFY(!shownPopup());
+}
+
+void VerifyPinTest::nobodyIsAskedOverAHiddenScreen()
+{
+    screen->hide();
+    const Result answer = verify(screen.get());
+    QCOMPARE(answer.result, 0);
+    QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
+}
+
+void VerifyPinTest::withoutAScreenTheEntryLiesOverTheDisplay()
+{
+    bool isOverDisplay = false;
+    {
+        User user({[&] {
+                       isOverDisplay =
+                           shownPopup() && shownPopup()->isWindow() && shownPopup()->size() == screen->size();
+                   },
+                   keys("4711"), key(Qt::Key_Select)});
+        QVERIFY(verify(nullptr).isAccepted());
+        QVERIFY(isOverDisplay);
+    }
+    User user({[&] { screen.reset(); }});
+    QCOMPARE(verify(nullptr).error, SETUP_SECURITY_VERIFY_CANCELLED);
+    QVERIFY(user.isDone());
+}
+
+void VerifyPinTest::anotherTelephoneInstalledMeanwhileIsTheOneAsked()
+{
+    const auto other = std::make_shared<Telephone>();
+    other->sim.code = "1234";
+    const std::weak_ptr<Telephone> first = telephone;
+    User user({keys("1234"),
+               [&] {
+                   handset::install(other);
+                   telephone.reset();
+               },
+               key(Qt::Key_Select)});
+    QVERIFY(verify(screen.get()).isAccepted());
+    QCOMPARE(other->sim.presented.size(), 1);
+    QVERIFY(first.expired());
+}
+
+// What the cost setup does: the entry blocks within the list's own signal, and the list goes on after it.
+void VerifyPinTest::theEntryCanBeOpenedByAKeyPress()
+{
+    QList<bool> answers;
+    connect(screen->list, &ZListBox::itemChosen, this, [&] { answers << verify(screen.get()).isAccepted(); });
+    {
+        User user({keys("4711"), key(Qt::Key_Select)});
+        pressKey(Qt::Key_Select);
+        QVERIFY(user.isDone());
+    }
+    {
+        User user({[&] { screen.reset(); }});
+        clickInWindow(screen.get(), Qt::Key_Select);
+        QVERIFY(user.isDone());
+    }
+    QCOMPARE(answers, QList<bool>({true, false}));
+}
+
+QTEST_MAIN(VerifyPinTest)
+
+#include "tst_verify_pin.moc"
