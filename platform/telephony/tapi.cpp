@@ -70,7 +70,7 @@ int fillBlock(TAPI_GPRS_SessionInfo &block, const handset::DataSessions &session
     TAPI_GPRS_SessionInfo filled = {};
     filled.count = qToLittleEndian(sessions.count);
     for (std::size_t i = 0; i < sessions.records.size(); ++i) {
-        if (sessions.records[i].apn.size() > static_cast<qsizetype>(sizeof filled.records[i].apn))
+        if (sessions.records[i].apn.size() >= static_cast<qsizetype>(sizeof filled.records[i].apn))
             return handset::TextTooLong;
         fillRecord(filled.records[i], sessions.records[i]);
     }

@@ -1,0 +1,113 @@
+// The phone's message client over a scripted telephone.
+#include "PhoneTest.h"
+
+#include "Handset.h"
+#include "PHONE_MsgClient.h"
+#include "Status.h"
+
+#include <QtCore/QPointer>
+
+#include <cstring>
+#include <limits>
+#include <memory>
+
+class TestMessageClient : public PhoneTest
+{
+    Q_OBJECT
+
+private slots:
+    void refreshingAsksTheTelephoneOnce();
+    void aConfirmedResetIsPassedOn();
+    void anUnconfirmedResetAsksForNothing();
+    void codesArePassedOn();
+    void withoutATelephoneNothingIsAvailable();
+    void withoutDataCallsNothingIsAvailable();
+    void itHasTheNameItIsGivenOrNone();
+    void itIsItsParentsAndNobodysWithoutOne();
+    void makingAndDeletingItAsksForNothing();
+    void itSaysItsClass();
+};
+
+void TestMessageClient::refreshingAsksTheTelephoneOnce()
+{
+    PHONE_MsgClient client(nullptr);
+    QCOMPARE(client.getTotalByteAndConnectedDuration(), int(handset::Success));
+    QCOMPARE(journal.lines(), QStringList{QStringLiteral("DataCalls::refreshTotals")});
+}
+
+void TestMessageClient::aConfirmedResetIsPassedOn()
+{
+    PHONE_MsgClient client(nullptr);
+    QCOMPARE(client.resetTotalDuration(true), int(handset::Success));
+    QCOMPARE(journal.lines(), QStringList{QStringLiteral("DataCalls::resetTotalDuration")});
+}
+
+void TestMessageClient::anUnconfirmedResetAsksForNothing()
+{
+    PHONE_MsgClient client(nullptr);
+    script().failAll(9);
+    QCOMPARE(client.resetTotalDuration(false), int(handset::Success));
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestMessageClient::codesArePassedOn()
+{
+    PHONE_MsgClient client(nullptr);
+    for (const int code : {1, 2, 3, 4, 77, -1, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
+        script().failAll(code);
+        QCOMPARE(client.getTotalByteAndConnectedDuration(), code);
+        QCOMPARE(client.resetTotalDuration(true), code);
+    }
+}
+
+void TestMessageClient::withoutATelephoneNothingIsAvailable()
+{
+    PHONE_MsgClient client(nullptr);
+    handset::install(nullptr);
+    QCOMPARE(client.getTotalByteAndConnectedDuration(), int(handset::NotAvailable));
+    QCOMPARE(client.resetTotalDuration(true), int(handset::NotAvailable));
+}
+
+void TestMessageClient::withoutDataCallsNothingIsAvailable()
+{
+    PHONE_MsgClient client(nullptr);
+    (*PhoneTest::handset)->takeAway(QStringLiteral("DataCalls"));
+    QCOMPARE(client.getTotalByteAndConnectedDuration(), int(handset::NotAvailable));
+    QCOMPARE(client.resetTotalDuration(true), int(handset::NotAvailable));
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestMessageClient::itHasTheNameItIsGivenOrNone()
+{
+    QCOMPARE(PHONE_MsgClient(nullptr, "caf\xe9").objectName(), QString::fromLatin1("caf\xe9"));
+    QVERIFY(PHONE_MsgClient(nullptr, nullptr).objectName().isEmpty());
+    QVERIFY(PHONE_MsgClient(nullptr).objectName().isEmpty());
+}
+
+void TestMessageClient::itIsItsParentsAndNobodysWithoutOne()
+{
+    auto parent = std::make_unique<QObject>();
+    const QPointer<PHONE_MsgClient> client = new PHONE_MsgClient(parent.get());
+    QCOMPARE(client->parent(), parent.get());
+    parent.reset();
+    QVERIFY(!client);
+    QCOMPARE(PHONE_MsgClient(nullptr).parent(), nullptr);
+}
+
+void TestMessageClient::makingAndDeletingItAsksForNothing()
+{
+    {
+        const PHONE_MsgClient client(nullptr);
+    }
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestMessageClient::itSaysItsClass()
+{
+    const PHONE_MsgClient client(nullptr);
+    QCOMPARE(QByteArray(client.className()), QByteArray("PHONE_MsgClient"));
+    QCOMPARE(QByteArray(client.metaObject()->className()), QByteArray("PHONE_MsgClient"));
+}
+
+KAV_TEST_MAIN(TestMessageClient)
+#include "tst_message_client.moc"
