@@ -10,12 +10,12 @@ namespace handset::sim {
 
 using Sha256 = std::array<char, 32>;
 
-/// The first block of PBKDF2 with HMAC-SHA-256 (RFC 8018). `password` has at most 64 bytes, `iterations` is 1 or more.
-/// Leaves nothing of the password in memory that it used.
+/// The first block of PBKDF2 with HMAC-SHA-256 (RFC 8018). `password` has at most 64 bytes, `iterations` is 1 or
+/// more. Its own copies of the password are overwritten.
 Sha256 pbkdf2Sha256(QByteArrayView password, QByteArrayView salt, int iterations);
 
-/// Digits that can be recognised and not read. That is all it is for: whoever has the hash of four digits can try all
-/// ten thousand, however long each try is made to take. So it takes a few milliseconds, not longer.
+/// Digits that can be recognised and not read. That is all it is for: whoever has the hash of four digits can try
+/// all ten thousand, however long each try is made to take. So it takes a few milliseconds, not longer.
 struct CodeHash {
     static constexpr int iterations = 1000;
 

@@ -7,8 +7,8 @@
 
 namespace handset::sim {
 
-/// The byte, 0 to 127, that stands for `character`; nothing when the alphabet does not have it. Characters that need
-/// the escape to the extension table (the euro sign, brackets) are not in it.
+/// The byte, 0 to 127, that stands for `character`; nothing when the alphabet does not have it. Characters that
+/// need the escape to the extension table (the euro sign, brackets) are not in it.
 std::optional<quint8> toDefaultAlphabet(QChar character);
 
 /// A byte that is no character becomes '?', the escape a blank, so that what is read can be stored again.

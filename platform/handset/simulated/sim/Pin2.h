@@ -20,9 +20,9 @@ struct Pin2Record {
     friend bool operator==(const Pin2Record &, const Pin2Record &) = default;
 };
 
-/// PIN2, its PUK and their tries. Digits are used and not kept; the buffer is the caller's to wipe. A try counts in what
-/// record() answers as soon as the operation returns: store that before telling the outcome, or switching off in between
-/// gives the try back.
+/// PIN2, its PUK and their tries. Digits are used and not kept; the buffer is the caller's to wipe. A try counts
+/// in what record() answers as soon as the operation returns: store that before telling the outcome, or switching
+/// off in between gives the try back.
 class Pin2
 {
 public:
@@ -47,13 +47,13 @@ public:
     /// What PIN2 guards may be done now.
     bool isSatisfied() const { return status() == SimSecurity::NoEntryNeeded; }
 
-    /// The right PIN gives all tries back and counts until powerOff(); a wrong one (`accepted` false) costs a try and
-    /// takes back what an earlier right one allowed. InvalidArgument for what is no PIN, which costs nothing; NotAllowed
-    /// when it is blocked. The same whether the PIN is on or off.
+    /// The right PIN gives all tries back and counts until powerOff(); a wrong one (`accepted` false) costs a try
+    /// and takes back what an earlier right one allowed. InvalidArgument for what is no PIN, which costs nothing;
+    /// NotAllowed when it is blocked. The same whether the PIN is on or off.
     int verify(QByteArrayView digits, bool &accepted);
-    /// The right PUK sets a new PIN, gives all tries of both back, switches the PIN on and counts as having entered it;
-    /// a wrong one costs a try of the PUK's. It need not be blocked. InvalidArgument when either is malformed, which
-    /// costs nothing; NotAllowed when the PUK is blocked.
+    /// The right PUK sets a new PIN, gives all tries of both back, switches the PIN on and counts as having
+    /// entered it; a wrong one costs a try of the PUK's. It need not be blocked. InvalidArgument when either is
+    /// malformed, which costs nothing; NotAllowed when the PUK is blocked.
     int unblock(QByteArrayView puk, QByteArrayView newPin, bool &accepted);
 
     /// For who makes the card, not for its user: asks for no code.

@@ -7,8 +7,8 @@
 
 namespace handset::sim {
 
-/// Three characters of currency code, then EPPU (12 bits: byte 4 and the low half of byte 5) and the exponent (high half
-/// of byte 5: the lowest bit is the sign, 1 is negative, the other three the magnitude).
+/// Three characters of currency code, then EPPU (12 bits: byte 4 and the low half of byte 5) and the exponent
+/// (high half of byte 5: the lowest bit is the sign, 1 is negative, the other three the magnitude).
 using PuctBytes = std::array<quint8, 5>;
 
 /// A new card: no code, no price, as TS 51.011 suggests it.
@@ -21,9 +21,9 @@ struct Puct {
     friend bool operator==(const Puct &, const Puct &) = default;
 };
 
-/// A code shorter than three characters is followed by bytes FF, as on a new card, so that every code is read back as it
-/// was stored, blanks at its end too. InvalidArgument, and nothing written, for a code of more than three characters or
-/// with one that the default alphabet does not have.
+/// A code shorter than three characters is followed by bytes FF, as on a new card, so that every code is read back
+/// as it was stored, blanks at its end too. InvalidArgument, and nothing written, for a code of more than three
+/// characters or with one that the default alphabet does not have.
 int encodePuct(const Puct &puct, PuctBytes &bytes);
 
 /// Any five bytes can be read: the code ends at the first byte FF, and what is no character is '?'.

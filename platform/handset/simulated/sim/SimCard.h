@@ -10,7 +10,8 @@
 
 namespace handset::sim {
 
-/// The contents of the files, as bytes, and their update rules (AdviceOfCharge::UpdateRule; any other number: anybody).
+/// The contents of the files, as bytes, and their update rules (AdviceOfCharge::UpdateRule; any other number:
+/// anybody).
 struct SimFiles {
     /// Records of EF_ACM. How many is the card maker's choice.
     static constexpr std::size_t acmRecords = 5;

@@ -21,8 +21,8 @@ namespace handset::sim {
 /// Every version begins with the same five bytes and ends with the same check.
 QByteArray saveCard(const SimCard &card);
 
-/// Reads it back: PIN2 is not entered. InvalidArgument for bytes that are no card or are damaged, NotAvailable for a card
-/// of a newer version; `card` then stays as it is, so that a new card given in is what is left.
+/// Reads it back: PIN2 is not entered. InvalidArgument for bytes that are no card or are damaged, NotAvailable for
+/// a card of a newer version; `card` then stays as it is, so that a new card given in is what is left.
 int loadCard(QByteArrayView bytes, SimCard &card);
 
 } // namespace handset::sim

@@ -18,14 +18,14 @@ struct CallLeg {
     friend bool operator==(const CallLeg &, const CallLeg &) = default;
 };
 
-/// The charge advice information elements e1 to e7 (3GPP TS 22.024). Ranges and steps are those of the network's message
-/// (TS 24.080), 0 to 8191 each; whole numbers only.
+/// The charge advice information elements e1 to e7 (3GPP TS 22.024). Ranges and steps are those of the network's
+/// message (TS 24.080), 0 to 8191 each; whole numbers only.
 ///
-/// A leg costs e3 x (e4 + e1 x INT(duration / (e7, e2)) + e5 x INT(segments / e6)) units: a unit is due when its interval
-/// is complete. The first interval is e7 long and the others e2; an e7 of 0 makes the first as long as the others, an e2
-/// of 0 leaves it alone. An interval of no length at all (e7 and e2, or e6) is never complete. The clock counts whole
-/// tenths of a second. A fraction of a unit that e1, e3, e4 or e5 leave is kept until it adds up to a whole one: the sum
-/// is rounded down, once.
+/// A leg costs e3 x (e4 + e1 x INT(duration / (e7, e2)) + e5 x INT(segments / e6)) units: a unit is due when its
+/// interval is complete. The first interval is e7 long and the others e2; an e7 of 0 makes the first as long as
+/// the others, an e2 of 0 leaves it alone. An interval of no length at all (e7 and e2, or e6) is never complete.
+/// The clock counts whole tenths of a second. A fraction of a unit that e1, e3, e4 or e5 leave is kept until it
+/// adds up to a whole one: the sum is rounded down, once.
 struct Tariff {
     static constexpr quint16 greatestElement = 8191;
 
@@ -46,8 +46,8 @@ struct Tariff {
     /// Each leg alone, added up to at most maxUnits.
     quint32 units(std::span<const CallLeg> legs) const;
 
-    /// How long until the leg, if it goes on without data, costs at least `limit` units: 0 when it does so already,
-    /// nothing when it never will. `limit` counts from the leg's own start; the next unit is due in
+    /// How long until the leg, if it goes on without data, costs at least `limit` units: 0 when it does so
+    /// already, nothing when it never will. `limit` counts from the leg's own start; the next unit is due in
     /// msUntil(leg, units(leg) + 1).
     std::optional<qint64> msUntil(const CallLeg &leg, quint32 limit) const;
 

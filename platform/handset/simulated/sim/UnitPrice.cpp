@@ -18,8 +18,8 @@ constexpr std::array<quint64, 16> powersOfTen = [] {
     return powers;
 }();
 
-// Half of the smallest step is 5 of these, so every point halfway between two prices is a whole number of them, and what
-// is smaller decides nothing.
+// Half of the smallest step is 5 of these, so every point halfway between two prices is a whole number of them,
+// and what is smaller decides nothing.
 constexpr int workingDecimals = UnitPrice::decimals + 1;
 
 constexpr quint64 tenTo(int exponent)

@@ -8,8 +8,8 @@
 
 namespace handset::sim {
 
-/// EPPU x 10^EX of EF_PUCT (3GPP TS 51.011, 10.3.11). What it holds is what is charged and shown: a price that cannot be
-/// held exactly is rounded once, when it is set.
+/// EPPU x 10^EX of EF_PUCT (3GPP TS 51.011, 10.3.11). What it holds is what is charged and shown: a price that
+/// cannot be held exactly is rounded once, when it is set.
 class UnitPrice
 {
 public:
@@ -22,12 +22,13 @@ public:
     /// Nothing.
     constexpr UnitPrice() = default;
 
-    /// `eppu` 0 to greatestEppu, `exponent` leastExponent to greatestExponent, kept as given; else InvalidArgument.
+    /// `eppu` 0 to greatestEppu, `exponent` leastExponent to greatestExponent, kept as given; else
+    /// InvalidArgument.
     static int fromParts(int eppu, int exponent, UnitPrice &price);
 
-    /// The price nearest to a decimal text (as parseDecimal() reads it), with the shortest EPPU: "0.230" is 23 x 10^-2,
-    /// "170" is 17 x 10^1. Halfway between two prices the greater is taken. InvalidArgument for a text that is no
-    /// number and for one above the greatest price, 4095 x 10^7, however little.
+    /// The price nearest to a decimal text (as parseDecimal() reads it), with the shortest EPPU: "0.230" is 23 x
+    /// 10^-2, "170" is 17 x 10^1. Halfway between two prices the greater is taken. InvalidArgument for a text that
+    /// is no number and for one above the greatest price, 4095 x 10^7, however little.
     static int fromText(QStringView text, UnitPrice &price);
 
     int eppu() const { return significand; }
