@@ -63,7 +63,7 @@ void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(QLatin1StringView(description));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addHelpOption();
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
     parser.addVersionOption();
     for (const OptionText &option : optionTexts) {
         const QString text = QString::fromLatin1(option.text)

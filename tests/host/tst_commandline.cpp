@@ -104,6 +104,7 @@ void CommandLineTest::aWrongCommandLineIsRefusedWithCode2_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("text");
     QTest::newRow("an unknown option") << QStringList{"--frobnicate"} << "frobnicate";
+    QTest::newRow("an option that only Qt has") << QStringList{"--help-all"} << "help-all";
     QTest::newRow("an argument that is no option") << QStringList{"call"} << "'call'";
     QTest::newRow("an option without its value") << QStringList{"--state"} << "state";
     QTest::newRow("an empty value") << QStringList{"--state", ""} << "'state' has an empty value";
