@@ -200,7 +200,8 @@ void ZKbMainWidget::paintEvent(QPaintEvent *)
         painter.fillRect(softkeyRect(size()), ZSkinService::color(ZSkinService::SoftkeyBarColor));
     painter.setFont(ZSkinService::font(ZSkinService::TitleFont));
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
-    const QRect text = bar.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, -ZSkinService::AccentHeight);
+    const QRect text =
+        bar.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, -ZSkinService::AccentHeight);
     ZText::draw(painter, text, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->title);
 }
 

@@ -46,8 +46,8 @@ bool overlap(const QWidget *a, const QWidget *b)
 
 bool canTakeKeys(const QWidget *widget, const QWidget *layer)
 {
-    return widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() && !widget->isWindow()
-           && widget->isVisibleTo(layer);
+    return widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() && !widget->isWindow() &&
+           widget->isVisibleTo(layer);
 }
 
 QWidget *firstFocusable(QWidget *layer)
@@ -110,9 +110,8 @@ void ZLayers::shown(QWidget *layer, Kind kind)
     list.removeIf([layer](const Layer &other) { return holds(layer, other.widget); });
     // On top of what lies in the same layer, and under whatever covers that one.
     const QWidget *outer = layer->isWindow() ? nullptr : layerOf(layer->parentWidget());
-    const auto last = std::find_if(list.crbegin(), list.crend(), [outer](const Layer &other) {
-        return !outer || holds(outer, other.widget);
-    });
+    const auto last = std::find_if(list.crbegin(), list.crend(),
+                                   [outer](const Layer &other) { return !outer || holds(outer, other.widget); });
     qsizetype place = std::distance(last, list.crend());
     for (const Layer &moved : std::as_const(group))
         list.insert(place++, moved);
@@ -206,8 +205,8 @@ void ZLayers::tabOut(QWidget *layer, bool next)
     QWidget *start = turnedAway() ? turnedAway().data() : focus ? focus : layer;
     const auto step = [next](QWidget *w) { return next ? w->nextInFocusChain() : w->previousInFocusChain(); };
     for (QWidget *w = step(start); w && w != start; w = step(w)) {
-        const bool wanted = (w->focusPolicy() & Qt::TabFocus) && w->isEnabled() && !w->focusProxy()
-                            && w->window() == layer->window();
+        const bool wanted = (w->focusPolicy() & Qt::TabFocus) && w->isEnabled() && !w->focusProxy() &&
+                            w->window() == layer->window();
         if (wanted && canBeReached(w)) {
             w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
             return;

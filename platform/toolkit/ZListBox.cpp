@@ -20,8 +20,8 @@
 struct ZListBox::Private {
     // What the list knows of an item made on it.
     struct Record {
-        quint64 serial;    // tells an item from a later one at the same address
-        int row = -1;      // where it was last seen
+        quint64 serial; // tells an item from a later one at the same address
+        int row = -1;   // where it was last seen
         bool inserted = false;
     };
 
@@ -260,8 +260,8 @@ bool ZListBox::moveBar(QKeyEvent *event)
         moveBarTo(count() - 1, -1);
         return true;
     }
-    const bool typed = !event->text().isEmpty() && event->text().at(0).isPrint()
-                       && !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
+    const bool typed = !event->text().isEmpty() && event->text().at(0).isPrint() &&
+                       !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
     if (typed)
         keyboardSearch(event->text());
     return typed;
@@ -317,7 +317,8 @@ void ZListBox::choose(int row)
     if (!self)
         return;
     const auto it = d->items.find(chosen);
-    auto *setting = it != d->items.end() && it->second.serial == serial ? dynamic_cast<ZSettingItem *>(chosen) : nullptr;
+    auto *setting =
+        it != d->items.end() && it->second.serial == serial ? dynamic_cast<ZSettingItem *>(chosen) : nullptr;
     if (setting)
         emit selected(setting);
 }

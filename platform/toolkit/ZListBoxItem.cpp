@@ -4,12 +4,12 @@
 
 ZListBoxItem::ZListBoxItem(ZListBox *list, QString type)
     : ZListItem(list, type)
-{
-}
+{}
 
 ZListBoxItem::~ZListBoxItem() = default;
 
-void ZListBoxItem::appendSubItem(int subItem, QString text, QString, const QPixmap *pixmap, unsigned int, ShowPriority)
+void ZListBoxItem::appendSubItem(int subItem, QString text, QString, const QPixmap *pixmap, unsigned int,
+                                 ShowPriority)
 {
     if (subItem < 0) {
         qWarning("ZListBoxItem::appendSubItem: there is no sub-item %d", subItem);

@@ -364,8 +364,8 @@ bool ZPopup::eventFilter(QObject *watched, QEvent *event)
             coverParent();
         return false;
     }
-    const bool toggled = event->type() == QEvent::Show || event->type() == QEvent::Hide
-                         || event->type() == QEvent::WindowStateChange;
+    const bool toggled = event->type() == QEvent::Show || event->type() == QEvent::Hide ||
+                         event->type() == QEvent::WindowStateChange;
     if (moved && isVisible())
         coverDisplay();
     else if (toggled)

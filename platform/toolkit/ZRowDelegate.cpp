@@ -23,8 +23,7 @@ public:
         , titleElision(option.textElideMode)
         , underBar(option.state & QStyle::State_Selected)
         , room(row.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, 0))
-    {
-    }
+    {}
 
     void paint()
     {
@@ -47,9 +46,11 @@ private:
     void paintItem()
     {
         const bool marked = index.data(ZListBox::MarkedRole).toBool();
-        painter->fillRect(row, ZSkinService::color(underBar ? ZSkinService::FocusBarColor : ZSkinService::ScreenColor));
+        painter->fillRect(row,
+                          ZSkinService::color(underBar ? ZSkinService::FocusBarColor : ZSkinService::ScreenColor));
         if (!underBar)
-            painter->fillRect(row.left(), row.bottom(), row.width(), 1, ZSkinService::color(ZSkinService::DividerColor));
+            painter->fillRect(row.left(), row.bottom(), row.width(), 1,
+                              ZSkinService::color(ZSkinService::DividerColor));
         painter->setFont(ZSkinService::font(marked ? ZSkinService::EmphasisFont : ZSkinService::RowFont));
         paintValue();
         paintIcon();
@@ -79,7 +80,8 @@ private:
         const QSize natural = icon.deviceIndependentSize().toSize();
         const bool fits = natural.width() <= bounds.width() && natural.height() <= bounds.height();
         const QSize size = fits ? natural : natural.scaled(bounds, Qt::KeepAspectRatio);
-        const QRect place(room.left(), row.top() + (row.height() - size.height()) / 2, size.width(), size.height());
+        const QRect place(room.left(), row.top() + (row.height() - size.height()) / 2, size.width(),
+                          size.height());
         painter->drawPixmap(QStyle::visualRect(direction, row, place), icon);
         room.setLeft(place.right() + 1 + ZSkinService::RowGap);
     }
@@ -97,7 +99,8 @@ private:
     {
         const bool enabled = index.data(ZListBox::EnabledRole).toBool();
         if (underBar)
-            return ZSkinService::color(enabled ? ZSkinService::FocusTextColor : ZSkinService::FocusDisabledTextColor);
+            return ZSkinService::color(enabled ? ZSkinService::FocusTextColor
+                                               : ZSkinService::FocusDisabledTextColor);
         return ZSkinService::color(enabled ? plain : ZSkinService::DisabledTextColor);
     }
 

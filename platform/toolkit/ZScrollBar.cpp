@@ -8,8 +8,7 @@
 
 ZScrollBar::ZScrollBar(QWidget *parent)
     : QScrollBar(Qt::Vertical, parent)
-{
-}
+{}
 
 QSize ZScrollBar::sizeHint() const
 {

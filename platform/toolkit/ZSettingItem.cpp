@@ -18,8 +18,7 @@ bool isPlaceOrWarn(int line, ZSettingItem::SettingItemRegion region, const char 
 
 ZSettingItem::ZSettingItem(ZListBox *list, QString type)
     : ZListItem(list, type)
-{
-}
+{}
 
 ZSettingItem::~ZSettingItem() = default;
 

@@ -57,7 +57,8 @@ constexpr std::array<FontEntry, 5> fontTable = {{
     {ZSkinService::HeadingFont, 12, true},
     {ZSkinService::SoftkeyFont, 13, true},
 }};
-static_assert(fontTable.back().role == ZSkinService::SoftkeyFont && fontTable.size() == ZSkinService::SoftkeyFont + 1);
+static_assert(fontTable.back().role == ZSkinService::SoftkeyFont &&
+              fontTable.size() == ZSkinService::SoftkeyFont + 1);
 
 } // namespace
 

@@ -134,7 +134,8 @@ void ZSoftKey::setClickedSlot(KEY_IDX key, const QObject *receiver, const char *
     QMetaObject::Connection fresh;
     if (receiver && member) {
         if (!hasMember(receiver, member)) {
-            qWarning("ZSoftKey::setClickedSlot: %s has no member \"%s\"", receiver->metaObject()->className(), member);
+            qWarning("ZSoftKey::setClickedSlot: %s has no member \"%s\"", receiver->metaObject()->className(),
+                     member);
             return;
         }
         fresh = connect(this, key == LeftKey ? SIGNAL(leftClicked()) : SIGNAL(rightClicked()), receiver, member);

@@ -48,6 +48,8 @@ QString ZText::elided(const QString &text, const QFontMetrics &metrics, int widt
     const QString line = oneLine(text);
     if (line.isEmpty() || width <= 0)
         return QString();
+    if (metrics.horizontalAdvance(line) <= width)
+        return line; // as nearly always; eliding would measure it once more
     const QString cut = metrics.elidedText(line, where, width);
     return metrics.horizontalAdvance(cut) > width ? QString() : cut;
 }

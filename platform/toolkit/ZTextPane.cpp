@@ -16,9 +16,13 @@ constexpr int padding = ZSkinService::DialogPadding;
 constexpr int wheelLines = 3;   // a notch of the wheel
 constexpr int wheelNotch = 120; // in the unit of QWheelEvent::angleDelta()
 
+// On a display narrower than this, lines are cut: nobody could read them, and a long text would have a line for
+// each of its characters.
+constexpr int narrowestLine = 60;
+
 int textWidth(int width)
 {
-    return std::max(1, width - 2 * padding);
+    return std::max(narrowestLine, width - 2 * padding);
 }
 
 } // namespace

@@ -13,12 +13,14 @@ constexpr auto Information = ZMessageDlg::InformationDlg;
 
 ZMessageDlg *newDialog(QWidget *parent, ZMessageDlg::MessageDlgType type, bool modal = true, int timeout = 0)
 {
-    return new ZMessageDlg(QStringLiteral("Header"), QStringLiteral("Message"), type, timeout, parent, nullptr, modal, 0);
+    return new ZMessageDlg(QStringLiteral("Header"), QStringLiteral("Message"), type, timeout, parent, nullptr,
+                           modal, 0);
 }
 
 QString captions(const ZPopup &dialog)
 {
-    return dialog.softKey()->text(ZSoftKey::LeftKey) + QLatin1Char('|') + dialog.softKey()->text(ZSoftKey::RightKey);
+    return dialog.softKey()->text(ZSoftKey::LeftKey) + QLatin1Char('|') +
+           dialog.softKey()->text(ZSoftKey::RightKey);
 }
 
 // Which answers a dialog gave, in order.
@@ -144,8 +146,8 @@ void DialogTest::captions_can_be_replaced()
 void DialogTest::texts_can_be_read_back_and_are_spoken()
 {
     TestScreen screen;
-    const ZMessageDlg dialog(QStringLiteral("Reset Timer"), QStringLiteral("Would you?"), Question, 0, &screen, "named",
-                             true, 0);
+    const ZMessageDlg dialog(QStringLiteral("Reset Timer"), QStringLiteral("Would you?"), Question, 0, &screen,
+                             "named", true, 0);
     QCOMPARE(dialog.header(), QStringLiteral("Reset Timer"));
     QCOMPARE(dialog.message(), QStringLiteral("Would you?"));
     QCOMPARE(dialog.accessibleName(), QStringLiteral("Reset Timer"));
@@ -256,7 +258,8 @@ void DialogTest::it_is_hidden_before_it_answers()
     QVERIFY(QTest::qWaitForWindowActive(&screen));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     QList<bool> seen;
-    connect(dialog, &ZPopup::leftSoftkeyClicked, this, [&] { seen << dialog->isVisible() << screen.list->hasFocus(); });
+    connect(dialog, &ZPopup::leftSoftkeyClicked, this,
+            [&] { seen << dialog->isVisible() << screen.list->hasFocus(); });
     dialog->show();
     click(dialog, Qt::Key_Select);
     QCOMPARE(seen, QList<bool>({false, true}));
@@ -416,10 +419,11 @@ void DialogTest::a_modal_one_keeps_keys_and_pointer_from_the_screen()
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(5, 100));
     QTest::mouseDClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(120, 60));
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(120, 150));
-    for (const int key : {int(Qt::Key_Down), int(Qt::Key_End), int(Qt::Key_R), int(Qt::Key_Tab), int(Qt::Key_Down)})
+    for (const int key :
+         {int(Qt::Key_Down), int(Qt::Key_End), int(Qt::Key_R), int(Qt::Key_Tab), int(Qt::Key_Down)})
         clickInWindow(&screen, key);
-    QWheelEvent wheel(QPointF(120, 60), screen.mapToGlobal(QPointF(120, 60)), QPoint(), QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QWheelEvent wheel(QPointF(120, 60), screen.mapToGlobal(QPointF(120, 60)), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(screen.childAt(120, 60), &wheel);
     QCOMPARE(chosen.count(), 0);
     QCOMPARE(screen.list->currentItem(), 0);
@@ -584,7 +588,8 @@ void DialogTest::the_newest_dialog_gets_the_keys_in_whatever_order_they_go()
         dialogs.last()->show();
     }
     for (const int which : order) {
-        const auto top = std::find_if(dialogs.crbegin(), dialogs.crend(), [](const auto &d) { return !d.isNull(); });
+        const auto top =
+            std::find_if(dialogs.crbegin(), dialogs.crend(), [](const auto &d) { return !d.isNull(); });
         QCOMPARE(QApplication::focusWidget(), *top);
         QCOMPARE(ZApplication::keyTarget(), *top);
         delete dialogs[which];

@@ -10,9 +10,9 @@ class Notice : public ZMessageDlg
 {
 public:
     explicit Notice(int timeout = 0)
-        : ZMessageDlg(QString(), QStringLiteral("You are in a call."), InformationDlg, timeout, nullptr, nullptr, false, 0)
-    {
-    }
+        : ZMessageDlg(QString(), QStringLiteral("You are in a call."), InformationDlg, timeout, nullptr, nullptr,
+                      false, 0)
+    {}
 };
 
 // The phone as a host shows it: a display inside a larger window.

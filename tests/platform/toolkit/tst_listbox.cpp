@@ -30,10 +30,11 @@ class ChangedRows : public QObject
 public:
     explicit ChangedRows(QAbstractItemModel *model)
     {
-        connect(model, &QAbstractItemModel::dataChanged, this, [this](const QModelIndex &from, const QModelIndex &to) {
-            for (int row = from.row(); row <= to.row(); ++row)
-                rows << row;
-        });
+        connect(model, &QAbstractItemModel::dataChanged, this,
+                [this](const QModelIndex &from, const QModelIndex &to) {
+                    for (int row = from.row(); row <= to.row(); ++row)
+                        rows << row;
+                });
         connect(model, &QAbstractItemModel::modelReset, this, [this] { rows << -1; });
         connect(model, &QAbstractItemModel::layoutChanged, this, [this] { rows << -2; });
     }
@@ -216,8 +217,7 @@ void ListBoxTest::an_item_that_outlives_its_list_knows_of_none()
         Asking(ZListBox *list, bool *hadList)
             : ZSettingItem(list, QString())
             , answer(hadList)
-        {
-        }
+        {}
         ~Asking() override
         {
             setEnabled(false);
@@ -516,8 +516,8 @@ void ListBoxTest::keys_on_a_list_without_choosable_rows_are_harmless()
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
     screen.show();
     for (int round = 0; round < 2; ++round) {
-        for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
-                               Qt::Key_Select, Qt::Key_B})
+        for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home,
+                               Qt::Key_End, Qt::Key_Select, Qt::Key_B})
             click(screen.list, key);
         QCOMPARE(screen.list->currentItem(), -1);
         screen.addSeparator(QStringLiteral("Heading"));
@@ -555,8 +555,10 @@ void ListBoxTest::choosing_is_reported_once()
     screen.show();
     QList<int> selected;
     QList<int> chosen;
-    connect(screen.list, &ZListBox::selected, this, [&](ZSettingItem *item) { selected << screen.list->index(item); });
-    connect(screen.list, &ZListBox::itemChosen, this, [&](ZListItem *item) { chosen << screen.list->index(item); });
+    connect(screen.list, &ZListBox::selected, this,
+            [&](ZSettingItem *item) { selected << screen.list->index(item); });
+    connect(screen.list, &ZListBox::itemChosen, this,
+            [&](ZListItem *item) { chosen << screen.list->index(item); });
     if (key) {
         screen.list->setSelected(2, true);
         click(screen.list, key);
@@ -654,8 +656,8 @@ void ListBoxTest::whoever_hears_of_a_choice_may_do_anything_data()
 {
     QTest::addColumn<int>("deed");
     QTest::addColumn<bool>("byKey");
-    const std::array<const char *, 5> deeds = {"clear the list", "rebuild the list", "delete the row", "delete the list",
-                                               "delete the screen"};
+    const std::array<const char *, 5> deeds = {"clear the list", "rebuild the list", "delete the row",
+                                               "delete the list", "delete the screen"};
     for (int deed = 0; deed < static_cast<int>(deeds.size()); ++deed) {
         QTest::addRow("%s, chosen by key", deeds[static_cast<std::size_t>(deed)]) << deed << true;
         QTest::addRow("%s, chosen by the pointer", deeds[static_cast<std::size_t>(deed)]) << deed << false;
@@ -730,7 +732,8 @@ void ListBoxTest::texts_of_any_length_and_content_do_no_harm()
     QCOMPARE(row->value(), endless);
     QCOMPARE(screen.list->item(1)->title(), odd);
     for (int i = 0; i < screen.list->count(); ++i)
-        QCOMPARE(screen.list->visualRect(screen.list->model()->index(i, 0)).size(), QSize(240, ZSkinService::RowHeight));
+        QCOMPARE(screen.list->visualRect(screen.list->model()->index(i, 0)).size(),
+                 QSize(240, ZSkinService::RowHeight));
 }
 
 void ListBoxTest::the_cost_of_filling_grows_with_the_number_of_rows_only()
@@ -767,7 +770,8 @@ void ListBoxTest::random_insertions_and_deletions_agree_with_a_plain_list()
         QCOMPARE(screen.list->item(probe), model.value(probe));
         QCOMPARE(screen.list->index(model.value(probe)), probe < model.size() ? probe : -1);
         const ZListItem *current = screen.list->item(screen.list->currentItem());
-        const bool choosable = std::any_of(model.cbegin(), model.cend(), [](auto *row) { return !row->isSeparator(); });
+        const bool choosable =
+            std::any_of(model.cbegin(), model.cend(), [](auto *row) { return !row->isSeparator(); });
         QCOMPARE(current != nullptr, choosable);
         QVERIFY(!current || !current->isSeparator());
         if (step % 100 == 0)

@@ -79,7 +79,8 @@ void ListBoxLookTest::a_value_is_kept_whole_and_the_title_makes_room()
     screen.addRow(QStringLiteral("T"), value);
     screen.addRow(endless, value);
     const int start = 240 - ZSkinService::RowMargin - widthOf(value) - 1;
-    const QRect right(start - ZSkinService::RowGap + 1, 0, 240 - start + ZSkinService::RowGap - 1, ZSkinService::RowHeight);
+    const QRect right(start - ZSkinService::RowGap + 1, 0, 240 - start + ZSkinService::RowGap - 1,
+                      ZSkinService::RowHeight);
     const QImage roomy = lookOfRow(screen.list, 1);
     const QImage crowded = lookOfRow(screen.list, 2);
     QCOMPARE(crowded.copy(right), roomy.copy(right));
@@ -161,8 +162,8 @@ void ListBoxLookTest::a_marked_row_is_heavier()
     ZSettingItem *row = screen.addRow(QStringLiteral("Some title"));
     const QImage plain = lookOfRow(screen.list, 1);
     row->setSubItem(0, 0, QStringLiteral("Some title"), true, ZSettingItem::TitleRegion);
-    QVERIFY(lastInk(lookOfRow(screen.list, 1), color(ZSkinService::ScreenColor))
-            > lastInk(plain, color(ZSkinService::ScreenColor)));
+    QVERIFY(lastInk(lookOfRow(screen.list, 1), color(ZSkinService::ScreenColor)) >
+            lastInk(plain, color(ZSkinService::ScreenColor)));
 }
 
 void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
@@ -219,7 +220,8 @@ void ListBoxLookTest::a_mirrored_display_has_the_title_on_the_right_and_the_valu
     const int left = firstInk(value, background);
     QVERIFY(lastInk(value, background) < 120);
     // After the figure comes the blank, if figure and unit keep their order.
-    QVERIFY2(lastInk(value.copy(0, 0, left + 11, value.height()), background) < left + 8, "figure and unit change places");
+    QVERIFY2(lastInk(value.copy(0, 0, left + 11, value.height()), background) < left + 8,
+             "figure and unit change places");
     QVERIFY(lastInk(value.copy(0, 0, left + 40, value.height()), background) > left + 30);
 }
 

@@ -200,7 +200,8 @@ void SoftKeyTest::a_key_that_does_not_exist_is_refused_with_a_warning()
     for (const int number : {-1, 2, 1000}) {
         const auto key = static_cast<ZSoftKey::KEY_IDX>(number);
         for (int i = 0; i < 6; ++i)
-            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("there is no key %1").arg(number)));
+            QTest::ignoreMessage(QtWarningMsg,
+                                 QRegularExpression(QStringLiteral("there is no key %1").arg(number)));
         bar.setText(key, QStringLiteral("x"), Priority);
         QVERIFY(bar.text(key).isNull());
         bar.setClickedSlot(key, this, "1answer()");
