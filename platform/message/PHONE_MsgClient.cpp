@@ -15,7 +15,8 @@ int withDataCalls(int (handset::DataCalls::*operation)())
 
 } // namespace
 
-PHONE_MsgClient::PHONE_MsgClient(QObject *parent, const char *name) : QObject(parent)
+PHONE_MsgClient::PHONE_MsgClient(QObject *parent, const char *name)
+    : QObject(parent)
 {
     setObjectName(QString::fromLatin1(name));
 }
