@@ -13,8 +13,8 @@ class PinEntryDlg : public ZPopup
     KAV_CLASS_NAME
 
 public:
-    /// Over `parent`, which owns it; null for none (see ZPopup). `range` is a text that tells how many digits a PIN
-    /// has.
+    /// Over `parent`, which owns it; null for none (see ZPopup). `range` is a text that tells how many digits a
+    /// PIN has.
     PinEntryDlg(const QString &header, const QString &range, QWidget *parent);
     ~PinEntryDlg() override;
 

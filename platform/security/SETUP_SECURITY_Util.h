@@ -20,16 +20,16 @@ enum SETUP_SECURITY_PINVERIFY_ERR_E : int {
 class SETUP_SECURITY_Util
 {
 public:
-    /// Asks the user for PIN `pinType` in a modal entry over `parent` (null: over the phone's display), with masked
-    /// digits (4 to 8) and, where the SIM tells it, the tries left; again after a wrong one; and returns when it is
-    /// answered. Non-zero with `error` 0: the PIN was accepted. Zero, with another `error`: it was not. `pinType`
-    /// comes back as the type that was asked for; a number that is no PIN fails with a warning.
+    /// Asks the user for PIN `pinType` in a modal entry over `parent` (null: over the phone's display), with
+    /// masked digits (4 to 8) and, where the SIM tells it, the tries left; again after a wrong one; and returns
+    /// when it is answered. Non-zero with `error` 0: the PIN was accepted. Zero, with another `error`: it was
+    /// not. `pinType` comes back as the type that was asked for; a number that is no PIN fails with a warning.
     ///
     /// A blocked PIN and a SIM that does not answer are said in a message, and the call returns when that is
-    /// confirmed. Events go on being handled meanwhile. Where the entry goes out of sight unanswered, with its screen
-    /// hidden or destroyed, the display gone or the application ending, the call returns as cancelled; the caller
-    /// looks after its own life. So does a call that is made while another is being answered, and one over a screen
-    /// that is not on show, at once.
+    /// confirmed. Events go on being handled meanwhile. Where the entry goes out of sight unanswered, with its
+    /// screen hidden or destroyed, the display gone or the application ending, the call returns as cancelled;
+    /// the caller looks after its own life. So does a call that is made while another is being answered, and one
+    /// over a screen that is not on show, at once.
     ///
     /// The digits are overwritten as soon as the SIM has seen them, and never traced.
     static int verifyPin(SETUP_SECURITY_PINTYPE_E &pinType, SETUP_SECURITY_SKTYPE_E const &softkeyType,

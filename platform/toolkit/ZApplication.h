@@ -14,19 +14,19 @@ class ZApplication
 public:
     ZApplication() = delete;
 
-    /// Tells which widget the phone's display is. Dialogs without a parent lie over it and go where it goes. A host
-    /// that shows the phone inside a larger window sets this once. Null goes back to the default; a widget that is
-    /// destroyed does so too. Nothing is owned.
+    /// Tells which widget the phone's display is. Dialogs without a parent lie over it and go where it goes. A
+    /// host that shows the phone inside a larger window sets this once. Null goes back to the default; a widget
+    /// that is destroyed does so too. Nothing is owned.
     static void setDisplay(QWidget *display);
     /// The display: what was set, else the visible screen last shown, or the outermost screen around it. Null when
     /// there is neither.
     static QWidget *display();
 
-    /// The widget that a key of the phone goes to: in the visible dialog on top, else in the visible screen on top.
-    /// Null when neither is visible. It need not have the desktop's focus.
+    /// The widget that a key of the phone goes to: in the visible dialog on top, else in the visible screen on
+    /// top. Null when neither is visible. It need not have the desktop's focus.
     static QWidget *keyTarget();
-    /// Presses and releases `qtKey` (a Qt::Key, see ZKeys.h) on keyTarget(), as an on-screen keypad does. The target
-    /// may be deleted by the press; the release is then dropped. Answers false when there is no target.
+    /// Presses and releases `qtKey` (a Qt::Key, see ZKeys.h) on keyTarget(), as an on-screen keypad does. The
+    /// target may be deleted by the press; the release is then dropped. Answers false when there is no target.
     static bool pressKey(int qtKey);
 
     /// Says what is typed in `field`, a text field of any class, in place of what was said before. The methods and
@@ -38,10 +38,11 @@ public:
     /// for one letter; a number key that is held gives its digit; upper case, which the star key changes.
     /// 637a8c00-1098-42ca-969a-2bf163cd3c15 (symbols), any mode: plain typing.
     ///
-    /// In the first two the hash key takes away the character before the cursor. No method refuses what a keyboard
-    /// types, so that no allowed method has to be changed to: `allowedMethods` are only looked at for ones that are
-    /// not known. Those, a method and mode that are not in this list (the field is typed in plainly then), and a
-    /// null field are warnings. `hint` is shown in the field while it is empty; null leaves what it has.
+    /// In the first two the hash key takes away the character before the cursor. Whatever else a keyboard types is
+    /// typed as it is, letters among numbers too, so that there is no need to change to an allowed method:
+    /// `allowedMethods` are only looked at for ones that are not known. Those, a method and mode that are not in
+    /// this list (the field is typed in plainly then), and a null field are warnings. `hint` is shown in the field
+    /// while it is empty; null leaves what it has.
     static void setInputMethods(QWidget *field, QUuid const &defaultMethod,
                                 QValueList<QUuid> const &allowedMethods, int mode, QString hint);
 };

@@ -8,8 +8,8 @@
 class QKeyEvent;
 class QWidget;
 
-/// Stands between the keys and a field, whatever class of text field it is. The keys that a phone has get a meaning
-/// of their own; everything else, every letter of a keyboard included, is typed as it is.
+/// Stands between the keys and a field, whatever class of text field it is. The keys that a phone has get a
+/// meaning of their own; everything else, every letter of a keyboard included, is typed as it is.
 ///
 /// Decimal: the star key and the comma are the decimal point. The star key gives it once, a keyboard as often as
 /// it is typed.

@@ -13,8 +13,9 @@ class ZLabel : public QLabel
     KAV_CLASS_NAME
 
 public:
-    /// `text` of any length and content; `parent` owns the label; `name` (Latin-1, may be null) is the object name;
-    /// `flags` are window flags (0); `skinClass` what the skin draws the label as, a heading or a plain line.
+    /// `text` of any length and content; `parent` owns the label; `name` (Latin-1, may be null) is the object
+    /// name; `flags` are window flags (0); `skinClass` what the skin draws the label as, a heading or a plain
+    /// line.
     ZLabel(const QString &text, QWidget *parent, const char *name, unsigned int flags,
            ZSkinService::WidgetClsID skinClass);
     ~ZLabel() override;

@@ -5,8 +5,8 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-/// Every press of a number key within `interval` of the last one asks for the key's next character. Any other key, a
-/// pause or end() makes the character stay; the next press is then a new one.
+/// Every press of a number key within `interval` of the last one asks for the key's next character. Any other
+/// key, a pause or end() makes the character stay; the next press is then a new one.
 class ZMultiTap : public QObject
 {
 public:

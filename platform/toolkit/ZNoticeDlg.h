@@ -3,9 +3,9 @@
 
 #include "ZPopup.h"
 
-/// The message stands beside a sign of its type; it is wrapped, and scrolled with the up and down keys where it is
-/// longer than the display. Its whole text is the accessible description. Its maker may delete it at any time, also
-/// when it has hidden itself.
+/// The message stands beside a sign of its type; it is wrapped, and scrolled with the up and down keys where it
+/// is longer than the display. Its whole text is the accessible description. Its maker may delete it at any
+/// time, also when it has hidden itself.
 class ZNoticeDlg : public ZPopup
 {
     Q_OBJECT

@@ -9,17 +9,18 @@
 
 class ZSoftKey;
 
-/// A dialog over a screen. It hides itself before it reports a softkey; whoever answers may show it again or delete
-/// it. show() shows it (again) on top and gives it the keys; it never blocks.
+/// A dialog over a screen. It hides itself before it reports a softkey; whoever answers may show it again or
+/// delete it. show() shows it (again) on top and gives it the keys; it never blocks.
 ///
-/// With a parent it lies inside the parent and covers it whole, however that is resized; with none it is a window of
-/// its own that lies over ZApplication::display(), hides and moves with it, and has the shape of the dialog. Either
-/// way it shows a box in the middle, never larger than the display, and a softkey bar where the screen has its own.
+/// With a parent it lies inside the parent and covers it whole, however that is resized; with none it is a
+/// window of its own that lies over ZApplication::display(), hides and moves with it, and has the shape of the
+/// dialog. Either way it shows a box in the middle, never larger than the display, and a softkey bar where the
+/// screen has its own.
 ///
-/// Keys: the left softkey and the select key answer left, the right softkey answers right, and the clear key does
-/// what the right softkey does, or the left one where the right one has no caption. A softkey without a caption does
-/// nothing. Keys answer once a press; one that is still held since before the dialog came up answers nothing. When
-/// the dialog goes, the focus goes back to what had it before, or to what is then on top.
+/// Keys: the left softkey and the select key answer left, the right softkey answers right, and the clear key
+/// does what the right softkey does, or the left one where the right one has no caption. A softkey without a
+/// caption does nothing. Keys answer once a press; one that is still held since before the dialog came up
+/// answers nothing. When the dialog goes, the focus goes back to what had it before, or to what is then on top.
 class ZPopup : public QWidget
 {
     Q_OBJECT

@@ -5,10 +5,11 @@
 
 class ZMultiLineEdit;
 
-/// A dialog with an entry field. It hides itself on either softkey; the select key is the left one, and the clear key
-/// is the right one whatever is typed, so that one key always leads out. What was typed wrong is taken back with the
-/// Backspace key, or the hash key of the phone in a field with an input method (ZApplication::setInputMethods()). Such
-/// a field shows below it what is typed now, and what the star and the hash key do.
+/// A dialog with an entry field. It hides itself on either softkey; the select key is the left one, and the
+/// clear key is the right one whatever is typed, so that one key always leads out. What was typed wrong is taken
+/// back with the Backspace key, or the hash key of the phone in a field with an input method
+/// (ZApplication::setInputMethods()). Such a field shows below it what is typed now, and what the star and the
+/// hash key do.
 class ZSingleCaptureDlg : public ZPopup
 {
     Q_OBJECT
@@ -20,9 +21,9 @@ public:
         TextCaptureDlg = 2 ///< a text that is shown as it is typed
     };
 
-    /// The softkeys are "OK" and "Cancel" until others are set. `message` is a text over the field; null for none.
-    /// `timeout` in milliseconds after which the dialog answers as by its right softkey, 0 or less never. The other
-    /// arguments as in ZPopup.
+    /// The softkeys are "OK" and "Cancel" until others are set. `message` is a text over the field; null for
+    /// none. `timeout` in milliseconds after which the dialog answers as by its right softkey, 0 or less never.
+    /// The other arguments as in ZPopup.
     ZSingleCaptureDlg(const QString &header, const QString &message, CaptureDlgType type, QWidget *parent,
                       const char *name, bool modal, unsigned int flags, int timeout);
     ~ZSingleCaptureDlg() override;
