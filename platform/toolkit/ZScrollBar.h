@@ -3,7 +3,8 @@
 
 #include <QtWidgets/QScrollBar>
 
-/// A vertical scroll bar painted by the skin: a groove and a handle.
+/// A vertical scroll bar painted by the skin: a groove and a handle that can be dragged. A press beside the handle
+/// moves by a page.
 class ZScrollBar : public QScrollBar
 {
 public:
@@ -13,4 +14,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    QRect handle() const;
+
+    int grip = -1; // where in the handle the pointer holds it; -1 when it does not
 };

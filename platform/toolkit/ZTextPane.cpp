@@ -156,7 +156,8 @@ void ZTextPane::resizeEvent(QResizeEvent *)
     }
     if (scrollBar) {
         const int x = layoutDirection() == Qt::RightToLeft ? 0 : width() - ZSkinService::ScrollBarWidth;
-        scrollBar->setGeometry(x, 0, ZSkinService::ScrollBarWidth, height());
+        const int length = std::max(0, height() - ZSkinService::DialogRadius); // the box has round corners
+        scrollBar->setGeometry(x, 0, ZSkinService::ScrollBarWidth, length);
         scrollBar->setRange(0, lastFirstLine);
         scrollBar->setPageStep(std::max(1, count - lastFirstLine));
         scrollBar->setVisible(lastFirstLine > 0);

@@ -37,6 +37,7 @@ private slots:
     void a_marked_row_is_heavier();
     void a_row_repaints_when_its_value_is_rewritten();
     void the_scroll_bar_is_there_only_when_needed();
+    void the_scroll_bar_can_be_dragged_from_end_to_end();
     void a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left();
     void an_icon_stands_before_the_title_and_never_outgrows_its_row();
     void the_look_does_not_depend_on_the_application_around();
@@ -205,6 +206,35 @@ void ListBoxLookTest::the_scroll_bar_is_there_only_when_needed()
     delete tooMuch;
     settle();
     QVERIFY(!screen.list->verticalScrollBar()->isVisible());
+}
+
+void ListBoxLookTest::the_scroll_bar_can_be_dragged_from_end_to_end()
+{
+    TestScreen screen;
+    screen.addRows(100);
+    screen.show();
+    settle();
+    QScrollBar *bar = screen.list->verticalScrollBar();
+    const int x = bar->width() / 2;
+    const auto handleAt = [&](int y) {
+        return bar->grab().toImage().pixelColor(x, y) == color(ZSkinService::ScrollHandleColor);
+    };
+    QVERIFY(handleAt(3));
+    QVERIFY(!handleAt(bar->height() - 3));
+    QTest::mousePress(bar, Qt::LeftButton, {}, QPoint(x, 5));
+    QTest::mouseMove(bar, QPoint(x, bar->height() + 50));
+    QCOMPARE(bar->value(), bar->maximum());
+    QVERIFY(handleAt(bar->height() - 3));
+    QTest::mouseMove(bar, QPoint(x, bar->height() / 2));
+    QVERIFY(bar->value() > 0 && bar->value() < bar->maximum());
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(x, bar->height() / 2));
+    const int dragged = bar->value();
+    QTest::mouseMove(bar, QPoint(x, 0));
+    QCOMPARE(bar->value(), dragged);
+    QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(x, bar->height() - 2));
+    QCOMPARE(bar->value(), dragged + bar->pageStep());
+    QTest::mouseClick(bar, Qt::LeftButton, {}, QPoint(x, 1));
+    QCOMPARE(bar->value(), dragged);
 }
 
 void ListBoxLookTest::a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left()
