@@ -11,7 +11,8 @@ namespace bench {
 
 std::vector<Comparison> getterComparisons();
 std::vector<Comparison> currencyComparisons();
-std::vector<Comparison> openingComparisons();
+std::vector<Comparison> currencyListComparisons();
+std::vector<Comparison> screenComparisons();
 /// `directory` keeps the logs that are measured; they are built on first use.
 std::vector<Comparison> callLogComparisons(const QString &directory);
 

@@ -1,6 +1,10 @@
 #include "ScreenTable.h"
 
+#include "AdviceOfCharge.h"
+#include "PHONE_ENG_Setup.h"
 #include "PHONE_MsgClient.h"
+#include "PHONE_UI_RecentCallCostSetupView.h"
+#include "PHONE_UI_RecentCallCostsView.h"
 #include "PHONE_UI_RecentCallDataTimesView.h"
 #include "PHONE_UI_RecentCallDataVolumesDetailView.h"
 #include "PHONE_UI_RecentCallDataVolumesView.h"
@@ -42,6 +46,56 @@ ScreenTexts callTimes()
                         {QStringLiteral("Data Calls"), dataCallTime()},
                         {QStringLiteral("All Calls"), meter.getAllCallsTimes()},
                         {QStringLiteral("Lifetime Calls"), meter.getLifeTimeCallsTimes()}});
+}
+
+ScreenTexts callCosts()
+{
+    PHONE_UI_RecentCallMeter meter;
+    const QString unit = QLatin1Char(' ') + meter.getCurrencyUnit();
+    return screenTexts(QStringLiteral("Call Costs"),
+                       {{QStringLiteral("Credit Available"), meter.getCreditAvailable() + unit},
+                        {QStringLiteral("Expiration Date"), meter.getExpirationDate()},
+                        {QStringLiteral("Last Deposit"), meter.getLastDeposit() + unit},
+                        {QStringLiteral("Last Call Cost"), meter.getLastCallCost() + unit},
+                        {QStringLiteral("Dialed Calls Cost"), meter.getDialedCallsCost() + unit},
+                        {QStringLiteral("Answered Calls Cost"), meter.getAnsweredCallsCost() + unit},
+                        {QStringLiteral("All Calls Cost"), meter.getAllCallsCost() + unit},
+                        {QStringLiteral("Call Cost Setup"), QString()}});
+}
+
+QString onOrOff(bool isOn)
+{
+    return isOn ? QStringLiteral("On") : QStringLiteral("Off");
+}
+
+ScreenTexts costSetup()
+{
+    PHONE_UI_RecentCallMeter meter;
+    const QString unit = QLatin1Char(' ') + meter.getCurrencyUnit();
+    PHONE_ENG_Setup *engine = PHONE_ENG_Setup::instance();
+    using File = handset::AdviceOfCharge::File;
+    for (const File file : {File::AcmFile, File::AcmMaxFile, File::PuctFile}) {
+        unsigned char rule = 0;
+        engine->getEFUpdateRule(file, rule);
+    }
+    QString limit;
+    bool isLimited = false;
+    unsigned char type = 0;
+    QString price;
+    QString currency;
+    engine->getMeterMax(limit, isLimited);
+    engine->getChargeType(type);
+    engine->getPriceUnitCurrency(price, currency);
+    return screenTexts(QStringLiteral("Call-Cost Setup"),
+                       {{QStringLiteral("Reset All"), QString()},
+                        {QStringLiteral("Reset All Call Costs"), QString()},
+                        {QStringLiteral("Reset Dialed Call Costs"), QString()},
+                        {QStringLiteral("Reset Answered Call Costs"), QString()},
+                        {QStringLiteral("Credit Limit"), onOrOff(isLimited)},
+                        {QStringLiteral("Adjust Credit Limit"), limit + unit},
+                        {QStringLiteral("Currency"), onOrOff(type == 1)},
+                        {QStringLiteral("Currency Type"), currency},
+                        {QStringLiteral("Cost Per Minute"), price + unit}});
 }
 
 QString orElse(const QString &name, const QString &fallback)
@@ -101,6 +155,11 @@ QWidget *createDataVolume(QWidget *display)
     return new PHONE_UI_RecentCallDataVolumesDetailView(QString(), detailName(), 1, display, nullptr);
 }
 
+QWidget *createCostSetup(QWidget *display)
+{
+    return new PHONE_UI_RecentCallCostSetupView(display, nullptr);
+}
+
 QObject *dataVolumeMeter()
 {
     auto *meter = new PHONE_UI_RecentCallMeter;
@@ -129,6 +188,9 @@ void destroy(QWidget *screen)
 constexpr std::array screens{
     ScreenEntry{"Call Times", &create<&create_callTime>, &destroy<PHONE_UI_RecentCallTimesView, &destroy_callTime>,
                 &callTimes},
+    ScreenEntry{"Call Costs", &create<&create_callCost>, &destroy<PHONE_UI_RecentCallCostsView, &destroy_callCost>,
+                &callCosts},
+    ScreenEntry{"Call-Cost Setup", &createCostSetup, &deleteScreen, &costSetup},
     ScreenEntry{"Data Times", &create<&create_dataTime>,
                 &destroy<PHONE_UI_RecentCallDataTimesView, &destroy_dataTime>, &dataTimes},
     ScreenEntry{"Data Volumes", &create<&create_dataVolume>,

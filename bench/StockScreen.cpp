@@ -5,6 +5,7 @@
 
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeWidget>
 
@@ -23,7 +24,25 @@ void addKey(const QString &text, int left, QWidget *screen)
     key->setGeometry(left, screen->height() - keyHeight, screen->width() / 2, keyHeight);
 }
 
-QTreeWidget *addList(const QList<TextRow> &rows, QWidget *screen)
+void addTitle(const QString &text, QWidget *screen)
+{
+    auto *title = new QLabel(text, screen);
+    title->setGeometry(0, 0, screen->width(), titleHeight);
+}
+
+QRect listRect(const QWidget *screen)
+{
+    return QRect(0, titleHeight, screen->width(), screen->height() - titleHeight - keyHeight);
+}
+
+void prepare(QWidget *screen)
+{
+    screen->setFont(ZSkinService::font(ZSkinService::RowFont));
+    screen->setAutoFillBackground(true);
+    screen->resize(ZSkinService::DisplayWidth, ZSkinService::DisplayHeight);
+}
+
+QTreeWidget *addTree(const QList<TextRow> &rows, QWidget *screen)
 {
     auto *list = new QTreeWidget(screen);
     list->setColumnCount(2);
@@ -32,7 +51,7 @@ QTreeWidget *addList(const QList<TextRow> &rows, QWidget *screen)
     list->setUniformRowHeights(true);
     list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list->header()->resizeSection(0, titleColumnWidth);
-    list->setGeometry(0, titleHeight, screen->width(), screen->height() - titleHeight - keyHeight);
+    list->setGeometry(listRect(screen));
     QList<QTreeWidgetItem *> items;
     items.reserve(rows.size());
     for (const TextRow &row : rows)
@@ -46,15 +65,29 @@ QTreeWidget *addList(const QList<TextRow> &rows, QWidget *screen)
 StockScreen::StockScreen(const ScreenTexts &texts, QWidget *parent)
     : QWidget(parent)
 {
-    setFont(ZSkinService::font(ZSkinService::RowFont));
-    setAutoFillBackground(true);
-    resize(ZSkinService::DisplayWidth, ZSkinService::DisplayHeight);
-    auto *title = new QLabel(texts.title, this);
-    title->setGeometry(0, 0, width(), titleHeight);
-    QTreeWidget *list = addList(texts.rows, this);
+    prepare(this);
+    addTitle(texts.title, this);
+    QTreeWidget *list = addTree(texts.rows, this);
     addKey(texts.leftKey, 0, this);
     addKey(texts.rightKey, width() / 2, this);
     list->setCurrentItem(list->topLevelItem(0));
+    list->setFocus();
+}
+
+StockDialog::StockDialog(const QString &title, const QStringList &choices, Rows rows, QWidget *parent)
+    : QDialog(parent)
+{
+    setWindowFlags(Qt::Widget);
+    prepare(this);
+    addTitle(title, this);
+    auto *list = new QListWidget(this);
+    list->setUniformItemSizes(rows == Rows::Alike);
+    list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list->setGeometry(listRect(this));
+    list->addItems(choices);
+    addKey(QStringLiteral("OK"), 0, this);
+    addKey(QStringLiteral("Cancel"), width() / 2, this);
+    list->setCurrentRow(0);
     list->setFocus();
 }
 

@@ -1,7 +1,8 @@
 // The screen that a user would put together from stock Qt widgets.
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include <QtCore/QStringList>
+#include <QtWidgets/QDialog>
 
 namespace bench {
 
@@ -14,6 +15,19 @@ class StockScreen : public QWidget
 {
 public:
     StockScreen(const ScreenTexts &texts, QWidget *parent);
+};
+
+/// A choice of one text (QListWidget) under a title and over two keys, all over the display of `parent` it lies in: it
+/// has no window of its own, which would take longer.
+class StockDialog : public QDialog
+{
+public:
+    enum class Rows {
+        AsTheyCome, ///< the list asks every row for its size
+        Alike       ///< it asks the first one
+    };
+
+    StockDialog(const QString &title, const QStringList &choices, Rows rows, QWidget *parent);
 };
 
 } // namespace bench

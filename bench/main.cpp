@@ -29,8 +29,8 @@ void ownSurroundings(const char *home)
 std::vector<bench::Comparison> chosenComparisons(const bench::Options &options)
 {
     std::vector<bench::Comparison> chosen;
-    for (const auto &group : {bench::getterComparisons(), bench::currencyComparisons(),
-                              bench::openingComparisons(), bench::callLogComparisons(options.directory)})
+    for (const auto &group : {bench::getterComparisons(), bench::currencyComparisons(), bench::screenComparisons(),
+                              bench::currencyListComparisons(), bench::callLogComparisons(options.directory)})
         for (const bench::Comparison &comparison : group)
             if (comparison.name.find(options.only.toStdString()) != std::string::npos)
                 chosen.push_back(comparison);

@@ -1,0 +1,33 @@
+// Measures how long something takes to come up on the display.
+#pragma once
+
+#include "Comparison.h"
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace bench {
+
+/// Something that can be opened and closed over and over.
+class Opening
+{
+public:
+    virtual ~Opening() = default;
+
+    /// Makes it and shows it.
+    virtual void open() = 0;
+    /// Destroys it.
+    virtual void close() = 0;
+    /// What is wrong with what is open now; null for nothing.
+    virtual const char *fault() { return nullptr; }
+};
+
+/// Everything happens inside `display`.
+using MakeOpening = std::function<std::unique_ptr<Opening>(QWidget *display)>;
+
+/// Times opening up to the end of the first paint, with the telephone whose figures cost nothing. Closing is not timed.
+Side openingSide(const char *label, MakeOpening make);
+
+} // namespace bench
