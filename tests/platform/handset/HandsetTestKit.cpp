@@ -6,6 +6,7 @@
 #include "Status.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlQuery>
 
@@ -38,6 +39,13 @@ quint64 dataSeconds(DataCalls &calls)
     return total;
 }
 
+// Hundreds of logs are made here, each with several commits.
+QString quickDirectory()
+{
+    const QString inMemory = QStringLiteral("/dev/shm");
+    return QFileInfo(inMemory).isWritable() ? inMemory : QDir::tempPath();
+}
+
 } // namespace
 
 char *toString(const SixFigures &figures)
@@ -62,8 +70,9 @@ SixFigures figuresOf(Handset &handset)
             query(log, &CallLog::lifetimeCallsTime)};
 }
 
-StateDir::StateDir()
-    : temporary(QCoreApplication::applicationDirPath() + QStringLiteral("/state-XXXXXX"))
+StateDir::StateDir(Place place)
+    : temporary((place == Anywhere ? quickDirectory() : QCoreApplication::applicationDirPath()) +
+                QStringLiteral("/kav-state-XXXXXX"))
 {}
 
 QStringList StateDir::names() const

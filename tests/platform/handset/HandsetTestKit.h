@@ -46,11 +46,16 @@ struct LoggedCall {
     int state = 0;
 };
 
-/// A state directory beside the test program, on the same disk as the build, removed with the object.
+/// A state directory, removed with the object.
 class StateDir
 {
 public:
-    StateDir();
+    enum Place {
+        Anywhere, ///< where writing is quick
+        OnDisk    ///< on the disk that has the test program
+    };
+
+    explicit StateDir(Place place = Anywhere);
 
     QString path() const { return temporary.filePath(QStringLiteral("state")); }
     QString file(const QString &name) const { return path() + QLatin1Char('/') + name; }

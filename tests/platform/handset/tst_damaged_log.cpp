@@ -200,7 +200,7 @@ void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
     QList<qint64> lengths;
     for (qint64 length = 0; length < 110; length += length < 20 ? 1 : 9)
         lengths << length;
-    for (qint64 edge = 512; edge < sample.closed.size(); edge += 1024)
+    for (qint64 edge = 512; edge < sample.closed.size(); edge += 2048)
         lengths << edge << (edge % pageSize == 0 ? edge + 1 : edge / pageSize * pageSize + pageSize - 1);
     for (qint64 edge = pageSize; edge < sample.closed.size(); edge += pageSize)
         lengths << edge;
@@ -236,7 +236,7 @@ void TestDamagedLog::aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes()
 void TestDamagedLog::aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd()
 {
     qsizetype most = 0;
-    for (qint64 length = 0; length <= sample.crashedWal.size(); length += length < 100 ? 7 : 509) {
+    for (qint64 length = 0; length <= sample.crashedWal.size(); length += length < 100 ? 13 : 1021) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         QVERIFY(writeFile(state.database(), sample.crashed));
@@ -297,7 +297,7 @@ void TestDamagedLog::bytesChangedAtRandomNeverCrash()
     const auto below = [&](qsizetype bound) {
         return std::uniform_int_distribution<qsizetype>(0, bound - 1)(random);
     };
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 200; ++round) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         const bool closed = round % 2 == 0;

@@ -3,9 +3,12 @@
 #include "Schema.h"
 
 #include <QtCore/QDeadlineTimer>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QHash>
 #include <QtCore/QProcess>
 
+#include <algorithm>
+#include <limits>
 #include <random>
 
 using namespace handset;
@@ -48,7 +51,10 @@ private:
     void read(const QByteArray &output);
     void check(const QString &directory);
 
+    int below(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random); }
+
     std::mt19937 random;
+    int usualStartUp = 50; ///< in ms: from the start of a process to its first call
     Reported reported;
 };
 
@@ -73,15 +79,22 @@ void TestKill::runUntilKilled(const QString &directory, unsigned seed)
     process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
                   {QStringLiteral("calls"), directory, QString::number(seed)});
     QVERIFY(process.waitForStarted());
-    // Counted from the start for one half, so that the opening is hit as well; from the first call for the other.
-    if (seed % 2 == 0)
-        QVERIFY(process.waitForReadyRead(30000));
-    const int wait = std::uniform_int_distribution<int>(0, seed % 2 == 0 ? 25 : 60)(random);
-    QDeadlineTimer deadline(wait, Qt::PreciseTimer);
     QByteArray output;
-    while (!deadline.hasExpired()) {
-        process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
-        output += process.readAll();
+    const auto readFor = [&](QDeadlineTimer deadline, int lines) {
+        while (!deadline.hasExpired() && output.count('\n') < lines) {
+            process.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+            output += process.readAll();
+        }
+    };
+    if (seed % 2 == 0) { // some moment after some call
+        QElapsedTimer startUp;
+        startUp.start();
+        readFor(QDeadlineTimer(60000), 1);
+        usualStartUp = std::max<int>(10, static_cast<int>(startUp.elapsed()));
+        readFor(QDeadlineTimer(60000), 1 + below(20));
+        readFor(QDeadlineTimer(below(5), Qt::PreciseTimer), std::numeric_limits<int>::max());
+    } else { // some moment while it starts, and opens the log
+        readFor(QDeadlineTimer(below(2 * usualStartUp), Qt::PreciseTimer), std::numeric_limits<int>::max());
     }
     process.kill();
     QVERIFY(process.waitForFinished());
@@ -129,7 +142,7 @@ void TestKill::aKillAtAnyMomentLosesNoFinishedCall()
     qInfo("seed %u (KAV_SEED repeats it)", seed);
     random.seed(seed);
 
-    const StateDir state;
+    const StateDir state(StateDir::OnDisk);
     int finished = 0;
     for (int kill = 0; kill < kills; ++kill) {
         if (kill % killsForOneDirectory == 0)
