@@ -224,7 +224,7 @@ void PHONE_UI_RecentCallCostSetupView::initList()
 void PHONE_UI_RecentCallCostSetupView::appendRows()
 {
     for (int row = 0; row < RowCount; ++row) {
-        ZSettingItem *item = ScreenFrame::newRow(listBox, makeCategoryString(row));
+        ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return makeCategoryString(row); });
         if (!item)
             return; // a later row must not slip into this one's place
         if (row >= firstValueRow)

@@ -94,7 +94,7 @@ void PHONE_UI_RecentCallCostsView::initList()
         return;
     currencyUnit = meter->getCurrencyUnit();
     for (int row = 0; row < RowCount; ++row) {
-        ZSettingItem *item = ScreenFrame::newRow(listBox, getItemTitle(row));
+        ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
         if (!item)
             return; // a later row must not slip into this one's place
         if (row < valueRowCount)

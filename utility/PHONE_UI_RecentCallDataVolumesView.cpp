@@ -100,7 +100,7 @@ void PHONE_UI_RecentCallDataVolumesView::initList()
     for (int row = 0; row < RowCount; ++row) {
         const bool isHeading = row == CurrentHeading || row == AllHeading;
         ZSettingItem *item = isHeading ? ScreenFrame::newSeparator(listBox, getItemTitle(row))
-                                       : ScreenFrame::newRow(listBox, getItemTitle(row));
+                                       : ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
         if (!item)
             return; // a later row must not slip into this one's place
         ScreenFrame::appendRow(listBox, item);

@@ -89,7 +89,7 @@ void PHONE_UI_RecentCallTimesView::initList()
         return;
     updateDataCallTime();
     for (int row = 0; row < RowCount; ++row) {
-        ZSettingItem *item = ScreenFrame::newRow(listBox, getItemTitle(row));
+        ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
         if (!item)
             return; // a later row must not slip into this one's place
         ScreenFrame::appendValue(item, getItemValue(row));

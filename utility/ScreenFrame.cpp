@@ -56,12 +56,9 @@ ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe)
     return list;
 }
 
-ZSettingItem *newRow(ZListBox *list, const QString &title)
+ZSettingItem *newEmptyRow(ZListBox *list)
 {
-    auto *row = list ? new (std::nothrow) ZSettingItem(list, QString()) : nullptr;
-    if (row)
-        row->appendSubItem(lineOfRow, title, false, ZSettingItem::TitleRegion);
-    return row;
+    return list ? new (std::nothrow) ZSettingItem(list, QString()) : nullptr;
 }
 
 ZSettingItem *newSeparator(ZListBox *list, const QString &label)

@@ -33,8 +33,17 @@ ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe);
 /// connects the clear key. Null when there is no memory for the list.
 ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe);
 
-/// Makes a row with its title in the first column, not yet inserted. Null without a list or memory.
-ZSettingItem *newRow(ZListBox *list, const QString &title);
+/// Makes a row, not yet inserted and without a text. Null without a list or memory.
+ZSettingItem *newEmptyRow(ZListBox *list);
+/// The same with what `title()` answers in the first column; nothing is asked without a row.
+template <typename Title>
+ZSettingItem *newRow(ZListBox *list, Title title)
+{
+    ZSettingItem *row = newEmptyRow(list);
+    if (row)
+        row->appendSubItem(0, title(), false, ZSettingItem::TitleRegion);
+    return row;
+}
 /// Makes a separator row, not yet inserted. Null without a list or memory.
 ZSettingItem *newSeparator(ZListBox *list, const QString &label);
 void appendValue(ZSettingItem *row, const QString &value);

@@ -30,6 +30,11 @@ const QList<simulated::PastCall> history = {
     {CallKind::Data, CallDirection::Dialed, QStringLiteral("5550103"), 9'000'000, 36'000'000},
 };
 
+bool isMakingReferences()
+{
+    return qEnvironmentVariableIsSet("KAV_UPDATE_REFERENCES");
+}
+
 } // namespace
 
 class WindowTest : public QObject
@@ -48,12 +53,14 @@ private:
     void xdotool(const QStringList &arguments);
     void press(const char *keys);
     QImage photograph() const;
+    QImage settledPhotograph();
     void verifyDisplay(const QString &name);
     void leave();
     std::shared_ptr<Handset> reopenState();
 
     std::unique_ptr<QTemporaryDir> state;
     std::unique_ptr<QProcess> host;
+    QImage lastReference;
 };
 
 void WindowTest::init()
@@ -122,12 +129,27 @@ QImage WindowTest::photograph() const
         .convertToFormat(QImage::Format_RGB32);
 }
 
+// For making references: two photographs in a row, a moment apart, that are the same and not the last reference.
+QImage WindowTest::settledPhotograph()
+{
+    QImage settled;
+    const bool isQuiet = QTest::qWaitFor(
+        [&] {
+            const QImage now = photograph();
+            const bool isSettled = now == settled && now != lastReference;
+            settled = now;
+            return isSettled;
+        },
+        patience);
+    lastReference = settled;
+    return isQuiet ? settled : QImage();
+}
+
 void WindowTest::verifyDisplay(const QString &name)
 {
     const QString path = QStringLiteral(KAV_REFERENCES "/%1.png").arg(name);
-    if (qEnvironmentVariableIsSet("KAV_UPDATE_REFERENCES")) {
-        QTest::qWait(1500);
-        QVERIFY(photograph().save(path));
+    if (isMakingReferences()) {
+        QVERIFY(settledPhotograph().save(path));
         return;
     }
     const QImage reference(path);
@@ -194,6 +216,8 @@ void WindowTest::keysLeadFromTheMenuThroughAResetAndOutAgain()
     QVERIFY(time == CallTime());
     QCOMPARE(telephone->callLog()->lifetimeCallsTime(time), 0);
     QVERIFY(time == CallTime::fromSeconds(65 + 3725 + 36000));
+    if (isMakingReferences())
+        QSKIP("references were written, nothing was compared");
 }
 
 void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey()
@@ -216,6 +240,8 @@ void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey(
     quint32 seconds = 0;
     QCOMPARE(reopenState()->dataCalls()->totalDuration(seconds), 0);
     QCOMPARE(seconds, 36000U);
+    if (isMakingReferences())
+        QSKIP("references were written, nothing was compared");
 }
 
 int main(int argc, char *argv[])

@@ -25,6 +25,7 @@ private slots:
     void aPluginWithoutAScreenIsSaid();
     void anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin();
     void anUnusableStateDirectoryIsSaid();
+    void aDamagedCallLogIsSaidAndKeptAside();
     void aSecondStartOnTheSameStateIsRefused();
     void anUnknownBackendIsSaid();
     void theTraceIsAppendedToItsFile();
@@ -174,6 +175,20 @@ void CommandLineTest::anUnusableStateDirectoryIsSaid()
     const HostResult result = showCallTimes({"--state", directory});
     QCOMPARE(result.code, 3);
     QVERIFY2(result.errors.contains(directory), qPrintable(result.errors));
+}
+
+void CommandLineTest::aDamagedCallLogIsSaidAndKeptAside()
+{
+    const QByteArray damaged("this has never been a database");
+    QVERIFY(QDir().mkpath(path("state")));
+    QFile file(path("state/calllog.db"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(damaged), damaged.size());
+    file.close();
+    const HostResult result = showCallTimes({"--state", path("state")});
+    QCOMPARE(result.code, 0);
+    QVERIFY2(result.errors.contains("calllog-kept-1.db"), qPrintable(result.errors));
+    QCOMPARE(contents("state/calllog-kept-1.db"), QString::fromLatin1(damaged));
 }
 
 void CommandLineTest::aSecondStartOnTheSameStateIsRefused()

@@ -7,9 +7,13 @@
 #include "PluginLibrary.h"
 
 #include "ZApplication.h"
+#include "ZKbMainWidget.h"
 #include "ZListBox.h"
+#include "ZPopup.h"
 
 #include <QtTest/QSignalSpy>
+
+#include <algorithm>
 
 using handset::CallTime;
 using ZKeys::PhoneKey;
@@ -59,9 +63,13 @@ private slots:
     void aQuestionThatCannotBeMadeIsAskedTheNextTime();
     void aNoticeThatCannotBeMadeIsMadeTheNextTime();
     void noFailureAnywhereIsACrash();
+    void aScreenWithoutItsMeterHasTitleAndBackAndNoRows();
+    void noFailureOnAnyOtherScreenIsACrash_data();
+    void noFailureOnAnyOtherScreenIsACrash();
 
 private:
     void useEverything();
+    void useScreen(const char *names);
 };
 
 void TestAllocationFailures::init()
@@ -204,6 +212,83 @@ void TestAllocationFailures::noFailureAnywhereIsACrash()
     }
     // All that is listed, four questions and the notice have had their turn.
     QCOMPARE(nth, FirstDialog + 5);
+}
+
+void TestAllocationFailures::aScreenWithoutItsMeterHasTitleAndBackAndNoRows()
+{
+    const AllocationFailure failure(Meter); // after screen, softkey bar and list, as on Call Times
+    const HostedScreen<ZKbMainWidget> screen("callCost");
+    QVERIFY(AllocationFailure::happened());
+    screen->show();
+    QCOMPARE(screen->mainWidgetTitle(), QString("Call Costs"));
+    QCOMPARE(PhoneScreen::softkey(screen.get(), ZSoftKey::RightKey), QString("Back"));
+    QCOMPARE(PhoneScreen::list(screen.get())->count(), 0);
+    const QSignalSpy closed(screen.get(), "2closeWidget()");
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    PhoneScreen::press(PhoneKey::Clear);
+    QCOMPARE(closed.count(), 2);
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestAllocationFailures::noFailureOnAnyOtherScreenIsACrash_data()
+{
+    QTest::addColumn<QByteArray>("names");
+    QTest::newRow("Call Costs and its setup") << QByteArray("callCost");
+    QTest::newRow("Data Times") << QByteArray("dataTime");
+    QTest::newRow("Data Volumes and its detail") << QByteArray("dataVolume");
+}
+
+// Chooses every row of `screen` and of what opens over it, and leaves each by the left softkey or the clear key.
+void useRows(ZKbMainWidget *screen)
+{
+    const ZListBox *list = PhoneScreen::list(screen);
+    for (int row = 0; list && row < list->count(); ++row) {
+        PhoneScreen::list(screen)->setSelected(row, true);
+        PhoneScreen::press(PhoneKey::Select);
+        for (ZKbMainWidget *sub : screen->findChildren<ZKbMainWidget *>()) {
+            if (sub->isVisible())
+                useRows(sub);
+        }
+        const auto isCovered = [&] {
+            const QList<ZPopup *> popups = screen->findChildren<ZPopup *>();
+            const auto isVisible = [](const QWidget *widget) { return widget->isVisible(); };
+            const QList<ZKbMainWidget *> subs = screen->findChildren<ZKbMainWidget *>();
+            return std::any_of(popups.begin(), popups.end(), isVisible) ||
+                   std::any_of(subs.begin(), subs.end(), isVisible);
+        };
+        for (int tries = 0; tries < 8 && isCovered(); ++tries)
+            PhoneScreen::press(tries == 0 ? PhoneKey::LeftSoftkey : PhoneKey::Clear);
+    }
+}
+
+void TestAllocationFailures::useScreen(const char *names)
+{
+    const HostedScreen<ZKbMainWidget> screen(names);
+    if (!screen.get())
+        return;
+    screen->show();
+    useRows(screen.get());
+    const QSignalSpy closed(screen.get(), "2closeWidget()");
+    PhoneScreen::press(PhoneKey::Clear);
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    // Without a meter the Data Times screen has nothing at all, not even this.
+    QVERIFY(closed.count() >= 1 || screen->mainWidgetTitle().isEmpty());
+}
+
+void TestAllocationFailures::noFailureOnAnyOtherScreenIsACrash()
+{
+    QFETCH(const QByteArray, names);
+    int nth = 1;
+    for (; nth < 2000; ++nth) {
+        const AllocationFailure failure(nth);
+        useScreen(names.constData());
+        if (QTest::currentTestFailed())
+            qWarning("the allocation that failed was number %d", nth);
+        if (QTest::currentTestFailed() || !AllocationFailure::happened())
+            break;
+    }
+    QVERIFY(nth > 10);
+    QVERIFY(nth < 2000);
 }
 
 KAV_TEST_MAIN(TestAllocationFailures)

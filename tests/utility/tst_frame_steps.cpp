@@ -50,6 +50,25 @@ const QStringList fillingSteps{
     "list.insertItem(row 5, -1, true)",
 };
 
+// The frame of a screen that is created with `name` in a parent called host.
+QStringList frameSteps(const char *name, const QString &title, QSize content)
+{
+    return {
+        QStringLiteral("ZKbMainWidget(host, \"%1\", 0)").arg(QLatin1String(name)),
+        QStringLiteral("screen.setMainWidgetTitle(\"%1\")").arg(title),
+        "ZSoftKey(\"CST_2A\", screen, null)",
+        "softKey.setText(1, \"Back\", 0)",
+        "softKey.setText(0, \"\", 0)",
+        "softKey.setClickedSlot(1, screen, \"2closeWidget()\")",
+        "screen.setCSTWidget(softKey)",
+        "screen.getContentWidget(true)",
+        "ZListBox(\"%M\", content, 0, 40)",
+        QStringLiteral("list.setGeometry(0, 0, %1, %2)").arg(content.width()).arg(content.height()),
+        "connect(list, \"2selected(ZSettingItem *)\", screen, \"1slotSelectedItem(ZSettingItem *)\")",
+        "connect(screen, \"2clearKeyClicked()\", screen, \"2closeWidget()\")",
+    };
+}
+
 // A dialog of the screen with its connections.
 QStringList questionSteps(int number, const QString &message)
 {
@@ -72,6 +91,8 @@ private slots:
     void init();
 
     void theFrameIsBuiltInTenStepsAndThenFilled();
+    void everyScreenOfTheHostBuildsTheSameFrame_data();
+    void everyScreenOfTheHostBuildsTheSameFrame();
     void textsAreLookedUpWhereTheyAreNeeded();
     void nullNameAndParentArePassedOn();
     void backAndClearMakeTheScreenDoNothing();
@@ -119,21 +140,29 @@ void TestFrameSteps::theFrameIsBuiltInTenStepsAndThenFilled()
     const CallTimes screen("callTime", &host, "callTime");
     const QStringList steps = journal.take();
     const QSize content = screen->getContentWidget(false)->size();
-    const QStringList frameSteps{
-        "ZKbMainWidget(host, \"callTime\", 0)",
-        "screen.setMainWidgetTitle(\"Call Times\")",
-        "ZSoftKey(\"CST_2A\", screen, null)",
-        "softKey.setText(1, \"Back\", 0)",
-        "softKey.setText(0, \"\", 0)",
-        "softKey.setClickedSlot(1, screen, \"2closeWidget()\")",
-        "screen.setCSTWidget(softKey)",
-        "screen.getContentWidget(true)",
-        "ZListBox(\"%M\", content, 0, 40)",
-        QStringLiteral("list.setGeometry(0, 0, %1, %2)").arg(content.width()).arg(content.height()),
-        "connect(list, \"2selected(ZSettingItem *)\", screen, \"1slotSelectedItem(ZSettingItem *)\")",
-        "connect(screen, \"2clearKeyClicked()\", screen, \"2closeWidget()\")",
-    };
-    COMPARE_LINES(steps, frameSteps + fillingSteps);
+    COMPARE_LINES(steps, frameSteps("callTime", "Call Times", content) + fillingSteps);
+}
+
+void TestFrameSteps::everyScreenOfTheHostBuildsTheSameFrame_data()
+{
+    QTest::addColumn<QByteArray>("names");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("Call Costs") << QByteArray("callCost") << "Call Costs";
+    QTest::newRow("Data Times") << QByteArray("dataTime") << "Data Times";
+    QTest::newRow("Data Volumes") << QByteArray("dataVolume") << "Data Volumes";
+}
+
+void TestFrameSteps::everyScreenOfTheHostBuildsTheSameFrame()
+{
+    QFETCH(const QByteArray, names);
+    QFETCH(const QString, title);
+    QWidget host;
+    journal.nameObject(&host, "host");
+    const HostedScreen<ZKbMainWidget> screen(names.constData(), &host, names.constData());
+    const QStringList steps = journal.take();
+    const QSize content = screen->getContentWidget(false)->size();
+    const QStringList expected = frameSteps(names.constData(), title, content);
+    COMPARE_LINES(steps.mid(0, expected.size()), expected);
 }
 
 void TestFrameSteps::textsAreLookedUpWhereTheyAreNeeded()
@@ -152,6 +181,9 @@ void TestFrameSteps::textsAreLookedUpWhereTheyAreNeeded()
     QVERIFY(isLookedUpBetween("ZSoftKey(\"CST_2A\", screen, null)", "TXT_RID_SOFTKEY_BACK",
                               "softKey.setText(1, \"Back\", 0)"));
     QVERIFY(isLookedUpBetween("softKey.setText(1, \"Back\", 0)", "", "softKey.setText(0, \"\", 0)"));
+    // The first row's stands for all: the others are made by the same step.
+    QVERIFY(isLookedUpBetween("ZSettingItem(list, null)", "TXT_RID_SETTING_A_LAST_CALL",
+                              "row 0.appendSubItem(0, \"Last Call\", false, 0)"));
     QVERIFY(isLookedUpBetween("list.insertItem(row 0, -1, true)", "TXT_RID_SETTING_A_DIALED_CALLS",
                               "row 1.appendSubItem(0, \"Dialed Calls\", false, 0)"));
 }

@@ -99,7 +99,6 @@ private slots:
     void aRefreshOfVolumesIsTraced();
     void hoursOfThreeDigitsStayUnpadded();
     void theLongestApnIsReadWhole();
-    void anApnWithoutANulEndsWithItsBytes();
     void anApnIsLatin1();
     void aFailedRefreshLeavesDefaultsNotOldFigures_data();
     void aFailedRefreshLeavesDefaultsNotOldFigures();
@@ -233,18 +232,6 @@ void TestMeterData::theLongestApnIsReadWhole()
     meter.getRDV();
     QCOMPARE(meter.getRDT_Session1_Apn(), QString(101, QLatin1Char('a')));
     QCOMPARE(meter.getRDV_Session1_Apn(), QString(101, QLatin1Char('a')));
-}
-
-void TestMeterData::anApnWithoutANulEndsWithItsBytes()
-{
-    DataSessions sessions = threeSessions(3);
-    sessions.records[0].apn = QByteArray(102, 'a'); // the next record's id follows in memory
-    sessions.records[2].apn = QByteArray(102, 'c'); // nothing of the block follows
-    script().answer("PacketData::sessions", sessions);
-    meter.getRDT();
-    meter.getRDV();
-    QCOMPARE(timeApns(meter), QStringList({QString(102, 'a'), "mms", QString(102, 'c')}));
-    QCOMPARE(volumeApns(meter), QStringList({QString(102, 'a'), "mms", QString(102, 'c')}));
 }
 
 void TestMeterData::anApnIsLatin1()
