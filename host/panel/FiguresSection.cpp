@@ -50,12 +50,12 @@ Figure dataCalls(Handset &telephone)
     return qint64{seconds};
 }
 
-struct FigureSpec {
+struct FigureRow {
     const char *label;
     Figure (*query)(Handset &telephone);
 };
 
-constexpr std::array<FigureSpec, 6> figures{{
+constexpr std::array<FigureRow, 6> figures{{
     {"Last call", &fromCallLog<&handset::CallLog::lastCallTime>},
     {"Dialed calls", &fromCallLog<&handset::CallLog::dialedCallsTime>},
     {"Answered calls", &fromCallLog<&handset::CallLog::answeredCallsTime>},

@@ -10,13 +10,13 @@ namespace host {
 
 namespace {
 
-struct ButtonSpec {
+struct ButtonPlan {
     Line::Action action;
     const char *text;
     const char *toolTip;
 };
 
-constexpr std::array<ButtonSpec, 6> buttonSpecs{{
+constexpr std::array<ButtonPlan, 6> buttonPlans{{
     {Line::Action::Dial, "&Dial", "Calls the number from this phone"},
     {Line::Action::RemoteAnswer, "&Other side answers", "The called side answers; the call is connected"},
     {Line::Action::DialData, "Dial d&ata call", "Sets up a circuit-switched data call to the number"},
@@ -70,12 +70,12 @@ void LineSection::addButtons(QVBoxLayout *column)
 {
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
-    for (std::size_t index = 0; index < buttonSpecs.size(); ++index) {
-        const ButtonSpec &spec = buttonSpecs[index];
-        auto *button = new QPushButton(tr(spec.text));
-        button->setToolTip(tr(spec.toolTip));
+    for (std::size_t index = 0; index < buttonPlans.size(); ++index) {
+        const ButtonPlan &plan = buttonPlans[index];
+        auto *button = new QPushButton(tr(plan.text));
+        button->setToolTip(tr(plan.toolTip));
         button->setFocusPolicy(Qt::TabFocus); // the pointer leaves the keys with the phone
-        connect(button, &QPushButton::clicked, &line, [this, action = spec.action] { line.perform(action); });
+        connect(button, &QPushButton::clicked, &line, [this, action = plan.action] { line.perform(action); });
         grid->addWidget(button, static_cast<int>(index / 2), static_cast<int>(index % 2));
         buttons[index] = button;
     }
@@ -87,8 +87,8 @@ void LineSection::refresh()
     state->setText(line.describeState());
     failure->setText(line.failure());
     failure->setVisible(!line.failure().isEmpty());
-    for (std::size_t index = 0; index < buttonSpecs.size(); ++index)
-        buttons[index]->setEnabled(line.permits(buttonSpecs[index].action));
+    for (std::size_t index = 0; index < buttonPlans.size(); ++index)
+        buttons[index]->setEnabled(line.permits(buttonPlans[index].action));
     if (number->text() != line.number())
         number->setText(line.number());
     number->setEnabled(line.telephone() != nullptr);

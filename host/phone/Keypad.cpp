@@ -14,7 +14,7 @@ namespace {
 
 using Legend = PhoneKey::Legend;
 
-struct KeySpec {
+struct KeyPlan {
     int row;
     int column;
     int rowSpan;
@@ -28,7 +28,7 @@ struct KeySpec {
 constexpr int callKey = Qt::Key_Call;
 constexpr int hangUpKey = Qt::Key_Hangup;
 
-constexpr std::array<KeySpec, 20> keys{{
+constexpr std::array<KeyPlan, 20> keys{{
     {0, 0, 2, Qt::Key_Context1, Legend::Bar, "", "", "Left softkey"},
     {0, 1, 1, Qt::Key_Up, Legend::ArrowUp, "", "", "Up"},
     {0, 2, 2, Qt::Key_Context2, Legend::Bar, "", "", "Right softkey"},
@@ -51,14 +51,14 @@ constexpr std::array<KeySpec, 20> keys{{
     {7, 2, 1, Qt::Key_NumberSign, Legend::Text, "#", "", "Hash"},
 }};
 
-PhoneKey *makeKey(const KeySpec &spec, QWidget *parent)
+PhoneKey *makeKey(const KeyPlan &plan, QWidget *parent)
 {
     auto *key =
-        new PhoneKey(spec.legend, QString::fromLatin1(spec.text), QString::fromLatin1(spec.letters), parent);
-    const QString name = QString::fromLatin1(spec.name);
+        new PhoneKey(plan.legend, QString::fromLatin1(plan.text), QString::fromLatin1(plan.letters), parent);
+    const QString name = QString::fromLatin1(plan.name);
     key->setObjectName(QStringLiteral("key ") + name);
     key->setAccessibleName(name);
-    if (spec.legend != Legend::Text || spec.qtKey == Qt::Key_Clear)
+    if (plan.legend != Legend::Text || plan.qtKey == Qt::Key_Clear)
         key->setToolTip(name);
     return key;
 }
@@ -79,11 +79,11 @@ Keypad::Keypad(QWidget *parent)
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(5);
-    for (const KeySpec &spec : keys) {
-        PhoneKey *key = makeKey(spec, this);
+    for (const KeyPlan &plan : keys) {
+        PhoneKey *key = makeKey(plan, this);
         key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-        grid->addWidget(key, spec.row, spec.column, spec.rowSpan, 1);
-        connect(key, &PhoneKey::clicked, this, [this, qtKey = spec.qtKey] { press(qtKey); });
+        grid->addWidget(key, plan.row, plan.column, plan.rowSpan, 1);
+        connect(key, &PhoneKey::clicked, this, [this, qtKey = plan.qtKey] { press(qtKey); });
     }
 }
 
