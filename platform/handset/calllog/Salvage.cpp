@@ -172,7 +172,8 @@ void cutToWholePages(const QString &path)
 Salvaged salvage(const QString &file, CallStore &target)
 {
     cutToWholePages(file);
-    Database source(file, Database::Access::ReadOnly);
+    // It may have to be written before it can be read: leftovers are worked in.
+    Database source(file, Database::Access::ReadWrite);
     // Without this a database that is shorter than it says is refused as a whole.
     source.run(QStringLiteral("PRAGMA writable_schema = ON"));
     Salvager salvager(source, target);

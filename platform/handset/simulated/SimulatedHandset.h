@@ -44,7 +44,7 @@ private:
     std::shared_ptr<Clock> clock;
     calllog::CallRecorder recorder;
     calllog::Figures figures;
-    QTimer checkpointTimer;
+    QTimer checkpointTimer{this};
     LineState state = LineState::Idle;
     PastCall call; ///< on the line
 };

@@ -1,6 +1,8 @@
 // A second process for the tests.
 //   handset_other_process calls DIRECTORY SEED   makes calls until it is killed; a line for each finished one
 //   handset_other_process hold DIRECTORY         says "holding", and holds the directory until its input ends
+//   handset_other_process leave DIRECTORY         installs the telephone, makes a call of 9 s, and leaves main() with the
+//                                                call still on the line
 // A directory that cannot be opened as expected is a line "error ..." or "notice ..." and exit code 1.
 #include "Clock.h"
 #include "Handset.h"
@@ -10,8 +12,8 @@
 #include <QtCore/QCoreApplication>
 
 #include <cstdio>
-#include <cstring>
 #include <random>
+#include <utility>
 
 #include <unistd.h>
 
@@ -83,6 +85,15 @@ int hold()
     return 0;
 }
 
+int leave(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock &clock)
+{
+    install(opened.handset);
+    if (phone.dial(QStringLiteral("9"), CallKind::Voice) != Success || phone.remoteAnswer() != Success)
+        return 1;
+    clock.advance(9000);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -93,7 +104,7 @@ int main(int argc, char **argv)
     Settings settings;
     settings.stateDirectory = arguments.value(2);
     settings.clock = clock;
-    const Opened opened = open(settings);
+    Opened opened = open(settings);
     auto *phone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
     if (!phone || !opened.notice.isEmpty()) {
         std::printf("%s %s\n", phone ? "notice" : "error", qUtf8Printable(phone ? opened.notice : opened.error));
@@ -101,5 +112,7 @@ int main(int argc, char **argv)
     }
     if (arguments.value(1) == QLatin1String("hold"))
         return hold();
+    if (arguments.value(1) == QLatin1String("leave"))
+        return leave(std::exchange(opened, {}), *phone, *clock);
     return makeCalls(*phone, *clock, arguments.value(3).toUInt());
 }

@@ -1,9 +1,11 @@
 // Opening a telephone by name and installing it for the phone's libraries.
 #include "DataCalls.h"
 #include "HandsetTestKit.h"
+#include "Schema.h"
 #include "Status.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QProcess>
 #include <QtCore/QStandardPaths>
 
 using namespace handset;
@@ -28,6 +30,7 @@ private slots:
     void installingNullLeavesNoTelephone();
     void theInstalledTelephoneLivesAsLongAsItIsUsed();
     void theDefaultStateIsBelowTheUsersDataDirectory();
+    void theInstalledTelephoneIsClosedWithTheApplication();
 
 private:
     QTemporaryDir home;
@@ -122,6 +125,20 @@ void TestFactory::theDefaultStateIsBelowTheUsersDataDirectory()
 {
     qputenv("XDG_DATA_HOME", home.filePath(QStringLiteral("elsewhere")).toLocal8Bit());
     QCOMPARE(defaultStateDirectory(), home.filePath(QStringLiteral("elsewhere/kavcallmeter")));
+}
+
+void TestFactory::theInstalledTelephoneIsClosedWithTheApplication()
+{
+    const StateDir state;
+    const int exitCode =
+        QProcess::execute(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
+                          {QStringLiteral("leave"), state.path()});
+    QCOMPARE(exitCode, 0);
+    QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")}); // no leftovers
+    const QList<LoggedCall> calls = LogFile(state.database()).calls();
+    QCOMPARE(calls.size(), 1);
+    QCOMPARE(calls[0].state, int(calllog::CallState::Finished));
+    QCOMPARE(calls[0].durationMs, qint64{9000});
 }
 
 QTEST_GUILESS_MAIN(TestFactory)

@@ -175,9 +175,9 @@ void TestStateDirectory::aSecondTelephoneOfThisProcessIsRefusedToo()
     const StateDir state;
     const Phone phone(state.path());
     QVERIFY(phone);
-    const Phone second(state.path() + QStringLiteral("/../state/"));
-    QVERIFY(!second);
-    QCOMPARE(second.opened.error,
+    const Phone another(state.path() + QStringLiteral("/../state/"));
+    QVERIFY(!another);
+    QCOMPARE(another.opened.error,
              QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(state.path()));
 }
 
