@@ -18,7 +18,8 @@
 #endif
 #endif
 #ifdef KAV_ADDRESS_SANITIZER
-#include <sanitizer/allocator_interface.h>
+// Of the sanitizer's run-time library; its header comes with another compiler than the library does.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 using namespace std::chrono_literals;
