@@ -80,6 +80,7 @@ bool ZApplication::pressKey(int qtKey)
     return true;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the hint is passed by value on the phone
 void ZApplication::setInputMethods(QWidget *field, QUuid const &defaultMethod,
                                    QValueList<QUuid> const &allowedMethods, int mode, QString hint)
 {

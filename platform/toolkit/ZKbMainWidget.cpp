@@ -56,7 +56,7 @@ struct ZKbMainWidget::Private {
 };
 
 ZKbMainWidget::ZKbMainWidget(QWidget *parent, const char *name, unsigned int flags)
-    : QWidget(parent, Qt::WindowFlags::fromInt(static_cast<int>(flags)))
+    : QWidget(parent, Qt::WindowFlags::fromInt(flags))
     , d(std::make_unique<Private>())
 {
     if (name)

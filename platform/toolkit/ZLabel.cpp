@@ -7,7 +7,7 @@
 
 ZLabel::ZLabel(const QString &text, QWidget *parent, const char *name, unsigned int flags,
                ZSkinService::WidgetClsID skinClass)
-    : QLabel(parent, Qt::WindowFlags::fromInt(static_cast<int>(flags)))
+    : QLabel(parent, Qt::WindowFlags::fromInt(flags))
     , isHeading(skinClass == ZSkinService::HeadingLabelClass)
 {
     if (name)

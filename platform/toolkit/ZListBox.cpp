@@ -62,7 +62,7 @@ ZListBox::ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinServi
     d->skinClass = skinClass;
     d->model = new ZListModel(this);
     if (flags != 0)
-        setWindowFlags(Qt::WindowFlags::fromInt(static_cast<int>(flags)));
+        setWindowFlags(Qt::WindowFlags::fromInt(flags));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBar(new ZScrollBar(this));

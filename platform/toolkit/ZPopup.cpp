@@ -28,7 +28,7 @@ Qt::WindowFlags windowFlagsFor(const QWidget *parent, unsigned int flags)
     if (parent)
         return Qt::Widget;
     // Tied to the phone's window, a dialog stays over it without an entry in the task bar.
-    return Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowFlags::fromInt(static_cast<int>(flags));
+    return Qt::Dialog | Qt::FramelessWindowHint | Qt::WindowFlags::fromInt(flags);
 }
 
 int heightOf(const QWidget *body, int width)
