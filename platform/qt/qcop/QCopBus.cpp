@@ -3,9 +3,11 @@
 #include "QCopSubscribers.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QLibrary>
 #include <QtCore/QThread>
 
 #include <algorithm>
+#include <limits>
 
 using namespace std::chrono_literals;
 
@@ -23,7 +25,6 @@ constexpr qsizetype largestMessage = (qsizetype(1) << 27) - (qsizetype(1) << 20)
 
 constexpr std::chrono::milliseconds guiPatience = 250ms;
 constexpr std::chrono::milliseconds answerPatience = 5s;
-constexpr std::chrono::milliseconds farewellPatience = 2s;
 constexpr std::chrono::milliseconds firstPause = 1s;
 constexpr std::chrono::milliseconds longestPause = 60s;
 
@@ -46,6 +47,17 @@ bool watchLoss(QDBusConnection &link, QObject *bus)
     return link.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
                         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), bus,
                         SLOT(checkLink()));
+}
+
+// libdbus stops reading while 63 MB of messages are not done with. It starts again from the thread that is done with
+// one: ours, from which Qt does not take it up, so that nothing would arrive any more. Qt offers no way to the limit.
+void liftReceivingLimit(const QDBusConnection &link)
+{
+    using SetLimit = void (*)(void *connection, long bytes);
+    QLibrary dbus(QStringLiteral("dbus-1"), 3);
+    const auto setLimit = reinterpret_cast<SetLimit>(dbus.resolve("dbus_connection_set_max_received_size"));
+    if (setLimit)
+        setLimit(link.internalPointer(), std::numeric_limits<long>::max());
 }
 
 // Neither path nor member: what comes under the interface and is no channel message shall leave a trace.
@@ -71,32 +83,26 @@ bool isChannelMessage(const QDBusMessage &message)
 
 } // namespace
 
-/// One try to connect, to subscribe, or both, in a thread of its own.
+/// One try to connect and subscribe, in a thread of its own.
 class QCopBusAttempt : public QThread
 {
 public:
-    QCopBusAttempt(QCopBus *bus, const QDBusConnection &presentLink, QCopBus::Use attemptedUse)
-        : use(attemptedUse)
-        , link(presentLink)
-        , owner(bus)
+    explicit QCopBusAttempt(QCopBus *bus)
+        : owner(bus)
     {}
 
-    const QCopBus::Use use;
     // To be looked at when the thread has ended.
-    QDBusConnection link;
+    QDBusConnection link = noLink();
     bool succeeded = false;
 
 protected:
     void run() override
     {
-        if (!link.isConnected()) {
-            link = QDBusConnection::connectToBus(QDBusConnection::SessionBus, linkName);
-            succeeded = link.isConnected() && watchLoss(link, owner);
-        } else {
-            succeeded = true;
-        }
-        if (succeeded && use == QCopBus::Receiving)
-            succeeded = subscribe(link, owner);
+        link = QDBusConnection::connectToBus(QDBusConnection::SessionBus, linkName);
+        if (!link.isConnected())
+            return;
+        liftReceivingLimit(link);
+        succeeded = watchLoss(link, owner) && subscribe(link, owner);
     }
 
 private:
@@ -134,34 +140,28 @@ QCopBus::~QCopBus()
     if (attempt)
         attempt->wait();
     if (unsynced)
-        sync(farewellPatience);
+        sync(answerPatience);
     QDBusConnection::disconnectFromBus(linkName);
 }
 
-bool QCopBus::isReady(Use use) const
+void QCopBus::want()
 {
-    return !ownName.isEmpty() && (use == Sending || subscribed);
-}
-
-void QCopBus::want(Use use)
-{
-    startIfDue(use);
+    startIfDue();
     if (attempt && patient)
         patient = waitForAttempt(guiPatience);
 }
 
-bool QCopBus::waitFor(Use use, std::chrono::milliseconds limit)
+bool QCopBus::waitFor(std::chrono::milliseconds limit)
 {
-    startIfDue(use);
+    startIfDue();
     if (attempt)
         waitForAttempt(limit);
-    return isReady(use);
+    return isReady();
 }
 
-void QCopBus::startIfDue(Use use)
+void QCopBus::startIfDue()
 {
-    receivingWanted = receivingWanted || use == Receiving;
-    if (!isReady(use) && nextAttempt.hasExpired())
+    if (!isReady() && nextAttempt.hasExpired())
         start();
 }
 
@@ -170,7 +170,7 @@ void QCopBus::start()
     if (attempt)
         return;
     retry.stop();
-    attempt = std::make_unique<QCopBusAttempt>(this, link, receivingWanted ? Receiving : Sending);
+    attempt = std::make_unique<QCopBusAttempt>(this);
     connect(attempt.get(), &QThread::finished, this, &QCopBus::collect, Qt::QueuedConnection);
     attempt->start();
 }
@@ -197,18 +197,15 @@ void QCopBus::collect()
     link = ended->link;
     ownName = link.baseService();
     link.registerVirtualObject(objectPath, this);
-    subscribed = ended->use == Receiving;
     patient = true;
     pause = firstPause;
-    if (!isReady(receivingWanted ? Receiving : Sending))
-        start(); // the first channel was made while a connection for sending was under way
 }
 
 // The connection's end is taken notice of here only, in its place among the messages that came before it: until
 // all of those are taken, the name that tells the own ones must stay.
 void QCopBus::checkLink()
 {
-    if (!isReady(Sending) || link.isConnected())
+    if (!isReady() || link.isConnected())
         return;
     retryLater();
     emit lost();
@@ -219,10 +216,8 @@ void QCopBus::retryLater()
     QDBusConnection::disconnectFromBus(linkName);
     link = noLink();
     ownName.clear();
-    subscribed = false;
     nextAttempt = QDeadlineTimer(pause);
-    if (receivingWanted)
-        retry.start(pause);
+    retry.start(pause);
     pause = std::min(2 * pause, longestPause);
 }
 
@@ -236,7 +231,7 @@ bool QCopBus::send(const QByteArray &channel, const QByteArray &message, const Q
 {
     if (!isSendable(channel, message, data))
         return false;
-    want(Sending);
+    want();
     if (!link.isConnected())
         return false;
     QDBusMessage signal = QDBusMessage::createSignal(objectPath, interfaceName, memberName);

@@ -18,29 +18,27 @@ class QCopBusAttempt;
 /// everything here belongs to the GUI thread.
 ///
 /// A channel message on the bus is a broadcast signal: path "/org/kav/QCop", interface "org.kav.QCop", member
-/// "Message", signature "ayayay" (channel, message, data). One match rule is for all channels, and stays.
+/// "Message", signature "ayayay" (channel, message, data). One match rule is for all channels. It is added with the
+/// connection, also where there are no subscribers yet: Qt adds rules from the calling thread and not from its own,
+/// which is safe only while nothing is being sent.
 class QCopBus : public QDBusVirtualObject
 {
     Q_OBJECT
 
 public:
-    enum Use {
-        Sending,
-        Receiving, ///< includes sending
-    };
-
     /// The process's bus; null while there is no application object. It goes with the application, and sees to it
     /// that what was sent is at the bus before.
     static QCopBus *instance();
 
-    /// Connects for `use` if that is not done yet and the last failure is long enough ago. Waits a quarter of a
-    /// second at most; when that once was not enough, not at all until a connection has succeeded.
-    void want(Use use);
+    /// Connects if that is not done yet and the last failure is long enough ago. Waits a quarter of a second at
+    /// most; when that once was not enough, not at all until a connection has succeeded.
+    void want();
 
     /// The same with `limit` as the longest wait, for programs without a screen. True when the bus is ready.
-    bool waitFor(Use use, std::chrono::milliseconds limit);
+    bool waitFor(std::chrono::milliseconds limit);
 
-    bool isReady(Use use) const;
+    /// Whether there is a connection, and the bus has acknowledged that messages are to come here.
+    bool isReady() const { return !ownName.isEmpty(); }
 
     /// Queues a message for the bus, which is wanted. False without a bus and for a message that is too large.
     bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
@@ -68,17 +66,15 @@ private:
     ~QCopBus() override;
     static void leave();
 
-    void startIfDue(Use use);
+    void startIfDue();
     bool waitForAttempt(std::chrono::milliseconds limit);
     void collect();
     void retryLater();
 
     static QCopBus *self;
 
-    QDBusConnection link; // invalid unless ready for sending
+    QDBusConnection link; // invalid unless ready
     QString ownName;      // on the bus
-    bool receivingWanted = false;
-    bool subscribed = false;
     bool patient = true;
     bool unsynced = false; // sent since the last sync
 

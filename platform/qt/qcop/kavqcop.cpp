@@ -179,9 +179,9 @@ private:
     Request parsed;
 };
 
-bool connectTo(QCopBus::Use use)
+bool connectToBus()
 {
-    if (QCopBus::instance()->waitFor(use, busPatience))
+    if (QCopBus::instance()->waitFor(busPatience))
         return true;
     complain("there is no session bus (is DBUS_SESSION_BUS_ADDRESS set?)");
     return false;
@@ -193,7 +193,7 @@ int send(const Request &request)
         complain("the message is larger than a bus carries");
         return exitFailure;
     }
-    if (!connectTo(QCopBus::Sending))
+    if (!connectToBus())
         return exitFailure;
     if (!QCopChannel::send(request.channel, request.message, request.data) ||
         !QCopBus::instance()->sync(busPatience)) {
@@ -268,7 +268,7 @@ private:
 
 int listen(const Request &request)
 {
-    if (!connectTo(QCopBus::Receiving))
+    if (!connectToBus())
         return exitFailure;
     const Listener listener(request);
     complain("listening on ", escaped(request.channel));

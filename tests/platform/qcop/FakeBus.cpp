@@ -1,32 +1,13 @@
 #include "FakeBus.h"
 
-#include <QtCore/QFile>
+#include "UnixSocket.h"
 
-#include <algorithm>
 #include <sys/socket.h>
-#include <sys/un.h>
 #include <unistd.h>
 
-namespace {
-
-constexpr int backlog = 128;
-
-bool listenAt(int socket, const QByteArray &path)
-{
-    sockaddr_un place{};
-    place.sun_family = AF_UNIX;
-    if (path.size() >= static_cast<qsizetype>(sizeof(place.sun_path)))
-        return false;
-    std::copy(path.begin(), path.end(), place.sun_path);
-    return bind(socket, reinterpret_cast<const sockaddr *>(&place), sizeof(place)) == 0 &&
-           listen(socket, backlog) == 0;
-}
-
-} // namespace
-
 FakeBus::FakeBus(Manner manner)
-    : socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
-    , listening(listenAt(socket, QFile::encodeName(path())))
+    : socket(listeningSocket(address()))
+    , listening(socket >= 0)
 {
     if (manner == TurnsAway)
         doorman = std::thread([this] { turnAway(); });
@@ -37,14 +18,9 @@ FakeBus::~FakeBus()
     close();
 }
 
-QString FakeBus::path() const
-{
-    return folder.filePath(QStringLiteral("bus"));
-}
-
 QString FakeBus::address() const
 {
-    return QStringLiteral("unix:path=") + path();
+    return busAddress(folder.filePath(QStringLiteral("bus")));
 }
 
 void FakeBus::turnAway()

@@ -24,7 +24,6 @@ public:
     void close();
 
 private:
-    QString path() const;
     void turnAway();
 
     QTemporaryDir folder;

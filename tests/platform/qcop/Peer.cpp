@@ -28,11 +28,16 @@ Peer::~Peer()
     process.waitForFinished();
 }
 
+bool Peer::connectToBus()
+{
+    command("connect");
+    return answer() == "1";
+}
+
 bool Peer::subscribe(int id, const QByteArray &channel)
 {
     make(id, channel);
-    command("await");
-    return answer() == "1";
+    return connectToBus();
 }
 
 void Peer::make(int id, const QByteArray &channel)
@@ -76,19 +81,33 @@ bool Peer::isOnBus()
     return answer() == "1";
 }
 
+void Peer::hold()
+{
+    command("hold");
+    readLine(); // "held"
+}
+
+void Peer::goOn()
+{
+    command("");
+    answer();
+}
+
 int Peer::cycle(int count)
 {
     command("cycle " + QByteArray::number(count));
     return answer().toInt();
 }
 
+bool Peer::endsWithin(int milliseconds)
+{
+    process.closeWriteChannel();
+    return process.state() == QProcess::NotRunning || process.waitForFinished(milliseconds);
+}
+
 int Peer::finish()
 {
-    if (process.state() != QProcess::NotRunning) {
-        process.closeWriteChannel();
-        process.waitForFinished(limitMs);
-    }
-    const bool isDone = process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit;
+    const bool isDone = endsWithin(limitMs) && process.exitStatus() == QProcess::NormalExit;
     return isDone ? process.exitCode() : -1;
 }
 

@@ -14,9 +14,11 @@ public:
     ~Peer();
     Q_DISABLE_COPY_MOVE(Peer)
 
-    /// Makes subscriber `id`. True when the bus has acknowledged the process's subscription, which it waits for.
+    /// Connects, and waits for it. True when the bus has acknowledged that messages are to come.
+    bool connectToBus();
+    /// Makes subscriber `id`, and connects.
     bool subscribe(int id, const QByteArray &channel);
-    /// The same without waiting for more than the constructor does.
+    /// Makes subscriber `id` and does not wait for more than the constructor does.
     void make(int id, const QByteArray &channel);
     void unsubscribe(int id);
     /// What QCopChannel::send() said.
@@ -27,11 +29,16 @@ public:
     bool finishBurst();
     /// Sends a message with `size` bytes of a pattern.
     bool sendPattern(const QByteArray &channel, const QByteArray &message, qint64 size);
-    /// True when the bus has acknowledged the process's subscription; asks the bus nothing.
+    /// What connectToBus() would say now, without asking the bus.
     bool isOnBus();
+    /// Stops its GUI thread until goOn().
+    void hold();
+    void goOn();
     /// Makes and deletes a channel `count` times. The milliseconds it took.
     int cycle(int count);
-    /// Ends the input, on which the process ends. Its exit status; -1 when it crashed or goes on.
+    /// Ends the input, on which the process ends. True when it does so within `milliseconds`.
+    bool endsWithin(int milliseconds);
+    /// Its exit status, after its end; -1 when it crashed or goes on.
     int finish();
 
     /// The next message, of whichever subscriber, as line(); a null array when none comes.

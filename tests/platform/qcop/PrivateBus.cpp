@@ -1,5 +1,7 @@
 #include "PrivateBus.h"
 
+#include "UnixSocket.h"
+
 #include <QtCore/QFile>
 
 #include <csignal>
@@ -30,7 +32,7 @@ PrivateBus::~PrivateBus()
 
 QString PrivateBus::address() const
 {
-    return QStringLiteral("unix:path=") + folder.filePath(QStringLiteral("bus"));
+    return busAddress(folder.filePath(QStringLiteral("bus")));
 }
 
 bool PrivateBus::start()
@@ -46,6 +48,16 @@ bool PrivateBus::start()
     }
     daemon.readAll();
     return true;
+}
+
+void PrivateBus::halt()
+{
+    ::kill(static_cast<pid_t>(daemon.processId()), SIGSTOP);
+}
+
+void PrivateBus::goOn()
+{
+    ::kill(static_cast<pid_t>(daemon.processId()), SIGCONT);
 }
 
 void PrivateBus::kill()

@@ -17,6 +17,9 @@ public:
     /// False when the bus does not come up.
     bool start();
     void kill();
+    /// Keeps it from answering, and lets it go on.
+    void halt();
+    void goOn();
     bool isRunning() const { return daemon.state() == QProcess::Running; }
 
 private:

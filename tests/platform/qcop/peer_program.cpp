@@ -65,8 +65,8 @@ private:
         const QByteArray command = words.first();
         if (command == "make")
             return make(words[1].toInt(), bytes(words, 2));
-        if (command == "await")
-            return yes(QCopBus::instance()->waitFor(QCopBus::Receiving, busPatience));
+        if (command == "connect")
+            return yes(QCopBus::instance()->waitFor(busPatience));
         if (command == "unsubscribe") {
             delete channels.take(words[1].toInt());
             return "1";
@@ -78,7 +78,9 @@ private:
         if (command == "burst")
             return burst(bytes(words, 1), bytes(words, 2), words[3].toInt());
         if (command == "status")
-            return yes(QCopBus::instance()->isReady(QCopBus::Receiving));
+            return yes(QCopBus::instance()->isReady());
+        if (command == "hold")
+            return hold();
         if (command == "cycle")
             return cycle(words[1].toInt());
         return "unknown command";
@@ -103,6 +105,14 @@ private:
         for (int number = 0; number < count; ++number)
             areSent = QCopChannel::send(channel, prefix + QByteArray::number(number)) && areSent;
         return yes(areSent);
+    }
+
+    // Until there is more input.
+    static QByteArray hold()
+    {
+        write("held");
+        char end = 0;
+        return yes(::read(STDIN_FILENO, &end, 1) == 1);
     }
 
     static QByteArray cycle(int count)

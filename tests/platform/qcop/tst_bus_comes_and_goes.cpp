@@ -1,4 +1,5 @@
 // A session bus that is not there, that does not answer, that dies and comes back.
+#include "BusRelay.h"
 #include "FakeBus.h"
 #include "Peer.h"
 #include "PrivateBus.h"
@@ -26,10 +27,14 @@ class TestBusComesAndGoes : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
     void nothingIsAskedOfTheBusBeforeTheFirstChannel();
     void nothingIsAskedOfTheBusBeforeTheFirstMessage();
     void manyChannelsAskForAMissingBusOnceASecondAtMost();
     void aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly();
+    void aSubscriptionCountsWhenTheBusHasAcknowledgedIt();
+    void aProcessDoesNotEndBeforeItsMessagesAreAtTheBus();
     void aBusThatComesLaterIsFoundByAWaitingSubscriber();
     void aBusKilledAmidABurstLosesNothingWithinTheProcess();
     void aBusThatIsGoneIsToldByTheNextMessage();
@@ -86,6 +91,38 @@ void TestBusComesAndGoes::aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly()
     QCOMPARE(peer.finish(), 0);
 }
 
+void TestBusComesAndGoes::aSubscriptionCountsWhenTheBusHasAcknowledgedIt()
+{
+    const PrivateBus bus;
+    BusRelay relay(bus.address(), "AddMatch");
+    Peer receiver(relay.address());
+    receiver.make(1, phone); // returns although the bus does not answer
+    QTRY_VERIFY_WITH_TIMEOUT(relay.isHolding(), limitMs);
+    QVERIFY(!receiver.isOnBus());
+    relay.release();
+    QTRY_VERIFY_WITH_TIMEOUT(receiver.isOnBus(), limitMs);
+    Peer sender(bus.address());
+    QVERIFY(sender.connectToBus());
+    QVERIFY(sender.send(phone, "heard"));
+    QCOMPARE(receiver.take(), Peer::line(1, "heard"));
+}
+
+void TestBusComesAndGoes::aProcessDoesNotEndBeforeItsMessagesAreAtTheBus()
+{
+    constexpr qint64 size = 4000000; // more than a socket holds
+    PrivateBus bus;
+    Peer sender(bus.address());
+    Peer receiver(bus.address());
+    QVERIFY(receiver.subscribe(1, phone));
+    QVERIFY(sender.connectToBus());
+    bus.halt();
+    QVERIFY(sender.sendPattern(phone, "large", size));
+    QVERIFY(!sender.endsWithin(500));
+    bus.goOn();
+    QCOMPARE(sender.finish(), 0);
+    QCOMPARE(receiver.take(), Peer::patternLine(1, "large", size));
+}
+
 void TestBusComesAndGoes::aBusThatComesLaterIsFoundByAWaitingSubscriber()
 {
     PrivateBus bus(false);
@@ -94,6 +131,7 @@ void TestBusComesAndGoes::aBusThatComesLaterIsFoundByAWaitingSubscriber()
     QVERIFY(bus.start());
     QTRY_VERIFY_WITH_TIMEOUT(peer.isOnBus(), limitMs);
     Peer other(bus.address());
+    QVERIFY(other.connectToBus());
     QVERIFY(other.send(phone, "found"));
     QCOMPARE(peer.take(), Peer::line(1, "found"));
 }

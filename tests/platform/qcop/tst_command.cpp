@@ -84,6 +84,7 @@ class TestCommand : public QObject
 
 private slots:
     void initTestCase() { QVERIFY(bus.isRunning()); }
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
     void aSentMessageReachesASubscriber_data();
     void aSentMessageReachesASubscriber();
@@ -156,6 +157,7 @@ void TestCommand::aFileIsSentWhole()
 void TestCommand::aListenerPrintsEachMessageAsALine()
 {
     Peer peer(bus.address());
+    QVERIFY(peer.connectToBus());
     Command command(bus.address(), {"listen", phone, "--count", "3"});
     QVERIFY(command.isListening());
     QVERIFY(peer.send("/KAV/other", "not for you"));
@@ -213,6 +215,7 @@ void TestCommand::aListenerEndsWithItsBus()
 void TestCommand::aListenerThatCannotPrintEnds()
 {
     Peer peer(bus.address());
+    QVERIFY(peer.connectToBus());
     const QString kavqcop = QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/kavqcop");
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());

@@ -65,6 +65,7 @@ void TestForeignMessages::initTestCase()
 
 void TestForeignMessages::init()
 {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     peer = std::make_unique<Peer>(bus.address());
     QVERIFY(peer->subscribe(1, phone));
     seen.clear();

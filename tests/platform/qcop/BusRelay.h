@@ -1,0 +1,35 @@
+// A way to the bus on which a word can be held back.
+#pragma once
+
+#include <QtCore/QTemporaryDir>
+
+#include <atomic>
+#include <thread>
+
+/// Passes on what one program and the bus at `bus` say to each other. What the program says from `word` on waits until
+/// release().
+class BusRelay
+{
+public:
+    BusRelay(const QString &bus, const QByteArray &word);
+    ~BusRelay();
+    Q_DISABLE_COPY_MOVE(BusRelay)
+
+    QString address() const;
+    bool isHolding() const { return holding; }
+    void release() { released = true; }
+
+private:
+    void run();
+    bool passOn(int from, int to);
+
+    QTemporaryDir folder;
+    const QByteArray heldWord;
+    const int door;
+    const int bus;
+    const bool ready;
+    std::atomic<bool> holding = false;
+    std::atomic<bool> released = false;
+    std::atomic<bool> ended = false;
+    std::thread porter;
+};

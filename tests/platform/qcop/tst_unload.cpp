@@ -1,0 +1,34 @@
+// A library with channels goes out of use before the application ends, as with a plug-in that is unloaded.
+#include "PrivateBus.h"
+
+#include <QtCore/QLibrary>
+#include <QtTest/QtTest>
+
+class TestUnload : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toLocal8Bit()); }
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void theApplicationEndsWellAfterItsChannelsLibraryWasUnloaded();
+
+private:
+    PrivateBus bus;
+};
+
+// What breaks shows after the test: the application's end calls into the library.
+void TestUnload::theApplicationEndsWellAfterItsChannelsLibraryWasUnloaded()
+{
+    using Send = bool (*)(const QByteArray &, const QByteArray &, const QByteArray &);
+    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/libkavqt.so.1"));
+    QVERIFY2(library.load(), qPrintable(library.errorString()));
+    const auto send = reinterpret_cast<Send>(library.resolve("_ZN11QCopChannel4sendERK10QByteArrayS2_S2_"));
+    QVERIFY(send);
+    QTRY_VERIFY(send("/KAV/phone", "message", "data"));
+    QVERIFY(library.unload());
+}
+
+QTEST_GUILESS_MAIN(TestUnload)
+#include "tst_unload.moc"
