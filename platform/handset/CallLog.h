@@ -26,42 +26,25 @@ public:
     /// Each zeroes its own counter and nothing else.
     virtual int resetDialedCallsTime() = 0;
     virtual int resetAnsweredCallsTime() = 0;
-    /// Zeroes every counter of the call log in one operation: last, dialed and answered calls; not the lifetime
-    /// total, and nothing of the call service's or of the data calls'.
+    /// Zeroes every counter of the call log in one operation: the times of the last, dialed and answered calls, and
+    /// the costs of the last, dialed, answered and all calls; not the lifetime total, and no time of the call
+    /// service's or of the data calls'. NotAllowed, and nothing zeroed, when the SIM refuses.
     virtual int resetAll() = 0;
 
     /// The day until which the last deposit is good.
-    virtual int depositExpirationDate(Date &date)
-    {
-        Q_UNUSED(date)
-        return NotAvailable;
-    }
+    virtual int depositExpirationDate(Date &date) = 0;
     /// The last deposit and the accumulated costs since their resets, as the telephone's own decimal texts (Latin-1,
-    /// without a unit).
-    virtual int lastDeposit(QByteArray &text)
-    {
-        Q_UNUSED(text)
-        return NotAvailable;
-    }
-    virtual int dialedCallsCost(QByteArray &text)
-    {
-        Q_UNUSED(text)
-        return NotAvailable;
-    }
-    virtual int answeredCallsCost(QByteArray &text)
-    {
-        Q_UNUSED(text)
-        return NotAvailable;
-    }
-    virtual int allCallsCost(QByteArray &text)
-    {
-        Q_UNUSED(text)
-        return NotAvailable;
-    }
-    /// Each zeroes its own cost and nothing else.
-    virtual int resetDialedCallsCost() { return NotAvailable; }
-    virtual int resetAnsweredCallsCost() { return NotAvailable; }
-    virtual int resetAllCallsCost() { return NotAvailable; }
+    /// without a unit), the running call included. NotAvailable for the deposit and its day where nothing has ever been
+    /// paid in.
+    virtual int lastDeposit(QByteArray &text) = 0;
+    virtual int dialedCallsCost(QByteArray &text) = 0;
+    virtual int answeredCallsCost(QByteArray &text) = 0;
+    virtual int allCallsCost(QByteArray &text) = 0;
+    /// Each zeroes its own cost and nothing else. The cost of all calls is the SIM's accumulated call meter: NotAllowed
+    /// when the SIM refuses.
+    virtual int resetDialedCallsCost() = 0;
+    virtual int resetAnsweredCallsCost() = 0;
+    virtual int resetAllCallsCost() = 0;
 };
 
 } // namespace handset

@@ -19,17 +19,10 @@ public:
     virtual int resetCallTime() = 0;
 
     /// The prepaid credit left, as the telephone's own decimal text (Latin-1, without a unit).
-    virtual int remainingCredit(QByteArray &text)
-    {
-        Q_UNUSED(text)
-        return NotAvailable;
-    }
-    /// The cost of the last call, likewise.
-    virtual int lastCallCost(QByteArray &text)
-    {
-        Q_UNUSED(text)
-        return NotAvailable;
-    }
+    /// NotAvailable where nothing has ever been paid in.
+    virtual int remainingCredit(QByteArray &text) = 0;
+    /// The cost of the last call that was connected, likewise, the running one included.
+    virtual int lastCallCost(QByteArray &text) = 0;
 };
 
 } // namespace handset

@@ -21,8 +21,8 @@ public:
     /// How often checkpoint() is called at least while a call is connected: it may lose 10 s at the most.
     static constexpr int checkpointIntervalMs = 5000;
 
-    /// Neither is null.
-    CallRecorder(std::unique_ptr<CallStore> store, std::shared_ptr<Clock> clock);
+    /// Neither of the first two is null; `charges` is null where calls cost nothing, and outlives this.
+    CallRecorder(std::unique_ptr<CallStore> store, std::shared_ptr<Clock> clock, CallCharges *charges = nullptr);
     ~CallRecorder();
     CallRecorder(const CallRecorder &) = delete;
     CallRecorder &operator=(const CallRecorder &) = delete;
@@ -33,25 +33,38 @@ public:
     int callEnded();
     /// A call has ended that was never connected.
     int callNotConnected(const PastCall &call);
-    int addHistory(const QList<PastCall> &calls);
-    /// Writes the time that the connected call has lasted so far; success without one.
+    int addHistory(const QList<PastCall> &calls, const KeptValues &kept = {});
+    /// Writes the time that the connected call has lasted so far, and what it costs; success without one.
     int checkpoint();
 
     bool isConnected() const { return running.has_value(); }
-    /// How long the connected call has lasted, in milliseconds; 0 without one.
+    /// How long the connected call has lasted, in milliseconds; 0 without one. It does not grow beyond
+    /// CallCharges::longestMs().
     qint64 connectedMs() const;
 
     /// Milliseconds, up to now.
     int figure(Counter counter, qint64 &ms) const;
-    /// Zeroes the counters; of a running call only the time from now on counts for them.
-    int reset(std::initializer_list<Counter> counters);
+    /// What the connected call's cost adds to beside the last call's; nothing for a data call, and without one.
+    std::optional<CostCounter> runningCostCounter() const;
+    /// Units, as written.
+    int cost(CostCounter counter, qint64 &units) const;
+    /// Zeroes the counters and keeps the values; of a running call only the time from now on counts. A charge that is
+    /// due is left due: checkpoint() first where it is to count before the reset.
+    int reset(std::initializer_list<Counter> times, std::initializer_list<CostCounter> costs = {},
+              const KeptValues &kept = {});
+    /// As CallStore::keep(), CallStore::kept().
+    int keep(const KeptValues &values);
+    int kept(const QString &name, QByteArray &content) const;
+
+    /// The database that the calls are in.
+    Database &connection() { return store->connection(); }
 
     /// For the data-call status byte.
     void setDataCallStatus(DataCalls::CallStatus status) { dataStatus = status; }
     DataCalls::CallStatus dataCallStatus() const { return dataStatus; }
 
-    /// Called after a reset.
-    void setResetListener(std::function<void()> listener) { onReset = std::move(listener); }
+    /// Called after a reset, and after values have been kept.
+    void setChangeListener(std::function<void()> listener) { onChange = std::move(listener); }
 
 private:
     struct RunningCall {
@@ -61,12 +74,16 @@ private:
     };
 
     void readClock() const;
+    Charge due() const;
+    void timeIsWritten();
+    void written(const Charge &charge);
 
     std::unique_ptr<CallStore> store;
     std::shared_ptr<Clock> clock;
+    CallCharges *charges;
     mutable std::optional<RunningCall> running; ///< a query reads the clock, too
     DataCalls::CallStatus dataStatus = DataCalls::Idle;
-    std::function<void()> onReset;
+    std::function<void()> onChange;
 };
 
 } // namespace handset::calllog

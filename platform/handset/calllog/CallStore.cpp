@@ -7,6 +7,7 @@
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>
 
+#include <algorithm>
 #include <array>
 
 namespace handset::calllog {
@@ -16,18 +17,53 @@ namespace {
 Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
 
 // SQLite's own sum would turn into a floating-point number beyond 2^63 - 1.
-#define KAV_SATURATING_SUM(column)                                                                                \
-    column " = CASE WHEN " column " > 9223372036854775807 - :ms THEN 9223372036854775807 ELSE " column " + :ms "  \
-           "END"
+#define KAV_SATURATING_SUM(column, added)                                                                         \
+    column " = CASE WHEN " column " > 9223372036854775807 - " added " THEN 9223372036854775807 ELSE " column      \
+           " + " added " END"
 
-constexpr auto insertRowSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, state)"
-                              " VALUES (:kind, :direction, :number, :started, :duration, :state)";
-constexpr auto addTimeSql =
-    "UPDATE calls SET state = :state, " KAV_SATURATING_SUM("duration_ms") " WHERE id = :id";
+constexpr auto insertRowSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state)"
+                              " VALUES (:kind, :direction, :number, :started, :duration, :units, :state)";
+constexpr auto addTimeSql = "UPDATE calls SET state = :state, " KAV_SATURATING_SUM(
+    "duration_ms", ":ms") ", " KAV_SATURATING_SUM("units", ":units") " WHERE id = :id";
 constexpr auto addToTotalsSql =
-    "UPDATE totals SET " KAV_SATURATING_SUM("ms") " WHERE counter IN (:own, 'all', 'lifetime', :last)";
+    "UPDATE totals SET " KAV_SATURATING_SUM("ms", ":ms") " WHERE counter IN (:own, 'all', 'lifetime', :last)";
+constexpr auto addToCostsSql =
+    "UPDATE costs SET " KAV_SATURATING_SUM("units", ":units") " WHERE counter IN (:own, :last)";
 constexpr auto setTotalSql = "UPDATE totals SET ms = :ms WHERE counter = :counter";
 constexpr auto totalSql = "SELECT ms FROM totals WHERE counter = :counter";
+constexpr auto setCostSql = "UPDATE costs SET units = :units WHERE counter = :counter";
+constexpr auto costSql = "SELECT units FROM costs WHERE counter = :counter";
+constexpr auto keepSql = "INSERT INTO kept (name, content) VALUES (:name, :content)"
+                         " ON CONFLICT (name) DO UPDATE SET content = excluded.content";
+constexpr auto keptSql = "SELECT content FROM kept WHERE name = :name";
+
+/// What past calls add to the totals of their own kinds.
+class HistorySums
+{
+public:
+    void add(const PastCall &call)
+    {
+        Sum &sum = sums[index(ownCounter(call.kind, call.direction))];
+        sum.ms = saturatingSum(sum.ms, call.durationMs);
+        sum.units = saturatingSum(sum.units, call.units);
+        if (call.durationMs > 0)
+            last = call;
+    }
+    qint64 ms(Counter own) const { return sums[index(own)].ms; }
+    qint64 units(Counter own) const { return sums[index(own)].units; }
+
+    PastCall last; ///< that was connected
+
+private:
+    struct Sum {
+        qint64 ms = 0;
+        qint64 units = 0;
+    };
+
+    static std::size_t index(Counter counter) { return static_cast<std::size_t>(counter); }
+
+    std::array<Sum, counterNames.size()> sums;
+};
 
 } // namespace
 
@@ -52,7 +88,12 @@ bool CallStore::prepareStatements()
            database->prepare(timeStatement, QString::fromLatin1(addTimeSql)) &&
            database->prepare(totalsStatement, QString::fromLatin1(addToTotalsSql)) &&
            database->prepare(setTotalStatement, QString::fromLatin1(setTotalSql)) &&
-           database->prepare(totalStatement, QString::fromLatin1(totalSql));
+           database->prepare(totalStatement, QString::fromLatin1(totalSql)) &&
+           database->prepare(costsStatement, QString::fromLatin1(addToCostsSql)) &&
+           database->prepare(setCostStatement, QString::fromLatin1(setCostSql)) &&
+           database->prepare(costStatement, QString::fromLatin1(costSql)) &&
+           database->prepare(keepStatement, QString::fromLatin1(keepSql)) &&
+           database->prepare(keptStatement, QString::fromLatin1(keptSql));
 }
 
 int CallStore::status(bool succeeded) const
@@ -72,6 +113,7 @@ bool CallStore::insertRow(const PastCall &call, CallState state)
     insertStatement.bindValue(QStringLiteral(":number"), number);
     insertStatement.bindValue(QStringLiteral(":started"), call.startWallMs);
     insertStatement.bindValue(QStringLiteral(":duration"), call.durationMs);
+    insertStatement.bindValue(QStringLiteral(":units"), call.units);
     insertStatement.bindValue(QStringLiteral(":state"), static_cast<int>(state));
     return database->run(insertStatement);
 }
@@ -84,12 +126,31 @@ bool CallStore::addToTotals(Counter own, qint64 ms, bool toLast)
     return database->run(totalsStatement);
 }
 
-bool CallStore::addTime(const UnwrittenTime &time, CallState state)
+bool CallStore::addToCosts(Counter own, qint64 units, bool toLast)
+{
+    if (units == 0)
+        return true;
+    const QString last = toLast ? costCounterKey(CostCounter::Last) : QStringLiteral("");
+    const std::optional<CostCounter> ownCost = ownCostCounter(own);
+    costsStatement.bindValue(QStringLiteral(":units"), units);
+    costsStatement.bindValue(QStringLiteral(":own"), ownCost ? costCounterKey(*ownCost) : last);
+    costsStatement.bindValue(QStringLiteral(":last"), last);
+    return database->run(costsStatement);
+}
+
+bool CallStore::putAll(const KeptValues &values)
+{
+    return std::all_of(values.begin(), values.end(), [this](const KeptValue &value) { return putKept(value); });
+}
+
+bool CallStore::addTime(const UnwrittenTime &time, const Charge &charge, CallState state)
 {
     timeStatement.bindValue(QStringLiteral(":state"), static_cast<int>(state));
     timeStatement.bindValue(QStringLiteral(":ms"), time.ms);
+    timeStatement.bindValue(QStringLiteral(":units"), charge.units);
     timeStatement.bindValue(QStringLiteral(":id"), time.call);
-    return database->run(timeStatement) && addToTotals(time.own, time.ms, true);
+    return database->run(timeStatement) && addToTotals(time.own, time.ms, true) &&
+           addToCosts(time.own, charge.units, true) && putAll(charge.kept);
 }
 
 bool CallStore::insertPastCall(const PastCall &call)
@@ -105,60 +166,79 @@ bool CallStore::putTotal(Counter counter, qint64 ms)
     return database->run(setTotalStatement);
 }
 
+bool CallStore::putCost(CostCounter counter, qint64 units)
+{
+    setCostStatement.bindValue(QStringLiteral(":units"), units);
+    setCostStatement.bindValue(QStringLiteral(":counter"), costCounterKey(counter));
+    return database->run(setCostStatement);
+}
+
+bool CallStore::putKept(const KeptValue &value)
+{
+    // A null array would be a NULL.
+    const QByteArray content = value.content.isNull() ? QByteArray("") : value.content;
+    keepStatement.bindValue(QStringLiteral(":name"), value.name);
+    keepStatement.bindValue(QStringLiteral(":content"), content);
+    return database->run(keepStatement);
+}
+
 int CallStore::beginCall(const PastCall &call, qint64 &id)
 {
     PastCall row = call;
     row.durationMs = 0;
+    row.units = 0;
     qint64 inserted = 0;
     const bool done = database->inTransaction([&] {
         if (!insertRow(row, CallState::Running))
             return false;
         inserted = insertStatement.lastInsertId().toLongLong();
-        return putTotal(Counter::Last, 0);
+        return putTotal(Counter::Last, 0) && putCost(CostCounter::Last, 0);
     });
     if (done)
         id = inserted;
     return status(done);
 }
 
-int CallStore::countTime(const UnwrittenTime &time)
+int CallStore::countTime(const UnwrittenTime &time, const Charge &charge)
 {
-    return status(database->inTransaction([&] { return addTime(time, CallState::Running); }));
+    return status(database->inTransaction([&] { return addTime(time, charge, CallState::Running); }));
 }
 
-int CallStore::finishCall(const UnwrittenTime &time)
+int CallStore::finishCall(const UnwrittenTime &time, const Charge &charge)
 {
-    return status(database->inTransaction([&] { return addTime(time, CallState::Finished); }));
+    return status(database->inTransaction([&] { return addTime(time, charge, CallState::Finished); }));
 }
 
 int CallStore::addUnconnected(const PastCall &call)
 {
     PastCall row = call;
     row.durationMs = 0;
+    row.units = 0;
     return addHistory({row}, false);
 }
 
-int CallStore::addHistory(const QList<PastCall> &calls, bool setLast)
+int CallStore::addHistory(const QList<PastCall> &calls, bool setLast, const KeptValues &values)
 {
-    std::array<qint64, counterNames.size()> sums{};
-    qint64 last = 0;
+    HistorySums sums;
     const auto addRows = [&] {
         for (const PastCall &call : calls) {
             if (!insertPastCall(call))
                 return false;
-            qint64 &sum = sums[static_cast<std::size_t>(ownCounter(call.kind, call.direction))];
-            sum = saturatingSum(sum, call.durationMs);
-            last = call.durationMs > 0 ? call.durationMs : last;
+            sums.add(call);
         }
         return true;
     };
     const auto addSums = [&] {
         for (const Counter own : {Counter::Dialed, Counter::Answered, Counter::Data})
-            if (!addToTotals(own, sums[static_cast<std::size_t>(own)], false))
+            if (!addToTotals(own, sums.ms(own), false) || !addToCosts(own, sums.units(own), false))
                 return false;
-        return !setLast || last == 0 || putTotal(Counter::Last, last);
+        return true;
     };
-    return status(database->inTransaction([&] { return addRows() && addSums(); }));
+    const auto putLast = [&] {
+        return !setLast || sums.last.durationMs == 0 ||
+               (putTotal(Counter::Last, sums.last.durationMs) && putCost(CostCounter::Last, sums.last.units));
+    };
+    return status(database->inTransaction([&] { return addRows() && addSums() && putLast() && putAll(values); }));
 }
 
 int CallStore::total(Counter counter, qint64 &ms)
@@ -172,16 +252,44 @@ int CallStore::total(Counter counter, qint64 &ms)
     return status(found);
 }
 
-int CallStore::reset(std::span<const Counter> counters, const UnwrittenTime *running)
+int CallStore::cost(CostCounter counter, qint64 &units)
+{
+    costStatement.bindValue(QStringLiteral(":counter"), costCounterKey(counter));
+    const bool found = database->run(costStatement) && costStatement.next();
+    if (found)
+        units = costStatement.value(0).toLongLong();
+    costStatement.finish();
+    return status(found);
+}
+
+int CallStore::reset(const ResetPlan &plan, const UnwrittenTime *running)
 {
     return status(database->inTransaction([&] {
-        if (running && !addTime(*running, CallState::Running))
+        if (running && !addTime(*running, {}, CallState::Running))
             return false;
-        for (const Counter counter : counters)
+        for (const Counter counter : plan.times)
             if (!putTotal(counter, 0))
                 return false;
-        return true;
+        for (const CostCounter counter : plan.costs)
+            if (!putCost(counter, 0))
+                return false;
+        return putAll(plan.kept);
     }));
+}
+
+int CallStore::keep(const KeptValues &values)
+{
+    return status(database->inTransaction([&] { return putAll(values); }));
+}
+
+int CallStore::kept(const QString &name, QByteArray &content)
+{
+    keptStatement.bindValue(QStringLiteral(":name"), name);
+    const bool done = database->run(keptStatement);
+    if (done)
+        content = keptStatement.next() ? keptStatement.value(0).toByteArray() : QByteArray();
+    keptStatement.finish();
+    return status(done);
 }
 
 } // namespace handset::calllog

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Call.h"
+#include "Charge.h"
 #include "Counter.h"
 #include "Database.h"
 #include "Schema.h"
@@ -22,6 +23,13 @@ struct UnwrittenTime {
     qint64 ms = 0; ///< 0 or more
 };
 
+/// What a reset zeroes, and what is kept with it.
+struct ResetPlan {
+    std::span<const Counter> times;
+    std::span<const CostCounter> costs;
+    KeptValues kept;
+};
+
 /// Every operation answers handset::Success or handset::StorageFailed; a failed one has changed nothing. A write is
 /// one transaction and is on the disk when it has succeeded; the totals change in the transaction of the row whose
 /// time they count. What an operation costs does not depend on how many calls there are.
@@ -34,34 +42,45 @@ public:
                                              std::unique_ptr<StateDirectory> &directory);
     ~CallStore();
 
-    /// Adds the row of a call that has just been connected and makes it the last call. `call.durationMs` is not
-    /// used. `id` is the row's.
+    /// Adds the row of a call that has just been connected and makes it the last call. `call.durationMs` and
+    /// `call.units` are not used. `id` is the row's.
     int beginCall(const PastCall &call, qint64 &id);
-    /// Adds the time to the row and to the totals.
-    int countTime(const UnwrittenTime &time);
+    /// Adds the time and the charge to the row and to the totals.
+    int countTime(const UnwrittenTime &time, const Charge &charge);
     /// The same, and the call is over.
-    int finishCall(const UnwrittenTime &time);
-    /// Adds the row of a call that was never connected. `call.durationMs` is not used.
+    int finishCall(const UnwrittenTime &time, const Charge &charge);
+    /// Adds the row of a call that was never connected. `call.durationMs` and `call.units` are not used.
     int addUnconnected(const PastCall &call);
     /// Adds calls that are over, in their order, and counts them. The last connected one becomes the last call when
     /// `setLast`.
-    int addHistory(const QList<PastCall> &calls, bool setLast);
+    int addHistory(const QList<PastCall> &calls, bool setLast, const KeptValues &kept = {});
 
     /// Milliseconds, 0 or more.
     int total(Counter counter, qint64 &ms);
-    /// Counts the time of the running call (null for none), then zeroes `counters`.
-    int reset(std::span<const Counter> counters, const UnwrittenTime *running);
+    /// Units, 0 or more.
+    int cost(CostCounter counter, qint64 &units);
+    /// Counts the time of the running call (null for none), then does what `plan` says.
+    int reset(const ResetPlan &plan, const UnwrittenTime *running);
+
+    /// Keeps values in place of those of the same names.
+    int keep(const KeptValues &values);
+    /// A value that was kept; null when there is none of that name.
+    int kept(const QString &name, QByteArray &content);
 
     /// For salvage, in the transaction of the caller.
     bool putTotal(Counter counter, qint64 ms);
+    bool putCost(CostCounter counter, qint64 units);
+    bool putKept(const KeptValue &value);
     Database &connection() { return *database; }
 
 private:
     CallStore() = default;
     bool prepareStatements();
     bool insertRow(const PastCall &call, CallState state);
-    bool addTime(const UnwrittenTime &time, CallState state);
+    bool addTime(const UnwrittenTime &time, const Charge &charge, CallState state);
     bool addToTotals(Counter own, qint64 ms, bool toLast);
+    bool addToCosts(Counter own, qint64 units, bool toLast);
+    bool putAll(const KeptValues &values);
     bool insertPastCall(const PastCall &call);
     int status(bool succeeded) const;
 
@@ -73,6 +92,11 @@ private:
     QSqlQuery totalsStatement;
     QSqlQuery setTotalStatement;
     QSqlQuery totalStatement;
+    QSqlQuery costsStatement;
+    QSqlQuery setCostStatement;
+    QSqlQuery costStatement;
+    QSqlQuery keepStatement;
+    QSqlQuery keptStatement;
 };
 
 } // namespace handset::calllog

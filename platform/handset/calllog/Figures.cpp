@@ -55,11 +55,6 @@ int Figures::resetAnsweredCallsTime()
     return recorder.reset({Counter::Answered});
 }
 
-int Figures::resetAll()
-{
-    return recorder.reset({Counter::Last, Counter::Dialed, Counter::Answered});
-}
-
 int Figures::totalCallTime(CallTime &value)
 {
     return time(Counter::All, value);

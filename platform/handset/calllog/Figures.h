@@ -8,8 +8,9 @@
 
 namespace handset::calllog {
 
-/// Whole seconds of what the recorder has in milliseconds, the fraction cut off.
-class Figures final : public CallLog, public CallService, public DataCalls
+/// Whole seconds of what the recorder has in milliseconds, the fraction cut off. What calls cost is the backend's to
+/// tell.
+class Figures : public CallLog, public CallService, public DataCalls
 {
 public:
     /// `recorder` outlives this.
@@ -23,7 +24,6 @@ public:
     int lifetimeCallsTime(CallTime &time) override;
     int resetDialedCallsTime() override;
     int resetAnsweredCallsTime() override;
-    int resetAll() override;
 
     int totalCallTime(CallTime &time) override;
     int resetCallTime() override;

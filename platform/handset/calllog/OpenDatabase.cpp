@@ -2,6 +2,7 @@
 
 #include "Schema.h"
 
+#include <array>
 #include <initializer_list>
 
 namespace handset::calllog {
@@ -47,22 +48,41 @@ Finding verify(Database &database)
     return result.isEmpty() ? failure(database) : Finding{Verdict::Damaged, result};
 }
 
-// Reads and writes what every later operation depends on, and closes the call that was running when the telephone
-// stopped: its time is counted up to its last checkpoint.
+struct TotalsTable {
+    const char *count;
+    qint64 rows;
+};
+
+constexpr std::array totalsTables{
+    TotalsTable{"SELECT count(*) FROM totals WHERE ms >= 0", counterNames.size()},
+    TotalsTable{"SELECT count(*) FROM costs WHERE units >= 0", costCounterNames.size()},
+    TotalsTable{"SELECT count(*) FROM session_totals WHERE value >= 0", 3},
+};
+
+// Reads and writes what every later operation depends on, and closes the call and the session that were running when
+// the telephone stopped: their time is counted up to their last checkpoint.
 Finding settle(Database &database)
 {
     if (!migrate(database, migrations()))
         return failure(database);
-    const auto totals = database.number(QStringLiteral("SELECT count(*) FROM totals WHERE ms >= 0"));
-    const auto newest = database.number(QStringLiteral("SELECT max(id) FROM calls"));
-    if (!totals || !newest)
-        return failure(database);
-    if (*totals != static_cast<qint64>(counterNames.size()))
-        return {Verdict::Damaged, QStringLiteral("a total is missing")};
-    const QString close = QStringLiteral("UPDATE calls SET state = %1 WHERE state = %2")
-                              .arg(static_cast<int>(CallState::Interrupted))
-                              .arg(static_cast<int>(CallState::Running));
-    return database.inTransaction([&] { return database.run(close); }) ? Finding{} : failure(database);
+    for (const TotalsTable &table : totalsTables) {
+        const auto rows = database.number(QString::fromLatin1(table.count));
+        if (!rows)
+            return failure(database);
+        if (*rows != table.rows)
+            return {Verdict::Damaged, QStringLiteral("a total is missing")};
+    }
+    for (const char *newest : {"SELECT max(id) FROM calls", "SELECT max(id) FROM sessions"})
+        if (!database.number(QString::fromLatin1(newest)))
+            return failure(database);
+    const auto close = [&](const char *table) {
+        return database.run(QStringLiteral("UPDATE %1 SET state = %2 WHERE state = %3")
+                                .arg(QLatin1String(table))
+                                .arg(static_cast<int>(CallState::Interrupted))
+                                .arg(static_cast<int>(CallState::Running)));
+    };
+    return database.inTransaction([&] { return close("calls") && close("sessions"); }) ? Finding{}
+                                                                                       : failure(database);
 }
 
 using Step = Finding (*)(Database &);

@@ -16,17 +16,19 @@ namespace handset::calllog {
 namespace {
 
 constexpr auto rowsSql =
-    "SELECT id, kind, direction, number, started_ms, duration_ms, state FROM calls ORDER BY id";
+    "SELECT id, kind, direction, number, started_ms, duration_ms, state, %1 FROM calls ORDER BY id";
 constexpr auto putRowSql =
-    "INSERT OR IGNORE INTO calls (id, kind, direction, number, started_ms, duration_ms, state)"
-    " VALUES (?, ?, ?, ?, ?, ?, ?)";
+    "INSERT OR IGNORE INTO calls (id, kind, direction, number, started_ms, duration_ms, state, units)"
+    " VALUES (?, ?, ?, ?, ?, ?, ?, ?)";
+constexpr auto hasUnitsSql = "SELECT count(*) FROM pragma_table_info('calls') WHERE name = 'units'";
 
-enum Column { Id, Kind, Direction, Number, Started, Duration, State, ColumnCount };
+enum Column { Id, Kind, Direction, Number, Started, Duration, State, Units, ColumnCount };
 
 /// No log gets that far; a damaged page may.
 constexpr qint64 highestId = 1'000'000'000'000;
 
 using Totals = std::array<qint64, counterNames.size()>;
+using Costs = std::array<qint64, costCounterNames.size()>;
 
 class Salvager
 {
@@ -46,8 +48,12 @@ private:
     Passed copyRows(const QString &select, bool untilKnown);
     bool copyRow(const QSqlQuery &row, bool &isNew);
     void countRow(const QSqlQuery &row);
+    QString unitsColumn();
     bool putTotals();
     std::optional<Totals> readTotals();
+    bool putCosts();
+    std::optional<Costs> readCosts();
+    bool putKept();
 
     Database &source;
     CallStore &target;
@@ -56,11 +62,17 @@ private:
     bool totalsRead = false;
     qint64 lastConnected = 0; ///< id
     Totals counted{};
+    Costs countedCosts{};
 };
 
 qint64 &totalOf(Totals &totals, Counter counter)
 {
     return totals[static_cast<std::size_t>(counter)];
+}
+
+qint64 &costOf(Costs &costs, CostCounter counter)
+{
+    return costs[static_cast<std::size_t>(counter)];
 }
 
 // What a damaged page yields may have any type, or be a row of nothing at all.
@@ -76,19 +88,26 @@ bool isPlausible(const QSqlQuery &row)
     const QVariant number = row.value(Number);
     return within(Id, 1, highestId) && within(Kind, 0, 1) && within(Direction, 0, 1) &&
            number.typeId() == QMetaType::QString && !number.isNull() && within(Started, minimum, maximum) &&
-           within(Duration, 0, maximum) && within(State, 0, 3);
+           within(Duration, 0, maximum) && within(State, 0, 3) && within(Units, 0, maximum);
 }
 
 bool Salvager::run()
 {
-    const QString upwards = QString::fromLatin1(rowsSql);
+    const QString upwards = QString::fromLatin1(rowsSql).arg(unitsColumn());
     if (!target.connection().prepare(putRow, QString::fromLatin1(putRowSql)))
         return false;
     Passed passed = copyRows(upwards, false);
     // From the other end as well, so that one damaged page in the middle costs no more than its own calls.
     if (passed == Passed::UpToTheDamage)
         passed = copyRows(upwards + QStringLiteral(" DESC"), true);
-    return passed != Passed::NotWritten && putTotals();
+    return passed != Passed::NotWritten && putTotals() && putCosts() && putKept();
+}
+
+// A log of the first version has none.
+QString Salvager::unitsColumn()
+{
+    const std::optional<qint64> columns = source.number(QString::fromLatin1(hasUnitsSql));
+    return columns == qint64{0} ? QStringLiteral("0") : QStringLiteral("units");
 }
 
 Salvager::Passed Salvager::copyRows(const QString &select, bool untilKnown)
@@ -126,9 +145,13 @@ void Salvager::countRow(const QSqlQuery &row)
     const qint64 duration = row.value(Duration).toLongLong();
     for (const Counter counter : {own, Counter::All, Counter::Lifetime})
         totalOf(counted, counter) = saturatingSum(totalOf(counted, counter), duration);
+    const qint64 units = row.value(Units).toLongLong();
+    if (const std::optional<CostCounter> ownCost = ownCostCounter(own))
+        costOf(countedCosts, *ownCost) = saturatingSum(costOf(countedCosts, *ownCost), units);
     if (row.value(Id).toLongLong() > lastConnected) {
         lastConnected = row.value(Id).toLongLong();
         totalOf(counted, Counter::Last) = duration;
+        costOf(countedCosts, CostCounter::Last) = units;
     }
 }
 
@@ -153,6 +176,43 @@ bool Salvager::putTotals()
     for (const CounterName &name : counterNames)
         if (!target.putTotal(name.counter, totalOf(totals, name.counter)))
             return false;
+    return true;
+}
+
+std::optional<Costs> Salvager::readCosts()
+{
+    Costs costs{};
+    for (const CostCounterName &name : costCounterNames) {
+        const QString select = QStringLiteral("SELECT units FROM costs WHERE counter = '%1'");
+        const std::optional<qint64> units = source.number(select.arg(QString::fromLatin1(name.key)));
+        if (!units || *units < 0)
+            return std::nullopt;
+        costOf(costs, name.counter) = *units;
+    }
+    return costs;
+}
+
+bool Salvager::putCosts()
+{
+    Costs costs = readCosts().value_or(countedCosts);
+    for (const CostCounterName &name : costCounterNames)
+        if (!target.putCost(name.counter, costOf(costs, name.counter)))
+            return false;
+    return true;
+}
+
+// Who kept the values looks whether they are whole.
+bool Salvager::putKept()
+{
+    QSqlQuery rows = source.query();
+    rows.exec(QStringLiteral("SELECT name, content FROM kept"));
+    while (rows.next()) {
+        const QVariant name = rows.value(0);
+        const QVariant content = rows.value(1);
+        const bool isValue = name.typeId() == QMetaType::QString && content.typeId() == QMetaType::QByteArray;
+        if (isValue && !target.putKept({name.toString(), content.toByteArray()}))
+            return false;
+    }
     return true;
 }
 

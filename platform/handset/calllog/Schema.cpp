@@ -24,7 +24,31 @@ constexpr std::array toVersion1{
     " ('last', 0), ('dialed', 0), ('answered', 0), ('data', 0), ('all', 0), ('lifetime', 0)",
 };
 
-constexpr std::array<Migration, 1> steps{toVersion1};
+constexpr std::array toVersion2{
+    "ALTER TABLE calls ADD COLUMN units INTEGER NOT NULL DEFAULT 0 CHECK (units >= 0)",
+    "CREATE TABLE costs (counter TEXT PRIMARY KEY, units INTEGER NOT NULL CHECK (units >= 0)) STRICT, WITHOUT "
+    "ROWID",
+    "INSERT INTO costs (counter, units) VALUES ('last', 0), ('dialed', 0), ('answered', 0)",
+    // What a backend keeps beside the calls, under names of its own.
+    "CREATE TABLE kept (name TEXT PRIMARY KEY, content BLOB NOT NULL) STRICT, WITHOUT ROWID",
+    // Packet data. state: CallState, never NotConnected. The access point name is Latin-1.
+    "CREATE TABLE sessions ("
+    " id INTEGER PRIMARY KEY,"
+    " apn TEXT NOT NULL,"
+    " started_ms INTEGER NOT NULL,"
+    " duration_ms INTEGER NOT NULL CHECK (duration_ms >= 0),"
+    " sent INTEGER NOT NULL CHECK (sent >= 0),"
+    " received INTEGER NOT NULL CHECK (received >= 0),"
+    " state INTEGER NOT NULL CHECK (state IN (0, 1, 3))"
+    ") STRICT",
+    "CREATE INDEX running_sessions ON sessions (state) WHERE state = 0",
+    // Milliseconds and bytes.
+    "CREATE TABLE session_totals (counter TEXT PRIMARY KEY, value INTEGER NOT NULL CHECK (value >= 0))"
+    " STRICT, WITHOUT ROWID",
+    "INSERT INTO session_totals (counter, value) VALUES ('duration', 0), ('sent', 0), ('received', 0)",
+};
+
+constexpr std::array<Migration, 2> steps{toVersion1, toVersion2};
 
 bool runStep(Database &database, Migration step, qint64 version)
 {

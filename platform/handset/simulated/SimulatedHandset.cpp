@@ -11,6 +11,8 @@ namespace handset::simulated {
 namespace {
 
 constexpr qsizetype longestNumber = 80;
+constexpr int tickMs = 1000;
+constexpr int ticksPerCheckpoint = calllog::CallRecorder::checkpointIntervalMs / tickMs;
 
 // As a SIM can hold it and a keypad can dial it.
 bool isNumber(const QString &number)
@@ -30,6 +32,13 @@ bool isPlausible(const PastCall &call)
     return call.durationMs >= 0 && isShownNumber(call.number);
 }
 
+bool isEmergency(const PastCall &call)
+{
+    const auto isNumber = [&](const char *number) { return call.number == QLatin1String(number); };
+    const auto &numbers = SimulatedTelephone::emergencyNumbers;
+    return call.direction == CallDirection::Dialed && std::any_of(numbers.begin(), numbers.end(), isNumber);
+}
+
 } // namespace
 
 Opened open(const Settings &settings)
@@ -37,17 +46,24 @@ Opened open(const Settings &settings)
     calllog::OpenedStore opened = calllog::openCallStore(settings.stateDirectory);
     if (!opened.store)
         return {nullptr, opened.error, {}};
-    return {std::make_shared<SimulatedHandset>(std::move(opened.store), settings.clock), {}, opened.notice};
+    auto telephone = std::make_shared<SimulatedHandset>(std::move(opened.store), settings.clock);
+    QStringList notices = telephone->notices();
+    if (!opened.notice.isEmpty())
+        notices.prepend(opened.notice);
+    return {telephone, {}, notices.join(QLatin1Char(' '))};
 }
 
 SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, std::shared_ptr<Clock> clocks)
     : clock(clocks)
-    , recorder(std::move(store), std::move(clocks))
-    , figures(recorder)
+    , recorder(std::move(store), std::move(clocks), &meter)
+    , loadNotices(meter.load(recorder))
+    , figures(recorder, meter)
+    , charges(recorder, meter)
+    , sim(recorder, meter)
 {
-    recorder.setResetListener([this] { emit changed(); });
-    checkpointTimer.setInterval(calllog::CallRecorder::checkpointIntervalMs);
-    connect(&checkpointTimer, &QTimer::timeout, this, &SimulatedHandset::checkpoint);
+    recorder.setChangeListener([this] { figuresChanged(); });
+    timer.setInterval(tickMs);
+    connect(&timer, &QTimer::timeout, this, &SimulatedHandset::tick);
 }
 
 SimulatedHandset::~SimulatedHandset()
@@ -60,6 +76,9 @@ int SimulatedHandset::begin(LineState begun, const PastCall &begunCall)
 {
     if (state != LineState::Idle)
         return WrongState;
+    if (begunCall.direction == CallDirection::Dialed && !charges.permits(tariffOf(begunCall)))
+        return NotAllowed;
+    charges.callBegins();
     call = begunCall;
     call.startWallMs = clock->wallMs();
     state = begun;
@@ -88,12 +107,17 @@ int SimulatedHandset::connectCall(LineState from)
 {
     if (state != from)
         return WrongState;
+    const sim::Tariff tariff = tariffOf(call);
+    if (!charges.permits(tariff))
+        return NotAllowed;
     const int status = recorder.callConnected(call);
     if (status != Success)
         return status;
+    meter.begin(tariff);
     state = LineState::Connected;
     setDataCallStatus(DataCalls::Connected);
-    checkpointTimer.start();
+    ticksToCheckpoint = ticksPerCheckpoint;
+    timer.start();
     emit changed();
     return Success;
 }
@@ -113,7 +137,8 @@ int SimulatedHandset::endCall()
     const int status = state == LineState::Connected ? recorder.callEnded() : recorder.callNotConnected(call);
     if (status != Success)
         return status;
-    checkpointTimer.stop();
+    timer.stop();
+    meter.end();
     setDataCallStatus(DataCalls::Released);
     state = LineState::Idle;
     call = {};
@@ -134,15 +159,60 @@ int SimulatedHandset::addHistory(const QList<PastCall> &calls)
 {
     if (!std::all_of(calls.begin(), calls.end(), isPlausible))
         return InvalidArgument;
-    const int status = recorder.addHistory(calls);
+    if (const int status = recorder.checkpoint())
+        return status;
+    QList<PastCall> charged = calls;
+    ChargingState next = meter.state();
+    for (PastCall &past : charged) {
+        past.units = past.durationMs > 0 ? tariffOf(past).units(sim::CallLeg{past.durationMs, 0}) : 0;
+        next.charge(static_cast<quint64>(past.units));
+    }
+    const auto write = [&](const calllog::KeptValues &values) { return recorder.addHistory(charged, values); };
+    const int status = meter.change(next, write);
     if (status == Success)
-        emit changed();
+        figuresChanged();
     return status;
 }
 
 int SimulatedHandset::checkpoint()
 {
-    return recorder.checkpoint();
+    ticksToCheckpoint = ticksPerCheckpoint;
+    const int status = recorder.checkpoint();
+    return status == Success ? endCallWhoseTimeIsUp() : status;
+}
+
+// Every unit is on the disk within a second of falling due, and the time every few seconds.
+void SimulatedHandset::tick()
+{
+    const bool unitIsDue = meter.dueUnits(recorder.connectedMs()) > 0;
+    if (--ticksToCheckpoint > 0 && !unitIsDue && !charges.isTimeUp())
+        return;
+    if (checkpoint() == Success && unitIsDue)
+        emit changed();
+}
+
+// A setting, too, can be what ends a call: a lower limit.
+void SimulatedHandset::figuresChanged()
+{
+    endCallWhoseTimeIsUp();
+    emit changed();
+}
+
+int SimulatedHandset::endCallWhoseTimeIsUp()
+{
+    if (state != LineState::Connected || !charges.isTimeUp())
+        return Success;
+    const int status = endCall();
+    if (status != Success)
+        return status;
+    charges.callStopped();
+    emit changed();
+    return Success;
+}
+
+sim::Tariff SimulatedHandset::tariffOf(const PastCall &of) const
+{
+    return isEmergency(of) ? sim::Tariff{} : meter.state().tariff(of.direction);
 }
 
 // A voice call leaves the data-call status alone.

@@ -1,8 +1,10 @@
 // The simulated telephone: a line that is driven by hand over the call log.
 #pragma once
 
+#include "CallFigures.h"
 #include "CallRecorder.h"
-#include "Figures.h"
+#include "Charging.h"
+#include "SimAccess.h"
 #include "SimulatedTelephone.h"
 
 #include <QtCore/QTimer>
@@ -21,6 +23,8 @@ public:
     CallService *callService() override { return &figures; }
     CallLog *callLog() override { return &figures; }
     DataCalls *dataCalls() override { return &figures; }
+    AdviceOfCharge *adviceOfCharge() override { return &sim; }
+    SimSecurity *simSecurity() override { return &sim; }
 
     int dial(const QString &number, CallKind kind) override;
     int remoteAnswer() override;
@@ -35,16 +39,31 @@ public:
     QString number() const override { return call.number; }
     qint64 connectedMs() const override { return recorder.connectedMs(); }
 
+    ChargingControl &charging() override { return charges; }
+    SimControl &simCard() override { return sim; }
+
+    /// What was not as it should be in what the call log keeps, a sentence each.
+    QStringList notices() const { return loadNotices; }
+
 private:
+    sim::Tariff tariffOf(const PastCall &of) const;
+    void tick();
+    void figuresChanged();
+    int endCallWhoseTimeIsUp();
     int begin(LineState begun, const PastCall &begunCall);
     int connectCall(LineState from);
     int endCall();
     void setDataCallStatus(DataCalls::CallStatus status);
 
     std::shared_ptr<Clock> clock;
+    ChargeMeter meter;
     calllog::CallRecorder recorder;
-    calllog::Figures figures;
-    QTimer checkpointTimer{this};
+    QStringList loadNotices;
+    CallFigures figures;
+    Charging charges;
+    SimAccess sim;
+    QTimer timer{this}; ///< runs while a call is connected
+    int ticksToCheckpoint = 0;
     LineState state = LineState::Idle;
     PastCall call; ///< on the line
 };

@@ -2,12 +2,15 @@
 #pragma once
 
 #include "Call.h"
+#include "ChargingControl.h"
 #include "Handset.h"
+#include "SimControl.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
+#include <array>
 #include <memory>
 
 namespace handset::simulated {
@@ -19,6 +22,10 @@ using handset::PastCall;
 /// One line, one call at a time. Every operation answers a status of handset/Status.h; WrongState when the line is
 /// not in the state that the operation needs, StorageFailed when the call log could not be written. An operation
 /// that fails has changed nothing. The end of the telephone ends the call on the line.
+///
+/// A connected call is charged as it goes on. Where nothing more may be charged (ChargingControl::unitsLeft() is 0)
+/// the telephone ends a charged call and lets no other begin. Calls to emergencyNumbers cost nothing and always go
+/// on.
 class SimulatedTelephone : public QObject, public Handset
 {
     Q_OBJECT
@@ -34,7 +41,11 @@ public:
 
     ~SimulatedTelephone() override = default;
 
-    /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument.
+    /// 3GPP TS 22.101, 10.1.1: the numbers that every telephone knows.
+    static constexpr std::array emergencyNumbers{"112", "911"};
+
+    /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument. NotAllowed
+    /// for a call that would be charged where nothing more may be; so for the next two.
     virtual int dial(const QString &number, CallKind kind) = 0;
     /// Dialing -> Connected: the other side answers.
     virtual int remoteAnswer() = 0;
@@ -44,18 +55,23 @@ public:
     virtual int answer() = 0;
     /// Dialing, Ringing or Connected -> Idle. The call is in the log when this returns 0.
     virtual int hangUp() = 0;
-    /// Adds calls that are over to the log, in one transaction, counted as if they had been made in their order. The
-    /// last connected one becomes the last call, unless a call is connected now. InvalidArgument for a negative
-    /// duration or a number that could not have been dialed or shown.
+    /// Adds calls that are over to the log, in one transaction, counted and charged as if they had been made in their
+    /// order, also where nothing more might be charged. The last connected one becomes the last call, unless a call
+    /// is connected now. `units` of the calls are not used. InvalidArgument for a negative duration or a number that
+    /// could not have been dialed or shown.
     virtual int addHistory(const QList<PastCall> &calls) = 0;
-    /// Writes the time that the connected call has lasted so far, so that a crash loses no more than what follows.
-    /// The telephone does this by itself every few seconds; success without a connected call.
+    /// Writes the time that the connected call has lasted so far and what it has cost, so that a crash loses no more
+    /// than what follows; ends a call whose time is up. The telephone does this by itself every few seconds, and
+    /// whenever a unit is due; success without a connected call.
     virtual int checkpoint() = 0;
 
     virtual LineState lineState() const = 0;
     virtual CallKind callKind() const = 0;  ///< of the call on the line; Voice when idle
     virtual QString number() const = 0;     ///< of the call on the line; null when idle
     virtual qint64 connectedMs() const = 0; ///< how long the call on the line is connected, by the clock; else 0
+
+    virtual ChargingControl &charging() = 0;
+    virtual SimControl &simCard() = 0;
 
 signals:
     /// The line state, or a figure that a query answers, has changed.

@@ -1,4 +1,5 @@
 // The tables of the call log, and the way there from older versions.
+#include "CallLog.h"
 #include "HandsetTestKit.h"
 #include "Schema.h"
 #include "Status.h"
@@ -16,9 +17,9 @@ using calllog::Migration;
 namespace {
 
 // What a later version might do.
-constexpr std::array addsCosts{"ALTER TABLE calls ADD COLUMN cost_units INTEGER NOT NULL DEFAULT 0",
-                               "UPDATE calls SET cost_units = duration_ms / 60000"};
-constexpr std::array addsSessions{"CREATE TABLE sessions (id INTEGER PRIMARY KEY, apn TEXT NOT NULL) STRICT"};
+constexpr std::array addsRates{"ALTER TABLE calls ADD COLUMN rate INTEGER NOT NULL DEFAULT 0",
+                               "UPDATE calls SET rate = duration_ms / 60000"};
+constexpr std::array addsNotes{"CREATE TABLE notes (id INTEGER PRIMARY KEY, note TEXT NOT NULL) STRICT"};
 constexpr std::array failsHalfway{"CREATE TABLE half (id INTEGER PRIMARY KEY) STRICT",
                                   "UPDATE nowhere SET id = 1"};
 
@@ -57,6 +58,7 @@ private slots:
     void anEmptyDatabaseGetsEveryStep();
     void anUpToDateDatabaseIsLeftAlone();
     void anOlderDatabaseKeepsItsCallsThroughEveryStep();
+    void aLogOfTheFirstVersionKeepsItsCallsAndFigures();
     void aStepThatFailsLeavesTheVersionBeforeItWhole();
     void aStepThatFailedIsDoneByTheNextStart();
     void theTelephoneTakesOverADatabaseWithoutTables();
@@ -68,7 +70,7 @@ void TestSchema::anEmptyDatabaseGetsEveryStep()
 {
     Database database(QStringLiteral(":memory:"), Database::Access::ReadWrite);
     QCOMPARE(versionOf(database), qint64{0});
-    QVERIFY(calllog::migrate(database, later({addsCosts, addsSessions})));
+    QVERIFY(calllog::migrate(database, later({addsRates, addsNotes})));
     QCOMPARE(versionOf(database), qint64(today().size()) + 2);
     QCOMPARE(database.number(QStringLiteral("PRAGMA application_id")), std::optional(calllog::applicationId));
     QCOMPARE(database.number(QStringLiteral("SELECT count(*) FROM totals WHERE ms = 0")),
@@ -88,22 +90,46 @@ void TestSchema::anOlderDatabaseKeepsItsCallsThroughEveryStep()
 {
     const StateDir state;
     QVERIFY(Phone(state.path()).dialed(5 * minute));
-    QVERIFY(migrateFile(state.database(), later({addsCosts, addsSessions})));
+    QVERIFY(migrateFile(state.database(), later({addsRates, addsNotes})));
     const LogFile file(state.database());
-    QCOMPARE(file.value(QStringLiteral("SELECT cost_units FROM calls WHERE number = '1234'")), QVariant(5));
+    QCOMPARE(file.value(QStringLiteral("SELECT rate FROM calls WHERE number = '1234'")), QVariant(5));
     QCOMPARE(file.value(QStringLiteral("SELECT ms FROM totals WHERE counter = 'dialed'")), QVariant(300000));
-    QCOMPARE(file.value(QStringLiteral("SELECT count(*) FROM sessions")), QVariant(0));
+    QCOMPARE(file.value(QStringLiteral("SELECT count(*) FROM notes")), QVariant(0));
+}
+
+void TestSchema::aLogOfTheFirstVersionKeepsItsCallsAndFigures()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(migrateFile(state.database(), {calllog::migrations().front()}));
+    {
+        const LogFile file(state.database());
+        QCOMPARE(file.value(QStringLiteral("PRAGMA user_version")), QVariant(1));
+        QVERIFY(file.run(QStringLiteral("INSERT INTO calls VALUES (1, 0, 0, '1234', 5, 61000, 1)")));
+        QVERIFY(
+            file.run(QStringLiteral("UPDATE totals SET ms = 61000 WHERE counter IN ('last', 'dialed', 'all')")));
+    }
+    Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.isEmpty(), qPrintable(phone.opened.notice));
+    const SixFigures asBefore{.last = 61, .dialed = 61, .all = 61};
+    QCOMPARE(phone.figures(), asBefore);
+    QByteArray cost;
+    QCOMPARE(phone.log().dialedCallsCost(cost), int(Success));
+    QCOMPARE(cost, QByteArray("0.00"));
+    phone.close();
+    const LogFile file(state.database());
+    QCOMPARE(file.value(QStringLiteral("SELECT number || units FROM calls")), QVariant(QStringLiteral("12340")));
 }
 
 void TestSchema::aStepThatFailsLeavesTheVersionBeforeItWhole()
 {
     Database database(QStringLiteral(":memory:"), Database::Access::ReadWrite);
-    QVERIFY(!calllog::migrate(database, later({addsCosts, failsHalfway, addsSessions})));
+    QVERIFY(!calllog::migrate(database, later({addsRates, failsHalfway, addsNotes})));
     QCOMPARE(calllog::sqlite::code(database.lastError()), calllog::sqlite::Error);
     QCOMPARE(versionOf(database), qint64(today().size()) + 1);
-    const QString tables = QStringLiteral("SELECT count(*) FROM sqlite_schema WHERE name IN ('half', 'sessions')");
+    const QString tables = QStringLiteral("SELECT count(*) FROM sqlite_schema WHERE name IN ('half', 'notes')");
     QCOMPARE(database.number(tables), std::optional(qint64{0}));
-    QVERIFY(database.run(QStringLiteral("SELECT cost_units FROM calls")));
+    QVERIFY(database.run(QStringLiteral("SELECT rate FROM calls")));
 }
 
 void TestSchema::aStepThatFailedIsDoneByTheNextStart()
@@ -112,8 +138,8 @@ void TestSchema::aStepThatFailedIsDoneByTheNextStart()
     QVERIFY(Phone(state.path()).dialed(2 * minute));
     QVERIFY(!migrateFile(state.database(), later({failsHalfway})));
     QCOMPARE(Phone(state.path()).figures().dialed, quint64{120});
-    QVERIFY(migrateFile(state.database(), later({addsCosts})));
-    QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT cost_units FROM calls")), QVariant(2));
+    QVERIFY(migrateFile(state.database(), later({addsRates})));
+    QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT rate FROM calls")), QVariant(2));
 }
 
 void TestSchema::theTelephoneTakesOverADatabaseWithoutTables()

@@ -1,0 +1,111 @@
+#include "ChargeMeter.h"
+
+#include "CallRecorder.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace handset::simulated {
+
+namespace {
+
+// The first of "card-kept-1", "card-kept-2", ... that is not in use; null when the log cannot be read.
+QString unusedName(const calllog::CallRecorder &recorder, const QString &name)
+{
+    for (int number = 1;; ++number) {
+        const QString candidate = QStringLiteral("%1-kept-%2").arg(name).arg(number);
+        QByteArray content;
+        if (recorder.kept(candidate, content) != Success)
+            return {};
+        if (content.isNull())
+            return candidate;
+    }
+}
+
+struct KeptPart {
+    const char *name;
+    bool (*read)(const QByteArray &kept, ChargingState &state);
+    const char *whatIsNew;
+};
+
+constexpr std::array keptParts{
+    KeptPart{keptCardName, &readCard, "The SIM card"},
+    KeptPart{keptChargingName, &readCharging, "What is known of tariffs and of the account"},
+};
+
+} // namespace
+
+QStringList ChargeMeter::load(calllog::CallRecorder &recorder)
+{
+    keeper = &recorder;
+    QStringList notices;
+    for (const KeptPart &part : keptParts) {
+        const QString name = QString::fromLatin1(part.name);
+        QByteArray content;
+        if (recorder.kept(name, content) == Success && part.read(content, kept))
+            continue;
+        const QString aside = unusedName(recorder, name);
+        // With the new ones in their places, so that this is told once.
+        const bool isKept =
+            !aside.isNull() && recorder.keep(keptValues(kept) + calllog::KeptValues{{aside, content}}) == Success;
+        QString notice =
+            QStringLiteral("%1 could not be read; a new one was begun").arg(QLatin1String(part.whatIsNew));
+        if (isKept)
+            notice += QStringLiteral(" and the old one kept as \"%1\"").arg(aside);
+        notices << notice + QLatin1Char('.');
+    }
+    return notices;
+}
+
+int ChargeMeter::change(const ChargingState &next)
+{
+    return change(next, [this](const calllog::KeptValues &values) { return keeper->keep(values); });
+}
+
+int ChargeMeter::change(const ChargingState &next, const std::function<int(const calllog::KeptValues &)> &write)
+{
+    const ChargingState before = std::exchange(kept, next); // who is told of the change finds it made
+    const int status = write(keptValues(next));
+    if (status != Success)
+        kept = before;
+    return status;
+}
+
+quint32 ChargeMeter::dueUnits(qint64 connectedMs) const
+{
+    if (!running)
+        return 0;
+    const quint32 cost = running->tariff.units(sim::CallLeg{connectedMs, 0});
+    return cost - std::min(cost, running->charged);
+}
+
+std::optional<qint64> ChargeMeter::longestMs() const
+{
+    const std::optional<quint32> left = kept.unitsLeft();
+    if (!running || !left || !costsAnything(running->tariff))
+        return std::nullopt;
+    const quint64 cost = quint64{running->charged} + *left;
+    if (cost > sim::maxUnits)
+        return std::nullopt;
+    return running->tariff.msUntil({}, static_cast<quint32>(cost));
+}
+
+calllog::Charge ChargeMeter::due(qint64 connectedMs) const
+{
+    const quint32 units = dueUnits(connectedMs);
+    if (units == 0)
+        return {};
+    ChargingState next = kept;
+    next.charge(units);
+    return {units, keptValues(next)};
+}
+
+void ChargeMeter::written(const calllog::Charge &charge)
+{
+    const auto units = static_cast<quint32>(charge.units);
+    kept.charge(units);
+    if (running)
+        running->charged += units;
+}
+
+} // namespace handset::simulated

@@ -1,0 +1,54 @@
+// What of the simulation's charging outlasts a restart.
+#pragma once
+
+#include "Charge.h"
+#include "ChargingControl.h"
+#include "SimCard.h"
+
+#include <array>
+
+namespace handset::simulated {
+
+/// A value: copies are states of their own.
+struct ChargingState {
+    sim::SimCard card;
+    quint8 chargeType = AdviceOfCharge::InUnits;
+    std::array<sim::Tariff, 2> tariffs; ///< dialed, answered
+    std::optional<Account> account;
+
+    /// A new card; dialed calls cost a unit for every ten seconds, answered calls nothing; no account.
+    ChargingState();
+
+    sim::Tariff &tariff(CallDirection direction) { return tariffs[static_cast<std::size_t>(direction)]; }
+    const sim::Tariff &tariff(CallDirection direction) const
+    {
+        return tariffs[static_cast<std::size_t>(direction)];
+    }
+
+    /// As ChargingControl::unitsLeft().
+    std::optional<quint32> unitsLeft() const;
+    /// Counts units on the meter and takes them off the credit, each as far as it goes.
+    void charge(quint64 units);
+};
+
+/// Whether calls under this tariff ever cost anything.
+bool costsAnything(const sim::Tariff &tariff);
+
+/// The names under which the call log keeps the state: the card as sim::saveCard() has it, the rest as a JSON object
+/// of numbers
+///
+///     {"version": 1, "chargeType": 0, "dialed": [e1 to e7], "answered": [e1 to e7],
+///      "credit": units, "deposit": units, "expires": [year, month, day]}
+///
+/// with the last three only where there is an account.
+inline constexpr auto keptCardName = "card";
+inline constexpr auto keptChargingName = "charging";
+
+calllog::KeptValues keptValues(const ChargingState &state);
+
+/// Reads back what was kept; null arrays are what never was, and stay as they are in `state`. False for one that cannot
+/// be used: damaged, or of a later version.
+bool readCard(const QByteArray &kept, ChargingState &state);
+bool readCharging(const QByteArray &kept, ChargingState &state);
+
+} // namespace handset::simulated
