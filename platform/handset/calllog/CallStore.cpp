@@ -286,8 +286,10 @@ int CallStore::kept(const QString &name, QByteArray &content)
 {
     keptStatement.bindValue(QStringLiteral(":name"), name);
     const bool done = database->run(keptStatement);
-    if (done)
-        content = keptStatement.next() ? keptStatement.value(0).toByteArray() : QByteArray();
+    const bool found = done && keptStatement.next();
+    const QByteArray read = found ? keptStatement.value(0).toByteArray() : QByteArray();
+    if (done) // an empty value comes as a null array
+        content = found && read.isNull() ? QByteArray("") : read;
     keptStatement.finish();
     return status(done);
 }

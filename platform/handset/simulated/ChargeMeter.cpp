@@ -9,17 +9,17 @@ namespace handset::simulated {
 
 namespace {
 
-// The first of "card-kept-1", "card-kept-2", ... that is not in use; null when the log cannot be read.
+// The first of "card-kept-1", "card-kept-2", ... that is not in use.
 QString unusedName(const calllog::CallRecorder &recorder, const QString &name)
 {
-    for (int number = 1;; ++number) {
-        const QString candidate = QStringLiteral("%1-kept-%2").arg(name).arg(number);
-        QByteArray content;
-        if (recorder.kept(candidate, content) != Success)
-            return {};
-        if (content.isNull())
-            return candidate;
-    }
+    QString candidate;
+    QByteArray content;
+    int number = 0;
+    do {
+        candidate = QStringLiteral("%1-kept-%2").arg(name).arg(++number);
+        content.clear();
+    } while (recorder.kept(candidate, content) == Success && !content.isNull());
+    return candidate;
 }
 
 struct KeptPart {
@@ -30,7 +30,7 @@ struct KeptPart {
 
 constexpr std::array keptParts{
     KeptPart{keptCardName, &readCard, "The SIM card"},
-    KeptPart{keptChargingName, &readCharging, "What is known of tariffs and of the account"},
+    KeptPart{keptChargingName, &readCharging, "The record of tariffs and account"},
 };
 
 } // namespace
@@ -39,21 +39,19 @@ QStringList ChargeMeter::load(calllog::CallRecorder &recorder)
 {
     keeper = &recorder;
     QStringList notices;
+    calllog::KeptValues aside;
     for (const KeptPart &part : keptParts) {
         const QString name = QString::fromLatin1(part.name);
         QByteArray content;
         if (recorder.kept(name, content) == Success && part.read(content, kept))
             continue;
-        const QString aside = unusedName(recorder, name);
-        // With the new ones in their places, so that this is told once.
-        const bool isKept =
-            !aside.isNull() && recorder.keep(keptValues(kept) + calllog::KeptValues{{aside, content}}) == Success;
-        QString notice =
-            QStringLiteral("%1 could not be read; a new one was begun").arg(QLatin1String(part.whatIsNew));
-        if (isKept)
-            notice += QStringLiteral(" and the old one kept as \"%1\"").arg(aside);
-        notices << notice + QLatin1Char('.');
+        aside << calllog::KeptValue{unusedName(recorder, name), content};
+        notices << QStringLiteral("%1 could not be read; a new one was begun and the old one kept as \"%2\".")
+                       .arg(QLatin1String(part.whatIsNew), aside.constLast().name);
     }
+    // With the new ones in their places, so that this is told once.
+    if (!aside.isEmpty() && recorder.keep(keptValues(kept) + aside) != Success)
+        notices << QStringLiteral("That could not be written.");
     return notices;
 }
 
