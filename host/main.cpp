@@ -10,6 +10,7 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QLibrary>
 #include <QtCore/QTextStream>
 #include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
@@ -46,10 +47,33 @@ bool hasPlatform()
     return qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
+// Asked by the library that Qt will use, for Qt itself only aborts. Where that library is missing, Qt says so.
+bool displayAnswers()
+{
+    QLibrary xcb(QStringLiteral("xcb"), 1);
+    const auto connect = reinterpret_cast<void *(*)(const char *, int *)>(xcb.resolve("xcb_connect"));
+    const auto hasError = reinterpret_cast<int (*)(void *)>(xcb.resolve("xcb_connection_has_error"));
+    const auto disconnect = reinterpret_cast<void (*)(void *)>(xcb.resolve("xcb_disconnect"));
+    if (!connect || !hasError || !disconnect)
+        return true;
+    void *connection = connect(nullptr, nullptr);
+    const bool answers = hasError(connection) == 0;
+    disconnect(connection);
+    return answers;
+}
+
 // An X display: the phone's dialogs place themselves, which a Wayland compositor does not let them.
 bool hasDisplay()
 {
-    return !qEnvironmentVariableIsEmpty("DISPLAY");
+    return !qEnvironmentVariableIsEmpty("DISPLAY") && displayAnswers();
+}
+
+QString missingDisplay()
+{
+    const QString name = qEnvironmentVariable("DISPLAY");
+    const QString problem = name.isEmpty() ? QStringLiteral("There is no display to show the phone on")
+                                           : QStringLiteral("The display \"%1\" cannot be reached").arg(name);
+    return problem + QStringLiteral("; --tour DIR needs none.");
 }
 
 // Photographs must come out the same on every machine.
@@ -180,8 +204,7 @@ int main(int argc, char **argv)
     if (options.isTour() || !options.photo.isEmpty())
         fixSurroundings(options.isTour());
     else if (!hasPlatform() && !hasDisplay())
-        return complain(ExitNoDisplay,
-                        QStringLiteral("There is no display to show the phone on; --tour DIR needs none."));
+        return complain(ExitNoDisplay, missingDisplay());
     const QApplication application(argc, argv);
     nameProgram();
     return run(options);

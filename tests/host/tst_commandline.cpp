@@ -10,6 +10,9 @@
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
+// Far beyond the numbers that servers take.
+static const QString deadDisplay = QStringLiteral(":59999");
+
 class CommandLineTest : public QObject
 {
     Q_OBJECT
@@ -37,6 +40,9 @@ private slots:
     void aCatalogueThatCannotBeLoadedIsSaid_data();
     void aCatalogueThatCannotBeLoadedIsSaid();
     void withoutADisplayTheWindowIsRefused();
+    void aDisplayThatCannotBeReachedIsNamed_data();
+    void aDisplayThatCannotBeReachedIsNamed();
+    void aDisplayThatCannotBeReachedDoesNotHinderAPhotograph();
     void theWindowIsPhotographed();
     void aPhotographThatCannotBeWrittenIsSaid();
 
@@ -53,6 +59,7 @@ private:
 
 void CommandLineTest::init()
 {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     home = std::make_unique<QTemporaryDir>();
     QVERIFY(home->isValid());
     environment = hostEnvironment(home->path());
@@ -285,6 +292,36 @@ void CommandLineTest::withoutADisplayTheWindowIsRefused()
     const HostResult result = run({"--state", "none"});
     QCOMPARE(result.code, 9);
     QVERIFY2(result.errors.contains("--tour"), qPrintable(result.errors));
+}
+
+void CommandLineTest::aDisplayThatCannotBeReachedIsNamed_data()
+{
+    QTest::addColumn<QString>("display");
+    QTest::newRow("no server listens there") << deadDisplay;
+    QTest::newRow("no server listens at a network address") << "127.0.0.1:9999";
+    QTest::newRow("no display's name") << "nonsense";
+}
+
+void CommandLineTest::aDisplayThatCannotBeReachedIsNamed()
+{
+    QFETCH(QString, display);
+    environment.remove("QT_QPA_PLATFORM");
+    environment.insert("DISPLAY", display);
+    const HostResult result = run({"--state", "none"});
+    QCOMPARE(result.code, 9);
+    QCOMPARE(result.output, QString());
+    QCOMPARE(
+        result.errors,
+        QString("kavrecentcalls: The display \"%1\" cannot be reached; --tour DIR needs none.\n").arg(display));
+}
+
+void CommandLineTest::aDisplayThatCannotBeReachedDoesNotHinderAPhotograph()
+{
+    environment.remove("QT_QPA_PLATFORM");
+    environment.insert("DISPLAY", deadDisplay);
+    const HostResult result = showCallTimes({"--state", "none"});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY(!QImage(path("window.png")).isNull());
 }
 
 void CommandLineTest::theWindowIsPhotographed()
