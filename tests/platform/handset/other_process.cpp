@@ -1,6 +1,7 @@
 // A second process for the tests.
 //   handset_other_process calls DIRECTORY SEED   makes calls until it is killed; a line for each finished one
-//   handset_other_process hold DIRECTORY         says "holding", and holds the directory until its input ends
+//   handset_other_process hold DIRECTORY [USER]  says "holding", and holds the directory until its input ends; as the
+//                                                user with that number, or says "not permitted"
 //   handset_other_process leave DIRECTORY         installs the telephone, makes a call of 9 s, and leaves main() with the
 //                                                call still on the line
 // A directory that cannot be opened as expected is a line "error ..." or "notice ..." and exit code 1.
@@ -15,6 +16,7 @@
 #include <random>
 #include <utility>
 
+#include <grp.h>
 #include <unistd.h>
 
 using namespace handset;
@@ -85,6 +87,14 @@ int hold()
     return 0;
 }
 
+// Root's rights over files go with it.
+bool become(uid_t user)
+{
+    const bool leavesGroups =
+        ::geteuid() != 0 || (::setgroups(0, nullptr) == 0 && ::setresgid(user, user, user) == 0);
+    return leavesGroups && ::setresuid(user, user, user) == 0;
+}
+
 int leave(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock &clock)
 {
     install(opened.handset);
@@ -100,6 +110,10 @@ int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == QLatin1String("hold") && arguments.size() > 3 && !become(arguments[3].toUInt())) {
+        std::printf("not permitted\n");
+        return 1;
+    }
     const auto clock = std::make_shared<ManualClock>(0);
     Settings settings;
     settings.stateDirectory = arguments.value(2);

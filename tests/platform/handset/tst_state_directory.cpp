@@ -28,10 +28,10 @@ QByteArray readFile(const QString &path)
 class Holder
 {
 public:
-    explicit Holder(const QString &directory)
+    explicit Holder(const QString &directory, const QStringList &user = {})
     {
         process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
-                      {QStringLiteral("hold"), directory});
+                      QStringList{QStringLiteral("hold"), directory} + user);
     }
     ~Holder() { kill(); }
 
@@ -51,6 +51,13 @@ private:
     QProcess process;
 };
 
+/// Somebody for whom the permissions of files count, which they do not for root.
+uid_t ordinaryUser()
+{
+    constexpr uid_t nobody = 65534;
+    return ::geteuid() == 0 ? nobody : ::geteuid();
+}
+
 } // namespace
 
 class TestStateDirectory : public QObject
@@ -62,6 +69,8 @@ private slots:
 
     void aDirectoryThatCannotBeUsedIsOneSentence_data();
     void aDirectoryThatCannotBeUsedIsOneSentence();
+    void permissionsThatAreMissingAreTold_data();
+    void permissionsThatAreMissingAreTold();
     void aLockThatIsSomethingElseIsAnError_data();
     void aLockThatIsSomethingElseIsAnError();
     void aLinkToADirectoryIsFollowed();
@@ -82,7 +91,8 @@ void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence_data()
     QTest::newRow("a link to itself") << QStringLiteral("loop/state") << QStringLiteral("Not a directory");
     QTest::newRow("a place where nothing can be made")
         << QStringLiteral("/proc/kav") << QStringLiteral("No such file");
-    QTest::newRow("a directory that cannot be written") << QStringLiteral("/proc/1") << QStringLiteral("");
+    QTest::newRow("a directory in which nobody can make a file")
+        << QStringLiteral("/proc/1") << QStringLiteral("");
     QTest::newRow("a name that is too long")
         << QString(300, QLatin1Char('n')) << QStringLiteral("File name too long");
     QTest::newRow("a name with a zero character")
@@ -107,6 +117,41 @@ void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence()
     QCOMPARE(phone.opened.error.count(QLatin1Char('\n')), 0);
     QVERIFY(phone.opened.notice.isEmpty());
     QCOMPARE(readFile(state.sibling(QStringLiteral("file"))), QByteArray("precious"));
+}
+
+void TestStateDirectory::permissionsThatAreMissingAreTold_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("below");
+    QTest::addColumn<bool>("isUsable");
+    QTest::newRow("a directory with all that is needed") << 0700 << QString() << true;
+    QTest::newRow("a directory that cannot be written") << 0500 << QString() << false;
+    QTest::newRow("a directory that cannot be entered") << 0600 << QString() << false;
+    QTest::newRow("a directory that cannot be made") << 0500 << QStringLiteral("/below/it") << false;
+}
+
+void TestStateDirectory::permissionsThatAreMissingAreTold()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, below);
+    QFETCH(bool, isUsable);
+    const StateDir state;
+    const QByteArray directory = QFile::encodeName(state.path());
+    const QByteArray onTheWay = QFile::encodeName(state.sibling(QStringLiteral(".")));
+    QCOMPARE(::mkdir(directory.constData(), 0700), 0);
+    QCOMPARE(::chmod(onTheWay.constData(), 0711), 0);
+    if (::chown(directory.constData(), ordinaryUser(), static_cast<gid_t>(-1)) != 0)
+        QSKIP("root may not give a directory to another user here");
+    QCOMPARE(::chmod(directory.constData(), static_cast<mode_t>(mode)), 0);
+    const QString path = state.path() + below;
+    const QByteArray answer = Holder(path, {QString::number(ordinaryUser())}).firstLine();
+    if (answer == "not permitted")
+        QSKIP("root may not become another user here");
+    // The directory that could not be made is named, not the one on the way.
+    const QByteArray refusal =
+        "error The state directory \"" + path.toUtf8() + "\" cannot be used: Permission denied.";
+    QCOMPARE(answer, isUsable ? QByteArray("holding") : refusal);
+    QCOMPARE(state.names().isEmpty(), !isUsable);
 }
 
 void TestStateDirectory::aLockThatIsSomethingElseIsAnError_data()
