@@ -8,6 +8,7 @@
 #include "XServer.h"
 
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
@@ -65,6 +66,7 @@ private:
 
 void WindowTest::init()
 {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     state = std::make_unique<QTemporaryDir>();
     QVERIFY(state->isValid());
     const std::shared_ptr<Handset> telephone = reopenState();

@@ -7,6 +7,7 @@
 #include "phone/Display.h"
 
 #include <QtCore/QLibrary>
+#include <QtCore/QRegularExpression>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
@@ -53,6 +54,7 @@ void ContractTest::initTestCase()
 
 void ContractTest::init()
 {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     screens.reset();
     display = std::make_unique<host::Display>();
     screens = std::make_unique<ScreenHost>(library, display.get());

@@ -4,6 +4,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QColor>
 #include <QtGui/QImage>
@@ -49,6 +50,7 @@ private:
 
 void TourTest::init()
 {
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     home = std::make_unique<QTemporaryDir>();
     QVERIFY(home->isValid());
     environment = hostEnvironment(home->path());

@@ -2,6 +2,7 @@
 
 #include "tour/TourScript.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtTest/QTest>
 
 using namespace host::tour;
@@ -11,6 +12,8 @@ class TourScriptTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
     void commentsAndBlankLinesAreSkippedAndLinesCounted();
     void durations_data();
     void durations();

@@ -12,6 +12,8 @@ class TestClock : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
     void theMonotonicClockNeverGoesBack();
     void theMonotonicClockCountsThroughSuspend();
     void theWallClockIsUtcInEveryTimeZone_data();

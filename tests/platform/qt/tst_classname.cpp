@@ -34,6 +34,8 @@ class ClassNameTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
     void it_names_the_most_derived_class_through_a_base();
     void a_class_without_the_macro_has_its_bases_name();
 };

@@ -10,6 +10,8 @@ class PinDigitsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
     void fourToEightDigitsAreAPin();
     void theLastDigitIsTakenBackFirst();
     void aDigitTakenBackIsOverwritten();
