@@ -1,7 +1,8 @@
 // The single-shot timers of the screens, under a clock that a test moves by hand.
 //
-// A program that links kav_screen_clock and exports its symbols stands between the plug-in and QTimer::singleShot().
-// What is to be called on a screen later waits until advance() gets there. Every other timer goes to Qt.
+// A program that links kav_screen_clock and exports its symbols stands between the plug-in and
+// QTimer::singleShot(). What is to be called on a screen later waits until advance() gets there. Every other timer
+// goes to Qt.
 #pragma once
 
 #include <QtCore/QByteArray>

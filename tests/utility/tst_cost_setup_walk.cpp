@@ -1,16 +1,16 @@
-// Thousands of random keys on the Call-Cost Setup screen, over a telephone that fails and changes at random, beside a
-// model that says what a person must see, what the telephone must be asked, and what it must have in the end.
+// Thousands of random keys on the Call-Cost Setup screen, over a telephone that fails and changes at random, beside
+// a model that says what a person must see, what the telephone must be asked, and what it must have in the end.
 #include "CostSetupModel.h"
 #include "PHONE_UI_RecentCallCostSetupView.h"
 #include "PHONE_UI_RecentCallCostsView.h"
 
+#include "OtherPinEntry.h"
 #include "PhoneScreen.h"
 #include "PhoneTest.h"
 #include "PluginLibrary.h"
 #include "PrivateAccess.h"
 #include "ScreenClock.h"
 
-#include "SETUP_SECURITY_Util.h"
 #include "ZApplication.h"
 #include "ZListBox.h"
 #include "ZMultiLineEdit.h"
@@ -26,8 +26,6 @@
 
 #include <functional>
 #include <span>
-
-#include <dlfcn.h>
 
 using View = PHONE_UI_RecentCallCostSetupView;
 using Host = HostedScreen<PHONE_UI_RecentCallCostsView>;
@@ -189,18 +187,6 @@ private:
     ScriptedCallLog log{script};
 };
 
-// --- the PIN entry of another make
-
-std::function<int(SETUP_SECURITY_PINTYPE_E, SETUP_SECURITY_SKTYPE_E, SETUP_SECURITY_PINVERIFY_ERR_E &, QWidget *)>
-    otherPinEntry; // null for the phone's own
-
-#define KAV_VERIFY_PIN                                                                                            \
-    "_ZN19SETUP_SECURITY_Util9verifyPinER24SETUP_SECURITY_PINTYPE_ERK23SETUP_SECURITY_SKTYPE_E"                   \
-    "R30SETUP_SECURITY_PINVERIFY_ERR_EP7QWidget"
-
-using VerifyPin = int(SETUP_SECURITY_PINTYPE_E &, SETUP_SECURITY_SKTYPE_E const &,
-                      SETUP_SECURITY_PINVERIFY_ERR_E &, QWidget *);
-
 // --- keys, as often as a hand finds them
 
 struct Likely {
@@ -361,16 +347,6 @@ constexpr const char *worthMentioning[] = {
 
 } // namespace
 
-extern "C" int verifyPinByWalk(SETUP_SECURITY_PINTYPE_E &pin, SETUP_SECURITY_SKTYPE_E const &softkeys,
-                               SETUP_SECURITY_PINVERIFY_ERR_E &error, QWidget *parent) asm(KAV_VERIFY_PIN);
-
-int verifyPinByWalk(SETUP_SECURITY_PINTYPE_E &pin, SETUP_SECURITY_SKTYPE_E const &softkeys,
-                    SETUP_SECURITY_PINVERIFY_ERR_E &error, QWidget *parent)
-{
-    static auto *const phonesOwn = reinterpret_cast<VerifyPin *>(dlsym(RTLD_NEXT, KAV_VERIFY_PIN));
-    return otherPinEntry ? otherPinEntry(pin, softkeys, error, parent) : phonesOwn(pin, softkeys, error, parent);
-}
-
 class TestCostSetupWalk : public PhoneTest
 {
     Q_OBJECT
@@ -417,7 +393,8 @@ private:
     QPointer<View> screen;
     std::unique_ptr<QSignalSpy> closed;
     QRandomGenerator random;
-    QStringList trail; // what was done lately
+    std::unique_ptr<OtherPinEntry> otherPinEntry; // null for the phone's own
+    QStringList trail;                            // what was done lately
     int keys = 0;
     qsizetype attempt = 0; // of the PIN entry
     bool hasWaited = false;
@@ -444,7 +421,7 @@ void TestCostSetupWalk::cleanup()
     host.reset();
     closed.reset();
     model.reset();
-    otherPinEntry = nullptr;
+    otherPinEntry.reset();
     PhoneTest::cleanup();
 }
 
@@ -629,13 +606,12 @@ void TestCostSetupWalk::planScriptedPin()
     expected.nextPin.isScripted = true;
     expected.nextPin.result = result;
     expected.nextPin.error = error;
-    otherPinEntry = [this](SETUP_SECURITY_PINTYPE_E pin, SETUP_SECURITY_SKTYPE_E softkeys,
-                           SETUP_SECURITY_PINVERIFY_ERR_E &code, QWidget *parent) {
-        const QString place = parent == screen ? QString() : QStringLiteral(" over another widget");
-        journal.record(QStringLiteral("SETUP_SECURITY_Util::verifyPin(%1, %2)").arg(pin).arg(softkeys) + place);
+    otherPinEntry = std::make_unique<OtherPinEntry>(result, SETUP_SECURITY_PINVERIFY_ERR_E(error));
+    otherPinEntry->whenCalled = [this](const OtherPinEntry::Call &call) {
+        const QString place = call.parent == screen ? QString() : QStringLiteral(" over another widget");
+        journal.record(
+            QStringLiteral("SETUP_SECURITY_Util::verifyPin(%1, %2)").arg(call.pinType).arg(call.softkeys) + place);
         ScreenClock::advance(expected.nextPin.waits);
-        code = SETUP_SECURITY_PINVERIFY_ERR_E(expected.nextPin.error);
-        return expected.nextPin.result;
     };
 }
 
@@ -643,7 +619,7 @@ void TestCostSetupWalk::planPin()
 {
     const QList<QByteArray> plans[] = {{"1234"}, {"1234"}, {"9999", "1234"}, {"9999", ""}, {""}};
     expected.nextPin = {};
-    otherPinEntry = nullptr;
+    otherPinEntry.reset();
     attempt = 0;
     hasWaited = false;
     expected.nextPin.waits = random.bounded(4) == 0 ? 2500 : 0;
