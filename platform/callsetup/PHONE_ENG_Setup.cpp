@@ -15,6 +15,16 @@ int withAdviceOfCharge(Call call)
     return advice ? call(*advice) : static_cast<int>(handset::NotAvailable);
 }
 
+// Passes on how a write went; what kept it from being done is told as a signal, too.
+int reported(PHONE_ENG_Setup &engine, int status)
+{
+    if (status == handset::StorageFailed)
+        emit engine.flashFull();
+    else if (status == handset::NotAllowed)
+        emit engine.sigSetupOpertionNotAllowed();
+    return status;
+}
+
 } // namespace
 
 PHONE_ENG_Setup::PHONE_ENG_Setup() = default;
@@ -40,12 +50,14 @@ int PHONE_ENG_Setup::getMeterMax(QString &maximum, bool &enabled)
 
 int PHONE_ENG_Setup::setMeterMax(QString const &maximum)
 {
-    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setMeterMaximum(maximum); });
+    return reported(*this,
+                    withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setMeterMaximum(maximum); }));
 }
 
 int PHONE_ENG_Setup::disableCMM()
 {
-    return withAdviceOfCharge([](AdviceOfCharge &advice) { return advice.disableMeterMaximum(); });
+    return reported(*this,
+                    withAdviceOfCharge([](AdviceOfCharge &advice) { return advice.disableMeterMaximum(); }));
 }
 
 int PHONE_ENG_Setup::getChargeType(unsigned char &type)
@@ -55,7 +67,7 @@ int PHONE_ENG_Setup::getChargeType(unsigned char &type)
 
 int PHONE_ENG_Setup::setChargeType(unsigned char type)
 {
-    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setChargeType(type); });
+    return reported(*this, withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setChargeType(type); }));
 }
 
 int PHONE_ENG_Setup::getPriceUnitCurrency(QString &price, QString &currency)
@@ -65,7 +77,9 @@ int PHONE_ENG_Setup::getPriceUnitCurrency(QString &price, QString &currency)
 
 int PHONE_ENG_Setup::setPriceUnitCurrency(QString const &price, QString const &currency)
 {
-    return withAdviceOfCharge([&](AdviceOfCharge &advice) { return advice.setPriceAndCurrency(price, currency); });
+    return reported(*this, withAdviceOfCharge([&](AdviceOfCharge &advice) {
+        return advice.setPriceAndCurrency(price, currency);
+    }));
 }
 
 void PHONE_ENG_Setup::updateCFFlag()

@@ -43,10 +43,11 @@ public slots:
     void updateCFFlag();
 
 signals:
-    /// The SIM's memory is full: a setting could not be written.
+    /// A setting could not be stored: a write is about to answer StorageFailed (3).
     void flashFull();
-    /// The telephone refused a setting. (Spelled as the phone spells it.)
+    /// The SIM refused a setting: a write is about to answer NotAllowed (6). (Spelled as the phone spells it.)
     void sigSetupOpertionNotAllowed();
+    /// Sent on by updateCFFlag().
     void updateCallForwardingFlag();
 
 private:
