@@ -1,0 +1,21 @@
+// Which operations of the telephone fail.
+#pragma once
+
+#include "Operations.h"
+
+namespace host {
+
+class Faults
+{
+public:
+    /// What operation `index` (a row of operationNames) answers instead of doing anything; 0: it works.
+    int code(int index) const { return codes[static_cast<std::size_t>(index)]; }
+    /// 0 lets it work again.
+    void set(int index, int code) { codes[static_cast<std::size_t>(index)] = code; }
+    void clear() { codes = {}; }
+
+private:
+    std::array<int, operationNames.size()> codes{};
+};
+
+} // namespace host
