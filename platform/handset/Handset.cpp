@@ -4,7 +4,9 @@
 #include "CallService.h"
 #include "Clock.h"
 #include "DataCalls.h"
+#include "PacketData.h"
 #include "SimulatedBackend.h"
+#include "UpdateBroadcast.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
@@ -12,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 
 namespace handset {
 
@@ -46,6 +49,13 @@ void releaseWithApplication()
     installation() = {};
 }
 
+// Screens read the installed telephone: what happens to another is none of their business.
+void setBroadcasting(const std::shared_ptr<Handset> &handset, const std::function<void()> &listener)
+{
+    if (PacketData *const packets = handset ? handset->packetData() : nullptr)
+        packets->setUpdateListener(listener);
+}
+
 void decide(std::shared_ptr<Handset> handset)
 {
     static bool registered = false;
@@ -59,6 +69,8 @@ void decide(std::shared_ptr<Handset> handset)
     // The previous telephone goes last: its end must find the new one installed.
     const auto previous = std::exchange(installation().handset, std::move(handset));
     installation().decided = true;
+    setBroadcasting(previous, nullptr);
+    setBroadcasting(installation().handset, &broadcastUpdate);
 }
 
 void openDefault()

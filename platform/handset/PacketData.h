@@ -7,16 +7,19 @@
 #include <QtCore/QByteArray>
 
 #include <array>
+#include <functional>
 
 namespace handset {
 
 /// One of the three most recent data sessions.
 struct DataSession {
+    static constexpr qsizetype longestApn = 101;
+
     quint8 id = 0; ///< 1 to 255; 0 is an empty slot
     quint32 bytesSent = 0;
     quint32 bytesReceived = 0;
     CallTime duration;
-    QByteArray apn; ///< access point name, Latin-1, at most 101 characters
+    QByteArray apn; ///< access point name, Latin-1, at most longestApn characters
 };
 
 struct DataSessions {
@@ -37,6 +40,11 @@ public:
     virtual int totalBytes(quint32 &total, quint32 &received, quint32 &sent) = 0;
     virtual int resetTotalDuration() = 0;
     virtual int resetTotalBytes() = 0;
+
+    /// `listener` is called when a session has begun, when one has ended, and at most once a second while the figures
+    /// of one change; it must not end the telephone. Null for nobody. A telephone that cannot tell
+    /// leaves it alone.
+    virtual void setUpdateListener(const std::function<void()> &listener) { Q_UNUSED(listener) }
 };
 
 } // namespace handset

@@ -32,6 +32,8 @@ constexpr Rule rules[] = {
     {"platform/handset/", "platform/handset", "interfaces know no backend"},
     {"platform/handset/Handset.cpp", "platform/handset platform/handset/simulated platform/handset/ofono",
      "the factory alone knows every backend"},
+    {"platform/handset/UpdateBroadcast.cpp", "platform/handset platform/qt",
+     "the broadcast is a message on a channel; nothing else of the telephone knows channels"},
     {"platform/handset/calllog/", "platform/handset/calllog/ platform/handset", "a store knows no backend"},
     {"platform/handset/simulated/", "platform/handset/simulated/ platform/handset/calllog platform/handset",
      "a backend knows no other"},
@@ -215,6 +217,7 @@ Tree soundTree()
         {"platform/telephony/tapi.cpp", "#include \"tapi.h\"\n#include \"Handset.h\"\n"},
         {"platform/handset/Handset.h", ""},
         {"platform/handset/Handset.cpp", "#include \"Handset.h\"\n#include \"Simulated.h\"\n"},
+        {"platform/handset/UpdateBroadcast.cpp", "#include \"Handset.h\"\n#include \"classname.h\"\n"},
         {"platform/handset/calllog/Store.h", "#include <QtSql/QSqlQuery>\n"},
         {"platform/handset/simulated/Simulated.h", "#include \"Store.h\"\n#include \"Handset.h\"\n"},
         {"platform/handset/ofono/Ofono.h", "#include \"Handset.h\"\n"},
@@ -302,6 +305,12 @@ void TestIncludes::aViolationIsFound_data()
         "#include <QDBusConnection>\n", "platform/message/New.cpp includes <QDBusConnection>");
     row("an interface includes a backend", "platform/handset/New.h", "#include \"Simulated.h\"\n",
         "platform/handset/New.h includes platform/handset/simulated/Simulated.h");
+    row("an interface knows channels", "platform/handset/New.cpp", "#include \"classname.h\"\n",
+        "platform/handset/New.cpp includes platform/qt/classname.h");
+    row("a backend knows channels", "platform/handset/simulated/New.cpp", "#include \"classname.h\"\n",
+        "platform/handset/simulated/New.cpp includes platform/qt/classname.h");
+    row("the broadcast includes a backend", "platform/handset/UpdateBroadcast.cpp", "#include \"Simulated.h\"\n",
+        "platform/handset/UpdateBroadcast.cpp includes platform/handset/simulated/Simulated.h");
     row("a backend includes the other", "platform/handset/simulated/New.cpp", "#include \"Ofono.h\"\n",
         "platform/handset/simulated/New.cpp includes platform/handset/ofono/Ofono.h");
     row("the call log includes a backend", "platform/handset/calllog/New.cpp", "#include \"Simulated.h\"\n",

@@ -1,6 +1,7 @@
 #include "OpenDatabase.h"
 
 #include "Schema.h"
+#include "SessionStore.h"
 
 #include <array>
 #include <initializer_list>
@@ -56,7 +57,7 @@ struct TotalsTable {
 constexpr std::array totalsTables{
     TotalsTable{"SELECT count(*) FROM totals WHERE ms >= 0", counterNames.size()},
     TotalsTable{"SELECT count(*) FROM costs WHERE units >= 0", costCounterNames.size()},
-    TotalsTable{"SELECT count(*) FROM session_totals WHERE value >= 0", 3},
+    TotalsTable{"SELECT count(*) FROM session_totals WHERE value >= 0", sessionCounters.size()},
 };
 
 // Reads and writes what every later operation depends on, and closes the call and the session that were running when
@@ -124,6 +125,8 @@ Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &direc
                                           : walk(*database, {identify, verify, configure, settle});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
+    if (!SessionStore(*database).isUsable())
+        return {failure(*database), nullptr};
     auto store = CallStore::create(database, directory);
     if (!store)
         return {failure(*database), nullptr};

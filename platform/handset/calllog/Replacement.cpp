@@ -85,14 +85,32 @@ Finding makeReplacement(StateDirectory &directory, Verdict verdict, Salvaged &sa
     return directory.rename(name, QString::fromLatin1(readyName)) ? Finding{} : blocked(errno);
 }
 
+QString whatWasRead(const Salvaged &salvaged)
+{
+    const QString text = salvaged.sessions > 0
+                             ? QStringLiteral(" with the calls (%1) and data sessions (%2) that could be read")
+                             : QStringLiteral(" with the calls that could be read (%1)");
+    return salvaged.sessions > 0 ? text.arg(salvaged.calls).arg(salvaged.sessions) : text.arg(salvaged.calls);
+}
+
+// Totals of no sessions are nothing to speak of; a log of the first version has none.
+QString whatWasCounted(const Salvaged &salvaged)
+{
+    QStringList counted;
+    if (!salvaged.totalsRead)
+        counted << QStringLiteral("timers");
+    if (!salvaged.sessionTotalsRead && salvaged.sessions > 0)
+        counted << QStringLiteral("data totals");
+    const QString all = counted.join(QStringLiteral(" and "));
+    return all.isEmpty() ? QString() : QStringLiteral(" and %1 counted from them").arg(all);
+}
+
 QString notice(Verdict verdict, const QString &keptName, const Salvaged &salvaged)
 {
     QString text =
         QStringLiteral("%1; it was kept as \"%2\" and a new one was begun").arg(describe(verdict), keptName);
     if (verdict == Verdict::Damaged)
-        text += QStringLiteral(" with the calls that could be read (%1)").arg(salvaged.calls);
-    if (verdict == Verdict::Damaged && !salvaged.totalsRead)
-        text += QStringLiteral(" and timers counted from them");
+        text += whatWasRead(salvaged) + whatWasCounted(salvaged);
     return text + QLatin1Char('.');
 }
 

@@ -1,6 +1,8 @@
 #include "Salvage.h"
 
 #include "FileHeader.h"
+#include "RowSalvage.h"
+#include "SalvageSessions.h"
 #include "Saturating.h"
 #include "Schema.h"
 
@@ -8,7 +10,6 @@
 #include <QtCore/QVariant>
 
 #include <array>
-#include <limits>
 #include <optional>
 
 namespace handset::calllog {
@@ -22,32 +23,25 @@ constexpr auto putRowSql =
     " VALUES (?, ?, ?, ?, ?, ?, ?, ?)";
 constexpr auto hasUnitsSql = "SELECT count(*) FROM pragma_table_info('calls') WHERE name = 'units'";
 
-enum Column { Id, Kind, Direction, Number, Started, Duration, State, Units, ColumnCount };
-
-/// No log gets that far; a damaged page may.
-constexpr qint64 highestId = 1'000'000'000'000;
+enum Column { Id, Kind, Direction, Number, Started, Duration, State, Units };
 
 using Totals = std::array<qint64, counterNames.size()>;
 using Costs = std::array<qint64, costCounterNames.size()>;
 
-class Salvager
+class CallSalvage final : public RowSalvage
 {
 public:
-    Salvager(Database &damaged, CallStore &fresh)
-        : source(damaged)
-        , target(fresh)
+    CallSalvage(Database &damaged, CallStore &fresh)
+        : RowSalvage(damaged, fresh.connection())
+        , store(fresh)
     {}
 
     bool run();
-    qint64 copied() const { return count; }
     bool hasReadTotals() const { return totalsRead; }
 
 private:
-    enum class Passed { ToTheEnd, UpToTheDamage, NotWritten };
-
-    Passed copyRows(const QString &select, bool untilKnown);
-    bool copyRow(const QSqlQuery &row, bool &isNew);
-    void countRow(const QSqlQuery &row);
+    bool isPlausible(const QSqlQuery &row) const override;
+    void countRow(const QSqlQuery &row) override;
     QString unitsColumn();
     bool putTotals();
     std::optional<Totals> readTotals();
@@ -55,10 +49,7 @@ private:
     std::optional<Costs> readCosts();
     bool putKept();
 
-    Database &source;
-    CallStore &target;
-    QSqlQuery putRow;
-    qint64 count = 0;
+    CallStore &store;
     bool totalsRead = false;
     qint64 lastConnected = 0; ///< id
     Totals counted{};
@@ -75,69 +66,29 @@ qint64 &costOf(Costs &costs, CostCounter counter)
     return costs[static_cast<std::size_t>(counter)];
 }
 
-// What a damaged page yields may have any type, or be a row of nothing at all.
-bool isPlausible(const QSqlQuery &row)
+bool CallSalvage::isPlausible(const QSqlQuery &row) const
 {
-    constexpr qint64 minimum = std::numeric_limits<qint64>::min();
-    constexpr qint64 maximum = std::numeric_limits<qint64>::max();
-    const auto within = [&](Column column, qint64 least, qint64 most) {
-        const QVariant value = row.value(column);
-        const bool isInteger = value.typeId() == QMetaType::LongLong && !value.isNull();
-        return isInteger && value.toLongLong() >= least && value.toLongLong() <= most;
-    };
-    const QVariant number = row.value(Number);
-    return within(Id, 1, highestId) && within(Kind, 0, 1) && within(Direction, 0, 1) &&
-           number.typeId() == QMetaType::QString && !number.isNull() && within(Started, minimum, maximum) &&
-           within(Duration, 0, maximum) && within(State, 0, 3) && within(Units, 0, maximum);
+    return isWithin(row, Id, 1, highestId) && isWithin(row, Kind, 0, 1) && isWithin(row, Direction, 0, 1) &&
+           isText(row, Number) && isWithin(row, Started, lowestInteger, highestInteger) &&
+           isWithin(row, Duration, 0, highestInteger) && isWithin(row, State, 0, 3) &&
+           isWithin(row, Units, 0, highestInteger);
 }
 
-bool Salvager::run()
+bool CallSalvage::run()
 {
-    const QString upwards = QString::fromLatin1(rowsSql).arg(unitsColumn());
-    if (!target.connection().prepare(putRow, QString::fromLatin1(putRowSql)))
-        return false;
-    Passed passed = copyRows(upwards, false);
-    // From the other end as well, so that one damaged page in the middle costs no more than its own calls.
-    if (passed == Passed::UpToTheDamage)
-        passed = copyRows(upwards + QStringLiteral(" DESC"), true);
-    return passed != Passed::NotWritten && putTotals() && putCosts() && putKept();
+    return copy(QString::fromLatin1(rowsSql).arg(unitsColumn()), QString::fromLatin1(putRowSql)) && putTotals() &&
+           putCosts() && putKept();
 }
 
 // A log of the first version has none.
-QString Salvager::unitsColumn()
+QString CallSalvage::unitsColumn()
 {
     const std::optional<qint64> columns = source.number(QString::fromLatin1(hasUnitsSql));
     return columns == qint64{0} ? QStringLiteral("0") : QStringLiteral("units");
 }
 
-Salvager::Passed Salvager::copyRows(const QString &select, bool untilKnown)
+void CallSalvage::countRow(const QSqlQuery &row)
 {
-    QSqlQuery rows = source.query();
-    bool isNew = rows.exec(select);
-    while (rows.next()) {
-        if (isPlausible(rows) && !copyRow(rows, isNew))
-            return Passed::NotWritten;
-        if (untilKnown && !isNew)
-            break;
-    }
-    return rows.lastError().isValid() ? Passed::UpToTheDamage : Passed::ToTheEnd;
-}
-
-bool Salvager::copyRow(const QSqlQuery &row, bool &isNew)
-{
-    for (int column = 0; column < ColumnCount; ++column)
-        putRow.bindValue(column, row.value(column));
-    if (!target.connection().run(putRow))
-        return false;
-    isNew = putRow.numRowsAffected() > 0;
-    if (isNew)
-        countRow(row);
-    return true;
-}
-
-void Salvager::countRow(const QSqlQuery &row)
-{
-    ++count;
     if (row.value(State).toInt() == static_cast<int>(CallState::NotConnected))
         return;
     const Counter own = ownCounter(static_cast<CallKind>(row.value(Kind).toInt()),
@@ -155,7 +106,7 @@ void Salvager::countRow(const QSqlQuery &row)
     }
 }
 
-std::optional<Totals> Salvager::readTotals()
+std::optional<Totals> CallSalvage::readTotals()
 {
     Totals totals{};
     for (const CounterName &name : counterNames) {
@@ -168,18 +119,18 @@ std::optional<Totals> Salvager::readTotals()
     return totals;
 }
 
-bool Salvager::putTotals()
+bool CallSalvage::putTotals()
 {
     const std::optional<Totals> read = readTotals();
     totalsRead = read.has_value();
     Totals totals = read.value_or(counted);
     for (const CounterName &name : counterNames)
-        if (!target.putTotal(name.counter, totalOf(totals, name.counter)))
+        if (!store.putTotal(name.counter, totalOf(totals, name.counter)))
             return false;
     return true;
 }
 
-std::optional<Costs> Salvager::readCosts()
+std::optional<Costs> CallSalvage::readCosts()
 {
     Costs costs{};
     for (const CostCounterName &name : costCounterNames) {
@@ -192,17 +143,17 @@ std::optional<Costs> Salvager::readCosts()
     return costs;
 }
 
-bool Salvager::putCosts()
+bool CallSalvage::putCosts()
 {
     Costs costs = readCosts().value_or(countedCosts);
     for (const CostCounterName &name : costCounterNames)
-        if (!target.putCost(name.counter, costOf(costs, name.counter)))
+        if (!store.putCost(name.counter, costOf(costs, name.counter)))
             return false;
     return true;
 }
 
 // Who kept the values looks whether they are whole.
-bool Salvager::putKept()
+bool CallSalvage::putKept()
 {
     QSqlQuery rows = source.query();
     rows.exec(QStringLiteral("SELECT name, content FROM kept"));
@@ -210,7 +161,7 @@ bool Salvager::putKept()
         const QVariant name = rows.value(0);
         const QVariant content = rows.value(1);
         const bool isValue = name.typeId() == QMetaType::QString && content.typeId() == QMetaType::QByteArray;
-        if (isValue && !target.putKept({name.toString(), content.toByteArray()}))
+        if (isValue && !store.putKept({name.toString(), content.toByteArray()}))
             return false;
     }
     return true;
@@ -236,9 +187,15 @@ Salvaged salvage(const QString &file, CallStore &target)
     Database source(file, Database::Access::ReadWrite);
     // Without this a database that is shorter than it says is refused as a whole.
     source.run(QStringLiteral("PRAGMA writable_schema = ON"));
-    Salvager salvager(source, target);
-    const bool written = target.connection().inTransaction([&] { return salvager.run(); });
-    return {written, salvager.copied(), salvager.hasReadTotals()};
+    CallSalvage calls(source, target);
+    SalvagedSessions sessions;
+    const bool written = target.connection().inTransaction([&] {
+        if (!calls.run())
+            return false;
+        sessions = salvageSessions(source, target.connection());
+        return sessions.written;
+    });
+    return {written, calls.copied(), calls.hasReadTotals(), sessions.sessions, sessions.totalsRead};
 }
 
 } // namespace handset::calllog

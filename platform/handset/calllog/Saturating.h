@@ -1,4 +1,4 @@
-// Sums and differences that stop at the ends of their range.
+// Sums, differences and products that stop at the ends of their range.
 #pragma once
 
 #include <QtCore/QtGlobal>
@@ -21,6 +21,15 @@ constexpr qint64 elapsed(qint64 from, qint64 to)
         return 0;
     qint64 difference = 0;
     return __builtin_sub_overflow(to, from, &difference) ? std::numeric_limits<qint64>::max() : difference;
+}
+
+/// What `perSecond` of something a second come to in `ms`, both 0 or more, the fraction cut off.
+constexpr qint64 saturatingAmount(quint32 perSecond, qint64 ms)
+{
+    qint64 ofWholeSeconds = 0;
+    if (__builtin_mul_overflow(ms / 1000, qint64{perSecond}, &ofWholeSeconds))
+        return std::numeric_limits<qint64>::max();
+    return saturatingSum(ofWholeSeconds, ms % 1000 * perSecond / 1000);
 }
 
 } // namespace handset::calllog

@@ -1,6 +1,8 @@
 // The simulation's packet data.
 #pragma once
 
+#include "PacketData.h"
+
 #include <QtCore/QByteArray>
 
 namespace handset::simulated {
@@ -10,7 +12,7 @@ class PacketControl
 {
 public:
     /// The longest access point name (3GPP TS 23.003, 9.1: 100 octets; the telephone's record has room for 101).
-    static constexpr qsizetype longestApn = 101;
+    static constexpr qsizetype longestApn = DataSession::longestApn;
 
     virtual ~PacketControl() = default;
 

@@ -11,8 +11,9 @@ namespace handset::simulated {
 namespace {
 
 constexpr qsizetype longestNumber = 80;
-constexpr int tickMs = 1000;
-constexpr int ticksPerCheckpoint = calllog::CallRecorder::checkpointIntervalMs / tickMs;
+constexpr int tickMs = PacketSessions::updateIntervalMs;
+constexpr int ticksPerCheckpoint =
+    std::min(calllog::CallRecorder::checkpointIntervalMs, PacketSessions::checkpointIntervalMs) / tickMs;
 
 // As a SIM can hold it and a keypad can dial it.
 bool isNumber(const QString &number)
@@ -54,15 +55,21 @@ Opened open(const Settings &settings)
 }
 
 SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, std::shared_ptr<Clock> clocks)
-    : clock(clocks)
-    , recorder(std::move(store), std::move(clocks), &meter)
+    : clock(std::move(clocks))
+    , recorder(std::move(store), clock, &meter)
     , loadNotices(meter.load(recorder))
     , figures(recorder, meter)
     , charges(recorder, meter)
     , sim(recorder, meter)
+    , packetSessions(recorder.connection(), clock)
 {
     recorder.setChangeListener([this] { figuresChanged(); });
+    packetSessions.setChangeListener([this] {
+        runTimer();
+        emit changed();
+    });
     timer.setInterval(tickMs);
+    timer.setTimerType(Qt::PreciseTimer);
     connect(&timer, &QTimer::timeout, this, &SimulatedHandset::tick);
 }
 
@@ -116,8 +123,7 @@ int SimulatedHandset::connectCall(LineState from)
     meter.begin(tariff);
     state = LineState::Connected;
     setDataCallStatus(DataCalls::Connected);
-    ticksToCheckpoint = ticksPerCheckpoint;
-    timer.start();
+    runTimer();
     emit changed();
     return Success;
 }
@@ -137,11 +143,11 @@ int SimulatedHandset::endCall()
     const int status = state == LineState::Connected ? recorder.callEnded() : recorder.callNotConnected(call);
     if (status != Success)
         return status;
-    timer.stop();
     meter.end();
     setDataCallStatus(DataCalls::Released);
     state = LineState::Idle;
     call = {};
+    runTimer();
     return Success;
 }
 
@@ -177,18 +183,35 @@ int SimulatedHandset::addHistory(const QList<PastCall> &calls)
 int SimulatedHandset::checkpoint()
 {
     ticksToCheckpoint = ticksPerCheckpoint;
-    const int status = recorder.checkpoint();
-    return status == Success ? endCallWhoseTimeIsUp() : status;
+    const int ofSession = packetSessions.checkpoint();
+    int ofCall = recorder.checkpoint();
+    if (ofCall == Success)
+        ofCall = endCallWhoseTimeIsUp();
+    return ofCall == Success ? ofSession : ofCall;
+}
+
+void SimulatedHandset::runTimer()
+{
+    if (state != LineState::Connected && !packetSessions.isSessionRunning()) {
+        timer.stop();
+    } else if (!timer.isActive()) {
+        ticksToCheckpoint = ticksPerCheckpoint;
+        timer.start();
+    }
 }
 
 // Every unit is on the disk within a second of falling due, and the time every few seconds.
 void SimulatedHandset::tick()
 {
     const bool unitIsDue = meter.dueUnits(recorder.connectedMs()) > 0;
-    if (--ticksToCheckpoint > 0 && !unitIsDue && !charges.isTimeUp())
-        return;
-    if (checkpoint() == Success && unitIsDue)
+    const bool isTimeToWrite = --ticksToCheckpoint <= 0 || unitIsDue || charges.isTimeUp();
+    if (isTimeToWrite && checkpoint() == Success && unitIsDue)
         emit changed();
+    packetSessions.tick();
+    // A full second from now: a tick that came late would otherwise be followed by one that comes too early for the
+    // update listener.
+    if (timer.isActive())
+        timer.start();
 }
 
 // A setting, too, can be what ends a call: a lower limit.

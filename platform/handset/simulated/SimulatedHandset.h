@@ -4,6 +4,7 @@
 #include "CallFigures.h"
 #include "CallRecorder.h"
 #include "Charging.h"
+#include "PacketSessions.h"
 #include "SimAccess.h"
 #include "SimulatedTelephone.h"
 
@@ -24,6 +25,7 @@ public:
     CallLog *callLog() override { return &figures; }
     DataCalls *dataCalls() override { return &figures; }
     AdviceOfCharge *adviceOfCharge() override { return &sim; }
+    PacketData *packetData() override { return &packetSessions; }
     SimSecurity *simSecurity() override { return &sim; }
 
     int dial(const QString &number, CallKind kind) override;
@@ -41,6 +43,7 @@ public:
 
     ChargingControl &charging() override { return charges; }
     SimControl &simCard() override { return sim; }
+    PacketControl &packets() override { return packetSessions; }
 
     /// What was not as it should be in what the call log keeps, a sentence each.
     QStringList notices() const { return loadNotices; }
@@ -49,6 +52,7 @@ private:
     sim::Tariff tariffOf(const PastCall &of) const;
     void tick();
     void figuresChanged();
+    void runTimer();
     int endCallWhoseTimeIsUp();
     int begin(LineState begun, const PastCall &begunCall);
     int connectCall(LineState from);
@@ -62,7 +66,8 @@ private:
     CallFigures figures;
     Charging charges;
     SimAccess sim;
-    QTimer timer{this}; ///< runs while a call is connected
+    PacketSessions packetSessions;
+    QTimer timer{this}; ///< runs while a call is connected or a session runs
     int ticksToCheckpoint = 0;
     LineState state = LineState::Idle;
     PastCall call; ///< on the line

@@ -4,6 +4,7 @@
 #include "Call.h"
 #include "ChargingControl.h"
 #include "Handset.h"
+#include "PacketControl.h"
 #include "SimControl.h"
 
 #include <QtCore/QList>
@@ -21,7 +22,8 @@ using handset::PastCall;
 
 /// One line, one call at a time. Every operation answers a status of handset/Status.h; WrongState when the line is
 /// not in the state that the operation needs, StorageFailed when the call log could not be written. An operation
-/// that fails has changed nothing. The end of the telephone ends the call on the line.
+/// that fails has changed nothing. The end of the telephone ends the call on the line and the packet-data session;
+/// neither knows of the other.
 ///
 /// A connected call is charged as it goes on. Where nothing more may be charged (ChargingControl::unitsLeft() is 0)
 /// the telephone ends a charged call and lets no other begin. Calls to emergencyNumbers cost nothing and always go
@@ -60,9 +62,9 @@ public:
     /// is connected now. `units` of the calls are not used. InvalidArgument for a negative duration or a number that
     /// could not have been dialed or shown.
     virtual int addHistory(const QList<PastCall> &calls) = 0;
-    /// Writes the time that the connected call has lasted so far and what it has cost, so that a crash loses no more
-    /// than what follows; ends a call whose time is up. The telephone does this by itself every few seconds, and
-    /// whenever a unit is due; success without a connected call.
+    /// Writes the time that the connected call has lasted so far and what it has cost, and what the running
+    /// packet-data session has counted, so that a crash loses no more than what follows; ends a call whose time is up.
+    /// The telephone does this by itself every few seconds, and whenever a unit is due; success with neither.
     virtual int checkpoint() = 0;
 
     virtual LineState lineState() const = 0;
@@ -72,6 +74,7 @@ public:
 
     virtual ChargingControl &charging() = 0;
     virtual SimControl &simCard() = 0;
+    virtual PacketControl &packets() = 0;
 
 signals:
     /// The line state, or a figure that a query answers, has changed.

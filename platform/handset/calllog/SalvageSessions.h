@@ -1,0 +1,17 @@
+// The part of the salvage that is about packet-data sessions.
+#pragma once
+
+#include "Database.h"
+
+namespace handset::calllog {
+
+struct SalvagedSessions {
+    bool written = false;    ///< the target has what could be read
+    qint64 sessions = 0;     ///< how many
+    bool totalsRead = false; ///< else they were counted anew from the sessions, resets forgotten
+};
+
+/// As salvage(), in the transaction of the caller. A log of the first version has no sessions.
+SalvagedSessions salvageSessions(Database &source, Database &target);
+
+} // namespace handset::calllog
