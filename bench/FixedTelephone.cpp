@@ -54,6 +54,9 @@ public:
     int dialedCallsCost(QByteArray &text) override { return answer(text, amount()); }
     int answeredCallsCost(QByteArray &text) override { return answer(text, amount()); }
     int allCallsCost(QByteArray &text) override { return answer(text, amount()); }
+    int resetDialedCallsCost() override { return Success; }
+    int resetAnsweredCallsCost() override { return Success; }
+    int resetAllCallsCost() override { return Success; }
 };
 
 class Data final : public handset::DataCalls

@@ -13,6 +13,7 @@ std::vector<Comparison> getterComparisons();
 std::vector<Comparison> currencyComparisons();
 std::vector<Comparison> currencyListComparisons();
 std::vector<Comparison> screenComparisons();
+std::vector<Comparison> broadcastComparisons();
 /// `directory` keeps the logs that are measured; they are built on first use.
 std::vector<Comparison> callLogComparisons(const QString &directory);
 

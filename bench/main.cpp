@@ -2,6 +2,7 @@
 #include "Groups.h"
 #include "Options.h"
 #include "Report.h"
+#include "SessionBus.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -30,7 +31,8 @@ std::vector<bench::Comparison> chosenComparisons(const bench::Options &options)
 {
     std::vector<bench::Comparison> chosen;
     for (const auto &group : {bench::getterComparisons(), bench::currencyComparisons(), bench::screenComparisons(),
-                              bench::currencyListComparisons(), bench::callLogComparisons(options.directory)})
+                              bench::currencyListComparisons(), bench::broadcastComparisons(),
+                              bench::callLogComparisons(options.directory)})
         for (const bench::Comparison &comparison : group)
             if (comparison.name.find(options.only.toStdString()) != std::string::npos)
                 chosen.push_back(comparison);
@@ -54,6 +56,7 @@ int main(int argc, char **argv)
 {
     const QTemporaryDir home;
     ownSurroundings(QFile::encodeName(home.path()).constData());
+    const bench::SessionBus bus(home.path());
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kavbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAV_VERSION));
