@@ -3,11 +3,19 @@
 #include "Journal.h"
 
 #include "PHONE_MsgClient.h"
+#include "QValueList.h"
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
+#include "ZListBoxItem.h"
 #include "ZMessageDlg.h"
+#include "ZMultiLineEdit.h"
+#include "ZNoticeDlg.h"
 #include "ZSettingItem.h"
+#include "ZSingleCaptureDlg.h"
+#include "ZSingleSelectDlg.h"
 #include "ZSoftKey.h"
+
+#include <QtCore/QUuid>
 
 #include <type_traits>
 
@@ -17,6 +25,8 @@ namespace {
 
 int rowsMade = 0;
 int dialogsMade = 0;
+int choicesMade = 0; // rows of choice dialogs
+bool choicesAreThere = true;
 int depth = 0; // of recorded operations inside each other
 
 // What an operation does inside is not the plug-in's doing, and not recorded. (Who called cannot be seen from the
@@ -27,6 +37,14 @@ struct Recorded {
     Q_DISABLE_COPY_MOVE(Recorded)
     const bool isOutermost = depth == 0;
 };
+
+QString joined(const QValueList<QUuid> &methods)
+{
+    QString texts;
+    for (const QUuid &method : methods)
+        texts += QLatin1Char(' ') + method.toString(QUuid::WithoutBraces);
+    return texts;
+}
 
 template <typename Argument>
 QString shown(const Argument &argument)
@@ -45,6 +63,10 @@ QString shown(const Argument &argument)
             .arg(argument.y())
             .arg(argument.width())
             .arg(argument.height());
+    else if constexpr (std::is_same_v<Argument, QUuid>)
+        return argument.toString(QUuid::WithoutBraces);
+    else if constexpr (std::is_same_v<Argument, QValueList<QUuid>>)
+        return QStringLiteral("%1 methods").arg(argument.size()) + joined(argument);
     else
         return QString::number(static_cast<qint64>(argument));
 }
@@ -85,10 +107,22 @@ Function *original(const char *symbol)
 
 } // namespace
 
+bool ToolkitRecorder::hasChoices()
+{
+    return choicesAreThere;
+}
+
+void ToolkitRecorder::takeChoicesAway()
+{
+    choicesAreThere = false;
+}
+
 void ToolkitRecorder::restart()
 {
+    choicesAreThere = true;
     rowsMade = 0;
     dialogsMade = 0;
+    choicesMade = 0;
 }
 
 // Declares a function that the linker knows as `SYMBOL`, the operation of a library. An object comes first as `self`;
@@ -285,4 +319,137 @@ KAV_STANDS_FOR("_ZN7QObject7connectEPKS_PKcS1_S3_N2Qt14ConnectionTypeE", QMetaOb
     if (call.isOutermost && isKnown(sender) && isKnown(receiver))
         record(QStringLiteral("connect"), sender, signal, receiver, member);
     return original_connectObjects()(sender, signal, receiver, member, type);
+}
+
+// --- choices, entries, notices
+
+KAV_STANDS_FOR("_ZN16ZSingleSelectDlgC1ERK7QStringS2_P7QWidgetPKcbji", void, makeChoiceDialog,
+               ZSingleSelectDlg *self, const QString &header, const QString &message, QWidget *parent,
+               const char *name, bool modal, unsigned int flags, int timeout)
+{
+    const Recorded call;
+    if (call.isOutermost)
+        record(QStringLiteral("ZSingleSelectDlg"), header, message, parent, name, modal, flags, timeout);
+    original_makeChoiceDialog()(self, header, message, parent, name, modal, flags, timeout);
+    if (call.isOutermost)
+        nameAndWatch(self, QStringLiteral("dialog %1").arg(++dialogsMade));
+}
+
+KAV_STANDS_FOR("_ZN16ZSingleSelectDlg10getListBoxEv", ZListBox *, getChoices, ZSingleSelectDlg *self)
+{
+    const Recorded call;
+    ZListBox *list = ToolkitRecorder::hasChoices() ? original_getChoices()(self) : nullptr;
+    if (call.isOutermost && isKnown(self)) {
+        record(of(self, "getListBox"));
+        Journal::shared().nameObject(list, QStringLiteral("choices"));
+    }
+    return list;
+}
+
+KAV_STANDS_FOR("_ZN8ZListBox11setItemTypeE7QString", void, setItemType, ZListBox *self, QString type)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setItemType"), type);
+    original_setItemType()(self, type);
+}
+
+KAV_STANDS_FOR("_ZN8ZListBox11setSelectedEib", void, setSelected, ZListBox *self, int index, bool on)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setSelected"), index, on);
+    original_setSelected()(self, index, on);
+}
+
+KAV_STANDS_FOR("_ZN12ZListBoxItemC1EP8ZListBox7QString", void, makeChoice, ZListBoxItem *self, ZListBox *list,
+               QString type)
+{
+    const Recorded call;
+    if (call.isOutermost) {
+        Journal::shared().nameObject(self, QStringLiteral("choice %1").arg(choicesMade++));
+        record(QStringLiteral("ZListBoxItem"), list, type);
+    }
+    original_makeChoice()(self, list, type);
+}
+
+KAV_STANDS_FOR("_ZN12ZListBoxItem13appendSubItemEi7QStringS0_PK7QPixmapjNS_12ShowPriorityE", void,
+               appendSubItemOfChoice, ZListBoxItem *self, int subItem, QString text, QString shortText,
+               const QPixmap *pixmap, unsigned int width, ZListBoxItem::ShowPriority priority)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "appendSubItem"), subItem, text, shortText, pixmap, width, priority);
+    original_appendSubItemOfChoice()(self, subItem, text, shortText, pixmap, width, priority);
+}
+
+KAV_STANDS_FOR("_ZN17ZSingleCaptureDlgC1ERK7QStringS2_NS_14CaptureDlgTypeEP7QWidgetPKcbji", void, makeEntryDialog,
+               ZSingleCaptureDlg *self, const QString &header, const QString &message,
+               ZSingleCaptureDlg::CaptureDlgType type, QWidget *parent, const char *name, bool modal,
+               unsigned int flags, int timeout)
+{
+    const Recorded call;
+    if (call.isOutermost)
+        record(QStringLiteral("ZSingleCaptureDlg"), header, message, type, parent, name, modal, flags, timeout);
+    original_makeEntryDialog()(self, header, message, type, parent, name, modal, flags, timeout);
+    if (call.isOutermost)
+        nameAndWatch(self, QStringLiteral("dialog %1").arg(++dialogsMade));
+}
+
+KAV_STANDS_FOR("_ZN17ZSingleCaptureDlg16getMultiLineEditEv", ZMultiLineEdit *, getField, ZSingleCaptureDlg *self)
+{
+    const Recorded call;
+    ZMultiLineEdit *field = original_getField()(self);
+    if (call.isOutermost && isKnown(self)) {
+        record(of(self, "getMultiLineEdit"));
+        Journal::shared().nameObject(field, QStringLiteral("field"));
+    }
+    return field;
+}
+
+KAV_STANDS_FOR("_ZN14ZMultiLineEdit12setMaxLengthEi", void, setMaxLength, ZMultiLineEdit *self, int length)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setMaxLength"), length);
+    original_setMaxLength()(self, length);
+}
+
+KAV_STANDS_FOR("_ZN12ZApplication15setInputMethodsEP7QWidgetRK5QUuidRK5QListIS2_Ei7QString", void, setInputMethods,
+               QWidget *field, const QUuid &defaultMethod, const QValueList<QUuid> &allowed, int mode,
+               QString hint)
+{
+    const Recorded call;
+    if (call.isOutermost)
+        record(QStringLiteral("setInputMethods"), field, defaultMethod, allowed, mode, hint);
+    original_setInputMethods()(field, defaultMethod, allowed, mode, hint);
+}
+
+KAV_STANDS_FOR("_ZN6ZPopup18setSoftkeyTextLeftERK7QString", void, setSoftkeyTextLeft, ZPopup *self,
+               const QString &text)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setSoftkeyTextLeft"), text);
+    original_setSoftkeyTextLeft()(self, text);
+}
+
+KAV_STANDS_FOR("_ZN10ZNoticeDlgC1ENS_4TypeERK7QStringS3_P7QWidgetPKcbjb", void, makeNotice, ZNoticeDlg *self,
+               ZNoticeDlg::Type type, const QString &header, const QString &message, QWidget *parent,
+               const char *name, bool modal, unsigned int flags, bool closable)
+{
+    const Recorded call;
+    if (call.isOutermost)
+        record(QStringLiteral("ZNoticeDlg"), type, header, message, parent, name, modal, flags, closable);
+    original_makeNotice()(self, type, header, message, parent, name, modal, flags, closable);
+    if (call.isOutermost)
+        nameAndWatch(self, QStringLiteral("dialog %1").arg(++dialogsMade));
+}
+
+KAV_STANDS_FOR("_ZN9ZListItem10setEnabledEb", void, setEnabled, ZListItem *self, bool enable)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setEnabled"), enable);
+    original_setEnabled()(self, enable);
 }

@@ -500,8 +500,11 @@ void CostSetupModel::choose(const Popup &popup)
         changes.chargeType = true;
         showChargeType();
     } else {
+        const QString name = choices(List).at(popup.row);
         telephone.happened("a currency is chosen");
-        edited.currency = codeOf(choices(List).at(popup.row));
+        if (name.endsWith(QLatin1Char(' ')))
+            telephone.happened("a currency whose name ends in a blank is chosen");
+        edited.currency = codeOf(name);
         changes.currency = true;
     }
     write();

@@ -1,0 +1,467 @@
+// What the Call-Cost Setup screen asks of the toolkit and the telephone, call by call, with the exact arguments and in
+// the exact order; and what it does when an object cannot be made.
+#include "ListedCurrencies.h"
+#include "PHONE_UI_RecentCallCostSetupView.h"
+
+#include "AllocationFailure.h"
+#include "PhoneScreen.h"
+#include "PhoneTest.h"
+#include "PrivateAccess.h"
+#include "ScreenClock.h"
+#include "ToolkitRecorder.h"
+
+#include "ZApplication.h"
+#include "ZListBox.h"
+#include "ZPopup.h"
+#include "ZSettingItem.h"
+
+#include <QtTest/QSignalSpy>
+
+using ZKeys::PhoneKey;
+using View = PHONE_UI_RecentCallCostSetupView;
+
+KAV_EXPOSE(CurDialog, &View::curDialog);
+KAV_EXPOSE(ShowSelectDlg, &View::showSelectDlg);
+KAV_EXPOSE(ShowCaptureDlg, &View::showCaptureDlg);
+KAV_EXPOSE(CurCallSetType, &View::curCallSetType);
+
+namespace {
+
+constexpr int rowCount = 9;
+constexpr int limitRow = 4;
+constexpr int adjustRow = 5;
+constexpr int currencyRow = 6;
+constexpr int typeRow = 7;
+constexpr int priceRow = 8;
+
+constexpr const char *titles[rowCount] = {"Reset All",
+                                          "Reset All Call Costs",
+                                          "Reset Dialed Call Costs",
+                                          "Reset Answered Call Costs",
+                                          "Credit Limit",
+                                          "Adjust Credit Limit",
+                                          "Currency",
+                                          "Currency Type",
+                                          "Cost Per Minute"};
+constexpr const char *firstValues[rowCount] = {nullptr, nullptr, nullptr, nullptr, "On", "", "On", "", ""};
+
+const QString numberMethods =
+    QStringLiteral("637a8c00-1098-42ca-969a-2bf163cd3c14, 2 methods 637a8c00-1098-42ca-969a-2bf163cd3c14 "
+                   "637a8c00-1098-42ca-969a-2bf163cd3c15, 6, null");
+const QString letterMethods = QStringLiteral(
+    "637a8c00-1098-42ca-969a-2bf163cd3c12, 1 methods 637a8c00-1098-42ca-969a-2bf163cd3c12, 0, null");
+
+// What the screen reads after every write, as init() scripts the answers.
+const QStringList refreshSteps = {
+    "AdviceOfCharge::chargeType",
+    "AdviceOfCharge::priceAndCurrency",
+    "AdviceOfCharge::meterMaximum",
+    "row 4.setSubItem(0, 1, \"On\", false, 1)",
+    "row 5.setEnabled(true)",
+    "row 5.setSubItem(0, 1, \"100 GBP\", false, 1)",
+    "AdviceOfCharge::chargeType",
+    "row 6.setSubItem(0, 1, \"On\", false, 1)",
+    "row 7.setEnabled(true)",
+    "row 8.setEnabled(true)",
+    "AdviceOfCharge::priceAndCurrency",
+    "row 7.setSubItem(0, 1, \"GBP\", false, 1)",
+    "row 8.setSubItem(0, 1, \"0.10 GBP\", false, 1)",
+};
+
+QStringList frameSteps(QSize content)
+{
+    return {
+        "ZKbMainWidget(host, \"setup\", 0)",
+        "screen.setMainWidgetTitle(\"Call-Cost Setup\")",
+        "ZSoftKey(\"CST_2A\", screen, null)",
+        "softKey.setText(1, \"Back\", 0)",
+        "softKey.setText(0, \"\", 0)",
+        "softKey.setClickedSlot(1, screen, \"1slotBack()\")",
+        "screen.setCSTWidget(softKey)",
+        "screen.getContentWidget(true)",
+        "ZListBox(\"%M\", content, 0, 40)",
+        QStringLiteral("list.setGeometry(0, 0, %1, %2)").arg(content.width()).arg(content.height()),
+        "connect(list, \"2selected(ZSettingItem *)\", screen, \"1slotSelectedItem(ZSettingItem *)\")",
+        "connect(screen, \"2clearKeyClicked()\", screen, \"1slotBack()\")",
+    };
+}
+
+QStringList rowSteps()
+{
+    QStringList steps;
+    for (int row = 0; row < rowCount; ++row) {
+        const QString name = QStringLiteral("row %1").arg(row);
+        steps.append("ZSettingItem(list, null)");
+        steps.append(name + QStringLiteral(".appendSubItem(0, \"%1\", false, 0)").arg(titles[row]));
+        if (firstValues[row])
+            steps.append(name + QStringLiteral(".appendSubItem(0, \"%1\", false, 1)").arg(firstValues[row]));
+        steps.append(QStringLiteral("list.insertItem(%1, -1, true)").arg(name));
+    }
+    return steps;
+}
+
+QStringList choiceStep(int choice, int subItem, const QString &text)
+{
+    const QString name = QStringLiteral("choice %1").arg(choice);
+    return {"ZListBoxItem(choices, null)",
+            name + QStringLiteral(".appendSubItem(%1, \"").arg(subItem) + text +
+                QStringLiteral("\", \"\", null, 50, 2)"),
+            QStringLiteral("choices.insertItem(%1, -1, true)").arg(name)};
+}
+
+// A choice dialog, the `number`th dialog, whose rows are made by `rowSteps`.
+QStringList choiceSteps(int number, const QString &header, const QString &layout, const QStringList &rowSteps,
+                        const QString &answer)
+{
+    const QString dialog = QStringLiteral("dialog %1").arg(number);
+    const auto connection = [&](const char *signal, const QString &slot) {
+        return QStringLiteral("connect(%1, \"2%2()\", screen, \"1%3()\")").arg(dialog, signal, slot);
+    };
+    return QStringList({QStringLiteral("ZSingleSelectDlg(\"%1\", null, screen, null, true, 0, 0)").arg(header),
+                        dialog + ".getListBox()", connection("rightSoftkeyClicked", "slotClose"),
+                        QStringLiteral("choices.setItemType(\"%1\")").arg(layout)}) +
+           rowSteps +
+           QStringList({connection("leftSoftkeyClicked", answer), connection("signalCenterSelKeyPressed", answer),
+                        "choices.setSelected(0, true)", dialog + ".show()"});
+}
+
+QStringList switchSteps(const QString &header)
+{
+    return choiceSteps(1, header, QStringLiteral("%I%M"), choiceStep(0, 1, "On") + choiceStep(1, 1, "Off"),
+                       QStringLiteral("slotSingleSelect"));
+}
+
+QStringList listSteps(int number, const QString &header, int firstChoice)
+{
+    QStringList rows = choiceStep(firstChoice, 0, QStringLiteral("Custom"));
+    for (const ListedCurrency &currency : listedCurrencies)
+        rows += choiceStep(++firstChoice, 0, QString::fromUtf8(currency.name));
+    return choiceSteps(number, header, QStringLiteral("%M"), rows, QStringLiteral("slotSelect"));
+}
+
+QStringList entrySteps(int number, const QString &header, const QString &methods, const QStringList &limit,
+                       const QString &right)
+{
+    const QString dialog = QStringLiteral("dialog %1").arg(number);
+    return QStringList({QStringLiteral("ZSingleCaptureDlg(\"%1\", null, 2, screen, null, true, 0, 0)").arg(header),
+                        dialog + ".setSoftkeyTextLeft(\"Save\")", dialog + ".getMultiLineEdit()",
+                        QStringLiteral("setInputMethods(field, %1)").arg(methods)}) +
+           limit +
+           QStringList(
+               {QStringLiteral("connect(%1, \"2rightSoftkeyClicked()\", screen, \"1%2()\")").arg(dialog, right),
+                QStringLiteral("connect(%1, \"2leftSoftkeyClicked()\", screen, \"1slotSave()\")").arg(dialog),
+                dialog + ".show()"});
+}
+
+} // namespace
+
+class TestCostSetupSteps : public PhoneTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void theScreenIsBuiltInItsSteps_data();
+    void theScreenIsBuiltInItsSteps();
+    void aResetAsksNothingAndTellsInANotice_data();
+    void aResetAsksNothingAndTellsInANotice();
+    void anEditorIsMadeConnectedAndShown_data();
+    void anEditorIsMadeConnectedAndShown();
+    void customAndItsCancelLeadThereAndBack();
+    void anEditorOfNoNumberHasNoRowsAndNoAnswer();
+    void theLimitsSwitchRewritesItsRowAndNothingElse();
+    void anAnswerIsWrittenAndReadAgain_data();
+    void anAnswerIsWrittenAndReadAgain();
+    void aSavedEntryGoesThenIsWrittenThenReadAgain();
+    void aChoiceWithoutAListIsNotShown();
+
+    void withoutAMeterTheListStaysEmpty();
+    void whatCannotBeMadeIsNotShown_data();
+    void whatCannotBeMadeIsNotShown();
+
+private:
+    void open();
+    void choose(int row);
+    ZPopup *dialog() const { return view.get()->*exposed(CurDialog()); }
+
+    std::unique_ptr<QWidget> host;
+    std::unique_ptr<View> view;
+};
+
+void TestCostSetupSteps::init()
+{
+    PhoneTest::init();
+    ToolkitRecorder::restart();
+    ScreenClock::restart();
+    script().answer("AdviceOfCharge::updateRule", quint8(0));
+    script().answer("AdviceOfCharge::meterMaximum", QString("100"), true);
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    script().answer("SimSecurity::pinStatus", quint32(3));
+    host = std::make_unique<QWidget>();
+    journal.nameObject(host.get(), "host");
+}
+
+void TestCostSetupSteps::cleanup()
+{
+    view.reset();
+    host.reset();
+    PhoneTest::cleanup();
+}
+
+void TestCostSetupSteps::open()
+{
+    view = std::make_unique<View>(host.get(), "setup");
+    host->show();
+    view->show();
+    journal.take();
+}
+
+// What the row does stands in the journal then.
+void TestCostSetupSteps::choose(int row)
+{
+    ZListBox *list = PhoneScreen::list(view.get());
+    list->setSelected(row, true);
+    journal.take();
+    PhoneScreen::press(PhoneKey::Select);
+    QCOMPARE(journal.lines().value(0), QString("SimSecurity::pinStatus(1)"));
+}
+
+void TestCostSetupSteps::theScreenIsBuiltInItsSteps_data()
+{
+    QTest::addColumn<quint8>("rule");
+    QTest::newRow("all files free") << quint8(0);
+    QTest::newRow("no file may be updated") << quint8(6);
+}
+
+void TestCostSetupSteps::theScreenIsBuiltInItsSteps()
+{
+    QFETCH(const quint8, rule);
+    script().answer("AdviceOfCharge::updateRule", rule);
+    view = std::make_unique<View>(host.get(), "setup");
+    QStringList steps = frameSteps(view->getContentWidget(false)->size());
+    for (const int file : {61, 59, 64})
+        steps.append(QStringLiteral("AdviceOfCharge::updateRule(%1)").arg(file));
+    steps += rowSteps();
+    for (int row = 0; rule == 6 && row < rowCount; ++row)
+        steps.append(QStringLiteral("row %1.setEnabled(false)").arg(row));
+    QStringList done = journal.take();
+    done.removeLast(); // this test's own look at the content
+    COMPARE_LINES(done, steps + refreshSteps);
+}
+
+void TestCostSetupSteps::aResetAsksNothingAndTellsInANotice_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("message");
+    QTest::newRow(titles[0]) << 0 << "CallLog::resetAll"
+                             << "All costs have been reset to 0.00 units.";
+    QTest::newRow(titles[1]) << 1 << "CallLog::resetAllCallsCost"
+                             << "All call costs have been reset to 0.00 units.";
+    QTest::newRow(titles[2]) << 2 << "CallLog::resetDialedCallsCost"
+                             << "Dialed call costs have been reset to 0.00 units.";
+    QTest::newRow(titles[3]) << 3 << "CallLog::resetAnsweredCallsCost"
+                             << "Answered call costs have been reset to 0.00 units.";
+}
+
+void TestCostSetupSteps::aResetAsksNothingAndTellsInANotice()
+{
+    QFETCH(const int, row);
+    QFETCH(const QString, operation);
+    QFETCH(const QString, message);
+    open();
+    choose(row);
+    COMPARE_LINES(
+        journal.take(),
+        QStringList(
+            {"SimSecurity::pinStatus(1)", operation,
+             QStringLiteral("ZNoticeDlg(1, \"Reset Calls\", \"%1\", screen, null, true, 0, true)").arg(message),
+             "dialog 1.show()"}));
+    QCOMPARE(ScreenClock::pending(), QList<ScreenClock::Timer>({{5000, "1slotClose()"}}));
+    ScreenClock::advance(5000);
+    COMPARE_LINES(journal.take(), QStringList("delete dialog 1"));
+}
+
+void TestCostSetupSteps::anEditorIsMadeConnectedAndShown_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QStringList>("steps");
+    QTest::newRow("the limit's switch") << limitRow << switchSteps("Credit Limit");
+    QTest::newRow("the limit") << adjustRow
+                               << entrySteps(1, "Adjust Credit Limit", numberMethods, {}, "slotClose");
+    QTest::newRow("the currency's switch") << currencyRow << switchSteps("Currency");
+    QTest::newRow("the currency") << typeRow << listSteps(1, "Choose Type", 0);
+    QTest::newRow("the price") << priceRow << entrySteps(1, "Cost Per Minute", numberMethods, {}, "slotClose");
+}
+
+void TestCostSetupSteps::anEditorIsMadeConnectedAndShown()
+{
+    QFETCH(const int, row);
+    QFETCH(const QStringList, steps);
+    open();
+    choose(row);
+    COMPARE_LINES(journal.take(), QStringList("SimSecurity::pinStatus(1)") + steps);
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    COMPARE_LINES(journal.take(), QStringList("delete dialog 1"));
+    QVERIFY(!dialog());
+}
+
+void TestCostSetupSteps::customAndItsCancelLeadThereAndBack()
+{
+    open();
+    choose(typeRow);
+    journal.take();
+    PhoneScreen::press(PhoneKey::Select);
+    COMPARE_LINES(journal.take(),
+                  entrySteps(2, "Currency Type", letterMethods, {"field.setMaxLength(3)"}, "slotCancel"));
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    COMPARE_LINES(journal.take(), listSteps(3, "Currency Type", 194));
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    COMPARE_LINES(journal.take(), QStringList("delete dialog 3"));
+}
+
+void TestCostSetupSteps::anEditorOfNoNumberHasNoRowsAndNoAnswer()
+{
+    open();
+    view.get()->*exposed(CurCallSetType()) = 6;
+    QVERIFY((view.get()->*exposed(ShowSelectDlg()))("Nothing"));
+    COMPARE_LINES(
+        journal.take(),
+        QStringList({"ZSingleSelectDlg(\"Nothing\", null, screen, null, true, 0, 0)", "dialog 1.getListBox()",
+                     "connect(dialog 1, \"2rightSoftkeyClicked()\", screen, \"1slotClose()\")",
+                     "choices.setSelected(0, true)", "dialog 1.show()"}));
+    QMetaObject::invokeMethod(view.get(), "slotClose");
+    journal.take();
+    QVERIFY((view.get()->*exposed(ShowCaptureDlg()))("Nothing"));
+    QStringList done = journal.take();
+    done.removeOne("dialog 2.getMultiLineEdit()"); // whether the field is asked for makes no difference
+    COMPARE_LINES(done, QStringList({"ZSingleCaptureDlg(\"Nothing\", null, 2, screen, null, true, 0, 0)",
+                                     "dialog 2.setSoftkeyTextLeft(\"Save\")",
+                                     "connect(dialog 2, \"2leftSoftkeyClicked()\", screen, \"1slotSave()\")",
+                                     "dialog 2.show()"}));
+}
+
+void TestCostSetupSteps::theLimitsSwitchRewritesItsRowAndNothingElse()
+{
+    open();
+    choose(limitRow);
+    PhoneScreen::press(PhoneKey::Down);
+    journal.take();
+    PhoneScreen::press(PhoneKey::Select);
+    COMPARE_LINES(journal.take(),
+                  QStringList({"row 4.setSubItem(0, 1, \"Off\", false, 1)", "row 5.setEnabled(false)"}));
+}
+
+void TestCostSetupSteps::anAnswerIsWrittenAndReadAgain_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("downs");
+    QTest::addColumn<QStringList>("steps");
+    QTest::newRow("currency on") << currencyRow << 0
+                                 << QStringList({"row 6.setSubItem(0, 1, \"On\", false, 1)",
+                                                 "row 7.setEnabled(true)", "row 8.setEnabled(true)",
+                                                 "AdviceOfCharge::setChargeType(1)"});
+    QTest::newRow("currency off") << currencyRow << 1
+                                  << QStringList({"row 6.setSubItem(0, 1, \"Off\", false, 1)",
+                                                  "row 7.setEnabled(false)", "row 8.setEnabled(false)",
+                                                  "AdviceOfCharge::setChargeType(0)"});
+    QTest::newRow("a currency") << typeRow << 1 << QStringList("AdviceOfCharge::setPriceAndCurrency(0.10, AED)");
+}
+
+void TestCostSetupSteps::anAnswerIsWrittenAndReadAgain()
+{
+    QFETCH(const int, row);
+    QFETCH(const int, downs);
+    QFETCH(const QStringList, steps);
+    open();
+    choose(row);
+    for (int i = 0; i < downs; ++i)
+        PhoneScreen::press(PhoneKey::Down);
+    journal.take();
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    COMPARE_LINES(journal.take(), steps + refreshSteps);
+    QVERIFY(dialog()); // it is hidden, not deleted
+}
+
+void TestCostSetupSteps::aSavedEntryGoesThenIsWrittenThenReadAgain()
+{
+    open();
+    for (const int row : {adjustRow, priceRow}) {
+        choose(row);
+        ZApplication::pressKey(Qt::Key_5);
+        journal.take();
+        PhoneScreen::press(PhoneKey::LeftSoftkey);
+        const QString dialogName = row == adjustRow ? QStringLiteral("dialog 1") : QStringLiteral("dialog 2");
+        const QString write = row == adjustRow ? QStringLiteral("AdviceOfCharge::setMeterMaximum(5)")
+                                               : QStringLiteral("AdviceOfCharge::setPriceAndCurrency(5, GBP)");
+        COMPARE_LINES(journal.take(), QStringList({"delete " + dialogName, write}) + refreshSteps);
+    }
+}
+
+void TestCostSetupSteps::aChoiceWithoutAListIsNotShown()
+{
+    open();
+    choose(adjustRow);
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    ToolkitRecorder::takeChoicesAway();
+    for (const int row : {limitRow, currencyRow, typeRow}) {
+        choose(row);
+        const QStringList done = journal.take();
+        QCOMPARE(done.size(), 3);
+        QVERIFY(done.at(1).startsWith(QLatin1String("ZSingleSelectDlg(")));
+        QVERIFY(done.at(2).endsWith(QLatin1String(".getListBox()")));
+        QVERIFY(!dialog());
+    }
+    QVERIFY(!(view.get()->*exposed(ShowSelectDlg()))("Nothing"));
+}
+
+// --- memory that runs out
+
+void TestCostSetupSteps::withoutAMeterTheListStaysEmpty()
+{
+    constexpr int meter = 3; // behind the softkey bar and the list
+    {
+        const AllocationFailure failure(meter);
+        view = std::make_unique<View>(host.get(), "setup");
+        QVERIFY(AllocationFailure::happened());
+    }
+    QCOMPARE(PhoneScreen::list(view.get())->count(), 0);
+    QCOMPARE(view->mainWidgetTitle(), QString("Call-Cost Setup"));
+    QCOMPARE(journal.startingWith("ZSettingItem"), QStringList());
+    host->show();
+    view->show();
+    const QSignalSpy closed(view.get(), "2closeWgt()");
+    for (const PhoneKey key : {PhoneKey::Select, PhoneKey::Down, PhoneKey::RightSoftkey, PhoneKey::Clear})
+        PhoneScreen::press(key);
+    QCOMPARE(closed.count(), 2);
+}
+
+void TestCostSetupSteps::whatCannotBeMadeIsNotShown_data()
+{
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < rowCount; ++row)
+        QTest::newRow(titles[row]) << row;
+}
+
+void TestCostSetupSteps::whatCannotBeMadeIsNotShown()
+{
+    QFETCH(const int, row);
+    open();
+    {
+        const AllocationFailure failure(1);
+        choose(row);
+        QVERIFY(AllocationFailure::happened());
+    }
+    QVERIFY(!dialog());
+    QVERIFY(view->findChildren<ZPopup *>().isEmpty());
+    QVERIFY(ScreenClock::pending().isEmpty());
+    choose(row); // there is memory again
+    QVERIFY(dialog());
+    QVERIFY(dialog()->isVisible());
+}
+
+KAV_TEST_MAIN(TestCostSetupSteps)
+#include "tst_cost_setup_steps.moc"
