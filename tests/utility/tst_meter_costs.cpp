@@ -99,7 +99,10 @@ void TestMeterCosts::everyAmountAsksItsOwnFigureOnceBetweenItsTraces()
     QFETCH(const int, index);
     for (const Amount &amount : amounts)
         script().answer(amount.operation, QByteArray(amount.name));
+    QString before;
+    script().whenCalled(amounts[index].operation, [&] { before = withoutLineNumbers(traces->text()); });
     QCOMPARE((meter.*amounts[index].get)(), QString(amounts[index].name));
+    QCOMPARE(before, shortTrace(source, amounts[index].name));
     QCOMPARE(journal.lines(), QStringList(amounts[index].operation));
     QCOMPARE(traces->take(), callTrace(amounts[index].name));
 }
@@ -124,6 +127,7 @@ void TestMeterCosts::anAmountIsShownAsTheTelephoneWroteIt()
     for (const Amount &amount : amounts) {
         script().answer(amount.operation, written);
         QCOMPARE((meter.*amount.get)(), shown);
+        QVERIFY(!(meter.*amount.get)().isNull());
     }
 }
 
@@ -179,12 +183,16 @@ void TestMeterCosts::aFailedDateHasSlashesAndTwoDigits()
     for (const int code : codes) {
         script().fail("CallLog::depositExpirationDate", code);
         QCOMPARE(meter.getExpirationDate(), QString("2000/00/00"));
+        QCOMPARE(traces->take(), callTrace("getExpirationDate"));
     }
 }
 
 void TestMeterCosts::aDateIsAskedOnceBetweenItsTraces()
 {
+    QString before;
+    script().whenCalled("CallLog::depositExpirationDate", [&] { before = withoutLineNumbers(traces->text()); });
     meter.getExpirationDate();
+    QCOMPARE(before, shortTrace(source, "getExpirationDate"));
     QCOMPARE(journal.lines(), QStringList("CallLog::depositExpirationDate"));
     QCOMPARE(traces->take(), callTrace("getExpirationDate"));
 }
@@ -192,7 +200,10 @@ void TestMeterCosts::aDateIsAskedOnceBetweenItsTraces()
 void TestMeterCosts::aResetAsksForItselfAndTracesOnlyItsCall()
 {
     QFETCH(const int, index);
+    QString before;
+    script().whenCalled(resets[index].operation, [&] { before = withoutLineNumbers(traces->text()); });
     (meter.*resets[index].reset)();
+    QCOMPARE(before, shortTrace(source, resets[index].name));
     QCOMPARE(journal.lines(), QStringList(resets[index].operation));
     QCOMPARE(traces->take(), callTrace(resets[index].name));
 }
@@ -202,7 +213,9 @@ void TestMeterCosts::aFailedResetTracesItsMessageAndTheCode()
     QFETCH(const int, index);
     for (const int code : codes) {
         script().fail(resets[index].operation, code);
+        journal.clear();
         (meter.*resets[index].reset)();
+        QCOMPARE(journal.lines(), QStringList(resets[index].operation)); // and not a second time
         QCOMPARE(traces->take(),
                  callTrace(resets[index].name) +
                      longTrace(source, resets[index].name, resets[index].failure + QString::number(code)));
