@@ -1,6 +1,7 @@
 // The Call Costs screen: rows, details, the way into the setup and back.
 #include "PHONE_UI_RecentCallCostSetupView.h"
 #include "PHONE_UI_RecentCallCostsView.h"
+#include "PHONE_UI_RecentCallMeter.h"
 
 #include "PhoneScreen.h"
 #include "PhoneTest.h"
@@ -25,6 +26,8 @@ using CallCosts = HostedScreen<View>;
 
 KAV_EXPOSE(DetailDlg, &View::detailDlg);
 KAV_EXPOSE(CostSetupView, &View::costSetupView);
+KAV_EXPOSE(CurrencyUnit, &View::currencyUnit);
+KAV_EXPOSE(OwnMeter, &View::meter);
 KAV_EXPOSE(ItemTitle, &View::getItemTitle);
 KAV_EXPOSE(ItemValue, &View::getItemValue);
 
@@ -116,24 +119,41 @@ private slots:
     void titleSoftkeysAndClassAreTheScreensOwn();
     void slotsAndSignalsHaveTheirOrder();
     void backAndClearEmitCloseWidgetOnceEach();
+    void theUnitFollowsABlankWhateverItIs_data();
+    void theUnitFollowsABlankWhateverItIs();
+    void withoutAUnitTheValueEndsInTheBlank_data();
     void withoutAUnitTheValueEndsInTheBlank();
+    void anEmptyAmountLeavesTheBlankAndTheUnit();
     void aRowOutsideTheTableHasNoTitleAndNoValue_data();
     void aRowOutsideTheTableHasNoTitleAndNoValue();
     void choosingARowTellsItsValueInASentence_data() { addValueRows(); }
     void choosingARowTellsItsValueInASentence();
     void theValueIsAskedBeforeTheDetailOpens_data() { addValueRows(); }
     void theValueIsAskedBeforeTheDetailOpens();
+    void aDetailTellsTheFigureOfNowInTheUnitOfBefore_data() { addValueRows(); }
+    void aDetailTellsTheFigureOfNowInTheUnitOfBefore();
+    void aFigureThatFailsNowIsToldAsItsFallback_data() { addValueRows(); }
+    void aFigureThatFailsNowIsToldAsItsFallback();
     void answeringADetailChangesNothing();
+    void anItemThatIsNotInTheListOpensAnEmptyDialog_data();
     void anItemThatIsNotInTheListOpensAnEmptyDialog();
+    void rowsBehindTheSetupDoNothing();
     void theSetupRowOpensTheSetupScreenAndNoDialog();
     void afterTheSetupTheUnitIsReadAgainAndSevenRowsAreRewritten();
     void aClosedSetupGivesTheFocusBackToTheSameRow();
-    void aClosingSignalWithoutASetupOnlyRefreshes();
+    void aClosingSignalWithoutASetupOnlyRefreshesAndTakesTheFocus();
     void destroyingTheScreenTakesAnOpenSetupAndDetailAlong();
+    void destroyingTheScreenDeletesItsMeter();
     void eachFailingOperationShowsItsFallbackAlone_data() { addValueRows(); }
     void eachFailingOperationShowsItsFallbackAlone();
+    void eachOperationThatFailsAfterTheSetupShowsItsFallbackAlone_data() { addValueRows(); }
+    void eachOperationThatFailsAfterTheSetupShowsItsFallbackAlone();
+    void aUnitThatFailsAfterTheSetupIsGoneUntilItIsReadAgain_data();
+    void aUnitThatFailsAfterTheSetupIsGoneUntilItIsReadAgain();
     void everythingFailingLeavesFallbacksAndAWayOut();
     void textsComeFromTheCatalogueInTheirContexts();
+    void exactlyTheseTextsAreAskedFor();
+    void theUnitIsShownInTheLanguageOfTheCatalogue();
     void destroyingNothingDoesNothing();
 
 private:
@@ -223,13 +243,64 @@ void TestCallCosts::backAndClearEmitCloseWidgetOnceEach()
     QVERIFY(screen()->isVisible());
 }
 
+void TestCallCosts::theUnitFollowsABlankWhateverItIs_data()
+{
+    QTest::addColumn<quint8>("type");
+    QTest::addColumn<QString>("currency");
+    QTest::addColumn<QString>("unit");
+    QTest::newRow("units") << quint8(0) << "GBP"
+                           << "units";
+    QTest::newRow("a currency of the short table") << quint8(1) << "GBP"
+                                                   << "GBP";
+    QTest::newRow("Austria: offered, but only a code here") << quint8(1) << "ATS"
+                                                            << "ATS";
+    QTest::newRow("Brunei: likewise") << quint8(1) << "BND"
+                                      << "BND";
+    QTest::newRow("a code in lower case stays so") << quint8(1) << "gbp"
+                                                   << "gbp";
+}
+
+void TestCallCosts::theUnitFollowsABlankWhateverItIs()
+{
+    QFETCH(const quint8, type);
+    QFETCH(const QString, currency);
+    QFETCH(const QString, unit);
+    script().answer("AdviceOfCharge::chargeType", type);
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), currency);
+    open();
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit(unit));
+}
+
+void TestCallCosts::withoutAUnitTheValueEndsInTheBlank_data()
+{
+    QTest::addColumn<QByteArray>("failing");
+    QTest::newRow("the charge type cannot be read") << QByteArray("AdviceOfCharge::chargeType");
+    QTest::newRow("the currency cannot be read") << QByteArray("AdviceOfCharge::priceAndCurrency");
+    QTest::newRow("the charge type is none that is known") << QByteArray();
+}
+
 void TestCallCosts::withoutAUnitTheValueEndsInTheBlank()
 {
-    script().fail("AdviceOfCharge::chargeType", 2);
+    QFETCH(const QByteArray, failing);
+    if (failing.isEmpty())
+        script().answer("AdviceOfCharge::chargeType", quint8(2));
+    else
+        script().fail(failing.constData(), 2);
     open();
     QCOMPARE(PhoneScreen::rows(screen()), rowsWithUnit(""));
-    QVERIFY(PhoneScreen::value(screen(), 0).endsWith(QLatin1Char(' ')));
+    QCOMPARE(PhoneScreen::value(screen(), 0), QString("12.50 "));
     QCOMPARE(PhoneScreen::value(screen(), dateRow), QString("2006:3:9"));
+    PhoneScreen::chooseRow(screen(), 0);
+    QCOMPARE(detail()->message(), QString("Your current credit available is 12.50  units"));
+}
+
+void TestCallCosts::anEmptyAmountLeavesTheBlankAndTheUnit()
+{
+    script().answer("CallService::remainingCredit", QByteArray(""));
+    open();
+    QCOMPARE(PhoneScreen::value(screen(), 0), QString(" EUR"));
+    PhoneScreen::chooseRow(screen(), 0);
+    QCOMPARE(detail()->message(), QString("Your current credit available is  EUR units"));
 }
 
 void TestCallCosts::aRowOutsideTheTableHasNoTitleAndNoValue_data()
@@ -277,6 +348,35 @@ void TestCallCosts::theValueIsAskedBeforeTheDetailOpens()
     QVERIFY(detail());
 }
 
+void TestCallCosts::aDetailTellsTheFigureOfNowInTheUnitOfBefore()
+{
+    QFETCH(const int, row);
+    open();
+    for (const RowFacts &facts : rowFacts) {
+        if (facts.operation != QLatin1String("CallLog::depositExpirationDate"))
+            script().answer(facts.operation, QByteArray("77"));
+    }
+    script().answer("CallLog::depositExpirationDate", Date{2027, 10, 11});
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    PhoneScreen::chooseRow(screen(), row);
+    const QString now = row == dateRow ? QStringLiteral("2027:10:11") : QStringLiteral("77 EUR");
+    QCOMPARE(detail()->message(), QString(rowFacts[row].message).arg(now));
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit("EUR"));
+}
+
+void TestCallCosts::aFigureThatFailsNowIsToldAsItsFallback()
+{
+    QFETCH(const int, row);
+    open();
+    script().failAll(4);
+    PhoneScreen::chooseRow(screen(), row);
+    const QString fallback = row == dateRow ? QStringLiteral("2000/00/00") : QStringLiteral("0.00 EUR");
+    QCOMPARE(detail()->message(), QString(rowFacts[row].message).arg(fallback));
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit("EUR"));
+}
+
 void TestCallCosts::answeringADetailChangesNothing()
 {
     open();
@@ -294,16 +394,45 @@ void TestCallCosts::answeringADetailChangesNothing()
     QVERIFY(!detail());
 }
 
+void TestCallCosts::anItemThatIsNotInTheListOpensAnEmptyDialog_data()
+{
+    QTest::addColumn<bool>("isNull");
+    QTest::newRow("a row of no list") << false;
+    QTest::newRow("no row at all") << true;
+}
+
 void TestCallCosts::anItemThatIsNotInTheListOpensAnEmptyDialog()
 {
+    QFETCH(const bool, isNull);
     open();
     journal.clear();
     ZSettingItem stranger(nullptr, QString());
-    QMetaObject::invokeMethod(screen(), "slotSelectedItem", Q_ARG(ZSettingItem *, &stranger));
+    RecordingTranslator translator;
+    QMetaObject::invokeMethod(screen(), "slotSelectedItem", Q_ARG(ZSettingItem *, isNull ? nullptr : &stranger));
     QVERIFY(detail());
     QVERIFY(detail()->isVisible());
+    QCOMPARE(detail()->type(), ZMessageDlg::InformationDlg);
     QCOMPARE(detail()->header(), QString());
     QCOMPARE(detail()->message(), QString());
+    QCOMPARE(lines(translator.take()).filter("RecentCall"), QStringList());
+    QCOMPARE(journal.lines(), QStringList());
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QVERIFY(!detail());
+}
+
+void TestCallCosts::rowsBehindTheSetupDoNothing()
+{
+    open();
+    ZListBox *list = PhoneScreen::list(screen());
+    for (int row = setupRow + 1; row < setupRow + 4; ++row)
+        list->insertItem(new ZSettingItem(list, QString()), -1, true);
+    journal.clear();
+    for (int row = setupRow + 1; row < setupRow + 4; ++row) {
+        QMetaObject::invokeMethod(screen(), "slotSelectedItem",
+                                  Q_ARG(ZSettingItem *, static_cast<ZSettingItem *>(list->item(row))));
+        QVERIFY(!detail());
+        QVERIFY(!setup());
+    }
     QCOMPARE(journal.lines(), QStringList());
 }
 
@@ -328,6 +457,7 @@ void TestCallCosts::afterTheSetupTheUnitIsReadAgainAndSevenRowsAreRewritten()
     script().answer("CallLog::allCallsCost", QByteArray("0.00"));
     QSignalSpy rewritten(PhoneScreen::list(screen())->model(), &QAbstractItemModel::dataChanged);
     QSignalSpy closed(screen(), &View::closeWidget);
+    script().whenCalled("AdviceOfCharge::chargeType", [&] { QVERIFY(!opened && !setup()); });
     journal.clear();
     PhoneScreen::press(PhoneKey::RightSoftkey);
     QVERIFY(!opened);
@@ -353,12 +483,18 @@ void TestCallCosts::aClosedSetupGivesTheFocusBackToTheSameRow()
     QVERIFY(setup());
 }
 
-void TestCallCosts::aClosingSignalWithoutASetupOnlyRefreshes()
+void TestCallCosts::aClosingSignalWithoutASetupOnlyRefreshesAndTakesTheFocus()
 {
     open();
+    QWidget elsewhere(screen());
+    elsewhere.setFocusPolicy(Qt::StrongFocus);
+    elsewhere.show();
+    elsewhere.setFocus();
+    QCOMPARE(screen()->focusWidget(), &elsewhere);
     QSignalSpy rewritten(PhoneScreen::list(screen())->model(), &QAbstractItemModel::dataChanged);
     QMetaObject::invokeMethod(screen(), "slotCloseWgt");
     QCOMPARE(rewrittenRows(rewritten), QList<int>({0, 1, 2, 3, 4, 5, 6}));
+    QCOMPARE(screen()->focusWidget(), PhoneScreen::list(screen()));
 }
 
 void TestCallCosts::destroyingTheScreenTakesAnOpenSetupAndDetailAlong()
@@ -377,6 +513,16 @@ void TestCallCosts::destroyingTheScreenTakesAnOpenSetupAndDetailAlong()
     QVERIFY(!opened);
 }
 
+void TestCallCosts::destroyingTheScreenDeletesItsMeter()
+{
+    open();
+    const QPointer<PHONE_UI_RecentCallMeter> meter = screen()->*exposed(OwnMeter());
+    QVERIFY(meter);
+    QVERIFY(!meter->parent()); // nobody else deletes it
+    hosted->destroy();
+    QVERIFY(!meter);
+}
+
 void TestCallCosts::eachFailingOperationShowsItsFallbackAlone()
 {
     QFETCH(const int, row);
@@ -386,6 +532,43 @@ void TestCallCosts::eachFailingOperationShowsItsFallbackAlone()
     rows[row] = QLatin1String(rowFacts[row].title) +
                 (row == dateRow ? QStringLiteral("|2000/00/00") : QStringLiteral("|0.00 EUR"));
     QCOMPARE(PhoneScreen::rows(screen()), rows);
+}
+
+void TestCallCosts::eachOperationThatFailsAfterTheSetupShowsItsFallbackAlone()
+{
+    QFETCH(const int, row);
+    open();
+    PhoneScreen::chooseRow(screen(), setupRow);
+    script().fail(rowFacts[row].operation, -9);
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QVERIFY(!setup());
+    QStringList rows = rowsWithUnit("EUR");
+    rows[row] = QLatin1String(rowFacts[row].title) +
+                (row == dateRow ? QStringLiteral("|2000/00/00") : QStringLiteral("|0.00 EUR"));
+    QCOMPARE(PhoneScreen::shownRows(screen()), rows);
+}
+
+void TestCallCosts::aUnitThatFailsAfterTheSetupIsGoneUntilItIsReadAgain_data()
+{
+    QTest::addColumn<QByteArray>("operation");
+    QTest::newRow("charge type") << QByteArray("AdviceOfCharge::chargeType");
+    QTest::newRow("currency") << QByteArray("AdviceOfCharge::priceAndCurrency");
+}
+
+void TestCallCosts::aUnitThatFailsAfterTheSetupIsGoneUntilItIsReadAgain()
+{
+    QFETCH(const QByteArray, operation);
+    open();
+    PhoneScreen::chooseRow(screen(), setupRow);
+    script().fail(operation.constData(), 1);
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QVERIFY((screen()->*exposed(CurrencyUnit())).isNull());
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit(""));
+    script().succeed(operation.constData());
+    PhoneScreen::press(PhoneKey::Select); // the setup again
+    QVERIFY(setup());
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit("EUR"));
 }
 
 void TestCallCosts::everythingFailingLeavesFallbacksAndAWayOut()
@@ -430,6 +613,53 @@ void TestCallCosts::textsComeFromTheCatalogueInTheirContexts()
         QVERIFY(asked.contains(lines({{context, rowFacts[row].messageKey, rowFacts[row].message}}).first()));
         PhoneScreen::press(PhoneKey::LeftSoftkey);
     }
+}
+
+void TestCallCosts::exactlyTheseTextsAreAskedFor()
+{
+    const QString own = QStringLiteral("PHONE_UI_RecentCallCostsView");
+    const QString common = QStringLiteral("QObject");
+    QList<RecordingTranslator::Request> expected{
+        {own, "TXT_RID_HEADER_CALL_COSTS", "Call Costs"},
+        {own, "TXT_RID_SOFTKEY_BACK", "Back"},
+        {own, "", ""},
+        {common, "TXT_RID_SETTING_A_CALL_COST_SETUP", "Call Cost Setup"},
+    };
+    for (const RowFacts &row : rowFacts) {
+        expected.append({common, row.titleKey, row.title});
+        expected.append({own, row.headerKey, row.header});
+        expected.append({own, row.messageKey, row.message});
+    }
+    RecordingTranslator translator;
+    open();
+    for (int row = 0; row < valueRows; ++row) {
+        PhoneScreen::chooseRow(screen(), row);
+        PhoneScreen::press(PhoneKey::LeftSoftkey);
+    }
+    QStringList asked = lines(translator.take());
+    // The dialogs' own softkeys are the toolkit's.
+    asked.removeIf([](const QString &line) { return line.startsWith(QLatin1String("ZMessageDlg, ")); });
+    asked.sort();
+    QStringList sorted = lines(expected);
+    sorted.sort();
+    COMPARE_LINES(asked, sorted);
+}
+
+void TestCallCosts::theUnitIsShownInTheLanguageOfTheCatalogue()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(0));
+    RecordingTranslator translator;
+    translator.add(QStringLiteral("TXT_RID_LIST_A_UNITS"), QString::fromUtf8("unités"));
+    translator.add(QStringLiteral("TXT_RID_LIST_A_GBP"), QString::fromUtf8("£ \u20ac"));
+    open();
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit(QString::fromUtf8("unités")));
+    PhoneScreen::chooseRow(screen(), setupRow);
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QCOMPARE(PhoneScreen::shownRows(screen()), rowsWithUnit(QString::fromUtf8("£ \u20ac")));
+    PhoneScreen::chooseRow(screen(), 2);
+    QCOMPARE(detail()->message(), QString::fromUtf8("Your last deposit amount was 20 £ \u20ac"));
 }
 
 void TestCallCosts::destroyingNothingDoesNothing()
