@@ -3,8 +3,15 @@
 #include "ListedCurrencies.h"
 #include "PHONE_UI_RecentCallMeter.h"
 
+#include "PhoneScreen.h"
 #include "PhoneTest.h"
+#include "PluginLibrary.h"
 #include "RecordingTranslator.h"
+
+#include "ZKbMainWidget.h"
+#include "ZListBox.h"
+#include "ZListBoxItem.h"
+#include "ZPopup.h"
 
 #include <QtCore/QSet>
 
@@ -54,6 +61,38 @@ QString listedName(qsizetype index)
     return QString::fromUtf8(listedCurrencies[index].name);
 }
 
+// Asks the catalogue, and keeps what had been traced by then.
+class TracingTranslator : public RecordingTranslator
+{
+public:
+    explicit TracingTranslator(const TraceCapture &capture)
+        : traces(capture)
+    {}
+
+    QString translate(const char *of, const char *key, const char *comment, int n) const override
+    {
+        tracedBefore = withoutLineNumbers(traces.text());
+        return RecordingTranslator::translate(of, key, comment, n);
+    }
+
+    mutable QString tracedBefore;
+
+private:
+    const TraceCapture &traces;
+};
+
+// Presses keys until the setup's list of currencies is open, and answers the dialog that holds it.
+ZListBox *openCurrencyList(const ZKbMainWidget *costs)
+{
+    constexpr int setupRow = 7;
+    constexpr int currencyTypeRow = 7;
+    PhoneScreen::chooseRow(costs, setupRow);
+    const auto *setup = costs->findChild<ZKbMainWidget *>();
+    PhoneScreen::chooseRow(setup, currencyTypeRow);
+    const auto *dialog = setup->findChild<ZPopup *>();
+    return dialog ? dialog->findChild<ZListBox *>() : nullptr;
+}
+
 QString rowCode(qsizetype index)
 {
     return QString::fromLatin1(listedCurrencies[index].code);
@@ -71,11 +110,14 @@ private slots:
     void everyNameEndsInItsCodeInParenthesesAndTwoInABlankMore();
     void theOrderOfCodesBreaksAtTwoPlacesOnly();
     void theShortTableIsTheCatalogueWithoutTwoCodes();
+    void theSetupOffersEveryRowUnderItsKeyInOrder();
+    void anAccentedRowIsOfferedInTheLanguageOfTheCatalogue();
 
     void everyShortCodeIsTranslatedUnderItsKey();
     void withoutACatalogueEveryShortCodeIsItself();
     void anUnknownCodeComesBackAsItIs_data();
     void anUnknownCodeComesBackAsItIs();
+    void noOtherThreeCharactersAreInTheShortTable();
     void aTranslatedCodeIsTracedFirst();
 
     void unitsAreTheUnitOfChargeTypeZero();
@@ -84,6 +126,8 @@ private slots:
     void anyOtherChargeTypeHasNoUnit();
     void aFailedChargeTypeHasNoUnitAndAsksNoMore();
     void aFailedCurrencyHasNoUnit();
+    void theUnitTracesItsTranslationOnly_data();
+    void theUnitTracesItsTranslationOnly();
 
 private:
     Meter meter;
@@ -159,6 +203,49 @@ void TestCurrencies::theShortTableIsTheCatalogueWithoutTwoCodes()
     QCOMPARE(codes, listed);
 }
 
+void TestCurrencies::theSetupOffersEveryRowUnderItsKeyInOrder()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    const HostedScreen<ZKbMainWidget> costs("callCost");
+    costs->show();
+    RecordingTranslator translator;
+    const ZListBox *list = openCurrencyList(costs.get());
+    QVERIFY(list);
+    QStringList asked = lines(translator.take());
+    asked.removeIf([](const QString &line) { return !line.contains(QLatin1String(")")); }); // a name has its code
+    QStringList expected;
+    for (qsizetype i = 0; i < 193; ++i) {
+        const QString exceptional = exceptionalKey(i + 1);
+        expected.append(QStringLiteral("PHONE_UI_RecentCallCostSetupView, %1, %2")
+                            .arg(exceptional.isEmpty() ? keyByRule(listedName(i)) : exceptional, listedName(i)));
+        const auto *item = static_cast<const ZListBoxItem *>(list->item(int(i) + 1)); // behind the first choice
+        QCOMPARE(item->getSubItemText(0, 0, false), listedName(i));
+    }
+    COMPARE_LINES(asked, expected);
+}
+
+void TestCurrencies::anAccentedRowIsOfferedInTheLanguageOfTheCatalogue()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    RecordingTranslator translator;
+    const auto translation = [](qsizetype row) { return QString::fromUtf8("Čeština, ελληνικά %1").arg(row); };
+    const QList<qsizetype> accented{30, 32, 112, 145, 146};
+    for (const qsizetype row : accented)
+        translator.add(QString::fromLatin1(CurrencyCatalogue::rows()[std::size_t(row - 1)].key), translation(row));
+    const HostedScreen<ZKbMainWidget> costs("callCost");
+    costs->show();
+    const ZListBox *list = openCurrencyList(costs.get());
+    QVERIFY(list);
+    for (qsizetype row = 1; row <= 193; ++row) {
+        const auto *item = static_cast<const ZListBoxItem *>(list->item(int(row)));
+        const bool isAccented = accented.contains(row);
+        QCOMPARE(listedName(row - 1).toUtf8().size() > listedName(row - 1).size(), isAccented);
+        QCOMPARE(item->getSubItemText(0, 0, false), isAccented ? translation(row) : listedName(row - 1));
+    }
+}
+
 // --- the short table
 
 void TestCurrencies::everyShortCodeIsTranslatedUnderItsKey()
@@ -194,6 +281,8 @@ void TestCurrencies::anUnknownCodeComesBackAsItIs_data()
     QTest::newRow("mixed case") << "Usd";
     QTest::newRow("a leading blank") << " USD";
     QTest::newRow("a trailing blank") << "USD ";
+    QTest::newRow("a code and a NUL") << QString::fromLatin1("USD\0", 4);
+    QTest::newRow("a NUL in a code") << QString::fromLatin1("U\0D", 3);
     QTest::newRow("nothing") << "";
     QTest::newRow("no text at all") << QString();
     QTest::newRow("upper-case units") << "UNITS";
@@ -215,10 +304,31 @@ void TestCurrencies::anUnknownCodeComesBackAsItIs()
     QCOMPARE(translator.take().size(), 0);
 }
 
+void TestCurrencies::noOtherThreeCharactersAreInTheShortTable()
+{
+    constexpr int asciiCount = 128;
+    QSet<QString> found;
+    QString code(3, QLatin1Char(' '));
+    for (int i = 0; i < asciiCount * asciiCount * asciiCount; ++i) {
+        code[0] = QLatin1Char(char(i / asciiCount / asciiCount));
+        code[1] = QLatin1Char(char(i / asciiCount % asciiCount));
+        code[2] = QLatin1Char(char(i % asciiCount));
+        if (CurrencyCatalogue::shortText(code))
+            found.insert(code);
+    }
+    QSet<QString> listed;
+    for (const char *shortCode : listedShortCodes)
+        listed.insert(QString::fromLatin1(shortCode));
+    QCOMPARE(listed.size(), 171);
+    QCOMPARE(found, listed);
+}
+
 void TestCurrencies::aTranslatedCodeIsTracedFirst()
 {
+    const TracingTranslator translator(*traces);
     meter.TranslateCurrency(QStringLiteral("GBP"));
     const QString message = QStringLiteral("PHONE_UI_RecentCallMeter::TranslateCurrency string=%1.\\n");
+    QCOMPARE(translator.tracedBefore, longTrace(source, "TranslateCurrency", message.arg("GBP")));
     QCOMPARE(traces->take(), longTrace(source, "TranslateCurrency", message.arg("GBP")));
     meter.TranslateCurrency(QString::fromLatin1("\xA3x"));
     QCOMPARE(traces->take(), longTrace(source, "TranslateCurrency", message.arg(QString::fromLatin1("\xA3x"))));
@@ -281,6 +391,35 @@ void TestCurrencies::aFailedCurrencyHasNoUnit()
     script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
     script().fail("AdviceOfCharge::priceAndCurrency", 3);
     QVERIFY(meter.getCurrencyUnit().isNull());
+}
+
+void TestCurrencies::theUnitTracesItsTranslationOnly_data()
+{
+    QTest::addColumn<quint8>("type");
+    QTest::addColumn<int>("typeStatus");
+    QTest::addColumn<int>("currencyStatus");
+    QTest::addColumn<QString>("translated");
+    QTest::newRow("units") << quint8(0) << 0 << 0 << "units";
+    QTest::newRow("a currency") << quint8(1) << 0 << 0 << "GBP";
+    QTest::newRow("another charge type") << quint8(2) << 0 << 0 << QString();
+    QTest::newRow("no charge type") << quint8(1) << 5 << 0 << QString();
+    QTest::newRow("no currency") << quint8(1) << 0 << 5 << QString();
+}
+
+void TestCurrencies::theUnitTracesItsTranslationOnly()
+{
+    QFETCH(const quint8, type);
+    QFETCH(const int, typeStatus);
+    QFETCH(const int, currencyStatus);
+    QFETCH(const QString, translated);
+    script().answer("AdviceOfCharge::chargeType", type);
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    script().fail("AdviceOfCharge::chargeType", typeStatus);
+    script().fail("AdviceOfCharge::priceAndCurrency", currencyStatus);
+    meter.getCurrencyUnit();
+    const QString message = QStringLiteral("PHONE_UI_RecentCallMeter::TranslateCurrency string=%1.\\n");
+    QCOMPARE(traces->take(),
+             translated.isNull() ? QString() : longTrace(source, "TranslateCurrency", message.arg(translated)));
 }
 
 KAV_TEST_MAIN(TestCurrencies)
