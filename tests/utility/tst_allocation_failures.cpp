@@ -64,6 +64,10 @@ private slots:
     void aNoticeThatCannotBeMadeIsMadeTheNextTime();
     void noFailureAnywhereIsACrash();
     void aScreenWithoutItsMeterHasTitleAndBackAndNoRows();
+    void whatIsMissingOnCallCostsIsMissingAndTheRestWorks_data();
+    void whatIsMissingOnCallCostsIsMissingAndTheRestWorks();
+    void aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime_data();
+    void aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime();
     void noFailureOnAnyOtherScreenIsACrash_data();
     void noFailureOnAnyOtherScreenIsACrash();
 
@@ -228,6 +232,73 @@ void TestAllocationFailures::aScreenWithoutItsMeterHasTitleAndBackAndNoRows()
     PhoneScreen::press(PhoneKey::Clear);
     QCOMPARE(closed.count(), 2);
     QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestAllocationFailures::whatIsMissingOnCallCostsIsMissingAndTheRestWorks_data()
+{
+    constexpr int firstRow = Meter + 1; // there is no message client
+    QTest::addColumn<int>("nth");
+    QTest::addColumn<bool>("hasSoftkeys");
+    QTest::addColumn<bool>("hasList");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("figures");
+    QTest::newRow("no failure: all there is") << 0 << true << true << 8 << 7;
+    QTest::newRow("no softkey bar: the clear key leaves") << int(SoftkeyBar) << false << true << 8 << 7;
+    QTest::newRow("no list: title and Back") << int(List) << true << false << 0 << 0;
+    QTest::newRow("no meter: title, Back and an empty list") << int(Meter) << true << true << 0 << 0;
+    for (int row = 0; row < 8; ++row)
+        QTest::addRow("no row %d: the rows before it", row) << firstRow + row << true << true << row << row;
+}
+
+void TestAllocationFailures::whatIsMissingOnCallCostsIsMissingAndTheRestWorks()
+{
+    QFETCH(const int, nth);
+    QFETCH(const bool, hasSoftkeys);
+    QFETCH(const bool, hasList);
+    QFETCH(const int, rows);
+    QFETCH(const int, figures);
+    const AllocationFailure failure(nth);
+    const HostedScreen<ZKbMainWidget> screen("callCost");
+    QCOMPARE(AllocationFailure::happened(), nth > 0);
+    screen->show();
+    QCOMPARE(screen->mainWidgetTitle(), QString("Call Costs"));
+    QCOMPARE(PhoneScreen::softkey(screen.get(), ZSoftKey::RightKey), hasSoftkeys ? "Back" : QString());
+    const ZListBox *list = PhoneScreen::list(screen.get());
+    QCOMPARE(list != nullptr, hasList);
+    QCOMPARE(list ? list->count() : 0, rows);
+    QCOMPARE(journal.startingWith("Call").size(), figures);
+    const QSignalSpy closed(screen.get(), "2closeWidget()");
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QCOMPARE(closed.count(), hasSoftkeys ? 1 : 0);
+    PhoneScreen::press(PhoneKey::Clear);
+    QCOMPARE(closed.count(), hasSoftkeys ? 2 : 1);
+}
+
+void TestAllocationFailures::aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::newRow("a detail") << 0;
+    QTest::newRow("the setup") << 7;
+}
+
+void TestAllocationFailures::aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime()
+{
+    QFETCH(const int, row);
+    const HostedScreen<ZKbMainWidget> screen("callCost");
+    screen->show();
+    const QStringList rows = PhoneScreen::rows(screen.get());
+    {
+        const AllocationFailure failure(1);
+        PhoneScreen::chooseRow(screen.get(), row);
+        QVERIFY(AllocationFailure::happened());
+    }
+    const auto isOpen = [&] { return isAsking() || screen->findChild<ZKbMainWidget *>(); };
+    QVERIFY(!isOpen());
+    QCOMPARE(PhoneScreen::rows(screen.get()), rows);
+    PhoneScreen::press(PhoneKey::Select);
+    QVERIFY(isOpen());
+    PhoneScreen::press(row == 0 ? PhoneKey::LeftSoftkey : PhoneKey::RightSoftkey);
+    QVERIFY(!isOpen());
 }
 
 void TestAllocationFailures::noFailureOnAnyOtherScreenIsACrash_data()
