@@ -102,15 +102,20 @@ int TAPI_SECURITY_GetAnyPinStatus(uint8_t pin, uint32_t *status);
 }
 
 static_assert(sizeof(TAPI_CallTime) == 8, "hours, minutes, seconds and padding");
+static_assert(offsetof(TAPI_CallTime, hours) == 0, "");
+static_assert(offsetof(TAPI_CallTime, minutes) == 4, "");
+static_assert(offsetof(TAPI_CallTime, seconds) == 5, "");
 static_assert(sizeof(TAPI_Date) == 4, "no padding");
 static_assert(sizeof(TAPI_GPRS_SessionInfo) == 364, "the phone's block");
+static_assert(offsetof(TAPI_GPRS_SessionInfo, count) == 0, "");
 static_assert(offsetof(TAPI_GPRS_SessionInfo, records) == 4, "records follow the count");
 static_assert(sizeof(TAPI_GPRS_SessionRecord) == 120, "records at 4, 124 and 244");
 static_assert(offsetof(TAPI_GPRS_SessionRecord, sessionId) == 0, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, reserved) == 1, "");
 static_assert(offsetof(TAPI_GPRS_SessionRecord, bytesSent) == 4, "");
 static_assert(offsetof(TAPI_GPRS_SessionRecord, bytesReceived) == 8, "");
 static_assert(offsetof(TAPI_GPRS_SessionRecord, hours) == 12, "");
 static_assert(offsetof(TAPI_GPRS_SessionRecord, minutes) == 16, "");
 static_assert(offsetof(TAPI_GPRS_SessionRecord, seconds) == 17, "");
-static_assert(offsetof(TAPI_GPRS_SessionRecord, apn) == 18, "");
+static_assert(offsetof(TAPI_GPRS_SessionRecord, apn) == 18, "and to the record's end");
 #endif

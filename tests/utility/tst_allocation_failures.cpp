@@ -6,6 +6,7 @@
 #include "PhoneTest.h"
 #include "PluginLibrary.h"
 
+#include "QCString.h"
 #include "ZApplication.h"
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
@@ -34,6 +35,38 @@ enum Allocation {
     // and while the screen is used
     FirstDialog
 };
+
+// And for the screens of the data volumes.
+constexpr int VolumesMeter = 5; // after screen, softkey bar, list and channel
+constexpr int DetailMeter = 6;  // after screen, softkey bar, two labels and list
+
+handset::DataSessions namedSessions()
+{
+    handset::DataSessions sessions;
+    sessions.count = 3;
+    sessions.records[0] = {1, 10, 20, {}, "internet"};
+    sessions.records[1] = {2, 30, 40, {}, "mms"};
+    sessions.records[2] = {3, 50, 60, {}, "wap"};
+    return sessions;
+}
+
+QStringList volumeRows(const QString &first, const QString &second, const QString &third)
+{
+    return {"Current Data Session|",
+            first + "|",
+            second + "|",
+            third + "|",
+            "All Data Sessions|",
+            "Total Data Transferred|",
+            "Reset All Data Sessions|"};
+}
+
+void tellUpdate(ZKbMainWidget *screen)
+{
+    QMetaObject::invokeMethod(screen, "slotUpdateChildWidgets",
+                              Q_ARG(QCString, QCString("/KAV/phone/RecentCall/Update")),
+                              Q_ARG(QByteArray, QByteArray()));
+}
 
 bool isAsking()
 {
@@ -68,6 +101,11 @@ private slots:
     void whatIsMissingOnCallCostsIsMissingAndTheRestWorks();
     void aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime_data();
     void aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime();
+    void aDataTimesScreenWithoutItsMeterHasNothingAtAll();
+    void aDataVolumesScreenWithoutItsMeterShowsFallbackNames();
+    void anUpdateMakesTheMeterThatWasMissing();
+    void anUpdateWithoutMemoryForAMeterShowsFallbackNames();
+    void aDetailWithoutItsMeterHasBlankFigures();
     void noFailureOnAnyOtherScreenIsACrash_data();
     void noFailureOnAnyOtherScreenIsACrash();
 
@@ -299,6 +337,83 @@ void TestAllocationFailures::aDetailOrSetupThatCannotBeMadeIsMadeTheNextTime()
     QVERIFY(isOpen());
     PhoneScreen::press(row == 0 ? PhoneKey::LeftSoftkey : PhoneKey::RightSoftkey);
     QVERIFY(!isOpen());
+}
+
+void TestAllocationFailures::aDataTimesScreenWithoutItsMeterHasNothingAtAll()
+{
+    const AllocationFailure failure(ScreenItself + 1); // the meter comes before the frame
+    const HostedScreen<ZKbMainWidget> screen("dataTime");
+    QVERIFY(AllocationFailure::happened());
+    QCOMPARE(AllocationFailure::count(), ScreenItself + 1);
+    screen->show();
+    QCOMPARE(screen->mainWidgetTitle(), QString());
+    QVERIFY(!screen->cstWidget());
+    QVERIFY(!screen->getContentWidget(false));
+    QVERIFY(!PhoneScreen::list(screen.get()));
+    const QSignalSpy closed(screen.get(), "2closeWidget()");
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    PhoneScreen::press(PhoneKey::Clear);
+    QCOMPARE(closed.count(), 0);
+    QCOMPARE(journal.lines(), QStringList());
+    QCOMPARE(traces->text(), QString());
+}
+
+void TestAllocationFailures::aDataVolumesScreenWithoutItsMeterShowsFallbackNames()
+{
+    script().answer("PacketData::sessions", namedSessions());
+    const AllocationFailure failure(VolumesMeter);
+    const HostedScreen<ZKbMainWidget> screen("dataVolume");
+    QVERIFY(AllocationFailure::happened());
+    COMPARE_LINES(PhoneScreen::rows(screen.get()),
+                  volumeRows("GPRS Data Session 1", "GPRS Data Session 2", "GPRS Data Session 3"));
+    screen->show();
+    PhoneScreen::chooseRow(screen.get(), 6);
+    PhoneScreen::press(PhoneKey::LeftSoftkey); // nobody to tell the reset
+    QVERIFY(!isAsking());
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+void TestAllocationFailures::anUpdateMakesTheMeterThatWasMissing()
+{
+    script().answer("PacketData::sessions", namedSessions());
+    const AllocationFailure failure(VolumesMeter);
+    const HostedScreen<ZKbMainWidget> screen("dataVolume");
+    QVERIFY(AllocationFailure::happened());
+    tellUpdate(screen.get());
+    COMPARE_LINES(PhoneScreen::rows(screen.get()), volumeRows("internet", "mms", "wap"));
+}
+
+void TestAllocationFailures::anUpdateWithoutMemoryForAMeterShowsFallbackNames()
+{
+    script().answer("PacketData::sessions", namedSessions());
+    const HostedScreen<ZKbMainWidget> screen("dataVolume");
+    journal.clear();
+    const AllocationFailure failure(1);
+    tellUpdate(screen.get());
+    QVERIFY(AllocationFailure::happened());
+    QCOMPARE(journal.lines(), QStringList());
+    COMPARE_LINES(PhoneScreen::rows(screen.get()),
+                  volumeRows("GPRS Data Session 1", "GPRS Data Session 2", "GPRS Data Session 3"));
+}
+
+void TestAllocationFailures::aDetailWithoutItsMeterHasBlankFigures()
+{
+    script().answer("PacketData::sessions", namedSessions());
+    const HostedScreen<ZKbMainWidget> screen("dataVolume");
+    screen->show();
+    journal.clear();
+    {
+        const AllocationFailure failure(DetailMeter);
+        PhoneScreen::chooseRow(screen.get(), 1);
+        QVERIFY(AllocationFailure::happened());
+    }
+    const auto *detail = screen->findChild<ZKbMainWidget *>();
+    QVERIFY(detail && detail->isVisible());
+    COMPARE_LINES(PhoneScreen::rows(detail),
+                  QStringList({"Current Data Session|", "internet|", "Sent|", "Received|", "Sum|"}));
+    PhoneScreen::press(PhoneKey::Select);
+    QVERIFY(isAsking());
+    QCOMPARE(journal.lines(), QStringList());
 }
 
 void TestAllocationFailures::noFailureOnAnyOtherScreenIsACrash_data()

@@ -7,6 +7,8 @@
 #include "PrivateAccess.h"
 #include "RecordingTranslator.h"
 
+#include "PHONE_UI_RecentCallMeter.h"
+#include "QCopChannel.h"
 #include "ZListBox.h"
 #include "ZMessageDlg.h"
 #include "ZSettingItem.h"
@@ -21,6 +23,7 @@ using View = PHONE_UI_RecentCallDataTimesView;
 using DataTimes = HostedScreen<View>;
 
 KAV_EXPOSE(OpenDlg, &View::openDlg);
+KAV_EXPOSE(TimesMeter, &View::meter);
 
 namespace {
 
@@ -65,6 +68,7 @@ private slots:
     void aSessionWithoutAnAccessPointHasItsFallbackName();
     void sessionsAreAskedBeforeTheTotalAndOnceOnly();
     void theFrameIsTheCommonOne();
+    void theScreenIsAFrameOfItsOwnClass();
     void slotsAndSignalsHaveTheirOrder();
     void backAndClearEmitCloseWidgetOnceEach();
     void separatorsHaveNoValueAndCannotBeReached();
@@ -82,8 +86,14 @@ private slots:
     void aFailedResetShowsWhatTheTelephoneStillHas();
     void aSecondDialogReplacesTheFirstWithoutDeletingIt();
     void failedQueriesShowDefaults();
+    void aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway_data();
+    void aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway();
+    void aQueryThatFailsAfterTheResetShowsDefaultsNotOldFigures_data();
+    void aQueryThatFailsAfterTheResetShowsDefaultsNotOldFigures();
+    void anUpdateMessageIsNoneOfItsBusiness();
     void textsComeFromTheCatalogueInTheirContexts();
     void destroyingTheScreenTakesAnOpenDialogAlong();
+    void destroyingTheScreenTakesItsMeterAlong();
     void destroyingNothingDoesNothing();
 
 private:
@@ -144,6 +154,18 @@ void TestDataTimes::theFrameIsTheCommonOne()
     QCOMPARE(PhoneScreen::list(screen())->geometry(), QRect(0, 0, content->width(), content->height()));
     QCOMPARE(screen()->className(), "PHONE_UI_RecentCallDataTimesView");
     QCOMPARE(screen()->objectName(), QString("dataTime"));
+}
+
+void TestDataTimes::theScreenIsAFrameOfItsOwnClass()
+{
+    QCOMPARE(View::staticMetaObject.superClass()->className(), "ZKbMainWidget");
+    const DataTimes nameless("dataTime", nullptr, nullptr);
+    QCOMPARE(nameless->objectName(), QString());
+    QVERIFY(!nameless->parentWidget());
+    QWidget host;
+    const DataTimes inside("dataTime", &host, nullptr);
+    QCOMPARE(inside->parentWidget(), &host);
+    QVERIFY(inside->isHidden());
 }
 
 void TestDataTimes::slotsAndSignalsHaveTheirOrder()
@@ -354,6 +376,65 @@ void TestDataTimes::failedQueriesShowDefaults()
                           "Reset All Data Sessions|"}));
 }
 
+void TestDataTimes::aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway_data()
+{
+    QTest::addColumn<QByteArray>("operation");
+    QTest::newRow("the sessions") << QByteArray("PacketData::sessions");
+    QTest::newRow("the total") << QByteArray("PacketData::totalDuration");
+}
+
+void TestDataTimes::aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway()
+{
+    QFETCH(const QByteArray, operation);
+    script().fail(operation.constData(), -1);
+    open();
+    const bool hasSessions = operation != "PacketData::sessions";
+    const QStringList shown = PhoneScreen::shownRows(screen());
+    QCOMPARE(shown.at(2), hasSessions ? QString("mms|00:10:00") : QString("GPRS Data Session 2|00:00:00"));
+    QCOMPARE(shown.at(totalRow), hasSessions ? QString("Total Time|00:00:00") : QString("Total Time|100:0:0"));
+}
+
+void TestDataTimes::aQueryThatFailsAfterTheResetShowsDefaultsNotOldFigures_data()
+{
+    aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway_data();
+}
+
+void TestDataTimes::aQueryThatFailsAfterTheResetShowsDefaultsNotOldFigures()
+{
+    QFETCH(const QByteArray, operation);
+    open();
+    script().fail(operation.constData(), 3);
+    PhoneScreen::chooseRow(screen(), resetRow);
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QStringList expected =
+        rows("internet", "mms", "wap"); // labels stay, even those of sessions that are not known
+    if (operation == "PacketData::sessions") {
+        for (const int row : {1, 2, 3})
+            expected[row] = expected.at(row).section(QLatin1Char('|'), 0, 0) + QLatin1String("|00:00:00");
+    } else {
+        expected[totalRow] = QStringLiteral("Total Time|00:00:00");
+    }
+    QCOMPARE(PhoneScreen::shownRows(screen()), expected);
+    // The notice names the session anew, by what the meter has now.
+    PhoneScreen::chooseRow(screen(), 1);
+    QCOMPARE(dialog()->message(),
+             operation == "PacketData::sessions"
+                 ? QString("The current Data Session time for GPRS Data Session 1 is 00:00:00.")
+                 : QString("The current Data Session time for internet is 01:02:03."));
+}
+
+void TestDataTimes::anUpdateMessageIsNoneOfItsBusiness()
+{
+    open();
+    journal.clear();
+    const QByteArray channel("/KAV/phone");
+    QCopChannel witness(channel);
+    QSignalSpy received(&witness, &QCopChannel::received);
+    QCopChannel::send(channel, "/KAV/phone/RecentCall/Update");
+    QTRY_COMPARE(received.size(), 1);
+    QCOMPARE(journal.lines(), QStringList());
+}
+
 void TestDataTimes::textsComeFromTheCatalogueInTheirContexts()
 {
     script().answer("PacketData::sessions", sessions("", "", "wap"));
@@ -383,6 +464,19 @@ void TestDataTimes::destroyingTheScreenTakesAnOpenDialogAlong()
     const QPointer<ZMessageDlg> question = dialog();
     hosted->destroy();
     QVERIFY(!question);
+}
+
+void TestDataTimes::destroyingTheScreenTakesItsMeterAlong()
+{
+    open();
+    const QPointer<PHONE_UI_RecentCallMeter> meter(screen()->*exposed(TimesMeter()));
+    QVERIFY(meter);
+    journal.clear();
+    traces->take();
+    hosted->destroy();
+    QVERIFY(!meter);
+    QCOMPARE(journal.lines(), QStringList());
+    QCOMPARE(traces->text(), QString());
 }
 
 void TestDataTimes::destroyingNothingDoesNothing()

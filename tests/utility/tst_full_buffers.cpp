@@ -6,6 +6,7 @@
 
 #include "tapi.h"
 
+#include <array>
 #include <cstring>
 
 using Meter = PHONE_UI_RecentCallMeter;
@@ -13,6 +14,29 @@ using Meter = PHONE_UI_RecentCallMeter;
 namespace {
 
 int status = 0;
+
+// The block of the sessions as it lies in the phone's memory.
+using Block = std::array<unsigned char, 364>;
+Block block;
+
+// Every record full to its last byte, and a count that is beyond all records.
+Block fullBlock()
+{
+    Block full;
+    full.fill(0xFF);
+    // The record's fields as the phone's memory has them, whatever this machine's byte order.
+    constexpr quint8 fields[] = {1, 0, 0, 0, 0x04, 0x03, 0x02, 0x01, 0x40, 0x30, 0x20, 0x10, 0x7B, 0, 0, 0, 4, 5};
+    for (const std::size_t record : {4, 124, 244}) {
+        std::memcpy(&full[record], fields, sizeof fields);
+        std::memset(&full[record + 18], 'a', 102);
+    }
+    return full;
+}
+
+void put(std::size_t offset, const QByteArray &bytes)
+{
+    std::memcpy(&block[offset], bytes.constData(), std::size_t(bytes.size()));
+}
 
 int fillText(char *text, std::size_t size)
 {
@@ -56,13 +80,24 @@ int TAPI_GPRS_GetAllSessionInfo(TAPI_GPRS_SessionInfo *info)
     const TAPI_GPRS_SessionInfo zeroes = {};
     const bool zeroed = std::memcmp(info, &zeroes, sizeof zeroes) == 0;
     Journal::shared().record(zeroed ? QStringLiteral("zeroed") : QStringLiteral("not zeroed"));
-    std::memset(info, 0xFF, sizeof *info);
-    // The record's fields as the phone's memory has them, whatever this machine's byte order.
-    constexpr quint8 bytes[] = {1, 0, 0, 0, 0x04, 0x03, 0x02, 0x01, 0x40, 0x30, 0x20, 0x10, 0x7B, 0, 0, 0, 4, 5};
-    for (TAPI_GPRS_SessionRecord &record : info->records) {
-        std::memcpy(&record, bytes, sizeof bytes);
-        std::memset(record.apn, 'a', sizeof record.apn);
-    }
+    static_assert(sizeof *info == sizeof(Block));
+    std::memcpy(info, block.data(), sizeof *info);
+    return status;
+}
+
+int TAPI_GPRS_GetTotalDuration(TAPI_CallTime *duration)
+{
+    const bool zeroed = duration->hours == 0 && duration->minutes == 0 && duration->seconds == 0;
+    Journal::shared().record(zeroed ? QStringLiteral("zeroed") : QStringLiteral("not zeroed"));
+    *duration = {1, 2, 3};
+    return status;
+}
+
+int TAPI_GPRS_GetTotalDataBytes(uint32_t *total, uint32_t *received, uint32_t *sent)
+{
+    *total = 4294967295u;
+    *received = 222;
+    *sent = 111;
     return status;
 }
 
@@ -76,6 +111,9 @@ private slots:
     void anAmountEndsWithItsBuffer();
     void anAccessPointNameEndsWithItsRecord();
     void sessionFieldsAreLittleEndian();
+    void theCountIsLittleEndian();
+    void everyFieldIsReadAtItsPlaceInTheBlock();
+    void theTotalsComeInTheOrderTotalReceivedSent();
     void whatAFailedQueryWroteIsNotShown();
 
 private:
@@ -86,6 +124,7 @@ void TestFullBuffers::init()
 {
     PhoneTest::init();
     status = 0;
+    block = fullBlock();
 }
 
 void TestFullBuffers::anAmountEndsWithItsBuffer_data()
@@ -130,6 +169,50 @@ void TestFullBuffers::sessionFieldsAreLittleEndian()
     QCOMPARE(meter.getRDT_Session2(), QString("123:4:5"));
 }
 
+void TestFullBuffers::theCountIsLittleEndian()
+{
+    put(0, QByteArray("\1\0\0\0", 4));
+    meter.getRDV();
+    QCOMPARE(meter.getRDV_Session1_Total(), QString("287454020 B"));
+    QCOMPARE(meter.getRDV_Session2_Total(), QString("0 B"));
+    put(0, QByteArray("\0\0\0\1", 4)); // 16777216
+    meter.getRDV();
+    QCOMPARE(meter.getRDV_Session3_Total(), QString("287454020 B"));
+}
+
+void TestFullBuffers::everyFieldIsReadAtItsPlaceInTheBlock()
+{
+    block.fill(0xEE); // what no field covers is not looked at
+    put(0, QByteArray("\3\0\0\0", 4));
+    put(4, QByteArray("\xFF", 1));
+    put(8, QByteArray("\0\0\0\x80\1\0\0\0\0\1\0\0\x3B\x3A", 14) + QByteArray("first\0", 6));
+    put(124, QByteArray("\0", 1));
+    put(244, QByteArray("\1", 1));
+    put(248, QByteArray("\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF\x09\0\0\0\0\1", 14) + QByteArray("third\0", 6));
+    meter.getRDT();
+    meter.getRDV();
+    QCOMPARE(meter.getRDT_Session1() + meter.getRDT_Session1_Apn(), QString("256:59:58first"));
+    QCOMPARE(meter.getRDT_Session2() + meter.getRDT_Session2_Apn(), QString("00:00:00"));
+    QCOMPARE(meter.getRDT_Session3() + meter.getRDT_Session3_Apn(), QString("09:00:01third"));
+    QCOMPARE(meter.getRDV_Session1_Sent(), QString("2147483648 B"));
+    QCOMPARE(meter.getRDV_Session1_Received(), QString("1 B"));
+    QCOMPARE(meter.getRDV_Session1_Apn(), QString("first"));
+    QCOMPARE(meter.getRDV_Session2_Sent(), QString("0 B"));
+    QCOMPARE(meter.getRDV_Session3_Sent(), QString("4294967295 B"));
+    QCOMPARE(meter.getRDV_Session3_Total(), QString("4294967294 B"));
+}
+
+void TestFullBuffers::theTotalsComeInTheOrderTotalReceivedSent()
+{
+    meter.getADV();
+    QCOMPARE(meter.getADV_Sessions_Sent(), QString("111 B"));
+    QCOMPARE(meter.getADV_Sessions_Received(), QString("222 B"));
+    QCOMPARE(meter.getADV_Sessions_Total(), QString("4294967295 B"));
+    meter.getADT();
+    QCOMPARE(meter.getADT_Sessions(), QString("01:02:03"));
+    QCOMPARE(journal.lines(), QStringList("zeroed"));
+}
+
 void TestFullBuffers::whatAFailedQueryWroteIsNotShown()
 {
     status = 1;
@@ -140,6 +223,11 @@ void TestFullBuffers::whatAFailedQueryWroteIsNotShown()
     QCOMPARE(meter.getRDT_Session1(), QString("00:00:00"));
     QCOMPARE(meter.getRDV_Session1_Total(), QString("0 B"));
     QVERIFY(meter.getRDT_Session1_Apn().isNull());
+    meter.getADT();
+    meter.getADV();
+    QCOMPARE(meter.getADT_Sessions(), QString("00:00:00"));
+    QCOMPARE(meter.getADV_Sessions_Sent(), QString("0 B"));
+    QCOMPARE(meter.getADV_Sessions_Total(), QString("0 B"));
 }
 
 KAV_TEST_MAIN(TestFullBuffers)

@@ -97,14 +97,21 @@ private slots:
     void anEmptySlotLeavesAGapInVolumes();
     void aRefreshOfTimesIsTraced();
     void aRefreshOfVolumesIsTraced();
+    void aTraceOfVolumesTellsThePlaceInTheBlock();
     void hoursOfThreeDigitsStayUnpadded();
     void theLongestApnIsReadWhole();
     void anApnIsLatin1();
+    void anApnEndsAtItsNul();
     void aFailedRefreshLeavesDefaultsNotOldFigures_data();
     void aFailedRefreshLeavesDefaultsNotOldFigures();
     void aRefreshOfVolumesClearsTheIdsOfTimesAndKeepsItsOwn();
+    void aFailedRefreshOfVolumesClearsTheIdsOfTimesAllTheSame();
+    void aRefreshLeavesTheTextsOfTheOthersAlone();
+    void anOperationThatFailsAloneTakesOnlyItsOwnTextsAway_data();
+    void anOperationThatFailsAloneTakesOnlyItsOwnTextsAway();
     void aSessionsTotalWrapsAt32Bits();
     void aSessionsTotalFollowsTheWrapRuleEverywhere();
+    void aSessionsTotalWrapsRightAboveTheGreatestNumber();
     void bytesAreNeverScaled();
 
     void theTotalTimeIsKeptUnpaddedAndPaddedWhenRead();
@@ -213,6 +220,22 @@ void TestMeterData::aRefreshOfVolumesIsTraced()
                            "totalBytes=30 B."));
 }
 
+void TestMeterData::aTraceOfVolumesTellsThePlaceInTheBlock()
+{
+    DataSessions sessions = threeSessions(3);
+    sessions.records[1].id = 0;
+    script().answer("PacketData::sessions", sessions);
+    meter.getRDV();
+    QCOMPARE(traces->take(),
+             callTrace("getRDV") +
+                 longTrace(source, "getRDV",
+                           "The 0 session data== sessionId=7,Apn=internet,sentBytes=10 B,recvByte=20 B,"
+                           "totalBytes=30 B.") +
+                 longTrace(source, "getRDV",
+                           "The 2 session data== sessionId=9,Apn=wap,sentBytes=50 B,recvByte=60 B,"
+                           "totalBytes=110 B."));
+}
+
 void TestMeterData::hoursOfThreeDigitsStayUnpadded()
 {
     DataSessions sessions = threeSessions(2);
@@ -241,6 +264,18 @@ void TestMeterData::anApnIsLatin1()
     script().answer("PacketData::sessions", sessions);
     meter.getRDT();
     QCOMPARE(meter.getRDT_Session1_Apn(), QString::fromLatin1("caf\xE9.fr"));
+}
+
+void TestMeterData::anApnEndsAtItsNul()
+{
+    DataSessions sessions = threeSessions(2);
+    sessions.records[0].apn = QByteArray("net\0hidden", 10);
+    sessions.records[1].apn = QByteArray("\0hidden", 7);
+    script().answer("PacketData::sessions", sessions);
+    meter.getRDT();
+    meter.getRDV();
+    QCOMPARE(timeApns(meter), QStringList({"net", "", ""}));
+    QCOMPARE(volumeApns(meter), QStringList({"net", "", ""}));
 }
 
 void TestMeterData::aFailedRefreshLeavesDefaultsNotOldFigures_data()
@@ -292,6 +327,81 @@ void TestMeterData::aRefreshOfVolumesClearsTheIdsOfTimesAndKeepsItsOwn()
         QCOMPARE(volumeRecords[i].sessionId, quint8(7 + i));
 }
 
+void TestMeterData::aFailedRefreshOfVolumesClearsTheIdsOfTimesAllTheSame()
+{
+    script().answer("PacketData::sessions", threeSessions(3));
+    meter.getRDV();
+    meter.getRDT();
+    script().fail("PacketData::sessions", 1);
+    meter.getRDV();
+    for (int i = 0; i < 3; ++i) {
+        QCOMPARE((meter.*exposed(TimeRecords()))[i].sessionId, quint8(0));
+        QCOMPARE((meter.*exposed(VolumeRecords()))[i].sessionId, quint8(7 + i));
+    }
+}
+
+void TestMeterData::aRefreshLeavesTheTextsOfTheOthersAlone()
+{
+    using Refresh = void (Meter::*)();
+    using Texts = QStringList (*)(Meter &);
+    constexpr Refresh refreshes[] = {&Meter::getRDT, &Meter::getADT, &Meter::getRDV, &Meter::getADV};
+    constexpr Texts texts[] = {[](Meter &m) { return times(m) + timeApns(m); },
+                               [](Meter &m) { return QStringList(m.getADT_Sessions()); },
+                               [](Meter &m) { return volumes(m) + volumeApns(m); }, totals};
+    for (size_t changed = 0; changed < 4; ++changed) {
+        script().answer("PacketData::sessions", threeSessions(3));
+        script().answer("PacketData::totalDuration", CallTime{5, 3, 7});
+        script().answer("PacketData::totalBytes", quint32(33), quint32(20), quint32(10));
+        for (const Refresh refresh : refreshes)
+            (meter.*refresh)();
+        QList<QStringList> before;
+        for (const Texts text : texts)
+            before.append(text(meter));
+        script().failAll(1);
+        (meter.*refreshes[changed])();
+        for (size_t kind = 0; kind < 4; ++kind)
+            QCOMPARE(texts[kind](meter) == before.at(int(kind)), kind != changed);
+    }
+}
+
+void TestMeterData::anOperationThatFailsAloneTakesOnlyItsOwnTextsAway_data()
+{
+    QTest::addColumn<QByteArray>("operation");
+    for (const char *operation : {"PacketData::sessions", "PacketData::totalDuration", "PacketData::totalBytes",
+                                  "PacketData::resetTotalDuration", "PacketData::resetTotalBytes"})
+        QTest::newRow(operation) << QByteArray(operation);
+}
+
+void TestMeterData::anOperationThatFailsAloneTakesOnlyItsOwnTextsAway()
+{
+    QFETCH(const QByteArray, operation);
+    script().answer("PacketData::sessions", threeSessions(3));
+    script().answer("PacketData::totalDuration", CallTime{5, 3, 7});
+    script().answer("PacketData::totalBytes", quint32(33), quint32(20), quint32(10));
+    script().fail(operation.constData(), 4);
+    meter.resetAllDataSessionsTimer();
+    meter.resetAllDataSessionsVolume();
+    meter.getRDT();
+    meter.getADT();
+    meter.getRDV();
+    meter.getADV();
+    const bool hasSessions = operation != "PacketData::sessions";
+    const bool hasTime = operation != "PacketData::totalDuration";
+    const bool hasBytes = operation != "PacketData::totalBytes";
+    QCOMPARE(times(meter),
+             hasSessions ? QStringList({"01:02:03", "00:10:59", "99:59:09"}) : QStringList({zero, zero, zero}));
+    QCOMPARE(volumes(meter).at(8), hasSessions ? QString("110 B") : none);
+    QCOMPARE(volumeApns(meter).at(2), hasSessions ? QString("wap") : QString());
+    QCOMPARE(meter.getADT_Sessions(), hasTime ? QString("05:03:07") : zero);
+    QCOMPARE(totals(meter), hasBytes ? QStringList({"10 B", "20 B", "33 B"}) : QStringList({none, none, none}));
+    QCOMPARE(traces->text().count(" failed.4\""), operation == "PacketData::sessions"             ? 2
+                                                  : operation == "PacketData::resetTotalDuration" ? 0
+                                                                                                  : 1);
+    QCOMPARE(journal.lines(),
+             QStringList({"PacketData::resetTotalDuration", "PacketData::resetTotalBytes", "PacketData::sessions",
+                          "PacketData::totalDuration", "PacketData::sessions", "PacketData::totalBytes"}));
+}
+
 void TestMeterData::aSessionsTotalWrapsAt32Bits()
 {
     DataSessions sessions = threeSessions(1);
@@ -317,6 +427,25 @@ void TestMeterData::aSessionsTotalFollowsTheWrapRuleEverywhere()
             if (meter.getRDV_Session1_Total() != QString::number(sum) + QStringLiteral(" B"))
                 QFAIL(qPrintable(QStringLiteral("%1 + %2").arg(i * spacing).arg(j * spacing)));
         }
+    }
+    journal.setMuted(false);
+}
+
+// For every number of sent bytes that is a multiple of 65536: what reaches the greatest number, and one byte more.
+void TestMeterData::aSessionsTotalWrapsRightAboveTheGreatestNumber()
+{
+    const TraceSink quiet;
+    journal.setMuted(true);
+    DataSessions sessions = threeSessions(2);
+    for (quint32 i = 1; i < 65536; ++i) {
+        const quint32 sent = i << 16;
+        sessions.records[0] = session(1, "x", {}, sent, ~sent);
+        sessions.records[1] = session(2, "y", {}, sent, ~sent + 1);
+        script().answer("PacketData::sessions", sessions);
+        meter.getRDV();
+        if (meter.getRDV_Session1_Total() != QLatin1String("4294967295 B") ||
+            meter.getRDV_Session2_Total() != none)
+            QFAIL(qPrintable(QString::number(sent)));
     }
     journal.setMuted(false);
 }
