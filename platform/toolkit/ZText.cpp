@@ -51,7 +51,8 @@ QString ZText::elided(const QString &text, const QFontMetrics &metrics, int widt
     if (metrics.horizontalAdvance(line) <= width)
         return line; // as nearly always; eliding would measure it once more
     const QString cut = metrics.elidedText(line, where, width);
-    return metrics.horizontalAdvance(cut) > width ? QString() : cut;
+    // Where nothing fits, the ellipsis comes alone, and too wide.
+    return cut.size() <= 1 && metrics.horizontalAdvance(cut) > width ? QString() : cut;
 }
 
 void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text,
