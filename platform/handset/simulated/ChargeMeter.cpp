@@ -35,15 +35,16 @@ constexpr std::array keptParts{
 
 } // namespace
 
-QStringList ChargeMeter::load(calllog::CallRecorder &recorder)
+int ChargeMeter::load(calllog::CallRecorder &recorder, QStringList &notices)
 {
     keeper = &recorder;
-    QStringList notices;
     calllog::KeptValues aside;
     for (const KeptPart &part : keptParts) {
         const QString name = QString::fromLatin1(part.name);
         QByteArray content;
-        if (recorder.kept(name, content) == Success && part.read(content, kept))
+        if (const int status = recorder.kept(name, content))
+            return status;
+        if (part.read(content, kept))
             continue;
         aside << calllog::KeptValue{unusedName(recorder, name), content};
         notices << QStringLiteral("%1 could not be read; a new one was begun and the old one kept as \"%2\".")
@@ -52,7 +53,7 @@ QStringList ChargeMeter::load(calllog::CallRecorder &recorder)
     // With the new ones in their places, so that this is told once.
     if (!aside.isEmpty() && recorder.keep(keptValues(kept) + aside) != Success)
         notices << QStringLiteral("That could not be written.");
-    return notices;
+    return Success;
 }
 
 int ChargeMeter::change(const ChargingState &next)

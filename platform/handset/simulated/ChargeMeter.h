@@ -17,8 +17,9 @@ class ChargeMeter final : public calllog::CallCharges
 {
 public:
     /// Reads what `recorder` keeps and keeps everything that changes there; it outlives this. What cannot be used is
-    /// kept under another name, and is new; the answer says so, a sentence each.
-    QStringList load(calllog::CallRecorder &recorder);
+    /// kept under another name, and is new; `notices` gets a sentence about each. StorageFailed when the call log cannot
+    /// be read: nothing is known then, and nothing may be written.
+    int load(calllog::CallRecorder &recorder, QStringList &notices);
 
     const ChargingState &state() const { return kept; }
     /// Keeps `next` in place of state(), which is as it was when that fails.

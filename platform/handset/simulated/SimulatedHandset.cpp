@@ -48,16 +48,15 @@ Opened open(const Settings &settings)
     if (!opened.store)
         return {nullptr, opened.error, {}};
     auto telephone = std::make_shared<SimulatedHandset>(std::move(opened.store), settings.clock);
-    QStringList notices = telephone->notices();
-    if (!opened.notice.isEmpty())
-        notices.prepend(opened.notice);
+    QStringList notices(opened.notice.isEmpty() ? QStringList() : QStringList(opened.notice));
+    if (telephone->load(notices) != Success)
+        return {nullptr, QStringLiteral("What the call log keeps of the SIM card cannot be read."), {}};
     return {telephone, {}, notices.join(QLatin1Char(' '))};
 }
 
 SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, std::shared_ptr<Clock> clocks)
     : clock(std::move(clocks))
     , recorder(std::move(store), clock, &meter)
-    , loadNotices(meter.load(recorder))
     , figures(recorder, meter)
     , charges(recorder, meter)
     , sim(recorder, meter)

@@ -45,8 +45,8 @@ public:
     SimControl &simCard() override { return sim; }
     PacketControl &packets() override { return packetSessions; }
 
-    /// What was not as it should be in what the call log keeps, a sentence each.
-    QStringList notices() const { return loadNotices; }
+    /// Reads what the call log keeps beside the calls; before anything else. As ChargeMeter::load().
+    int load(QStringList &notices) { return meter.load(recorder, notices); }
 
 private:
     sim::Tariff tariffOf(const PastCall &of) const;
@@ -62,7 +62,6 @@ private:
     std::shared_ptr<Clock> clock;
     ChargeMeter meter;
     calllog::CallRecorder recorder;
-    QStringList loadNotices;
     CallFigures figures;
     Charging charges;
     SimAccess sim;
