@@ -1,7 +1,7 @@
 #include "Line.h"
 
 #include "ReadyMadeHistory.h"
-#include "Status.h"
+#include "StatusText.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QStringList>
@@ -9,25 +9,14 @@
 namespace host {
 
 using handset::CallKind;
+using Card = handset::sim::SimCard;
+using Charging = handset::simulated::ChargingControl;
 using LineState = Line::Telephone::LineState;
 
 namespace {
 
-// 0 for a telephone that answers a number of its own.
-const char *statusText(int status)
-{
-    switch (status) {
-    case handset::InvalidArgument:
-        return "the number is not one that can be dialed";
-    case handset::NotAvailable:
-        return "the telephone cannot do this";
-    case handset::StorageFailed:
-        return "the call log cannot be written";
-    case handset::WrongState:
-        return "the line is in another state";
-    }
-    return nullptr;
-}
+constexpr StatusMeaning meaning{"the number is not one that can be dialed", "the line is in another state",
+                                "not allowed now: nothing more may be charged"};
 
 LineState neededState(Line::Action action)
 {
@@ -59,6 +48,27 @@ QString stateWord(LineState state, qint64 connectedMs)
         break;
     }
     return QStringLiteral("Connected %1").arg(clockText(connectedMs / 1000));
+}
+
+QString endOfCharging(const Charging &charging, const Card &card)
+{
+    const std::optional<quint32> onMeter = card.unitsLeft();
+    const auto account = charging.account();
+    const bool isLimit = onMeter && !(account && account->credit < *onMeter);
+    return isLimit ? QStringLiteral("The credit limit is reached") : QStringLiteral("The credit is used up");
+}
+
+QString stopText(Charging::StopReason reason)
+{
+    switch (reason) {
+    case Charging::StopReason::LimitReached:
+        return QStringLiteral("The telephone has ended the call: the credit limit is reached.");
+    case Charging::StopReason::CreditUsedUp:
+        return QStringLiteral("The telephone has ended the call: the credit is used up.");
+    case Charging::StopReason::None:
+        break;
+    }
+    return {};
 }
 
 } // namespace
@@ -150,12 +160,7 @@ void Line::addReadyMadeHistory()
 
 void Line::finish(int status)
 {
-    lastFailure.clear();
-    if (status != handset::Success) {
-        const char *text = statusText(status);
-        lastFailure = text ? QStringLiteral("Not done: %1.").arg(QLatin1StringView(text))
-                           : QStringLiteral("Not done: the telephone answers %1.").arg(status);
-    }
+    lastFailure = refusalText(status, meaning);
     emit changed();
 }
 
@@ -171,6 +176,19 @@ QString Line::describeState() const
         parts << (simulated->number().isEmpty() ? QStringLiteral("number withheld") : simulated->number());
     }
     return parts.join(QStringLiteral(", "));
+}
+
+QString Line::chargeNotice() const
+{
+    if (!simulated)
+        return {};
+    const Charging &charging = simulated->charging();
+    const std::optional<qint64> msLeft = charging.msLeft();
+    if (!msLeft || *msLeft > Charging::warningMs)
+        return stopText(charging.stopReason());
+    return QStringLiteral("%1 in %2 s.")
+        .arg(endOfCharging(charging, simulated->simCard().card()))
+        .arg((*msLeft + 999) / 1000);
 }
 
 } // namespace host

@@ -46,6 +46,8 @@ public:
 
     /// What is going on, for a person: "Connected 00:01:05, voice call, 5551234".
     QString describeState() const;
+    /// That the end of what may be charged is near, or that the telephone has ended the last call for it; else empty.
+    QString chargeNotice() const;
     /// Why the last operation failed; empty when it did not.
     QString failure() const { return lastFailure; }
 

@@ -48,7 +48,7 @@ void PhoneWindow::layOut(const Telephone &telephone)
     row->setContentsMargins(deskMargin, deskMargin, deskMargin, deskMargin);
     row->setSpacing(deskMargin);
     row->addWidget(body, 0, Qt::AlignTop);
-    row->addWidget(new Panel(line, telephone.stateDirectory, telephone.notice), 1);
+    row->addWidget(new Panel(line, {telephone.stateDirectory, telephone.notice, telephone.faults}), 1);
 }
 
 bool PhoneWindow::openScreen(int index)

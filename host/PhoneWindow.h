@@ -8,6 +8,7 @@
 
 namespace host {
 
+class Faults;
 class MenuScreen;
 class PhoneBody;
 
@@ -17,9 +18,10 @@ class PhoneWindow : public QWidget
 
 public:
     struct Telephone {
-        std::shared_ptr<handset::Handset> handset;
-        QString stateDirectory; ///< empty in memory
-        QString notice;         ///< of its opening
+        std::shared_ptr<handset::Handset> handset; ///< what the panel drives
+        QString stateDirectory;                    ///< empty in memory
+        QString notice;                            ///< of its opening
+        Faults *faults = nullptr;                  ///< of what is installed in front of it, as in Panel::Setup
     };
 
     /// `library` is loaded and outlives the window.

@@ -6,6 +6,7 @@
 #include "PhoneWindow.h"
 #include "ScreenLibrary.h"
 #include "aplog.h"
+#include "faults/FaultyHandset.h"
 #include "tour/TourPlayer.h"
 
 #include <QtCore/QFile>
@@ -152,9 +153,9 @@ int photographWindow(PhoneWindow &window, const QString &file)
     return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
 }
 
-int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened)
+int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened, Faults &faults)
 {
-    PhoneWindow window(library, {opened.handset, options.stateDirectory, opened.notice});
+    PhoneWindow window(library, {opened.handset, options.stateDirectory, opened.notice, &faults});
     window.show();
     if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
         return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));
@@ -170,8 +171,9 @@ int runWindow(const Options &options, const ScreenLibrary &library)
         complain(ExitSuccess, opened.notice);
     if (const int code = startTrace(options.traceFile))
         return code;
-    handset::install(opened.handset);
-    const int code = showWindow(options, library, opened);
+    const auto installed = std::make_shared<FaultyHandset>(opened.handset);
+    handset::install(installed);
+    const int code = showWindow(options, library, opened, installed->faults());
     handset::install(nullptr);
     return code;
 }

@@ -14,6 +14,8 @@ public:
     void set(int index, int code) { codes[static_cast<std::size_t>(index)] = code; }
     void clear() { codes = {}; }
 
+    friend bool operator==(const Faults &, const Faults &) = default;
+
 private:
     std::array<int, operationNames.size()> codes{};
 };

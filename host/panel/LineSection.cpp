@@ -31,6 +31,7 @@ LineSection::LineSection(Line &drivenLine)
     : PanelSection(tr("Line"))
     , line(drivenLine)
     , state(new QLabel)
+    , notice(new QLabel)
     , failure(new QLabel)
     , number(new QLineEdit(drivenLine.number()))
 {
@@ -43,6 +44,11 @@ LineSection::LineSection(Line &drivenLine)
     state->setAccessibleName(tr("State of the line"));
     state->setWordWrap(true);
     column->addWidget(state);
+    notice->setObjectName(QStringLiteral("charge notice"));
+    notice->setAccessibleName(tr("End of charging"));
+    notice->setFont(bold);
+    notice->setWordWrap(true);
+    column->addWidget(notice);
     addNumber(column);
     addButtons(column);
     failure->setWordWrap(true);
@@ -54,6 +60,7 @@ void LineSection::addNumber(QVBoxLayout *column)
 {
     static const QRegularExpression dialable(QStringLiteral("[0-9+*#]{0,80}"));
     number->setValidator(new QRegularExpressionValidator(dialable, number));
+    number->setObjectName(QStringLiteral("number"));
     number->setToolTip(tr("Digits, +, * and #"));
     number->setClearButtonEnabled(true);
     auto *label = new QLabel(tr("N&umber"));
@@ -85,6 +92,8 @@ void LineSection::addButtons(QVBoxLayout *column)
 void LineSection::refresh()
 {
     state->setText(line.describeState());
+    notice->setText(line.chargeNotice());
+    notice->setVisible(!line.chargeNotice().isEmpty());
     failure->setText(line.failure());
     failure->setVisible(!line.failure().isEmpty());
     for (std::size_t index = 0; index < buttonPlans.size(); ++index)

@@ -27,6 +27,7 @@ private:
 
     Line &line;
     QLabel *state;
+    QLabel *notice;
     QLabel *failure;
     QLineEdit *number;
     std::array<QPushButton *, 6> buttons{};

@@ -1,9 +1,17 @@
 #include "Panel.h"
 
+#include "AccountSection.h"
+#include "CostSection.h"
+#include "FailuresSection.h"
 #include "FiguresSection.h"
 #include "LineSection.h"
+#include "Pin2Section.h"
+#include "SimFilesSection.h"
 #include "StateSection.h"
+#include "TariffSection.h"
 
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QTabBar>
 #include <QtWidgets/QVBoxLayout>
 
 namespace host {
@@ -12,20 +20,28 @@ namespace {
 
 constexpr int tickMs = 1000;
 constexpr int contentWidth = 340;
+constexpr int spacing = 10;
+
+QVBoxLayout *makeColumn(QWidget *owner)
+{
+    auto *column = new QVBoxLayout(owner);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(spacing);
+    return column;
+}
 
 } // namespace
 
-Panel::Panel(Line &drivenLine, const QString &stateDirectory, const QString &notice, QWidget *parent)
+Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
     : QScrollArea(parent)
     , line(drivenLine)
-    , sections{new LineSection(line), new FiguresSection(line), new StateSection(stateDirectory, notice)}
+    , tabs(new QTabBar)
 {
     auto *content = new QWidget;
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(14);
-    for (PanelSection *section : sections)
-        column->addWidget(section);
+    QVBoxLayout *column = makeColumn(content);
+    column->addWidget(keep(new LineSection(line)));
+    column->addWidget(tabs);
+    addPages(column, setup);
     column->addStretch();
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -38,9 +54,46 @@ Panel::Panel(Line &drivenLine, const QString &stateDirectory, const QString &not
     refresh();
 }
 
+void Panel::addPages(QVBoxLayout *column, const Setup &setup)
+{
+    tabs->setExpanding(false);
+    tabs->setFocusPolicy(Qt::TabFocus);
+    tabs->setAccessibleName(tr("Sides of the telephone"));
+    addPage(column, tr("Calls"), {new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)});
+    addPage(column, tr("Charging"), {new TariffSection(line), new CostSection(line), new AccountSection(line)});
+    addPage(column, tr("SIM card"), {new SimFilesSection(line), new Pin2Section(line)});
+    if (setup.faults)
+        addPage(column, tr("Failures"), {new FailuresSection(*setup.faults)});
+    connect(tabs, &QTabBar::currentChanged, this, &Panel::showPage);
+    showPage(tabs->currentIndex());
+}
+
+void Panel::addPage(QVBoxLayout *column, const QString &title, const QList<PanelSection *> &ofPage)
+{
+    auto *page = new QWidget;
+    QVBoxLayout *inPage = makeColumn(page);
+    for (PanelSection *section : ofPage)
+        inPage->addWidget(keep(section));
+    column->addWidget(page);
+    pages.append(page);
+    tabs->addTab(title);
+}
+
+void Panel::showPage(int index)
+{
+    for (qsizetype page = 0; page < pages.size(); ++page)
+        pages[page]->setVisible(page == index);
+}
+
+PanelSection *Panel::keep(PanelSection *section)
+{
+    sections.append(section);
+    return section;
+}
+
 void Panel::refresh()
 {
-    for (PanelSection *section : sections)
+    for (PanelSection *section : std::as_const(sections))
         section->refresh();
     const Line::Telephone *telephone = line.telephone();
     const bool counting = telephone && telephone->lineState() == Line::Telephone::LineState::Connected;
@@ -48,6 +101,21 @@ void Panel::refresh()
         tick.start(tickMs);
     else if (!counting)
         tick.stop();
+}
+
+// Return in a field, or a Backspace that finds nothing to take back, is not meant for the phone.
+void Panel::keyPressEvent(QKeyEvent *event)
+{
+    QScrollArea::keyPressEvent(event);
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_Backspace:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        event->accept();
+    }
 }
 
 } // namespace host

@@ -7,24 +7,43 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QScrollArea>
 
+class QTabBar;
+class QVBoxLayout;
+
 namespace host {
 
+class Faults;
 class PanelSection;
 
-/// A column of sections, each a class of its own. A new role of the telephone is a new section.
+/// The line, and under it a page for each side of the telephone: a column of sections, each a class of its own. A new
+/// role of the telephone is a new section.
 class Panel : public QScrollArea
 {
     Q_OBJECT
 
 public:
-    /// `line` outlives the panel. `stateDirectory` is empty for a telephone in memory; `notice` is what the user
-    /// should know of its opening, or empty.
-    Panel(Line &line, const QString &stateDirectory, const QString &notice, QWidget *parent = nullptr);
+    struct Setup {
+        QString stateDirectory;   ///< empty for a telephone in memory
+        QString notice;           ///< what the user should know of its opening, or empty
+        Faults *faults = nullptr; ///< of the telephone that the phone's libraries talk to; null: it has none
+    };
+
+    /// `line`, and what `setup` points to, outlive the panel.
+    Panel(Line &line, const Setup &setup, QWidget *parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void addPages(QVBoxLayout *column, const Setup &setup);
+    void addPage(QVBoxLayout *column, const QString &title, const QList<PanelSection *> &ofPage);
+    void showPage(int index);
+    PanelSection *keep(PanelSection *section);
     void refresh();
 
     Line &line;
+    QTabBar *tabs;
+    QList<QWidget *> pages; ///< one a tab
     QList<PanelSection *> sections;
     QTimer tick; ///< runs while a call is connected, whose time goes on without a change being told
 };

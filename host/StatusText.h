@@ -1,0 +1,18 @@
+// Why the telephone did not do something, for a person.
+#pragma once
+
+#include <QtCore/QString>
+
+namespace host {
+
+/// What the statuses that depend on it mean for a kind of operation.
+struct StatusMeaning {
+    const char *invalidArgument;
+    const char *wrongState;
+    const char *notAllowed;
+};
+
+/// "Not done: the line is in another state."; empty for success.
+QString refusalText(int status, const StatusMeaning &meaning);
+
+} // namespace host

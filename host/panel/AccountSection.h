@@ -1,0 +1,34 @@
+// The prepaid account.
+#pragma once
+
+#include "Line.h"
+#include "PanelSection.h"
+
+class QDateEdit;
+class QLabel;
+class QLineEdit;
+class QVBoxLayout;
+
+namespace host {
+
+class AccountSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    explicit AccountSection(Line &line);
+    void refresh() override;
+
+private:
+    void addTopUp(QVBoxLayout *column);
+    void topUp();
+
+    Line &line;
+    QLabel *credit;
+    QLabel *deposit;
+    QLineEdit *amount;
+    QDateEdit *expires;
+    QLabel *failure;
+};
+
+} // namespace host

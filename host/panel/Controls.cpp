@@ -1,0 +1,89 @@
+#include "Controls.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+namespace host {
+
+namespace {
+
+constexpr int narrowest = 40; // the panel is
+
+class WheelFilter : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+            return false;
+        event->ignore();
+        return true;
+    }
+};
+
+} // namespace
+
+QLabel *makeValue(const char *name, const QString &accessible)
+{
+    auto *label = new QLabel;
+    label->setObjectName(QString::fromLatin1(name));
+    label->setAccessibleName(accessible);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QPushButton *makeButton(const QString &text, const QString &toolTip)
+{
+    auto *button = new QPushButton(text);
+    button->setToolTip(toolTip);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+QComboBox *makeChoice(const char *name, const QString &accessible, const QStringList &items)
+{
+    auto *choice = new QComboBox;
+    choice->setObjectName(QString::fromLatin1(name));
+    choice->setAccessibleName(accessible);
+    choice->setFocusPolicy(Qt::TabFocus);
+    choice->addItems(items);
+    leaveWheelToPanel(choice);
+    return choice;
+}
+
+QLineEdit *makeEntry(const char *name, const QString &accessible, const QString &toolTip)
+{
+    auto *entry = new QLineEdit;
+    entry->setObjectName(QString::fromLatin1(name));
+    entry->setAccessibleName(accessible);
+    entry->setToolTip(toolTip);
+    entry->setMinimumWidth(narrowest);
+    return entry;
+}
+
+void leaveWheelToPanel(QWidget *control)
+{
+    control->installEventFilter(new WheelFilter(control));
+}
+
+QString breakableAnywhere(const QString &text)
+{
+    QString broken;
+    for (const QChar character : text)
+        broken += QString(character) + QChar(0x200b);
+    return broken;
+}
+
+void tell(QLabel *label, const QString &text)
+{
+    label->setText(text);
+    label->setVisible(!text.isEmpty());
+}
+
+} // namespace host

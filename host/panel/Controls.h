@@ -1,0 +1,49 @@
+// The controls that the sections are made of, so that all look and behave alike.
+#pragma once
+
+#include <QtWidgets/QLabel>
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+
+namespace host {
+
+/// A text that changes and can be selected with the pointer. `name` (untranslated) is its object name, `accessible`
+/// what it is called aloud.
+QLabel *makeValue(const char *name, const QString &accessible);
+/// The pointer leaves the keys with the phone; the Tab key reaches it. `text` may have a mnemonic.
+QPushButton *makeButton(const QString &text, const QString &toolTip);
+/// A choice, likewise.
+QComboBox *makeChoice(const char *name, const QString &accessible, const QStringList &items);
+QLineEdit *makeEntry(const char *name, const QString &accessible, const QString &toolTip);
+
+/// The wheel turns the panel and not the choice or number that happens to be under it, unless that has the focus.
+void leaveWheelToPanel(QWidget *control);
+
+/// `text` with an invisible place to break the line after each character: for a name without blanks.
+QString breakableAnywhere(const QString &text);
+
+/// Shows `text` and takes room only while there is one.
+void tell(QLabel *label, const QString &text);
+
+/// While it lives, changes to a control are the program's and not the user's.
+template <typename Control>
+class Quietly
+{
+public:
+    explicit Quietly(Control *changed)
+        : control(changed)
+        , wasBlocked(changed->blockSignals(true))
+    {}
+    ~Quietly() { control->blockSignals(wasBlocked); }
+    Q_DISABLE_COPY_MOVE(Quietly)
+
+    Control *operator->() const { return control; }
+
+private:
+    Control *const control;
+    const bool wasBlocked;
+};
+
+} // namespace host

@@ -1,0 +1,155 @@
+#include "CostSection.h"
+
+#include "AdviceOfCharge.h"
+#include "CallService.h"
+#include "Controls.h"
+#include "StatusText.h"
+
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QGridLayout>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+namespace host {
+
+using handset::AdviceOfCharge;
+using handset::Handset;
+
+namespace {
+
+constexpr StatusMeaning meaning{"no price, or a currency of more than three characters", "not possible now",
+                                "the SIM card refuses"};
+
+// What the user has begun to type is not taken away.
+void showText(QLineEdit *entry, const QString &text)
+{
+    if (entry->isModified() || entry->text() == text)
+        return;
+    entry->setText(text);
+}
+
+QString lastCallCost(Handset &telephone)
+{
+    QByteArray text;
+    handset::CallService *service = telephone.callService();
+    const bool isTold = service && service->lastCallCost(text) == handset::Success;
+    return isTold ? withUnit(QString::fromLatin1(text), telephone) : CostSection::tr("not available");
+}
+
+} // namespace
+
+QString withUnit(const QString &amount, Handset &telephone)
+{
+    quint8 type = 0;
+    QString price;
+    QString currency;
+    AdviceOfCharge *advice = telephone.adviceOfCharge();
+    const bool isCurrency = advice && advice->chargeType(type) == handset::Success &&
+                            type == AdviceOfCharge::InCurrency &&
+                            advice->priceAndCurrency(price, currency) == handset::Success;
+    return QStringLiteral("%1 %2").arg(amount, isCurrency ? currency : QStringLiteral("units")).trimmed();
+}
+
+CostSection::CostSection(Line &drivenLine)
+    : PanelSection(tr("Costs"))
+    , line(drivenLine)
+    , type(makeChoice("charge type", tr("Costs are in"), {tr("units"), tr("the currency")}))
+    , price(makeEntry("price", tr("Price of a unit"), tr("The price of a unit, as 0.23")))
+    , currency(makeEntry("currency", tr("Currency"), tr("The currency's code, at most three characters")))
+    , limit(makeValue("credit limit", tr("Credit limit")))
+    , callLabel(new QLabel)
+    , callCost(makeValue("call cost", tr("Cost of the call")))
+    , failure(makeValue("cost failure", tr("Why the costs were not set")))
+{
+    auto *grid = new QGridLayout(this);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(1, 1);
+    grid->addWidget(new QLabel(tr("Costs are in")), 0, 0);
+    grid->addWidget(type, 0, 1, 1, 3);
+    addPrice(grid, 1);
+    grid->addWidget(new QLabel(tr("Credit limit")), 2, 0);
+    grid->addWidget(limit, 2, 1, 1, 3);
+    grid->addWidget(callLabel, 3, 0);
+    grid->addWidget(callCost, 3, 1, 1, 3);
+    grid->addWidget(failure, 4, 0, 1, 4);
+    tell(failure, {});
+    connect(type, &QComboBox::activated, this, &CostSection::setType);
+}
+
+void CostSection::addPrice(QGridLayout *grid, int row)
+{
+    QPushButton *set = makeButton(tr("Set &price"), tr("Writes price and currency to the SIM card"));
+    currency->setMaxLength(3);
+    currency->setFixedWidth(52);
+    grid->addWidget(new QLabel(tr("Price of a unit")), row, 0);
+    grid->addWidget(price, row, 1);
+    grid->addWidget(currency, row, 2);
+    grid->addWidget(set, row, 3);
+    connect(set, &QPushButton::clicked, this, &CostSection::setPrice);
+    for (QLineEdit *entry : {price, currency})
+        connect(entry, &QLineEdit::returnPressed, this, &CostSection::setPrice);
+}
+
+void CostSection::setType(int chosen)
+{
+    AdviceOfCharge *advice = line.handset().adviceOfCharge();
+    const auto chargeType = static_cast<quint8>(chosen);
+    tell(failure, refusalText(advice ? advice->setChargeType(chargeType) : int{handset::NotAvailable}, meaning));
+    refresh();
+}
+
+void CostSection::setPrice()
+{
+    AdviceOfCharge *advice = line.handset().adviceOfCharge();
+    const int status = advice ? advice->setPriceAndCurrency(price->text(), currency->text())
+                              : static_cast<int>(handset::NotAvailable);
+    tell(failure, refusalText(status, meaning));
+    if (status == handset::Success) {
+        price->setModified(false); // what the SIM could keep is shown from now on
+        currency->setModified(false);
+    }
+    refresh();
+}
+
+void CostSection::refresh()
+{
+    Handset &telephone = line.handset();
+    setEnabled(telephone.adviceOfCharge() != nullptr);
+    if (isEnabled())
+        showSettings(telephone);
+    const Line::Telephone *simulated = line.telephone();
+    const bool running = simulated && simulated->lineState() == Line::Telephone::LineState::Connected;
+    callLabel->setText(running ? tr("This call") : tr("Last call"));
+    callCost->setText(lastCallCost(telephone));
+}
+
+void CostSection::showSettings(Handset &telephone)
+{
+    AdviceOfCharge &advice = *telephone.adviceOfCharge();
+    quint8 chargeType = AdviceOfCharge::InUnits;
+    QString unitPrice;
+    QString code;
+    if (advice.chargeType(chargeType) == handset::Success)
+        type->setCurrentIndex(chargeType);
+    if (advice.priceAndCurrency(unitPrice, code) == handset::Success) {
+        showText(price, unitPrice);
+        showText(currency, code);
+    }
+    limit->setText(limitText(telephone));
+}
+
+QString CostSection::limitText(Handset &telephone) const
+{
+    QString maximum;
+    bool isOn = false;
+    if (telephone.adviceOfCharge()->meterMaximum(maximum, isOn) != handset::Success)
+        return tr("not available");
+    if (!isOn)
+        return tr("off");
+    const Line::Telephone *simulated = line.telephone();
+    const auto left = simulated ? line.telephone()->simCard().card().unitsLeft() : std::nullopt;
+    const QString text = withUnit(maximum, telephone);
+    return left ? tr("%1; units left: %2").arg(text).arg(*left) : text;
+}
+
+} // namespace host

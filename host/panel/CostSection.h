@@ -1,0 +1,43 @@
+// How costs are shown, and what the current call costs.
+#pragma once
+
+#include "Line.h"
+#include "PanelSection.h"
+
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace host {
+
+class CostSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    explicit CostSection(Line &line);
+    void refresh() override;
+
+private:
+    void addPrice(QGridLayout *grid, int row);
+    void setType(int type);
+    void setPrice();
+    void showSettings(handset::Handset &telephone);
+    QString limitText(handset::Handset &telephone) const;
+
+    Line &line;
+    QComboBox *type;
+    QLineEdit *price;
+    QLineEdit *currency;
+    QLabel *limit;
+    QLabel *callLabel;
+    QLabel *callCost;
+    QLabel *failure;
+};
+
+/// `amount` and the unit that `telephone` shows behind it: "12.50 EUR", "3.00 units".
+QString withUnit(const QString &amount, handset::Handset &telephone);
+
+} // namespace host

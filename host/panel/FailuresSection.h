@@ -1,0 +1,42 @@
+// Which of the telephone's operations fail.
+#pragma once
+
+#include "PanelSection.h"
+#include "faults/Faults.h"
+
+class QComboBox;
+class QListWidget;
+class QPushButton;
+class QSpinBox;
+
+namespace host {
+
+class FailuresSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    /// `faults`, which outlive this, are those of the telephone that the phone's libraries talk to.
+    explicit FailuresSection(Faults &faults);
+    void refresh() override;
+
+private:
+    void add();
+    void remove();
+    void removeAll();
+
+    void prepareControls();
+    void layOut();
+    void fillList();
+
+    Faults &faults;
+    Faults shown; ///< in the list
+    QComboBox *operation;
+    QSpinBox *code;
+    QPushButton *addButton;
+    QListWidget *failing;
+    QPushButton *removeButton;
+    QPushButton *removeAllButton;
+};
+
+} // namespace host

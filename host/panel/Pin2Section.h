@@ -1,0 +1,40 @@
+// The SIM card's second PIN.
+#pragma once
+
+#include "Line.h"
+#include "PanelSection.h"
+
+class QCheckBox;
+class QGridLayout;
+class QLabel;
+class QPushButton;
+
+namespace host {
+
+class CodeField;
+
+class Pin2Section : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    explicit Pin2Section(Line &line);
+    void refresh() override;
+
+private:
+    void addSwitches(QGridLayout *grid);
+    void addUnblocking(QGridLayout *grid);
+    void setOn(bool on);
+    void powerCycle();
+    void unblock();
+    void say(const QString &text);
+
+    Line &line;
+    QLabel *state;
+    QCheckBox *isOn;
+    CodeField *puk;
+    CodeField *newPin;
+    QLabel *outcome;
+};
+
+} // namespace host

@@ -1,0 +1,35 @@
+// The SIM card's files of advice of charge.
+#pragma once
+
+#include "Line.h"
+#include "PanelSection.h"
+
+#include <array>
+
+class QComboBox;
+class QLabel;
+
+namespace host {
+
+class SimFilesSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    explicit SimFilesSection(Line &line);
+    void refresh() override;
+
+private:
+    struct Row {
+        QLabel *content = nullptr;
+        QComboBox *rule = nullptr;
+    };
+
+    void setRule(std::size_t row, int choice);
+
+    Line &line;
+    std::array<Row, 3> rows{};
+    QLabel *failure;
+};
+
+} // namespace host

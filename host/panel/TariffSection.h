@@ -1,0 +1,45 @@
+// What the network charges for calls.
+#pragma once
+
+#include "Line.h"
+#include "PanelSection.h"
+
+#include <array>
+
+class QCheckBox;
+class QDoubleSpinBox;
+class QGridLayout;
+class QLabel;
+
+namespace host {
+
+class TariffSection : public PanelSection
+{
+    Q_OBJECT
+
+public:
+    explicit TariffSection(Line &line);
+    void refresh() override;
+
+private:
+    /// Of the calls of one direction.
+    struct Column {
+        handset::CallDirection direction = handset::CallDirection::Dialed;
+        QCheckBox *free = nullptr;
+        QDoubleSpinBox *units = nullptr;
+        QDoubleSpinBox *interval = nullptr;
+        QDoubleSpinBox *start = nullptr;
+    };
+
+    void addColumn(QGridLayout *grid, Column &column, int number);
+    void setFree(const Column &column, bool free);
+    void setElements(const Column &column);
+    void set(const Column &column, const handset::sim::Tariff &tariff);
+    void show(const Column &column);
+
+    Line &line;
+    std::array<Column, 2> columns{};
+    QLabel *failure;
+};
+
+} // namespace host

@@ -1,0 +1,921 @@
+// The panel: what its controls do to the simulated telephone, and what it shows of it.
+
+#include "AdviceOfCharge.h"
+#include "CallLog.h"
+#include "CallService.h"
+#include "Clock.h"
+#include "DataCalls.h"
+#include "Handset.h"
+#include "PhoneWindow.h"
+#include "SimSecurity.h"
+#include "SimulatedTelephone.h"
+#include "Status.h"
+#include "ZApplication.h"
+#include "ZKbMainWidget.h"
+#include "ZListBox.h"
+#include "ZListItem.h"
+#include "faults/FaultyHandset.h"
+#include "panel/CodeField.h"
+#include "panel/Panel.h"
+#include "phone/PhoneKey.h"
+
+#include <QtCore/QRegularExpression>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWheelEvent>
+#include <QtTest/QTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDateEdit>
+#include <QtWidgets/QDoubleSpinBox>
+#include <QtWidgets/QGroupBox>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QListWidget>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
+
+using namespace host;
+using handset::AdviceOfCharge;
+using handset::CallDirection;
+using handset::CallKind;
+using handset::sim::Tariff;
+using handset::simulated::SimulatedTelephone;
+
+namespace {
+
+constexpr QByteArrayView rightPuk{"12345678"};
+constexpr QByteArrayView rightPin{"1234"};
+
+Tariff tariffOf(quint16 units, quint16 interval, quint16 start)
+{
+    Tariff tariff;
+    tariff.unitsPerInterval = units;
+    tariff.interval = interval;
+    tariff.unitsAtStart = start;
+    return tariff;
+}
+
+// A telephone that is not the simulated one and has no role at all.
+class BareHandset : public handset::Handset
+{
+public:
+    handset::CallService *callService() override { return nullptr; }
+    handset::CallLog *callLog() override { return nullptr; }
+    handset::DataCalls *dataCalls() override { return nullptr; }
+};
+
+} // namespace
+
+class PanelTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void eachTabShowsItsSections();
+    void aTariffIsSetByItsNumbers_data();
+    void aTariffIsSetByItsNumbers();
+    void aTariffIsSetFreeAndBack();
+    void aTariffThatChangesElsewhereIsShown();
+    void whatIsBeingTypedIsNotTakenAway();
+    void theChargeTypeIsSetAndShown();
+    void priceAndCurrencyAreSetAndShownAsTheSimKeepsThem();
+    void aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten();
+    void theCreditLimitIsShown();
+    void theAccountIsToppedUp();
+    void anAmountThatIsNoneIsTold();
+    void theCallCostsGoOnBySecond();
+    void theEndOfTheCreditLimitIsAnnouncedAndTold();
+    void theEndOfTheCreditIsAnnouncedAndTold();
+    void aCallThatMayNotBeginIsExplained();
+    void theFilesOfTheSimAreShownLive();
+    void anUpdateRuleIsSetAndShown_data();
+    void anUpdateRuleIsSetAndShown();
+    void pin2IsSwitchedOffAndOn();
+    void theStateOfPin2IsShownLive();
+    void aPowerCycleForgetsThatPin2WasEntered();
+    void pin2IsUnblockedByItsPuk();
+    void aWrongPukIsToldAndCounted();
+    void codesThatAreNoneAreTold_data();
+    void codesThatAreNoneAreTold();
+    void aCodeIsMaskedAndForgotten();
+    void aCodeFieldTakesDigitsAlone();
+    void operationsFailAndWorkAgain();
+    void aFailureIsSeenOnThePhone();
+    void zeroIsNoCode();
+    void withoutFaultsThereIsNoPageForThem();
+    void clicksLeaveTheFocusWithThePhone();
+    void everyControlHasANameAndAReachableTabStop();
+    void keysTypedIntoFieldsStayThere_data();
+    void keysTypedIntoFieldsStayThere();
+    void theWheelTurnsThePanelAndNoNumber();
+    void nothingIsCutOffInANarrowPanel_data();
+    void nothingIsCutOffInANarrowPanel();
+    void anotherTelephoneThanTheSimulatedHasNothingToSet();
+
+private:
+    void openWindow(const std::shared_ptr<handset::Handset> &telephone);
+    static void expectSizeHintWarning();
+    template <typename Control>
+    Control *control(const char *name) const
+    {
+        auto *found = window->findChild<Control *>(QString::fromLatin1(name));
+        if (!found)
+            qFatal("there is no control \"%s\"", name);
+        return found;
+    }
+    QString label(const char *name) const { return control<QLabel>(name)->text(); }
+    QPushButton *button(const char *text) const;
+    void click(const char *text) const { QTest::mouseClick(button(text), Qt::LeftButton); }
+    void clickBox(const char *name) const;
+    void choose(const char *name, int index) const;
+    void enter(const char *name, const QString &text) const;
+    void showTab(const char *title) const;
+    QStringList failing() const;
+    QString title() const;
+    void connectCall() const;
+    handset::simulated::ChargingControl &charging() const { return telephone->charging(); }
+    const handset::sim::SimCard &card() const { return telephone->simCard().card(); }
+    const handset::sim::Pin2 &pin2() const { return card().pin2(); }
+    bool enterPin2(const QByteArray &digits) const;
+
+    ScreenLibrary library;
+    std::shared_ptr<handset::ManualClock> clock;
+    std::shared_ptr<handset::Handset> owner;
+    std::shared_ptr<FaultyHandset> installed;
+    SimulatedTelephone *telephone = nullptr;
+    std::unique_ptr<PhoneWindow> window;
+};
+
+void PanelTest::initTestCase()
+{
+    const QString problem = library.load("libkavcallmeter.so.1");
+    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+}
+
+void PanelTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    clock = std::make_shared<handset::ManualClock>(1000000);
+    const handset::Opened opened = handset::open({"simulated", {}, clock});
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    owner = opened.handset;
+    telephone = dynamic_cast<SimulatedTelephone *>(owner.get());
+    QVERIFY(telephone);
+    openWindow(owner);
+}
+
+void PanelTest::cleanup()
+{
+    window.reset();
+    handset::install(nullptr);
+    installed.reset();
+    owner.reset();
+}
+
+void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &handset)
+{
+    window.reset();
+    installed = std::make_shared<FaultyHandset>(handset);
+    handset::install(installed);
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{handset, {}, {}, &installed->faults()});
+    expectSizeHintWarning();
+    window->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+}
+
+// Qt's offscreen platform warns of every window that has a least size.
+void PanelTest::expectSizeHintWarning()
+{
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+}
+
+QPushButton *PanelTest::button(const char *text) const
+{
+    const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
+    for (QPushButton *candidate : buttons) {
+        if (candidate->text().remove(u'&') == QLatin1StringView(text))
+            return candidate;
+    }
+    qFatal("there is no button \"%s\"", text);
+}
+
+void PanelTest::clickBox(const char *name) const
+{
+    auto *box = control<QCheckBox>(name);
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
+}
+
+// By the keyboard, as its list would cover the window.
+void PanelTest::choose(const char *name, int index) const
+{
+    auto *choice = control<QComboBox>(name);
+    choice->setFocus();
+    QTest::keyClick(choice, Qt::Key_Home);
+    for (int i = 0; i < index; ++i)
+        QTest::keyClick(choice, Qt::Key_Down);
+    QCOMPARE(choice->currentIndex(), index);
+}
+
+void PanelTest::enter(const char *name, const QString &text) const
+{
+    auto *field = control<QWidget>(name);
+    field->setFocus();
+    QTest::keySequence(field, QKeySequence::SelectAll);
+    QTest::keyClicks(field, text);
+}
+
+void PanelTest::showTab(const char *title) const
+{
+    auto *tabs = window->findChild<QTabBar *>();
+    for (int index = 0; index < tabs->count(); ++index) {
+        if (tabs->tabText(index).remove(u'&') == QLatin1StringView(title))
+            QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(index).center());
+    }
+    QCOMPARE(tabs->tabText(tabs->currentIndex()).remove(u'&'), QString(title));
+}
+
+QStringList PanelTest::failing() const
+{
+    QStringList lines;
+    const auto *list = control<QListWidget>("failing");
+    for (int row = 0; row < list->count(); ++row)
+        lines << list->item(row)->text().remove(QChar(0x200b));
+    return lines;
+}
+
+// Of the screen that has the keys.
+QString PanelTest::title() const
+{
+    QWidget *widget = ZApplication::keyTarget();
+    while (widget && !qobject_cast<ZKbMainWidget *>(widget))
+        widget = widget->parentWidget();
+    const auto *screen = qobject_cast<ZKbMainWidget *>(widget);
+    return screen ? screen->mainWidgetTitle() : QStringLiteral("(none)");
+}
+
+void PanelTest::connectCall() const
+{
+    QCOMPARE(telephone->dial("5550123", CallKind::Voice), 0);
+    QCOMPARE(telephone->remoteAnswer(), 0);
+}
+
+bool PanelTest::enterPin2(const QByteArray &digits) const
+{
+    bool accepted = false;
+    return owner->simSecurity()->verifyPin(1, digits, accepted) == handset::Success && accepted;
+}
+
+void PanelTest::eachTabShowsItsSections()
+{
+    const auto shown = [this] {
+        QStringList titles;
+        const QList<QGroupBox *> sections = window->findChildren<QGroupBox *>();
+        for (const QGroupBox *section : sections) {
+            if (section->isVisible())
+                titles << section->title();
+        }
+        return titles;
+    };
+    QCOMPARE(shown(), (QStringList{"Line", "Call timers", "State"}));
+    showTab("Charging");
+    QCOMPARE(shown(), (QStringList{"Line", "Tariff", "Costs", "Prepaid account"}));
+    showTab("SIM card");
+    QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
+    showTab("Failures");
+    QCOMPARE(shown(), (QStringList{"Line", "Failures"}));
+    showTab("Calls");
+    QCOMPARE(shown(), (QStringList{"Line", "Call timers", "State"}));
+}
+
+// --- charging
+
+void PanelTest::aTariffIsSetByItsNumbers_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("isDialed");
+    QTest::newRow("dialed calls") << "dialed" << true;
+    QTest::newRow("answered calls") << "answered" << false;
+}
+
+void PanelTest::aTariffIsSetByItsNumbers()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, isDialed);
+    const CallDirection direction = isDialed ? CallDirection::Dialed : CallDirection::Answered;
+    const CallDirection other = isDialed ? CallDirection::Answered : CallDirection::Dialed;
+    const Tariff untouched = charging().tariff(other);
+    QCOMPARE(charging().setTariff(direction, tariffOf(10, 100, 0)), 0);
+    showTab("Charging");
+    const auto type = [&](const char *what, const char *text) {
+        const QByteArray full = QStringLiteral("tariff %1 %2").arg(name, QLatin1StringView(what)).toLatin1();
+        enter(full, text);
+        QTest::keyClick(control<QDoubleSpinBox>(full), Qt::Key_Return);
+    };
+    type("units", "2.5");
+    QCOMPARE(charging().tariff(direction), tariffOf(25, 100, 0));
+    type("interval", "30");
+    QCOMPARE(charging().tariff(direction), tariffOf(25, 300, 0));
+    type("start", "0.7");
+    QCOMPARE(charging().tariff(direction), tariffOf(25, 300, 7));
+    type("units", "819.1");
+    QCOMPARE(charging().tariff(direction), tariffOf(8191, 300, 7));
+    QCOMPARE(charging().tariff(other), untouched);
+    QCOMPARE(label("tariff failure"), "");
+}
+
+void PanelTest::aTariffIsSetFreeAndBack()
+{
+    showTab("Charging");
+    clickBox("tariff dialed free");
+    QCOMPARE(charging().tariff(CallDirection::Dialed), Tariff{});
+    QVERIFY(!control<QDoubleSpinBox>("tariff dialed units")->isEnabled());
+    QVERIFY(control<QCheckBox>("tariff answered free")->isChecked());
+    clickBox("tariff answered free");
+    QCOMPARE(charging().tariff(CallDirection::Answered), tariffOf(10, 100, 0));
+    QVERIFY(control<QDoubleSpinBox>("tariff answered units")->isEnabled());
+    clickBox("tariff dialed free");
+    QCOMPARE(charging().tariff(CallDirection::Dialed), tariffOf(10, 100, 0));
+}
+
+void PanelTest::aTariffThatChangesElsewhereIsShown()
+{
+    QCOMPARE(charging().setTariff(CallDirection::Answered, tariffOf(15, 605, 3)), 0);
+    QCOMPARE(control<QDoubleSpinBox>("tariff answered units")->value(), 1.5);
+    QCOMPARE(control<QDoubleSpinBox>("tariff answered interval")->value(), 60.5);
+    QCOMPARE(control<QDoubleSpinBox>("tariff answered start")->value(), 0.3);
+    QVERIFY(!control<QCheckBox>("tariff answered free")->isChecked());
+    QCOMPARE(charging().tariff(CallDirection::Answered), tariffOf(15, 605, 3)); // showing sets nothing
+    QCOMPARE(charging().setTariff(CallDirection::Answered, Tariff{}), 0);
+    QVERIFY(control<QCheckBox>("tariff answered free")->isChecked());
+}
+
+void PanelTest::whatIsBeingTypedIsNotTakenAway()
+{
+    showTab("Charging");
+    enter("tariff dialed units", "37");
+    enter("price", "9.9");
+    control<QWidget>("tariff dialed interval")->setFocus();
+    enter("tariff dialed interval", "42");
+    QCOMPARE(telephone->ring({}), 0); // every change is shown
+    QCOMPARE(control<QDoubleSpinBox>("tariff dialed interval")->text(), "42 s");
+    QCOMPARE(control<QLineEdit>("price")->text(), "9.9");
+    QCOMPARE(charging().tariff(CallDirection::Dialed).interval, quint16{100});
+}
+
+void PanelTest::theChargeTypeIsSetAndShown()
+{
+    showTab("Charging");
+    quint8 type = 99;
+    choose("charge type", 1);
+    QCOMPARE(owner->adviceOfCharge()->chargeType(type), 0);
+    QCOMPARE(type, quint8{AdviceOfCharge::InCurrency});
+    choose("charge type", 0);
+    QCOMPARE(owner->adviceOfCharge()->chargeType(type), 0);
+    QCOMPARE(type, quint8{AdviceOfCharge::InUnits});
+    QCOMPARE(owner->adviceOfCharge()->setChargeType(AdviceOfCharge::InCurrency), 0);
+    QCOMPARE(control<QComboBox>("charge type")->currentIndex(), 1);
+}
+
+void PanelTest::priceAndCurrencyAreSetAndShownAsTheSimKeepsThem()
+{
+    showTab("Charging");
+    QString price;
+    QString currency;
+    enter("price", "1.23456");
+    enter("currency", "GBPX"); // the fourth is not taken
+    click("Set price");
+    QCOMPARE(owner->adviceOfCharge()->priceAndCurrency(price, currency), 0);
+    QCOMPARE(price, "1.235");
+    QCOMPARE(currency, "GBP");
+    QCOMPARE(control<QLineEdit>("price")->text(), "1.235");
+    enter("price", "0.5");
+    QTest::keyClick(control<QLineEdit>("price"), Qt::Key_Return);
+    QCOMPARE(owner->adviceOfCharge()->priceAndCurrency(price, currency), 0);
+    QCOMPARE(price, "0.5");
+    QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("170", "USD"), 0);
+    QCOMPARE(control<QLineEdit>("price")->text(), "170");
+    QCOMPARE(control<QLineEdit>("currency")->text(), "USD");
+}
+
+void PanelTest::aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten()
+{
+    showTab("Charging");
+    enter("price", "much");
+    click("Set price");
+    QCOMPARE(label("cost failure"), "Not done: no price, or a currency of more than three characters.");
+    QVERIFY(control<QLabel>("cost failure")->isVisible());
+    QCOMPARE(telephone->simCard().setUpdateRule(AdviceOfCharge::PuctFile, AdviceOfCharge::NoUpdate), 0);
+    enter("price", "1");
+    click("Set price");
+    QCOMPARE(label("cost failure"), "Not done: the SIM card refuses.");
+    QCOMPARE(telephone->simCard().setUpdateRule(AdviceOfCharge::PuctFile, AdviceOfCharge::FreeUpdate), 0);
+    click("Set price");
+    QVERIFY(!control<QLabel>("cost failure")->isVisible());
+}
+
+void PanelTest::theCreditLimitIsShown()
+{
+    QCOMPARE(label("credit limit"), "off");
+    QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("120"), 0);
+    QCOMPARE(label("credit limit"), "120.00 units; units left: 120");
+    QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("0.23", "EUR"), 0);
+    QCOMPARE(owner->adviceOfCharge()->setChargeType(AdviceOfCharge::InCurrency), 0);
+    QCOMPARE(label("credit limit"), "27.60 EUR; units left: 120");
+    QCOMPARE(owner->adviceOfCharge()->disableMeterMaximum(), 0);
+    QCOMPARE(label("credit limit"), "off");
+}
+
+void PanelTest::theAccountIsToppedUp()
+{
+    showTab("Charging");
+    QCOMPARE(label("credit"), "Nothing has been paid in.");
+    QVERIFY(!control<QLabel>("deposit")->isVisible());
+    enter("top-up amount", "50");
+    control<QDateEdit>("top-up day")->setDate(QDate(2007, 3, 9));
+    click("Top up");
+    QVERIFY(charging().account().has_value());
+    QCOMPARE(*charging().account(), (handset::simulated::Account{50, 50, {2007, 3, 9}}));
+    QCOMPARE(label("credit"), "Credit: 50.00 units");
+    QCOMPARE(label("deposit"), "Last deposit: 50.00 units, good until 2007-03-09");
+    enter("top-up amount", "7");
+    QTest::keyClick(control<QLineEdit>("top-up amount"), Qt::Key_Return);
+    QCOMPARE(label("credit"), "Credit: 57.00 units");
+    QCOMPARE(label("deposit"), "Last deposit: 7.00 units, good until 2007-03-09");
+}
+
+void PanelTest::anAmountThatIsNoneIsTold()
+{
+    showTab("Charging");
+    for (const char *amount : {"", "much", "0", "99999999"}) {
+        control<QLineEdit>("top-up amount")->setText(amount);
+        click("Top up");
+        QVERIFY2(!charging().account(), amount);
+        QCOMPARE(label("account failure"),
+                 "Not done: an amount of at least one unit, and not more than the account holds.");
+    }
+    enter("top-up amount", "1");
+    click("Top up");
+    QVERIFY(!control<QLabel>("account failure")->isVisible());
+}
+
+void PanelTest::theCallCostsGoOnBySecond()
+{
+    QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
+    connectCall();
+    QCOMPARE(label("call cost"), "0.00 units");
+    clock->advance(30000);
+    QTRY_COMPARE(label("call cost"), "3.00 units");
+    QTRY_COMPARE(label("credit"), "Credit: 47.00 units");
+    QCOMPARE(telephone->hangUp(), 0);
+    QCOMPARE(label("call cost"), "3.00 units");
+}
+
+void PanelTest::theEndOfTheCreditLimitIsAnnouncedAndTold()
+{
+    QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("6"), 0);
+    QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
+    connectCall();
+    clock->advance(29999);
+    QCOMPARE(telephone->checkpoint(), 0);
+    QVERIFY(!control<QLabel>("charge notice")->isVisible());
+    clock->advance(1);
+    QTRY_COMPARE(label("charge notice"), "The credit limit is reached in 30 s.");
+    QVERIFY(control<QLabel>("charge notice")->isVisible());
+    clock->advance(5000);
+    QTRY_COMPARE(label("charge notice"), "The credit limit is reached in 25 s.");
+    clock->advance(25000);
+    QTRY_COMPARE(label("charge notice"), "The telephone has ended the call: the credit limit is reached.");
+    QCOMPARE(label("line state"), "Idle");
+    QCOMPARE(telephone->ring({}), 0); // answered calls are free
+    QVERIFY(!control<QLabel>("charge notice")->isVisible());
+}
+
+void PanelTest::theEndOfTheCreditIsAnnouncedAndTold()
+{
+    QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("60"), 0);
+    QCOMPARE(charging().topUp("3", {2007, 3, 9}), 0);
+    connectCall();
+    clock->advance(12500);
+    QTRY_COMPARE(label("charge notice"), "The credit is used up in 18 s.");
+    clock->advance(17500);
+    QTRY_COMPARE(label("charge notice"), "The telephone has ended the call: the credit is used up.");
+}
+
+void PanelTest::aCallThatMayNotBeginIsExplained()
+{
+    QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("1"), 0);
+    connectCall();
+    clock->advance(10000);
+    QCOMPARE(telephone->checkpoint(), 0);
+    click("Dial");
+    QCOMPARE(label("line failure"), "Not done: not allowed now: nothing more may be charged.");
+    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+}
+
+// --- the SIM card
+
+void PanelTest::theFilesOfTheSimAreShownLive()
+{
+    const QString nothing = "00 00 00  =  0 units";
+    QCOMPARE(label("EF_ACM content"),
+             (QStringList{nothing + "  (newest)", nothing, nothing, nothing, nothing}).join('\n'));
+    QCOMPARE(label("EF_ACMmax content"), "00 00 00  =  no limit");
+    QCOMPARE(label("EF_PUCT content"), "FF FF FF 00 00  =  no currency, 0 a unit");
+    QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("0.23", "EUR"), 0);
+    QCOMPARE(label("EF_PUCT content"), "45 55 52 01 57  =  EUR, 0.23 a unit");
+    QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("66051"), 0);
+    QCOMPARE(label("EF_ACMmax content"), "01 02 03  =  66051 units");
+    connectCall();
+    clock->advance(30000);
+    QCOMPARE(telephone->checkpoint(), 0);
+    QTRY_VERIFY2(label("EF_ACM content").startsWith("00 00 03  =  3 units  (newest)\n" + nothing),
+                 qPrintable(label("EF_ACM content")));
+    clock->advance(2540000);
+    QCOMPARE(telephone->checkpoint(), 0);
+    QTRY_VERIFY2(label("EF_ACM content").startsWith("00 01 01  =  257 units  (newest)\n00 00 03  =  3 units\n"),
+                 qPrintable(label("EF_ACM content")));
+}
+
+void PanelTest::anUpdateRuleIsSetAndShown_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("file");
+    QTest::newRow("the call meter") << "EF_ACM" << int{AdviceOfCharge::AcmFile};
+    QTest::newRow("its maximum") << "EF_ACMmax" << int{AdviceOfCharge::AcmMaxFile};
+    QTest::newRow("the price") << "EF_PUCT" << int{AdviceOfCharge::PuctFile};
+}
+
+void PanelTest::anUpdateRuleIsSetAndShown()
+{
+    QFETCH(QString, name);
+    QFETCH(int, file);
+    const QByteArray choice = name.toLatin1();
+    const auto number = static_cast<quint8>(file);
+    const auto rule = [&] {
+        quint8 answer = 99;
+        return card().updateRule(number, answer) == 0 ? int{answer} : -1;
+    };
+    showTab("SIM card");
+    choose(choice, 1);
+    QCOMPARE(rule(), int{AdviceOfCharge::UpdateUnderPin2});
+    choose(choice, 2);
+    QCOMPARE(rule(), int{AdviceOfCharge::NoUpdate});
+    choose(choice, 0);
+    QCOMPARE(rule(), int{AdviceOfCharge::FreeUpdate});
+    QCOMPARE(telephone->simCard().setUpdateRule(number, AdviceOfCharge::NoUpdate), 0);
+    QCOMPARE(control<QComboBox>(choice)->currentIndex(), 2);
+    QCOMPARE(telephone->simCard().setUpdateRule(number, 17), 0); // no rule: anybody may
+    QCOMPARE(control<QComboBox>(choice)->currentIndex(), 0);
+    QCOMPARE(rule(), 17);
+    for (const char *other : {"EF_ACM", "EF_ACMmax", "EF_PUCT"})
+        QCOMPARE(control<QComboBox>(other)->currentIndex(), 0);
+}
+
+void PanelTest::pin2IsSwitchedOffAndOn()
+{
+    showTab("SIM card");
+    QVERIFY(control<QCheckBox>("pin2 on")->isChecked());
+    clickBox("pin2 on");
+    QVERIFY(!pin2().isEnabled());
+    QVERIFY(label("pin2 state").startsWith("Off: nobody is asked for it."));
+    clickBox("pin2 on");
+    QVERIFY(pin2().isEnabled());
+    QCOMPARE(telephone->simCard().setPin2Enabled(false), 0);
+    QVERIFY(!control<QCheckBox>("pin2 on")->isChecked());
+}
+
+void PanelTest::theStateOfPin2IsShownLive()
+{
+    QCOMPARE(label("pin2 state"), "On, not entered.\nTries left: PIN2 3, PUK2 10.");
+    QVERIFY(!enterPin2("9999"));
+    QCOMPARE(label("pin2 state"), "On, not entered.\nTries left: PIN2 2, PUK2 10.");
+    QVERIFY(enterPin2("1234"));
+    QCOMPARE(label("pin2 state"), "On, and entered.\nTries left: PIN2 3, PUK2 10.");
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(!enterPin2("9999"));
+    QCOMPARE(label("pin2 state"), "Blocked: only PUK2 helps.\nTries left: PIN2 0, PUK2 10.");
+    bool accepted = false;
+    for (int i = 0; i < 10; ++i)
+        QCOMPARE(telephone->simCard().unblockPin2("00000000", "1234", accepted), 0);
+    QCOMPARE(label("pin2 state"), "Blocked for good.\nTries left: PIN2 0, PUK2 0.");
+}
+
+void PanelTest::aPowerCycleForgetsThatPin2WasEntered()
+{
+    QVERIFY(enterPin2("1234"));
+    QVERIFY(pin2().isVerified());
+    showTab("SIM card");
+    click("Switch off and on");
+    QVERIFY(!pin2().isVerified());
+    QVERIFY(label("pin2 state").startsWith("On, not entered."));
+}
+
+void PanelTest::pin2IsUnblockedByItsPuk()
+{
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(!enterPin2("9999"));
+    showTab("SIM card");
+    enter("puk2", QString::fromLatin1(rightPuk));
+    enter("new pin2", "87654321");
+    click("Unblock");
+    QCOMPARE(label("pin2 outcome"), "The new PIN2 counts.");
+    QVERIFY(label("pin2 state").startsWith("On, and entered.\nTries left: PIN2 3"));
+    QCOMPARE(telephone->simCard().powerCycle(), 0);
+    QVERIFY(enterPin2("87654321"));
+}
+
+void PanelTest::aWrongPukIsToldAndCounted()
+{
+    showTab("SIM card");
+    enter("puk2", "00000000");
+    enter("new pin2", "4321");
+    QTest::keyClick(control<QWidget>("new pin2"), Qt::Key_Return);
+    QCOMPARE(label("pin2 outcome"), "Wrong PUK2.");
+    QCOMPARE(pin2().pukTriesLeft(), 9);
+    QVERIFY(enterPin2(rightPin.toByteArray()));
+}
+
+void PanelTest::codesThatAreNoneAreTold_data()
+{
+    QTest::addColumn<QString>("puk");
+    QTest::addColumn<QString>("pin");
+    QTest::newRow("nothing at all") << ""
+                                    << "";
+    QTest::newRow("a PUK of seven digits") << "1234567"
+                                           << "1234";
+    QTest::newRow("a PIN of three digits") << "12345678"
+                                           << "123";
+}
+
+void PanelTest::codesThatAreNoneAreTold()
+{
+    QFETCH(QString, puk);
+    QFETCH(QString, pin);
+    showTab("SIM card");
+    enter("puk2", puk);
+    enter("new pin2", pin);
+    click("Unblock");
+    QCOMPARE(label("pin2 outcome"), "Not done: PUK2 has eight digits, a PIN2 four to eight.");
+    QCOMPARE(pin2().pukTriesLeft(), 10);
+}
+
+void PanelTest::aCodeIsMaskedAndForgotten()
+{
+    showTab("SIM card");
+    auto *puk = control<CodeField>("puk2");
+    auto *pin = control<CodeField>("new pin2");
+    enter("puk2", "12345678");
+    enter("new pin2", "5678");
+    QCOMPARE(puk->digits(), rightPuk);
+    for (CodeField *field : {puk, pin}) {
+        QCOMPARE(field->text().count(u'0'), field->text().size()); // no digit that was typed
+        QCOMPARE(field->displayText(), QString(field->text().size(), field->displayText().front()));
+        QVERIFY(!field->displayText().contains(u'0'));
+        field->selectAll();
+        field->copy();
+        QVERIFY(!QGuiApplication::clipboard()->text().contains("5678"));
+    }
+    click("Unblock");
+    for (const CodeField *field : {puk, pin}) {
+        QVERIFY(field->digits().isEmpty());
+        QCOMPARE(field->text(), QString());
+        QVERIFY(!field->isUndoAvailable());
+    }
+    const char *place = puk->digits().data();
+    for (std::size_t i = 0; i < CodeField::mostDigits; ++i)
+        QCOMPARE(place[i], '\0');
+}
+
+void PanelTest::aCodeFieldTakesDigitsAlone()
+{
+    showTab("SIM card");
+    auto *field = control<CodeField>("puk2");
+    enter("puk2", "1a2 -3456789");
+    QCOMPARE(field->digits(), QByteArrayView("12345678")); // eight and no more
+    QTest::keyClick(field, Qt::Key_Backspace);
+    QCOMPARE(field->digits(), QByteArrayView("1234567"));
+    QCOMPARE(field->text().size(), 7);
+    QGuiApplication::clipboard()->setText("99");
+    QTest::keySequence(field, QKeySequence::Paste);
+    QCOMPARE(field->digits(), QByteArrayView("1234567"));
+    QCOMPARE(field->text().size(), 7);
+    for (int i = 0; i < 9; ++i)
+        QTest::keyClick(field, Qt::Key_Backspace);
+    QVERIFY(field->digits().isEmpty());
+    QCOMPARE(title(), "Recent Calls");
+}
+
+// --- failures
+
+void PanelTest::operationsFailAndWorkAgain()
+{
+    showTab("Failures");
+    Faults &faults = installed->faults();
+    QCOMPARE(control<QComboBox>("operation")->count(), static_cast<int>(operationNames.size()));
+    const int lastCall = operationIndex("TAPI_LOG_GetLastCallTime");
+    const int dataCalls = operationIndex("PHONE_MsgClient::getTotalByteAndConnectedDuration");
+    choose("operation", lastCall);
+    enter("failure code", "17");
+    click("Let it fail");
+    QCOMPARE(faults.code(lastCall), 17);
+    choose("operation", dataCalls);
+    enter("failure code", "-2");
+    click("Let it fail");
+    QCOMPARE(faults.code(dataCalls), -2);
+    QCOMPARE(failing(), (QStringList{"TAPI_LOG_GetLastCallTime: 17",
+                                     "PHONE_MsgClient::getTotalByteAndConnectedDuration: -2"}));
+    enter("failure code", "-3");
+    click("Let it fail"); // another code for the same
+    QCOMPARE(failing().last(), "PHONE_MsgClient::getTotalByteAndConnectedDuration: -3");
+    control<QListWidget>("failing")->setCurrentRow(1);
+    click("Remove");
+    QCOMPARE(failing(), QStringList{"TAPI_LOG_GetLastCallTime: 17"});
+    QCOMPARE(faults.code(dataCalls), 0);
+    faults.set(dataCalls, 9); // from elsewhere
+    QCOMPARE(telephone->ring({}), 0);
+    QCOMPARE(failing().size(), 2);
+    click("Remove all");
+    QCOMPARE(failing(), QStringList());
+    QVERIFY(faults == Faults());
+    QVERIFY(!button("Remove")->isEnabled());
+    QVERIFY(!button("Remove all")->isEnabled());
+}
+
+void PanelTest::aFailureIsSeenOnThePhone()
+{
+    click("Add a ready-made history");
+    showTab("Failures");
+    choose("operation", operationIndex("TAPI_LOG_GetLastCallTime"));
+    click("Let it fail");
+    QVERIFY(window->openScreen(0));
+    auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
+    QVERIFY(list);
+    QCOMPARE(list->item(0)->value(), "00:00:00");
+    QCOMPARE(list->item(1)->value(), "01:11:35");
+    showTab("Calls");
+    QCOMPARE(label("figure Last call"), "00:04:26"); // the panel asks the telephone itself
+}
+
+void PanelTest::zeroIsNoCode()
+{
+    showTab("Failures");
+    enter("failure code", "0");
+    QVERIFY(!button("Let it fail")->isEnabled());
+    enter("failure code", "-1");
+    QVERIFY(button("Let it fail")->isEnabled());
+}
+
+void PanelTest::withoutFaultsThereIsNoPageForThem()
+{
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{owner, {}, {}});
+    QVERIFY(!window->findChild<QListWidget *>("failing"));
+    QCOMPARE(window->findChild<QTabBar *>()->count(), 3);
+}
+
+// --- all of them
+
+void PanelTest::clicksLeaveTheFocusWithThePhone()
+{
+    QWidget *phone = window->focusWidget();
+    QVERIFY(qobject_cast<ZListBox *>(phone));
+    for (const char *tab : {"Charging", "SIM card", "Failures", "Calls"}) {
+        showTab(tab);
+        QCOMPARE(window->focusWidget(), phone);
+    }
+    showTab("Charging");
+    clickBox("tariff answered free");
+    click("Set price");
+    click("Top up");
+    showTab("SIM card");
+    clickBox("pin2 on");
+    click("Switch off and on");
+    click("Unblock");
+    showTab("Failures");
+    click("Let it fail");
+    click("Remove all");
+    QCOMPARE(window->focusWidget(), phone);
+    const QList<QComboBox *> choices = window->findChildren<QComboBox *>();
+    for (const QComboBox *choice : choices)
+        QVERIFY2(!(choice->focusPolicy() & Qt::ClickFocus), qPrintable(choice->objectName()));
+}
+
+void PanelTest::everyControlHasANameAndAReachableTabStop()
+{
+    int controls = 0;
+    const QList<QWidget *> widgets = window->findChild<Panel *>()->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const bool isPart = qobject_cast<QAbstractSpinBox *>(widget->parentWidget()) ||
+                            qobject_cast<QComboBox *>(widget->parentWidget()) ||
+                            qobject_cast<QLineEdit *>(widget->parentWidget());
+        const bool isControl =
+            !isPart &&
+            (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
+             qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
+             qobject_cast<const QListWidget *>(widget));
+        if (!isControl)
+            continue;
+        ++controls;
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        const QString name = button && !button->text().isEmpty() ? button->text() : widget->accessibleName();
+        const bool isNumber = widget->objectName() == QLatin1StringView("number"); // its label names it
+        QVERIFY2(!name.isEmpty() || isNumber, qPrintable(widget->objectName()));
+        QVERIFY2(widget->focusPolicy() & Qt::TabFocus, qPrintable(name));
+    }
+    QVERIFY(controls >= 35);
+}
+
+void PanelTest::keysTypedIntoFieldsStayThere_data()
+{
+    QTest::addColumn<QByteArray>("tab");
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("number to dial") << QByteArray("Calls") << QByteArray("number");
+    QTest::newRow("units") << QByteArray("Charging") << QByteArray("tariff dialed units");
+    QTest::newRow("price") << QByteArray("Charging") << QByteArray("price");
+    QTest::newRow("day") << QByteArray("Charging") << QByteArray("top-up day");
+    QTest::newRow("PUK2") << QByteArray("SIM card") << QByteArray("puk2");
+    QTest::newRow("code") << QByteArray("Failures") << QByteArray("failure code");
+}
+
+void PanelTest::keysTypedIntoFieldsStayThere()
+{
+    QFETCH(QByteArray, tab);
+    QFETCH(QByteArray, name);
+    showTab(tab);
+    control<QWidget>(name)->setFocus();
+    const auto *menu = qobject_cast<ZListBox *>(ZApplication::keyTarget());
+    QVERIFY(menu);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Backspace})
+        QTest::keyClick(window->windowHandle(), key);
+    QCOMPARE(title(), "Recent Calls");
+    QCOMPARE(menu->currentItem(), 0);
+    QTest::keyClick(window->windowHandle(), Qt::Key_F1); // but the softkeys are the phone's
+    QCOMPARE(title(), "Call Times");
+}
+
+void PanelTest::theWheelTurnsThePanelAndNoNumber()
+{
+    showTab("Charging");
+    auto *units = control<QDoubleSpinBox>("tariff dialed units");
+    auto *type = control<QComboBox>("charge type");
+    for (QWidget *under : {static_cast<QWidget *>(units), static_cast<QWidget *>(type)}) {
+        const QPointF middle(under->width() / 2.0, under->height() / 2.0);
+        QWheelEvent wheel(middle, under->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(under, &wheel);
+    }
+    QCOMPARE(units->value(), 1.0);
+    QCOMPARE(type->currentIndex(), 0);
+}
+
+void PanelTest::nothingIsCutOffInANarrowPanel_data()
+{
+    QTest::addColumn<QByteArray>("tab");
+    for (const char *tab : {"Calls", "Charging", "SIM card", "Failures"})
+        QTest::newRow(tab) << QByteArray(tab);
+}
+
+void PanelTest::nothingIsCutOffInANarrowPanel()
+{
+    QFETCH(QByteArray, tab);
+    QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("409500000", "WWW"), 0);
+    QCOMPARE(owner->adviceOfCharge()->setChargeType(AdviceOfCharge::InCurrency), 0);
+    Line line(owner);
+    Panel panel(line, {QStringLiteral("/home/somebody/.local/share/kavcallmeter"), {}, &installed->faults()});
+    panel.resize(340, 400); // so that there is a scroll bar, too
+    panel.show();
+    auto *tabs = panel.findChild<QTabBar *>();
+    while (tabs->tabText(tabs->currentIndex()) != QString::fromLatin1(tab))
+        tabs->setCurrentIndex(tabs->currentIndex() + 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(panel.width(), 340);
+    QVERIFY2(panel.widget()->width() <= panel.viewport()->width(), "it would have to be scrolled sideways");
+    const QList<QWidget *> widgets = panel.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const bool needsRoom = (label && !label->wordWrap()) || qobject_cast<const QPushButton *>(widget) ||
+                               qobject_cast<const QCheckBox *>(widget);
+        if (needsRoom && widget->isVisible())
+            QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(widget->objectName()));
+        if (label && label->isVisible() && label->wordWrap())
+            QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->objectName()));
+    }
+}
+
+void PanelTest::anotherTelephoneThanTheSimulatedHasNothingToSet()
+{
+    openWindow(std::make_shared<BareHandset>());
+    for (const char *name : {"tariff dialed units", "price", "top-up amount", "EF_ACM", "pin2 on", "puk2"})
+        QVERIFY2(!control<QWidget>(name)->isEnabled(), name);
+    QCOMPARE(label("call cost"), "not available");
+    QVERIFY(control<QWidget>("operation")->isEnabled());
+    QCOMPARE(label("charge notice"), "");
+}
+
+QTEST_MAIN(PanelTest)
+#include "tst_panel.moc"
