@@ -1,5 +1,5 @@
-// What the Call-Cost Setup screen asks of the toolkit and the telephone, call by call, with the exact arguments and in
-// the exact order; and what it does when an object cannot be made.
+// What the Call-Cost Setup screen asks of the toolkit and the telephone, call by call, with the exact arguments
+// and in the exact order; and what it does when an object cannot be made.
 #include "ListedCurrencies.h"
 #include "PHONE_UI_RecentCallCostSetupView.h"
 

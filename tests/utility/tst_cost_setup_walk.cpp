@@ -1,5 +1,5 @@
-// Thousands of random keys on the Call-Cost Setup screen, over a telephone that fails and changes at random, beside
-// a model that says what a person must see, what the telephone must be asked, and what it must have in the end.
+// Thousands of random keys on the Call-Cost Setup screen, over a telephone that fails and changes at random. A
+// model says what a person must see, what the telephone must be asked, and what it must have in the end.
 #include "CostSetupModel.h"
 #include "PHONE_UI_RecentCallCostSetupView.h"
 #include "PHONE_UI_RecentCallCostsView.h"
