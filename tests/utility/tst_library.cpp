@@ -7,7 +7,10 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QMetaMethod>
 #include <QtCore/QProcess>
+
+#include <dlfcn.h>
 
 namespace {
 
@@ -57,6 +60,44 @@ QStringList exportedNames()
     return names;
 }
 
+// What a class is to the meta-object system: its signals, then its slots, in the order of their declaration.
+struct ClassFacts {
+    const char *name;
+    const char *base;
+    const char *methods;
+};
+constexpr ClassFacts classes[] = {
+    {"PHONE_UI_RecentCallMeter", "QObject", ""},
+    {"PHONE_UI_RecentCallTimesView", "ZKbMainWidget",
+     "signal closeWidget() slot slotNo() slot slotYes() slot slotSelectedItem(ZSettingItem*)"},
+    {"PHONE_UI_RecentCallCostsView", "ZKbMainWidget",
+     "signal closeWidget() slot slotOk() slot slotCloseWgt() slot slotSelectedItem(ZSettingItem*)"},
+    {"PHONE_UI_RecentCallCostSetupView", "ZKbMainWidget",
+     "signal closeWgt() slot slotBack() slot slotSave() slot slotClose() slot slotCancel() slot slotSelect() "
+     "slot slotSingleSelect() slot slotSelectedItem(ZSettingItem*)"},
+    {"PHONE_UI_RecentCallDataTimesView", "ZKbMainWidget",
+     "signal closeWidget() slot slotYes() slot slotClose() slot slotSelectedItem(ZSettingItem*)"},
+    {"PHONE_UI_RecentCallDataVolumesView", "ZKbMainWidget",
+     "signal closeWidget() slot slotNo() slot slotYes() slot slotCloseWgt() "
+     "slot slotSelectedItem(ZSettingItem*) slot slotUpdateChildWidgets(QCString,QByteArray)"},
+    {"PHONE_UI_RecentCallDataVolumesDetailView", "ZKbMainWidget",
+     "signal closeWgt() slot slotOk() slot slotBack() slot slotSelectedItem(ZSettingItem*)"},
+    {"PHONE_ENG_Setup", "QObject",
+     "signal flashFull() signal sigSetupOpertionNotAllowed() signal updateCallForwardingFlag() "
+     "slot updateCFFlag()"},
+};
+
+QString methodsOf(const QMetaObject &meta)
+{
+    QStringList methods;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        const bool isSignal = meta.method(i).methodType() == QMetaMethod::Signal;
+        methods.append(QLatin1String(isSignal ? "signal " : "slot ") +
+                       QString::fromLatin1(meta.method(i).methodSignature()));
+    }
+    return methods.join(QLatin1Char(' '));
+}
+
 QStringList without(const QStringList &all, const QStringList &some)
 {
     QStringList rest = all;
@@ -102,6 +143,8 @@ private slots:
     void aMissingLibraryIsToldAndNoCrash();
 
     void theExportedSymbolsAreThoseOfTheList();
+    void everyClassHasItsMetaObjectInThePlugin_data();
+    void everyClassHasItsMetaObjectInThePlugin();
     void everyLibraryHasItsOwnName_data();
     void everyLibraryHasItsOwnName();
     void thePluginNeedsThePhonesLibrariesByTheirNames_data();
@@ -220,6 +263,34 @@ void TestLibrary::theExportedSymbolsAreThoseOfTheList()
     if (!missing.isEmpty())
         qInfo("in the list but not exported:\n%s", qPrintable(missing.join('\n')));
     QVERIFY(unlisted.isEmpty() && missing.isEmpty());
+}
+
+void TestLibrary::everyClassHasItsMetaObjectInThePlugin_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(std::size(classes)); ++i)
+        QTest::newRow(classes[i].name) << i;
+}
+
+void TestLibrary::everyClassHasItsMetaObjectInThePlugin()
+{
+    QFETCH(const int, index);
+    const ClassFacts &facts = classes[index];
+    PluginLibrary plugin;
+    const QByteArray symbol = QByteArray("_ZN")
+                                  .append(QByteArray::number(qstrlen(facts.name)))
+                                  .append(facts.name)
+                                  .append("16staticMetaObjectE");
+    const auto *meta = reinterpret_cast<const QMetaObject *>(plugin.function<void()>(symbol.constData()));
+    QVERIFY2(meta, qPrintable(plugin.error()));
+    // The engine's library has a meta-object of this name as well.
+    Dl_info info;
+    QVERIFY(dladdr(meta, &info));
+    QCOMPARE(QFileInfo(QString::fromLocal8Bit(info.dli_fname)).canonicalFilePath(),
+             QFileInfo(builtFile("libkavcallmeter.so.1")).canonicalFilePath());
+    QCOMPARE(meta->className(), facts.name);
+    QCOMPARE(meta->superClass()->className(), facts.base);
+    QCOMPARE(methodsOf(*meta), QString::fromLatin1(facts.methods));
 }
 
 void TestLibrary::everyLibraryHasItsOwnName_data()
