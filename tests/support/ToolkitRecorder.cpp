@@ -3,8 +3,10 @@
 #include "Journal.h"
 
 #include "PHONE_MsgClient.h"
+#include "QCopChannel.h"
 #include "QValueList.h"
 #include "ZKbMainWidget.h"
+#include "ZLabel.h"
 #include "ZListBox.h"
 #include "ZListBoxItem.h"
 #include "ZMessageDlg.h"
@@ -26,6 +28,7 @@ namespace {
 int rowsMade = 0;
 int dialogsMade = 0;
 int choicesMade = 0; // rows of choice dialogs
+int labelsMade = 0;
 bool choicesAreThere = true;
 int depth = 0; // of recorded operations inside each other
 
@@ -51,6 +54,8 @@ QString shown(const Argument &argument)
 {
     if constexpr (std::is_same_v<Argument, QString>)
         return argument.isNull() ? QStringLiteral("null") : QLatin1Char('"') + argument + QLatin1Char('"');
+    else if constexpr (std::is_same_v<Argument, QByteArray>)
+        return shown(QString::fromLatin1(argument));
     else if constexpr (std::is_same_v<Argument, bool>)
         return argument ? QStringLiteral("true") : QStringLiteral("false");
     else if constexpr (std::is_same_v<Argument, const char *>)
@@ -123,6 +128,7 @@ void ToolkitRecorder::restart()
     rowsMade = 0;
     dialogsMade = 0;
     choicesMade = 0;
+    labelsMade = 0;
 }
 
 // Declares a function that the linker knows as `SYMBOL`, the operation of a library. An object comes first as `self`;
@@ -452,4 +458,71 @@ KAV_STANDS_FOR("_ZN9ZListItem10setEnabledEb", void, setEnabled, ZListItem *self,
     if (call.isOutermost && isKnown(self))
         record(of(self, "setEnabled"), enable);
     original_setEnabled()(self, enable);
+}
+
+// --- what the screens of the data sessions use besides
+
+KAV_STANDS_FOR("_ZN8ZSoftKey15setButtonEnableENS_7KEY_IDXEb", void, setButtonEnable, ZSoftKey *self,
+               ZSoftKey::KEY_IDX key, bool enable)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setButtonEnable"), key, enable);
+    original_setButtonEnable()(self, key, enable);
+}
+
+KAV_STANDS_FOR("_ZN6ZLabelC1ERK7QStringP7QWidgetPKcjN12ZSkinService11WidgetClsIDE", void, makeLabel, ZLabel *self,
+               const QString &text, QWidget *parent, const char *name, unsigned int flags,
+               ZSkinService::WidgetClsID skinClass)
+{
+    const Recorded call;
+    if (call.isOutermost) {
+        Journal::shared().nameObject(self, QStringLiteral("label %1").arg(labelsMade++));
+        record(QStringLiteral("ZLabel"), text, parent, name, flags, skinClass);
+    }
+    original_makeLabel()(self, text, parent, name, flags, skinClass);
+}
+
+KAV_STANDS_FOR("_ZN9ZListItem12setSeparatorERK7QStringPK7QPixmap", void, setSeparator, ZListItem *self,
+               const QString &text, const QPixmap *pixmap)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "setSeparator"), text, pixmap);
+    original_setSeparator()(self, text, pixmap);
+}
+
+KAV_STANDS_FOR("_ZN8ZListBox5clearEv", void, clearList, ZListBox *self)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "clear"));
+    original_clearList()(self);
+}
+
+KAV_STANDS_FOR("_ZN11QCopChannelC1ERK10QByteArrayP7QObjectPKc", void, makeChannel, QCopChannel *self,
+               const QCString &channel, QObject *parent, const char *name)
+{
+    const Recorded call;
+    if (call.isOutermost) {
+        Journal::shared().nameObject(self, QStringLiteral("channel"));
+        record(QStringLiteral("QCopChannel"), channel, parent, name);
+    }
+    original_makeChannel()(self, channel, parent, name);
+}
+
+KAV_STANDS_FOR("_ZN13ZKbMainWidget5closeEb", bool, closeScreen, ZKbMainWidget *self, bool alsoDelete)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "close"), alsoDelete);
+    return original_closeScreen()(self, alsoDelete);
+}
+
+KAV_STANDS_FOR("_ZN7QWidget6updateEv", void, updateWidget, QWidget *self)
+{
+    const Recorded call;
+    if (call.isOutermost && isKnown(self))
+        record(of(self, "update"));
+    original_updateWidget()(self);
 }
