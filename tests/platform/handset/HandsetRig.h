@@ -24,6 +24,9 @@ public:
     virtual bool begin(CallKind kind, CallDirection direction) = 0;
     virtual bool connectCall() = 0;
     virtual bool end() = 0;
+    /// A packet-data session that counts so many bytes a second.
+    virtual bool beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond) = 0;
+    virtual bool endSession() = 0;
     /// Lets time go by.
     virtual void pass(qint64 ms) = 0;
 };

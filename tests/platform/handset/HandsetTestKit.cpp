@@ -3,6 +3,7 @@
 #include "CallLog.h"
 #include "CallService.h"
 #include "DataCalls.h"
+#include "PacketData.h"
 #include "Status.h"
 
 #include <QtCore/QDir>
@@ -70,6 +71,39 @@ SixFigures figuresOf(Handset &handset)
             query(log, &CallLog::lifetimeCallsTime)};
 }
 
+QStringList sessionsOf(Handset &handset)
+{
+    DataSessions answer;
+    if (handset.packetData()->sessions(answer) != Success || answer.count > answer.records.size())
+        QTest::qFail("the sessions cannot be read", __FILE__, __LINE__);
+    QStringList lines;
+    for (std::size_t i = 0; i < answer.records.size(); ++i) {
+        const DataSession &session = answer.records[i];
+        const bool isUsed = i < answer.count;
+        if (isUsed != (session.id != 0) || isUsed == session.apn.isEmpty())
+            QTest::qFail("a used slot is empty, or an unused one is not", __FILE__, __LINE__);
+        if (isUsed)
+            lines << QStringLiteral("%1 %2 %3 %4 %5")
+                         .arg(session.id)
+                         .arg(QString::fromLatin1(session.apn))
+                         .arg(seconds(session.duration))
+                         .arg(session.bytesSent)
+                         .arg(session.bytesReceived);
+    }
+    return lines;
+}
+
+QString sessionTotalsOf(Handset &handset)
+{
+    quint32 total = 0;
+    quint32 received = 0;
+    quint32 sent = 0;
+    if (handset.packetData()->totalBytes(total, received, sent) != Success)
+        QTest::qFail("the bytes of all sessions cannot be read", __FILE__, __LINE__);
+    const quint64 duration = query(*handset.packetData(), &PacketData::totalDuration);
+    return QStringLiteral("%1 %2 %3 %4").arg(duration).arg(sent).arg(received).arg(total);
+}
+
 StateDir::StateDir(Place place)
     : temporary((place == Anywhere ? quickDirectory() : QCoreApplication::applicationDirPath()) +
                 QStringLiteral("/kav-state-XXXXXX"))
@@ -118,6 +152,14 @@ bool Phone::answered(qint64 ms, const QString &number)
     return telephone->hangUp() == Success;
 }
 
+bool Phone::session(qint64 ms, const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond)
+{
+    if (telephone->packets().startSession(apn, sentPerSecond, receivedPerSecond) != Success)
+        return false;
+    clock->advance(ms);
+    return telephone->packets().stopSession() == Success;
+}
+
 void Phone::close()
 {
     telephone = nullptr;
@@ -159,10 +201,42 @@ QList<LoggedCall> LogFile::calls() const
     return rows;
 }
 
+QStringList LogFile::sessions() const
+{
+    QSqlQuery query(QSqlDatabase::database(name));
+    QStringList rows;
+    query.exec(QStringLiteral("SELECT line FROM (SELECT id, id || ' ' || apn || ' ' || duration_ms || ' ' ||"
+                              " sent || ' ' || received || ' ' || state AS line FROM sessions) ORDER BY id"));
+    while (query.next())
+        rows << query.value(0).toString();
+    return rows;
+}
+
+QString LogFile::sessionTotals() const
+{
+    const auto total = [this](const char *counter) {
+        const QString select = QStringLiteral("SELECT value FROM session_totals WHERE counter = '%1'");
+        return value(select.arg(QLatin1String(counter))).toString();
+    };
+    return QStringList{total("duration"), total("sent"), total("received")}.join(QLatin1Char(' '));
+}
+
 bool LogFile::run(const QString &statement) const
 {
     QSqlQuery query(QSqlDatabase::database(name));
     return query.exec(statement);
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
 }
 
 bool copyState(const QString &fromDirectory, const QString &toDirectory)

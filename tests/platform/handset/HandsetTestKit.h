@@ -35,6 +35,12 @@ char *toString(const SixFigures &figures);
 /// A failed query is a failed test.
 SixFigures figuresOf(Handset &handset);
 
+/// What the telephone tells of its packet-data sessions, "id apn seconds sent received" for each used slot, from the
+/// first on. A failed query, and an unused slot that is not empty, are failed tests.
+QStringList sessionsOf(Handset &handset);
+/// Of all sessions: "seconds sent received total".
+QString sessionTotalsOf(Handset &handset);
+
 /// A row of the call log.
 struct LoggedCall {
     qint64 id = 0;
@@ -83,6 +89,9 @@ public:
     CallLog &log() const { return *opened.handset->callLog(); }
     CallService &service() const { return *opened.handset->callService(); }
     DataCalls &data() const { return *opened.handset->dataCalls(); }
+    PacketData &packets() const { return *opened.handset->packetData(); }
+    QStringList sessions() const { return sessionsOf(*opened.handset); }
+    QString sessionTotals() const { return sessionTotalsOf(*opened.handset); }
 
     /// Calls from dialing or ringing to the end; false when anything failed.
     bool dialed(qint64 ms, CallKind kind = CallKind::Voice, const QString &number = QStringLiteral("1234"));
@@ -90,6 +99,10 @@ public:
     /// The call is connected, and goes on.
     bool dial(CallKind kind = CallKind::Voice, const QString &number = QStringLiteral("1234"));
     bool answer(const QString &number = QStringLiteral("5678"));
+
+    /// A session from its beginning to its end; false when anything failed.
+    bool session(qint64 ms, const QByteArray &apn = "internet", quint32 sentPerSecond = 0,
+                 quint32 receivedPerSecond = 0);
 
     void close();
 
@@ -109,11 +122,19 @@ public:
 
     QVariant value(const QString &select) const;
     QList<LoggedCall> calls() const;
+    /// "id apn ms sent received state" for each row.
+    QStringList sessions() const;
+    /// "ms sent received".
+    QString sessionTotals() const;
     bool run(const QString &statement) const;
 
 private:
     QString name;
 };
+
+/// Null when it cannot be read.
+QByteArray readFile(const QString &path);
+bool writeFile(const QString &path, const QByteArray &content);
 
 /// Copies a database and what is recorded beside it, as a crash would leave them. The directory is made.
 bool copyState(const QString &fromDirectory, const QString &toDirectory);

@@ -25,6 +25,11 @@ public:
     }
     bool connectCall() override { return (answering ? (*phone)->answer() : (*phone)->remoteAnswer()) == Success; }
     bool end() override { return (*phone)->hangUp() == Success; }
+    bool beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond) override
+    {
+        return (*phone)->packets().startSession(apn, sentPerSecond, receivedPerSecond) == Success;
+    }
+    bool endSession() override { return (*phone)->packets().stopSession() == Success; }
     void pass(qint64 ms) override { clock->advance(ms); }
 
 private:

@@ -4,6 +4,7 @@
 #include "DataCalls.h"
 #include "HandsetRig.h"
 #include "HandsetTestKit.h"
+#include "PacketData.h"
 #include "Status.h"
 
 #include <functional>
@@ -65,9 +66,19 @@ private slots:
     void figuresAndResetsSurviveARestart();
     void theDataCallStatusOfANewStartIsIdle();
 
+    void sessionsStandNewestFirst();
+    void aRunningSessionIsCountedUpToNow();
+    void eachPacketDataResetZeroesItsOwnTotal();
+    void aResetDuringASessionLetsTheRestOfItCount();
+    void packetDataAndCallsKnowNothingOfEachOther();
+    void sessionsAndTheirTotalsSurviveARestart();
+
 private:
     bool call(CallKind kind, CallDirection direction, qint64 ms);
     bool everyKindOfCall();
+    bool session(const QByteArray &apn, qint64 ms, quint32 sentPerSecond, quint32 receivedPerSecond);
+    QStringList sessions() { return sessionsOf(rig->handset()); }
+    QString sessionTotals() { return sessionTotalsOf(rig->handset()); }
     SixFigures figures() { return figuresOf(rig->handset()); }
     quint8 status();
 
@@ -96,6 +107,14 @@ bool TestContract::everyKindOfCall()
            call(CallKind::Data, CallDirection::Dialed, 3 * second);
 }
 
+bool TestContract::session(const QByteArray &apn, qint64 ms, quint32 sentPerSecond, quint32 receivedPerSecond)
+{
+    if (!rig->beginSession(apn, sentPerSecond, receivedPerSecond))
+        return false;
+    rig->pass(ms);
+    return rig->endSession();
+}
+
 quint8 TestContract::status()
 {
     quint8 value = 99;
@@ -109,8 +128,11 @@ void TestContract::aNewTelephoneHasAllRolesAndNoTime()
     QVERIFY(rig->handset().callLog());
     QVERIFY(rig->handset().callService());
     QVERIFY(rig->handset().dataCalls());
+    QVERIFY(rig->handset().packetData());
     QCOMPARE(figures(), SixFigures());
     QCOMPARE(status(), quint8(DataCalls::Idle));
+    QCOMPARE(sessions(), QStringList());
+    QCOMPARE(sessionTotals(), QStringLiteral("0 0 0 0"));
 }
 
 void TestContract::aCallCountsForItsOwnFigure_data()
@@ -327,6 +349,103 @@ void TestContract::theDataCallStatusOfANewStartIsIdle()
     rig->close();
     QVERIFY(rig->open());
     QCOMPARE(status(), quint8(DataCalls::Idle));
+}
+
+void TestContract::sessionsStandNewestFirst()
+{
+    QVERIFY(session("first", second, 1, 10));
+    QCOMPARE(sessions(), QStringList{QStringLiteral("1 first 1 1 10")});
+    QVERIFY(session("second", 2 * second, 2, 20));
+    QVERIFY(session("third", 3 * second, 3, 30));
+    QVERIFY(session("fourth", 4 * second, 4, 40));
+    QCOMPARE(sessions(), (QStringList{QStringLiteral("4 fourth 4 16 160"), QStringLiteral("3 third 3 9 90"),
+                                      QStringLiteral("2 second 2 4 40")}));
+    QCOMPARE(sessionTotals(), QStringLiteral("10 30 300 330"));
+}
+
+void TestContract::aRunningSessionIsCountedUpToNow()
+{
+    QVERIFY(session("before", 2 * second, 5, 0));
+    QVERIFY(rig->beginSession("now", 3, 100));
+    const QString before = QStringLiteral("1 before 2 10 0");
+    QCOMPARE(sessions(), (QStringList{QStringLiteral("2 now 0 0 0"), before}));
+    rig->pass(1500);
+    QCOMPARE(sessions(), (QStringList{QStringLiteral("2 now 1 4 150"), before}));
+    QCOMPARE(sessionTotals(), QStringLiteral("3 14 150 164"));
+    rig->pass(2 * hour);
+    const QStringList both{QStringLiteral("2 now 7201 21604 720150"), before};
+    QCOMPARE(sessions(), both);
+    QVERIFY(rig->endSession());
+    rig->pass(hour);
+    QCOMPARE(sessions(), both);
+    QCOMPARE(sessionTotals(), QStringLiteral("7203 21614 720150 741764"));
+}
+
+void TestContract::eachPacketDataResetZeroesItsOwnTotal()
+{
+    QVERIFY(session("internet", 7 * second, 1, 2));
+    const QStringList before = sessions();
+    QCOMPARE(rig->handset().packetData()->resetTotalDuration(), int(Success));
+    QCOMPARE(sessionTotals(), QStringLiteral("0 7 14 21"));
+    QVERIFY(session("wap", second, 1, 2));
+    QCOMPARE(rig->handset().packetData()->resetTotalBytes(), int(Success));
+    QCOMPARE(sessionTotals(), QStringLiteral("1 0 0 0"));
+    QCOMPARE(sessions(), QStringList{QStringLiteral("2 wap 1 1 2")} + before);
+}
+
+void TestContract::aResetDuringASessionLetsTheRestOfItCount()
+{
+    QVERIFY(session("before", 10 * second, 1, 2));
+    QVERIFY(rig->beginSession("now", 10, 20));
+    rig->pass(5 * second);
+    QCOMPARE(rig->handset().packetData()->resetTotalBytes(), int(Success));
+    QCOMPARE(sessionTotals(), QStringLiteral("15 0 0 0"));
+    rig->pass(2 * second);
+    QCOMPARE(rig->handset().packetData()->resetTotalDuration(), int(Success));
+    QCOMPARE(sessionTotals(), QStringLiteral("0 20 40 60"));
+    rig->pass(second);
+    QVERIFY(rig->endSession());
+    QCOMPARE(sessionTotals(), QStringLiteral("1 30 60 90"));
+    QCOMPARE(sessions().first(), QStringLiteral("2 now 8 80 160"));
+}
+
+void TestContract::packetDataAndCallsKnowNothingOfEachOther()
+{
+    QVERIFY(rig->beginSession("internet", 1, 1));
+    QVERIFY(call(CallKind::Data, CallDirection::Dialed, 5 * second));
+    QVERIFY(rig->begin(CallKind::Voice, CallDirection::Dialed));
+    QVERIFY(rig->connectCall());
+    rig->pass(2 * second);
+    QVERIFY(rig->endSession());
+    rig->pass(second);
+    QVERIFY(rig->end());
+    QCOMPARE(figures(), (SixFigures{3, 3, 0, 5, 8, 8}));
+    QCOMPARE(sessionTotals(), QStringLiteral("7 7 7 14"));
+    for (const NamedReset &reset : resets)
+        QCOMPARE(reset.run(rig->handset()), int(Success));
+    QCOMPARE(sessionTotals(), QStringLiteral("7 7 7 14"));
+    QVERIFY(call(CallKind::Data, CallDirection::Dialed, 4 * second));
+    QCOMPARE(rig->handset().packetData()->resetTotalDuration(), int(Success));
+    QCOMPARE(rig->handset().packetData()->resetTotalBytes(), int(Success));
+    QCOMPARE(figures(), (SixFigures{4, 0, 0, 4, 4, 12}));
+}
+
+void TestContract::sessionsAndTheirTotalsSurviveARestart()
+{
+    QVERIFY(session("first", 1500, 1, 1));
+    QCOMPARE(rig->handset().packetData()->resetTotalBytes(), int(Success));
+    QVERIFY(session("second", 1600, 10, 10));
+    const QStringList before = sessions();
+    QCOMPARE(before, (QStringList{QStringLiteral("2 second 1 16 16"), QStringLiteral("1 first 1 1 1")}));
+    for (int start = 0; start < 3; ++start) {
+        rig->close();
+        QVERIFY(rig->open());
+        QCOMPARE(sessions(), before);
+        QCOMPARE(sessionTotals(), QStringLiteral("3 16 16 32"));
+    }
+    QVERIFY(session("third", 900, 0, 0)); // the fractions were kept, too
+    QCOMPARE(sessionTotals(), QStringLiteral("4 16 16 32"));
+    QCOMPARE(sessions().first(), QStringLiteral("3 third 0 0 0"));
 }
 
 QTEST_GUILESS_MAIN(TestContract)

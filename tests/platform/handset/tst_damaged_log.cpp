@@ -26,18 +26,6 @@ namespace {
 constexpr qint64 pageSize = 4096;
 constexpr int wholeCalls = 1000; ///< of the sample, when it was closed
 
-QByteArray readFile(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
 QList<PastCall> manyCalls(int count)
 {
     QList<PastCall> calls;

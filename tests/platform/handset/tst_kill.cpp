@@ -1,4 +1,5 @@
-// A process that makes calls is killed at any moment, hundreds of times: no finished call may be lost.
+// A process that makes calls or has packet-data sessions is killed at any moment, hundreds of times: nothing that was
+// finished may be lost, and of a running session no more than what followed its last checkpoint.
 #include "HandsetTestKit.h"
 #include "Schema.h"
 
@@ -17,10 +18,11 @@ using calllog::CallState;
 
 namespace {
 
-constexpr int kills = 220;
 constexpr int killsForOneDirectory = 20;
+constexpr qint64 mostBetweenCheckpoints = 5000; ///< of the other process, in ms
 
-/// What the processes said they finished: durations by number.
+/// What the processes said they finished: durations by number. Sessions by access point, the last one they said;
+/// with a '=' in front when it was finished.
 using Reported = QHash<QString, qint64>;
 
 qint64 total(const LogFile &file, const char *counter)
@@ -44,12 +46,21 @@ class TestKill : public QObject
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
-    void aKillAtAnyMomentLosesNoFinishedCall();
+    void aKillAtAnyMomentLosesNoFinishedCall() { killAgainAndAgain("calls", 220, &TestKill::checkCalls); }
+    void aKillAtAnyMomentLosesNoMoreThanACheckpointOfASession()
+    {
+        killAgainAndAgain("sessions", 100, &TestKill::checkSessions);
+    }
 
 private:
-    void runUntilKilled(const QString &directory, unsigned seed);
+    using Check = void (TestKill::*)(const LogFile &file);
+
+    void killAgainAndAgain(const char *mode, int kills, Check check);
+    void runUntilKilled(const char *mode, const QString &directory, unsigned seed);
     void read(const QByteArray &output);
-    void check(const QString &directory);
+    void checkCopy(const QString &directory, Check check);
+    void checkCalls(const LogFile &file);
+    void checkSessions(const LogFile &file);
 
     int below(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random); }
 
@@ -72,12 +83,12 @@ void TestKill::read(const QByteArray &output)
     }
 }
 
-void TestKill::runUntilKilled(const QString &directory, unsigned seed)
+void TestKill::runUntilKilled(const char *mode, const QString &directory, unsigned seed)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
-                  {QStringLiteral("calls"), directory, QString::number(seed)});
+                  {QString::fromLatin1(mode), directory, QString::number(seed)});
     QVERIFY(process.waitForStarted());
     QByteArray output;
     const auto readFor = [&](QDeadlineTimer deadline, int lines) {
@@ -104,7 +115,7 @@ void TestKill::runUntilKilled(const QString &directory, unsigned seed)
 }
 
 // Looks at a copy, so that the next process finds what the killed one left.
-void TestKill::check(const QString &directory)
+void TestKill::checkCopy(const QString &directory, Check check)
 {
     const QString copy = directory + QStringLiteral("-copy");
     QVERIFY(copyState(directory, copy));
@@ -114,7 +125,11 @@ void TestKill::check(const QString &directory)
     }
     const LogFile file(copy + QStringLiteral("/calllog.db"));
     QCOMPARE(file.value(QStringLiteral("PRAGMA integrity_check")), QVariant(QStringLiteral("ok")));
+    (this->*check)(file);
+}
 
+void TestKill::checkCalls(const LogFile &file)
+{
     Reported found;
     int running = 0;
     for (const LoggedCall &call : file.calls()) {
@@ -135,7 +150,38 @@ void TestKill::check(const QString &directory)
     QCOMPARE(total(file, "last"), sumWhere(file, "id = (SELECT max(id) FROM calls WHERE state <> 2)"));
 }
 
-void TestKill::aKillAtAnyMomentLosesNoFinishedCall()
+void TestKill::checkSessions(const LogFile &file)
+{
+    Reported found;
+    int running = 0;
+    qint64 sums[3] = {0, 0, 0};
+    const QStringList rows = file.sessions();
+    for (const QString &row : rows) {
+        const QStringList words = row.split(QLatin1Char(' ')); // id, access point, ms, sent, received, state
+        const QStringList rates = words[1].split(QLatin1Char('-'));
+        const qint64 ms = words[2].toLongLong();
+        QCOMPARE(words[3].toLongLong(), ms * rates[1].toLongLong() / 1000);
+        QCOMPARE(words[4].toLongLong(), ms * rates[2].toLongLong() / 1000);
+        for (int i = 0; i < 3; ++i)
+            sums[i] += words[2 + i].toLongLong();
+        const int state = words[5].toInt();
+        running += state == static_cast<int>(CallState::Running) ? 1 : 0;
+        found.insert(words[1], ms);
+        if (state == static_cast<int>(CallState::Finished))
+            found.insert(QLatin1Char('=') + words[1], ms);
+    }
+    QVERIFY(running <= 1);
+    QCOMPARE(file.sessionTotals(), QStringLiteral("%1 %2 %3").arg(sums[0]).arg(sums[1]).arg(sums[2]));
+    for (auto session = reported.cbegin(); session != reported.cend(); ++session) {
+        const qint64 ms = found.value(session.key(), -1);
+        if (session.key().startsWith(QLatin1Char('=')))
+            QCOMPARE(ms, session.value());
+        else
+            QVERIFY(ms >= session.value() && ms < session.value() + mostBetweenCheckpoints);
+    }
+}
+
+void TestKill::killAgainAndAgain(const char *mode, int kills, Check check)
 {
     const quint32 given = qEnvironmentVariable("KAV_SEED").toUInt();
     const quint32 seed = given ? given : std::random_device()();
@@ -149,15 +195,15 @@ void TestKill::aKillAtAnyMomentLosesNoFinishedCall()
             reported.clear();
         const QString directory = state.file(QString::number(kill / killsForOneDirectory));
         const qsizetype before = reported.size();
-        runUntilKilled(directory, static_cast<unsigned>(kill + 1));
+        runUntilKilled(mode, directory, static_cast<unsigned>(kill + 1));
         if (!QTest::currentTestFailed())
-            check(directory);
+            checkCopy(directory, check);
         if (QTest::currentTestFailed())
             qInfo("at kill %d in %s", kill, qPrintable(directory));
         QVERIFY(!QTest::currentTestFailed());
         finished += static_cast<int>(reported.size() - before);
     }
-    qInfo("%d kills, %d finished calls, none lost", kills, finished);
+    qInfo("%d kills, %d calls or sessions reported, none lost", kills, finished);
     QVERIFY(finished > kills); // or the processes were killed before they did anything
 }
 

@@ -1,0 +1,278 @@
+// The message that tells the screens of every process that the packet-data figures have changed.
+#include "HandsetTestKit.h"
+#include "PacketData.h"
+#include "PrivateBus.h"
+#include "QCopChannel.h"
+#include "Schema.h"
+#include "Status.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
+
+#include <random>
+
+using namespace handset;
+using namespace handset::test;
+
+namespace {
+
+/// A telephone that has no packet data.
+class PlainHandset final : public Handset
+{
+public:
+    CallService *callService() override { return nullptr; }
+    CallLog *callLog() override { return nullptr; }
+    DataCalls *dataCalls() override { return nullptr; }
+};
+
+/// Counts the updates, and looks at the telephone when one comes.
+class Screen
+{
+public:
+    Screen()
+    {
+        QObject::connect(&channel, &QCopChannel::received, &channel,
+                         [this](const QCString &message, const QByteArray &data) {
+                             if (message != "/KAV/phone/RecentCall/Update" || !data.isEmpty())
+                                 QTest::qFail("a message that is no update", __FILE__, __LINE__);
+                             ++count;
+                         });
+    }
+
+    /// Since the last call.
+    int updates()
+    {
+        QCoreApplication::processEvents();
+        return std::exchange(count, 0);
+    }
+
+private:
+    QCopChannel channel{"/KAV/phone"};
+    int count = 0;
+};
+
+} // namespace
+
+class TestBroadcast : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void cleanup() { install(nullptr); }
+
+    void beginningAndEndAreTold();
+    void whatFailsIsNotTold();
+    void aCallIsNotTold();
+    void aRunningSessionIsToldOnceASecond();
+    void howeverTheTicksComeItIsToldAtMostOnceASecond();
+    void aClockThatStandsStillHasNothingToTell();
+    void aRunningSessionIsToldWithoutAnyonesHelp();
+    void onlyTheInstalledTelephoneTells();
+    void aTelephoneWithoutPacketDataCanBeInstalled();
+    void anotherProcessIsToldUpToTheEndOfTheApplication();
+
+private:
+    static void tick(const Phone &phone)
+    {
+        QVERIFY(QMetaObject::invokeMethod(phone->findChild<QTimer *>(), "timeout"));
+    }
+
+    PrivateBus bus;
+};
+
+// Before the first channel. With a bus, what it brings back of the own messages would be counted, too.
+void TestBroadcast::initTestCase()
+{
+    QVERIFY(bus.isRunning());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toLocal8Bit());
+}
+
+void TestBroadcast::beginningAndEndAreTold()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    Screen screen;
+    Screen other;
+    QCOMPARE(phone->packets().startSession("x", 1, 1), int(Success));
+    QCOMPARE(screen.updates(), 1);
+    QCOMPARE(phone->packets().stopSession(), int(Success));
+    QCOMPARE(screen.updates(), 1);
+    QCOMPARE(other.updates(), 2);
+}
+
+void TestBroadcast::whatFailsIsNotTold()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    Screen screen;
+    QCOMPARE(phone->packets().stopSession(), int(WrongState));
+    QCOMPARE(phone->packets().startSession("", 1, 1), int(InvalidArgument));
+    QCOMPARE(screen.updates(), 0);
+}
+
+void TestBroadcast::aCallIsNotTold()
+{
+    Phone phone;
+    install(phone.opened.handset);
+    Screen screen;
+    QVERIFY(phone.dial());
+    for (int second = 0; second < 10; ++second) {
+        phone.clock->advance(1000);
+        tick(phone);
+    }
+    QCOMPARE(phone->hangUp(), int(Success));
+    QCOMPARE(screen.updates(), 0);
+}
+
+void TestBroadcast::aRunningSessionIsToldOnceASecond()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    Screen screen;
+    for (const quint32 rate : {0U, 1U, 1'000'000U}) { // the duration alone changes, too
+        QCOMPARE(phone->packets().startSession("x", rate, rate), int(Success));
+        QCOMPARE(screen.updates(), 1);
+        for (int second = 1; second <= 12; ++second) {
+            phone.clock->advance(1000);
+            tick(phone);
+            QCOMPARE(screen.updates(), 1);
+            tick(phone);
+            QCOMPARE(screen.updates(), 0);
+            QCOMPARE(phone.sessions().first().section(QLatin1Char(' '), 2, 2), QString::number(second));
+        }
+        QCOMPARE(phone->packets().stopSession(), int(Success));
+        QCOMPARE(screen.updates(), 1);
+        tick(phone);
+        QCOMPARE(screen.updates(), 0);
+    }
+}
+
+void TestBroadcast::howeverTheTicksComeItIsToldAtMostOnceASecond()
+{
+    std::mt19937 random(3);
+    const auto below = [&](int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random); };
+    const Phone phone;
+    install(phone.opened.handset);
+    Screen screen;
+    QCOMPARE(phone->packets().startSession("x", 1000, 1000), int(Success));
+    QCOMPARE(screen.updates(), 1);
+    qint64 now = 0;
+    qint64 lastTold = 0;
+    int told = 0;
+    for (int step = 0; step < 3000; ++step) {
+        const qint64 passed = below(200);
+        phone.clock->advance(passed);
+        now += passed;
+        tick(phone);
+        if (below(3) == 0) // queries and checkpoints tell nothing and put nothing off
+            QCOMPARE(phone->checkpoint(), int(Success));
+        if (screen.updates() == 0) {
+            QVERIFY(now - lastTold < 1000);
+            continue;
+        }
+        QVERIFY(now - lastTold >= 1000);
+        lastTold = now;
+        ++told;
+    }
+    QVERIFY(told > 200);
+}
+
+void TestBroadcast::aClockThatStandsStillHasNothingToTell()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    Screen screen;
+    QCOMPARE(phone->packets().startSession("x", 1000, 1000), int(Success));
+    QCOMPARE(screen.updates(), 1);
+    for (int ticks = 0; ticks < 20; ++ticks)
+        tick(phone);
+    phone.clock->setWallMs(0);
+    tick(phone);
+    QCOMPARE(screen.updates(), 0);
+}
+
+void TestBroadcast::aRunningSessionIsToldWithoutAnyonesHelp()
+{
+    const Opened opened = open({}); // the machine's clocks
+    install(opened.handset);
+    QCopChannel channel("/KAV/phone");
+    const QSignalSpy spy(&channel, &QCopChannel::received);
+    auto &packets = dynamic_cast<simulated::SimulatedTelephone &>(*opened.handset).packets();
+    QCOMPARE(packets.startSession("x", 1, 1), int(Success));
+    QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 4, 60'000);
+    QVERIFY(sessionsOf(*opened.handset).first().section(QLatin1Char(' '), 2, 2).toInt() >= 3);
+    QCOMPARE(packets.stopSession(), int(Success));
+}
+
+void TestBroadcast::onlyTheInstalledTelephoneTells()
+{
+    Phone first;
+    Phone second;
+    Screen screen;
+    const auto makeSession = [](Phone &phone) {
+        return phone->packets().startSession("x", 1, 1) == Success &&
+               (phone.clock->advance(1000), tick(phone), phone->packets().stopSession() == Success);
+    };
+    QVERIFY(makeSession(first));
+    QCOMPARE(screen.updates(), 0);
+    install(first.opened.handset);
+    QVERIFY(makeSession(first));
+    QCOMPARE(screen.updates(), 3);
+    QVERIFY(makeSession(second));
+    QCOMPARE(screen.updates(), 0);
+    install(second.opened.handset);
+    QVERIFY(makeSession(first));
+    QCOMPARE(screen.updates(), 0);
+    QVERIFY(makeSession(second));
+    QCOMPARE(screen.updates(), 3);
+    install(second.opened.handset); // once more changes nothing
+    QVERIFY(makeSession(second));
+    QCOMPARE(screen.updates(), 3);
+    install(nullptr);
+    QVERIFY(makeSession(second));
+    QCOMPARE(screen.updates(), 0);
+
+    // Nor does one that was replaced tell of its end.
+    install(first.opened.handset);
+    QCOMPARE(first->packets().startSession("x", 1, 1), int(Success));
+    QCOMPARE(screen.updates(), 1);
+    first.close();
+    install(second.opened.handset);
+    QCOMPARE(screen.updates(), 0);
+}
+
+void TestBroadcast::aTelephoneWithoutPacketDataCanBeInstalled()
+{
+    const Phone phone;
+    install(std::make_shared<PlainHandset>());
+    install(phone.opened.handset);
+    install(std::make_shared<PlainHandset>());
+    Screen screen;
+    QCOMPARE(phone->packets().startSession("x", 1, 1), int(Success));
+    QCOMPARE(screen.updates(), 0);
+}
+
+void TestBroadcast::anotherProcessIsToldUpToTheEndOfTheApplication()
+{
+    const StateDir state;
+    QCopChannel channel("/KAV/phone");
+    const QSignalSpy spy(&channel, &QCopChannel::received);
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    endWithParent(process);
+    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
+                  {QStringLiteral("leave-session"), state.path()});
+    QVERIFY(process.waitForFinished(60'000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 2, 60'000); // the beginning and the end
+    QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")});
+    const QString finished = QString::number(static_cast<int>(calllog::CallState::Finished));
+    QCOMPARE(LogFile(state.database()).sessions(), QStringList{QStringLiteral("1 x 9000 9 18 ") + finished});
+}
+
+QTEST_GUILESS_MAIN(TestBroadcast)
+#include "tst_broadcast.moc"
