@@ -68,6 +68,33 @@ QString closeTrace(const char *function, int line)
         .arg(line);
 }
 
+// Notes the closing and the deletion of a screen, and whether the trace was written by then.
+class CloseWatch : public QObject
+{
+public:
+    CloseWatch(QWidget *watchedScreen, const TraceCapture &traceStream, const QString &expectedTrace)
+        : traces(traceStream)
+        , trace(expectedTrace)
+    {
+        watchedScreen->installEventFilter(this);
+        connect(watchedScreen, &QObject::destroyed, this, [this] { events.append(QStringLiteral("deleted")); });
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Close)
+            events.append(traces.text().endsWith(trace) ? QStringLiteral("closed after the trace")
+                                                        : QStringLiteral("closed before the trace"));
+        return false;
+    }
+
+    QStringList events;
+
+private:
+    const TraceCapture &traces;
+    const QString trace;
+};
+
 // The detail screen leaves its meter behind; a test takes it away, so that only the screen's own leak is suppressed.
 void deleteLeftMeter(PHONE_UI_RecentCallMeter *meter)
 {
@@ -87,6 +114,7 @@ private slots:
     void rowsShowNamesOnlyAndSessionsAreAskedOnce();
     void aSessionWithoutAnAccessPointHasTheSeparatorsFallback();
     void theFrameIsTheCommonOne();
+    void bothScreensAreFramesOfTheirOwnClasses();
     void slotsAndSignalsHaveTheirOrder();
     void backAndClearEmitCloseWidgetOnceEach();
     void choosingASeparatorOpensNothing();
@@ -94,26 +122,36 @@ private slots:
     void choosingASessionOpensItsDetail();
     void choosingTheTotalOpensTheDetailOfAllSessionsWithPlainTexts();
     void closingADetailTracesClosesDeletesAndRebuilds();
+    void theTraceComesBeforeTheClosingAndThatBeforeTheDeletion();
     void aClosingSignalWithoutADetailRebuildsAllTheSame();
     void theResetIsAskedForAndYesLeavesTheListAlone();
     void noToTheResetChangesNothing();
+    void aFailedResetLeavesTheListAloneToo();
 
     void theUpdateMessageMakesANewMeterAndRebuildsTheList();
     void otherMessagesChangeNothing_data();
     void otherMessagesChangeNothing();
+    void aMessageIsComparedUpToItsNul();
+    void anUpdateWhoseQueryFailsShowsFallbackNames();
     void anUpdateLeavesAnOpenDetailAlone();
+    void anUpdateLeavesAnOpenQuestionAlone();
     void aBroadcastReachesTheScreenThroughTheEventLoop();
     void aBroadcastOnAnotherChannelDoesNot();
-    void manyUpdatesWithSelectionsInBetweenDoNoHarm();
+    void aBroadcastAfterTheScreenIsGoneReachesNobody();
+    void everyOneOfTenThousandBroadcastsArrivesWithSelectionsInBetween();
 
     void destroyingTracesClosesThenDeletes();
+    void destroyingTakesMeterQuestionAndDetailAlong();
     void destroyingNothingDoesNothing();
     void failedQueriesShowFallbackNames();
+    void aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway();
 
     void aDetailHasItsHeadingsAndFigures_data();
     void aDetailHasItsHeadingsAndFigures();
     void aDetailOfNoSlotHasNoFiguresAndStillANotice();
     void aDetailsHeadingsLieWhereTheyShould();
+    void theListOfADetailCoversItsHeadings();
+    void aDetailLeavesItsMeterBehind();
     void choosingAFigureTellsItAsTheMeterHasIt_data();
     void choosingAFigureTellsItAsTheMeterHasIt();
     void aChosenSeparatorOpensAnEmptyNotice();
@@ -132,6 +170,8 @@ private:
     void tell(const QByteArray &message);
     QPointer<DetailView> openDetail(int row);
     void closeDetail();
+    QString nextBroadcast();
+    void select(int step);
 };
 
 void TestDataVolumes::init()
@@ -218,6 +258,17 @@ void TestDataVolumes::theFrameIsTheCommonOne()
     QCOMPARE(PhoneScreen::softkey(screen(), ZSoftKey::LeftKey), QString());
     QCOMPARE(PhoneScreen::softkey(screen(), ZSoftKey::RightKey), QString("Back"));
     QCOMPARE(screen()->className(), "PHONE_UI_RecentCallDataVolumesView");
+}
+
+void TestDataVolumes::bothScreensAreFramesOfTheirOwnClasses()
+{
+    QCOMPARE(View::staticMetaObject.superClass()->className(), "ZKbMainWidget");
+    QCOMPARE(DetailView::staticMetaObject.superClass()->className(), "ZKbMainWidget");
+    QWidget host;
+    const DataVolumes inside("dataVolume", &host, "dataVolume");
+    QCOMPARE(inside->parentWidget(), &host);
+    QCOMPARE(inside->objectName(), QString("dataVolume"));
+    QVERIFY(inside->isHidden());
 }
 
 void TestDataVolumes::slotsAndSignalsHaveTheirOrder()
@@ -316,6 +367,20 @@ void TestDataVolumes::closingADetailTracesClosesDeletesAndRebuilds()
     deleteLeftMeter(left);
 }
 
+void TestDataVolumes::theTraceComesBeforeTheClosingAndThatBeforeTheDeletion()
+{
+    open();
+    const QPointer<DetailView> opened = openDetail(1);
+    PHONE_UI_RecentCallMeter *left = opened->*exposed(DetailMeter());
+    const CloseWatch detailWatch(opened, *traces, closeTrace("slotCloseWgt", 178));
+    call("slotCloseWgt");
+    QCOMPARE(detailWatch.events, QStringList({"closed after the trace", "deleted"}));
+    deleteLeftMeter(left);
+    const CloseWatch screenWatch(screen(), *traces, closeTrace("destroy_dataVolume", 282));
+    hosted->destroy();
+    QCOMPARE(screenWatch.events, QStringList({"closed after the trace", "deleted"}));
+}
+
 void TestDataVolumes::aClosingSignalWithoutADetailRebuildsAllTheSame()
 {
     open();
@@ -357,6 +422,18 @@ void TestDataVolumes::noToTheResetChangesNothing()
     call("slotNo"); // with nothing open
 }
 
+void TestDataVolumes::aFailedResetLeavesTheListAloneToo()
+{
+    open();
+    script().fail("PacketData::resetTotalBytes", 9);
+    PhoneScreen::chooseRow(screen(), resetRow);
+    QSignalSpy inserted(PhoneScreen::list(screen())->model(), &QAbstractItemModel::rowsInserted);
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QVERIFY(!dialog());
+    QCOMPARE(inserted.size(), 0);
+    QVERIFY(traces->text().contains("TAPI_GPRS_ResetTotalDataBytes failed.9"));
+}
+
 void TestDataVolumes::theUpdateMessageMakesANewMeterAndRebuildsTheList()
 {
     open();
@@ -395,6 +472,23 @@ void TestDataVolumes::otherMessagesChangeNothing()
     QCOMPARE(inserted.size(), 0);
 }
 
+void TestDataVolumes::aMessageIsComparedUpToItsNul()
+{
+    open();
+    journal.clear();
+    tell(update + QByteArray("\0and more", 9));
+    QCOMPARE(journal.lines(), QStringList("PacketData::sessions"));
+}
+
+void TestDataVolumes::anUpdateWhoseQueryFailsShowsFallbackNames()
+{
+    open();
+    script().fail("PacketData::sessions", 1);
+    tell(update);
+    QCOMPARE(PhoneScreen::shownRows(screen()),
+             rows("GPRS Data Session 1", "GPRS Data Session 2", "GPRS Data Session 3"));
+}
+
 void TestDataVolumes::anUpdateLeavesAnOpenDetailAlone()
 {
     open();
@@ -409,6 +503,21 @@ void TestDataVolumes::anUpdateLeavesAnOpenDetailAlone()
     QSignalSpy inserted(PhoneScreen::list(screen())->model(), &QAbstractItemModel::rowsInserted);
     closeDetail();
     QCOMPARE(inserted.size(), 7);
+}
+
+void TestDataVolumes::anUpdateLeavesAnOpenQuestionAlone()
+{
+    open();
+    PhoneScreen::chooseRow(screen(), resetRow);
+    const QPointer<ZMessageDlg> question = dialog();
+    script().answer("PacketData::sessions", sessions("a", "b", "c"));
+    tell(update);
+    QVERIFY(question && question->isVisible());
+    QCOMPARE(PhoneScreen::rows(screen()), rows("a", "b", "c"));
+    journal.clear();
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QVERIFY(!question);
+    QCOMPARE(journal.lines(), QStringList("PacketData::resetTotalBytes"));
 }
 
 void TestDataVolumes::aBroadcastReachesTheScreenThroughTheEventLoop()
@@ -433,30 +542,72 @@ void TestDataVolumes::aBroadcastOnAnotherChannelDoesNot()
     QCOMPARE(journal.lines(), QStringList());
 }
 
-void TestDataVolumes::manyUpdatesWithSelectionsInBetweenDoNoHarm()
+void TestDataVolumes::aBroadcastAfterTheScreenIsGoneReachesNobody()
 {
-#ifdef QT_NO_DEBUG
-    constexpr int updates = 10'000;
-#else
-    constexpr int updates = 2'000;
-#endif
+    open();
+    QCopChannel::send(channel, update); // on its way while the screen goes
+    hosted.reset();
+    journal.clear();
+    QCopChannel witness(channel);
+    QSignalSpy received(&witness, &QCopChannel::received);
+    QCopChannel::send(channel, update);
+    QTRY_COMPARE(received.size(), 1);
+    QCOMPARE(journal.lines(), QStringList());
+}
+
+// Changes the first session's name, tells so as the phone does, and answers the name.
+QString TestDataVolumes::nextBroadcast()
+{
+    static int number = 0;
+    const QByteArray name = "network " + QByteArray::number(++number);
+    script().answer("PacketData::sessions", sessions(name.constData(), "", "wap"));
+    QCopChannel::send(channel, update);
+    QCoreApplication::processEvents();
+    return QString::fromLatin1(name);
+}
+
+// What a person does between two broadcasts: a detail that stays open over some, one that goes at once, and the
+// question before the reset, with one broadcast while it is open.
+void TestDataVolumes::select(int step)
+{
+    switch (step % 10) {
+    case 0:
+        openDetail(1 + step / 10 % 3);
+        break;
+    case 4:
+        closeDetail();
+        break;
+    case 5:
+        openDetail(totalRow);
+        closeDetail();
+        break;
+    case 7:
+        PhoneScreen::chooseRow(screen(), resetRow);
+        break;
+    case 8:
+        PhoneScreen::press(step / 10 % 2 == 0 ? PhoneKey::LeftSoftkey : PhoneKey::RightSoftkey);
+        break;
+    }
+}
+
+void TestDataVolumes::everyOneOfTenThousandBroadcastsArrivesWithSelectionsInBetween()
+{
+    constexpr int broadcasts = 10'000;
     const TraceSink quiet;
     open();
     journal.setMuted(true);
-    for (int i = 0; i < updates; ++i) {
-        tell(update);
-        if (i % 10 == 0)
-            openDetail(1 + i / 10 % 3);
-        if (i % 10 == 5)
-            closeDetail();
-        if (i % 10 == 7) {
-            PhoneScreen::chooseRow(screen(), resetRow);
-            PhoneScreen::press(i % 20 == 7 ? PhoneKey::LeftSoftkey : PhoneKey::RightSoftkey);
-        }
+    int asked = 0;
+    script().whenCalled("PacketData::sessions", [&] { ++asked; });
+    for (int i = 0; i < broadcasts; ++i) {
+        const int askedBefore = asked;
+        const QString name = nextBroadcast();
+        QCOMPARE(asked, askedBefore + 1);
+        QCOMPARE(PhoneScreen::rows(screen()), rows(name, "GPRS Data Session 2", "wap"));
+        select(i);
+        QCOMPARE(detail() != nullptr, i % 10 < 4);
+        QCOMPARE(dialog() != nullptr, i % 10 == 7);
     }
-    closeDetail();
-    journal.setMuted(false);
-    QCOMPARE(PhoneScreen::shownRows(screen()), rows("internet", "mms", "wap"));
+    QCOMPARE(asked, broadcasts + broadcasts / 10); // and once for each session's detail
 }
 
 void TestDataVolumes::destroyingTracesClosesThenDeletes()
@@ -468,6 +619,22 @@ void TestDataVolumes::destroyingTracesClosesThenDeletes()
     QVERIFY(!opened);
     QCOMPARE(traces->text().right(closeTrace("destroy_dataVolume", 282).size()),
              closeTrace("destroy_dataVolume", 282));
+}
+
+void TestDataVolumes::destroyingTakesMeterQuestionAndDetailAlong()
+{
+    open();
+    const QPointer<DetailView> opened = openDetail(2);
+    const std::unique_ptr<PHONE_UI_RecentCallMeter> left(opened->*exposed(DetailMeter()));
+    auto *item = static_cast<ZSettingItem *>(PhoneScreen::list(screen())->item(resetRow));
+    QMetaObject::invokeMethod(screen(), "slotSelectedItem", Q_ARG(ZSettingItem *, item));
+    const QPointer<ZMessageDlg> question = dialog();
+    const QPointer<PHONE_UI_RecentCallMeter> meter(screen()->*exposed(VolumesMeter()));
+    QVERIFY(question && meter);
+    hosted->destroy();
+    QVERIFY(!opened);
+    QVERIFY(!question);
+    QVERIFY(!meter);
 }
 
 void TestDataVolumes::destroyingNothingDoesNothing()
@@ -488,6 +655,27 @@ void TestDataVolumes::failedQueriesShowFallbackNames()
     closeDetail();
     QVERIFY(openDetail(totalRow));
     QCOMPARE(PhoneScreen::rows(detail()).mid(2), QStringList({"Sent|0 B", "Received|0 B", "Sum|0 B"}));
+}
+
+void TestDataVolumes::aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway()
+{
+    const QStringList zeroes = {"Sent|0 B", "Received|0 B", "Sum|0 B"};
+    open();
+    script().fail("PacketData::totalBytes", 2);
+    QVERIFY(openDetail(totalRow));
+    QCOMPARE(PhoneScreen::rows(detail()).mid(2), zeroes);
+    closeDetail();
+    QVERIFY(openDetail(1));
+    QCOMPARE(PhoneScreen::rows(detail()).mid(2), QStringList({"Sent|10 B", "Received|20 B", "Sum|30 B"}));
+    closeDetail();
+    script().succeed("PacketData::totalBytes");
+    script().fail("PacketData::sessions", 2);
+    QVERIFY(openDetail(1));
+    QCOMPARE(PhoneScreen::rows(detail()).at(1), QString("internet|")); // the name that the list still has
+    QCOMPARE(PhoneScreen::rows(detail()).mid(2), zeroes);
+    closeDetail();
+    QVERIFY(openDetail(totalRow));
+    QCOMPARE(PhoneScreen::rows(detail()).mid(2), QStringList({"Sent|111 B", "Received|222 B", "Sum|777 B"}));
 }
 
 // --- the detail screen
@@ -529,13 +717,21 @@ void TestDataVolumes::aDetailOfNoSlotHasNoFiguresAndStillANotice()
     for (const int slot : {0, 4, 6, -1, INT_MAX, INT_MIN}) {
         DetailView view(QStringLiteral("y"), QStringLiteral("z"), slot, nullptr, nullptr);
         view.show();
+        QCOMPARE(journal.take(), QStringList("PacketData::sessions"));
         QCOMPARE(PhoneScreen::rows(&view),
                  QStringList({"Current Data Session|", "z|", "Sent|", "Received|", "Sum|"}));
         QCOMPARE(view.getInstructTextY(), QString("y"));
-        PhoneScreen::chooseRow(&view, 2);
-        QVERIFY(view.*exposed(DetailDlg()));
-        QCOMPARE((view.*exposed(DetailDlg()))->message(), QString());
-        QCOMPARE((view.*exposed(DetailDlg()))->header(), QString("Data Volume"));
+        QCOMPARE(view.getIndex(), slot);
+        for (const int row : {2, 3, 4}) {
+            PhoneScreen::chooseRow(&view, row);
+            const QPointer<ZMessageDlg> notice = view.*exposed(DetailDlg());
+            QVERIFY(notice);
+            QCOMPARE(notice->message(), QString());
+            QCOMPARE(notice->header(), QString("Data Volume"));
+            PhoneScreen::press(PhoneKey::LeftSoftkey);
+            QVERIFY(!notice);
+        }
+        QCOMPARE(journal.lines(), QStringList());
         deleteLeftMeter(view.*exposed(DetailMeter()));
     }
 }
@@ -554,13 +750,46 @@ void TestDataVolumes::aDetailsHeadingsLieWhereTheyShould()
     QCOMPARE(PhoneScreen::list(detail())->geometry(), QRect(0, 0, content->width(), content->height()));
 }
 
+// The labels share the content area with the list; the list's own headings are what a person reads.
+void TestDataVolumes::theListOfADetailCoversItsHeadings()
+{
+    open();
+    QVERIFY(openDetail(2));
+    QWidget *content = detail()->getContentWidget(true);
+    ZListBox *list = PhoneScreen::list(detail());
+    const QImage shown = content->grab().toImage();
+    QCOMPARE(shown, list->grab().toImage());
+    const QList<ZLabel *> labels = content->findChildren<ZLabel *>();
+    for (ZLabel *label : labels)
+        label->hide();
+    QCOMPARE(content->grab().toImage(), shown);
+    list->hide();
+    QVERIFY(content->grab().toImage() != shown);
+}
+
+void TestDataVolumes::aDetailLeavesItsMeterBehind()
+{
+    auto view = std::make_unique<DetailView>(QString(), QStringLiteral("z"), 1, nullptr, nullptr);
+    const QPointer<PHONE_UI_RecentCallMeter> left(view.get()->*exposed(DetailMeter()));
+    view.reset();
+    QVERIFY(left);
+    QCOMPARE(left->getRDV_Session1_Sent(), QString("10 B"));
+    deleteLeftMeter(left);
+}
+
 void TestDataVolumes::choosingAFigureTellsItAsTheMeterHasIt_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("figure");
     QTest::addColumn<QString>("message");
     QTest::newRow("sent of the first") << 1 << 2 << "Your sent data volume is 10 B";
+    QTest::newRow("received of the first") << 1 << 3 << "Your received data volume is 20 B";
+    QTest::newRow("sum of the first") << 1 << 4 << "Your total data transfer volume is 30 B";
+    QTest::newRow("sent of the second") << 2 << 2 << "Your sent data volume is 300 B";
     QTest::newRow("received of the second") << 2 << 3 << "Your received data volume is 400 B";
+    QTest::newRow("sum of the second") << 2 << 4 << "Your total data transfer volume is 700 B";
+    QTest::newRow("sent of the third") << 3 << 2 << "Your sent data volume is 4000000000 B";
+    QTest::newRow("received of the third") << 3 << 3 << "Your received data volume is 400000000 B";
     QTest::newRow("sum of the third") << 3 << 4 << "Your total data transfer volume is 105032704 B";
     QTest::newRow("sent of all") << totalRow << 2 << "Your sent data volume is 111 B";
     QTest::newRow("received of all") << totalRow << 3 << "Your received data volume is 222 B";
