@@ -30,8 +30,9 @@ protected:
         static_assert(operation >= 0, "an operation has a row in the table of names");
         if (const int code = faults.code(operation))
             return code;
-        return ((behind.*accessor)()->*call)(arguments...);
+        return (real().*call)(arguments...);
     }
+    Role &real() { return *(behind.*accessor)(); }
 
 private:
     handset::Handset &behind;
@@ -215,6 +216,8 @@ public:
     {
         return run<operationIndex("TAPI_GPRS_ResetTotalDataBytes")>(&PacketData::resetTotalBytes);
     }
+    // No operation of the phone's libraries: it cannot fail.
+    void setUpdateListener(const std::function<void()> &listener) override { real().setUpdateListener(listener); }
 };
 
 class FaultySimSecurity final : public FaultyRole<handset::SimSecurity, &handset::Handset::simSecurity>

@@ -6,16 +6,20 @@
 #include "ReadyMadeHistory.h"
 #include "ScreenTable.h"
 #include "Status.h"
+#include "UpdateBroadcast.h"
 #include "ZApplication.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QTextStream>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
+#include <QtGui/QKeyEvent>
 
 namespace host::tour {
 
 using handset::CallDirection;
-using LineState = handset::simulated::SimulatedTelephone::LineState;
+using Telephone = handset::simulated::SimulatedTelephone;
+using LineState = Telephone::LineState;
 
 namespace {
 
@@ -35,6 +39,24 @@ QString lineWord(LineState state)
         break;
     }
     return QStringLiteral("connected");
+}
+
+void typeText(const Key &key)
+{
+    QWidget *target = ZApplication::keyTarget();
+    if (!target)
+        return;
+    const auto shift = key.text.front().isUpper() ? Qt::ShiftModifier : Qt::NoModifier;
+    QKeyEvent press(QEvent::KeyPress, key.qtKey, shift, key.text);
+    QCoreApplication::sendEvent(target, &press);
+}
+
+void pressKey(const Key &key)
+{
+    if (key.text.isNull())
+        ZApplication::pressKey(key.qtKey);
+    else
+        typeText(key);
 }
 
 } // namespace
@@ -87,7 +109,7 @@ void TourPlayer::collectMoves(const Script &played)
     for (const Step &step : played.steps) {
         moves.append(Move{&step, {}});
         if (const auto *press = std::get_if<Press>(&step.action)) {
-            for (const int key : press->keys)
+            for (const Key &key : press->keys)
                 moves.append(Move{&step, key});
         }
     }
@@ -156,7 +178,7 @@ void TourPlayer::act(const Move &move)
     if (stopped)
         return;
     if (move.key) {
-        ZApplication::pressKey(*move.key);
+        pressKey(*move.key);
         return;
     }
     if (move.step->line > 0)
@@ -201,6 +223,7 @@ void TourPlayer::openTelephone(const QString &directory)
     screens.close();
     handset::install(nullptr);
     telephone = nullptr;
+    installed.reset();
     owner.reset();
     const handset::Opened opened = handset::open({options.backend, directory, clock});
     if (!opened.notice.isEmpty())
@@ -211,7 +234,8 @@ void TourPlayer::openTelephone(const QString &directory)
     }
     owner = opened.handset;
     telephone = dynamic_cast<handset::simulated::SimulatedTelephone *>(owner.get());
-    handset::install(owner);
+    installed = std::make_shared<FaultyHandset>(owner);
+    handset::install(installed);
 }
 
 void TourPlayer::freshDisplay()
@@ -223,47 +247,128 @@ void TourPlayer::freshDisplay()
     menu->takeFocus();
 }
 
+template <typename Call>
+void TourPlayer::drive(Call call)
+{
+    checkStatus(telephone ? call(*telephone) : static_cast<int>(handset::NotAvailable));
+}
+
+template <typename Call>
+void TourPlayer::adviseOfCharge(Call call)
+{
+    handset::AdviceOfCharge *advice = owner->adviceOfCharge();
+    checkStatus(advice ? call(*advice) : static_cast<int>(handset::NotAvailable));
+}
+
 void TourPlayer::perform(const MakeCall &action)
 {
-    const bool dialed = action.direction == CallDirection::Dialed;
     if (!telephone) {
         checkStatus(handset::NotAvailable);
         return;
     }
+    const bool dialed = action.direction == CallDirection::Dialed;
     checkStatus(dialed ? telephone->dial(action.number, action.kind) : telephone->ring(action.number));
     checkStatus(dialed ? telephone->remoteAnswer() : telephone->answer());
-    clock->advance(action.durationMs);
-    checkStatus(telephone->hangUp());
+    perform(MoveClock{action.durationMs});
+    if (telephone->lineState() != LineState::Idle) // else the telephone has ended it
+        checkStatus(telephone->hangUp());
 }
 
 void TourPlayer::perform(const Dial &action)
 {
-    checkStatus(telephone ? telephone->dial(action.number, action.kind) : int{handset::NotAvailable});
+    drive([&](Telephone &driven) { return driven.dial(action.number, action.kind); });
 }
 
 void TourPlayer::perform(const Ring &action)
 {
-    checkStatus(telephone ? telephone->ring(action.number) : int{handset::NotAvailable});
+    drive([&](Telephone &driven) { return driven.ring(action.number); });
 }
 
 void TourPlayer::perform(const Answer &)
 {
-    if (!telephone) {
-        checkStatus(handset::NotAvailable);
-        return;
-    }
-    const bool weCalled = telephone->lineState() == LineState::Dialing;
-    checkStatus(weCalled ? telephone->remoteAnswer() : telephone->answer());
+    drive([](Telephone &driven) {
+        return driven.lineState() == LineState::Dialing ? driven.remoteAnswer() : driven.answer();
+    });
 }
 
 void TourPlayer::perform(const HangUp &)
 {
-    checkStatus(telephone ? telephone->hangUp() : int{handset::NotAvailable});
+    drive([](Telephone &driven) { return driven.hangUp(); });
 }
 
+// The telephone's own timers know nothing of the tour's clock.
 void TourPlayer::perform(const MoveClock &action)
 {
     clock->advance(action.ms);
+    if (telephone)
+        checkStatus(telephone->checkpoint());
+}
+
+void TourPlayer::perform(const SetTariff &action)
+{
+    drive([&](Telephone &driven) { return driven.charging().setTariff(action.direction, action.tariff); });
+}
+
+void TourPlayer::perform(const TopUp &action)
+{
+    drive([&](Telephone &driven) { return driven.charging().topUp(action.amount, action.expires); });
+}
+
+void TourPlayer::perform(const SetChargeType &action)
+{
+    adviseOfCharge([&](handset::AdviceOfCharge &advice) { return advice.setChargeType(action.type); });
+}
+
+void TourPlayer::perform(const SetPrice &action)
+{
+    adviseOfCharge([&](handset::AdviceOfCharge &advice) {
+        return advice.setPriceAndCurrency(action.price, action.currency);
+    });
+}
+
+void TourPlayer::perform(const SetLimit &action)
+{
+    adviseOfCharge([&](handset::AdviceOfCharge &advice) {
+        return action.maximum.isNull() ? advice.disableMeterMaximum() : advice.setMeterMaximum(action.maximum);
+    });
+}
+
+void TourPlayer::perform(const SetRule &action)
+{
+    drive([&](Telephone &driven) { return driven.simCard().setUpdateRule(action.file, action.rule); });
+}
+
+void TourPlayer::perform(const SetPin2 &action)
+{
+    drive([&](Telephone &driven) {
+        return action.kind == SetPin2::Forgotten ? driven.simCard().powerCycle()
+                                                 : driven.simCard().setPin2Enabled(action.kind == SetPin2::On);
+    });
+}
+
+void TourPlayer::perform(const Fail &action)
+{
+    if (action.operation < 0)
+        installed->faults().clear();
+    else
+        installed->faults().set(action.operation, action.code);
+}
+
+void TourPlayer::perform(const StartSession &action)
+{
+    drive([&](Telephone &driven) {
+        return driven.packets().startSession(action.apn, action.sentPerSecond, action.receivedPerSecond);
+    });
+}
+
+void TourPlayer::perform(const StopSession &)
+{
+    drive([](Telephone &driven) { return driven.packets().stopSession(); });
+}
+
+void TourPlayer::perform(const Broadcast &)
+{
+    handset::broadcastUpdate();
 }
 
 void TourPlayer::checkStatus(int status)

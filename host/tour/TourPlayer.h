@@ -7,6 +7,7 @@
 #include "ScreenHost.h"
 #include "SimulatedTelephone.h"
 #include "TourScript.h"
+#include "faults/FaultyHandset.h"
 #include "phone/Display.h"
 
 #include <QtCore/QEventLoop>
@@ -44,6 +45,17 @@ private:
     void perform(const Answer &action);
     void perform(const HangUp &action);
     void perform(const MoveClock &action);
+    void perform(const SetTariff &action);
+    void perform(const TopUp &action);
+    void perform(const SetChargeType &action);
+    void perform(const SetPrice &action);
+    void perform(const SetLimit &action);
+    void perform(const SetRule &action);
+    void perform(const SetPin2 &action);
+    void perform(const Fail &action);
+    void perform(const StartSession &action);
+    void perform(const StopSession &action);
+    void perform(const Broadcast &action);
     void perform(const Open &action);
     void perform(const Press &) {} // its keys are moves of their own
     void perform(const Expect &action);
@@ -53,7 +65,7 @@ private:
     /// What is done in one turn: a step, or one of the keys it presses.
     struct Move {
         const Step *step;
-        std::optional<int> key;
+        std::optional<Key> key;
     };
 
     void collectMoves(const Script &script);
@@ -63,6 +75,10 @@ private:
     bool closesScreens() const;
     bool unblock();
     void act(const Move &move);
+    template <typename Call>
+    void drive(Call call);
+    template <typename Call>
+    void adviseOfCharge(Call call);
     void openTelephone(const QString &directory);
     void freshDisplay();
     void look();
@@ -82,6 +98,7 @@ private:
 
     std::shared_ptr<handset::ManualClock> clock;
     std::shared_ptr<handset::Handset> owner;
+    std::shared_ptr<FaultyHandset> installed; // in front of it
     handset::simulated::SimulatedTelephone *telephone = nullptr;
     Display display;
     std::unique_ptr<MenuScreen> menu;

@@ -1,7 +1,9 @@
 #include "TourScript.h"
 
 #include "ScreenTable.h"
+#include "faults/Operations.h"
 
+#include <QtCore/QDate>
 #include <QtCore/QRegularExpression>
 
 #include <algorithm>
@@ -12,8 +14,10 @@ namespace host::tour {
 
 namespace {
 
+using handset::AdviceOfCharge;
 using handset::CallDirection;
 using handset::CallKind;
+using handset::sim::Tariff;
 
 constexpr qint64 longestMs = qint64{100} * 365 * 24 * 3600 * 1000;
 constexpr int mostRepeats = 1000;
@@ -143,7 +147,7 @@ Parsed parseOpen(const QString &rest)
 }
 
 // "down" or "down*3"; false when it is neither.
-bool appendKeys(const QString &word, QList<int> &keys)
+bool appendKeys(const QString &word, QList<Key> &keys)
 {
     const qsizetype star = word.indexOf(u'*', 1);
     bool isNumber = true;
@@ -151,19 +155,215 @@ bool appendKeys(const QString &word, QList<int> &keys)
     const int key = keyOf(star < 0 ? word : word.left(star));
     if (!key || !isNumber || times < 1 || times > mostRepeats)
         return false;
-    keys.append(QList<int>(times, key));
+    keys.append(QList<Key>(times, Key{key, {}}));
+    return true;
+}
+
+// What a keyboard types; false for a character that Qt's Latin-1 keys do not have.
+bool appendTyped(const QString &text, QList<Key> &keys)
+{
+    for (const QChar character : text) {
+        const char16_t code = character.toUpper().unicode();
+        if (code < 0x20 || code > 0xff)
+            return false;
+        keys.append({static_cast<int>(code), QString(character)});
+    }
     return true;
 }
 
 Parsed parsePress(const QString &rest)
 {
+    static const QRegularExpression form(QStringLiteral("\\G\\s*(?:\"([^\"]*)\"|([^\\s\"]+))(?=\\s|$)"));
     Press press;
-    const QStringList words = wordsOf(rest);
-    for (const QString &word : words) {
-        if (!appendKeys(word, press.keys))
+    for (qsizetype at = 0; at < rest.size();) {
+        const QRegularExpressionMatch match = form.match(rest, at);
+        const bool isTyped = match.hasMatch() && match.hasCaptured(1);
+        const QString word = match.hasMatch() ? match.captured(isTyped ? 1 : 2) : rest.mid(at).trimmed();
+        const bool isKnown =
+            match.hasMatch() && (isTyped ? appendTyped(word, press.keys) : appendKeys(word, press.keys));
+        if (!isKnown)
             return Parsed::wrong(QStringLiteral("there is no key \"%1\"").arg(word));
+        at = match.capturedEnd();
     }
     return press.keys.isEmpty() ? Parsed::wrong(QStringLiteral("which key?")) : done(press);
+}
+
+// --- charging and the SIM card
+
+template <typename Value>
+struct NamedValue {
+    const char *name;
+    Value value;
+};
+
+// Nothing for a name that the table does not have.
+template <typename Value, std::size_t size>
+std::optional<Value> valueOf(const std::array<NamedValue<Value>, size> &table, const QString &name)
+{
+    for (const NamedValue<Value> &row : table) {
+        if (name == QLatin1StringView(row.name))
+            return row.value;
+    }
+    return {};
+}
+
+constexpr std::array<NamedValue<quint8>, 3> fileNames{{
+    {"acm", AdviceOfCharge::AcmFile},
+    {"acmmax", AdviceOfCharge::AcmMaxFile},
+    {"puct", AdviceOfCharge::PuctFile},
+}};
+constexpr std::array<NamedValue<quint8>, 3> ruleNames{{
+    {"free", AdviceOfCharge::FreeUpdate},
+    {"pin2", AdviceOfCharge::UpdateUnderPin2},
+    {"never", AdviceOfCharge::NoUpdate},
+}};
+constexpr std::array<NamedValue<quint8>, 2> chargeTypeNames{{
+    {"units", AdviceOfCharge::InUnits},
+    {"currency", AdviceOfCharge::InCurrency},
+}};
+constexpr std::array<NamedValue<SetPin2::Kind>, 3> pin2Names{{
+    {"on", SetPin2::On},
+    {"off", SetPin2::Off},
+    {"forgotten", SetPin2::Forgotten},
+}};
+
+bool isAmount(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^[0-9]+(?:\\.[0-9]+)?$"));
+    return form.match(text).hasMatch();
+}
+
+// A tariff's number: tenths, 0 to the greatest; nothing for another.
+std::optional<quint16> tenthsOf(qint64 tenths)
+{
+    const bool fits = tenths >= 0 && tenths <= Tariff::greatestElement;
+    return fits ? std::optional(static_cast<quint16>(tenths)) : std::nullopt;
+}
+
+std::optional<quint16> unitTenths(const QString &text)
+{
+    static const QRegularExpression form(QStringLiteral("^([0-9]{1,3})(?:\\.([0-9]))?$"));
+    const QRegularExpressionMatch match = form.match(text);
+    return match.hasMatch() ? tenthsOf(match.captured(1).toInt() * 10 + match.captured(2).toInt()) : std::nullopt;
+}
+
+std::optional<quint16> intervalTenths(const QString &text)
+{
+    const qint64 ms = parseDuration(text);
+    return ms > 0 && ms % 100 == 0 ? tenthsOf(ms / 100) : std::nullopt;
+}
+
+// "free", "1 per 10s", "1 per 10s start 2".
+std::optional<Tariff> tariffOf(const QStringList &words)
+{
+    Tariff tariff;
+    if (words == QStringList{QStringLiteral("free")})
+        return tariff;
+    const bool hasStart = words.size() == 5 && words[3] == QLatin1StringView("start");
+    if (!(words.size() == 3 || hasStart) || words[1] != QLatin1StringView("per"))
+        return {};
+    const auto units = unitTenths(words[0]);
+    const auto interval = intervalTenths(words[2]);
+    const auto start = unitTenths(hasStart ? words[4] : QStringLiteral("0"));
+    if (!units || !interval || !start)
+        return {};
+    tariff.unitsPerInterval = *units;
+    tariff.interval = *interval;
+    tariff.unitsAtStart = *start;
+    return tariff;
+}
+
+Parsed parseTariff(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    const auto direction = directionOf(words.value(0));
+    const auto tariff = tariffOf(words.mid(1));
+    if (!direction || !tariff)
+        return Parsed::wrong(QStringLiteral(
+            "a tariff is \"tariff dialed|answered free\" or \"... UNITS per DURATION [start UNITS]\", to tenths"));
+    return done(SetTariff{*direction, *tariff});
+}
+
+Parsed parseTopUp(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    const QDate day = QDate::fromString(words.value(1), Qt::ISODate);
+    if (words.size() != 2 || !isAmount(words[0]) || !day.isValid() || words[1].size() != 10)
+        return Parsed::wrong(QStringLiteral("paying in is \"topup AMOUNT YYYY-MM-DD\""));
+    return done(TopUp{
+        words[0],
+        {static_cast<quint16>(day.year()), static_cast<quint8>(day.month()), static_cast<quint8>(day.day())}});
+}
+
+Parsed parseChargeType(const QString &rest)
+{
+    const auto type = valueOf(chargeTypeNames, rest);
+    return type ? done(SetChargeType{*type})
+                : Parsed::wrong(QStringLiteral("the charge type is \"units\" or \"currency\""));
+}
+
+Parsed parsePrice(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    if (words.size() != 2 || !isAmount(words[0]))
+        return Parsed::wrong(QStringLiteral("a price is \"price AMOUNT CURRENCY\""));
+    return done(SetPrice{words[0], words[1]});
+}
+
+Parsed parseLimit(const QString &rest)
+{
+    if (rest == QLatin1StringView("off"))
+        return done(SetLimit{});
+    return isAmount(rest) ? done(SetLimit{rest})
+                          : Parsed::wrong(QStringLiteral("the limit is \"limit AMOUNT\" or \"limit off\""));
+}
+
+Parsed parseRule(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    const auto file = valueOf(fileNames, words.value(0));
+    const auto rule = valueOf(ruleNames, words.value(1));
+    if (!file || !rule || words.size() != 2)
+        return Parsed::wrong(QStringLiteral("a rule is \"rule acm|acmmax|puct free|pin2|never\""));
+    return done(SetRule{*file, *rule});
+}
+
+Parsed parsePin2(const QString &rest)
+{
+    const auto kind = valueOf(pin2Names, rest);
+    return kind ? done(SetPin2{*kind}) : Parsed::wrong(QStringLiteral("PIN2 is \"on\", \"off\" or \"forgotten\""));
+}
+
+// --- failures, packet data
+
+Parsed parseFail(const QString &rest)
+{
+    if (rest == QLatin1StringView("nothing"))
+        return done(Fail{});
+    const QStringList words = wordsOf(rest);
+    bool isNumber = false;
+    const int code = words.value(1).toInt(&isNumber);
+    if (words.size() != 2 || !isNumber)
+        return Parsed::wrong(QStringLiteral("failing is \"fail NAME CODE\" or \"fail nothing\""));
+    const int operation = operationIndex(words[0].toStdString());
+    if (operation < 0)
+        return Parsed::wrong(QStringLiteral("there is no operation \"%1\"").arg(words[0]));
+    return done(Fail{operation, code});
+}
+
+Parsed parseSession(const QString &rest)
+{
+    const QStringList words = wordsOf(rest);
+    if (words == QStringList{QStringLiteral("stop")})
+        return done(StopSession{});
+    bool isUp = false;
+    bool isDown = false;
+    const quint32 up = words.value(2).toUInt(&isUp);
+    const quint32 down = words.value(3).toUInt(&isDown);
+    if (words.size() != 4 || words[0] != QLatin1StringView("start") || !isUp || !isDown)
+        return Parsed::wrong(
+            QStringLiteral("a session is \"session start APN UP DOWN\", in bytes a second, and \"session stop\""));
+    return done(StartSession{words[1].toLatin1(), up, down});
 }
 
 // --- expectations
@@ -327,7 +527,7 @@ struct Command {
     Parsed (*parse)(const QString &rest);
 };
 
-constexpr std::array<Command, 12> commands{{
+constexpr std::array<Command, 22> commands{{
     {"state", &parseState},
     {"call", &parseCall},
     {"dial", &parseDial},
@@ -335,13 +535,23 @@ constexpr std::array<Command, 12> commands{{
     {"answer", &parseBare<Answer>},
     {"hangup", &parseBare<HangUp>},
     {"clock", &parseClock},
+    {"tariff", &parseTariff},
+    {"topup", &parseTopUp},
+    {"chargetype", &parseChargeType},
+    {"price", &parsePrice},
+    {"limit", &parseLimit},
+    {"rule", &parseRule},
+    {"pin2", &parsePin2},
+    {"fail", &parseFail},
+    {"session", &parseSession},
+    {"broadcast", &parseBare<Broadcast>},
     {"open", &parseOpen},
     {"press", &parsePress},
     {"expect", &parseExpect},
     {"photo", &parsePhoto},
     {"show", &parseBare<Show>},
 }};
-static_assert(commands.size() == std::variant_size_v<Action>);
+static_assert(commands.size() == std::variant_size_v<Action> - 1); // a session has two
 
 Parsed parseLine(const QString &line)
 {

@@ -1,7 +1,9 @@
 // The script of a tour: what to do, what to see.
 #pragma once
 
+#include "AdviceOfCharge.h"
 #include "Call.h"
+#include "ChargingControl.h"
 #include "ScreenText.h"
 
 #include <QtCore/QList>
@@ -35,11 +37,56 @@ struct HangUp {
 struct MoveClock {
     qint64 ms = 0;
 };
+struct SetTariff {
+    handset::CallDirection direction = handset::CallDirection::Dialed;
+    handset::sim::Tariff tariff;
+};
+struct TopUp {
+    QString amount;
+    handset::Date expires;
+};
+struct SetChargeType {
+    quint8 type = handset::AdviceOfCharge::InUnits;
+};
+struct SetPrice {
+    QString price;
+    QString currency;
+};
+struct SetLimit {
+    QString maximum; ///< null is none
+};
+struct SetRule {
+    quint8 file = handset::AdviceOfCharge::AcmFile;
+    quint8 rule = handset::AdviceOfCharge::FreeUpdate;
+};
+struct SetPin2 {
+    enum Kind { On, Off, Forgotten } kind = On;
+};
+struct Fail {
+    int operation = -1; ///< row of operationNames; -1: all work again
+    int code = 0;       ///< 0: the operation works again
+};
+struct StartSession {
+    QByteArray apn;
+    quint32 sentPerSecond = 0;
+    quint32 receivedPerSecond = 0;
+};
+struct StopSession {
+};
+struct Broadcast {
+};
 struct Open {
     int screen = 0; ///< row of the screen table
 };
+/// A key of the phone, or one of a keyboard, which types a text.
+struct Key {
+    int qtKey = 0;
+    QString text; ///< null for a key of the phone
+
+    friend bool operator==(const Key &, const Key &) = default;
+};
 struct Press {
-    QList<int> keys; ///< Qt::Key
+    QList<Key> keys;
 };
 struct Expect {
     Fact fact;
@@ -51,8 +98,9 @@ struct Photo {
 struct Show {
 };
 
-using Action =
-    std::variant<SetState, MakeCall, Dial, Ring, Answer, HangUp, MoveClock, Open, Press, Expect, Photo, Show>;
+using Action = std::variant<SetState, MakeCall, Dial, Ring, Answer, HangUp, MoveClock, SetTariff, TopUp,
+                            SetChargeType, SetPrice, SetLimit, SetRule, SetPin2, Fail, StartSession, StopSession,
+                            Broadcast, Open, Press, Expect, Photo, Show>;
 
 struct Step {
     int line = 0;   ///< in the script, from 1

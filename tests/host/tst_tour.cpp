@@ -34,6 +34,14 @@ private slots:
     void aKeptStateIsThereAtTheNextStart();
     void anUnusableKeptStateIsSaid();
     void tracesAreDroppedUnlessAskedFor();
+    void callsAreChargedAsTheScriptSays();
+    void theClockEndsACallThatReachesItsLimit();
+    void whatTheTelephoneRefusesIsTold_data();
+    void whatTheTelephoneRefusesIsTold();
+    void aTextIsTypedIntoAnEntryField();
+    void rulesAndPin2GuardTheSetup();
+    void operationsFailUntilTheyWorkAgain();
+    void aSessionCountsAndABroadcastIsHeard();
     void aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps();
     void aDialogThatBlocksGivesUpBeforeItsScreenGoes();
 
@@ -315,6 +323,158 @@ void TourTest::tracesAreDroppedUnlessAskedFor()
 {
     QVERIFY(!play("open callTime\n").output.contains("utility/"));
     QVERIFY(play("open callTime\n", {"--trace", "-"}).output.contains("utility/PHONE_UI_RecentCallMeter"));
+}
+
+void TourTest::callsAreChargedAsTheScriptSays()
+{
+    const HostResult result = play("price 0.23 EUR\n"
+                                   "chargetype currency\n"
+                                   "topup 20.00 2007-03-09\n"
+                                   "tariff dialed 1 per 10s start 2\n"
+                                   "tariff answered 0.5 per 1m\n"
+                                   "call dialed voice 65s\n"
+                                   "call answered voice 2m\n"
+                                   "open callCost\n"
+                                   "expect row 0 Credit Available | 17.71 EUR\n"
+                                   "expect row 1 Expiration Date | 2007:3:9\n"
+                                   "expect row 2 Last Deposit | 19.78 EUR\n"
+                                   "expect row 3 Last Call Cost | 0.23 EUR\n"
+                                   "expect row 4 Dialed Calls Cost | 1.84 EUR\n"
+                                   "expect row 5 Answered Calls Cost | 0.23 EUR\n"
+                                   "expect row 6 All Calls Cost | 2.07 EUR\n"
+                                   "tariff dialed free\n"
+                                   "chargetype units\n"
+                                   "call dialed voice 1h\n"
+                                   "open callCost\n"
+                                   "expect row 6 All Calls Cost | 9.00 units\n");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+}
+
+void TourTest::theClockEndsACallThatReachesItsLimit()
+{
+    const HostResult result = play("limit 3\n"
+                                   "dial 5550123\n"
+                                   "answer\n"
+                                   "clock +29s\n"
+                                   "expect line connected\n"
+                                   "clock +1s\n"
+                                   "expect line idle\n"
+                                   "limit off\n"
+                                   "call dialed voice 10s\n"
+                                   "limit 5\n"
+                                   "call dialed voice 1h\n"
+                                   "open callTime\n"
+                                   "expect row 0 Last Call | 00:00:10\n");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+}
+
+void TourTest::whatTheTelephoneRefusesIsTold_data()
+{
+    QTest::addColumn<QByteArray>("script");
+    QTest::addColumn<int>("status");
+    QTest::newRow("a currency of four letters") << QByteArray("\nprice 1 EURO\n") << 1;
+    QTest::newRow("a limit that no meter holds") << QByteArray("\nlimit 16777216\n") << 1;
+    QTest::newRow("a deposit of nothing") << QByteArray("\ntopup 0 2007-03-09\n") << 1;
+    QTest::newRow("a price that nobody may write") << QByteArray("rule puct never\nprice 1 EUR\n") << 6;
+    QTest::newRow("a call that may not be charged") << QByteArray("limit 1\ncall dialed voice 10s\ndial 1\n") << 6;
+    QTest::newRow("a second session") << QByteArray("session start a 1 1\nsession start b 1 1\n") << 4;
+    QTest::newRow("the end of no session") << QByteArray("\nsession stop\n") << 4;
+}
+
+void TourTest::whatTheTelephoneRefusesIsTold()
+{
+    QFETCH(QByteArray, script);
+    QFETCH(int, status);
+    const HostResult result = play(script);
+    QCOMPARE(result.code, 1);
+    const QString place = QString("%1:%2: ").arg(path("a.tour")).arg(script.count('\n'));
+    QVERIFY2(result.errors.contains(place + QString("seen:     status %1\n").arg(status)),
+             qPrintable(result.errors));
+}
+
+void TourTest::aTextIsTypedIntoAnEntryField()
+{
+    const HostResult result = play("limit 5\n"
+                                   "open callCost\n"
+                                   "press down*7 select\n"
+                                   "press down*5 select\n"
+                                   "expect header Adjust Credit Limit\n"
+                                   "press \"1Ab.\" 5 # \"6\"\n"
+                                   "expect entry 1Ab.6\n");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+}
+
+void TourTest::rulesAndPin2GuardTheSetup()
+{
+    const HostResult result = play("rule acmmax pin2\n"
+                                   "rule acm never\n"
+                                   "open callCost\n"
+                                   "press down*7 select\n"
+                                   "expect disabled 0\n"
+                                   "expect no disabled 4\n"
+                                   "press down*4 select\n"
+                                   "expect header Enter PIN2\n"
+                                   "press 1 2 3 4 left\n"
+                                   "expect header Credit Limit\n"
+                                   "press right\n"
+                                   "press select\n"
+                                   "expect header Credit Limit\n"
+                                   "press right\n"
+                                   "pin2 forgotten\n"
+                                   "press select\n"
+                                   "expect header Enter PIN2\n"
+                                   "press right\n"
+                                   "pin2 off\n"
+                                   "press select\n"
+                                   "expect header Credit Limit\n"
+                                   "press right\n"
+                                   "pin2 on\n"
+                                   "press select\n"
+                                   "expect header Enter PIN2\n");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+}
+
+void TourTest::operationsFailUntilTheyWorkAgain()
+{
+    const HostResult result = play("call dialed voice 65s\n"
+                                   "fail TAPI_LOG_GetLastCallTime 3\n"
+                                   "fail TAPI_LOG_GetDialedCallsTime -1\n"
+                                   "open callTime\n"
+                                   "expect row 0 Last Call | 00:00:00\n"
+                                   "expect row 1 Dialed Calls | 00:00:00\n"
+                                   "expect row 4 All Calls | 00:01:05\n"
+                                   "fail TAPI_LOG_GetLastCallTime 0\n"
+                                   "open callTime\n"
+                                   "expect row 0 Last Call | 00:01:05\n"
+                                   "expect row 1 Dialed Calls | 00:00:00\n"
+                                   "fail nothing\n"
+                                   "open callTime\n"
+                                   "expect row 1 Dialed Calls | 00:01:05\n"
+                                   "fail TAPI_LOG_GetLastCallTime 3\n"
+                                   "state empty\n"
+                                   "call dialed voice 5s\n"
+                                   "open callTime\n"
+                                   "expect row 0 Last Call | 00:00:05\n");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+}
+
+void TourTest::aSessionCountsAndABroadcastIsHeard()
+{
+    const HostResult result = play("open dataVolume\n"
+                                   "expect row 1 GPRS Data Session 1\n"
+                                   "session start internet 100 2000\n"
+                                   "expect row 1 internet\n"
+                                   "clock +10s\n"
+                                   "session stop\n"
+                                   "fail TAPI_GPRS_GetAllSessionInfo 2\n"
+                                   "expect row 1 internet\n"
+                                   "broadcast\n"
+                                   "expect row 1 GPRS Data Session 1\n"
+                                   "fail nothing\n"
+                                   "open dataTime\n"
+                                   "expect row 1 internet | 00:00:10\n"
+                                   "expect row 5 Total Time | 00:00:10\n");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
 void TourTest::aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps()

@@ -1,5 +1,6 @@
 // What a line of a script means.
 
+#include "faults/Operations.h"
 #include "tour/TourScript.h"
 
 #include <QtCore/QRegularExpression>
@@ -20,6 +21,10 @@ private slots:
     void keys_data();
     void keys();
     void calls();
+    void tariffs_data();
+    void tariffs();
+    void chargingAndTheSimCard();
+    void failuresAndPacketData();
     void expectedTextsAreReadAsThePhoneShowsThem_data();
     void expectedTextsAreReadAsThePhoneShowsThem();
     void whatIsPrintedCanBeExpected_data();
@@ -82,21 +87,36 @@ void TourScriptTest::durations()
 void TourScriptTest::keys_data()
 {
     QTest::addColumn<QString>("line");
-    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<QList<Key>>("keys");
+    const auto phone = [](std::initializer_list<int> qtKeys) {
+        QList<Key> keys;
+        for (const int qtKey : qtKeys)
+            keys.append(Key{qtKey, {}});
+        return keys;
+    };
     QTest::newRow("the six keys of a screen")
         << "press up down select left right clear"
-        << QList<int>{Qt::Key_Up, Qt::Key_Down, Qt::Key_Select, Qt::Key_Context1, Qt::Key_Context2, Qt::Key_Clear};
+        << phone({Qt::Key_Up, Qt::Key_Down, Qt::Key_Select, Qt::Key_Context1, Qt::Key_Context2, Qt::Key_Clear});
     QTest::newRow("digits and signs") << "press 0 9 * #"
-                                      << QList<int>{Qt::Key_0, Qt::Key_9, Qt::Key_Asterisk, Qt::Key_NumberSign};
+                                      << phone({Qt::Key_0, Qt::Key_9, Qt::Key_Asterisk, Qt::Key_NumberSign});
     QTest::newRow("again and again") << "press down*3 **2"
-                                     << QList<int>{Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Asterisk,
-                                                   Qt::Key_Asterisk};
+                                     << phone({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Asterisk,
+                                               Qt::Key_Asterisk});
+    QTest::newRow("letters of a keyboard") << "press \"Eu\"" << QList<Key>{{Qt::Key_E, "E"}, {Qt::Key_U, "u"}};
+    QTest::newRow("a typed number is no number of times")
+        << "press \"2*3\"" << QList<Key>{{Qt::Key_2, "2"}, {Qt::Key_Asterisk, "*"}, {Qt::Key_3, "3"}};
+    QTest::newRow("text among keys") << "press select \"a b\" left"
+                                     << phone({Qt::Key_Select}) +
+                                            QList<Key>{{Qt::Key_A, "a"}, {Qt::Key_Space, " "}, {Qt::Key_B, "b"}} +
+                                            phone({Qt::Key_Context1});
+    QTest::newRow("a letter beyond ASCII")
+        << QString::fromUtf8("press \"\xc3\xa4\"") << QList<Key>{{Qt::Key_Adiaeresis, QString(QChar(0xe4))}};
 }
 
 void TourScriptTest::keys()
 {
     QFETCH(QString, line);
-    QFETCH(QList<int>, keys);
+    QFETCH(QList<Key>, keys);
     QCOMPARE(onlyAction<Press>(line).keys, keys);
 }
 
@@ -112,6 +132,71 @@ void TourScriptTest::calls()
     QCOMPARE(onlyAction<Dial>("dial *99#").number, "*99#");
     QCOMPARE(onlyAction<Ring>("ring").number, "");
     QCOMPARE(onlyAction<MoveClock>("clock +65s").ms, qint64{65000});
+}
+
+void TourScriptTest::tariffs_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<bool>("isDialed");
+    QTest::addColumn<QList<int>>("tenths"); // units, interval, start
+    QTest::newRow("free") << "tariff dialed free" << true << QList<int>{0, 0, 0};
+    QTest::newRow("a unit each ten seconds") << "tariff dialed 1 per 10s" << true << QList<int>{10, 100, 0};
+    QTest::newRow("answered calls") << "tariff answered 0.5  per 1m" << false << QList<int>{5, 600, 0};
+    QTest::newRow("units at the start") << "tariff dialed 2 per 100ms start 1.5" << true << QList<int>{20, 1, 15};
+    QTest::newRow("the greatest") << "tariff dialed 819.1 per 819s100ms start 819.1" << true
+                                  << QList<int>{8191, 8191, 8191};
+}
+
+void TourScriptTest::tariffs()
+{
+    QFETCH(QString, line);
+    QFETCH(bool, isDialed);
+    QFETCH(QList<int>, tenths);
+    const auto set = onlyAction<SetTariff>(line);
+    QCOMPARE(set.direction == handset::CallDirection::Dialed, isDialed);
+    handset::sim::Tariff expected;
+    expected.unitsPerInterval = static_cast<quint16>(tenths[0]);
+    expected.interval = static_cast<quint16>(tenths[1]);
+    expected.unitsAtStart = static_cast<quint16>(tenths[2]);
+    QCOMPARE(set.tariff, expected);
+}
+
+void TourScriptTest::chargingAndTheSimCard()
+{
+    const auto topUp = onlyAction<TopUp>("topup 20.00 2007-03-09");
+    QCOMPARE(topUp.amount, "20.00");
+    QCOMPARE(topUp.expires, (handset::Date{2007, 3, 9}));
+    QCOMPARE(onlyAction<SetChargeType>("chargetype units").type, quint8{0});
+    QCOMPARE(onlyAction<SetChargeType>("chargetype currency").type, quint8{1});
+    QCOMPARE(onlyAction<SetPrice>("price 0.23 EUR").price, "0.23");
+    QCOMPARE(onlyAction<SetPrice>("price 0.23 EUR").currency, "EUR");
+    QCOMPARE(onlyAction<SetLimit>("limit 120").maximum, "120");
+    QVERIFY(onlyAction<SetLimit>("limit off").maximum.isNull());
+    const auto rule = onlyAction<SetRule>("rule puct pin2");
+    QCOMPARE(rule.file, quint8{64});
+    QCOMPARE(rule.rule, quint8{4});
+    QCOMPARE(onlyAction<SetRule>("rule acm free").file, quint8{61});
+    QCOMPARE(onlyAction<SetRule>("rule acm free").rule, quint8{0});
+    QCOMPARE(onlyAction<SetRule>("rule acmmax never").file, quint8{59});
+    QCOMPARE(onlyAction<SetRule>("rule acmmax never").rule, quint8{6});
+    QCOMPARE(onlyAction<SetPin2>("pin2 on").kind, SetPin2::On);
+    QCOMPARE(onlyAction<SetPin2>("pin2 off").kind, SetPin2::Off);
+    QCOMPARE(onlyAction<SetPin2>("pin2 forgotten").kind, SetPin2::Forgotten);
+}
+
+void TourScriptTest::failuresAndPacketData()
+{
+    const auto fail = onlyAction<Fail>("fail PHONE_ENG_Setup::getMeterMax -3");
+    QCOMPARE(fail.operation, host::operationIndex("PHONE_ENG_Setup::getMeterMax"));
+    QCOMPARE(fail.code, -3);
+    QCOMPARE(onlyAction<Fail>("fail TAPI_CS_ResetCallTime 0").code, 0);
+    QCOMPARE(onlyAction<Fail>("fail nothing").operation, -1);
+    const auto session = onlyAction<StartSession>("session start internet.example 100 4294967295");
+    QCOMPARE(session.apn, "internet.example");
+    QCOMPARE(session.sentPerSecond, quint32{100});
+    QCOMPARE(session.receivedPerSecond, quint32{4294967295});
+    onlyAction<StopSession>("session stop");
+    onlyAction<Broadcast>("broadcast");
 }
 
 void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem_data()
@@ -203,6 +288,39 @@ void TourScriptTest::mistakes_data()
     QTest::newRow("a key no times") << "press down*0";
     QTest::newRow("a key too many times") << "press down*1001";
     QTest::newRow("a key some times") << "press down*x";
+    QTest::newRow("an open quote around keys") << "press \"a";
+    QTest::newRow("keys behind a quote without a blank") << "press \"a\"left";
+    QTest::newRow("a character that no key has") << QString::fromUtf8("press \"\xe2\x82\xac\"");
+    QTest::newRow("nothing between quotes") << "press \"\"";
+    QTest::newRow("a tariff of nobody") << "tariff 1 per 10s";
+    QTest::newRow("a tariff without an interval") << "tariff dialed 1";
+    QTest::newRow("a tariff of hundredths") << "tariff dialed 0.25 per 10s";
+    QTest::newRow("a tariff of too many units") << "tariff dialed 819.2 per 10s";
+    QTest::newRow("a tariff of too long an interval") << "tariff dialed 1 per 820s";
+    QTest::newRow("a tariff of no interval") << "tariff dialed 1 per 0s";
+    QTest::newRow("a tariff of less than a tenth of a second") << "tariff dialed 1 per 50ms";
+    QTest::newRow("a tariff that starts with nothing") << "tariff dialed 1 per 10s start";
+    QTest::newRow("a free tariff with more") << "tariff dialed free 1";
+    QTest::newRow("paying in without a day") << "topup 20";
+    QTest::newRow("paying in on a day that there is not") << "topup 20 2007-02-29";
+    QTest::newRow("paying in what is no amount") << "topup much 2007-03-09";
+    QTest::newRow("a charge type that there is not") << "chargetype euros";
+    QTest::newRow("a price without a currency") << "price 0.23";
+    QTest::newRow("a price that is none") << "price -1 EUR";
+    QTest::newRow("a limit that is none") << "limit none";
+    QTest::newRow("no limit at all") << "limit";
+    QTest::newRow("a rule of an unknown file") << "rule adn free";
+    QTest::newRow("a rule that there is not") << "rule acm always";
+    QTest::newRow("a rule too long") << "rule acm free now";
+    QTest::newRow("a PIN2 that is told") << "pin2 1234";
+    QTest::newRow("failing with no code") << "fail TAPI_CS_ResetCallTime";
+    QTest::newRow("failing with no number") << "fail TAPI_CS_ResetCallTime x";
+    QTest::newRow("an operation that there is not") << "fail TAPI_CS_Nothing 3";
+    QTest::newRow("a session without rates") << "session start internet";
+    QTest::newRow("a session that sends less than nothing") << "session start internet -1 0";
+    QTest::newRow("a session that sends too much") << "session start internet 4294967296 0";
+    QTest::newRow("a session that pauses") << "session pause";
+    QTest::newRow("a broadcast with a text") << "broadcast now";
     QTest::newRow("expecting nothing") << "expect";
     QTest::newRow("expecting what is not known") << "expect colour red";
     QTest::newRow("a row without a number") << "expect row Dialed Calls";
