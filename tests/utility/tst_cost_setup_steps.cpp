@@ -1,12 +1,15 @@
 // What the Call-Cost Setup screen asks of the toolkit and the telephone, call by call, with the exact arguments
 // and in the exact order; and what it does when an object cannot be made.
 #include "ListedCurrencies.h"
+#include "PHONE_ENG_Setup.h"
 #include "PHONE_UI_RecentCallCostSetupView.h"
+#include "PHONE_UI_RecentCallMeter.h"
 
 #include "AllocationFailure.h"
 #include "PhoneScreen.h"
 #include "PhoneTest.h"
 #include "PrivateAccess.h"
+#include "RecordingTranslator.h"
 #include "ScreenClock.h"
 #include "ToolkitRecorder.h"
 
@@ -15,7 +18,11 @@
 #include "ZPopup.h"
 #include "ZSettingItem.h"
 
+#include <QtCore/QMetaMethod>
+#include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>
+
+#include <dlfcn.h>
 
 using ZKeys::PhoneKey;
 using View = PHONE_UI_RecentCallCostSetupView;
@@ -24,6 +31,8 @@ KAV_EXPOSE(CurDialog, &View::curDialog);
 KAV_EXPOSE(ShowSelectDlg, &View::showSelectDlg);
 KAV_EXPOSE(ShowCaptureDlg, &View::showCaptureDlg);
 KAV_EXPOSE(CurCallSetType, &View::curCallSetType);
+KAV_EXPOSE(Meter, &View::meter);
+KAV_EXPOSE(IsSignalConnected, &QObject::isSignalConnected);
 
 namespace {
 
@@ -153,7 +162,20 @@ QStringList entrySteps(int number, const QString &header, const QString &methods
                 dialog + ".show()"});
 }
 
+int enginesAsked = 0;
+
 } // namespace
+
+// Stands for PHONE_ENG_Setup::instance(), and goes on to it.
+extern "C" PHONE_ENG_Setup *countedEngine() asm("_ZN15PHONE_ENG_Setup8instanceEv");
+
+PHONE_ENG_Setup *countedEngine()
+{
+    static auto *const original =
+        reinterpret_cast<PHONE_ENG_Setup *(*)()>(dlsym(RTLD_NEXT, "_ZN15PHONE_ENG_Setup8instanceEv"));
+    ++enginesAsked;
+    return original();
+}
 
 class TestCostSetupSteps : public PhoneTest
 {
@@ -176,6 +198,10 @@ private slots:
     void anAnswerIsWrittenAndReadAgain();
     void aSavedEntryGoesThenIsWrittenThenReadAgain();
     void aChoiceWithoutAListIsNotShown();
+    void aResetTranslatesItsMessageFirst();
+    void theEngineIsFetchedBeforeEveryCall();
+    void theEnginesSignalsAreConnectedToNothing();
+    void theMeterGoesWithTheScreen();
 
     void withoutAMeterTheListStaysEmpty();
     void whatCannotBeMadeIsNotShown_data();
@@ -416,6 +442,64 @@ void TestCostSetupSteps::aChoiceWithoutAListIsNotShown()
         QVERIFY(!dialog());
     }
     QVERIFY(!(view.get()->*exposed(ShowSelectDlg()))("Nothing"));
+}
+
+void TestCostSetupSteps::aResetTranslatesItsMessageFirst()
+{
+    open();
+    RecordingTranslator translator;
+    translator.setJournalled(true);
+    choose(0);
+    const QStringList done = journal.take();
+    const qsizetype message = done.indexOf("translate \"TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS\"");
+    const qsizetype reset = done.indexOf("CallLog::resetAll");
+    const qsizetype header = done.indexOf("translate \"TXT_RID_HEADER_RESET_CALLS\"");
+    QVERIFY(message > 0);
+    QVERIFY(message < reset);
+    QVERIFY(reset < header);
+}
+
+void TestCostSetupSteps::theEngineIsFetchedBeforeEveryCall()
+{
+    const auto calls = [this] { return int(journal.startingWith("AdviceOfCharge::").size()); };
+    enginesAsked = 0;
+    view = std::make_unique<View>(host.get(), "setup");
+    QCOMPARE(enginesAsked, calls());
+    host->show();
+    view->show();
+    for (const int row : {limitRow, currencyRow, typeRow}) {
+        choose(row);
+        PhoneScreen::press(PhoneKey::Down);
+        enginesAsked = 0;
+        journal.take();
+        PhoneScreen::press(PhoneKey::Select);
+        QCOMPARE(enginesAsked, calls());
+    }
+}
+
+void TestCostSetupSteps::theEnginesSignalsAreConnectedToNothing()
+{
+    open();
+    const QObject *engine = PHONE_ENG_Setup::instance();
+    const QMetaObject &meta = PHONE_ENG_Setup::staticMetaObject;
+    int signalCount = 0;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() != QMetaMethod::Signal)
+            continue;
+        ++signalCount;
+        QVERIFY(!(engine->*exposed(IsSignalConnected()))(meta.method(i)));
+    }
+    QCOMPARE(signalCount, 3);
+}
+
+void TestCostSetupSteps::theMeterGoesWithTheScreen()
+{
+    open();
+    const QPointer<PHONE_UI_RecentCallMeter> meter = view.get()->*exposed(Meter());
+    QVERIFY(meter);
+    QVERIFY(!meter->parent());
+    view.reset();
+    QVERIFY(!meter);
 }
 
 // --- memory that runs out
