@@ -80,6 +80,11 @@ private:
 
 int makeCalls(simulated::SimulatedTelephone &phone, ManualClock &clock, unsigned seed)
 {
+    if (!phone.charging().account() &&
+        phone.charging().topUp(QStringLiteral("16000000"), {2030, 1, 1}) != Success) {
+        std::printf("error a deposit failed\n");
+        return 1;
+    }
     Caller caller(phone, clock, seed);
     // The seed comes first in the number, so that no two processes of a test use the same one.
     for (unsigned count = 0; caller.makeCall(seed * 10000 + count); ++count) {

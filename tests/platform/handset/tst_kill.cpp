@@ -60,6 +60,7 @@ private:
     void read(const QByteArray &output);
     void checkCopy(const QString &directory, Check check);
     void checkCalls(const LogFile &file);
+    static void checkCharges(const LogFile &file);
     void checkSessions(const LogFile &file);
 
     int below(int bound) { return std::uniform_int_distribution<int>(0, bound - 1)(random); }
@@ -148,6 +149,32 @@ void TestKill::checkCalls(const LogFile &file)
     QCOMPARE(total(file, "answered"), sumWhere(file, "kind = 0 AND direction = 1"));
     QCOMPARE(total(file, "data"), sumWhere(file, "kind = 1"));
     QCOMPARE(total(file, "last"), sumWhere(file, "id = (SELECT max(id) FROM calls WHERE state <> 2)"));
+    checkCharges(file);
+}
+
+// Row, figures, the SIM's meter and the credit say the same, whenever the process was killed.
+void TestKill::checkCharges(const LogFile &file)
+{
+    const auto number = [&](const char *select) { return file.value(QString::fromLatin1(select)).toLongLong(); };
+    QCOMPARE(number("SELECT count(*) FROM calls WHERE units <> iif(direction = 0, duration_ms / 10000, 0)"), 0);
+    const qint64 all = number("SELECT coalesce(sum(units), 0) FROM calls");
+    QCOMPARE(number("SELECT units FROM costs WHERE counter = 'dialed'"),
+             number("SELECT coalesce(sum(units), 0) FROM calls WHERE kind = 0"));
+    QCOMPARE(number("SELECT units FROM costs WHERE counter = 'answered'"), 0);
+    QCOMPARE(number("SELECT units FROM costs WHERE counter = 'last'"),
+             number("SELECT coalesce(sum(units), 0) FROM calls"
+                    " WHERE id = (SELECT max(id) FROM calls WHERE state <> 2)"));
+    const QByteArray card =
+        file.value(QStringLiteral("SELECT content FROM kept WHERE name = 'card'")).toByteArray();
+    if (card.isNull()) { // killed before the deposit
+        QCOMPARE(all, 0);
+        return;
+    }
+    bool isHex = false;
+    QCOMPARE(card.mid(5, 3).toHex().toLongLong(&isHex, 16), all); // the newest record of EF_ACM
+    QVERIFY(isHex);
+    QCOMPARE(number("SELECT json_extract(CAST(content AS TEXT), '$.credit') FROM kept WHERE name = 'charging'"),
+             16'000'000 - all);
 }
 
 void TestKill::checkSessions(const LogFile &file)
