@@ -13,7 +13,9 @@
 #include "ZListBoxItem.h"
 #include "ZPopup.h"
 
+#include <QtCore/QMap>
 #include <QtCore/QSet>
+#include <QtCore/QTranslator>
 
 #include <iterator>
 
@@ -112,6 +114,7 @@ private slots:
     void theShortTableIsTheCatalogueWithoutTwoCodes();
     void theSetupOffersEveryRowUnderItsKeyInOrder();
     void anAccentedRowIsOfferedInTheLanguageOfTheCatalogue();
+    void aCatalogueFileIsHonouredForAccentedAndBlankEndedRows();
 
     void everyShortCodeIsTranslatedUnderItsKey();
     void withoutACatalogueEveryShortCodeIsItself();
@@ -243,6 +246,32 @@ void TestCurrencies::anAccentedRowIsOfferedInTheLanguageOfTheCatalogue()
         const bool isAccented = accented.contains(row);
         QCOMPARE(listedName(row - 1).toUtf8().size() > listedName(row - 1).size(), isAccented);
         QCOMPARE(item->getSubItemText(0, 0, false), isAccented ? translation(row) : listedName(row - 1));
+    }
+}
+
+// A file knows its entries by context, key and English default together, in UTF-8.
+void TestCurrencies::aCatalogueFileIsHonouredForAccentedAndBlankEndedRows()
+{
+    script().answer("AdviceOfCharge::chargeType", quint8(1));
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), QString("GBP"));
+    QTranslator catalogue;
+    QVERIFY(catalogue.load(QStringLiteral(KAV_CURRENCIES)));
+    QVERIFY(QCoreApplication::installTranslator(&catalogue));
+    const HostedScreen<ZKbMainWidget> costs("callCost");
+    costs->show();
+    const ZListBox *list = openCurrencyList(costs.get());
+    QVERIFY(list);
+    const QMap<int, QString> translations{
+        {30, QString::fromUtf8("ČÍNA  RENMINBI ŽEN-MIN-PI JÜAN  (CNY)")},
+        {32, QString::fromUtf8("KOSTARIKA  KOLÓN  (CRC)")},
+        {112, QString::fromUtf8("NIKARAGUA  ZLATÁ CÓRDOBA  (NIO)")},
+        {145, QString::fromUtf8("SVATÝ TOMÁŠ; PRINCŮV OSTROV  DOBRA  (SRD)")},
+        {146, QString::fromUtf8("SALVADOR  KOLÓN  (SVC)")},
+        {182, QString::fromUtf8("POBŘEŽÍ SLONOVINY  FRANK CFA  (XOF) ")},
+    };
+    for (int row = 1; row <= 193; ++row) {
+        const auto *item = static_cast<const ZListBoxItem *>(list->item(row));
+        QCOMPARE(item->getSubItemText(0, 0, false), translations.value(row, listedName(row - 1)));
     }
 }
 
