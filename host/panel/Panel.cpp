@@ -5,6 +5,7 @@
 #include "FailuresSection.h"
 #include "FiguresSection.h"
 #include "LineSection.h"
+#include "PacketSection.h"
 #include "Pin2Section.h"
 #include "SimFilesSection.h"
 #include "StateSection.h"
@@ -61,7 +62,8 @@ void Panel::addPages(QVBoxLayout *column, const Setup &setup)
     tabs->setAccessibleName(tr("Sides of the telephone"));
     addPage(column, tr("Calls"), {new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)});
     addPage(column, tr("Charging"), {new TariffSection(line), new CostSection(line), new AccountSection(line)});
-    addPage(column, tr("SIM card"), {new SimFilesSection(line), new Pin2Section(line)});
+    addPage(column, tr("SIM"), {new SimFilesSection(line), new Pin2Section(line)});
+    addPage(column, tr("Data"), {new PacketSection(line)});
     if (setup.faults)
         addPage(column, tr("Failures"), {new FailuresSection(*setup.faults)});
     connect(tabs, &QTabBar::currentChanged, this, &Panel::showPage);
@@ -96,7 +98,8 @@ void Panel::refresh()
     for (PanelSection *section : std::as_const(sections))
         section->refresh();
     const Line::Telephone *telephone = line.telephone();
-    const bool counting = telephone && telephone->lineState() == Line::Telephone::LineState::Connected;
+    const bool counting = telephone && (telephone->lineState() == Line::Telephone::LineState::Connected ||
+                                        line.telephone()->packets().isSessionRunning());
     if (counting && !tick.isActive())
         tick.start(tickMs);
     else if (!counting)

@@ -45,7 +45,7 @@ private:
     QTabBar *tabs;
     QList<QWidget *> pages; ///< one a tab
     QList<PanelSection *> sections;
-    QTimer tick; ///< runs while a call is connected, whose time goes on without a change being told
+    QTimer tick; ///< runs while a call or a session goes on without a change being told
 };
 
 } // namespace host

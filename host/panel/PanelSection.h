@@ -12,7 +12,7 @@ class PanelSection : public QGroupBox
 public:
     using QGroupBox::QGroupBox;
 
-    /// Shows what is so now. Called after every change, and once a second while a call is connected.
+    /// Shows what is so now. Called after every change, and once a second while a call is connected or a session runs.
     virtual void refresh() = 0;
 };
 

@@ -6,6 +6,7 @@
 #include "Clock.h"
 #include "DataCalls.h"
 #include "Handset.h"
+#include "PacketData.h"
 #include "PhoneWindow.h"
 #include "SimSecurity.h"
 #include "SimulatedTelephone.h"
@@ -104,6 +105,11 @@ private slots:
     void codesThatAreNoneAreTold();
     void aCodeIsMaskedAndForgotten();
     void aCodeFieldTakesDigitsAlone();
+    void aSessionIsStartedAndStopped();
+    void aRunningSessionGoesOnBySecond();
+    void slotsAndTotalsAreShown();
+    void anAccessPointNameThatIsNoneIsTold();
+    void anUpdateIsSentByHand();
     void operationsFailAndWorkAgain();
     void aFailureIsSeenOnThePhone();
     void zeroIsNoCode();
@@ -285,8 +291,10 @@ void PanelTest::eachTabShowsItsSections()
     QCOMPARE(shown(), (QStringList{"Line", "Call timers", "State"}));
     showTab("Charging");
     QCOMPARE(shown(), (QStringList{"Line", "Tariff", "Costs", "Prepaid account"}));
-    showTab("SIM card");
+    showTab("SIM");
     QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
+    showTab("Data");
+    QCOMPARE(shown(), (QStringList{"Line", "Packet data"}));
     showTab("Failures");
     QCOMPARE(shown(), (QStringList{"Line", "Failures"}));
     showTab("Calls");
@@ -561,7 +569,7 @@ void PanelTest::anUpdateRuleIsSetAndShown()
         quint8 answer = 99;
         return card().updateRule(number, answer) == 0 ? int{answer} : -1;
     };
-    showTab("SIM card");
+    showTab("SIM");
     choose(choice, 1);
     QCOMPARE(rule(), int{AdviceOfCharge::UpdateUnderPin2});
     choose(choice, 2);
@@ -579,7 +587,7 @@ void PanelTest::anUpdateRuleIsSetAndShown()
 
 void PanelTest::pin2IsSwitchedOffAndOn()
 {
-    showTab("SIM card");
+    showTab("SIM");
     QVERIFY(control<QCheckBox>("pin2 on")->isChecked());
     clickBox("pin2 on");
     QVERIFY(!pin2().isEnabled());
@@ -610,7 +618,7 @@ void PanelTest::aPowerCycleForgetsThatPin2WasEntered()
 {
     QVERIFY(enterPin2("1234"));
     QVERIFY(pin2().isVerified());
-    showTab("SIM card");
+    showTab("SIM");
     click("Switch off and on");
     QVERIFY(!pin2().isVerified());
     QVERIFY(label("pin2 state").startsWith("On, not entered."));
@@ -620,7 +628,7 @@ void PanelTest::pin2IsUnblockedByItsPuk()
 {
     for (int i = 0; i < 3; ++i)
         QVERIFY(!enterPin2("9999"));
-    showTab("SIM card");
+    showTab("SIM");
     enter("puk2", QString::fromLatin1(rightPuk));
     enter("new pin2", "87654321");
     click("Unblock");
@@ -632,7 +640,7 @@ void PanelTest::pin2IsUnblockedByItsPuk()
 
 void PanelTest::aWrongPukIsToldAndCounted()
 {
-    showTab("SIM card");
+    showTab("SIM");
     enter("puk2", "00000000");
     enter("new pin2", "4321");
     QTest::keyClick(control<QWidget>("new pin2"), Qt::Key_Return);
@@ -657,7 +665,7 @@ void PanelTest::codesThatAreNoneAreTold()
 {
     QFETCH(QString, puk);
     QFETCH(QString, pin);
-    showTab("SIM card");
+    showTab("SIM");
     enter("puk2", puk);
     enter("new pin2", pin);
     click("Unblock");
@@ -667,7 +675,7 @@ void PanelTest::codesThatAreNoneAreTold()
 
 void PanelTest::aCodeIsMaskedAndForgotten()
 {
-    showTab("SIM card");
+    showTab("SIM");
     auto *puk = control<CodeField>("puk2");
     auto *pin = control<CodeField>("new pin2");
     enter("puk2", "12345678");
@@ -694,7 +702,7 @@ void PanelTest::aCodeIsMaskedAndForgotten()
 
 void PanelTest::aCodeFieldTakesDigitsAlone()
 {
-    showTab("SIM card");
+    showTab("SIM");
     auto *field = control<CodeField>("puk2");
     enter("puk2", "1a2 -3456789");
     QCOMPARE(field->digits(), QByteArrayView("12345678")); // eight and no more
@@ -709,6 +717,86 @@ void PanelTest::aCodeFieldTakesDigitsAlone()
         QTest::keyClick(field, Qt::Key_Backspace);
     QVERIFY(field->digits().isEmpty());
     QCOMPARE(title(), "Recent Calls");
+}
+
+// --- packet data
+
+void PanelTest::aSessionIsStartedAndStopped()
+{
+    showTab("Data");
+    QVERIFY(!button("Stop session")->isEnabled());
+    enter("apn", "wap.example");
+    enter("sent rate", "100");
+    enter("received rate", "2000");
+    click("Start session");
+    QVERIFY(telephone->packets().isSessionRunning());
+    QVERIFY(!button("Start session")->isEnabled());
+    clock->advance(10000);
+    click("Stop session");
+    QVERIFY(!telephone->packets().isSessionRunning());
+    QVERIFY(button("Start session")->isEnabled());
+    handset::DataSessions sessions;
+    QCOMPARE(owner->packetData()->sessions(sessions), 0);
+    QCOMPARE(sessions.records[0].apn, "wap.example");
+    QCOMPARE(sessions.records[0].bytesSent, quint32{1000});
+    QCOMPARE(sessions.records[0].bytesReceived, quint32{20000});
+}
+
+void PanelTest::aRunningSessionGoesOnBySecond()
+{
+    QCOMPARE(telephone->packets().startSession("internet", 10, 30), 0);
+    clock->advance(61000);
+    QTRY_VERIFY2(label("session 1").endsWith("00:01:01\n610 B sent, 1830 B received"),
+                 qPrintable(label("session 1")));
+    QCOMPARE(label("packet total"), "00:01:01, 2440 B\n610 B sent, 1830 B received");
+}
+
+void PanelTest::slotsAndTotalsAreShown()
+{
+    QCOMPARE(label("session 1"), "empty");
+    QCOMPARE(label("packet total"), "00:00:00, 0 B\n0 B sent, 0 B received");
+    for (const char *apn : {"one", "two", "three", "four"}) {
+        QCOMPARE(telephone->packets().startSession(apn, 1, 2), 0);
+        clock->advance(5000);
+        QCOMPARE(telephone->packets().stopSession(), 0);
+    }
+    handset::DataSessions sessions;
+    QCOMPARE(owner->packetData()->sessions(sessions), 0);
+    for (std::size_t i = 0; i < sessions.records.size(); ++i) {
+        const handset::DataSession &session = sessions.records[i];
+        const QString text = QString("%1 (id %2), 00:00:05\n5 B sent, 10 B received")
+                                 .arg(QString::fromLatin1(session.apn))
+                                 .arg(session.id);
+        QCOMPARE(label(qPrintable(QString("session %1").arg(i + 1))).remove(QChar(0x200b)), text);
+    }
+    QCOMPARE(label("packet total"), "00:00:20, 60 B\n20 B sent, 40 B received");
+    QCOMPARE(owner->packetData()->resetTotalBytes(), 0);
+    QCOMPARE(label("packet total"), "00:00:20, 0 B\n0 B sent, 0 B received");
+}
+
+void PanelTest::anAccessPointNameThatIsNoneIsTold()
+{
+    showTab("Data");
+    control<QLineEdit>("apn")->clear();
+    click("Start session");
+    QCOMPARE(label("packet failure"), "Not done: an access point name has 1 to 101 Latin-1 characters.");
+    QVERIFY(!telephone->packets().isSessionRunning());
+    enter("apn", "x");
+    click("Start session");
+    QVERIFY(!control<QLabel>("packet failure")->isVisible());
+}
+
+void PanelTest::anUpdateIsSentByHand()
+{
+    QVERIFY(window->openScreen(3));
+    auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
+    QVERIFY(list);
+    QCOMPARE(telephone->packets().startSession("internet", 1, 1), 0);
+    QTRY_COMPARE(list->item(1)->title(), "internet");
+    installed->faults().set(operationIndex("TAPI_GPRS_GetAllSessionInfo"), 3);
+    showTab("Data");
+    click("Send update");
+    QTRY_COMPARE(list->item(1)->title(), "GPRS Data Session 1");
 }
 
 // --- failures
@@ -775,7 +863,7 @@ void PanelTest::withoutFaultsThereIsNoPageForThem()
 {
     window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{owner, {}, {}});
     QVERIFY(!window->findChild<QListWidget *>("failing"));
-    QCOMPARE(window->findChild<QTabBar *>()->count(), 3);
+    QCOMPARE(window->findChild<QTabBar *>()->count(), 4);
 }
 
 // --- all of them
@@ -784,7 +872,7 @@ void PanelTest::clicksLeaveTheFocusWithThePhone()
 {
     QWidget *phone = window->focusWidget();
     QVERIFY(qobject_cast<ZListBox *>(phone));
-    for (const char *tab : {"Charging", "SIM card", "Failures", "Calls"}) {
+    for (const char *tab : {"Charging", "SIM", "Data", "Failures", "Calls"}) {
         showTab(tab);
         QCOMPARE(window->focusWidget(), phone);
     }
@@ -792,7 +880,7 @@ void PanelTest::clicksLeaveTheFocusWithThePhone()
     clickBox("tariff answered free");
     click("Set price");
     click("Top up");
-    showTab("SIM card");
+    showTab("SIM");
     clickBox("pin2 on");
     click("Switch off and on");
     click("Unblock");
@@ -838,7 +926,7 @@ void PanelTest::keysTypedIntoFieldsStayThere_data()
     QTest::newRow("units") << QByteArray("Charging") << QByteArray("tariff dialed units");
     QTest::newRow("price") << QByteArray("Charging") << QByteArray("price");
     QTest::newRow("day") << QByteArray("Charging") << QByteArray("top-up day");
-    QTest::newRow("PUK2") << QByteArray("SIM card") << QByteArray("puk2");
+    QTest::newRow("PUK2") << QByteArray("SIM") << QByteArray("puk2");
     QTest::newRow("code") << QByteArray("Failures") << QByteArray("failure code");
 }
 
@@ -876,7 +964,7 @@ void PanelTest::theWheelTurnsThePanelAndNoNumber()
 void PanelTest::nothingIsCutOffInANarrowPanel_data()
 {
     QTest::addColumn<QByteArray>("tab");
-    for (const char *tab : {"Calls", "Charging", "SIM card", "Failures"})
+    for (const char *tab : {"Calls", "Charging", "SIM", "Data", "Failures"})
         QTest::newRow(tab) << QByteArray(tab);
 }
 
@@ -885,6 +973,9 @@ void PanelTest::nothingIsCutOffInANarrowPanel()
     QFETCH(QByteArray, tab);
     QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("409500000", "WWW"), 0);
     QCOMPARE(owner->adviceOfCharge()->setChargeType(AdviceOfCharge::InCurrency), 0);
+    QCOMPARE(telephone->packets().startSession(QByteArray(101, 'w'), 4000000, 4000000), 0);
+    clock->advance(3600000);
+    QCOMPARE(telephone->packets().stopSession(), 0);
     Line line(owner);
     Panel panel(line, {QStringLiteral("/home/somebody/.local/share/kavcallmeter"), {}, &installed->faults()});
     panel.resize(340, 400); // so that there is a scroll bar, too
@@ -895,6 +986,7 @@ void PanelTest::nothingIsCutOffInANarrowPanel()
     QCoreApplication::processEvents();
     QCOMPARE(panel.width(), 340);
     QVERIFY2(panel.widget()->width() <= panel.viewport()->width(), "it would have to be scrolled sideways");
+    QVERIFY(tabs->width() > tabs->tabRect(tabs->count() - 1).right());
     const QList<QWidget *> widgets = panel.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
         const auto *label = qobject_cast<const QLabel *>(widget);
