@@ -1025,8 +1025,9 @@ void TestCostSetup::theMembersStandInTheirOrder()
     for (size_t i = 1; i < std::size(members); ++i)
         QVERIFY2(std::less<>()(members[i - 1], members[i]), qPrintable(QString::number(i)));
     // The five flags are five bytes in a row.
-    const auto *flags = &(screen.*exposed(MeterMaxChanged()));
-    QCOMPARE(&(screen.*exposed(PricePerUnitChanged())) - flags, ptrdiff_t(4));
+    const auto address = [](const bool &flag) { return reinterpret_cast<quintptr>(&flag); };
+    QCOMPARE(address(screen.*exposed(PricePerUnitChanged())) - address(screen.*exposed(MeterMaxChanged())),
+             quintptr(4));
     QCOMPARE(View::staticMetaObject.superClass(), &ZKbMainWidget::staticMetaObject);
 }
 
@@ -1460,7 +1461,9 @@ void TestCostSetup::everySetOfChangesIsWrittenInOrder()
     if (!failing.isEmpty())
         script().fail(failing.constData(), 3);
     View *screen = view.get();
-    bool *const flags = &(screen->*exposed(MeterMaxChanged())); // five in a row, in the order of the traces
+    bool *const flags[] = {&(screen->*exposed(MeterMaxChanged())), &(screen->*exposed(CMMEnableChanged())),
+                           &(screen->*exposed(ChargeTypeChanged())), &(screen->*exposed(CurrencyTableChanged())),
+                           &(screen->*exposed(PricePerUnitChanged()))};
     screen->*exposed(MeterMax()) = QStringLiteral("77");
     screen->*exposed(CurrencyTable()) = QStringLiteral("ABC");
     screen->*exposed(PricePerUnit()) = QStringLiteral("1.5");
@@ -1470,7 +1473,7 @@ void TestCostSetup::everySetOfChangesIsWrittenInOrder()
         screen->*exposed(CMMEnable()) = isOn;
         screen->*exposed(ChargeType()) = quint8(isOn ? 1 : 0);
         for (int i = 0; i < 5; ++i)
-            flags[i] = has(i);
+            *flags[i] = has(i);
         QStringList calls;
         QString steps =
             traced("updateCallCostSetup", QStringLiteral("preMeterMaxChanged: [%1], preCMMEnableChanged: [%2], "
@@ -1502,9 +1505,10 @@ void TestCostSetup::everySetOfChangesIsWrittenInOrder()
         COMPARE_LINES(journal.lines(), calls);
         QCOMPARE(traces->take(), steps);
         for (int i = 0; i < 5; ++i)
-            QCOMPARE(flags[i], !goesOn && has(i));
+            QCOMPARE(*flags[i], !goesOn && has(i));
     }
-    std::fill(flags, flags + 5, false); // nothing is left for the destructor
+    for (bool *flag : flags)
+        *flag = false; // nothing is left for the destructor
 }
 
 void TestCostSetup::aFailedWriteIsNotShown()
