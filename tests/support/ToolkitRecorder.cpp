@@ -134,7 +134,7 @@ void ToolkitRecorder::restart()
 // Declares a function that the linker knows as `SYMBOL`, the operation of a library. An object comes first as `self`;
 // a constructor is the operation that builds it there.
 #define KAV_STANDS_FOR(SYMBOL, RESULT, NAME, ...)                                                                 \
-    extern "C" RESULT NAME(__VA_ARGS__) asm(SYMBOL);                                                              \
+    extern RESULT NAME(__VA_ARGS__) asm(SYMBOL);                                                                  \
     static auto *original_##NAME()                                                                                \
     {                                                                                                             \
         static auto *const function = original<RESULT(__VA_ARGS__)>(SYMBOL);                                      \
