@@ -14,6 +14,7 @@
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 
 namespace host::tour {
 
@@ -75,6 +76,7 @@ TourPlayer::TourPlayer(const ScreenLibrary &pluginLibrary, const Options &tourOp
         if (menu)
             menu->takeFocus();
     });
+    QApplication::setCursorFlashTime(0); // a cursor is on every photograph of its field
     display.show();
 }
 

@@ -91,12 +91,49 @@ void TourTest::theShippedTourMeetsItsExpectations()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
     const QDir directory(path("tour"));
     const QStringList photographs = directory.entryList({"*.png"}, QDir::Files);
-    QVERIFY(photographs.size() >= 20);
+    QVERIFY(photographs.size() >= 120);
     for (const QString &name : photographs)
         QCOMPARE(photograph(name).size(), QSize(240, 320));
-    for (const char *name :
-         {"menu", "call-times-empty", "call-times", "reset-dialed-calls", "reset-answered-calls",
-          "reset-data-calls", "reset-all-calls", "refused-while-calling"})
+    for (const char *name : {"menu",
+                             "call-times-empty",
+                             "call-times",
+                             "reset-dialed-calls",
+                             "reset-answered-calls",
+                             "reset-data-calls",
+                             "reset-all-calls",
+                             "refused-while-calling",
+                             "call-costs-units",
+                             "call-costs",
+                             "credit-available",
+                             "expiration-date",
+                             "last-deposit",
+                             "last-call-cost",
+                             "dialed-calls-cost",
+                             "answered-calls-cost",
+                             "all-calls-cost",
+                             "call-costs-failing",
+                             "call-cost-setup",
+                             "credit-limit-choice",
+                             "adjust-credit-limit-typed",
+                             "currency-choice",
+                             "currency-list",
+                             "currency-list-letter",
+                             "currency-code",
+                             "cost-per-minute",
+                             "all-costs-reset",
+                             "call-cost-setup-never",
+                             "enter-pin2",
+                             "wrong-pin2",
+                             "pin2-blocked",
+                             "data-times-empty",
+                             "data-times",
+                             "data-time",
+                             "reset-data-times",
+                             "data-volumes",
+                             "data-volume",
+                             "data-volume-all",
+                             "reset-data-volumes",
+                             "data-volumes-long"})
         QVERIFY2(photographs.contains(QString(name) + ".png"), name);
 }
 
