@@ -2,10 +2,13 @@
 
 #include "Handset.h"
 #include "ScreenTable.h"
+#include "panel/Panel.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+
+#include <algorithm>
 
 namespace host {
 
@@ -44,6 +47,7 @@ constexpr OptionText optionTexts[] = {
     {"backend", "NAME", "The telephone behind: %2. Default: simulated."},
     {"plugin", "NAME", "The plug-in library. Default: libkavcallmeter.so.1"},
     {"screen", "NAME", "Open this screen at once: %3."},
+    {"page", "NAME", "Show this page of the panel: %4."},
     {"translation", "FILE", "Load the texts of the catalogue FILE (.qm)."},
     {"photo", "FILE", "Photograph the window as PNG to FILE and end."},
     {"tour", "DIR",
@@ -59,6 +63,22 @@ QString screenNames()
     return names.join(QStringLiteral(", "));
 }
 
+QString allPageNames()
+{
+    QStringList names;
+    for (const char *name : pageNames)
+        names << QLatin1StringView(name);
+    return names.join(QStringLiteral(", "));
+}
+
+// -1 for none.
+int pageIndex(const QString &name)
+{
+    const auto isIt = [&](const char *page) { return name == QLatin1StringView(page); };
+    const auto *const found = std::find_if(pageNames.begin(), pageNames.end(), isIt);
+    return found == pageNames.end() ? -1 : static_cast<int>(found - pageNames.begin());
+}
+
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(QLatin1StringView(description));
@@ -69,7 +89,8 @@ void describe(QCommandLineParser &parser)
         const QString text = QString::fromLatin1(option.text)
                                  .replace(QStringLiteral("%1"), handset::defaultStateDirectory())
                                  .replace(QStringLiteral("%2"), handset::backendNames().join(QStringLiteral(", ")))
-                                 .replace(QStringLiteral("%3"), screenNames());
+                                 .replace(QStringLiteral("%3"), screenNames())
+                                 .replace(QStringLiteral("%4"), allPageNames());
         parser.addOption({QString::fromLatin1(option.name), text, QString::fromLatin1(option.value)});
     }
 }
@@ -98,13 +119,16 @@ QString findMistake(const QCommandLineParser &parser)
         return mistake;
     if (parser.isSet(QStringLiteral("script")) && !parser.isSet(QStringLiteral("tour")))
         return QStringLiteral("Option 'script' needs option 'tour'.");
-    for (const char *name : {"screen", "photo"}) {
+    for (const char *name : {"screen", "page", "photo"}) {
         if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
             return QStringLiteral("Option '%1' does not go with option 'tour'.").arg(QLatin1StringView(name));
     }
     const QString screen = parser.value(QStringLiteral("screen"));
     if (!screen.isEmpty() && !knowsScreen(screen))
         return QStringLiteral("Unknown screen '%1'; there is: %2.").arg(screen, screenNames());
+    const QString page = parser.value(QStringLiteral("page"));
+    if (!page.isEmpty() && pageIndex(page) < 0)
+        return QStringLiteral("Unknown page '%1'; there is: %2.").arg(page, allPageNames());
     return {};
 }
 
@@ -128,6 +152,7 @@ Options readOptions(const QCommandLineParser &parser)
     options.stateDirectory = stateDirectoryOf(parser);
     options.plugin = valueOr(parser, "plugin", QString::fromLatin1(defaultPlugin));
     options.screen = parser.value(QStringLiteral("screen"));
+    options.page = std::max(pageIndex(parser.value(QStringLiteral("page"))), 0);
     options.translation = parser.value(QStringLiteral("translation"));
     options.photo = parser.value(QStringLiteral("photo"));
     options.tourDirectory = parser.value(QStringLiteral("tour"));

@@ -22,11 +22,12 @@ constexpr int deskMargin = 24;
 PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephone)
     : line(telephone.handset)
     , body(new PhoneBody(this))
+    , panel(new Panel(line, {telephone.stateDirectory, telephone.notice, telephone.faults}))
     , menu(new MenuScreen(body->display()))
     , screens(library, body->display())
 {
     setWindowTitle(tr("Recent Calls"));
-    layOut(telephone);
+    layOut();
     connect(menu, &MenuScreen::chosen, &screens, &ScreenHost::open);
     connect(menu, &MenuScreen::exitRequested, this, &PhoneWindow::close, Qt::QueuedConnection);
     connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
@@ -42,18 +43,23 @@ PhoneWindow::~PhoneWindow()
     screens.close();
 }
 
-void PhoneWindow::layOut(const Telephone &telephone)
+void PhoneWindow::layOut()
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(deskMargin, deskMargin, deskMargin, deskMargin);
     row->setSpacing(deskMargin);
     row->addWidget(body, 0, Qt::AlignTop);
-    row->addWidget(new Panel(line, {telephone.stateDirectory, telephone.notice, telephone.faults}), 1);
+    row->addWidget(panel, 1);
 }
 
 bool PhoneWindow::openScreen(int index)
 {
     return screens.open(index);
+}
+
+void PhoneWindow::choosePage(int index)
+{
+    panel->choosePage(index);
 }
 
 void PhoneWindow::keyPressEvent(QKeyEvent *event)

@@ -10,6 +10,7 @@ namespace host {
 
 class Faults;
 class MenuScreen;
+class Panel;
 class PhoneBody;
 
 class PhoneWindow : public QWidget
@@ -32,16 +33,19 @@ public:
 
     /// Opens row `index` of the screen table; false as in ScreenHost::open().
     bool openScreen(int index);
+    /// As Panel::choosePage().
+    void choosePage(int index);
 
 protected:
     /// Keys that nothing in the panel takes go to the phone.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void layOut(const Telephone &telephone);
+    void layOut();
 
     Line line;
     PhoneBody *body;
+    Panel *panel;
     MenuScreen *menu;
     ScreenHost screens;
 };

@@ -156,6 +156,7 @@ int photographWindow(PhoneWindow &window, const QString &file)
 int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened, Faults &faults)
 {
     PhoneWindow window(library, {opened.handset, options.stateDirectory, opened.notice, &faults});
+    window.choosePage(options.page);
     window.show();
     if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
         return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));

@@ -87,6 +87,11 @@ void Panel::showPage(int index)
         pages[page]->setVisible(page == index);
 }
 
+void Panel::choosePage(int index)
+{
+    tabs->setCurrentIndex(index);
+}
+
 PanelSection *Panel::keep(PanelSection *section)
 {
     sections.append(section);

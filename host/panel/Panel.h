@@ -7,6 +7,8 @@
 #include <QtCore/QTimer>
 #include <QtWidgets/QScrollArea>
 
+#include <array>
+
 class QTabBar;
 class QVBoxLayout;
 
@@ -14,6 +16,9 @@ namespace host {
 
 class Faults;
 class PanelSection;
+
+/// What the command line calls the pages, in their order.
+inline constexpr std::array<const char *, 5> pageNames{"calls", "charging", "sim", "data", "failures"};
 
 /// The line, and under it a page for each side of the telephone: a column of sections, each a class of its own. A new
 /// role of the telephone is a new section.
@@ -30,6 +35,9 @@ public:
 
     /// `line`, and what `setup` points to, outlive the panel.
     Panel(Line &line, const Setup &setup, QWidget *parent = nullptr);
+
+    /// Shows the page of row `index` of pageNames; a page that there is not changes nothing.
+    void choosePage(int index);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -44,6 +44,7 @@ private slots:
     void aDisplayThatCannotBeReachedIsNamed();
     void aDisplayThatCannotBeReachedDoesNotHinderAPhotograph();
     void theWindowIsPhotographed();
+    void thePageOfThePanelIsChosen();
     void aPhotographThatCannotBeWrittenIsSaid();
 
 private:
@@ -118,6 +119,8 @@ void CommandLineTest::aWrongCommandLineIsRefusedWithCode2_data()
     QTest::newRow("an empty value") << QStringList{"--state", ""} << "'state' has an empty value";
     QTest::newRow("a screen that there is not") << QStringList{"--screen", "nowhere"} << "'nowhere'";
     QTest::newRow("a script without a tour") << QStringList{"--script", "x"} << "'script' needs option 'tour'";
+    QTest::newRow("a page that there is not") << QStringList{"--page", "nowhere"} << "'nowhere'";
+    QTest::newRow("a page on a tour") << QStringList{"--tour", "t", "--page", "sim"} << "'page'";
     QTest::newRow("a screen on a tour") << QStringList{"--tour", "t", "--screen", "callTime"} << "'screen'";
     QTest::newRow("a window's photograph on a tour") << QStringList{"--tour", "t", "--photo", "x"} << "'photo'";
 }
@@ -331,6 +334,21 @@ void CommandLineTest::theWindowIsPhotographed()
     const QImage photograph(path("window.png"));
     QVERIFY(photograph.width() > 600);
     QVERIFY(photograph.height() > 600);
+}
+
+void CommandLineTest::thePageOfThePanelIsChosen()
+{
+    QList<QImage> pictures;
+    for (const char *page : {"calls", "charging", "sim", "data", "failures"}) {
+        const HostResult result = showCallTimes({"--state", "none", "--page", page});
+        QVERIFY2(result.code == 0, qPrintable(result.errors));
+        const QImage picture(path("window.png"));
+        QVERIFY(!picture.isNull());
+        QVERIFY2(!pictures.contains(picture), page);
+        pictures << picture;
+    }
+    QCOMPARE(showCallTimes({"--state", "none"}).code, 0);
+    QCOMPARE(QImage(path("window.png")), pictures.first());
 }
 
 void CommandLineTest::aPhotographThatCannotBeWrittenIsSaid()

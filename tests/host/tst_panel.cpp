@@ -288,7 +288,12 @@ void PanelTest::eachTabShowsItsSections()
         }
         return titles;
     };
+    QCOMPARE(window->findChild<QTabBar *>()->count(), static_cast<int>(pageNames.size()));
     QCOMPARE(shown(), (QStringList{"Line", "Call timers", "State"}));
+    window->choosePage(2);
+    QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
+    window->choosePage(5);
+    QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
     showTab("Charging");
     QCOMPARE(shown(), (QStringList{"Line", "Tariff", "Costs", "Prepaid account"}));
     showTab("SIM");
