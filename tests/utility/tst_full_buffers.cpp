@@ -17,6 +17,7 @@ int status = 0;
 
 // The block of the sessions as it lies in the phone's memory.
 using Block = std::array<unsigned char, 364>;
+constexpr std::size_t recordOffsets[] = {4, 124, 244};
 Block block;
 
 // Every record full to its last byte, and a count that is beyond all records.
@@ -26,7 +27,7 @@ Block fullBlock()
     full.fill(0xFF);
     // The record's fields as the phone's memory has them, whatever this machine's byte order.
     constexpr quint8 fields[] = {1, 0, 0, 0, 0x04, 0x03, 0x02, 0x01, 0x40, 0x30, 0x20, 0x10, 0x7B, 0, 0, 0, 4, 5};
-    for (const std::size_t record : {4, 124, 244}) {
+    for (const std::size_t record : recordOffsets) {
         std::memcpy(&full[record], fields, sizeof fields);
         std::memset(&full[record + 18], 'a', 102);
     }
