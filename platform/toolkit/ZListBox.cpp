@@ -31,6 +31,7 @@ struct ZListBox::Private {
     std::unordered_map<const ZListItem *, Record> items;
     quint64 lastSerial = 0;
     QPersistentModelIndex pressed;
+    int rowBeforeClear = -1; // where the bar goes back to when there is such a row again
 
     int rowOf(const ZListItem *item);
     void renumber();
@@ -115,8 +116,11 @@ void ZListBox::insertItem(const ZListItem *item, int index, bool show)
     it->second.inserted = true;
     it->second.row = row;
     d->model->insert(row, const_cast<ZListItem *>(item));
-    if (currentItem() < 0)
+    const int rowBeforeClear = std::exchange(d->rowBeforeClear, -1);
+    if (currentItem() < 0 || row == rowBeforeClear)
         setSelected(row, true);
+    if (row != rowBeforeClear)
+        d->rowBeforeClear = rowBeforeClear;
     if (show)
         viewport()->update();
 }
@@ -138,6 +142,8 @@ int ZListBox::count() const
 
 void ZListBox::clear()
 {
+    if (count() > 0)
+        d->rowBeforeClear = currentItem();
     const QList<ZListItem *> items = d->model->takeAll();
     for (ZListItem *item : items)
         d->items.erase(item);
@@ -155,6 +161,7 @@ int ZListBox::currentItem() const
 void ZListBox::setSelected(int index, bool on)
 {
     const ZListItem *row = item(index);
+    d->rowBeforeClear = -1;
     if (!row || row->isSeparator())
         return;
     if (on)
@@ -221,6 +228,7 @@ void ZListBox::leaveSeparator(int row)
 
 void ZListBox::keyPressEvent(QKeyEvent *event)
 {
+    d->rowBeforeClear = -1;
     const ZKeys::PhoneKey key = ZKeys::phoneKey(event->key());
     if (key == ZKeys::PhoneKey::Select) {
         event->accept();
@@ -279,6 +287,7 @@ void ZListBox::step(int direction, bool wrap)
 void ZListBox::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
+    d->rowBeforeClear = -1;
     d->pressed = QPersistentModelIndex();
     const QModelIndex under = indexAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !(d->model->flags(under) & Qt::ItemIsSelectable))

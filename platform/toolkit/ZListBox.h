@@ -58,7 +58,8 @@ public:
     /// The row of `item`, or -1 when it is null or not in the list. `item` may be gone already.
     int index(const ZListItem *item) const;
     int count() const;
-    /// Deletes every row, and leaves alone the items that are made but not inserted.
+    /// Deletes every row, and leaves alone the items that are made but not inserted. A list that is filled again before
+    /// the user does anything with it has the bar on the row where it was, if there still is one.
     void clear();
 
     /// The row under the focus bar, -1 for none.

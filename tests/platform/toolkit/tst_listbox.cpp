@@ -72,6 +72,9 @@ private slots:
     void a_deleted_item_takes_its_row_along();
     void an_item_that_outlives_its_list_knows_of_none();
     void clear_deletes_the_rows_and_leaves_the_list_usable();
+    void a_list_filled_again_has_the_bar_where_it_was();
+    void a_shorter_list_filled_again_has_the_bar_on_its_first_row();
+    void a_list_filled_again_after_a_key_has_the_bar_on_its_first_row();
     void sub_items_make_title_and_value();
     void a_sub_item_that_has_no_place_is_refused_with_a_warning();
     void plain_items_keep_their_texts_by_number();
@@ -246,6 +249,48 @@ void ListBoxTest::clear_deletes_the_rows_and_leaves_the_list_usable()
     screen.addRows(2);
     QCOMPARE(screen.titles(), QStringLiteral("Row 0|Row 1"));
     QCOMPARE(screen.list->currentItem(), 0);
+}
+
+void ListBoxTest::a_list_filled_again_has_the_bar_where_it_was()
+{
+    TestScreen screen;
+    screen.addRows(30);
+    screen.show();
+    for (const int bar : {25, 0, 29}) {
+        screen.list->setSelected(bar, true);
+        screen.list->clear();
+        screen.addRows(30);
+        QCOMPARE(screen.list->currentItem(), bar);
+        QVERIFY(screen.list->viewport()->rect().contains(screen.list->visualRect(screen.list->currentIndex())));
+    }
+}
+
+void ListBoxTest::a_shorter_list_filled_again_has_the_bar_on_its_first_row()
+{
+    TestScreen screen;
+    screen.addRows(30);
+    screen.list->setSelected(3, true);
+    screen.list->clear();
+    screen.addRows(3);
+    QCOMPARE(screen.list->currentItem(), 0);
+}
+
+void ListBoxTest::a_list_filled_again_after_a_key_has_the_bar_on_its_first_row()
+{
+    TestScreen screen;
+    screen.addRows(5);
+    screen.show();
+    screen.list->setSelected(3, true);
+    screen.list->clear();
+    QTest::keyClick(screen.list, Qt::Key_Down);
+    screen.addRows(5);
+    QCOMPARE(screen.list->currentItem(), 0);
+    screen.list->setSelected(3, true);
+    screen.list->clear();
+    screen.addRows(2);
+    screen.list->setSelected(1, true);
+    screen.addRows(3);
+    QCOMPARE(screen.list->currentItem(), 1);
 }
 
 void ListBoxTest::sub_items_make_title_and_value()
