@@ -45,7 +45,7 @@ CommandLine readCommandLine(int argc, char **argv)
 
 bool hasPlatform()
 {
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
 }
 
 // Asked by the library that Qt will use, for Qt itself only aborts. Where that library is missing, Qt says so.
