@@ -41,6 +41,10 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephon
 PhoneWindow::~PhoneWindow()
 {
     screens.close();
+    // A number that is being typed in the panel is taken when it loses the focus, which must not be after the line.
+    if (QWidget *typedInto = focusWidget())
+        typedInto->clearFocus();
+    delete panel;
 }
 
 void PhoneWindow::layOut()
