@@ -191,12 +191,11 @@ void PinEntryDlg::keyPressEvent(QKeyEvent *event)
 {
     const int key = event->key();
     const bool isPlain = !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
-    const bool takesBack = key == Qt::Key_Clear || key == Qt::Key_Backspace;
     event->accept();
     if (key >= Qt::Key_0 && key <= Qt::Key_9) {
         if (isPlain && !event->isAutoRepeat())
             type(key);
-    } else if (key == Qt::Key_NumberSign || (takesBack && d->digits.count() > 0)) {
+    } else if (key == Qt::Key_NumberSign || (key == Qt::Key_Backspace && d->digits.count() > 0)) {
         takeBack();
     } else {
         ZPopup::keyPressEvent(event);

@@ -5,8 +5,9 @@
 #include "ZPopup.h"
 
 /// Shows a mark for each digit, never the digit. The left softkey and the select key answer once there are digits
-/// enough. The clear and the Backspace key take back the last digit while there is one and are the right softkey
-/// then; the hash key only takes back. Escape and the Back key are the right softkey at any time.
+/// enough. The clear key is the right softkey at any time, as in every dialog, and so are Escape and the Back key. The
+/// Backspace key takes back the last digit while there is one and is the right softkey then; the hash key only takes
+/// back.
 class PinEntryDlg : public ZPopup
 {
     Q_OBJECT
