@@ -7,7 +7,8 @@
 
 namespace handset {
 
-/// The settings of the SIM files EF_ACMmax and EF_PUCT (3GPP TS 51.011, 10.3) and of the phone beside them.
+/// The settings of the SIM files EF_ACMmax and EF_PUCT (3GPP TS 51.011, 10.3) and of the phone beside them. Writing a
+/// file is NotAllowed where its update rule, or PIN2, is in the way.
 class AdviceOfCharge
 {
 public:
@@ -33,11 +34,14 @@ public:
     virtual int setMeterMaximum(const QString &maximum) = 0;
     /// Switches the limit off.
     virtual int disableMeterMaximum() = 0;
+    /// How costs are counted (ChargeType): the phone's own setting, no file of the SIM.
     virtual int chargeType(quint8 &type) = 0;
+    /// InvalidArgument for a number that is no ChargeType.
     virtual int setChargeType(quint8 type) = 0;
     /// Price per unit as decimal text and currency code as stored.
     virtual int priceAndCurrency(QString &price, QString &currency) = 0;
-    /// Writes both into EF_PUCT; what can be stored nearest to `price` is what is read back.
+    /// Writes both into EF_PUCT; what can be stored nearest to `price` is what is read back. InvalidArgument for a text
+    /// that is no price, or a code that a SIM cannot hold.
     virtual int setPriceAndCurrency(const QString &price, const QString &currency) = 0;
 };
 

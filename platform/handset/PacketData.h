@@ -13,10 +13,11 @@ namespace handset {
 
 /// One of the three most recent data sessions.
 struct DataSession {
+    /// What the phone's record has room for, beside the NUL behind it.
     static constexpr qsizetype longestApn = 101;
 
-    quint8 id = 0; ///< 1 to 255; 0 is an empty slot
-    quint32 bytesSent = 0;
+    quint8 id = 0;         ///< 1 to 255; 0 is an empty slot
+    quint32 bytesSent = 0; ///< stops at 4294967295, as bytesReceived does
     quint32 bytesReceived = 0;
     CallTime duration;
     QByteArray apn; ///< access point name, Latin-1, at most longestApn characters
@@ -38,6 +39,7 @@ public:
     virtual int totalDuration(CallTime &duration) = 0;
     /// Bytes of all sessions since resetTotalBytes(); each stops at 4294967295.
     virtual int totalBytes(quint32 &total, quint32 &received, quint32 &sent) = 0;
+    /// Each zeroes its own total and nothing else; the sessions keep their figures.
     virtual int resetTotalDuration() = 0;
     virtual int resetTotalBytes() = 0;
 

@@ -34,8 +34,9 @@ int TAPI_LOG_GetLifetimeCallsTime(TAPI_CallTime *time);
 int TAPI_LOG_ResetDialedCallsTime(void);
 /** Zeroes the time of all answered calls and nothing else. */
 int TAPI_LOG_ResetAnsweredCallsTime(void);
-/** Zeroes every counter of the call log in one operation: last, dialed and answered calls. The lifetime total, the
- * time of all calls (the call service's) and that of the data calls stay. */
+/** Zeroes every counter of the call log in one operation: the times of the last, dialed and answered calls, and the
+ * costs of the last, dialed, answered and all calls. The lifetime total, the time of all calls (the call service's)
+ * and that of the data calls stay. NotAllowed (6), and nothing zeroed, when the SIM refuses. */
 int TAPI_LOG_ResetAll(void);
 
 /** A day. The caller owns the record and zeroes it before a query. */
@@ -48,21 +49,25 @@ typedef struct TAPI_Date {
 /** Sizes of the buffers that the amount queries fill, in bytes, the terminating NUL included. */
 enum { TAPI_CREDIT_TEXT_SIZE = 100, TAPI_AMOUNT_TEXT_SIZE = 50 };
 
-/* Amounts are the telephone's own decimal text, Latin-1, NUL-terminated, without a unit. A text that does not fit
- * the buffer is answered with TextTooLong (5) and the buffer stays as it was. */
+/* Amounts are the telephone's own decimal text, Latin-1, NUL-terminated, without a unit; whether they count units or
+ * currency PHONE_ENG_Setup::getChargeType() tells. A text that does not fit the buffer is answered with TextTooLong
+ * (5) and the buffer stays as it was. The caller owns the buffer and zeroes it before a query. */
 
-/** The prepaid credit left; `text` has TAPI_CREDIT_TEXT_SIZE bytes. */
+/** The prepaid credit left; `text` has TAPI_CREDIT_TEXT_SIZE bytes. NotAvailable (2) where nothing has ever been paid
+ * in. */
 int TAPI_CS_GetRemainCredit(char *text);
 /** The cost of the last call; `text` has TAPI_AMOUNT_TEXT_SIZE bytes, as in all queries below. */
 int TAPI_CS_GetLastCallCost(char *text);
-/** The day until which the last deposit is good. */
+/** The day until which the last deposit is good. NotAvailable (2) where nothing has ever been paid in. */
 int TAPI_LOG_GetDepositExpirationDate(TAPI_Date *date);
+/** The last deposit. NotAvailable (2) where nothing has ever been paid in. */
 int TAPI_LOG_GetLastDeposit(char *text);
-/** The costs of all dialed, answered and all calls since their last reset. */
+/** The costs of all dialed, answered and all calls since their last reset. That of all calls is the SIM's accumulated
+ * call meter (EF_ACM). */
 int TAPI_LOG_GetDialedCallsCost(char *text);
 int TAPI_LOG_GetAnsweredCallsCost(char *text);
 int TAPI_LOG_GetAllCallsCost(char *text);
-/** Each zeroes its own cost and nothing else. */
+/** Each zeroes its own cost and nothing else. That of all calls is NotAllowed (6) when the SIM refuses. */
 int TAPI_LOG_ResetAllCallsCost(void);
 int TAPI_LOG_ResetDialedCallsCost(void);
 int TAPI_LOG_ResetAnsweredCallsCost(void);
@@ -71,12 +76,12 @@ int TAPI_LOG_ResetAnsweredCallsCost(void);
 typedef struct TAPI_GPRS_SessionRecord {
     uint8_t sessionId; /**< 0 marks an empty slot */
     uint8_t reserved[3];
-    uint32_t bytesSent;
-    uint32_t bytesReceived;
-    uint32_t hours;
-    uint8_t minutes;
-    uint8_t seconds;
-    char apn[102]; /**< access point name, Latin-1, NUL-terminated */
+    uint32_t bytesSent;     /**< 0 to 4294967295, where it stops */
+    uint32_t bytesReceived; /**< likewise */
+    uint32_t hours;         /**< of the session's duration */
+    uint8_t minutes;        /**< 0 to 59 */
+    uint8_t seconds;        /**< 0 to 59 */
+    char apn[102];          /**< access point name, Latin-1, NUL-terminated */
 } TAPI_GPRS_SessionRecord;
 
 /** The caller owns the block and zeroes it before a query. */
@@ -85,17 +90,20 @@ typedef struct TAPI_GPRS_SessionInfo {
     TAPI_GPRS_SessionRecord records[3];
 } TAPI_GPRS_SessionInfo;
 
-/** Fills the block with the three most recent sessions. */
+/** Fills the block with the three most recent sessions. TextTooLong (5), and nothing written, for an access point
+ * name of more than 101 characters. */
 int TAPI_GPRS_GetAllSessionInfo(TAPI_GPRS_SessionInfo *info);
 /** The duration of all sessions since TAPI_GPRS_ResetTotalDuration(). */
 int TAPI_GPRS_GetTotalDuration(TAPI_CallTime *duration);
 /** Bytes of all sessions since TAPI_GPRS_ResetTotalDataBytes(), each 0 to 4294967295 (where it stops). */
 int TAPI_GPRS_GetTotalDataBytes(uint32_t *total, uint32_t *received, uint32_t *sent);
+/** Each zeroes its own total and nothing else; the sessions keep their figures. */
 int TAPI_GPRS_ResetTotalDuration(void);
 int TAPI_GPRS_ResetTotalDataBytes(void);
 
 /** What must be entered for PIN `pin` (1 is PIN2, the second PIN of the SIM): `status` 3 means nothing, any other
- * number that the PIN has to be entered or cannot be (see handset/SimSecurity.h). */
+ * number that the PIN has to be entered or cannot be (see handset/SimSecurity.h). InvalidArgument (1) for a number
+ * that is no PIN. */
 int TAPI_SECURITY_GetAnyPinStatus(uint8_t pin, uint32_t *status);
 
 #ifdef __cplusplus

@@ -29,8 +29,11 @@ class ZPopup : public QWidget
 public:
     ~ZPopup() override;
 
+    /// The whole header, whatever is elided on the display.
     QString header() const;
+    /// Whether it was made to keep keys and pointer from the screen below.
     bool isModalOverParent() const;
+    /// The captions, of any length; an empty one takes the key's answer away.
     void setSoftkeyTextLeft(const QString &text);
     void setSoftkeyTextRight(const QString &text);
     /// The dialog's own softkey bar, never null, owned by the dialog.
@@ -40,6 +43,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
+    /// The dialog was answered, and is hidden already.
     void leftSoftkeyClicked();
     void rightSoftkeyClicked();
     /// The select key, where the dialog tells it apart from the left softkey.

@@ -51,6 +51,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
+    /// A key was pressed or tapped; besides what setClickedSlot() connects.
     void leftClicked();
     void rightClicked();
 
