@@ -1,7 +1,7 @@
 #include "PHONE_ENG_Setup.h"
 
 #include "AdviceOfCharge.h"
-#include "Handset.h"
+#include "Roles.h"
 
 using handset::AdviceOfCharge;
 
@@ -10,9 +10,7 @@ namespace {
 template <typename Call>
 int withAdviceOfCharge(Call call)
 {
-    const std::shared_ptr<handset::Handset> telephone = handset::current();
-    AdviceOfCharge *advice = telephone ? telephone->adviceOfCharge() : nullptr;
-    return advice ? call(*advice) : static_cast<int>(handset::NotAvailable);
+    return withRole(&handset::Handset::adviceOfCharge, call);
 }
 
 // Passes on how a write went; what kept it from being done is told as a signal, too.

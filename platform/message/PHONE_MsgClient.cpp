@@ -1,16 +1,14 @@
 #include "PHONE_MsgClient.h"
 
 #include "DataCalls.h"
-#include "Handset.h"
-#include "Status.h"
+#include "Roles.h"
 
 namespace {
 
 int withDataCalls(int (handset::DataCalls::*operation)())
 {
-    const std::shared_ptr<handset::Handset> telephone = handset::current();
-    handset::DataCalls *calls = telephone ? telephone->dataCalls() : nullptr;
-    return calls ? (calls->*operation)() : static_cast<int>(handset::NotAvailable);
+    return withRole(&handset::Handset::dataCalls,
+                    [operation](handset::DataCalls &calls) { return (calls.*operation)(); });
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// How a C function reaches its role of the installed telephone.
+// How the libraries of the phone reach a role of the installed telephone.
 #pragma once
 
 #include "Handset.h"
