@@ -44,6 +44,7 @@ public:
     ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinService::WidgetClsID skinClass);
     ~ZListBox() override;
 
+    /// The layout of the rows that name none of their own, those already made too. Nothing is repainted.
     void setItemType(QString type);
     QString itemType() const;
     ZSkinService::WidgetClsID skinClass() const;

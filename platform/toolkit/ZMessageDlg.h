@@ -23,7 +23,9 @@ public:
                 const char *name, bool modal, unsigned int flags);
     ~ZMessageDlg() override;
 
+    /// The whole text, whatever is scrolled out of sight.
     QString message() const;
+    /// What the dialog was taken as.
     MessageDlgType type() const;
 
 protected:

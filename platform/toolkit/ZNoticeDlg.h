@@ -23,7 +23,9 @@ public:
                bool modal, unsigned int flags, bool closable);
     ~ZNoticeDlg() override;
 
+    /// The whole text, whatever is scrolled out of sight.
     QString message() const;
+    /// What the dialog was taken as.
     Type type() const;
 
 protected:

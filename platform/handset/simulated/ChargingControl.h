@@ -39,6 +39,7 @@ public:
 
     virtual ~ChargingControl() = default;
 
+    /// What the next call that is dialed, or answered, costs.
     virtual sim::Tariff tariff(CallDirection direction) const = 0;
     /// Holds from the next call on. InvalidArgument for an element out of its range.
     virtual int setTariff(CallDirection direction, const sim::Tariff &tariff) = 0;

@@ -72,6 +72,7 @@ public:
     virtual QString number() const = 0;     ///< of the call on the line; null when idle
     virtual qint64 connectedMs() const = 0; ///< how long the call on the line is connected, by the clock; else 0
 
+    /// The network's tariffs and the account; the SIM card; packet data. They belong to the telephone.
     virtual ChargingControl &charging() = 0;
     virtual SimControl &simCard() = 0;
     virtual PacketControl &packets() = 0;
