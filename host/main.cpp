@@ -18,6 +18,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <memory>
 
 namespace {
 
@@ -57,10 +58,9 @@ bool displayAnswers()
     const auto disconnect = reinterpret_cast<void (*)(void *)>(xcb.resolve("xcb_disconnect"));
     if (!connect || !hasError || !disconnect)
         return true;
-    void *connection = connect(nullptr, nullptr);
-    const bool answers = hasError(connection) == 0;
-    disconnect(connection);
-    return answers;
+    // Kept until the program ends: a server may begin anew, or end, when its last client goes before Qt has come.
+    static const std::unique_ptr<void, void (*)(void *)> connection(connect(nullptr, nullptr), disconnect);
+    return hasError(connection.get()) == 0;
 }
 
 // An X display: the phone's dialogs place themselves, which a Wayland compositor does not let them.
@@ -208,7 +208,8 @@ int main(int argc, char **argv)
         fixSurroundings(options.isTour());
     else if (!hasPlatform() && !hasDisplay())
         return complain(ExitNoDisplay, missingDisplay());
-    const QApplication application(argc, argv);
+    int count = 1; // Qt would take --plugin for an option of its own, too
+    const QApplication application(count, argv);
     nameProgram();
     return run(options);
 }

@@ -8,13 +8,15 @@ constexpr int startMilliseconds = 30'000;
 
 } // namespace
 
-XServer::XServer()
+XServer::XServer(LastClientGoes then)
 {
+    const QString atReset =
+        then == LastClientGoes::Ends ? QStringLiteral("-terminate") : QStringLiteral("-noreset");
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QStringLiteral("Xvfb"),
                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
                    QStringLiteral("0"), QStringLiteral("800x760x24"), QStringLiteral("-nolisten"),
-                   QStringLiteral("tcp"), QStringLiteral("-noreset")});
+                   QStringLiteral("tcp"), atReset});
     if (!process.waitForStarted(startMilliseconds)) {
         reason = QStringLiteral("Xvfb: ") + process.errorString();
         return;

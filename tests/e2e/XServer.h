@@ -9,7 +9,9 @@
 class XServer
 {
 public:
-    XServer();
+    enum class LastClientGoes { Stays, Ends };
+
+    explicit XServer(LastClientGoes then = LastClientGoes::Stays);
     ~XServer();
 
     /// ":7", or empty when the server did not start; error() says why.

@@ -48,6 +48,7 @@ private slots:
     void oneWrongDigitIsNotTakenForTheReference();
     void keysLeadFromTheMenuThroughAResetAndOutAgain();
     void theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey();
+    void theQuestionWhetherTheDisplayAnswersEndsNoServer();
 
 private:
     void start();
@@ -244,6 +245,24 @@ void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey(
     QCOMPARE(seconds, 36000U);
     if (isMakingReferences())
         QSKIP("references were written, nothing was compared");
+}
+
+void WindowTest::theQuestionWhetherTheDisplayAnswersEndsNoServer()
+{
+    const XServer server(XServer::LastClientGoes::Ends);
+    QVERIFY2(!server.display().isEmpty(), qPrintable(server.error()));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("QT_QPA_PLATFORM")); // named, it is not asked
+    environment.insert(QStringLiteral("DISPLAY"), server.display());
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(KAV_HOST),
+                  {QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
+                   state->filePath(QStringLiteral("window.png"))});
+    QVERIFY(program.waitForFinished(patience));
+    const QByteArray errors = program.readAllStandardError();
+    QVERIFY2(program.exitStatus() == QProcess::NormalExit, errors.constData());
+    QCOMPARE(program.exitCode(), 0);
 }
 
 int main(int argc, char *argv[])
