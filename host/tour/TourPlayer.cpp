@@ -16,6 +16,8 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+
 namespace host::tour {
 
 using handset::CallDirection;
@@ -94,11 +96,30 @@ int TourPlayer::play(const Script &played)
         stop(ExitNotWritten, problem);
         return stopped;
     }
+    if (!hasDirectoryToKeep(played))
+        return stopped;
     collectMoves(played);
     scheduleTurn();
     loopLevel = QThread::currentThread()->loopLevel() + 1;
     loop.exec();
     return finish();
+}
+
+// Said before anything is played, as the script's mistakes are.
+bool TourPlayer::hasDirectoryToKeep(const Script &played)
+{
+    if (options.stateGiven && !options.stateDirectory.isEmpty())
+        return true;
+    const auto keeps = [](const Step &step) {
+        const auto *state = std::get_if<SetState>(&step.action);
+        return state && state->kind == SetState::Kept;
+    };
+    const auto found = std::find_if(played.steps.begin(), played.steps.end(), keeps);
+    if (found == played.steps.end())
+        return true;
+    place = played.place(found->line);
+    stop(ExitBadCommandLine, QStringLiteral("The script keeps its state: option 'state' must name a directory."));
+    return false;
 }
 
 void TourPlayer::collectMoves(const Script &played)
@@ -205,13 +226,7 @@ int TourPlayer::finish()
 
 void TourPlayer::perform(const SetState &action)
 {
-    const bool isKept = action.kind == SetState::Kept;
-    if (isKept && (!options.stateGiven || options.stateDirectory.isEmpty())) {
-        stop(ExitBadCommandLine,
-             QStringLiteral("The script keeps its state: option 'state' must name a directory."));
-        return;
-    }
-    openTelephone(isKept ? options.stateDirectory : QString());
+    openTelephone(action.kind == SetState::Kept ? options.stateDirectory : QString());
     if (!owner)
         return;
     if (action.kind == SetState::ReadyMade && telephone)

@@ -68,6 +68,7 @@ private:
         std::optional<Key> key;
     };
 
+    bool hasDirectoryToKeep(const Script &script);
     void collectMoves(const Script &script);
     void scheduleTurn();
     void turn();
