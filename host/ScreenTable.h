@@ -7,7 +7,7 @@
 
 namespace host {
 
-/// One screen. A new screen of the plug-in is a new row of the table below and nothing else.
+/// One screen. A new screen of the plug-in is a new row of the table below; the application needs no other change.
 struct ScreenEntry {
     const char *name;    ///< in scripts and on the command line, and the name that the screen is created with
     const char *create;  ///< the exported function that makes the screen

@@ -32,6 +32,9 @@ struct ZListBox::Private {
     quint64 lastSerial = 0;
     QPersistentModelIndex pressed;
     int rowBeforeClear = -1; // where the bar goes back to when there is such a row again
+    // What the pointer is on and goes on being on when that is there again: a list may be filled again every second.
+    int pressedBeforeClear = -1;
+    QString pressedTitle;
 
     int rowOf(const ZListItem *item);
     void renumber();
@@ -121,6 +124,8 @@ void ZListBox::insertItem(const ZListItem *item, int index, bool show)
         setSelected(row, true);
     if (row != rowBeforeClear)
         d->rowBeforeClear = rowBeforeClear;
+    if (row == d->pressedBeforeClear && item->title() == d->pressedTitle)
+        d->pressed = d->model->index(row);
     if (show)
         viewport()->update();
 }
@@ -144,6 +149,10 @@ void ZListBox::clear()
 {
     if (count() > 0)
         d->rowBeforeClear = currentItem();
+    if (d->pressed.isValid()) {
+        d->pressedBeforeClear = d->pressed.row();
+        d->pressedTitle = item(d->pressedBeforeClear)->title();
+    }
     const QList<ZListItem *> items = d->model->takeAll();
     for (ZListItem *item : items)
         d->items.erase(item);
@@ -289,6 +298,7 @@ void ZListBox::mousePressEvent(QMouseEvent *event)
     event->accept();
     d->rowBeforeClear = -1;
     d->pressed = QPersistentModelIndex();
+    d->pressedBeforeClear = -1;
     const QModelIndex under = indexAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !(d->model->flags(under) & Qt::ItemIsSelectable))
         return;
@@ -305,6 +315,7 @@ void ZListBox::mouseReleaseEvent(QMouseEvent *event)
 {
     event->accept();
     const QModelIndex pressed = std::exchange(d->pressed, QPersistentModelIndex());
+    d->pressedBeforeClear = -1;
     if (event->button() == Qt::LeftButton && pressed.isValid() && pressed == indexAt(event->position().toPoint()))
         choose(pressed.row());
 }

@@ -60,7 +60,8 @@ public:
     int index(const ZListItem *item) const;
     int count() const;
     /// Deletes every row, and leaves alone the items that are made but not inserted. A list that is filled again before
-    /// the user does anything with it has the bar on the row where it was, if there still is one.
+    /// the user does anything with it has the bar on the row where it was, if there still is one. A pointer pressed on a
+    /// row stays on it if the row at that place has the same title again.
     void clear();
 
     /// The row under the focus bar, -1 for none.
