@@ -11,7 +11,7 @@ enum ExitCode : int {
     ExitNoTrace = 4,       ///< the trace file cannot be opened
     ExitNoPlugin = 5,      ///< the plug-in library, or a function of it, is missing
     ExitBadScript = 6,     ///< a tour's script cannot be read or says something unknown
-    ExitNotWritten = 7,    ///< a photograph cannot be written
+    ExitNotWritten = 7,    ///< a photograph, or the text of a tour, cannot be written
     ExitNoTranslation = 8, ///< the translation catalogue cannot be loaded
     ExitNoDisplay = 9      ///< a window is asked for where there is none to show it on
 };

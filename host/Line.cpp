@@ -105,6 +105,12 @@ void Line::typeNumber(QChar digit)
         setNumber(begun + digit);
 }
 
+void Line::takeBackDigit()
+{
+    if (typing)
+        setNumber(nextNumber.chopped(nextNumber.isEmpty() ? 0 : 1));
+}
+
 bool Line::permits(Action action) const
 {
     if (!simulated)

@@ -33,6 +33,8 @@ public:
     void setNumber(const QString &number);
     /// Appends what the keypad types; the first digit after a call begins a new number.
     void typeNumber(QChar digit);
+    /// Takes back the last digit that the keypad has typed for the next call.
+    void takeBackDigit();
 
     /// Whether the line is in the state that `action` needs.
     bool permits(Action action) const;

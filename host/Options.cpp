@@ -29,7 +29,7 @@ constexpr const char *exitCodes = "\nExit codes:\n"
                                   "  4  the trace file cannot be opened\n"
                                   "  5  the plug-in library, or a function of it, is missing\n"
                                   "  6  the tour's script cannot be read, or has a mistake\n"
-                                  "  7  a photograph cannot be written\n"
+                                  "  7  a photograph, or the text of a tour, cannot be written\n"
                                   "  8  the translation catalogue cannot be loaded\n"
                                   "  9  there is no display to show the window on\n";
 

@@ -30,6 +30,7 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephon
     layOut();
     connect(menu, &MenuScreen::chosen, &screens, &ScreenHost::open);
     connect(menu, &MenuScreen::exitRequested, this, &PhoneWindow::close, Qt::QueuedConnection);
+    connect(menu, &MenuScreen::clearKeyClicked, &line, &Line::takeBackDigit);
     connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
     connect(body->keypad(), &Keypad::callPressed, &line, &Line::pressCallKey);
     connect(body->keypad(), &Keypad::hangUpPressed, &line, &Line::pressHangUpKey);

@@ -4,6 +4,8 @@
 #include <QtGui/QDropEvent>
 #include <QtGui/QKeyEvent>
 
+#include <cstring>
+
 namespace host {
 
 CodeField::CodeField(QWidget *parent)
@@ -21,8 +23,7 @@ CodeField::~CodeField()
 
 void CodeField::forget()
 {
-    for (volatile char &digit : kept) // volatile: not left out as nobody reads it
-        digit = 0;
+    ::explicit_bzero(kept.data(), kept.size()); // which a compiler does not leave out as nobody reads it
     used = 0;
     showMarks();
 }

@@ -44,13 +44,13 @@ LineSection::LineSection(Line &drivenLine)
     state->setAccessibleName(tr("State of the line"));
     state->setWordWrap(true);
     column->addWidget(state);
+    addNumber(column);
+    addButtons(column); // above what comes and goes: they keep their places
     notice->setObjectName(QStringLiteral("charge notice"));
     notice->setAccessibleName(tr("End of charging"));
     notice->setFont(bold);
     notice->setWordWrap(true);
     column->addWidget(notice);
-    addNumber(column);
-    addButtons(column);
     failure->setWordWrap(true);
     failure->setObjectName(QStringLiteral("line failure"));
     column->addWidget(failure);

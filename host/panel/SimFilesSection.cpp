@@ -75,7 +75,7 @@ struct RuleChoice {
 };
 
 constexpr std::array<RuleChoice, 3> rules{{
-    {AdviceOfCharge::FreeUpdate, "free"},
+    {AdviceOfCharge::FreeUpdate, "freely"},
     {AdviceOfCharge::UpdateUnderPin2, "with PIN2"},
     {AdviceOfCharge::NoUpdate, "never"},
 }};

@@ -91,11 +91,12 @@ TourPlayer::~TourPlayer()
 int TourPlayer::play(const Script &played)
 {
     script = &played;
-    place = script->name;
+    place = QCoreApplication::applicationName();
     if (const QString problem = photographs.prepare(); !problem.isEmpty()) {
         stop(ExitNotWritten, problem);
         return stopped;
     }
+    place = script->name;
     if (!hasDirectoryToKeep(played))
         return stopped;
     collectMoves(played);
@@ -219,6 +220,11 @@ int TourPlayer::finish()
            << expectations - failures << " of " << expectations << " expectations met, " << photographs.count()
            << " photographs in " << options.tourDirectory << '\n';
     output.flush();
+    if (output.status() != QTextStream::Ok) {
+        place = QCoreApplication::applicationName();
+        stop(ExitNotWritten, QStringLiteral("The text of the tour cannot be written."));
+        return stopped;
+    }
     return failures ? ExitExpectationFailed : ExitSuccess;
 }
 

@@ -13,6 +13,7 @@ QProcessEnvironment hostEnvironment(const QString &home)
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home); // without one Qt says that it picked one
     environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home + QStringLiteral("/config"));
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/cache"));
@@ -22,9 +23,11 @@ QProcessEnvironment hostEnvironment(const QString &home)
     return environment;
 }
 
-HostResult runHost(const QStringList &arguments, const QProcessEnvironment &environment)
+HostResult runHost(const QStringList &arguments, const QProcessEnvironment &environment, const QString &outputFile)
 {
     QProcess process;
+    if (!outputFile.isEmpty())
+        process.setStandardOutputFile(outputFile);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(KAV_HOST_PROGRAM), arguments);
     HostResult result;

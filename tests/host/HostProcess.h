@@ -14,5 +14,6 @@ struct HostResult {
 /// Offscreen, in a home of its own under `home`.
 QProcessEnvironment hostEnvironment(const QString &home);
 
-/// Runs the program to its end.
-HostResult runHost(const QStringList &arguments, const QProcessEnvironment &environment);
+/// Runs the program to its end. What it prints goes to `outputFile` where one is named.
+HostResult runHost(const QStringList &arguments, const QProcessEnvironment &environment,
+                   const QString &outputFile = {});

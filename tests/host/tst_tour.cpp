@@ -29,6 +29,7 @@ private slots:
     void aScriptThatCannotBeReadIsSaid();
     void aDirectoryThatCannotBeMadeIsSaid();
     void aPhotographThatCannotBeWrittenEndsTheTour();
+    void aTextThatCannotBeWrittenIsSaid();
     void theTourTouchesNoStateThatIsNotNamed();
     void aKeptStateNeedsItsDirectory();
     void aKeptStateIsThereAtTheNextStart();
@@ -295,6 +296,16 @@ void TourTest::aDirectoryThatCannotBeMadeIsSaid()
     const HostResult result = runHost({"--tour", path("file/tour")}, environment);
     QCOMPARE(result.code, 7);
     QVERIFY2(result.errors.contains(path("file/tour")), qPrintable(result.errors));
+    QVERIFY2(result.errors.startsWith("kavrecentcalls: "), qPrintable(result.errors)); // no line of the script's
+}
+
+void TourTest::aTextThatCannotBeWrittenIsSaid()
+{
+    writeFile("a.tour", "open callTime\n");
+    const HostResult result =
+        runHost({"--tour", path("tour"), "--script", path("a.tour")}, environment, "/dev/full");
+    QCOMPARE(result.errors, "kavrecentcalls: The text of the tour cannot be written.\n");
+    QCOMPARE(result.code, 7);
 }
 
 void TourTest::aPhotographThatCannotBeWrittenEndsTheTour()

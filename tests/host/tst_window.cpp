@@ -324,8 +324,18 @@ void WindowTest::digitsOfTheKeypadMakeUpTheNumber()
     clickKey("Call");
     QCOMPARE(telephone->number(), "*100#");
     clickKey("Hang up");
+    clickKey("Clear"); // a number that was dialed is no longer being typed
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "*100#");
     clickKey("9");
     QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
+    clickKey("5");
+    clickKey("Clear");
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
+    for (int i = 0; i < 2; ++i) {
+        clickKey("Clear");
+        QCOMPARE(window->findChild<QLineEdit *>()->text(), "");
+    }
+    clickKey("9");
 
     window->openScreen(0);
     clickKey("Down");

@@ -100,7 +100,7 @@ int CallStore::status(bool succeeded) const
 {
     if (succeeded)
         return Success;
-    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(database->lastError().text()));
+    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(database->lastError())));
     return StorageFailed;
 }
 

@@ -22,6 +22,11 @@ int sqlite::code(const QSqlError &error)
     return error.nativeErrorCode().toInt() & 0xff;
 }
 
+QString sqlite::reason(const QSqlError &error)
+{
+    return error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+}
+
 Database::Database(const QString &file, Access access)
     : name(newConnectionName())
     , connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))

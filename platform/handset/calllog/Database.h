@@ -19,6 +19,8 @@ inline constexpr int NotADatabase = 26;
 
 /// The primary result code of an error; 0 when it has none.
 int code(const QSqlError &error);
+/// What SQLite says of an error, without what the driver adds to it.
+QString reason(const QSqlError &error);
 } // namespace sqlite
 
 /// Opens on construction, closes and forgets the connection on destruction. Every statement prepared on it must be

@@ -16,12 +16,12 @@ Finding failure(const Database &database)
     case sqlite::Error: // the tables are not those of a call log
     case sqlite::Corrupt:
     case sqlite::NotADatabase:
-        return {Verdict::Damaged, error.text()};
+        return {Verdict::Damaged, sqlite::reason(error)};
     case sqlite::Busy:
     case sqlite::Locked:
         return {Verdict::Blocked, QStringLiteral("another process is using it")};
     }
-    return {Verdict::Blocked, error.text()};
+    return {Verdict::Blocked, sqlite::reason(error)};
 }
 
 } // namespace handset::calllog

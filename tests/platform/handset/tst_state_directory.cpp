@@ -59,6 +59,7 @@ private slots:
     void aDirectoryThatCannotBeUsedIsOneSentence();
     void permissionsThatAreMissingAreTold_data();
     void permissionsThatAreMissingAreTold();
+    void aCallLogThatCannotBeWrittenIsTold();
     void aLockThatIsSomethingElseIsAnError_data();
     void aLockThatIsSomethingElseIsAnError();
     void aLinkToADirectoryIsFollowed();
@@ -140,6 +141,24 @@ void TestStateDirectory::permissionsThatAreMissingAreTold()
         "error The state directory \"" + path.toUtf8() + "\" cannot be used: Permission denied.";
     QCOMPARE(answer, isUsable ? QByteArray("holding") : refusal);
     QCOMPARE(state.names().isEmpty(), !isUsable);
+}
+
+void TestStateDirectory::aCallLogThatCannotBeWrittenIsTold()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()));
+    const QByteArray log = QFile::encodeName(state.database());
+    QCOMPARE(::chmod(QFile::encodeName(state.sibling(QStringLiteral("."))).constData(), 0711), 0);
+    for (const QString &name : QDir(state.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotDot)) {
+        if (::chown(QFile::encodeName(state.path() + QLatin1Char('/') + name).constData(), ordinaryUser(),
+                    static_cast<gid_t>(-1)) != 0)
+            QSKIP("root may not give a file to another user here");
+    }
+    QCOMPARE(::chmod(log.constData(), 0400), 0);
+    const QByteArray answer = Holder(state.path(), {QString::number(ordinaryUser())}).firstLine();
+    if (answer == "not permitted")
+        QSKIP("root may not become another user here");
+    QCOMPARE(answer, "error The call log \"" + log + "\" cannot be used: attempt to write a readonly database.");
 }
 
 void TestStateDirectory::aLockThatIsSomethingElseIsAnError_data()

@@ -1,6 +1,5 @@
 // PIN2: tries, PUK, and what is kept of the digits.
 #include "Pin2.h"
-#include "Wipe.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
@@ -57,10 +56,6 @@ private slots:
     void the_hash_is_the_standards_data();
     void the_hash_is_the_standards();
     void the_same_digits_are_never_kept_alike();
-    void a_wiped_buffer_holds_no_digit();
-    void a_wiped_buffer_holds_no_digit_that_was_deleted();
-    void wiping_leaves_what_others_share_alone();
-    void wiping_takes_a_literal_and_nothing();
 
 private:
     // 1 accepted, 0 not, minus the status on failure.
@@ -386,60 +381,6 @@ void Pin2Test::the_same_digits_are_never_kept_alike()
     QVERIFY(other.matches("2580"));
     QVERIFY(!one.matches("2581"));
     QVERIFY(!one.matches(""));
-}
-
-void Pin2Test::a_wiped_buffer_holds_no_digit()
-{
-    QByteArray digits;
-    digits.append("25802580");
-    const char *const buffer = digits.constData();
-    const auto size = static_cast<std::size_t>(digits.capacity());
-    wipe(digits);
-    QVERIFY(digits.isEmpty());
-    QCOMPARE(digits.constData(), buffer); // still alive, so it can be looked at
-    QVERIFY(std::all_of(buffer, buffer + size, [](char c) { return c == 0; }));
-}
-
-void Pin2Test::a_wiped_buffer_holds_no_digit_that_was_deleted()
-{
-    QByteArray digits;
-    digits.reserve(64);
-    digits.append("12345678");
-    digits.remove(0, 2);
-    digits.chop(3);
-    digits.prepend('9');
-    QCOMPARE(digits, QByteArray("9345"));
-    const auto &buffer = digits.data_ptr();
-    const char *const begin = buffer.data() - buffer.freeSpaceAtBegin();
-    const char *const end = begin + buffer.constAllocatedCapacity();
-    QVERIFY(std::find(begin, end, '7') != end);
-    wipe(digits);
-    QVERIFY(digits.isEmpty());
-    QCOMPARE(buffer.data() - buffer.freeSpaceAtBegin(), begin);
-    QVERIFY(std::all_of(begin, end, [](char c) { return c == 0; }));
-}
-
-void Pin2Test::wiping_leaves_what_others_share_alone()
-{
-    QByteArray digits("2580");
-    const QByteArray other = digits;
-    wipe(digits);
-    QVERIFY(digits.isEmpty());
-    QCOMPARE(other, QByteArray("2580"));
-}
-
-void Pin2Test::wiping_takes_a_literal_and_nothing()
-{
-    static const char literal[] = "2580";
-    QByteArray raw = QByteArray::fromRawData(literal, 4);
-    wipe(raw);
-    QVERIFY(raw.isEmpty());
-    QCOMPARE(literal[0], '2');
-    QByteArray null;
-    wipe(null);
-    QVERIFY(null.isEmpty());
-    wipe(null);
-    QVERIFY(null.isEmpty());
 }
 
 QTEST_APPLESS_MAIN(Pin2Test)
