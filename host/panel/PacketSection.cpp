@@ -1,6 +1,7 @@
 #include "PacketSection.h"
 
 #include "Controls.h"
+#include "Latin1.h"
 #include "PacketData.h"
 #include "StatusText.h"
 #include "UpdateBroadcast.h"
@@ -130,8 +131,10 @@ void PacketSection::addFigures(QGridLayout *grid, int row)
 
 void PacketSection::start()
 {
-    told(line.telephone()->packets().startSession(apn->text().toLatin1(), static_cast<quint32>(sent->value()),
-                                                  static_cast<quint32>(received->value())));
+    const std::optional<QByteArray> name = latin1Of(apn->text());
+    told(name ? line.telephone()->packets().startSession(*name, static_cast<quint32>(sent->value()),
+                                                         static_cast<quint32>(received->value()))
+              : int{handset::InvalidArgument});
 }
 
 void PacketSection::stop()

@@ -1,5 +1,6 @@
 #include "TourScript.h"
 
+#include "Latin1.h"
 #include "ScreenTable.h"
 #include "faults/Operations.h"
 
@@ -363,7 +364,9 @@ Parsed parseSession(const QString &rest)
     if (words.size() != 4 || words[0] != QLatin1StringView("start") || !isUp || !isDown)
         return Parsed::wrong(
             QStringLiteral("a session is \"session start APN UP DOWN\", in bytes a second, and \"session stop\""));
-    return done(StartSession{words[1].toLatin1(), up, down});
+    const std::optional<QByteArray> apn = latin1Of(words[1]);
+    return apn ? done(StartSession{*apn, up, down})
+               : Parsed::wrong(QStringLiteral("an access point name has no characters but those of Latin-1"));
 }
 
 // --- expectations

@@ -108,6 +108,7 @@ private slots:
     void aSessionIsStartedAndStopped();
     void aRunningSessionGoesOnBySecond();
     void slotsAndTotalsAreShown();
+    void anAccessPointNameThatIsNoneIsTold_data();
     void anAccessPointNameThatIsNoneIsTold();
     void anUpdateIsSentByHand();
     void operationsFailAndWorkAgain();
@@ -779,16 +780,25 @@ void PanelTest::slotsAndTotalsAreShown()
     QCOMPARE(label("packet total"), "00:00:20, 0 B\n0 B sent, 0 B received");
 }
 
+void PanelTest::anAccessPointNameThatIsNoneIsTold_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("empty") << "";
+    QTest::newRow("a character beyond Latin-1") << QString::fromUtf8("caf\xc3\xa9\xe2\x82\xac");
+}
+
 void PanelTest::anAccessPointNameThatIsNoneIsTold()
 {
+    QFETCH(QString, name);
     showTab("Data");
-    control<QLineEdit>("apn")->clear();
+    control<QLineEdit>("apn")->setText(name);
     click("Start session");
     QCOMPARE(label("packet failure"), "Not done: an access point name has 1 to 101 Latin-1 characters.");
     QVERIFY(!telephone->packets().isSessionRunning());
-    enter("apn", "x");
+    control<QLineEdit>("apn")->setText(name.first(name.isEmpty() ? 0 : 4) + "x");
     click("Start session");
     QVERIFY(!control<QLabel>("packet failure")->isVisible());
+    QVERIFY(telephone->packets().isSessionRunning());
 }
 
 void PanelTest::anUpdateIsSentByHand()

@@ -195,6 +195,7 @@ void TourScriptTest::failuresAndPacketData()
     QCOMPARE(session.apn, "internet.example");
     QCOMPARE(session.sentPerSecond, quint32{100});
     QCOMPARE(session.receivedPerSecond, quint32{4294967295});
+    QCOMPARE(onlyAction<StartSession>(QString::fromUtf8("session start caf\xc3\xa9 1 1")).apn, "caf\xe9");
     onlyAction<StopSession>("session stop");
     onlyAction<Broadcast>("broadcast");
 }
@@ -319,6 +320,8 @@ void TourScriptTest::mistakes_data()
     QTest::newRow("a session without rates") << "session start internet";
     QTest::newRow("a session that sends less than nothing") << "session start internet -1 0";
     QTest::newRow("a session that sends too much") << "session start internet 4294967296 0";
+    QTest::newRow("a session of a name beyond Latin-1")
+        << QString::fromUtf8("session start caf\xc3\xa9\xe2\x82\xac 1 1");
     QTest::newRow("a session that pauses") << "session pause";
     QTest::newRow("a broadcast with a text") << "broadcast now";
     QTest::newRow("expecting nothing") << "expect";
