@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Call.h"
+#include "Date.h"
 #include "Handset.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 
 #include <memory>
@@ -29,9 +31,19 @@ public:
     virtual bool endSession() = 0;
     /// Lets time go by.
     virtual void pass(qint64 ms) = 0;
+
+    /// From the next call on a call costs a unit for each second that it is connected.
+    virtual bool chargeUnits() = 0;
+    /// A deposit, in the unit of the charge type.
+    virtual bool payIn(const QString &amount, const Date &expires) = 0;
+    /// Who may update a SIM file: numbers of AdviceOfCharge::File and AdviceOfCharge::UpdateRule.
+    virtual bool setUpdateRule(quint8 file, quint8 rule) = 0;
+    /// The digits of the SIM's PIN2.
+    virtual QByteArray pin2() const = 0;
 };
 
-/// The rig of the backend that this program is built for, with an empty state of its own.
+/// The rig of the backend that this program is built for, with an empty state of its own and a new SIM: no limit, no
+/// price, every file free to update, PIN2 switched on and never tried; nothing has been paid in.
 std::unique_ptr<HandsetRig> makeRig();
 
 } // namespace handset::test

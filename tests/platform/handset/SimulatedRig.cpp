@@ -32,6 +32,24 @@ public:
     bool endSession() override { return (*phone)->packets().stopSession() == Success; }
     void pass(qint64 ms) override { clock->advance(ms); }
 
+    bool chargeUnits() override
+    {
+        sim::Tariff tariff;
+        tariff.unitsPerInterval = 10;
+        tariff.interval = 10;
+        return (*phone)->charging().setTariff(CallDirection::Dialed, tariff) == Success &&
+               (*phone)->charging().setTariff(CallDirection::Answered, tariff) == Success;
+    }
+    bool payIn(const QString &amount, const Date &expires) override
+    {
+        return (*phone)->charging().topUp(amount, expires) == Success;
+    }
+    bool setUpdateRule(quint8 file, quint8 rule) override
+    {
+        return (*phone)->simCard().setUpdateRule(file, rule) == Success;
+    }
+    QByteArray pin2() const override { return sim::SimCard::newCardPin2.toByteArray(); }
+
 private:
     StateDir state;
     std::shared_ptr<ManualClock> clock = std::make_shared<ManualClock>();

@@ -1,4 +1,4 @@
-// What every backend must do alike, written against the interfaces alone.
+// What every backend must do alike, written against the interfaces alone: times of calls and packet data.
 #include "CallLog.h"
 #include "CallService.h"
 #include "DataCalls.h"
@@ -129,6 +129,8 @@ void TestContract::aNewTelephoneHasAllRolesAndNoTime()
     QVERIFY(rig->handset().callService());
     QVERIFY(rig->handset().dataCalls());
     QVERIFY(rig->handset().packetData());
+    QVERIFY(rig->handset().adviceOfCharge());
+    QVERIFY(rig->handset().simSecurity());
     QCOMPARE(figures(), SixFigures());
     QCOMPARE(status(), quint8(DataCalls::Idle));
     QCOMPARE(sessions(), QStringList());
