@@ -223,14 +223,12 @@ void PHONE_UI_RecentCallCostSetupView::initList()
 
 void PHONE_UI_RecentCallCostSetupView::appendRows()
 {
-    for (int row = 0; row < RowCount; ++row) {
+    ScreenFrame::appendRows(listBox, RowCount, [this](int row) {
         ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return makeCategoryString(row); });
-        if (!item)
-            return; // a later row must not slip into this one's place
-        if (row >= firstValueRow)
+        if (item && row >= firstValueRow)
             ScreenFrame::appendValue(item, makeCategoryItem(row));
-        ScreenFrame::appendRow(listBox, item);
-    }
+        return item;
+    });
 }
 
 void PHONE_UI_RecentCallCostSetupView::disableRows(int first, int last, unsigned char rule)

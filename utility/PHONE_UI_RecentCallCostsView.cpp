@@ -93,14 +93,12 @@ void PHONE_UI_RecentCallCostsView::initList()
     if (!meter)
         return;
     currencyUnit = meter->getCurrencyUnit();
-    for (int row = 0; row < RowCount; ++row) {
+    ScreenFrame::appendRows(listBox, RowCount, [this](int row) {
         ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
-        if (!item)
-            return; // a later row must not slip into this one's place
-        if (row < valueRowCount)
+        if (item && row < valueRowCount)
             ScreenFrame::appendValue(item, getItemValue(row));
-        ScreenFrame::appendRow(listBox, item);
-    }
+        return item;
+    });
 }
 
 QString PHONE_UI_RecentCallCostsView::getItemTitle(int row)

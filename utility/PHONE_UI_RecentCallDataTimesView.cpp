@@ -74,16 +74,14 @@ void PHONE_UI_RecentCallDataTimesView::loadFigures()
 
 void PHONE_UI_RecentCallDataTimesView::initList()
 {
-    for (int row = 0; row < RowCount; ++row) {
-        const bool isHeading = row == CurrentHeading || row == AllHeading;
-        ZSettingItem *item = isHeading ? ScreenFrame::newSeparator(listBox, getItemTitle(row))
-                                       : ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
-        if (!item)
-            return; // a later row must not slip into this one's place
-        if (!isHeading && row != ResetAll)
+    ScreenFrame::appendRows(listBox, RowCount, [this](int row) {
+        if (row == CurrentHeading || row == AllHeading)
+            return ScreenFrame::newSeparator(listBox, getItemTitle(row));
+        ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
+        if (item && row != ResetAll)
             ScreenFrame::appendValue(item, getItemValue(row));
-        ScreenFrame::appendRow(listBox, item);
-    }
+        return item;
+    });
 }
 
 QString PHONE_UI_RecentCallDataTimesView::getItemTitle(int row)

@@ -114,7 +114,7 @@ PHONE_UI_RecentCallDataVolumesDetailView::PHONE_UI_RecentCallDataVolumesDetailVi
     initList();
 }
 
-// The meter is left behind: whoever holds its texts may still ask it.
+// The meter is not deleted: it is left behind.
 PHONE_UI_RecentCallDataVolumesDetailView::~PHONE_UI_RecentCallDataVolumesDetailView() = default;
 
 QString PHONE_UI_RecentCallDataVolumesDetailView::getInstructTextY()
@@ -139,9 +139,10 @@ void PHONE_UI_RecentCallDataVolumesDetailView::initFrame()
     QWidget *content = getContentWidget(true);
     addHeading(content, getItemTitle(Heading), headingGeometry);
     addHeading(content, getItemTitle(Name), nameGeometry);
-    listBox = ScreenFrame::buildList(this, frame);
+    listBox = ScreenFrame::newList(this);
     if (listBox)
         listBox->setFocus();
+    ScreenFrame::connectList(this, listBox, frame);
 }
 
 // Unlike the other screens' bars, this one has its left key disabled.
@@ -173,16 +174,14 @@ void PHONE_UI_RecentCallDataVolumesDetailView::initFigures()
 
 void PHONE_UI_RecentCallDataVolumesDetailView::initList()
 {
-    for (int row = 0; row < RowCount; ++row) {
-        const bool isHeading = row < Sent;
-        ZSettingItem *item = isHeading ? ScreenFrame::newSeparator(listBox, getItemTitle(row))
-                                       : ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
-        if (!item)
-            return; // a later row must not slip into this one's place
-        if (!isHeading)
+    ScreenFrame::appendRows(listBox, RowCount, [this](int row) {
+        if (row < Sent)
+            return ScreenFrame::newSeparator(listBox, getItemTitle(row));
+        ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
+        if (item)
             ScreenFrame::appendValue(item, getItemValue(wordOfRow(row)));
-        ScreenFrame::appendRow(listBox, item);
-    }
+        return item;
+    });
 }
 
 QString PHONE_UI_RecentCallDataVolumesDetailView::getItemTitle(int row)

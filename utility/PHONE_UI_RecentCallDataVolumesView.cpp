@@ -97,14 +97,11 @@ void PHONE_UI_RecentCallDataVolumesView::initList()
     if (!listBox)
         return;
     listBox->clear();
-    for (int row = 0; row < RowCount; ++row) {
-        const bool isHeading = row == CurrentHeading || row == AllHeading;
-        ZSettingItem *item = isHeading ? ScreenFrame::newSeparator(listBox, getItemTitle(row))
-                                       : ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
-        if (!item)
-            return; // a later row must not slip into this one's place
-        ScreenFrame::appendRow(listBox, item);
-    }
+    ScreenFrame::appendRows(listBox, RowCount, [this](int row) {
+        if (row == CurrentHeading || row == AllHeading)
+            return ScreenFrame::newSeparator(listBox, getItemTitle(row));
+        return ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
+    });
 }
 
 QString PHONE_UI_RecentCallDataVolumesView::getItemTitle(int row)

@@ -88,13 +88,12 @@ void PHONE_UI_RecentCallTimesView::initList()
     if (!msgClient)
         return;
     updateDataCallTime();
-    for (int row = 0; row < RowCount; ++row) {
+    ScreenFrame::appendRows(listBox, RowCount, [this](int row) {
         ZSettingItem *item = ScreenFrame::newRow(listBox, [&] { return getItemTitle(row); });
-        if (!item)
-            return; // a later row must not slip into this one's place
-        ScreenFrame::appendValue(item, getItemValue(row));
-        ScreenFrame::appendRow(listBox, item);
-    }
+        if (item)
+            ScreenFrame::appendValue(item, getItemValue(row));
+        return item;
+    });
 }
 
 QString PHONE_UI_RecentCallTimesView::getItemTitle(int row)

@@ -43,16 +43,27 @@ ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe)
     return softKey;
 }
 
-ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe)
+ZListBox *newList(ZKbMainWidget *screen)
 {
     QWidget *content = screen->getContentWidget(true);
     auto *list =
         new (std::nothrow) ZListBox(QString::fromLatin1("%M"), content, 0, ZSkinService::SettingListClass);
-    if (list) {
+    if (list)
         list->setGeometry(QRect(0, 0, content->width(), content->height()));
+    return list;
+}
+
+void connectList(ZKbMainWidget *screen, ZListBox *list, const Recipe &recipe)
+{
+    if (list)
         QObject::connect(list, "2selected(ZSettingItem *)", screen, "1slotSelectedItem(ZSettingItem *)");
-    }
     QObject::connect(screen, "2clearKeyClicked()", screen, recipe.backMember);
+}
+
+ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe)
+{
+    ZListBox *list = newList(screen);
+    connectList(screen, list, recipe);
     return list;
 }
 

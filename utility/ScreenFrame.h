@@ -29,8 +29,13 @@ void emptyLeftKey(ZSoftKey *softKey, const Recipe &recipe);
 /// memory for the bar.
 ZSoftKey *buildTitleAndSoftKey(ZKbMainWidget *screen, const Recipe &recipe);
 
-/// Fills the content area of `screen` with a settings list that reports to slotSelectedItem(ZSettingItem*), and
-/// connects the clear key. Null when there is no memory for the list.
+/// Fills the content area of `screen` with a settings list. Null when there is no memory for it.
+ZListBox *newList(ZKbMainWidget *screen);
+
+/// Connects `list`, which may be null, to slotSelectedItem(ZSettingItem*), and the clear key to the way back.
+void connectList(ZKbMainWidget *screen, ZListBox *list, const Recipe &recipe);
+
+/// newList() and connectList().
 ZListBox *buildList(ZKbMainWidget *screen, const Recipe &recipe);
 
 /// Makes a row, not yet inserted and without a text. Null without a list or memory.
@@ -48,6 +53,18 @@ ZSettingItem *newRow(ZListBox *list, Title title)
 ZSettingItem *newSeparator(ZListBox *list, const QString &label);
 void appendValue(ZSettingItem *row, const QString &value);
 void appendRow(ZListBox *list, ZSettingItem *row);
+/// Appends the rows that `makeRow` answers for 0 to `count` - 1. Ends at one that could not be made: a later row must
+/// not slip into its place.
+template <typename MakeRow>
+void appendRows(ZListBox *list, int count, MakeRow makeRow)
+{
+    for (int number = 0; number < count; ++number) {
+        ZSettingItem *row = makeRow(number);
+        if (!row)
+            return;
+        appendRow(list, row);
+    }
+}
 
 /// Rewrites the value of row `row` with what `value()` answers; nothing is asked where there is no such row.
 template <typename Value>

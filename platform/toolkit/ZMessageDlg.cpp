@@ -3,22 +3,19 @@
 #include "ZTextPane.h"
 #include "translation.h"
 
-#include <QtCore/QBasicTimer>
 #include <QtCore/qlogging.h>
 #include <QtGui/QKeyEvent>
 
 struct ZMessageDlg::Private {
     QString message;
     MessageDlgType type;
-    int timeout;
-    QBasicTimer timer;
     ZTextPane *text = nullptr;
 };
 
 ZMessageDlg::ZMessageDlg(const QString &header, const QString &message, MessageDlgType type, int timeout,
                          QWidget *parent, const char *name, bool modal, unsigned int flags)
     : ZPopup(header, parent, name, modal, flags)
-    , d(std::make_unique<Private>(Private{message, type, timeout, QBasicTimer()}))
+    , d(std::make_unique<Private>(Private{message, type}))
 {
     if (type != QuestionDlg && type != InformationDlg) {
         qWarning("ZMessageDlg: there is no type %d", static_cast<int>(type));
@@ -33,6 +30,7 @@ ZMessageDlg::ZMessageDlg(const QString &header, const QString &message, MessageD
         setSoftkeyTextLeft(translatedFor<ZMessageDlg>("TXT_RID_SOFTKEY_OK", "OK"));
         break;
     }
+    answerAfter(timeout, d->type == QuestionDlg ? RightAnswer : LeftAnswer);
     setAccessibleDescription(message);
     d->text = new ZTextPane(message, this);
     setBody(d->text);
@@ -56,28 +54,4 @@ void ZMessageDlg::keyPressEvent(QKeyEvent *event)
         event->accept();
     else
         ZPopup::keyPressEvent(event);
-}
-
-void ZMessageDlg::showEvent(QShowEvent *event)
-{
-    ZPopup::showEvent(event);
-    if (!event->spontaneous() && d->timeout > 0)
-        d->timer.start(d->timeout, this);
-}
-
-void ZMessageDlg::hideEvent(QHideEvent *event)
-{
-    if (!event->spontaneous())
-        d->timer.stop();
-    ZPopup::hideEvent(event);
-}
-
-void ZMessageDlg::timerEvent(QTimerEvent *event)
-{
-    if (event->timerId() != d->timer.timerId()) {
-        ZPopup::timerEvent(event);
-        return;
-    }
-    d->timer.stop();
-    answer(d->type == QuestionDlg ? RightAnswer : LeftAnswer);
 }

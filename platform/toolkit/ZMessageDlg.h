@@ -30,9 +30,6 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
-    void timerEvent(QTimerEvent *event) override;
 
 private:
     struct Private;

@@ -121,9 +121,9 @@ QStringList detailSteps(const QString &heading, const QString &name, const char 
                "screen.getContentWidget(true)",
                "ZListBox(\"%M\", content, 0, 40)",
                QStringLiteral("list.setGeometry(0, 0, %1, %2)").arg(content.width()).arg(content.height()),
+               "list.setFocus()",
                "connect(list, \"2selected(ZSettingItem *)\", screen, \"1slotSelectedItem(ZSettingItem *)\")",
                "connect(screen, \"2clearKeyClicked()\", screen, \"1slotBack()\")",
-               "list.setFocus()",
                query,
            }) +
            separatorSteps(0, heading) + separatorSteps(1, name) + rowSteps(2, "Sent", figures.at(0)) +
