@@ -26,6 +26,7 @@ struct Comparison {
     std::optional<double> bar; ///< ours may take this many times as long; nothing is for information only
     Clock clock = Clock::Processor;
     benchmark::IterationCount iterations = 0; ///< of a repetition; 0 is as many as it takes to be timed well
+    int operations = 1; ///< of an iteration; where there are many, how many a second are printed too
 };
 
 } // namespace bench

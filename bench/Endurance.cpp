@@ -14,7 +14,7 @@ namespace bench {
 
 namespace {
 
-// From the page tables: the quicker counters of the kernel are some hundred KiB off.
+// From the page tables: the quicker counters of the kernel are some hundred KiB off. 0 where it cannot be read.
 long long residentBytes()
 {
     std::ifstream rollup("/proc/self/smaps_rollup");

@@ -89,6 +89,7 @@ public:
     }
     int resetTotalDuration() override { return Success; }
     int resetTotalBytes() override { return Success; }
+    void setUpdateListener(const std::function<void()> &) override {} // nothing ever changes
 };
 
 class Charge final : public handset::AdviceOfCharge

@@ -14,6 +14,8 @@ struct Unit {
 };
 constexpr std::array units{Unit{"ms", 1e6}, Unit{"us", 1e3}, Unit{"ns", 1}};
 
+constexpr double nsPerSecond = 1e9;
+
 struct Tally {
     int bars = 0;
     int met = 0;
@@ -81,6 +83,16 @@ double printTimes(const char *name, const Result &result, Clock clock)
     return ratio;
 }
 
+void printRates(const Result &result)
+{
+    const Comparison &row = result.comparison;
+    const auto rate = [&row](const std::vector<Sample> &samples) {
+        return row.operations * nsPerSecond / median(times(samples, row.clock));
+    };
+    std::printf("  a second: %s %.0f, %s %.0f\n", row.ours.label.c_str(), rate(result.measured.ours),
+                row.beside.label.c_str(), rate(result.measured.beside));
+}
+
 void printComparison(const Result &result, Tally &tally)
 {
     const Comparison &row = result.comparison;
@@ -98,6 +110,8 @@ void printComparison(const Result &result, Tally &tally)
         printTimes("  the processor's part of it", result, Clock::Processor);
         std::printf("\n");
     }
+    if (row.operations > 1)
+        printRates(result);
 }
 
 void printComparisons(const std::vector<Result> &results, Tally &tally)
@@ -119,6 +133,11 @@ void printMemory(const char *what, const Endured &row, long long before, long lo
                  Tally &tally)
 {
     constexpr double kib = 1024;
+    if (before <= 0 || after <= 0) {
+        ++tally.unmeasured;
+        std::printf("%-24s %-10s NOT MEASURED: the system does not tell\n", row.screen.c_str(), what);
+        return;
+    }
     const double growth = perCycle(before, after, row.cycles);
     const double bar = row.leftBehind + noise;
     std::printf("%-24s %-10s %11.1f KiB %11.1f KiB %12.3f B  <= %3.0f B  %s\n", row.screen.c_str(), what,

@@ -15,8 +15,10 @@ using LineState = Line::Telephone::LineState;
 
 namespace {
 
-constexpr StatusMeaning meaning{"the number is not one that can be dialed", "the line is in another state",
-                                "not allowed now: nothing more may be charged"};
+constexpr StatusMeaning meaning{
+    QT_TRANSLATE_NOOP("host::StatusText", "the number is not one that can be dialed"),
+    QT_TRANSLATE_NOOP("host::StatusText", "the line is in another state"),
+    QT_TRANSLATE_NOOP("host::StatusText", "not allowed now: nothing more may be charged")};
 
 LineState neededState(Line::Action action)
 {
@@ -39,15 +41,15 @@ QString stateWord(LineState state, qint64 connectedMs)
 {
     switch (state) {
     case LineState::Idle:
-        return QStringLiteral("Idle");
+        return Line::tr("Idle");
     case LineState::Dialing:
-        return QStringLiteral("Dialing");
+        return Line::tr("Dialing");
     case LineState::Ringing:
-        return QStringLiteral("Ringing");
+        return Line::tr("Ringing");
     case LineState::Connected:
         break;
     }
-    return QStringLiteral("Connected %1").arg(clockText(connectedMs / 1000));
+    return Line::tr("Connected %1").arg(clockText(connectedMs / 1000));
 }
 
 QString endOfCharging(const Charging &charging, const Card &card)
@@ -55,16 +57,16 @@ QString endOfCharging(const Charging &charging, const Card &card)
     const std::optional<quint32> onMeter = card.unitsLeft();
     const auto account = charging.account();
     const bool isLimit = onMeter && !(account && account->credit < *onMeter);
-    return isLimit ? QStringLiteral("The credit limit is reached") : QStringLiteral("The credit is used up");
+    return isLimit ? Line::tr("The credit limit is reached in %1 s.") : Line::tr("The credit is used up in %1 s.");
 }
 
 QString stopText(Charging::StopReason reason)
 {
     switch (reason) {
     case Charging::StopReason::LimitReached:
-        return QStringLiteral("The telephone has ended the call: the credit limit is reached.");
+        return Line::tr("The telephone has ended the call: the credit limit is reached.");
     case Charging::StopReason::CreditUsedUp:
-        return QStringLiteral("The telephone has ended the call: the credit is used up.");
+        return Line::tr("The telephone has ended the call: the credit is used up.");
     case Charging::StopReason::None:
         break;
     }
@@ -173,13 +175,12 @@ void Line::finish(int status)
 QString Line::describeState() const
 {
     if (!simulated)
-        return QStringLiteral("This telephone cannot be driven from here.");
+        return tr("This telephone cannot be driven from here.");
     const LineState state = simulated->lineState();
     QStringList parts{stateWord(state, simulated->connectedMs())};
     if (state != LineState::Idle) {
-        parts << (simulated->callKind() == CallKind::Data ? QStringLiteral("data call")
-                                                          : QStringLiteral("voice call"));
-        parts << (simulated->number().isEmpty() ? QStringLiteral("number withheld") : simulated->number());
+        parts << (simulated->callKind() == CallKind::Data ? tr("data call") : tr("voice call"));
+        parts << (simulated->number().isEmpty() ? tr("number withheld") : simulated->number());
     }
     return parts.join(QStringLiteral(", "));
 }
@@ -192,9 +193,7 @@ QString Line::chargeNotice() const
     const std::optional<qint64> msLeft = charging.msLeft();
     if (!msLeft || *msLeft > Charging::warningMs)
         return stopText(charging.stopReason());
-    return QStringLiteral("%1 in %2 s.")
-        .arg(endOfCharging(charging, simulated->simCard().card()))
-        .arg((*msLeft + 999) / 1000);
+    return endOfCharging(charging, simulated->simCard().card()).arg((*msLeft + 999) / 1000);
 }
 
 } // namespace host

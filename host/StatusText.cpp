@@ -2,6 +2,8 @@
 
 #include "Status.h"
 
+#include <QtCore/QCoreApplication>
+
 namespace host {
 
 namespace {
@@ -13,9 +15,9 @@ const char *reason(int status, const StatusMeaning &meaning)
     case handset::InvalidArgument:
         return meaning.invalidArgument;
     case handset::NotAvailable:
-        return "the telephone cannot do this";
+        return QT_TRANSLATE_NOOP("host::StatusText", "the telephone cannot do this");
     case handset::StorageFailed:
-        return "the call log cannot be written";
+        return QT_TRANSLATE_NOOP("host::StatusText", "the call log cannot be written");
     case handset::WrongState:
         return meaning.wrongState;
     case handset::NotAllowed:
@@ -31,8 +33,9 @@ QString refusalText(int status, const StatusMeaning &meaning)
     if (status == handset::Success)
         return {};
     if (const char *text = reason(status, meaning))
-        return QStringLiteral("Not done: %1.").arg(QLatin1StringView(text));
-    return QStringLiteral("Not done: the telephone answers %1.").arg(status);
+        return QCoreApplication::translate("host::StatusText", "Not done: %1.")
+            .arg(QCoreApplication::translate("host::StatusText", text));
+    return QCoreApplication::translate("host::StatusText", "Not done: the telephone answers %1.").arg(status);
 }
 
 } // namespace host

@@ -5,7 +5,8 @@
 
 namespace host {
 
-/// What the statuses that depend on it mean for a kind of operation.
+/// What the statuses that depend on it mean for a kind of operation, in English: texts for the catalogue, of the context
+/// "host::StatusText".
 struct StatusMeaning {
     const char *invalidArgument;
     const char *wrongState;

@@ -229,7 +229,8 @@ std::vector<Comparison> broadcastComparisons()
          {"Qt D-Bus signals", &manyPlain},
          {},
          Clock::Wall,
-         1},
+         1,
+         burst},
     };
 }
 

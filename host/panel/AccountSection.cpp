@@ -17,8 +17,10 @@ using handset::Handset;
 
 namespace {
 
-constexpr StatusMeaning meaning{"an amount of at least one unit, and not more than the account holds",
-                                "not possible now", "not allowed"};
+constexpr StatusMeaning meaning{
+    QT_TRANSLATE_NOOP("host::StatusText", "an amount of at least one unit, and not more than the account holds"),
+    QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+    QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 
 QString creditText(Handset &telephone)
 {

@@ -17,8 +17,10 @@ using handset::Handset;
 
 namespace {
 
-constexpr StatusMeaning meaning{"no price, or a currency of more than three characters", "not possible now",
-                                "the SIM card refuses"};
+constexpr StatusMeaning meaning{
+    QT_TRANSLATE_NOOP("host::StatusText", "no price, or a currency of more than three characters"),
+    QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+    QT_TRANSLATE_NOOP("host::StatusText", "the SIM card refuses")};
 
 // What the user has begun to type is not taken away.
 void showText(QLineEdit *entry, const QString &text)
@@ -47,7 +49,7 @@ QString withUnit(const QString &amount, Handset &telephone)
     const bool isCurrency = advice && advice->chargeType(type) == handset::Success &&
                             type == AdviceOfCharge::InCurrency &&
                             advice->priceAndCurrency(price, currency) == handset::Success;
-    return QStringLiteral("%1 %2").arg(amount, isCurrency ? currency : QStringLiteral("units")).trimmed();
+    return QStringLiteral("%1 %2").arg(amount, isCurrency ? currency : CostSection::tr("units")).trimmed();
 }
 
 CostSection::CostSection(Line &drivenLine)

@@ -56,12 +56,14 @@ struct FigureRow {
 };
 
 constexpr std::array<FigureRow, 6> figures{{
-    {"Last call", &fromCallLog<&handset::CallLog::lastCallTime>},
-    {"Dialed calls", &fromCallLog<&handset::CallLog::dialedCallsTime>},
-    {"Answered calls", &fromCallLog<&handset::CallLog::answeredCallsTime>},
-    {"Data calls", &dataCalls},
-    {"All calls", &allCalls},
-    {"Lifetime calls", &fromCallLog<&handset::CallLog::lifetimeCallsTime>},
+    {QT_TRANSLATE_NOOP("host::FiguresSection", "Last call"), &fromCallLog<&handset::CallLog::lastCallTime>},
+    {QT_TRANSLATE_NOOP("host::FiguresSection", "Dialed calls"), &fromCallLog<&handset::CallLog::dialedCallsTime>},
+    {QT_TRANSLATE_NOOP("host::FiguresSection", "Answered calls"),
+     &fromCallLog<&handset::CallLog::answeredCallsTime>},
+    {QT_TRANSLATE_NOOP("host::FiguresSection", "Data calls"), &dataCalls},
+    {QT_TRANSLATE_NOOP("host::FiguresSection", "All calls"), &allCalls},
+    {QT_TRANSLATE_NOOP("host::FiguresSection", "Lifetime calls"),
+     &fromCallLog<&handset::CallLog::lifetimeCallsTime>},
 }};
 
 } // namespace

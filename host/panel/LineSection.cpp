@@ -17,12 +17,18 @@ struct ButtonPlan {
 };
 
 constexpr std::array<ButtonPlan, 6> buttonPlans{{
-    {Line::Action::Dial, "&Dial", "Calls the number from this phone"},
-    {Line::Action::RemoteAnswer, "&Other side answers", "The called side answers; the call is connected"},
-    {Line::Action::DialData, "Dial d&ata call", "Sets up a circuit-switched data call to the number"},
-    {Line::Action::Ring, "&Incoming call", "The number calls this phone; empty for a withheld number"},
-    {Line::Action::HangUp, "&Hang up", "Ends the call on the line, whatever its state"},
-    {Line::Action::Answer, "A&nswer", "Answers the incoming call; the call is connected"},
+    {Line::Action::Dial, QT_TRANSLATE_NOOP("host::LineSection", "&Dial"),
+     QT_TRANSLATE_NOOP("host::LineSection", "Calls the number from this phone")},
+    {Line::Action::RemoteAnswer, QT_TRANSLATE_NOOP("host::LineSection", "&Other side answers"),
+     QT_TRANSLATE_NOOP("host::LineSection", "The called side answers; the call is connected")},
+    {Line::Action::DialData, QT_TRANSLATE_NOOP("host::LineSection", "Dial d&ata call"),
+     QT_TRANSLATE_NOOP("host::LineSection", "Sets up a circuit-switched data call to the number")},
+    {Line::Action::Ring, QT_TRANSLATE_NOOP("host::LineSection", "&Incoming call"),
+     QT_TRANSLATE_NOOP("host::LineSection", "The number calls this phone; empty for a withheld number")},
+    {Line::Action::HangUp, QT_TRANSLATE_NOOP("host::LineSection", "&Hang up"),
+     QT_TRANSLATE_NOOP("host::LineSection", "Ends the call on the line, whatever its state")},
+    {Line::Action::Answer, QT_TRANSLATE_NOOP("host::LineSection", "A&nswer"),
+     QT_TRANSLATE_NOOP("host::LineSection", "Answers the incoming call; the call is connected")},
 }};
 
 } // namespace

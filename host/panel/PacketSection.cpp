@@ -21,8 +21,10 @@ using handset::PacketData;
 
 namespace {
 
-constexpr StatusMeaning meaning{"an access point name has 1 to 101 Latin-1 characters",
-                                "a session is running, or none is", "not allowed"};
+constexpr StatusMeaning meaning{
+    QT_TRANSLATE_NOOP("host::StatusText", "an access point name has 1 to 101 Latin-1 characters"),
+    QT_TRANSLATE_NOOP("host::StatusText", "a session is running, or none is"),
+    QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 constexpr int usualSent = 500;
 constexpr int usualReceived = 4000;
 

@@ -14,8 +14,10 @@ using handset::sim::Pin2;
 
 namespace {
 
-constexpr StatusMeaning meaning{"PUK2 has eight digits, a PIN2 four to eight", "not possible now",
-                                "PUK2 is blocked, too"};
+constexpr StatusMeaning meaning{
+    QT_TRANSLATE_NOOP("host::StatusText", "PUK2 has eight digits, a PIN2 four to eight"),
+    QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+    QT_TRANSLATE_NOOP("host::StatusText", "PUK2 is blocked, too")};
 
 QString stateText(const Pin2 &pin)
 {

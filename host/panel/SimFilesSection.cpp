@@ -15,7 +15,9 @@ using Card = handset::sim::SimCard;
 
 namespace {
 
-constexpr StatusMeaning meaning{"there is no such rule", "not possible now", "not allowed"};
+constexpr StatusMeaning meaning{QT_TRANSLATE_NOOP("host::StatusText", "there is no such rule"),
+                                QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+                                QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 
 QString hex(const QByteArray &bytes)
 {
@@ -27,7 +29,7 @@ QString unitsOf(const QByteArray &record)
     qint64 units = 0;
     for (const char byte : record)
         units = units * 256 + static_cast<quint8>(byte);
-    return QStringLiteral("%1  =  %2 units").arg(hex(record)).arg(units);
+    return SimFilesSection::tr("%1  =  %2 units").arg(hex(record)).arg(units);
 }
 
 // The newest record first, as the SIM has them.
@@ -64,9 +66,9 @@ struct FileRow {
 };
 
 constexpr std::array<FileRow, 3> files{{
-    {AdviceOfCharge::AcmFile, "EF_ACM", "call meter", &meterText},
-    {AdviceOfCharge::AcmMaxFile, "EF_ACMmax", "maximum", &maximumText},
-    {AdviceOfCharge::PuctFile, "EF_PUCT", "price", &priceText},
+    {AdviceOfCharge::AcmFile, "EF_ACM", QT_TRANSLATE_NOOP("host::SimFilesSection", "call meter"), &meterText},
+    {AdviceOfCharge::AcmMaxFile, "EF_ACMmax", QT_TRANSLATE_NOOP("host::SimFilesSection", "maximum"), &maximumText},
+    {AdviceOfCharge::PuctFile, "EF_PUCT", QT_TRANSLATE_NOOP("host::SimFilesSection", "price"), &priceText},
 }};
 
 struct RuleChoice {
@@ -75,9 +77,9 @@ struct RuleChoice {
 };
 
 constexpr std::array<RuleChoice, 3> rules{{
-    {AdviceOfCharge::FreeUpdate, "freely"},
-    {AdviceOfCharge::UpdateUnderPin2, "with PIN2"},
-    {AdviceOfCharge::NoUpdate, "never"},
+    {AdviceOfCharge::FreeUpdate, QT_TRANSLATE_NOOP("host::SimFilesSection", "freely")},
+    {AdviceOfCharge::UpdateUnderPin2, QT_TRANSLATE_NOOP("host::SimFilesSection", "with PIN2")},
+    {AdviceOfCharge::NoUpdate, QT_TRANSLATE_NOOP("host::SimFilesSection", "never")},
 }};
 
 // Any number that is no rule lets anybody write.

@@ -16,10 +16,15 @@ using handset::sim::Tariff;
 
 namespace {
 
-constexpr StatusMeaning meaning{"the network knows no such tariff", "not possible now", "not allowed"};
+constexpr StatusMeaning meaning{QT_TRANSLATE_NOOP("host::StatusText", "the network knows no such tariff"),
+                                QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+                                QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 constexpr double greatest = Tariff::greatestElement / 10.0;
 
-constexpr std::array<const char *, 4> rowTexts{"Free", "Units", "for each", "at the start"};
+constexpr std::array<const char *, 4> rowTexts{QT_TRANSLATE_NOOP("host::TariffSection", "Free"),
+                                               QT_TRANSLATE_NOOP("host::TariffSection", "Units"),
+                                               QT_TRANSLATE_NOOP("host::TariffSection", "for each"),
+                                               QT_TRANSLATE_NOOP("host::TariffSection", "at the start")};
 
 // What a unit is charged for where a tariff is no longer free.
 constexpr quint16 usualUnits = 10;
@@ -32,8 +37,8 @@ struct ColumnPlan {
 };
 
 constexpr std::array<ColumnPlan, 2> columnPlans{{
-    {CallDirection::Dialed, "Dialed calls", "dialed"},
-    {CallDirection::Answered, "Answered calls", "answered"},
+    {CallDirection::Dialed, QT_TRANSLATE_NOOP("host::TariffSection", "Dialed calls"), "dialed"},
+    {CallDirection::Answered, QT_TRANSLATE_NOOP("host::TariffSection", "Answered calls"), "answered"},
 }};
 
 bool isFree(const Tariff &tariff)
@@ -50,7 +55,7 @@ QDoubleSpinBox *makeBox(const ColumnPlan &plan, const char *what, const QString 
 {
     auto *box = new QDoubleSpinBox;
     box->setObjectName(QStringLiteral("tariff %1 %2").arg(QLatin1StringView(plan.name), QLatin1StringView(what)));
-    box->setAccessibleName(QStringLiteral("%1: %2").arg(QLatin1StringView(plan.title), toolTip));
+    box->setAccessibleName(TariffSection::tr("%1: %2").arg(TariffSection::tr(plan.title), toolTip));
     box->setToolTip(toolTip);
     box->setDecimals(1);
     box->setRange(least, greatest);

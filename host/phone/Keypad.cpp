@@ -22,21 +22,21 @@ struct KeyPlan {
     Legend legend;
     const char *text;
     const char *letters;
-    const char *name; ///< for screen readers, tool tips and tests
+    const char *name; ///< for tests; translated, for screen readers and tool tips
 };
 
 constexpr int callKey = Qt::Key_Call;
 constexpr int hangUpKey = Qt::Key_Hangup;
 
 constexpr std::array<KeyPlan, 20> keys{{
-    {0, 0, 2, Qt::Key_Context1, Legend::Bar, "", "", "Left softkey"},
-    {0, 1, 1, Qt::Key_Up, Legend::ArrowUp, "", "", "Up"},
-    {0, 2, 2, Qt::Key_Context2, Legend::Bar, "", "", "Right softkey"},
-    {1, 1, 1, Qt::Key_Select, Legend::Ring, "", "", "Select"},
-    {2, 0, 2, callKey, Legend::Call, "", "", "Call"},
-    {2, 2, 2, hangUpKey, Legend::HangUp, "", "", "Hang up"},
-    {2, 1, 1, Qt::Key_Down, Legend::ArrowDown, "", "", "Down"},
-    {3, 1, 1, Qt::Key_Clear, Legend::Text, "C", "", "Clear"},
+    {0, 0, 2, Qt::Key_Context1, Legend::Bar, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Left softkey")},
+    {0, 1, 1, Qt::Key_Up, Legend::ArrowUp, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Up")},
+    {0, 2, 2, Qt::Key_Context2, Legend::Bar, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Right softkey")},
+    {1, 1, 1, Qt::Key_Select, Legend::Ring, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Select")},
+    {2, 0, 2, callKey, Legend::Call, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Call")},
+    {2, 2, 2, hangUpKey, Legend::HangUp, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Hang up")},
+    {2, 1, 1, Qt::Key_Down, Legend::ArrowDown, "", "", QT_TRANSLATE_NOOP("host::Keypad", "Down")},
+    {3, 1, 1, Qt::Key_Clear, Legend::Text, "C", "", QT_TRANSLATE_NOOP("host::Keypad", "Clear")},
     {4, 0, 1, Qt::Key_1, Legend::Text, "1", "", "1"},
     {4, 1, 1, Qt::Key_2, Legend::Text, "2", "abc", "2"},
     {4, 2, 1, Qt::Key_3, Legend::Text, "3", "def", "3"},
@@ -46,17 +46,17 @@ constexpr std::array<KeyPlan, 20> keys{{
     {6, 0, 1, Qt::Key_7, Legend::Text, "7", "pqrs", "7"},
     {6, 1, 1, Qt::Key_8, Legend::Text, "8", "tuv", "8"},
     {6, 2, 1, Qt::Key_9, Legend::Text, "9", "wxyz", "9"},
-    {7, 0, 1, Qt::Key_Asterisk, Legend::Text, "*", "", "Star"},
+    {7, 0, 1, Qt::Key_Asterisk, Legend::Text, "*", "", QT_TRANSLATE_NOOP("host::Keypad", "Star")},
     {7, 1, 1, Qt::Key_0, Legend::Text, "0", "", "0"},
-    {7, 2, 1, Qt::Key_NumberSign, Legend::Text, "#", "", "Hash"},
+    {7, 2, 1, Qt::Key_NumberSign, Legend::Text, "#", "", QT_TRANSLATE_NOOP("host::Keypad", "Hash")},
 }};
 
 PhoneKey *makeKey(const KeyPlan &plan, QWidget *parent)
 {
     auto *key =
         new PhoneKey(plan.legend, QString::fromLatin1(plan.text), QString::fromLatin1(plan.letters), parent);
-    const QString name = QString::fromLatin1(plan.name);
-    key->setObjectName(QStringLiteral("key ") + name);
+    key->setObjectName(QStringLiteral("key ") + QLatin1StringView(plan.name));
+    const QString name = Keypad::tr(plan.name);
     key->setAccessibleName(name);
     if (plan.legend != Legend::Text || plan.qtKey == Qt::Key_Clear)
         key->setToolTip(name);

@@ -9,6 +9,11 @@
 
 namespace handset {
 
+/// The times and costs of calls. A voice call counts as dialed or as answered; a circuit-switched data call is neither,
+/// but a last call and one of all calls. A call that was never connected counts nowhere. Times are whole seconds, the
+/// fraction cut off, and count a running call up to now; amounts are in units or in the currency, as
+/// AdviceOfCharge::chargeType() says. A reset during a call zeroes what was counted so far; the rest of the call
+/// counts. All of it outlives a restart. StorageFailed where the log cannot be read or written.
 class CallLog
 {
 public:

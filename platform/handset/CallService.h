@@ -8,6 +8,8 @@
 
 namespace handset {
 
+/// The total time of calls and the prepaid credit. Times and amounts are as CallLog's; StorageFailed where the call log
+/// cannot be read or written.
 class CallService
 {
 public:
@@ -18,8 +20,8 @@ public:
     /// Zeroes the time of all calls and nothing else.
     virtual int resetCallTime() = 0;
 
-    /// The prepaid credit left, as the telephone's own decimal text (Latin-1, without a unit).
-    /// NotAvailable where nothing has ever been paid in.
+    /// The prepaid credit left, as the telephone's own decimal text (Latin-1, without a unit); what a running call has
+    /// cost so far is taken off. NotAvailable where nothing has ever been paid in.
     virtual int remainingCredit(QByteArray &text) = 0;
     /// The cost of the last call that was connected, likewise, the running one included.
     virtual int lastCallCost(QByteArray &text) = 0;

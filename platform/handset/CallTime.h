@@ -8,13 +8,13 @@
 namespace handset {
 
 struct CallTime {
-    quint32 hours = 0;
+    quint32 hours = 0;  ///< 0 to 4294967295, where the time stops at 59 min 59 s
     quint8 minutes = 0; ///< 0 to 59
     quint8 seconds = 0; ///< 0 to 59
 
     friend bool operator==(const CallTime &, const CallTime &) = default;
 
-    /// The whole seconds of a duration; beyond 4294967295 h 59 min 59 s that is the answer.
+    /// Of a duration in whole seconds; beyond 4294967295 h 59 min 59 s that is the answer.
     static constexpr CallTime fromSeconds(quint64 seconds)
     {
         constexpr quint64 maximumHours = std::numeric_limits<quint32>::max();

@@ -6,7 +6,7 @@
 namespace handset {
 
 struct Date {
-    quint16 year = 0;
+    quint16 year = 0; ///< 1 to 65535, Gregorian; 0 in a record that was not filled
     quint8 month = 0; ///< 1 to 12
     quint8 day = 0;   ///< 1 to 31
 

@@ -26,6 +26,7 @@ public:
     virtual CallService *callService() = 0;
     virtual CallLog *callLog() = 0;
     virtual DataCalls *dataCalls() = 0;
+    // Not every telephone has these: one that says nothing of them has them not, on purpose.
     virtual AdviceOfCharge *adviceOfCharge() { return nullptr; }
     virtual PacketData *packetData() { return nullptr; }
     virtual SimSecurity *simSecurity() { return nullptr; }

@@ -24,29 +24,34 @@ struct DataSession {
 };
 
 struct DataSessions {
-    quint32 count = 0; ///< how many of the records count, from the first on
+    quint32 count = 0; ///< how many of the records count, from the first on; 0 to 3
     std::array<DataSession, 3> records;
 };
 
+/// The packet-data sessions and their totals, the running session counted up to now. Durations are whole seconds, the
+/// fraction cut off. A reset during a session zeroes what was counted so far; the rest of the session counts. No reset
+/// of calls changes packet data. All of it outlives a restart. StorageFailed where the call log cannot be read or
+/// written.
 class PacketData
 {
 public:
     virtual ~PacketData() = default;
 
-    /// The three records; one keeps its place while an earlier one is empty.
+    /// The three records, the session that began last in the first; one keeps its place while an earlier one is empty.
     virtual int sessions(DataSessions &sessions) = 0;
     /// The duration of all sessions since resetTotalDuration().
     virtual int totalDuration(CallTime &duration) = 0;
-    /// Bytes of all sessions since resetTotalBytes(); each stops at 4294967295.
+    /// Bytes of all sessions since resetTotalBytes(), each 0 to 4294967295, where it stops; `total` is both ways
+    /// together and stops by itself.
     virtual int totalBytes(quint32 &total, quint32 &received, quint32 &sent) = 0;
     /// Each zeroes its own total and nothing else; the sessions keep their figures.
     virtual int resetTotalDuration() = 0;
     virtual int resetTotalBytes() = 0;
 
     /// `listener` is called when a session has begun, when one has ended, and at most once a second while the figures
-    /// of one change; it must not end the telephone. Null for nobody. A telephone that cannot tell
-    /// leaves it alone.
-    virtual void setUpdateListener(const std::function<void()> &listener) { Q_UNUSED(listener) }
+    /// of one change; it is copied, takes the place of the one before, and must not end the telephone. Null for nobody.
+    /// A telephone that cannot tell never calls it.
+    virtual void setUpdateListener(const std::function<void()> &listener) = 0;
 };
 
 } // namespace handset

@@ -8,7 +8,8 @@
 namespace handset {
 
 /// The SIM's PINs (3GPP TS 51.011, 9.3): PIN2 has 4 to 8 digits and three tries, then it is blocked until PUK2 is
-/// entered; the count survives power-off.
+/// entered; the count survives power-off, that it has been entered does not. Of PIN1 nothing but the status is known
+/// here: all else answers NotAvailable for it, and InvalidArgument for a number that is no Pin.
 class SimSecurity
 {
 public:
@@ -24,10 +25,12 @@ public:
 
     /// PinStatus of `pin`; InvalidArgument for a number that is no Pin.
     virtual int pinStatus(quint8 pin, quint32 &status) = 0;
-    /// Tries that are left, 0 to 3.
+    /// Tries that are left, 0 (blocked) to 3. NotAvailable for PIN1, InvalidArgument for a number that is no Pin.
     virtual int triesLeft(quint8 pin, int &tries) = 0;
-    /// Presents `digits` to the SIM. `accepted` false costs a try; a blocked PIN answers NotAllowed. The digits are
-    /// neither kept nor traced.
+    /// Presents `digits` to the SIM. The right ones (`accepted` true) give all tries back; wrong ones cost a try and
+    /// take back what earlier right ones allowed. NotAllowed for a blocked PIN. InvalidArgument for what is not 4 to 8
+    /// digits, and StorageFailed when the try cannot be kept: neither costs one. NotAvailable for PIN1, InvalidArgument
+    /// for a number that is no Pin. The digits are neither kept nor traced.
     virtual int verifyPin(quint8 pin, const QByteArray &digits, bool &accepted) = 0;
 };
 

@@ -10,9 +10,9 @@
 extern "C" {
 #endif
 
-/** A duration. The caller owns the record and zeroes it before a query. */
+/** A duration in whole seconds, the fraction cut off. The caller owns the record and zeroes it before a query. */
 typedef struct TAPI_CallTime {
-    uint32_t hours;
+    uint32_t hours;  /**< 0 to 4294967295, where the time stops at 59 min 59 s */
     uint8_t minutes; /**< 0 to 59 */
     uint8_t seconds; /**< 0 to 59 */
 } TAPI_CallTime;
@@ -41,7 +41,7 @@ int TAPI_LOG_ResetAll(void);
 
 /** A day. The caller owns the record and zeroes it before a query. */
 typedef struct TAPI_Date {
-    uint16_t year;
+    uint16_t year; /**< 1 to 65535, Gregorian */
     uint8_t month; /**< 1 to 12 */
     uint8_t day;   /**< 1 to 31 */
 } TAPI_Date;
@@ -74,11 +74,11 @@ int TAPI_LOG_ResetAnsweredCallsCost(void);
 
 /** One of the three most recent packet-data sessions. All integers are little-endian, whatever the machine. */
 typedef struct TAPI_GPRS_SessionRecord {
-    uint8_t sessionId; /**< 0 marks an empty slot */
-    uint8_t reserved[3];
+    uint8_t sessionId;      /**< 1 to 255; 0 marks an empty slot */
+    uint8_t reserved[3];    /**< 0 */
     uint32_t bytesSent;     /**< 0 to 4294967295, where it stops */
     uint32_t bytesReceived; /**< likewise */
-    uint32_t hours;         /**< of the session's duration */
+    uint32_t hours;         /**< of the session's duration, 0 to 4294967295 */
     uint8_t minutes;        /**< 0 to 59 */
     uint8_t seconds;        /**< 0 to 59 */
     char apn[102];          /**< access point name, Latin-1, NUL-terminated */
@@ -86,7 +86,7 @@ typedef struct TAPI_GPRS_SessionRecord {
 
 /** The caller owns the block and zeroes it before a query. */
 typedef struct TAPI_GPRS_SessionInfo {
-    uint32_t count; /**< number of records that count, from the first on; little-endian */
+    uint32_t count; /**< number of records that count, from the first on, 0 to 3; little-endian */
     TAPI_GPRS_SessionRecord records[3];
 } TAPI_GPRS_SessionInfo;
 

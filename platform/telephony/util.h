@@ -7,10 +7,12 @@
 extern "C" {
 #endif
 
-/** The time of all data calls since the last reset, in whole seconds, 0 to 4294967295 (where it stops). */
+/** The time of all data calls since the last reset, in whole seconds, 0 to 4294967295 (where it stops), the running one
+ * included. */
 int UTIL_GetTotalDuration(uint32_t *seconds);
 
-/** The data-call status byte: 0 none, 1 being set up, 2 released, 3 connected. */
+/** The data-call status byte: 0 none, 1 being set up, 2 released, 3 connected. Any other byte is passed on as the
+ * telephone has it. */
 int UTIL_GetDataCallStaus(uint8_t *status);
 
 #ifdef __cplusplus

@@ -21,6 +21,7 @@
 #include "phone/PhoneKey.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtCore/QTranslator>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWheelEvent>
@@ -65,6 +66,75 @@ public:
     handset::CallLog *callLog() override { return nullptr; }
     handset::DataCalls *dataCalls() override { return nullptr; }
 };
+
+// A catalogue that has every text of the host, each as itself between two marks.
+class MarkingCatalogue : public QTranslator
+{
+public:
+    static constexpr QChar begin{0x27e6};
+    static constexpr QChar end{0x27e7};
+
+    MarkingCatalogue() { QCoreApplication::installTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const bool isOurs = QByteArrayView(context).startsWith("host::");
+        return isOurs ? begin + QString::fromUtf8(source) + end : QString();
+    }
+};
+
+// What of `text` stands between no marks.
+QString unmarkedPart(const QString &text)
+{
+    QString part;
+    int depth = 0;
+    for (const QChar character : text) {
+        if (character == MarkingCatalogue::begin)
+            ++depth;
+        else if (character == MarkingCatalogue::end)
+            --depth;
+        else if (depth == 0)
+            part += character;
+    }
+    return part;
+}
+
+// Numbers and clock texts have no letters; the names of the SIM card's files are what they are in every language.
+bool isTranslated(const QString &text)
+{
+    QString part = unmarkedPart(text);
+    for (const char *file : {"EF_ACMmax", "EF_ACM", "EF_PUCT"})
+        part.remove(QLatin1StringView(file));
+    return std::none_of(part.begin(), part.end(), [](QChar character) { return character.isLetter(); });
+}
+
+QStringList itemsOf(const QWidget *widget)
+{
+    QStringList items;
+    if (const auto *tabs = qobject_cast<const QTabBar *>(widget)) {
+        for (int index = 0; index < tabs->count(); ++index)
+            items << tabs->tabText(index) << tabs->tabToolTip(index);
+    }
+    const auto *choice = qobject_cast<const QComboBox *>(widget);
+    if (choice && choice->objectName() != QLatin1StringView("operation")) { // whose names are the libraries'
+        for (int index = 0; index < choice->count(); ++index)
+            items << choice->itemText(index) << choice->itemData(index, Qt::ToolTipRole).toString();
+    }
+    return items;
+}
+
+// All that `widget` says, seen or read aloud; not what a user types into it.
+QStringList textsOf(const QWidget *widget)
+{
+    QStringList texts{widget->toolTip(), widget->accessibleName(), widget->accessibleDescription(),
+                      widget->windowTitle()};
+    for (const char *property : {"title", "prefix", "suffix", "placeholderText"})
+        texts << widget->property(property).toString();
+    if (qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget))
+        texts << widget->property("text").toString();
+    return texts + itemsOf(widget);
+}
 
 } // namespace
 
@@ -122,9 +192,13 @@ private slots:
     void theWheelTurnsThePanelAndNoNumber();
     void nothingIsCutOffInANarrowPanel_data();
     void nothingIsCutOffInANarrowPanel();
+    void aCatalogueTranslatesAllThatThePanelSays();
+    void aCatalogueTranslatesTheNamesOfTheKeys();
     void anotherTelephoneThanTheSimulatedHasNothingToSet();
 
 private:
+    QStringList untranslated() const;
+    int textsSaid() const;
     void openWindow(const std::shared_ptr<handset::Handset> &telephone);
     static void expectSizeHintWarning();
     template <typename Control>
@@ -1011,6 +1085,102 @@ void PanelTest::nothingIsCutOffInANarrowPanel()
             QVERIFY2(widget->width() >= widget->minimumSizeHint().width(), qPrintable(widget->objectName()));
         if (label && label->isVisible() && label->wordWrap())
             QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->objectName()));
+    }
+}
+
+// On all pages.
+QStringList PanelTest::untranslated() const
+{
+    QStringList found;
+    const QList<QWidget *> widgets = window->findChild<Panel *>()->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        for (const QString &text : textsOf(widget)) {
+            if (!isTranslated(text))
+                found << text;
+        }
+    }
+    return found;
+}
+
+int PanelTest::textsSaid() const
+{
+    int said = 0;
+    const QList<QWidget *> widgets = window->findChild<Panel *>()->findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        for (const QString &text : textsOf(widget))
+            said += text.contains(MarkingCatalogue::begin) ? 1 : 0;
+    }
+    return said;
+}
+
+void PanelTest::aCatalogueTranslatesAllThatThePanelSays()
+{
+    const MarkingCatalogue catalogue;
+    openWindow(owner);
+    QCOMPARE(untranslated(), QStringList());
+    QVERIFY2(textsSaid() > 150, qPrintable(QString::number(textsSaid())));
+    const auto expectLine = [this](const char *text) {
+        QCOMPARE(label("line state").remove(MarkingCatalogue::begin).remove(MarkingCatalogue::end), QString(text));
+        QCOMPARE(untranslated(), QStringList());
+    };
+    // What is refused.
+    for (const char *field : {"apn", "price", "top-up amount"})
+        control<QLineEdit>(field)->clear();
+    for (const char *text : {"Start session", "Set price", "Top up", "Unblock"}) {
+        const QString marked = MarkingCatalogue::begin + QString(text) + MarkingCatalogue::end;
+        button(qPrintable(marked))->click();
+    }
+    for (const char *name : {"packet failure", "cost failure", "account failure", "pin2 outcome"})
+        QVERIFY2(label(name).contains("Not done"), name);
+    QCOMPARE(untranslated(), QStringList());
+    // The line.
+    QCOMPARE(telephone->ring({}), 0);
+    expectLine("Ringing, voice call, number withheld");
+    QCOMPARE(telephone->hangUp(), 0);
+    QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("3"), 0);
+    QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
+    QCOMPARE(telephone->dial("5550123", CallKind::Data), 0);
+    expectLine("Dialing, data call, 5550123");
+    QCOMPARE(telephone->remoteAnswer(), 0);
+    expectLine("Connected 00:00:00, data call, 5550123");
+    // The end of charging.
+    clock->advance(1000);
+    QTRY_VERIFY(label("charge notice").contains("The credit limit is reached in"));
+    QCOMPARE(untranslated(), QStringList());
+    clock->advance(29000);
+    QTRY_VERIFY(label("charge notice").contains("has ended the call: the credit limit"));
+    expectLine("Idle");
+    QCOMPARE(owner->adviceOfCharge()->disableMeterMaximum(), 0);
+    connectCall();
+    clock->advance(460000);
+    QTRY_VERIFY(label("charge notice").contains("The credit is used up in"));
+    QCOMPARE(untranslated(), QStringList());
+    clock->advance(20000);
+    QTRY_VERIFY(label("charge notice").contains("has ended the call: the credit is used up"));
+    QCOMPARE(untranslated(), QStringList());
+    // PIN2.
+    QCOMPARE(telephone->simCard().setPin2Enabled(false), 0);
+    QCOMPARE(untranslated(), QStringList());
+    QCOMPARE(telephone->simCard().setPin2Enabled(true), 0);
+    QVERIFY(enterPin2("1234"));
+    QCOMPARE(untranslated(), QStringList());
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(!enterPin2("9999"));
+    QCOMPARE(untranslated(), QStringList());
+    // A session.
+    QCOMPARE(telephone->packets().startSession("1", 1, 1), 0);
+    QCOMPARE(untranslated(), QStringList());
+}
+
+void PanelTest::aCatalogueTranslatesTheNamesOfTheKeys()
+{
+    const MarkingCatalogue catalogue;
+    openWindow(owner);
+    const QList<PhoneKey *> keys = window->findChildren<PhoneKey *>();
+    QCOMPARE(keys.size(), 20);
+    for (const PhoneKey *key : keys) {
+        QVERIFY2(isTranslated(key->accessibleName()), qPrintable(key->accessibleName()));
+        QVERIFY2(isTranslated(key->toolTip()), qPrintable(key->toolTip()));
     }
 }
 

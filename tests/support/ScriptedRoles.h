@@ -181,6 +181,7 @@ public:
     }
     int resetTotalDuration() override { return script.play("PacketData::resetTotalDuration"); }
     int resetTotalBytes() override { return script.play("PacketData::resetTotalBytes"); }
+    void setUpdateListener(const std::function<void()> &) override {} // a test's own messages are the only ones
 
 private:
     Script &script;
