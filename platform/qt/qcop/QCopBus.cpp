@@ -1,5 +1,6 @@
 #include "QCopBus.h"
 
+#include "BusProbe.h"
 #include "QCopSubscribers.h"
 
 #include <QtCore/QCoreApplication>
@@ -98,6 +99,8 @@ public:
 protected:
     void run() override
     {
+        if (!busAnswers(answerPatience, [this] { return isInterruptionRequested(); }))
+            return;
         link = QDBusConnection::connectToBus(QDBusConnection::SessionBus, linkName);
         if (!link.isConnected())
             return;
@@ -137,8 +140,10 @@ QCopBus::QCopBus()
 
 QCopBus::~QCopBus()
 {
-    if (attempt)
+    if (attempt) {
+        attempt->requestInterruption();
         attempt->wait();
+    }
     if (unsynced)
         sync(answerPatience);
     QDBusConnection::disconnectFromBus(linkName);

@@ -20,22 +20,17 @@ bool hasInput(const pollfd &end)
 
 BusRelay::BusRelay(const QString &busToReach, const QByteArray &word)
     : heldWord(word)
+    , bus(busToReach)
     , door(listeningSocket(address()))
-    , bus(connectedSocket(busToReach))
-    , ready(door >= 0 && bus >= 0)
-{
-    if (ready)
-        porter = std::thread([this] { run(); });
-}
+    , porter([this] { run(); })
+{}
 
 BusRelay::~BusRelay()
 {
     ended = true;
-    shutdown(door, SHUT_RDWR);
-    if (porter.joinable())
-        porter.join();
+    shutdown(door, SHUT_RDWR); // ends the porter's accept()
+    porter.join();
     close(door);
-    close(bus);
 }
 
 QString BusRelay::address() const
@@ -45,27 +40,35 @@ QString BusRelay::address() const
 
 void BusRelay::run()
 {
-    const int program = accept(door, nullptr, nullptr);
-    bool isOpen = program >= 0;
+    for (int program = accept(door, nullptr, nullptr); program >= 0; program = accept(door, nullptr, nullptr)) {
+        const int atTheBus = connectedSocket(bus);
+        serve(program, atTheBus);
+        close(atTheBus);
+        close(program);
+    }
+}
+
+void BusRelay::serve(int program, int atTheBus)
+{
+    bool isOpen = atTheBus >= 0;
     while (isOpen && !ended) {
-        std::array<pollfd, 2> ends{{{bus, POLLIN, 0}, {holding && !released ? -1 : program, POLLIN, 0}}};
+        std::array<pollfd, 2> ends{{{atTheBus, POLLIN, 0}, {holding && !released ? -1 : program, POLLIN, 0}}};
         poll(ends.data(), ends.size(), pollMs);
         if (hasInput(ends[0]))
-            isOpen = passOn(bus, program);
+            isOpen = passOn(atTheBus, program, false);
         if (hasInput(ends[1]))
-            isOpen = isOpen && passOn(program, bus);
+            isOpen = isOpen && passOn(program, atTheBus, true);
     }
-    close(program);
 }
 
 // The first time, the word stays in the socket with what it came with.
-bool BusRelay::passOn(int from, int to)
+bool BusRelay::passOn(int from, int to, bool isProgram)
 {
     std::array<char, 65536> piece{};
     const ssize_t peeked = recv(from, piece.data(), piece.size(), MSG_PEEK);
     if (peeked <= 0)
         return false;
-    if (from != bus && !released && QByteArray::fromRawData(piece.data(), peeked).contains(heldWord)) {
+    if (isProgram && !released && QByteArray::fromRawData(piece.data(), peeked).contains(heldWord)) {
         holding = true;
         return true;
     }

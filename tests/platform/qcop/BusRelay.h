@@ -6,8 +6,8 @@
 #include <atomic>
 #include <thread>
 
-/// Passes on what one program and the bus at `bus` say to each other. What the program says from `word` on waits until
-/// release().
+/// Passes on what a program, over one connection at a time, and the bus at `bus` say to each other. What the program
+/// says from `word` on waits until release().
 class BusRelay
 {
 public:
@@ -21,13 +21,13 @@ public:
 
 private:
     void run();
-    bool passOn(int from, int to);
+    void serve(int program, int bus);
+    bool passOn(int from, int to, bool isProgram);
 
     QTemporaryDir folder;
     const QByteArray heldWord;
+    const QString bus;
     const int door;
-    const int bus;
-    const bool ready;
     std::atomic<bool> holding = false;
     std::atomic<bool> released = false;
     std::atomic<bool> ended = false;

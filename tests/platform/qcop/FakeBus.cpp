@@ -15,7 +15,12 @@ FakeBus::FakeBus(Manner manner)
 
 FakeBus::~FakeBus()
 {
-    close();
+    if (!listening)
+        return;
+    shutdown(socket, SHUT_RDWR); // ends the doorman's accept()
+    if (doorman.joinable())
+        doorman.join();
+    close(socket);
 }
 
 QString FakeBus::address() const
@@ -27,17 +32,6 @@ void FakeBus::turnAway()
 {
     for (int caller = accept(socket, nullptr, nullptr); caller >= 0; caller = accept(socket, nullptr, nullptr)) {
         ++turnedAway;
-        ::close(caller);
+        close(caller);
     }
-}
-
-void FakeBus::close()
-{
-    if (!listening)
-        return;
-    listening = false;
-    shutdown(socket, SHUT_RDWR); // ends the doorman's accept()
-    if (doorman.joinable())
-        doorman.join();
-    ::close(socket);
 }

@@ -20,15 +20,13 @@ public:
     bool isListening() const { return listening; }
     /// How many were turned away.
     int callers() const { return turnedAway; }
-    /// Ends the listening, which turns away everybody who waits for an answer.
-    void close();
 
 private:
     void turnAway();
 
     QTemporaryDir folder;
     const int socket;
-    bool listening;
+    const bool listening;
     std::atomic<int> turnedAway = 0;
     std::thread doorman;
 };

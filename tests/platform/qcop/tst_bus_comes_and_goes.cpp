@@ -33,6 +33,7 @@ private slots:
     void nothingIsAskedOfTheBusBeforeTheFirstMessage();
     void manyChannelsAskForAMissingBusOnceASecondAtMost();
     void aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly();
+    void aBusThatDoesNotAnswerHoldsUpNoProcessThatEnds();
     void aSubscriptionCountsWhenTheBusHasAcknowledgedIt();
     void aProcessDoesNotEndBeforeItsMessagesAreAtTheBus();
     void aBusThatComesLaterIsFoundByAWaitingSubscriber();
@@ -78,7 +79,7 @@ void TestBusComesAndGoes::manyChannelsAskForAMissingBusOnceASecondAtMost()
 
 void TestBusComesAndGoes::aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly()
 {
-    FakeBus bus(FakeBus::Silent);
+    const FakeBus bus(FakeBus::Silent);
     QVERIFY(bus.isListening());
     Peer peer(bus.address());
     // A quarter of a second for each would be more than four minutes.
@@ -87,7 +88,17 @@ void TestBusComesAndGoes::aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly()
     peer.make(1, phone);
     QVERIFY(!peer.send(phone, "at home"));
     QCOMPARE(peer.take(), Peer::line(1, "at home"));
-    bus.close();
+    QCOMPARE(peer.finish(), 0);
+}
+
+void TestBusComesAndGoes::aBusThatDoesNotAnswerHoldsUpNoProcessThatEnds()
+{
+    const FakeBus bus(FakeBus::Silent); // stays silent until the process has ended
+    QVERIFY(bus.isListening());
+    Peer peer(bus.address());
+    peer.make(1, phone);
+    QVERIFY(!peer.send(phone, "at home"));
+    QCOMPARE(peer.take(), Peer::line(1, "at home"));
     QCOMPARE(peer.finish(), 0);
 }
 
