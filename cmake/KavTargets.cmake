@@ -19,7 +19,7 @@ if(KAV_SANITIZE)
 endif()
 
 # kav_shared_library(TARGET [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
-# A shared object under its own name and soname; headers are included as <folder/Header.h> from the given base.
+# A shared object under its own name and soname.
 function(kav_shared_library target)
     cmake_parse_arguments(ARG "" "OUTPUT;VERSION;SOVERSION" "SOURCES" ${ARGN})
     add_library(${target} SHARED ${ARG_SOURCES})

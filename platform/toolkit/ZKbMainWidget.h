@@ -38,9 +38,9 @@ public:
     /// Null when there is none, or it was deleted.
     QWidget *cstWidget() const;
 
-    /// The content area, never null, owned by the screen. It has its final geometry from the start, so that a
+    /// The content area, owned by the screen. It has its final geometry from the start, so that a
     /// list can be given its size before the screen is shown. A child that fills it exactly goes on filling it when
-    /// the screen is resized. `create` false answers null before the first call with true.
+    /// the screen is resized. `create` makes it where there is none yet; without, that is null.
     QWidget *getContentWidget(bool create);
 
     /// Closes the screen; with `alsoDelete` it is deleted later, through the event loop. Answers whether it closed.

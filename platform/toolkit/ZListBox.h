@@ -40,7 +40,8 @@ public:
     };
 
     /// `type` is the layout of the rows that name none of their own (see ZListItem), `flags` window flags (0),
-    /// `skinClass` what the skin draws the list as. `parent` owns the list.
+    /// `skinClass` the phone's number for the kind of list, which is kept: every list is drawn alike. `parent` owns
+    /// the list.
     ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinService::WidgetClsID skinClass);
     ~ZListBox() override;
 
@@ -59,9 +60,9 @@ public:
     /// The row of `item`, or -1 when it is null or not in the list. `item` may be gone already.
     int index(const ZListItem *item) const;
     int count() const;
-    /// Deletes every row, and leaves alone the items that are made but not inserted. A list that is filled again before
-    /// the user does anything with it has the bar on the row where it was, if there still is one. A pointer pressed on a
-    /// row stays on it if the row at that place has the same title again.
+    /// Deletes every row, and leaves alone the items that are made but not inserted. A list that is filled again
+    /// before the user does anything with it has the bar on the row where it was, if there still is one. A pointer
+    /// pressed on a row stays on it if the row at that place has the same title again.
     void clear();
 
     /// The row under the focus bar, -1 for none.

@@ -192,11 +192,6 @@ void ZPopup::answer(Answer answer)
     }
 }
 
-void ZPopup::selectKeyPressed()
-{
-    answer(LeftAnswer);
-}
-
 void ZPopup::softkeyClicked(Answer side)
 {
     const ZSoftKey::KEY_IDX key = side == RightAnswer ? ZSoftKey::RightKey : ZSoftKey::LeftKey;
@@ -213,7 +208,7 @@ void ZPopup::keyPressEvent(QKeyEvent *event)
     switch (ZKeys::phoneKey(event->key())) {
     case ZKeys::PhoneKey::Select:
         if (d->softKey->isButtonEnabled(ZSoftKey::LeftKey))
-            selectKeyPressed();
+            answer(LeftAnswer);
         break;
     case ZKeys::PhoneKey::LeftSoftkey:
         d->softKey->click(ZSoftKey::LeftKey);

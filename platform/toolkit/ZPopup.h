@@ -71,8 +71,6 @@ protected:
     void answerAfter(int milliseconds, Answer answer);
     /// Hides the dialog and emits the signal of `answer`. The dialog may be gone afterwards.
     void answer(Answer answer);
-    /// What the select key does: answer(LeftAnswer).
-    virtual void selectKeyPressed();
 
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

@@ -1,5 +1,5 @@
-// What the screens of the data sessions ask of the toolkit and the telephone, call by call, with the exact arguments and
-// in the exact order.
+// What the screens of the data sessions ask of the toolkit and the telephone, call by call, with the exact arguments
+// and in the exact order.
 #include "PHONE_UI_RecentCallDataTimesView.h"
 #include "PHONE_UI_RecentCallDataVolumesDetailView.h"
 #include "PHONE_UI_RecentCallDataVolumesView.h"

@@ -43,8 +43,8 @@ public:
     qint64 copied() const { return count; }
 
 protected:
-    /// `select` has the rows in ascending order of their ids; `insert` has a '?' for each of its columnCount, and ignores a
-    /// row whose id is there already. False when the target could not be written.
+    /// `select` has the rows in ascending order of their ids; `insert` has a '?' for each of its columnCount, and
+    /// ignores a row whose id is there already. False when the target could not be written.
     bool copy(const QString &select, const QString &insert);
 
     /// Whether the target's table takes it.

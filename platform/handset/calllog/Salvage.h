@@ -16,8 +16,8 @@ struct Salvaged {
     bool sessionTotalsRead = false; ///< as totalsRead, for the sessions
 };
 
-/// Copies the calls, the sessions, and the totals of each where all of them can be read, from the database `file` into the empty `target`,
-/// in one transaction. `file` may be changed on the way: it is to be a copy.
+/// Copies the calls, the sessions, and the totals of each where all of them can be read, from the database `file` into
+/// the empty `target`, in one transaction. `file` may be changed on the way: it is to be a copy.
 Salvaged salvage(const QString &file, CallStore &target);
 
 } // namespace handset::calllog

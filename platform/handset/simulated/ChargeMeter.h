@@ -17,8 +17,8 @@ class ChargeMeter final : public calllog::CallCharges
 {
 public:
     /// Reads what `recorder` keeps and keeps everything that changes there; it outlives this. What cannot be used is
-    /// kept under another name, and is new; `notices` gets a sentence about each. StorageFailed when the call log cannot
-    /// be read: nothing is known then, and nothing may be written.
+    /// kept under another name, and is new; `notices` gets a sentence about each. StorageFailed when the call log
+    /// cannot be read: nothing is known then, and nothing may be written.
     int load(calllog::CallRecorder &recorder, QStringList &notices);
 
     const ChargingState &state() const { return kept; }

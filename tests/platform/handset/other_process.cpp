@@ -5,8 +5,8 @@
 //                                                checkpoint, and one that begins with '=' for each end
 //   handset_other_process hold DIRECTORY [USER]  says "holding", and holds the directory until its input ends; as the
 //                                                user with that number, or says "not permitted"
-//   handset_other_process leave DIRECTORY         installs the telephone, makes a call of 9 s, and leaves main() with the
-//                                                call still on the line
+//   handset_other_process leave DIRECTORY        installs the telephone, makes a call of 9 s, and leaves main()
+//                                                with the call still on the line
 //   handset_other_process leave-session DIRECTORY
 //                                                the same with a packet-data session
 // A directory that cannot be opened as expected is a line "error ..." or "notice ..." and exit code 1.

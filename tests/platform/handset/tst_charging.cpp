@@ -1,4 +1,5 @@
-// What calls cost: the SIM's meter, the tariffs, the account, and the end of a call that nothing more may be charged for.
+// What calls cost: the SIM's meter, the tariffs, the account, and the end of a call that nothing more may be charged
+// for.
 #include "AdviceOfCharge.h"
 #include "CallLog.h"
 #include "CallService.h"
