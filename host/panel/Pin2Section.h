@@ -23,15 +23,18 @@ public:
 
 private:
     void addSwitches(QGridLayout *grid);
+    void addEntering(QGridLayout *grid);
     void addUnblocking(QGridLayout *grid);
     void setOn(bool on);
     void powerCycle();
+    void enter();
     void unblock();
     void say(const QString &text);
 
     Line &line;
     QLabel *state;
     QCheckBox *isOn;
+    CodeField *pin;
     CodeField *puk;
     CodeField *newPin;
     QLabel *outcome;

@@ -168,6 +168,9 @@ private slots:
     void anUpdateRuleIsSetAndShown();
     void pin2IsSwitchedOffAndOn();
     void theStateOfPin2IsShownLive();
+    void pin2IsEntered();
+    void aWrongPin2IsToldAndCountedUntilItIsBlocked();
+    void aPin2ThatIsNoneIsToldAndCostsNoTry();
     void aPowerCycleForgetsThatPin2WasEntered();
     void pin2IsUnblockedByItsPuk();
     void aWrongPukIsToldAndCounted();
@@ -697,6 +700,53 @@ void PanelTest::theStateOfPin2IsShownLive()
     QCOMPARE(label("pin2 state"), "Blocked for good.\nTries left: PIN2 0, PUK2 0.");
 }
 
+void PanelTest::pin2IsEntered()
+{
+    showTab("SIM");
+    enter("pin2", "1234");
+    click("Enter");
+    QVERIFY(pin2().isVerified());
+    QCOMPARE(label("pin2 outcome"), "PIN2 has been entered.");
+    QVERIFY(label("pin2 state").startsWith("On, and entered."));
+    click("Switch off and on");
+    QVERIFY(!pin2().isVerified());
+    QVERIFY(!control<QLabel>("pin2 outcome")->isVisible());
+    enter("pin2", "1234");
+    QTest::keyClick(control<QWidget>("pin2"), Qt::Key_Return);
+    QVERIFY(pin2().isVerified());
+    QCOMPARE(title(), "Recent Calls");
+}
+
+void PanelTest::aWrongPin2IsToldAndCountedUntilItIsBlocked()
+{
+    showTab("SIM");
+    QVERIFY(enterPin2("1234"));
+    for (int left = 2; left >= 0; --left) {
+        enter("pin2", "9999");
+        click("Enter");
+        QCOMPARE(label("pin2 outcome"), "Wrong PIN2.");
+        QCOMPARE(pin2().triesLeft(), left);
+        QVERIFY(label("pin2 state").endsWith(QString("PIN2 %1, PUK2 10.").arg(left)));
+        QVERIFY(!pin2().isVerified());
+    }
+    QVERIFY(label("pin2 state").startsWith("Blocked: only PUK2 helps."));
+    enter("pin2", "1234");
+    click("Enter");
+    QCOMPARE(label("pin2 outcome"), "Not done: PIN2 is blocked.");
+    QVERIFY(!pin2().isVerified());
+}
+
+void PanelTest::aPin2ThatIsNoneIsToldAndCostsNoTry()
+{
+    showTab("SIM");
+    for (const char *digits : {"", "123"}) {
+        enter("pin2", digits);
+        click("Enter");
+        QCOMPARE(label("pin2 outcome"), "Not done: a PIN2 has four to eight digits.");
+    }
+    QCOMPARE(pin2().triesLeft(), 3);
+}
+
 void PanelTest::aPowerCycleForgetsThatPin2WasEntered()
 {
     QVERIFY(enterPin2("1234"));
@@ -761,10 +811,12 @@ void PanelTest::aCodeIsMaskedAndForgotten()
     showTab("SIM");
     auto *puk = control<CodeField>("puk2");
     auto *pin = control<CodeField>("new pin2");
+    auto *entered = control<CodeField>("pin2");
     enter("puk2", "12345678");
     enter("new pin2", "5678");
+    enter("pin2", "56785678");
     QCOMPARE(puk->digits(), rightPuk);
-    for (CodeField *field : {puk, pin}) {
+    for (CodeField *field : {puk, pin, entered}) {
         QCOMPARE(field->text().count(u'0'), field->text().size()); // no digit that was typed
         QCOMPARE(field->displayText(), QString(field->text().size(), field->displayText().front()));
         QVERIFY(!field->displayText().contains(u'0'));
@@ -773,14 +825,14 @@ void PanelTest::aCodeIsMaskedAndForgotten()
         QVERIFY(!QGuiApplication::clipboard()->text().contains("5678"));
     }
     click("Unblock");
-    for (const CodeField *field : {puk, pin}) {
+    click("Enter");
+    const QByteArray nothing(CodeField::mostDigits, '\0');
+    for (const CodeField *field : {puk, pin, entered}) {
         QVERIFY(field->digits().isEmpty());
         QCOMPARE(field->text(), QString());
         QVERIFY(!field->isUndoAvailable());
+        QCOMPARE(QByteArrayView(field->digits().data(), nothing.size()), QByteArrayView(nothing));
     }
-    const char *place = puk->digits().data();
-    for (std::size_t i = 0; i < CodeField::mostDigits; ++i)
-        QCOMPARE(place[i], '\0');
 }
 
 void PanelTest::aCodeFieldTakesDigitsAlone()
@@ -1134,8 +1186,10 @@ void PanelTest::aCatalogueTranslatesWhatIsRefused()
     openWindow(owner);
     for (const char *field : {"apn", "price", "top-up amount"})
         control<QLineEdit>(field)->clear();
-    for (const char *text : {"Start session", "Set price", "Top up", "Unblock"})
+    for (const char *text : {"Start session", "Set price", "Top up", "Enter", "Unblock"}) {
         buttonCalled(MarkingCatalogue::marked(text))->click();
+        QCOMPARE(untranslated(), QString());
+    }
     for (const char *name : {"packet failure", "cost failure", "account failure", "pin2 outcome"})
         QVERIFY2(label(name).contains("Not done"), name);
     QCOMPARE(untranslated(), QString());
@@ -1184,7 +1238,7 @@ void PanelTest::aCatalogueTranslatesTheNamesOfTheKeys()
 void PanelTest::anotherTelephoneThanTheSimulatedHasNothingToSet()
 {
     openWindow(std::make_shared<BareHandset>());
-    for (const char *name : {"tariff dialed units", "price", "top-up amount", "EF_ACM", "pin2 on", "puk2"})
+    for (const char *name : {"tariff dialed units", "price", "top-up amount", "EF_ACM", "pin2 on", "pin2", "puk2"})
         QVERIFY2(!control<QWidget>(name)->isEnabled(), name);
     QCOMPARE(label("call cost"), "not available");
     QVERIFY(control<QWidget>("operation")->isEnabled());
