@@ -1,10 +1,10 @@
 #include "CallStore.h"
 
 #include "Saturating.h"
+#include "SaturatingSql.h"
 #include "StateDirectory.h"
 #include "Status.h"
 
-#include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>
 
 #include <algorithm>
@@ -14,21 +14,11 @@ namespace handset::calllog {
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
-
-// SQLite's own sum would turn into a floating-point number beyond 2^63 - 1.
-#define KAV_SATURATING_SUM(column, added)                                                                         \
-    column " = CASE WHEN " column " > 9223372036854775807 - " added " THEN 9223372036854775807 ELSE " column      \
-           " + " added " END"
-
 constexpr auto insertRowSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state)"
                               " VALUES (:kind, :direction, :number, :started, :duration, :units, :state)";
-constexpr auto addTimeSql = "UPDATE calls SET state = :state, " KAV_SATURATING_SUM(
-    "duration_ms", ":ms") ", " KAV_SATURATING_SUM("units", ":units") " WHERE id = :id";
-constexpr auto addToTotalsSql =
-    "UPDATE totals SET " KAV_SATURATING_SUM("ms", ":ms") " WHERE counter IN (:own, 'all', 'lifetime', :last)";
-constexpr auto addToCostsSql =
-    "UPDATE costs SET " KAV_SATURATING_SUM("units", ":units") " WHERE counter IN (:own, :last)";
+constexpr auto addTimeSql = "UPDATE calls SET state = :state, %1, %2 WHERE id = :id";
+constexpr auto addToTotalsSql = "UPDATE totals SET %1 WHERE counter IN (:own, 'all', 'lifetime', :last)";
+constexpr auto addToCostsSql = "UPDATE costs SET %1 WHERE counter IN (:own, :last)";
 constexpr auto setTotalSql = "UPDATE totals SET ms = :ms WHERE counter = :counter";
 constexpr auto totalSql = "SELECT ms FROM totals WHERE counter = :counter";
 constexpr auto setCostSql = "UPDATE costs SET units = :units WHERE counter = :counter";
@@ -84,24 +74,19 @@ CallStore::~CallStore() = default;
 
 bool CallStore::prepareStatements()
 {
+    const QString addMs = saturatingAddSql("ms", ":ms");
+    const QString addDuration = saturatingAddSql("duration_ms", ":ms");
+    const QString addUnits = saturatingAddSql("units", ":units");
     return database->prepare(insertStatement, QString::fromLatin1(insertRowSql)) &&
-           database->prepare(timeStatement, QString::fromLatin1(addTimeSql)) &&
-           database->prepare(totalsStatement, QString::fromLatin1(addToTotalsSql)) &&
+           database->prepare(timeStatement, QString::fromLatin1(addTimeSql).arg(addDuration, addUnits)) &&
+           database->prepare(totalsStatement, QString::fromLatin1(addToTotalsSql).arg(addMs)) &&
            database->prepare(setTotalStatement, QString::fromLatin1(setTotalSql)) &&
            database->prepare(totalStatement, QString::fromLatin1(totalSql)) &&
-           database->prepare(costsStatement, QString::fromLatin1(addToCostsSql)) &&
+           database->prepare(costsStatement, QString::fromLatin1(addToCostsSql).arg(addUnits)) &&
            database->prepare(setCostStatement, QString::fromLatin1(setCostSql)) &&
            database->prepare(costStatement, QString::fromLatin1(costSql)) &&
            database->prepare(keepStatement, QString::fromLatin1(keepSql)) &&
            database->prepare(keptStatement, QString::fromLatin1(keptSql));
-}
-
-int CallStore::status(bool succeeded) const
-{
-    if (succeeded)
-        return Success;
-    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(database->lastError())));
-    return StorageFailed;
 }
 
 bool CallStore::insertRow(const PastCall &call, CallState state)
@@ -123,7 +108,7 @@ bool CallStore::addToTotals(Counter own, qint64 ms, bool toLast)
     totalsStatement.bindValue(QStringLiteral(":ms"), ms);
     totalsStatement.bindValue(QStringLiteral(":own"), counterKey(own));
     totalsStatement.bindValue(QStringLiteral(":last"), counterKey(toLast ? Counter::Last : own));
-    return database->run(totalsStatement);
+    return database->runOn(toLast ? 4 : 3, totalsStatement); // its own, all and lifetime calls, and the last call
 }
 
 bool CallStore::addToCosts(Counter own, qint64 units, bool toLast)
@@ -135,7 +120,7 @@ bool CallStore::addToCosts(Counter own, qint64 units, bool toLast)
     costsStatement.bindValue(QStringLiteral(":units"), units);
     costsStatement.bindValue(QStringLiteral(":own"), ownCost ? costCounterKey(*ownCost) : last);
     costsStatement.bindValue(QStringLiteral(":last"), last);
-    return database->run(costsStatement);
+    return database->runOn((ownCost ? 1 : 0) + (toLast ? 1 : 0), costsStatement);
 }
 
 bool CallStore::putAll(const KeptValues &values)
@@ -149,7 +134,7 @@ bool CallStore::addTime(const UnwrittenTime &time, const Charge &charge, CallSta
     timeStatement.bindValue(QStringLiteral(":ms"), time.ms);
     timeStatement.bindValue(QStringLiteral(":units"), charge.units);
     timeStatement.bindValue(QStringLiteral(":id"), time.call);
-    return database->run(timeStatement) && addToTotals(time.own, time.ms, true) &&
+    return database->runOn(1, timeStatement) && addToTotals(time.own, time.ms, true) &&
            addToCosts(time.own, charge.units, true) && putAll(charge.kept);
 }
 
@@ -163,14 +148,14 @@ bool CallStore::putTotal(Counter counter, qint64 ms)
 {
     setTotalStatement.bindValue(QStringLiteral(":ms"), ms);
     setTotalStatement.bindValue(QStringLiteral(":counter"), counterKey(counter));
-    return database->run(setTotalStatement);
+    return database->runOn(1, setTotalStatement);
 }
 
 bool CallStore::putCost(CostCounter counter, qint64 units)
 {
     setCostStatement.bindValue(QStringLiteral(":units"), units);
     setCostStatement.bindValue(QStringLiteral(":counter"), costCounterKey(counter));
-    return database->run(setCostStatement);
+    return database->runOn(1, setCostStatement);
 }
 
 bool CallStore::putKept(const KeptValue &value)
@@ -244,7 +229,7 @@ int CallStore::addHistory(const QList<PastCall> &calls, bool setLast, const Kept
 int CallStore::total(Counter counter, qint64 &ms)
 {
     totalStatement.bindValue(QStringLiteral(":counter"), counterKey(counter));
-    const bool found = database->run(totalStatement) && totalStatement.next();
+    const bool found = database->runForRow(totalStatement);
     if (found)
         ms = totalStatement.value(0).toLongLong();
     // An unfinished SELECT would keep the write-ahead log from being emptied.
@@ -255,7 +240,7 @@ int CallStore::total(Counter counter, qint64 &ms)
 int CallStore::cost(CostCounter counter, qint64 &units)
 {
     costStatement.bindValue(QStringLiteral(":counter"), costCounterKey(counter));
-    const bool found = database->run(costStatement) && costStatement.next();
+    const bool found = database->runForRow(costStatement);
     if (found)
         units = costStatement.value(0).toLongLong();
     costStatement.finish();

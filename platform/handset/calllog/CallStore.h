@@ -82,7 +82,7 @@ private:
     bool addToCosts(Counter own, qint64 units, bool toLast);
     bool putAll(const KeptValues &values);
     bool insertPastCall(const PastCall &call);
-    int status(bool succeeded) const;
+    int status(bool succeeded) const { return database->status(succeeded); }
 
     // The order matters: statements go before their connection, the connection before the lock.
     std::unique_ptr<StateDirectory> lockedDirectory;

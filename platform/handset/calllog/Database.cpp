@@ -1,10 +1,15 @@
 #include "Database.h"
 
+#include "Status.h"
+
+#include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>
 
 namespace handset::calllog {
 
 namespace {
+
+Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
 
 QString newConnectionName()
 {
@@ -14,6 +19,12 @@ QString newConnectionName()
 
 // A process that only looks at the log must not make ours fail at once; none holds it for long.
 constexpr auto options = "QSQLITE_BUSY_TIMEOUT=1000";
+
+// SQLite has nothing against a statement that finds no row.
+QSqlError missingRow()
+{
+    return {{}, QStringLiteral("a row is missing"), QSqlError::StatementError};
+}
 
 } // namespace
 
@@ -96,6 +107,34 @@ bool Database::run(QSqlQuery &kept)
         return true;
     error = kept.lastError();
     return false;
+}
+
+bool Database::runOn(int rows, QSqlQuery &kept)
+{
+    if (!run(kept))
+        return false;
+    if (kept.numRowsAffected() == rows)
+        return true;
+    error = missingRow();
+    return false;
+}
+
+bool Database::runForRow(QSqlQuery &kept)
+{
+    if (!run(kept))
+        return false;
+    if (kept.next())
+        return true;
+    error = kept.lastError().isValid() ? kept.lastError() : missingRow();
+    return false;
+}
+
+int Database::status(bool succeeded) const
+{
+    if (succeeded)
+        return Success;
+    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(error)));
+    return StorageFailed;
 }
 
 } // namespace handset::calllog

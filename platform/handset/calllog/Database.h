@@ -48,6 +48,14 @@ public:
     bool prepare(QSqlQuery &query, const QString &statement);
     /// Runs a kept statement with the values that are bound to it.
     bool run(QSqlQuery &query);
+    /// The same, for one that changes `rows` rows; false when it has changed any other number of them.
+    bool runOn(int rows, QSqlQuery &query);
+    /// The same, for one that selects a row, and moves to it; false when there is none.
+    bool runForRow(QSqlQuery &query);
+
+    /// What an operation of the call log answers (handset/Status.h): StorageFailed, with a warning that says why, unless
+    /// it has succeeded.
+    int status(bool succeeded) const;
 
     /// Runs `work` in a transaction: all of it is in the database when this answers true, none of it otherwise.
     template <typename Work>

@@ -126,6 +126,7 @@ Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &direc
                                           : walk(*database, {identify, verify, configure, settle});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
+    // Packet data prepares its statements later, when there is nobody left who could replace the log.
     if (!SessionStore(*database).isUsable())
         return {failure(*database), nullptr};
     auto store = CallStore::create(database, directory);

@@ -1,9 +1,8 @@
 #include "SessionStore.h"
 
+#include "SaturatingSql.h"
 #include "Schema.h"
-#include "Status.h"
 
-#include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>
 
 #include <algorithm>
@@ -12,21 +11,12 @@ namespace handset::calllog {
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
-
-// Sums stop at 2^63 - 1; SQLite's own would turn into a floating-point number there.
 constexpr auto insertSql = "INSERT INTO sessions (apn, started_ms, duration_ms, sent, received, state)"
                            " VALUES (:apn, :started, 0, 0, 0, :state)";
-constexpr auto addSql = "UPDATE sessions SET state = :state,"
-                        " duration_ms = min(duration_ms, 9223372036854775807 - :ms) + :ms,"
-                        " sent = min(sent, 9223372036854775807 - :sent) + :sent,"
-                        " received = min(received, 9223372036854775807 - :received) + :received"
-                        " WHERE id = :id";
+constexpr auto addSql = "UPDATE sessions SET state = :state, %1, %2, %3 WHERE id = :id";
 constexpr auto recentSql =
     "SELECT id, apn, duration_ms, sent, received FROM sessions ORDER BY id DESC LIMIT :most";
-constexpr auto addTotalSql = "UPDATE session_totals"
-                             " SET value = min(value, 9223372036854775807 - :added) + :added"
-                             " WHERE counter = :counter";
+constexpr auto addTotalSql = "UPDATE session_totals SET %1 WHERE counter = :counter";
 constexpr auto setTotalSql = "UPDATE session_totals SET value = :value WHERE counter = :counter";
 constexpr auto totalSql = "SELECT value FROM session_totals WHERE counter = :counter";
 
@@ -39,20 +29,16 @@ SessionStore::SessionStore(Database &connection)
 
 bool SessionStore::prepareStatements()
 {
+    const QString add =
+        QString::fromLatin1(addSql).arg(saturatingAddSql("duration_ms", ":ms"), saturatingAddSql("sent", ":sent"),
+                                        saturatingAddSql("received", ":received"));
+    const QString addTotal = QString::fromLatin1(addTotalSql).arg(saturatingAddSql("value", ":added"));
     return database.prepare(insertStatement, QString::fromLatin1(insertSql)) &&
-           database.prepare(addStatement, QString::fromLatin1(addSql)) &&
+           database.prepare(addStatement, add) &&
            database.prepare(recentStatement, QString::fromLatin1(recentSql)) &&
-           database.prepare(addTotalStatement, QString::fromLatin1(addTotalSql)) &&
+           database.prepare(addTotalStatement, addTotal) &&
            database.prepare(setTotalStatement, QString::fromLatin1(setTotalSql)) &&
            database.prepare(totalStatement, QString::fromLatin1(totalSql));
-}
-
-int SessionStore::status(bool succeeded) const
-{
-    if (succeeded)
-        return Success;
-    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(database.lastError())));
-    return StorageFailed;
 }
 
 int SessionStore::begin(const QByteArray &apn, qint64 startWallMs, qint64 &id)
@@ -71,7 +57,7 @@ bool SessionStore::addToTotals(const SessionAmounts &amounts)
     return std::all_of(sessionCounters.begin(), sessionCounters.end(), [&](const SessionCounterName &name) {
         addTotalStatement.bindValue(QStringLiteral(":added"), amounts.*name.amount);
         addTotalStatement.bindValue(QStringLiteral(":counter"), QString::fromLatin1(name.key));
-        return database.run(addTotalStatement);
+        return database.runOn(1, addTotalStatement);
     });
 }
 
@@ -83,7 +69,7 @@ bool SessionStore::add(const UnwrittenAmounts &more, bool isOver)
     addStatement.bindValue(QStringLiteral(":sent"), more.amounts.sent);
     addStatement.bindValue(QStringLiteral(":received"), more.amounts.received);
     addStatement.bindValue(QStringLiteral(":id"), more.session);
-    return database.run(addStatement) && addToTotals(more.amounts);
+    return database.runOn(1, addStatement) && addToTotals(more.amounts);
 }
 
 int SessionStore::count(const UnwrittenAmounts &more)
@@ -117,7 +103,7 @@ int SessionStore::recent(int most, QList<StoredSession> &sessions)
 bool SessionStore::total(SessionCounter counter, qint64 &value)
 {
     totalStatement.bindValue(QStringLiteral(":counter"), sessionCounterKey(counter));
-    const bool found = database.run(totalStatement) && totalStatement.next();
+    const bool found = database.runForRow(totalStatement);
     if (found)
         value = totalStatement.value(0).toLongLong();
     totalStatement.finish();
@@ -138,7 +124,7 @@ bool SessionStore::putTotal(SessionCounter counter, qint64 value)
 {
     setTotalStatement.bindValue(QStringLiteral(":value"), value);
     setTotalStatement.bindValue(QStringLiteral(":counter"), sessionCounterKey(counter));
-    return database.run(setTotalStatement);
+    return database.runOn(1, setTotalStatement);
 }
 
 int SessionStore::reset(std::initializer_list<SessionCounter> counters, const UnwrittenAmounts *running)

@@ -57,7 +57,7 @@ private:
     bool add(const UnwrittenAmounts &more, bool isOver);
     bool addToTotals(const SessionAmounts &amounts);
     bool total(SessionCounter counter, qint64 &value);
-    int status(bool succeeded) const;
+    int status(bool succeeded) const { return database.status(succeeded); }
 
     Database &database;
     QSqlQuery insertStatement;

@@ -75,6 +75,8 @@ private slots:
     void aRelativeDirectoryStaysTheSameWhenTheProcessMoves();
     void closingLeavesNoFileOpenAndNoLeftovers();
     void aWriteThatFailsChangesNothing();
+    void whatIsMissingWhenItIsWrittenIsAFailure_data();
+    void whatIsMissingWhenItIsWrittenIsAFailure();
 };
 
 void TestCallLog::aRowTellsKindDirectionNumberStartAndDuration()
@@ -450,6 +452,42 @@ void TestCallLog::aWriteThatFailsChangesNothing()
     phone.clock->advance(second);
     QCOMPARE(phone->hangUp(), int(Success));
     QCOMPARE(phone.figures(), (SixFigures{6, 56, 0, 0, 56, 56}));
+}
+
+void TestCallLog::whatIsMissingWhenItIsWrittenIsAFailure_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("the row of the running call") << QStringLiteral("calls") << QStringLiteral("state = 0");
+    for (const char *counter : {"last", "dialed", "all", "lifetime"})
+        QTest::addRow("the total of the kind %s", counter)
+            << QStringLiteral("totals") << QStringLiteral("counter = '%1'").arg(QLatin1String(counter));
+    for (const char *counter : {"last", "dialed"})
+        QTest::addRow("the cost of the kind %s", counter)
+            << QStringLiteral("costs") << QStringLiteral("counter = '%1'").arg(QLatin1String(counter));
+}
+
+void TestCallLog::whatIsMissingWhenItIsWrittenIsAFailure()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, row);
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.dialed(50 * second));
+    QVERIFY(phone.dial());
+    phone.clock->advance(30 * second);
+    const LogFile other(state.database());
+    QVERIFY(other.run(QStringLiteral("CREATE TABLE aside AS SELECT * FROM %1 WHERE %2").arg(table, row)));
+    QVERIFY(other.run(QStringLiteral("DELETE FROM %1 WHERE %2").arg(table, row)));
+    QTest::ignoreMessage(QtWarningMsg, "The call log failed: a row is missing");
+    QCOMPARE(phone->checkpoint(), int(StorageFailed));
+    QTest::ignoreMessage(QtWarningMsg, "The call log failed: a row is missing");
+    QCOMPARE(phone->hangUp(), int(StorageFailed));
+    QVERIFY(other.run(QStringLiteral("INSERT INTO %1 SELECT * FROM aside").arg(table)));
+    QCOMPARE(phone.figures(), (SixFigures{30, 80, 0, 0, 80, 80}));
+    QCOMPARE(phone->hangUp(), int(Success));
+    QCOMPARE(phone.figures(), (SixFigures{30, 80, 0, 0, 80, 80}));
+    QCOMPARE(other.value(QStringLiteral("SELECT units FROM costs WHERE counter = 'dialed'")), QVariant(8));
 }
 
 QTEST_GUILESS_MAIN(TestCallLog)

@@ -79,6 +79,8 @@ private slots:
     void whatDoesNotHappenIsNotSignalled();
     void aWriteThatFailsChangesNothing();
     void aQueryThatFailsWritesNoOutput();
+    void whatIsMissingWhenItIsWrittenIsAFailure_data();
+    void whatIsMissingWhenItIsWrittenIsAFailure();
 };
 
 void TestSessions::idsGoTo255AndBeginAgainAt1()
@@ -549,6 +551,38 @@ void TestSessions::aQueryThatFailsWritesNoOutput()
     QVERIFY(total == 4 && received == 5 && sent == 6);
     QTest::ignoreMessage(QtWarningMsg, warning);
     QCOMPARE(phone->packets().startSession("y", 1, 1), int(StorageFailed));
+}
+
+void TestSessions::whatIsMissingWhenItIsWrittenIsAFailure_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("the row of the running session") << QStringLiteral("sessions") << QStringLiteral("state = 0");
+    for (const char *counter : {"duration", "sent", "received"})
+        QTest::addRow("the total of the kind %s", counter)
+            << QStringLiteral("session_totals") << QStringLiteral("counter = '%1'").arg(QLatin1String(counter));
+}
+
+void TestSessions::whatIsMissingWhenItIsWrittenIsAFailure()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, row);
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.session(50 * second, "x", 1, 1));
+    QCOMPARE(phone->packets().startSession("y", 1, 1), int(Success));
+    phone.clock->advance(7 * second);
+    const LogFile other(state.database());
+    QVERIFY(other.run(QStringLiteral("CREATE TABLE aside AS SELECT * FROM %1 WHERE %2").arg(table, row)));
+    QVERIFY(other.run(QStringLiteral("DELETE FROM %1 WHERE %2").arg(table, row)));
+    QTest::ignoreMessage(QtWarningMsg, "The call log failed: a row is missing");
+    QCOMPARE(phone->checkpoint(), int(StorageFailed));
+    QTest::ignoreMessage(QtWarningMsg, "The call log failed: a row is missing");
+    QCOMPARE(phone->packets().stopSession(), int(StorageFailed));
+    QVERIFY(other.run(QStringLiteral("INSERT INTO %1 SELECT * FROM aside").arg(table)));
+    QCOMPARE(phone->packets().stopSession(), int(Success));
+    QCOMPARE(phone.sessions(), (QStringList{QStringLiteral("2 y 7 7 7"), QStringLiteral("1 x 50 50 50")}));
+    QCOMPARE(phone.sessionTotals(), QStringLiteral("57 57 57 114"));
 }
 
 QTEST_GUILESS_MAIN(TestSessions)
