@@ -1,7 +1,7 @@
 #include "SETUP_SECURITY_Util.h"
 
-#include "Handset.h"
 #include "PinEntryDlg.h"
+#include "Roles.h"
 #include "SimSecurity.h"
 #include "ZMessageDlg.h"
 #include "translation.h"
@@ -13,7 +13,6 @@
 #include <QtCore/qlogging.h>
 
 #include <array>
-#include <memory>
 
 namespace {
 
@@ -56,13 +55,6 @@ constexpr Text rangeText = {"TXT_RID_INSTRUCTIONALTXT_4_TO_8_DIGITS", "4 to 8 di
 QString text(const Text &resource)
 {
     return translated("SETUP_SECURITY_Util", resource.key, resource.english);
-}
-
-// The SIM of the telephone that there is now, kept alive with it; null for none.
-std::shared_ptr<handset::SimSecurity> currentSim()
-{
-    const std::shared_ptr<handset::Handset> handset = handset::current();
-    return handset ? std::shared_ptr<handset::SimSecurity>(handset, handset->simSecurity()) : nullptr;
 }
 
 // Ends a loop when a dialog is out of sight: answered, or gone with its screen, its display or the application.
@@ -136,12 +128,16 @@ private:
     // Asks the SIM whether it would take a PIN at all, and says how often.
     SETUP_SECURITY_PINVERIFY_ERR_E prepare(bool again)
     {
-        const std::shared_ptr<handset::SimSecurity> sim = currentSim();
         quint32 status = 0;
-        if (!sim || sim->pinStatus(pin, status) != handset::Success)
-            return SETUP_SECURITY_VERIFY_FAILED;
         int tries = 0;
-        const bool isCounted = sim->triesLeft(pin, tries) == handset::Success;
+        bool isCounted = false;
+        const int answer = withRole(&handset::Handset::simSecurity, [&](handset::SimSecurity &sim) {
+            const int known = sim.pinStatus(pin, status);
+            isCounted = known == handset::Success && sim.triesLeft(pin, tries) == handset::Success;
+            return known;
+        });
+        if (answer != handset::Success)
+            return SETUP_SECURITY_VERIFY_FAILED;
         if (status == handset::SimSecurity::Blocked || (isCounted && tries <= 0))
             return SETUP_SECURITY_VERIFY_BLOCKED;
         entry->prepare(again ? text(texts.wrong) : QString(),
@@ -151,9 +147,9 @@ private:
 
     SETUP_SECURITY_PINVERIFY_ERR_E present(bool &accepted)
     {
-        const std::shared_ptr<handset::SimSecurity> sim = currentSim();
-        const int status =
-            sim ? sim->verifyPin(pin, entry->digits().view(), accepted) : int(handset::NotAvailable);
+        const int status = withRole(&handset::Handset::simSecurity, [&](handset::SimSecurity &sim) {
+            return sim.verifyPin(pin, entry->digits().view(), accepted);
+        });
         if (entry)
             entry->forgetDigits();
         if (status == handset::NotAllowed)

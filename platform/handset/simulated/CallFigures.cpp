@@ -23,7 +23,7 @@ int CallFigures::cost(CostCounter counter, QByteArray &text) const
     if (status != Success)
         return status;
     const bool counts = counter == CostCounter::Last || recorder.runningCostCounter() == counter;
-    const auto due = static_cast<qint64>(counts ? dueUnits() : 0);
+    const qint64 due = counts ? dueUnits() : 0;
     return amount(static_cast<quint64>(calllog::saturatingSum(units, due)), text);
 }
 
@@ -32,7 +32,7 @@ int CallFigures::remainingCredit(QByteArray &text)
     const std::optional<Account> &account = meter.state().account;
     if (!account)
         return NotAvailable;
-    return amount(account->credit - std::min(account->credit, dueUnits()), text);
+    return amount(account->credit - std::min<quint64>(account->credit, dueUnits()), text);
 }
 
 int CallFigures::lastCallCost(QByteArray &text)
@@ -67,7 +67,7 @@ int CallFigures::answeredCallsCost(QByteArray &text)
 
 int CallFigures::allCallsCost(QByteArray &text)
 {
-    return amount(sim::addUnits(meter.state().card.acm(), static_cast<quint32>(dueUnits())), text);
+    return amount(sim::addUnits(meter.state().card.acm(), dueUnits()), text);
 }
 
 int CallFigures::reset(CostCounter counter)

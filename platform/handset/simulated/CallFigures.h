@@ -32,7 +32,7 @@ public:
     int resetAllCallsCost() override;
 
 private:
-    quint64 dueUnits() const { return meter.dueUnits(recorder.connectedMs()); }
+    quint32 dueUnits() const { return meter.dueUnits(recorder.connectedMs()); }
     int amount(quint64 units, QByteArray &text) const;
     int cost(calllog::CostCounter counter, QByteArray &text) const;
     int reset(calllog::CostCounter counter);
