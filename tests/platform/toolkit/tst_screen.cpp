@@ -258,8 +258,16 @@ void ScreenTest::the_clear_key_is_reported_once_a_press()
 void ScreenTest::keys_without_a_bar_are_harmless()
 {
     ZKbMainWidget screen(nullptr, nullptr, 0);
-    for (const ZKeys::Binding &binding : ZKeys::bindings)
+    QVERIFY(!screen.cstWidget());
+    QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
+    int expected = 0;
+    for (const ZKeys::Binding &binding : ZKeys::bindings) {
         click(&screen, binding.key);
+        expected += binding.phoneKey == ZKeys::PhoneKey::Clear ? 1 : 0;
+        QCOMPARE(clear.count(), expected);
+    }
+    QVERIFY(expected > 0);
+    QVERIFY(screen.children().isEmpty());
 }
 
 void ScreenTest::no_key_and_no_click_reaches_what_the_screen_lies_in()
