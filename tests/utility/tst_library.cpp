@@ -9,6 +9,8 @@
 #include <QtCore/QFile>
 #include <QtCore/QMetaMethod>
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSet>
 
 #include <dlfcn.h>
 
@@ -39,6 +41,64 @@ QStringList dynamicEntries(const QString &file, const char *kind)
             names.append(line.section(QLatin1Char('['), 1).section(QLatin1Char(']'), 0, 0));
     }
     return names;
+}
+
+// A line of a library's table of dynamic symbols.
+struct Symbol {
+    bool isFunction = false;
+    bool isDefined = false;
+    QString visibility;
+    QString name; ///< mangled, without its version
+};
+
+QList<Symbol> dynamicSymbols(const QString &file)
+{
+    static const QRegularExpression columns(
+        QStringLiteral("^ *[0-9]+: [0-9a-f]+ +[^ ]+ (\\w+) +\\w+ +(\\w+) +(\\w+) ([^@]+)"));
+    QList<Symbol> symbols;
+    const QStringList lines = outputOf("readelf", {"--dyn-syms", "-W", file});
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch match = columns.match(line);
+        if (match.hasMatch())
+            symbols.append({match.captured(1) == QLatin1String("FUNC"), match.captured(3) != QLatin1String("UND"),
+                            match.captured(2), match.captured(4)});
+    }
+    return symbols;
+}
+
+// The demangled names that the dynamic linker looks up for the code of a library, in whatever library has them.
+QStringList boundNames(const QString &file)
+{
+    static const QRegularExpression entry(
+        QStringLiteral("(?:JUMP_SL|GLOB_DAT)\\S* +[0-9a-f]+ +(.+?)(?:@\\S+)? \\+ 0$"));
+    QStringList names;
+    const QStringList lines = outputOf("readelf", {"-r", "-W", "-C", file});
+    for (const QString &line : lines) {
+        const QRegularExpressionMatch match = entry.match(line);
+        if (match.hasMatch())
+            names.append(match.captured(1));
+    }
+    return names;
+}
+
+// "caller -> callee" for every call in the code of a library that goes straight to one of `callees`.
+QStringList directCalls(const QString &file, const QSet<QString> &callees)
+{
+    static const QRegularExpression beginning(QStringLiteral("^[0-9a-f]+ <(.+)>:$"));
+    static const QRegularExpression call(QStringLiteral("\\t(?:callq?|j[a-z]+|bl?) +[0-9a-f]+ <([^<>+@]+)>$"));
+    QStringList calls;
+    QString caller;
+    const QStringList lines = outputOf("objdump", {"-d", "--no-show-raw-insn", file});
+    for (const QString &line : lines) {
+        if (const QRegularExpressionMatch function = beginning.match(line); function.hasMatch())
+            caller = function.captured(1);
+        // A thunk of a virtual function is a part of it.
+        const QString callee = call.match(line).captured(1);
+        const bool isItself = caller == callee || caller.startsWith(QLatin1String("_ZT"));
+        if (!isItself && callees.contains(callee))
+            calls.append(caller + QLatin1String(" -> ") + callee);
+    }
+    return calls;
 }
 
 // What the plug-in exports, without what only some compilers and build types write out: inline members of the classes
@@ -150,6 +210,10 @@ private slots:
     void thePluginNeedsThePhonesLibrariesByTheirNames_data();
     void thePluginNeedsThePhonesLibrariesByTheirNames();
     void thePluginDoesNotNeedTheTelephoneBehind();
+    void otherLibrariesMayTakeThePlaceOfEverySymbol_data();
+    void otherLibrariesMayTakeThePlaceOfEverySymbol();
+    void theDynamicLinkerBindsWhatIsCalled_data();
+    void theDynamicLinkerBindsWhatIsCalled();
     void callsGoThroughTheDynamicLinker_data();
     void callsGoThroughTheDynamicLinker();
     void anotherTelephonyLibraryTakesThePlaceOfOurs();
@@ -330,6 +394,61 @@ void TestLibrary::thePluginDoesNotNeedTheTelephoneBehind()
     QCOMPARE(needed.filter("Sql"), QStringList());
 }
 
+void TestLibrary::otherLibrariesMayTakeThePlaceOfEverySymbol_data()
+{
+    everyLibraryHasItsOwnName_data();
+}
+
+void TestLibrary::otherLibrariesMayTakeThePlaceOfEverySymbol()
+{
+    QFETCH(const QString, name);
+    const QString file = builtFile(name.toLatin1());
+    const QStringList lines = outputOf("readelf", {"-d", "-W", file});
+    QVERIFY(!lines.filter("(SONAME)").isEmpty());
+    QCOMPARE(lines.filter("SYMBOLIC"), QStringList());
+    int defined = 0;
+    for (const Symbol &symbol : dynamicSymbols(file)) {
+        if (!symbol.isDefined)
+            continue;
+        ++defined;
+        QVERIFY2(symbol.visibility == QLatin1String("DEFAULT"),
+                 qPrintable(symbol.name + QLatin1String(" is ") + symbol.visibility));
+    }
+    QVERIFY(defined > 0);
+}
+
+// Of each library something of its own, and of the plug-in something of each of the phone's libraries.
+void TestLibrary::theDynamicLinkerBindsWhatIsCalled_data()
+{
+    QTest::addColumn<QStringList>("names");
+    QTest::newRow("libkavcallmeter.so.1") << QStringList{"PHONE_UI_RecentCallTimesView::getItemValue(int)",
+                                                         "PHONE_UI_RecentCallMeter::getLastCallTimes()",
+                                                         "PHONE_UI_RecentCallMeter::PHONE_UI_RecentCallMeter()",
+                                                         "ZListBox::currentItem() const",
+                                                         "TAPI_CS_GetTotalCallTime",
+                                                         "UTIL_GetTotalDuration",
+                                                         "PHONE_MsgClient::resetTotalDuration(bool)",
+                                                         "PHONE_ENG_Setup::getChargeType(unsigned char&)",
+                                                         "PHONE_ENG_Setup::staticMetaObject",
+                                                         "libaplog_to_module_ptr"};
+    QTest::newRow("libkavappbase.so.1") << QStringList{"ZListModel::rowChanged(int)", "ZListBox::staticMetaObject",
+                                                       "ZKbMainWidget::clearKeyClicked()"};
+    QTest::newRow("libkavtapi-xscale-r.so") << QStringList{"handset::current()"};
+    QTest::newRow("libkavphone.so.1") << QStringList{"PHONE_MsgClient::staticMetaObject", "handset::current()"};
+    QTest::newRow("libaplog.so.1.0.0") << QStringList{"libaplog_to_module_ptr"};
+    QTest::newRow("libkavcallsetupengine.so.1")
+        << QStringList{"PHONE_ENG_Setup::staticMetaObject", "handset::current()"};
+    QTest::newRow("libkavsecuritysetup.so.1")
+        << QStringList{"PinEntryDlg::prepare(QString const&, QString const&)", "handset::current()"};
+}
+
+void TestLibrary::theDynamicLinkerBindsWhatIsCalled()
+{
+    QFETCH(const QStringList, names);
+    const QStringList bound = boundNames(builtFile(QTest::currentDataTag()));
+    QCOMPARE(without(names, bound), QStringList());
+}
+
 void TestLibrary::callsGoThroughTheDynamicLinker_data()
 {
     everyLibraryHasItsOwnName_data();
@@ -338,9 +457,14 @@ void TestLibrary::callsGoThroughTheDynamicLinker_data()
 void TestLibrary::callsGoThroughTheDynamicLinker()
 {
     QFETCH(const QString, name);
-    const QStringList lines = outputOf("readelf", {"-d", "-W", builtFile(name.toLatin1())});
-    QVERIFY(!lines.filter("(SONAME)").isEmpty());
-    QCOMPARE(lines.filter("SYMBOLIC"), QStringList());
+    const QString file = builtFile(name.toLatin1());
+    QSet<QString> exported;
+    for (const Symbol &symbol : dynamicSymbols(file)) {
+        if (symbol.isDefined && symbol.isFunction)
+            exported.insert(symbol.name);
+    }
+    QVERIFY(!exported.isEmpty());
+    COMPARE_LINES(directCalls(file, exported), QStringList());
 }
 
 void TestLibrary::anotherTelephonyLibraryTakesThePlaceOfOurs()
