@@ -30,7 +30,7 @@ constexpr int usualReceived = 4000;
 
 QString timeText(const CallTime &time)
 {
-    return clockText(qint64{time.hours} * 3600 + time.minutes * 60 + time.seconds);
+    return clockText(qint64{time.hours} * 3600 + qint64{time.minutes} * 60 + time.seconds);
 }
 
 QString bytesText(quint32 sent, quint32 received)
