@@ -126,7 +126,7 @@ QString StateDirectory::unusedName(const QString &name) const
 {
     const QFileInfo file(name);
     for (int number = 1;; ++number) {
-        const QString candidate =
+        QString candidate =
             QStringLiteral("%1-kept-%2.%3").arg(file.completeBaseName()).arg(number).arg(file.suffix());
         const auto inUse = [&](const char *suffix) { return exists(candidate + QLatin1String(suffix)); };
         if (!exists(candidate) && std::none_of(recordings.begin(), recordings.end(), inUse))
@@ -137,7 +137,7 @@ QString StateDirectory::unusedName(const QString &name) const
 QString StateDirectory::keepAside(const QString &name, QString &error)
 {
     unlink(name + QLatin1String(indexSuffix));
-    const QString kept = unusedName(name);
+    QString kept = unusedName(name);
     // The database itself first: what is left beside a database that is gone is recognised as a leftover.
     bool done = !exists(name) || rename(name, kept);
     for (const char *recording : recordings) {
