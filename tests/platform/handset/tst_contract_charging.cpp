@@ -679,7 +679,8 @@ void TestContractCharging::whatIsNoMaximumIsRefused_data()
 {
     QTest::addColumn<QString>("maximum");
     QTest::newRow("a null text") << QString();
-    for (const char *text : {"", ".", "abc", "-1", "1e3", "12,5", "16777216", "99999999999999999999999999"})
+    for (const char *text :
+         {"", ".", "abc", "-1", "1e3", "12,5", "16777216", "4294967297", "99999999999999999999999999"})
         QTest::newRow(*text ? text : "an empty text") << QString::fromLatin1(text);
     QTest::newRow("less than a unit") << QStringLiteral("0.5");
 }
