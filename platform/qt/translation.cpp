@@ -25,7 +25,7 @@ QString translated(const char *context, const char *key, const char *english)
 {
     const char *fallback = english ? english : "";
     if (context && key) {
-        const QString text = lookUp(context, key, fallback);
+        QString text = lookUp(context, key, fallback);
         // Where no translator knows the key, Qt answers the key itself.
         if (text != QLatin1StringView(key))
             return text;

@@ -68,7 +68,7 @@ ZKbMainWidget::ZKbMainWidget(QWidget *parent, const char *name, unsigned int fla
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoMousePropagation);
     const auto *outer = isWindow() ? nullptr : qobject_cast<ZKbMainWidget *>(parent);
-    resize(outer ? outer->size() : sizeHint());
+    resize(outer ? outer->size() : ZKbMainWidget::sizeHint());
 }
 
 ZKbMainWidget::~ZKbMainWidget()

@@ -106,8 +106,8 @@ ZSkinService::WidgetClsID ZListBox::skinClass() const
 
 void ZListBox::insertItem(const ZListItem *item, int index, bool show)
 {
-    const auto it = item ? d->items.find(item) : d->items.end();
-    if (it == d->items.end()) {
+    const auto it = d->items.find(item);
+    if (!item || it == d->items.end()) {
         qWarning("ZListBox::insertItem: the item was not made on this list");
         return;
     }

@@ -91,7 +91,7 @@ void ZListModel::remove(int row)
 QList<ZListItem *> ZListModel::takeAll()
 {
     beginResetModel();
-    const QList<ZListItem *> taken = std::exchange(items, {});
+    QList<ZListItem *> taken = std::exchange(items, {});
     endResetModel();
     return taken;
 }

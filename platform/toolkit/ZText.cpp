@@ -45,7 +45,7 @@ QString ZText::oneLine(const QString &text)
 
 QString ZText::elided(const QString &text, const QFontMetrics &metrics, int width, Qt::TextElideMode where)
 {
-    const QString line = oneLine(text);
+    QString line = oneLine(text);
     if (line.isEmpty() || width <= 0)
         return QString();
     if (metrics.horizontalAdvance(line) <= width)
