@@ -95,6 +95,12 @@ void Line::setNumber(const QString &number)
 {
     if (nextNumber == number)
         return;
+    typing = false;
+    changeNumber(number);
+}
+
+void Line::changeNumber(const QString &number)
+{
     nextNumber = number;
     emit changed();
 }
@@ -104,13 +110,13 @@ void Line::typeNumber(QChar digit)
     const QString begun = typing ? nextNumber : QString();
     typing = true;
     if (begun.size() < longestNumber)
-        setNumber(begun + digit);
+        changeNumber(begun + digit);
 }
 
 void Line::takeBackDigit()
 {
-    if (typing)
-        setNumber(nextNumber.chopped(nextNumber.isEmpty() ? 0 : 1));
+    if (typing && !nextNumber.isEmpty())
+        changeNumber(nextNumber.chopped(1));
 }
 
 bool Line::permits(Action action) const

@@ -33,7 +33,7 @@ public:
     void setNumber(const QString &number);
     /// Appends what the keypad types; the first digit after a call begins a new number.
     void typeNumber(QChar digit);
-    /// Takes back the last digit that the keypad has typed for the next call.
+    /// Takes back the last digit of a number that typeNumber() has begun; nothing after a call or setNumber().
     void takeBackDigit();
 
     /// Whether the line is in the state that `action` needs.
@@ -58,6 +58,7 @@ signals:
     void changed();
 
 private:
+    void changeNumber(const QString &number);
     int run(Action action);
     void finish(int status);
 

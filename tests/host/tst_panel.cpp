@@ -67,7 +67,8 @@ public:
     handset::DataCalls *dataCalls() override { return nullptr; }
 };
 
-// A catalogue that has every text but the phone's, which have keys: each as itself between two marks.
+// A catalogue that has every text of the host's and of Qt's, but not the phone's, which have keys: each as itself
+// between two marks.
 class MarkingCatalogue : public QTranslator
 {
 public:
@@ -78,9 +79,11 @@ public:
 
     static QString marked(const char *text) { return begin + QString::fromUtf8(text) + end; }
     bool isEmpty() const override { return false; }
-    QString translate(const char *, const char *source, const char *, int) const override
+    QString translate(const char *context, const char *source, const char *, int) const override
     {
-        return QByteArrayView(source).startsWith("TXT_") ? QString() : marked(source);
+        const QByteArrayView owner(context);
+        const bool isMine = owner.startsWith("host::") || owner.startsWith("Q");
+        return isMine && !QByteArrayView(source).startsWith("TXT_") ? marked(source) : QString();
     }
 };
 

@@ -331,6 +331,11 @@ void WindowTest::digitsOfTheKeypadMakeUpTheNumber()
     clickKey("5");
     clickKey("Clear");
     QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
+    window->findChild<QLineEdit *>()->setText("123");
+    clickKey("Clear"); // no number of the keypad's
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "123");
+    clickKey("9");
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
     for (int i = 0; i < 2; ++i) {
         clickKey("Clear");
         QCOMPARE(window->findChild<QLineEdit *>()->text(), "");

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <optional>
+#include <thread>
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -15,9 +16,13 @@
 
 namespace {
 
-constexpr int sliceMs = 50; // how long being given up may go unnoticed
+constexpr std::chrono::milliseconds slice{50}; // how long being given up may go unnoticed
 
-enum class Connection { Made, Refused, Waiting };
+enum class Connection {
+    Made,
+    Refused,
+    Waiting ///< behind others who wait to be accepted: to be tried again
+};
 
 struct Place {
     sockaddr_un address{};
@@ -41,8 +46,7 @@ public:
     {
         if (::connect(descriptor, reinterpret_cast<const sockaddr *>(&place.address), place.size) == 0)
             return Connection::Made;
-        return errno == EAGAIN ? Connection::Waiting
-                               : Connection::Refused; // behind others who wait to be accepted
+        return errno == EAGAIN ? Connection::Waiting : Connection::Refused;
     }
 
     bool say(const QByteArray &words) const
@@ -54,7 +58,7 @@ public:
     bool hasInput() const
     {
         pollfd input{descriptor, POLLIN, 0};
-        return ::poll(&input, 1, sliceMs) > 0;
+        return ::poll(&input, 1, static_cast<int>(slice.count())) > 0;
     }
 
     bool isAnswered() const
@@ -103,9 +107,43 @@ QByteArray greeting()
     return QByteArray(1, '\0') + "AUTH EXTERNAL " + QByteArray::number(::geteuid()).toHex() + "\r\n";
 }
 
-bool isAnswered(const Socket &socket, QDeadlineTimer deadline, const std::function<bool()> &isGivenUp)
+// The one of the user's session is where D-Bus looks when it is told nothing.
+QByteArray sessionBusAddresses()
 {
-    while (!deadline.hasExpired() && !isGivenUp()) {
+    const QByteArray told = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const QByteArray directory = qgetenv("XDG_RUNTIME_DIR");
+    return !told.isEmpty() || directory.isEmpty() ? told
+                                                  : "unix:path=" + directory.toPercentEncoding("/") + "/bus";
+}
+
+class Patience
+{
+public:
+    Patience(std::chrono::milliseconds limit, const std::function<bool()> &givenUp)
+        : deadline(limit)
+        , isGivenUp(givenUp)
+    {}
+
+    bool isOver() const { return deadline.hasExpired() || isGivenUp(); }
+
+private:
+    const QDeadlineTimer deadline;
+    const std::function<bool()> &isGivenUp;
+};
+
+Connection connectTo(const Place &place, const Socket &socket, const Patience &patience)
+{
+    Connection connection = socket.connectTo(place);
+    while (connection == Connection::Waiting && !patience.isOver()) {
+        std::this_thread::sleep_for(slice);
+        connection = socket.connectTo(place);
+    }
+    return connection;
+}
+
+bool isAnswered(const Socket &socket, const Patience &patience)
+{
+    while (!patience.isOver()) {
         if (socket.hasInput())
             return socket.isAnswered();
     }
@@ -116,17 +154,17 @@ bool isAnswered(const Socket &socket, QDeadlineTimer deadline, const std::functi
 
 bool busAnswers(std::chrono::milliseconds limit, const std::function<bool()> &isGivenUp)
 {
-    for (const QByteArray &address : qgetenv("DBUS_SESSION_BUS_ADDRESS").split(';')) {
+    const Patience patience(limit, isGivenUp);
+    for (const QByteArray &address : sessionBusAddresses().split(';')) {
         const std::optional<Place> place = placeIn(address);
         if (!place)
             continue;
         const Socket socket;
-        const Connection connection = socket.connectTo(*place);
+        const Connection connection = connectTo(*place, socket, patience);
         if (connection == Connection::Refused)
             continue;
         // D-Bus, too, stays with the first that takes a connection.
-        return connection == Connection::Made && socket.say(greeting()) &&
-               isAnswered(socket, QDeadlineTimer(limit), isGivenUp);
+        return connection == Connection::Made && socket.say(greeting()) && isAnswered(socket, patience);
     }
     return true;
 }
