@@ -49,7 +49,7 @@ void ContractTest::initTestCase()
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
     auto *recorded = reinterpret_cast<RecordedCalls *>(QLibrary::resolve(plugin, "recordedCalls"));
     QVERIFY(recorded);
-    calls = &recorded();
+    calls = recorded();
 }
 
 void ContractTest::init()

@@ -253,7 +253,7 @@ void WindowTest::aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst()
     QCOMPARE(recording.load(plugin), QString());
     auto *recorded = reinterpret_cast<RecordedCalls *>(QLibrary::resolve(plugin, "recordedCalls"));
     QVERIFY(recorded);
-    QStringList &calls = recorded();
+    QStringList &calls = *recorded();
     window = std::make_unique<PhoneWindow>(recording, PhoneWindow::Telephone{owner, {}, {}});
     showWindow();
     QVERIFY(window->openScreen(0));

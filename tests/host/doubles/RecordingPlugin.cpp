@@ -136,9 +136,9 @@ KAV_DOUBLE(callCost)
 KAV_DOUBLE(dataTime)
 KAV_DOUBLE(dataVolume)
 
-extern "C" Q_DECL_EXPORT QStringList &recordedCalls()
+extern "C" Q_DECL_EXPORT QStringList *recordedCalls()
 {
-    return calls;
+    return &calls;
 }
 
 #include "RecordingPlugin.moc"

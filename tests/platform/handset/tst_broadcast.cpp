@@ -119,7 +119,7 @@ void TestBroadcast::aCallIsNotTold()
     install(phone.opened.handset);
     Screen screen;
     QVERIFY(phone.dial());
-    for (int second = 0; second < 10; ++second) {
+    for (int seconds = 0; seconds < 10; ++seconds) {
         phone.clock->advance(1000);
         tick(phone);
     }
@@ -135,13 +135,13 @@ void TestBroadcast::aRunningSessionIsToldOnceASecond()
     for (const quint32 rate : {0U, 1U, 1'000'000U}) { // the duration alone changes, too
         QCOMPARE(phone->packets().startSession("x", rate, rate), int(Success));
         QCOMPARE(screen.updates(), 1);
-        for (int second = 1; second <= 12; ++second) {
+        for (int seconds = 1; seconds <= 12; ++seconds) {
             phone.clock->advance(1000);
             tick(phone);
             QCOMPARE(screen.updates(), 1);
             tick(phone);
             QCOMPARE(screen.updates(), 0);
-            QCOMPARE(phone.sessions().first().section(QLatin1Char(' '), 2, 2), QString::number(second));
+            QCOMPARE(phone.sessions().first().section(QLatin1Char(' '), 2, 2), QString::number(seconds));
         }
         QCOMPARE(phone->packets().stopSession(), int(Success));
         QCOMPARE(screen.updates(), 1);
@@ -210,7 +210,7 @@ void TestBroadcast::aRunningSessionIsToldWithoutAnyonesHelp()
 void TestBroadcast::onlyTheInstalledTelephoneTells()
 {
     Phone first;
-    Phone second;
+    Phone other;
     Screen screen;
     const auto makeSession = [](Phone &phone) {
         return phone->packets().startSession("x", 1, 1) == Success &&
@@ -221,18 +221,18 @@ void TestBroadcast::onlyTheInstalledTelephoneTells()
     install(first.opened.handset);
     QVERIFY(makeSession(first));
     QCOMPARE(screen.updates(), 3);
-    QVERIFY(makeSession(second));
+    QVERIFY(makeSession(other));
     QCOMPARE(screen.updates(), 0);
-    install(second.opened.handset);
+    install(other.opened.handset);
     QVERIFY(makeSession(first));
     QCOMPARE(screen.updates(), 0);
-    QVERIFY(makeSession(second));
+    QVERIFY(makeSession(other));
     QCOMPARE(screen.updates(), 3);
-    install(second.opened.handset); // once more changes nothing
-    QVERIFY(makeSession(second));
+    install(other.opened.handset); // once more changes nothing
+    QVERIFY(makeSession(other));
     QCOMPARE(screen.updates(), 3);
     install(nullptr);
-    QVERIFY(makeSession(second));
+    QVERIFY(makeSession(other));
     QCOMPARE(screen.updates(), 0);
 
     // Nor does one that was replaced tell of its end.
@@ -240,7 +240,7 @@ void TestBroadcast::onlyTheInstalledTelephoneTells()
     QCOMPARE(first->packets().startSession("x", 1, 1), int(Success));
     QCOMPARE(screen.updates(), 1);
     first.close();
-    install(second.opened.handset);
+    install(other.opened.handset);
     QCOMPARE(screen.updates(), 0);
 }
 
