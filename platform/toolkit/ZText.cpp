@@ -2,6 +2,7 @@
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
 
 #include <utility>
 
@@ -22,6 +23,42 @@ bool isControl(QChar c)
 {
     return c.category() == QChar::Other_Control || breaksLine(c);
 }
+
+// A text in the painter's font, on one line that runs in the text's own direction.
+class LaidOutLine
+{
+public:
+    LaidOutLine(const QString &text, const QPainter &painter)
+        : layout(text, painter.font(), painter.device())
+    {
+        QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+        option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+        option.setWrapMode(QTextOption::NoWrap);
+        layout.setTextOption(option);
+        layout.setCacheEnabled(true); // keeps the glyphs for drawing
+        layout.beginLayout();
+        line = layout.createLine();
+        line.setLineWidth(endless);
+        layout.endLayout();
+    }
+
+    qreal width() const { return line.horizontalAdvance(); }
+
+    // Halfway up `place`, at its left, right or middle as `side` says.
+    void draw(QPainter &painter, const QRect &place, Qt::Alignment side) const
+    {
+        const qreal free = place.width() - width();
+        const qreal left = side & Qt::AlignRight ? free : side & Qt::AlignHCenter ? free / 2 : 0;
+        const qreal height = line.ascent() + line.descent(); // line.height() is rounded up
+        line.draw(&painter, QPointF(place.left() + left, place.top() + (place.height() - height) / 2));
+    }
+
+private:
+    static constexpr qreal endless = 0x01000000;
+
+    QTextLayout layout;
+    QTextLine line;
+};
 
 QString shortened(const QString &text)
 {
@@ -49,7 +86,7 @@ QString ZText::elided(const QString &text, const QFontMetrics &metrics, int widt
     if (line.isEmpty() || width <= 0)
         return QString();
     if (metrics.horizontalAdvance(line) <= width)
-        return line; // as nearly always; eliding would measure it once more
+        return line; // eliding would measure it once more
     const QString cut = metrics.elidedText(line, where, width);
     // Where nothing fits, the ellipsis comes alone, and too wide.
     return cut.size() <= 1 && metrics.horizontalAdvance(cut) > width ? QString() : cut;
@@ -58,12 +95,18 @@ QString ZText::elided(const QString &text, const QFontMetrics &metrics, int widt
 void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text,
                  Qt::TextElideMode where)
 {
-    const QString line = elided(text, painter.fontMetrics(), place.width(), where);
-    if (line.isEmpty())
+    const QString whole = oneLine(text);
+    if (whole.isEmpty() || place.width() <= 0)
         return;
-    painter.setLayoutDirection(line.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    const Qt::Alignment alignment = side | Qt::AlignAbsolute | Qt::AlignVCenter;
-    painter.drawText(place, static_cast<int>(alignment) | Qt::TextSingleLine, line);
+    // Measured and drawn from one layout: making the glyphs is what takes the time.
+    const LaidOutLine line(whole, painter);
+    if (qRound(line.width()) <= place.width()) {
+        line.draw(painter, place, side);
+        return;
+    }
+    const QString cut = elided(whole, painter.fontMetrics(), place.width(), where);
+    if (!cut.isEmpty())
+        LaidOutLine(cut, painter).draw(painter, place, side);
 }
 
 QString ZText::paragraph(const QString &text)
