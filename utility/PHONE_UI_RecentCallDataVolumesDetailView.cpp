@@ -108,6 +108,9 @@ PHONE_UI_RecentCallDataVolumesDetailView::PHONE_UI_RecentCallDataVolumesDetailVi
     , instructTextY(textY)
     , instructTextZ(textZ)
     , index(slot)
+    , sentText(QString::fromLatin1(""))
+    , receivedText(QString::fromLatin1(""))
+    , sumText(QString::fromLatin1(""))
 {
     initFrame();
     initFigures();
@@ -206,13 +209,13 @@ QString PHONE_UI_RecentCallDataVolumesDetailView::getItemValue(const QString &wo
     return QString();
 }
 
-// The meter's text for a figure of this screen's session; null without a meter or for a slot that is none.
+// The meter's text for a figure of this screen's session; empty without a meter or for a slot that is none.
 QString PHONE_UI_RecentCallDataVolumesDetailView::askMeter(const QString &word)
 {
     const Figure *figure = figureOf(word);
     const Getters *slot = gettersOf(index);
     if (!meter || !figure || !slot)
-        return QString();
+        return QString::fromLatin1("");
     return (meter->*slot->figures[figure - figures])();
 }
 
@@ -220,7 +223,7 @@ QString PHONE_UI_RecentCallDataVolumesDetailView::getNoticeText(const QString &w
 {
     const Figure *figure = figureOf(word);
     if (!figure || !gettersOf(index))
-        return QString();
+        return QString::fromLatin1("");
     return textFor<PHONE_UI_RecentCallDataVolumesDetailView>(figure->notice).arg(askMeter(word));
 }
 

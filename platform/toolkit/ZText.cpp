@@ -80,18 +80,6 @@ QString ZText::oneLine(const QString &text)
     return line;
 }
 
-QString ZText::elided(const QString &text, const QFontMetrics &metrics, int width, Qt::TextElideMode where)
-{
-    QString line = oneLine(text);
-    if (line.isEmpty() || width <= 0)
-        return QString();
-    if (metrics.horizontalAdvance(line) <= width)
-        return line; // eliding would measure it once more
-    const QString cut = metrics.elidedText(line, where, width);
-    // Where nothing fits, the ellipsis comes alone, and too wide.
-    return cut.size() <= 1 && metrics.horizontalAdvance(cut) > width ? QString() : cut;
-}
-
 void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text,
                  Qt::TextElideMode where)
 {
@@ -104,9 +92,11 @@ void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, cons
         line.draw(painter, place, side);
         return;
     }
-    const QString cut = elided(whole, painter.fontMetrics(), place.width(), where);
-    if (!cut.isEmpty())
-        LaidOutLine(cut, painter).draw(painter, place, side);
+    const QString cut = painter.fontMetrics().elidedText(whole, where, place.width());
+    const LaidOutLine rest(cut, painter);
+    // Where nothing fits, the ellipsis comes alone, and too wide.
+    if (cut.size() > 1 || qRound(rest.width()) <= place.width())
+        rest.draw(painter, place, side);
 }
 
 QString ZText::paragraph(const QString &text)

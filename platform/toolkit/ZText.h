@@ -3,7 +3,6 @@
 
 #include <QtCore/QString>
 
-class QFontMetrics;
 class QPainter;
 class QRect;
 
@@ -13,12 +12,9 @@ namespace ZText {
 /// show is cut off, so that an endless text costs no more than a long one.
 QString oneLine(const QString &text);
 
-/// oneLine(), cut with an ellipsis `where` it says to fit `width` pixels; empty when not even the ellipsis fits.
-QString elided(const QString &text, const QFontMetrics &metrics, int width,
-               Qt::TextElideMode where = Qt::ElideRight);
-
-/// Draws `text` elided on one line of `place`, at its left or right edge as `side` says, halfway up. The text runs
-/// in its own direction whatever the display's, so that "12.50 EUR" stays in order.
+/// Draws oneLine() of `text` in `place`, at its left or right edge or in the middle as `side` says, halfway up; cut with
+/// an ellipsis `where` it says to fit, and nothing when not even the ellipsis fits. The text runs in its own direction
+/// whatever the display's, so that "12.50 EUR" stays in order.
 void draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text,
           Qt::TextElideMode where = Qt::ElideRight);
 

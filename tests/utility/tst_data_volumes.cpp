@@ -31,6 +31,9 @@ KAV_EXPOSE(OpenDetail, &View::detailView);
 KAV_EXPOSE(VolumesMeter, &View::meter);
 KAV_EXPOSE(DetailDlg, &DetailView::openDlg);
 KAV_EXPOSE(DetailMeter, &DetailView::meter);
+KAV_EXPOSE(SentText, &DetailView::sentText);
+KAV_EXPOSE(ReceivedText, &DetailView::receivedText);
+KAV_EXPOSE(SumText, &DetailView::sumText);
 
 namespace {
 
@@ -722,11 +725,17 @@ void TestDataVolumes::aDetailOfNoSlotHasNoFiguresAndStillANotice()
                  QStringList({"Current Data Session|", "z|", "Sent|", "Received|", "Sum|"}));
         QCOMPARE(view.getInstructTextY(), QString("y"));
         QCOMPARE(view.getIndex(), slot);
+        for (const QString &text :
+             {view.*exposed(SentText()), view.*exposed(ReceivedText()), view.*exposed(SumText())}) {
+            QVERIFY(text.isEmpty());
+            QVERIFY(!text.isNull());
+        }
         for (const int row : {2, 3, 4}) {
             PhoneScreen::chooseRow(&view, row);
             const QPointer<ZMessageDlg> notice = view.*exposed(DetailDlg());
             QVERIFY(notice);
             QCOMPARE(notice->message(), QString());
+            QVERIFY(!notice->message().isNull());
             QCOMPARE(notice->header(), QString("Data Volume"));
             PhoneScreen::press(PhoneKey::LeftSoftkey);
             QVERIFY(!notice);

@@ -104,6 +104,7 @@ private slots:
     void anApnEndsAtItsNul();
     void aFailedRefreshLeavesDefaultsNotOldFigures_data();
     void aFailedRefreshLeavesDefaultsNotOldFigures();
+    void aRefreshOfTimesClearsTheirIdsFirst();
     void aRefreshOfVolumesClearsTheIdsOfTimesAndKeepsItsOwn();
     void aFailedRefreshOfVolumesClearsTheIdsOfTimesAllTheSame();
     void aRefreshLeavesTheTextsOfTheOthersAlone();
@@ -307,6 +308,23 @@ void TestMeterData::aFailedRefreshLeavesDefaultsNotOldFigures()
     QCOMPARE(volumes(meter), QStringList(9, none));
     for (const QString &apn : timeApns(meter) + volumeApns(meter))
         QVERIFY(apn.isNull());
+}
+
+void TestMeterData::aRefreshOfTimesClearsTheirIdsFirst()
+{
+    const auto &records = meter.*exposed(TimeRecords());
+    for (const bool fails : {false, true}) {
+        script().answer("PacketData::sessions", threeSessions(3));
+        meter.getRDT();
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(records[i].sessionId, quint8(7 + i));
+        script().answer("PacketData::sessions", DataSessions());
+        if (fails)
+            script().fail("PacketData::sessions", 1);
+        meter.getRDT();
+        for (int i = 0; i < 3; ++i)
+            QCOMPARE(records[i].sessionId, quint8(0));
+    }
 }
 
 void TestMeterData::aRefreshOfVolumesClearsTheIdsOfTimesAndKeepsItsOwn()

@@ -11,6 +11,7 @@ class TestTrace : public PhoneTest
     Q_OBJECT
 
 private slots:
+    void everyTraceOfThePluginIsOfLevel3();
     void levelsUpTo7AreWritten_data();
     void levelsUpTo7AreWritten();
     void levelsAbove7AreDropped_data();
@@ -21,6 +22,11 @@ private slots:
     void withoutAStreamTracesGoToStandardOutput();
     void withAStreamNothingGoesToStandardOutput();
 };
+
+void TestTrace::everyTraceOfThePluginIsOfLevel3()
+{
+    QCOMPARE(traceLevel, 3);
+}
 
 void TestTrace::levelsUpTo7AreWritten_data()
 {
