@@ -23,6 +23,8 @@ Care careFor(const StateDirectory &directory, const QString &name)
 Attempt openFile(std::unique_ptr<StateDirectory> &directory)
 {
     const QString name = QString::fromLatin1(databaseName);
+    if (QString problem = directory->mendRights(name); !problem.isEmpty())
+        return {{Verdict::Blocked, std::move(problem)}, nullptr};
     Finding finding = examineFile(*directory, name);
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
@@ -76,7 +78,10 @@ OpenedStore openCallStore(const QString &directory)
     std::unique_ptr<StateDirectory> locked = StateDirectory::open(directory, error);
     if (!locked)
         return {nullptr, error, {}};
-    return openReplacing(std::move(locked));
+    const QString notice = locked->notice();
+    OpenedStore opened = openReplacing(std::move(locked));
+    opened.notice = QStringList{notice, opened.notice}.join(QLatin1Char(' ')).trimmed();
+    return opened;
 }
 
 } // namespace handset::calllog

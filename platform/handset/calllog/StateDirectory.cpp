@@ -65,6 +65,33 @@ int lockFile(const QString &path)
     return -error;
 }
 
+// The same of the directory itself, for somebody may remove the lock file while it is locked. A network's file system
+// that locks no directories leaves it at the file.
+int lockDirectory(const QString &path)
+{
+    const int fd = ::open(encoded(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0)
+        return -errno;
+    if (::flock(fd, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
+        return fd;
+    ::close(fd);
+    return -EWOULDBLOCK;
+}
+
+// Bytes that are no UTF-8 come as replacement characters, and would lead to a directory of another name.
+bool isWhole(const QString &path)
+{
+    return !path.contains(QChar(QChar::ReplacementCharacter)) && QFile::decodeName(encoded(path)) == path;
+}
+
+QString whoElseMayWrite(const struct stat &directory)
+{
+    if (directory.st_uid != ::geteuid())
+        return QStringLiteral("belongs to another user");
+    return (directory.st_mode & (S_IWGRP | S_IWOTH)) != 0 ? QStringLiteral("may be written by other users")
+                                                          : QString();
+}
+
 } // namespace
 
 std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QString &error)
@@ -75,30 +102,74 @@ std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QStrin
         return nullptr;
     }
     const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    if (!isWhole(absolute)) {
+        error = unusable.arg(QFile::decodeName(encoded(absolute)), QStringLiteral("its name is not UTF-8"));
+        return nullptr;
+    }
     if (const int failure = makeDirectories(absolute)) {
         error = unusable.arg(absolute, reason(failure));
         return nullptr;
     }
-    const int fd = lockFile(absolute + QLatin1Char('/') + QLatin1String(lockName));
-    if (fd == -EWOULDBLOCK) {
-        error = QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(absolute);
-        return nullptr;
-    }
-    if (fd < 0) {
-        error = unusable.arg(absolute, reason(-fd));
-        return nullptr;
-    }
-    return std::unique_ptr<StateDirectory>(new StateDirectory(absolute, fd));
+    std::unique_ptr<StateDirectory> directory(new StateDirectory(absolute));
+    const int failure = directory->lock();
+    if (failure == 0)
+        return directory;
+    error = failure == EWOULDBLOCK
+                ? QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(absolute)
+                : unusable.arg(absolute, reason(failure));
+    return nullptr;
+}
+
+int StateDirectory::lock()
+{
+    fileLock = lockFile(filePath(QString::fromLatin1(lockName)));
+    if (fileLock < 0)
+        return -fileLock;
+    directoryLock = lockDirectory(path);
+    return directoryLock < 0 ? -directoryLock : 0;
 }
 
 StateDirectory::~StateDirectory()
 {
-    ::close(lock);
+    for (const int fd : {directoryLock, fileLock})
+        if (fd >= 0)
+            ::close(fd);
+}
+
+QString StateDirectory::notice() const
+{
+    struct stat status = {};
+    if (::fstat(directoryLock, &status) != 0)
+        return {};
+    const QString who = whoElseMayWrite(status);
+    return who.isEmpty() ? QString()
+                         : QStringLiteral("The state directory \"%1\" %2, who can change what is kept in it.")
+                               .arg(path, who);
 }
 
 QString StateDirectory::filePath(const QString &name) const
 {
     return path + QLatin1Char('/') + name;
+}
+
+QString StateDirectory::mendRights(const QString &name) const
+{
+    for (const char *suffix : {recordings[0], recordings[1], indexSuffix}) {
+        const QString file = filePath(name + QLatin1String(suffix));
+        const QByteArray encodedFile = encoded(file);
+        struct stat status = {};
+        if (::lstat(encodedFile.constData(), &status) != 0)
+            continue;
+        if (S_ISLNK(status.st_mode))
+            return QStringLiteral("\"%1\" is a symbolic link").arg(file);
+        if (!S_ISREG(status.st_mode))
+            continue;
+        if ((status.st_mode & 0777) != 0600)
+            ::chmod(encodedFile.constData(), 0600); // only the owner may
+        if (::faccessat(AT_FDCWD, encodedFile.constData(), R_OK | W_OK, AT_EACCESS) != 0)
+            return QStringLiteral("\"%1\" cannot be read and written (%2)").arg(file, reason(errno));
+    }
+    return {};
 }
 
 bool StateDirectory::rename(const QString &from, const QString &to)

@@ -19,6 +19,9 @@ public:
     StateDirectory(const StateDirectory &) = delete;
     StateDirectory &operator=(const StateDirectory &) = delete;
 
+    /// What the user should know of the directory, in one sentence: that others may write it. Empty for nothing.
+    QString notice() const;
+
     QString filePath(const QString &name) const;
 
     /// Renames `name` and what is recorded beside it to the first unused "<base>-kept-<n>.<suffix>". Answers the new
@@ -31,6 +34,9 @@ public:
     /// Removes `name` and what SQLite keeps beside it.
     void remove(const QString &name);
     bool exists(const QString &name) const;
+    /// Makes what SQLite left beside `name` readable and writable for its user alone. Answers what is wrong with the
+    /// one that is not and cannot be made so, part of a sentence that names it; empty when there is none.
+    QString mendRights(const QString &name) const;
     /// Whether SQLite left recordings beside `name`: it was not closed.
     bool hasLeftovers(const QString &name) const;
 
@@ -39,13 +45,15 @@ private:
     void unlink(const QString &name);
     bool hasContent(const QString &name) const;
 
-    StateDirectory(const QString &absolutePath, int fd)
+    explicit StateDirectory(const QString &absolutePath)
         : path(absolutePath)
-        , lock(fd)
     {}
 
+    int lock(); ///< 0 or an errno
+
     QString path;
-    int lock;
+    int fileLock = -1;
+    int directoryLock = -1;
 };
 
 } // namespace handset::calllog

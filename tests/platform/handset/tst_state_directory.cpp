@@ -57,6 +57,11 @@ private slots:
 
     void aDirectoryThatCannotBeUsedIsOneSentence_data();
     void aDirectoryThatCannotBeUsedIsOneSentence();
+    void aDirectoryThatOthersMayWriteIsTold_data();
+    void aDirectoryThatOthersMayWriteIsTold();
+    void aDirectoryOfAnotherUserIsTold();
+    void aLeftoverWithWrongRightsIsMendedOrNamed_data();
+    void aLeftoverWithWrongRightsIsMendedOrNamed();
     void permissionsThatAreMissingAreTold_data();
     void permissionsThatAreMissingAreTold();
     void aCallLogThatCannotBeWrittenIsTold();
@@ -68,6 +73,7 @@ private slots:
     void aSecondTelephoneOfThisProcessIsRefusedToo();
     void theLockGoesWithTheProcessThatWasKilled();
     void theLockGoesWithTheTelephone();
+    void removingTheLockFileLetsNoSecondTelephoneIn();
 };
 
 void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence_data()
@@ -86,6 +92,10 @@ void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence_data()
         << QString(300, QLatin1Char('n')) << QStringLiteral("File name too long");
     QTest::newRow("a name with a zero character")
         << QStringLiteral("a") + QChar(u'\0') + QStringLiteral("b") << QStringLiteral("Invalid argument");
+    QTest::newRow("a name whose bytes are no UTF-8")
+        << QString::fromUtf8("stat\xe9") << QStringLiteral("its name is not UTF-8");
+    QTest::newRow("a name with half a character")
+        << QStringLiteral("a") + QChar(0xd800) + QStringLiteral("b") << QStringLiteral("its name is not UTF-8");
 }
 
 void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence()
@@ -106,6 +116,100 @@ void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence()
     QCOMPARE(phone.opened.error.count(QLatin1Char('\n')), 0);
     QVERIFY(phone.opened.notice.isEmpty());
     QCOMPARE(readFile(state.sibling(QStringLiteral("file"))), QByteArray("precious"));
+    const QStringList beside =
+        QDir(state.sibling(QStringLiteral("."))).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QCOMPARE(beside, QStringList());
+}
+
+void TestStateDirectory::aDirectoryThatOthersMayWriteIsTold_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("the user alone") << 0700 << false;
+    QTest::newRow("others may look") << 0755 << false;
+    QTest::newRow("the group may write") << 0770 << true;
+    QTest::newRow("everybody may write") << 0777 << true;
+    QTest::newRow("everybody may write, but remove only what is theirs") << 01777 << true;
+}
+
+void TestStateDirectory::aDirectoryThatOthersMayWriteIsTold()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, isTold);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QCOMPARE(::chmod(QFile::encodeName(state.path()).constData(), static_cast<mode_t>(mode)), 0);
+    for (int start = 0; start < 2; ++start) { // and at every start
+        const Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        const QString notice = QStringLiteral("The state directory \"%1\" may be written by other users, who can "
+                                              "change what is kept in it.");
+        QCOMPARE(phone.opened.notice, isTold ? notice.arg(state.path()) : QString());
+    }
+}
+
+void TestStateDirectory::aDirectoryOfAnotherUserIsTold()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    if (::chown(QFile::encodeName(state.path()).constData(), 1234, static_cast<gid_t>(-1)) != 0)
+        QSKIP("only root may give a directory to another user");
+    const Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.notice,
+             QStringLiteral("The state directory \"%1\" belongs to another user, who can change "
+                            "what is kept in it.")
+                 .arg(state.path()));
+}
+
+void TestStateDirectory::aLeftoverWithWrongRightsIsMendedOrNamed_data()
+{
+    QTest::addColumn<QString>("leftover");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("isOurs");
+    for (const char *suffix : {"-wal", "-shm"}) {
+        const QString leftover = QStringLiteral("calllog.db") + QLatin1String(suffix);
+        QTest::addRow("its %s with no rights at all", suffix) << leftover << 0 << true;
+        QTest::addRow("its %s that cannot be written", suffix) << leftover << 0400 << true;
+        QTest::addRow("its %s of another user", suffix) << leftover << 0600 << false;
+    }
+}
+
+void TestStateDirectory::aLeftoverWithWrongRightsIsMendedOrNamed()
+{
+    QFETCH(QString, leftover);
+    QFETCH(int, mode);
+    QFETCH(bool, isOurs);
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.dial());
+        QVERIFY(copyState(state.path(), state.sibling(QStringLiteral("crashed"))));
+        QVERIFY(QFile::copy(state.file(QStringLiteral("calllog.db-shm")),
+                            state.sibling(QStringLiteral("crashed/calllog.db-shm"))));
+    }
+    const QString crashed = state.sibling(QStringLiteral("crashed"));
+    const QByteArray onTheWay = QFile::encodeName(state.sibling(QStringLiteral(".")));
+    QCOMPARE(::chmod(onTheWay.constData(), 0711), 0);
+    const auto give = [&](const QString &name, uid_t user) {
+        const QByteArray path = QFile::encodeName(crashed + QLatin1Char('/') + name);
+        return ::chown(path.constData(), user, static_cast<gid_t>(-1)) == 0;
+    };
+    for (const char *name : {".", "calllog.db", "calllog.db-wal", "calllog.db-shm"})
+        if (!give(QLatin1String(name), ordinaryUser()))
+            QSKIP("root may not give a file to another user here");
+    if (!isOurs && !give(leftover, ordinaryUser() + 1))
+        QSKIP("only root may give a file to another user");
+    const QString victim = crashed + QLatin1Char('/') + leftover;
+    QCOMPARE(::chmod(QFile::encodeName(victim).constData(), static_cast<mode_t>(mode)), 0);
+
+    const QByteArray answer = Holder(crashed, {QString::number(ordinaryUser())}).firstLine();
+    if (answer == "not permitted")
+        QSKIP("root may not become another user here");
+    const QString refusal = QStringLiteral("error The call log \"%1/calllog.db\" cannot be used: \"%2\" cannot be "
+                                           "read and written (Permission denied).");
+    QCOMPARE(answer, isOurs ? QByteArray("holding") : refusal.arg(crashed, victim).toUtf8());
+    QCOMPARE(Phone(crashed).opened.error, QString());
 }
 
 void TestStateDirectory::permissionsThatAreMissingAreTold_data()
@@ -250,6 +354,22 @@ void TestStateDirectory::theLockGoesWithTheTelephone()
     const StateDir state;
     Phone phone(state.path());
     QVERIFY(!Phone(state.path()));
+    phone.close();
+    QVERIFY(Phone(state.path()));
+}
+
+void TestStateDirectory::removingTheLockFileLetsNoSecondTelephoneIn()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.dial());
+    QVERIFY(QFile::remove(state.file(QStringLiteral("lock"))));
+    const QByteArray refusal =
+        "The state directory \"" + state.path().toUtf8() + "\" is in use by another telephone.";
+    QCOMPARE(Phone(state.path()).opened.error.toUtf8(), refusal);
+    QCOMPARE(Holder(state.path()).firstLine(), "error " + refusal);
+    // The one that came in vain has made a new lock file, and may have left it locked.
+    QCOMPARE(Holder(state.path()).firstLine(), "error " + refusal);
     phone.close();
     QVERIFY(Phone(state.path()));
 }
