@@ -13,6 +13,26 @@ enum class CallKind {
 
 enum class CallDirection { Dialed, Answered };
 
+/// False for a number that is none of them: a value may come from a cast.
+constexpr bool isKnown(CallKind kind)
+{
+    switch (kind) {
+    case CallKind::Voice:
+    case CallKind::Data:
+        return true;
+    }
+    return false;
+}
+constexpr bool isKnown(CallDirection direction)
+{
+    switch (direction) {
+    case CallDirection::Dialed:
+    case CallDirection::Answered:
+        return true;
+    }
+    return false;
+}
+
 /// A call that is over.
 struct PastCall {
     CallKind kind = CallKind::Voice;

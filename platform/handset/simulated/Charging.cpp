@@ -8,9 +8,14 @@
 
 namespace handset::simulated {
 
+sim::Tariff Charging::tariff(CallDirection direction) const
+{
+    return isKnown(direction) ? meter.state().tariff(direction) : sim::Tariff{};
+}
+
 int Charging::setTariff(CallDirection direction, const sim::Tariff &tariff)
 {
-    if (!tariff.isValid())
+    if (!isKnown(direction) || !tariff.isValid())
         return InvalidArgument;
     if (const int status = recorder.checkpoint())
         return status;

@@ -16,7 +16,7 @@ public:
         , meter(chargeMeter)
     {}
 
-    sim::Tariff tariff(CallDirection direction) const override { return meter.state().tariff(direction); }
+    sim::Tariff tariff(CallDirection direction) const override;
     int setTariff(CallDirection direction, const sim::Tariff &tariff) override;
     int topUp(const QString &amount, const Date &expires) override;
     std::optional<Account> account() const override;

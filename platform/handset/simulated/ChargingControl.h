@@ -39,9 +39,9 @@ public:
 
     virtual ~ChargingControl() = default;
 
-    /// What the next call that is dialed, or answered, costs.
+    /// What the next call that is dialed, or answered, costs; a tariff of nothing for what is no direction.
     virtual sim::Tariff tariff(CallDirection direction) const = 0;
-    /// Holds from the next call on. InvalidArgument for an element out of its range.
+    /// Holds from the next call on. InvalidArgument for an element out of its range and for what is no direction.
     virtual int setTariff(CallDirection direction, const sim::Tariff &tariff) = 0;
 
     /// Pays `amount` in: a decimal text in the unit of the charge type, rounded down to whole units. The credit stops

@@ -30,7 +30,7 @@ bool isShownNumber(const QString &number)
 
 bool isPlausible(const PastCall &call)
 {
-    return call.durationMs >= 0 && isShownNumber(call.number);
+    return isKnown(call.kind) && isKnown(call.direction) && call.durationMs >= 0 && isShownNumber(call.number);
 }
 
 bool isEmergency(const PastCall &call)
@@ -95,7 +95,7 @@ int SimulatedHandset::begin(LineState begun, const PastCall &begunCall)
 
 int SimulatedHandset::dial(const QString &number, CallKind kind)
 {
-    if (!isNumber(number))
+    if (!isNumber(number) || !isKnown(kind))
         return InvalidArgument;
     return begin(LineState::Dialing, {kind, CallDirection::Dialed, number});
 }

@@ -46,8 +46,8 @@ public:
     /// 3GPP TS 22.101, 10.1.1: the numbers that every telephone knows.
     static constexpr std::array emergencyNumbers{"112", "911"};
 
-    /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument. NotAllowed
-    /// for a call that would be charged where nothing more may be; so for the next two.
+    /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument, and so for what
+    /// is no CallKind. NotAllowed for a call that would be charged where nothing more may be; so for the next two.
     virtual int dial(const QString &number, CallKind kind) = 0;
     /// Dialing -> Connected: the other side answers.
     virtual int remoteAnswer() = 0;
@@ -59,8 +59,8 @@ public:
     virtual int hangUp() = 0;
     /// Adds calls that are over to the log, in one transaction, counted and charged as if they had been made in their
     /// order, also where nothing more might be charged. The last connected one becomes the last call, unless a call
-    /// is connected now. `units` of the calls are not used. InvalidArgument for a negative duration or a number that
-    /// could not have been dialed or shown.
+    /// is connected now. `units` of the calls are not used. InvalidArgument for a negative duration, a number that
+    /// could not have been dialed or shown, and for what is no CallKind or CallDirection.
     virtual int addHistory(const QList<PastCall> &calls) = 0;
     /// Writes the time that the connected call has lasted so far and what it has cost, and what the running
     /// packet-data session has counted, so that a crash loses no more than what follows; ends a call whose time is up.

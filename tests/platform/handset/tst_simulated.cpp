@@ -105,6 +105,8 @@ private slots:
     void theLineGoesFromStateToState();
     void aNumberIsWhatCanBeDialed_data();
     void aNumberIsWhatCanBeDialed();
+    void aKindOfCallThatIsNoneIsNotDialed();
+    void aDirectionThatIsNoneHasNoTariff();
     void aCallerMayWithholdTheNumber();
     void anIdleLineHasNoCall();
     void aConnectedLineSaysHowLong();
@@ -167,6 +169,31 @@ void TestSimulatedTelephone::aNumberIsWhatCanBeDialed()
     if (valid)
         QCOMPARE(phone->hangUp(), int(Success));
     QCOMPARE(phone->ring(number), int(valid || number.isEmpty() ? Success : InvalidArgument));
+}
+
+void TestSimulatedTelephone::aKindOfCallThatIsNoneIsNotDialed()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    for (const int kind : {2, -1, 255}) {
+        QCOMPARE(phone->dial(QStringLiteral("1234"), static_cast<CallKind>(kind)), int(InvalidArgument));
+        QCOMPARE(phone->lineState(), LineState::Idle);
+    }
+    QVERIFY(phone.dialed(second));
+    QCOMPARE(phone.figures(), (SixFigures{1, 1, 0, 0, 1, 1}));
+}
+
+void TestSimulatedTelephone::aDirectionThatIsNoneHasNoTariff()
+{
+    Phone phone;
+    sim::Tariff dear;
+    dear.unitsAtStart = 10;
+    for (const int number : {2, -1, 255}) {
+        const auto none = static_cast<CallDirection>(number);
+        QCOMPARE(phone->charging().setTariff(none, dear), int(InvalidArgument));
+        QVERIFY(phone->charging().tariff(none) == sim::Tariff());
+    }
+    QVERIFY(phone->charging().tariff(CallDirection::Answered) == sim::Tariff());
 }
 
 void TestSimulatedTelephone::aCallerMayWithholdTheNumber()
@@ -273,22 +300,33 @@ void TestSimulatedTelephone::historyDuringACallLeavesTheLastCallAlone()
 
 void TestSimulatedTelephone::historyWithOneBadCallIsRefusedAsAWhole_data()
 {
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<qint64>("durationMs");
-    QTest::newRow("a negative duration") << QStringLiteral("1") << qint64{-1};
-    QTest::newRow("the most negative duration") << QStringLiteral("1") << std::numeric_limits<qint64>::min();
-    QTest::newRow("a number with a letter") << QStringLiteral("x") << qint64{1};
-    QTest::newRow("a number that is too long") << QString(81, QLatin1Char('1')) << qint64{1};
+    constexpr auto none = 2;
+    QTest::addColumn<PastCall>("bad");
+    const PastCall good{CallKind::Voice, CallDirection::Dialed, QStringLiteral("1"), 0, second};
+    PastCall call = good;
+    call.durationMs = -1;
+    QTest::newRow("a negative duration") << call;
+    call.durationMs = std::numeric_limits<qint64>::min();
+    QTest::newRow("the most negative duration") << call;
+    call = good;
+    call.number = QStringLiteral("x");
+    QTest::newRow("a number with a letter") << call;
+    call.number = QString(81, QLatin1Char('1'));
+    QTest::newRow("a number that is too long") << call;
+    call = good;
+    call.kind = static_cast<CallKind>(none);
+    QTest::newRow("a kind that is none") << call;
+    call = good;
+    call.direction = static_cast<CallDirection>(none);
+    QTest::newRow("a direction that is none") << call;
 }
 
 void TestSimulatedTelephone::historyWithOneBadCallIsRefusedAsAWhole()
 {
-    QFETCH(QString, number);
-    QFETCH(qint64, durationMs);
+    QFETCH(PastCall, bad);
     Phone phone;
-    QCOMPARE(phone->addHistory({{CallKind::Voice, CallDirection::Dialed, QStringLiteral("1"), 0, second},
-                                {CallKind::Voice, CallDirection::Dialed, number, 0, durationMs}}),
-             int(InvalidArgument));
+    const PastCall good{CallKind::Voice, CallDirection::Dialed, QStringLiteral("1"), 0, second};
+    QCOMPARE(phone->addHistory({good, bad}), int(InvalidArgument));
     QCOMPARE(phone.figures(), SixFigures());
 }
 
