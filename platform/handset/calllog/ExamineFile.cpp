@@ -1,6 +1,6 @@
 #include "ExamineFile.h"
 
-#include "FileHeader.h"
+#include "repair/FileHeader.h"
 
 #include <QtCore/QFile>
 

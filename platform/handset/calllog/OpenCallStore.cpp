@@ -2,7 +2,7 @@
 
 #include "ExamineFile.h"
 #include "OpenDatabase.h"
-#include "Replacement.h"
+#include "repair/Replacement.h"
 
 #include <QtCore/QFileInfo>
 
