@@ -76,6 +76,8 @@ bool dialogHasKeys()
 Keypad::Keypad(QWidget *parent)
     : QWidget(parent)
 {
+    // A phone's keys are where they are in every language, as are the captions of the softkeys above them.
+    setLayoutDirection(Qt::LeftToRight);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(5);

@@ -88,12 +88,14 @@ void PhoneKey::paintText(QPainter &painter) const
         painter.drawText(rect(), Qt::AlignCenter, text());
         return;
     }
+    // Absolute: what is printed on a key is the same in every reading direction.
+    constexpr int before = Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter;
+    constexpr int behind = Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter;
     const int middle = width() / 2 - 8;
-    painter.drawText(QRect(0, 0, middle, height()), Qt::AlignRight | Qt::AlignVCenter, text());
+    painter.drawText(QRect(0, 0, middle, height()), before, text());
     painter.setPen(printedSmall);
     painter.setFont(printFont(10, false));
-    painter.drawText(QRect(middle + 7, 0, width() - middle - 7, height()), Qt::AlignLeft | Qt::AlignVCenter,
-                     letters);
+    painter.drawText(QRect(middle + 7, 0, width() - middle - 7, height()), behind, letters);
 }
 
 void PhoneKey::paintSign(QPainter &painter) const

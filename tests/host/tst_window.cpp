@@ -13,11 +13,14 @@
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
 #include "ZListItem.h"
+#include "ZSoftKey.h"
 #include "doubles/RecordingPlugin.h"
+#include "phone/Keypad.h"
 #include "phone/PhoneKey.h"
 
 #include <QtCore/QLibrary>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -68,6 +71,9 @@ private slots:
     void stateDirectoryAndNoticeAreShown();
     void anotherTelephoneThanTheSimulatedIsSaid();
     void everyControlHasANameAndATabStop();
+    void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
+    void theKeyUnderACaptionAnswersItAlsoRightToLeft();
+    void theKeypadLooksTheSameRightToLeft();
 
 private:
     void openWindow(const std::shared_ptr<handset::Handset> &telephone, const QString &directory = {},
@@ -434,6 +440,75 @@ void WindowTest::everyControlHasANameAndATabStop()
     }
     for (const char *name : {"line state", "figure Last call", "state directory"})
         QVERIFY2(!window->findChild<QLabel *>(name)->accessibleName().isEmpty(), name);
+}
+
+// A caption of the display's softkey bar, as the user sees it.
+static const QWidget *softkeyCaption(const QString &text)
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (const QWidget *widget : widgets) {
+        if (widget->isVisible() && qobject_cast<const ZSoftKey *>(widget->parentWidget()) &&
+            widget->accessibleName() == text)
+            return widget;
+    }
+    return nullptr;
+}
+
+static int globalCentre(const QWidget *widget)
+{
+    return widget->mapToGlobal(widget->rect().center()).x();
+}
+
+// The one of the two softkeys that is nearest to a point of the display above them.
+static PhoneKey *keyUnder(const QWidget &window, int x)
+{
+    auto *left = window.findChild<PhoneKey *>("key Left softkey");
+    auto *right = window.findChild<PhoneKey *>("key Right softkey");
+    return std::abs(globalCentre(left) - x) < std::abs(globalCentre(right) - x) ? left : right;
+}
+
+void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<quint32>("secondsAfterwards");
+    QTest::newRow("left to right, No keeps the figure") << Qt::LeftToRight << "No" << 9U;
+    QTest::newRow("left to right, Yes resets it") << Qt::LeftToRight << "Yes" << 0U;
+    QTest::newRow("right to left, No keeps the figure") << Qt::RightToLeft << "No" << 9U;
+    QTest::newRow("right to left, Yes resets it") << Qt::RightToLeft << "Yes" << 0U;
+}
+
+void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft()
+{
+    QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(QString, caption);
+    QFETCH(quint32, secondsAfterwards);
+    const auto direct = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    QGuiApplication::setLayoutDirection(direction);
+    openWindow(owner);
+    click("Dial");
+    click("Other side answers");
+    clock->advance(9000);
+    click("Hang up");
+
+    QVERIFY(window->openScreen(0));
+    clickKey("Down");
+    clickKey("Select"); // resets the dialed calls, after a question
+    QTRY_VERIFY(softkeyCaption(caption));
+    QTest::mouseClick(keyUnder(*window, globalCentre(softkeyCaption(caption))), Qt::LeftButton);
+    QTRY_VERIFY(!softkeyCaption(caption));
+    handset::CallTime time;
+    QCOMPARE(owner->callLog()->dialedCallsTime(time), 0);
+    QCOMPARE(time, handset::CallTime::fromSeconds(secondsAfterwards));
+}
+
+void WindowTest::theKeypadLooksTheSameRightToLeft()
+{
+    const QImage direct = window->findChild<Keypad *>()->grab().toImage();
+    const auto back = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    openWindow(owner);
+    QCOMPARE(window->findChild<Keypad *>()->grab().toImage(), direct);
 }
 
 QTEST_MAIN(WindowTest)
