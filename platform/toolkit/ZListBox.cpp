@@ -7,6 +7,7 @@
 #include "ZScrollBar.h"
 #include "ZSettingItem.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPersistentModelIndex>
 #include <QtCore/QPointer>
 #include <QtCore/qlogging.h>
@@ -35,6 +36,7 @@ struct ZListBox::Private {
     // What the pointer is on and goes on being on when that is there again: a list may be filled again every second.
     int pressedBeforeClear = -1;
     QString pressedTitle;
+    bool layoutIsDue = false;
 
     int rowOf(const ZListItem *item);
     void renumber();
@@ -126,6 +128,7 @@ void ZListBox::insertItem(const ZListItem *item, int index, bool show)
         d->rowBeforeClear = rowBeforeClear;
     if (row == d->pressedBeforeClear && item->title() == d->pressedTitle)
         d->pressed = d->model->index(row);
+    layOutBeforePainting();
     if (show)
         viewport()->update();
 }
@@ -160,6 +163,7 @@ void ZListBox::clear()
         item->d->list = nullptr;
         delete item;
     }
+    layOutBeforePainting();
 }
 
 int ZListBox::currentItem() const
@@ -206,8 +210,10 @@ void ZListBox::forget(ZListItem *item)
     if (row >= 0)
         d->model->remove(row);
     d->items.erase(item);
-    if (row >= 0)
+    if (row >= 0) {
         leaveSeparator(row);
+        layOutBeforePainting();
+    }
 }
 
 void ZListBox::itemChanged(ZListItem *item)
@@ -233,6 +239,33 @@ void ZListBox::leaveSeparator(int row)
     const ZListItem *current = item(currentItem());
     if (!current || current->isSeparator())
         moveBarTo(row, 1);
+}
+
+// The view lays its rows out by a timer, which comes after the next frame: that frame would be without them. A layout
+// request comes before it.
+void ZListBox::layOutBeforePainting()
+{
+    if (d->layoutIsDue || !isVisible())
+        return;
+    d->layoutIsDue = true;
+    QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+}
+
+bool ZListBox::event(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutRequest) {
+        d->layoutIsDue = false;
+        executeDelayedItemsLayout();
+    }
+    return QListView::event(event);
+}
+
+bool ZListBox::viewportEvent(QEvent *event)
+{
+    // Somebody did not wait for the layout request: a window that is exposed, a photograph.
+    if (event->type() == QEvent::Paint)
+        executeDelayedItemsLayout();
+    return QListView::viewportEvent(event);
 }
 
 void ZListBox::keyPressEvent(QKeyEvent *event)

@@ -82,6 +82,8 @@ signals:
     void itemChosen(ZListItem *item);
 
 protected:
+    bool event(QEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -93,6 +95,7 @@ private:
     void adopt(ZListItem *item);
     void forget(ZListItem *item);
     void itemChanged(ZListItem *item);
+    void layOutBeforePainting();
 
     bool moveBar(QKeyEvent *event);
     void step(int direction, bool wrap);

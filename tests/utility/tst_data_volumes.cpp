@@ -2,6 +2,7 @@
 #include "PHONE_UI_RecentCallDataVolumesDetailView.h"
 #include "PHONE_UI_RecentCallDataVolumesView.h"
 
+#include "FrameRecorder.h"
 #include "PhoneScreen.h"
 #include "PhoneTest.h"
 #include "PluginLibrary.h"
@@ -138,6 +139,8 @@ private slots:
     void anUpdateWhoseQueryFailsShowsFallbackNames();
     void anUpdateLeavesAnOpenDetailAlone();
     void anUpdateLeavesAnOpenQuestionAlone();
+    void noFrameOfAnUpdateIsWithoutItsRows();
+    void noFrameAfterADetailIsWithoutItsRows();
     void aBroadcastReachesTheScreenThroughTheEventLoop();
     void aBroadcastOnAnotherChannelDoesNot();
     void aBroadcastAfterTheScreenIsGoneReachesNobody();
@@ -521,6 +524,35 @@ void TestDataVolumes::anUpdateLeavesAnOpenQuestionAlone()
     PhoneScreen::press(PhoneKey::LeftSoftkey);
     QVERIFY(!question);
     QCOMPARE(journal.lines(), QStringList("PacketData::resetTotalBytes"));
+}
+
+void TestDataVolumes::noFrameOfAnUpdateIsWithoutItsRows()
+{
+    open();
+    FrameRecorder recorder(screen());
+    QTRY_VERIFY(!recorder.frames.isEmpty());
+    recorder.frames.clear();
+    for (int broadcast = 1; broadcast <= 5; ++broadcast) {
+        QCopChannel::send(channel, update);
+        QTRY_VERIFY(recorder.frames.size() >= broadcast);
+    }
+    const QImage whole = screen()->grab().toImage();
+    for (const QImage &frame : std::as_const(recorder.frames))
+        QCOMPARE(frame.convertToFormat(QImage::Format_RGB32), whole.convertToFormat(QImage::Format_RGB32));
+}
+
+void TestDataVolumes::noFrameAfterADetailIsWithoutItsRows()
+{
+    open();
+    FrameRecorder recorder(screen());
+    QVERIFY(openDetail(2));
+    QTRY_VERIFY(!recorder.frames.isEmpty());
+    recorder.frames.clear();
+    closeDetail();
+    QTRY_VERIFY(!recorder.frames.isEmpty());
+    const QImage whole = screen()->grab().toImage();
+    for (const QImage &frame : std::as_const(recorder.frames))
+        QCOMPARE(frame.convertToFormat(QImage::Format_RGB32), whole.convertToFormat(QImage::Format_RGB32));
 }
 
 void TestDataVolumes::aBroadcastReachesTheScreenThroughTheEventLoop()

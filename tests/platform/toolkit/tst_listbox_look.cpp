@@ -1,4 +1,5 @@
 // What the rows of a list look like.
+#include "FrameRecorder.h"
 #include "ToolkitTestKit.h"
 
 using namespace ToolkitTestKit;
@@ -10,6 +11,13 @@ const QString endless = QStringLiteral("A title that is far too long for any row
 QColor color(ZSkinService::ColorRole role)
 {
     return ZSkinService::color(role);
+}
+
+void showSettled(TestScreen &screen)
+{
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    settle();
 }
 
 int widthOf(const QString &text)
@@ -36,6 +44,11 @@ private slots:
     void a_disabled_row_is_greyed();
     void a_marked_row_is_heavier();
     void a_row_repaints_when_its_value_is_rewritten();
+    void no_frame_of_a_list_that_is_filled_again_is_without_its_rows_data();
+    void no_frame_of_a_list_that_is_filled_again_is_without_its_rows();
+    void a_list_that_is_filled_again_is_painted_once();
+    void a_list_that_was_filled_under_a_sub_screen_has_its_rows_when_that_goes();
+    void a_photograph_of_a_list_filled_just_now_has_its_rows();
     void the_scroll_bar_is_there_only_when_needed();
     void the_scroll_bar_can_be_dragged_from_end_to_end();
     void a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left();
@@ -188,6 +201,79 @@ void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
     auto *item = static_cast<ZSettingItem *>(screen.list->item(3));
     item->setSubItem(0, 1, QStringLiteral("77"), false, ZSettingItem::ValueRegion);
     QTRY_VERIFY(watch.painted.contains(middleOfRow(screen.list, 3)));
+}
+
+void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_rows_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("one row") << 1;
+    QTest::newRow("some rows") << 7;
+    QTest::newRow("a list that scrolls") << 30;
+}
+
+void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_rows()
+{
+    QFETCH(int, count);
+    TestScreen screen;
+    screen.addRows(count);
+    showSettled(screen);
+    FrameRecorder recorder(&screen);
+    const QImage whole = recorder.picture();
+    for (int times = 1; times <= 3; ++times) {
+        screen.list->clear();
+        screen.addRows(count);
+        screen.update();
+        QTRY_VERIFY(recorder.frames.size() >= times);
+    }
+    settle();
+    for (const QImage &frame : std::as_const(recorder.frames))
+        QCOMPARE(frame, whole);
+}
+
+void ListBoxLookTest::a_list_that_is_filled_again_is_painted_once()
+{
+    TestScreen screen;
+    screen.addRows(7);
+    showSettled(screen);
+    FrameRecorder recorder(&screen);
+    screen.list->clear();
+    screen.addRows(6);
+    QTRY_VERIFY(!recorder.frames.isEmpty());
+    settle();
+    QCOMPARE(recorder.frames.size(), 1);
+}
+
+void ListBoxLookTest::a_list_that_was_filled_under_a_sub_screen_has_its_rows_when_that_goes()
+{
+    TestScreen screen;
+    screen.addRows(7);
+    showSettled(screen);
+    FrameRecorder recorder(&screen);
+    const QImage whole = recorder.picture();
+    auto subScreen = std::make_unique<TestScreen>(&screen);
+    subScreen->show();
+    settle();
+    QVERIFY(recorder.picture() != whole);
+    recorder.frames.clear();
+    subScreen.reset();
+    screen.list->clear();
+    screen.addRows(7);
+    QTRY_VERIFY(!recorder.frames.isEmpty());
+    settle();
+    for (const QImage &frame : std::as_const(recorder.frames))
+        QCOMPARE(frame, whole);
+}
+
+// It is taken at once, before the event loop gets to do anything.
+void ListBoxLookTest::a_photograph_of_a_list_filled_just_now_has_its_rows()
+{
+    TestScreen screen;
+    screen.addRows(7);
+    showSettled(screen);
+    const QImage whole = screen.grab().toImage();
+    screen.list->clear();
+    screen.addRows(7);
+    QCOMPARE(screen.grab().toImage(), whole);
 }
 
 void ListBoxLookTest::the_scroll_bar_is_there_only_when_needed()
