@@ -1,32 +1,58 @@
-// A row of the table: something of ours beside what a user would pick instead.
+// A row of the table: something of ours beside what a competent developer would write instead.
 #pragma once
 
 #include <benchmark/benchmark.h>
 
+#include <QtCore/QStringList>
+
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace bench {
 
-/// What decides a row. Processor time leaves out what else the machine does meanwhile; wall time takes in the disk.
+/// Which time of a row is told. Processor time leaves out what else the machine does meanwhile; wall time takes in the
+/// disk and other processes.
 enum class Clock { Processor, Wall };
+
+/// A program whose instructions are counted from its start to its end.
+struct Program {
+    QString path;
+    QStringList arguments;
+};
 
 struct Side {
     std::string label;
     /// A benchmark as Google Benchmark has them. What comes before its loop is not timed and may be run several times;
-    /// a side that cannot be measured says why with SkipWithError().
+    /// a side that cannot be measured says why with SkipWithError(). In its loop, Counted marks what counts.
     std::function<void(benchmark::State &)> run;
+    /// Where `run` only starts another program: that one, for the instructions.
+    std::optional<Program> program = {};
+};
+
+/// What decides whether a row is good, in instructions: a ratio, or millions of them.
+struct Bar {
+    double most; ///< is allowed
+    double aim;  ///< is wanted; for information
+};
+
+struct Alternative {
+    Side side;
+    std::optional<Bar> bar = {}; ///< for the ratio of ours to it; nothing is for information only
 };
 
 struct Comparison {
     std::string name; ///< one of its kind
     Side ours;
-    Side beside;
-    std::optional<double> bar; ///< ours may take this many times as long; nothing is for information only
+    std::vector<Alternative> beside = {};
+    std::optional<Bar> millions = {}; ///< of ours alone, in an iteration
     Clock clock = Clock::Processor;
-    benchmark::IterationCount iterations = 0; ///< of a repetition; 0 is as many as it takes to be timed well
-    int operations = 1; ///< of an iteration; where there are many, how many a second are printed too
+    benchmark::IterationCount iterations = 0; ///< of a timed repetition; 0 is as many as it takes to be timed well
+    int operations = 1;             ///< of an iteration; where there are many, figures are of one of them
+    bool countsInstructions = true; ///< false where another process does the work
+    /// Makes what the row needs and is kept from run to run. Answers what went wrong.
+    std::function<QString()> prepare = {};
 };
 
 } // namespace bench

@@ -25,6 +25,12 @@ int answer(Value &out, const Value &value)
     return Success;
 }
 
+QByteArray &firstSessionName()
+{
+    static QByteArray name;
+    return name;
+}
+
 QByteArray amount()
 {
     return QByteArrayLiteral("12.50");
@@ -76,7 +82,7 @@ class Packets final : public handset::PacketData
 public:
     int sessions(handset::DataSessions &sessions) override
     {
-        const handset::DataSession first{1, 123'456, 7'890'123, fixedTime, QByteArrayLiteral("internet")};
+        const handset::DataSession first{1, 123'456, 7'890'123, fixedTime, firstSessionName()};
         const handset::DataSession second{2, 2'345, 67'890, fixedTime, QByteArrayLiteral("mms.example")};
         return answer(sessions, {3, {first, second, handset::DataSession{}}});
     }
@@ -89,7 +95,7 @@ public:
     }
     int resetTotalDuration() override { return Success; }
     int resetTotalBytes() override { return Success; }
-    void setUpdateListener(const std::function<void()> &) override {} // nothing ever changes
+    void setUpdateListener(const std::function<void()> &) override {} // nothing changes by itself
 };
 
 class Charge final : public handset::AdviceOfCharge
@@ -142,8 +148,14 @@ private:
 
 } // namespace
 
+void nameFirstSession(const QByteArray &name)
+{
+    firstSessionName() = name;
+}
+
 void useFixedTelephone()
 {
+    nameFirstSession(QByteArrayLiteral("internet"));
     handset::install(std::make_shared<FixedTelephone>());
     if (!libaplog_to_module_ptr)
         libaplog_open("/dev/null");

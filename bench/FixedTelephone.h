@@ -1,7 +1,9 @@
-// A telephone whose figures never change and cost nothing to ask.
+// A telephone whose figures cost nothing to ask and do not change by themselves.
 #pragma once
 
 #include "CallTime.h"
+
+#include <QtCore/QByteArray>
 
 namespace bench {
 
@@ -11,5 +13,8 @@ inline constexpr handset::CallTime fixedTime{5, 3, 7};
 /// Makes it the telephone that the phone's libraries talk to, and gives the trace stream a place where nothing is
 /// kept.
 void useFixedTelephone();
+
+/// What the first of its data sessions is called from now on; "internet" at first.
+void nameFirstSession(const QByteArray &name);
 
 } // namespace bench

@@ -10,7 +10,6 @@
 namespace bench {
 
 std::vector<Comparison> getterComparisons();
-std::vector<Comparison> currencyComparisons();
 std::vector<Comparison> currencyListComparisons();
 std::vector<Comparison> screenComparisons();
 std::vector<Comparison> broadcastComparisons();

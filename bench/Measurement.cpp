@@ -1,10 +1,13 @@
 #include "Measurement.h"
 
+#include <valgrind/callgrind.h>
+
 namespace bench {
 
 namespace {
 
 constexpr double leastSeconds = 0.05; // of a repetition
+constexpr int warmUpIterations = 3;   // of a counted side
 
 class Collector final : public benchmark::BenchmarkReporter
 {
@@ -28,46 +31,73 @@ public:
 };
 
 // Answers the name that it is run by.
-std::string registerSide(const Side &side, const char *role, const Comparison &comparison)
+std::string registerSide(const Side &side, benchmark::IterationCount iterations)
 {
     static int count = 0;
-    std::string name = std::to_string(++count) + role;
+    std::string name = std::to_string(++count) + "side";
     auto *registered = benchmark::RegisterBenchmark(name.c_str(), side.run);
-    if (comparison.iterations > 0)
-        registered->Iterations(comparison.iterations);
+    if (iterations > 0)
+        registered->Iterations(iterations);
     else
         registered->MinTime(leastSeconds);
     return name;
 }
 
 // False after an error.
-bool runOnce(const std::string &name, std::vector<Sample> *samples, std::string &error)
+bool runOnce(const std::string &name, Sample &sample, std::string &error)
 {
     Collector collector;
     benchmark::RunSpecifiedBenchmarks(&collector, '^' + name + "(/|$)");
+    sample = collector.sample;
     error = collector.error;
-    if (!error.empty())
-        return false;
-    if (samples)
-        samples->push_back(collector.sample);
-    return true;
+    return error.empty();
+}
+
+Sample ofOneOperation(const Sample &sample, int operations)
+{
+    return {sample.processorNs / operations, sample.wallNs / operations};
 }
 
 } // namespace
 
+std::vector<Side> sidesOf(const Comparison &comparison)
+{
+    std::vector<Side> sides{comparison.ours};
+    for (const Alternative &alternative : comparison.beside)
+        sides.push_back(alternative.side);
+    return sides;
+}
+
 Measured measure(const Comparison &comparison, int repetitions)
 {
-    const std::string ours = registerSide(comparison.ours, "ours", comparison);
-    const std::string beside = registerSide(comparison.beside, "beside", comparison);
+    std::vector<std::string> names;
+    for (const Side &side : sidesOf(comparison))
+        names.push_back(registerSide(side, comparison.iterations));
     Measured measured;
-    for (int repetition = 0; repetition <= repetitions; ++repetition) {
-        const bool counts = repetition > 0;
-        if (!runOnce(ours, counts ? &measured.ours : nullptr, measured.error) ||
-            !runOnce(beside, counts ? &measured.beside : nullptr, measured.error))
-            break;
+    measured.sides.resize(names.size());
+    for (int repetition = 0; repetition <= repetitions && measured.error.empty(); ++repetition) {
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            Sample sample;
+            if (!runOnce(names[i], sample, measured.error))
+                break;
+            if (repetition > 0)
+                measured.sides[i].push_back(ofOneOperation(sample, comparison.operations));
+        }
     }
     benchmark::ClearRegisteredBenchmarks();
     return measured;
+}
+
+std::string runCounted(const Side &side, int iterations)
+{
+    Sample sample;
+    std::string error;
+    if (!runOnce(registerSide(side, warmUpIterations), sample, error))
+        return error;
+    CALLGRIND_START_INSTRUMENTATION;
+    runOnce(registerSide(side, iterations), sample, error);
+    CALLGRIND_STOP_INSTRUMENTATION;
+    return error;
 }
 
 } // namespace bench

@@ -1,4 +1,4 @@
-// Measures both sides of a comparison with Google Benchmark, turn by turn.
+// Measures the sides of a comparison in this process with Google Benchmark.
 #pragma once
 
 #include "Comparison.h"
@@ -8,20 +8,26 @@
 
 namespace bench {
 
-/// What one repetition of one side took, per iteration.
+/// What one repetition of one side took, per operation.
 struct Sample {
     double processorNs = 0;
     double wallNs = 0;
 };
 
 struct Measured {
-    std::vector<Sample> ours;
-    std::vector<Sample> beside;
-    std::string error; ///< why there is nothing to compare
+    std::vector<std::vector<Sample>> sides; ///< ours, then those beside it
+    std::string error;                      ///< why there is nothing to compare
 };
 
-/// Repetitions of the two sides take turns, so that whatever else the machine does meets both alike. The first of
-/// each is not counted.
+/// The sides of a row: ours, then those beside it.
+std::vector<Side> sidesOf(const Comparison &comparison);
+
+/// Repetitions of the sides take turns, so that whatever else the machine does meets all alike. The first of each is
+/// not counted.
 Measured measure(const Comparison &comparison, int repetitions);
+
+/// Runs a side so that callgrind, under which this process runs, counts `iterations` of it after some to warm up.
+/// Answers what went wrong.
+std::string runCounted(const Side &side, int iterations);
 
 } // namespace bench

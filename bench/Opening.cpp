@@ -1,5 +1,6 @@
 #include "Opening.h"
 
+#include "Counted.h"
 #include "FixedTelephone.h"
 #include "Stage.h"
 
@@ -40,24 +41,27 @@ const char *faultOf(Opening &opening, Stage &stage)
 
 } // namespace
 
-Side openingSide(const char *label, MakeOpening make)
+std::function<void(benchmark::State &)> openingSide(MakeOpening make)
 {
-    return {label, [make](benchmark::State &state) {
-                useFixedTelephone();
-                Stage stage;
-                const std::unique_ptr<Opening> opening = make(&stage);
+    return [make](benchmark::State &state) {
+        useFixedTelephone();
+        Stage stage;
+        const std::unique_ptr<Opening> opening = make(&stage);
+        stage.paint();
+        if (const char *fault = faultOf(*opening, stage))
+            state.SkipWithError(fault);
+        for (auto _ : state) {
+            {
+                const Counted counted;
+                opening->open();
                 stage.paint();
-                if (const char *fault = faultOf(*opening, stage))
-                    state.SkipWithError(fault);
-                for (auto _ : state) {
-                    opening->open();
-                    stage.paint();
-                    state.PauseTiming();
-                    opening->close();
-                    stage.paint();
-                    state.ResumeTiming();
-                }
-            }};
+            }
+            state.PauseTiming();
+            opening->close();
+            stage.paint();
+            state.ResumeTiming();
+        }
+    };
 }
 
 } // namespace bench

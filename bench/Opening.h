@@ -27,7 +27,8 @@ public:
 /// Everything happens inside `display`.
 using MakeOpening = std::function<std::unique_ptr<Opening>(QWidget *display)>;
 
-/// Times opening up to the end of the first paint, with the telephone whose figures cost nothing. Closing is not timed.
-Side openingSide(const char *label, MakeOpening make);
+/// Measures opening up to the end of the first paint, with the telephone whose figures cost nothing. Closing is not
+/// measured.
+std::function<void(benchmark::State &)> openingSide(MakeOpening make);
 
 } // namespace bench

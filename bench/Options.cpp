@@ -25,8 +25,8 @@ Options readOptions()
 {
     const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/bench-data");
     const QCommandLineOption repetitions(QStringLiteral("repetitions"),
-                                         QStringLiteral("Measure each side N times."), QStringLiteral("N"),
-                                         QStringLiteral("15"));
+                                         QStringLiteral("Time each side N times; 0 counts instructions only."),
+                                         QStringLiteral("N"), QStringLiteral("15"));
     const QCommandLineOption cycles(QStringLiteral("cycles"),
                                     QStringLiteral("Open and destroy each screen N times; 0 leaves that out."),
                                     QStringLiteral("N"), QStringLiteral("10000"));
@@ -35,15 +35,24 @@ Options readOptions()
     const QCommandLineOption directory(QStringLiteral("data"),
                                        QStringLiteral("Keep the call logs that are measured in DIR."),
                                        QStringLiteral("DIR"), beside);
+    const QCommandLineOption profiles(QStringLiteral("profiles"),
+                                      QStringLiteral("Keep callgrind's files in DIR, for callgrind_annotate."),
+                                      QStringLiteral("DIR"));
+    QCommandLineOption countedRow(QStringLiteral("count-row"), QString(), QStringLiteral("NAME"));
+    QCommandLineOption countedSide(QStringLiteral("count-side"), QString(), QStringLiteral("N"),
+                                   QStringLiteral("0"));
+    countedRow.setFlags(QCommandLineOption::HiddenFromHelp);
+    countedSide.setFlags(QCommandLineOption::HiddenFromHelp);
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Measures the call meter beside what a user would pick instead."));
+        QStringLiteral("Measures the call meter beside what a competent developer would write instead."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({repetitions, cycles, only, directory});
+    parser.addOptions({repetitions, cycles, only, directory, profiles, countedRow, countedSide});
     parser.process(*QCoreApplication::instance());
-    return {number(parser, repetitions, 1), number(parser, cycles, 0), parser.value(only),
-            parser.value(directory)};
+    return {number(parser, repetitions, 0), number(parser, cycles, 0), parser.value(only),
+            parser.value(directory),        parser.value(profiles),    parser.value(countedRow),
+            number(parser, countedSide, 0)};
 }
 
 } // namespace bench

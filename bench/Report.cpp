@@ -54,9 +54,19 @@ std::string timeText(double ns)
     return text.data();
 }
 
-std::string withLabel(const Side &side, double ns)
+std::string printed(const char *format, double value)
 {
-    return side.label + ": " + timeText(ns);
+    std::array<char, 48> text{};
+    std::snprintf(text.data(), text.size(), format, value);
+    return text.data();
+}
+
+constexpr double million = 1e6;
+
+std::string countText(double instructions)
+{
+    return instructions >= million / 10 ? printed("%.3f M", instructions / million)
+                                        : printed("%.0f", instructions);
 }
 
 const char *clockName(Clock clock)
@@ -70,56 +80,127 @@ const char *clockName(Clock clock)
     return "";
 }
 
-// Answers the ratio.
-double printTimes(const char *name, const Result &result, Clock clock)
+/// What is printed of one side.
+struct Line {
+    std::string instructions = "-";
+    std::string ratio;
+    std::string bar;
+    std::string met;
+    std::string time;
+    std::string timeRatio;
+};
+
+void print(const std::string &label, const Line &line)
+{
+    std::printf("  %-34s %12s %7s  %-22s %-8s %9s  %s\n", label.c_str(), line.instructions.c_str(),
+                line.ratio.c_str(), line.bar.c_str(), line.met.c_str(), line.time.c_str(), line.timeRatio.c_str());
+}
+
+void hold(Line &line, double value, const Bar &bar, const char *format, Tally &tally)
+{
+    line.bar = "<= " + printed(format, bar.most) + ", aim " + printed(format, bar.aim);
+    line.met = tally.count(value <= bar.most);
+    if (value <= bar.aim)
+        line.met += ", aim";
+}
+
+void fillTimes(Line &line, const Result &result, std::size_t side)
+{
+    if (result.measured.sides.empty() || result.measured.sides[side].empty())
+        return;
+    const Clock clock = result.comparison.clock;
+    const std::vector<double> ours = times(result.measured.sides.front(), clock);
+    const std::vector<double> its = times(result.measured.sides[side], clock);
+    line.time = timeText(median(its));
+    line.timeRatio = side == 0 ? clockName(clock)
+                               : printed("%.2f", median(ours) / median(its)) +
+                                     printed(" (%.2f of fastest)", ours.front() / its.front());
+}
+
+void printOurs(const Result &result, Tally &tally)
 {
     const Comparison &row = result.comparison;
-    const std::vector<double> ours = times(result.measured.ours, clock);
-    const std::vector<double> beside = times(result.measured.beside, clock);
-    const double ratio = median(ours) / median(beside);
-    std::printf("%-50s  %-26s %-28s %-5s %7.2f %9.2f", name, withLabel(row.ours, median(ours)).c_str(),
-                withLabel(row.beside, median(beside)).c_str(), clockName(clock), ratio,
-                ours.front() / beside.front());
-    return ratio;
+    Line line;
+    if (!result.counts.empty()) {
+        const double instructions = result.counts.front().median;
+        line.instructions = countText(instructions);
+        if (row.millions)
+            hold(line, instructions / million, *row.millions, "%.2f M", tally);
+    }
+    fillTimes(line, result, 0);
+    print(row.ours.label, line);
+}
+
+void printBeside(const Result &result, std::size_t which, Tally &tally)
+{
+    const Alternative &alternative = result.comparison.beside[which];
+    Line line;
+    if (!result.counts.empty()) {
+        const double instructions = result.counts[which + 1].median;
+        const double ratio = result.counts.front().median / instructions;
+        line.instructions = countText(instructions);
+        line.ratio = printed("%.2f", ratio);
+        if (alternative.bar)
+            hold(line, ratio, *alternative.bar, "%.2f", tally);
+    }
+    fillTimes(line, result, which + 1);
+    print(alternative.side.label, line);
+}
+
+// Where the iterations of a side differ, its count is worth less.
+void printSpread(const Count &count, const std::string &label)
+{
+    constexpr double noticeable = 0.02;
+    if (count.most - count.least > noticeable * count.median)
+        std::printf("    %s: from %s to %s\n", label.c_str(), countText(count.least).c_str(),
+                    countText(count.most).c_str());
 }
 
 void printRates(const Result &result)
 {
-    const Comparison &row = result.comparison;
-    const auto rate = [&row](const std::vector<Sample> &samples) {
-        return row.operations * nsPerSecond / median(times(samples, row.clock));
-    };
-    std::printf("  a second: %s %.0f, %s %.0f\n", row.ours.label.c_str(), rate(result.measured.ours),
-                row.beside.label.c_str(), rate(result.measured.beside));
+    if (result.comparison.operations == 1)
+        return;
+    for (std::size_t i = 0; i < result.measured.sides.size(); ++i) {
+        const std::vector<double> all = times(result.measured.sides[i], result.comparison.clock);
+        if (!all.empty())
+            std::printf("    %s: %.0f a second\n", sidesOf(result.comparison)[i].label.c_str(),
+                        nsPerSecond / median(all));
+    }
+}
+
+std::string errorOf(const Result &result)
+{
+    for (const Count &count : result.counts) {
+        if (!count.error.empty())
+            return count.error;
+    }
+    return result.measured.error;
 }
 
 void printComparison(const Result &result, Tally &tally)
 {
     const Comparison &row = result.comparison;
-    const std::string &error = result.measured.error;
-    if (!error.empty()) {
+    std::printf("%s\n", row.name.c_str());
+    if (const std::string error = errorOf(result); !error.empty()) {
         ++tally.unmeasured;
-        std::printf("%-50s  NOT MEASURED: %s\n", row.name.c_str(), error.c_str());
+        std::printf("  NOT MEASURED: %s\n", error.c_str());
         return;
     }
-    const double ratio = printTimes(row.name.c_str(), result, row.clock);
-    if (row.bar)
-        std::printf("  <= %.1f  %s", *row.bar, tally.count(ratio <= *row.bar));
-    std::printf("\n");
-    if (row.clock == Clock::Wall) {
-        printTimes("  the processor's part of it", result, Clock::Processor);
-        std::printf("\n");
-    }
-    if (row.operations > 1)
-        printRates(result);
+    printOurs(result, tally);
+    for (std::size_t i = 0; i < row.beside.size(); ++i)
+        printBeside(result, i, tally);
+    for (std::size_t i = 0; i < result.counts.size(); ++i)
+        printSpread(result.counts[i], sidesOf(row)[i].label);
+    printRates(result);
 }
 
 void printComparisons(const std::vector<Result> &results, Tally &tally)
 {
     if (results.empty())
         return;
-    std::printf("\n%-50s  %-26s %-28s %-5s %7s %9s  %s\n", "What is measured", "Ours (median)",
-                "Beside it (median)", "Clock", "Ratio", "Of fastest", "Bar");
+    Line heading{"Instructions", "Ratio", "Bar", "", "Time", "Ratio"};
+    std::printf("\n");
+    print("", heading);
     for (const Result &result : results)
         printComparison(result, tally);
 }

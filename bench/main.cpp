@@ -1,9 +1,11 @@
 // Measures everything and prints one table. The exit code says whether every bar is met.
 #include "Groups.h"
+#include "Instructions.h"
 #include "Options.h"
 #include "Report.h"
 #include "SessionBus.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtWidgets/QApplication>
@@ -27,27 +29,89 @@ void ownSurroundings(const char *home)
     ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
 }
 
+std::vector<bench::Comparison> allComparisons(const bench::Options &options)
+{
+    std::vector<bench::Comparison> all;
+    for (const auto &group :
+         {bench::getterComparisons(), bench::screenComparisons(), bench::currencyListComparisons(),
+          bench::broadcastComparisons(), bench::callLogComparisons(options.directory)})
+        all.insert(all.end(), group.begin(), group.end());
+    return all;
+}
+
 std::vector<bench::Comparison> chosenComparisons(const bench::Options &options)
 {
     std::vector<bench::Comparison> chosen;
-    for (const auto &group : {bench::getterComparisons(), bench::currencyComparisons(), bench::screenComparisons(),
-                              bench::currencyListComparisons(), bench::broadcastComparisons(),
-                              bench::callLogComparisons(options.directory)})
-        for (const bench::Comparison &comparison : group)
-            if (comparison.name.find(options.only.toStdString()) != std::string::npos)
-                chosen.push_back(comparison);
+    for (const bench::Comparison &comparison : allComparisons(options)) {
+        if (comparison.name.find(options.only.toStdString()) != std::string::npos)
+            chosen.push_back(comparison);
+    }
     return chosen;
 }
 
-std::vector<bench::Result> measureAll(const bench::Options &options)
+// This process under callgrind, for one side of one row.
+int countOneSide(const bench::Options &options)
 {
-    const std::vector<bench::Comparison> comparisons = chosenComparisons(options);
+    std::string error = "There is no such row.";
+    for (const bench::Comparison &comparison : allComparisons(options)) {
+        if (comparison.name == options.countedRow.toStdString())
+            error = bench::runCounted(bench::sidesOf(comparison).at(static_cast<std::size_t>(options.countedSide)),
+                                      bench::countedIterations);
+    }
+    if (!error.empty())
+        std::fprintf(stderr, "%s\n", error.c_str());
+    return error.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+// What a row needs is made before anything is measured. Answers what went wrong.
+QString prepare(const std::vector<bench::Comparison> &comparisons)
+{
+    for (const bench::Comparison &comparison : comparisons) {
+        const QString error = comparison.prepare ? comparison.prepare() : QString();
+        if (!error.isEmpty())
+            return error;
+    }
+    return {};
+}
+
+std::vector<bench::Result> measureAll(const std::vector<bench::Comparison> &comparisons,
+                                      const bench::CountingPlace &place, int repetitions)
+{
+    const std::vector<std::vector<bench::Count>> counts = bench::countInstructions(comparisons, place);
     std::vector<bench::Result> results;
     for (const bench::Comparison &comparison : comparisons) {
-        std::fprintf(stderr, "[%zu/%zu] %s\n", results.size() + 1, comparisons.size(), comparison.name.c_str());
-        results.push_back({comparison, bench::measure(comparison, options.repetitions)});
+        bench::Result result{comparison, counts[results.size()], {}};
+        if (repetitions > 0) {
+            std::fprintf(stderr, "[%zu/%zu] timing: %s\n", results.size() + 1, comparisons.size(),
+                         comparison.name.c_str());
+            result.measured = bench::measure(comparison, repetitions);
+        }
+        results.push_back(result);
     }
     return results;
+}
+
+int measureEverything(const bench::Options &options, const QString &home)
+{
+    const std::vector<bench::Comparison> comparisons = chosenComparisons(options);
+    if (const QString error = prepare(comparisons); !error.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(error));
+        return EXIT_FAILURE;
+    }
+    const QString profiles = options.profiles.isEmpty() ? home : options.profiles;
+    QDir().mkpath(profiles);
+    const std::vector<bench::Result> results =
+        measureAll(comparisons, {profiles, options.directory}, options.repetitions);
+    std::vector<bench::Endured> endured;
+    if (options.cycles > 0)
+        endured = bench::endure(options.only.toStdString(), options.cycles);
+    if (results.empty() && endured.empty()) {
+        std::fprintf(stderr, "Nothing has \"%s\" in its name.\n", qUtf8Printable(options.only));
+        return 2;
+    }
+    std::printf("Instructions of one operation, and times: each side %d times, taking turns.\n",
+                options.repetitions);
+    return bench::report(results, endured) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace
@@ -61,14 +125,5 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("kavbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAV_VERSION));
     const bench::Options options = bench::readOptions();
-    const std::vector<bench::Result> results = measureAll(options);
-    std::vector<bench::Endured> endured;
-    if (options.cycles > 0)
-        endured = bench::endure(options.only.toStdString(), options.cycles);
-    if (results.empty() && endured.empty()) {
-        std::fprintf(stderr, "Nothing has \"%s\" in its name.\n", qUtf8Printable(options.only));
-        return 2;
-    }
-    std::printf("Each side %d times, taking turns.\n", options.repetitions);
-    return bench::report(results, endured) ? EXIT_SUCCESS : EXIT_FAILURE;
+    return options.countedRow.isEmpty() ? measureEverything(options, home.path()) : countOneSide(options);
 }

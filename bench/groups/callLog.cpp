@@ -1,5 +1,6 @@
 // A call log of a million calls beside one of a hundred: asking for a figure, and recording a call.
 #include "CallLogs.h"
+#include "Counted.h"
 #include "Groups.h"
 #include "Handset.h"
 #include "tapi.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr int few = 100;
 constexpr int many = 1'000'000;
-constexpr double hardlySlower = 1.2;
+constexpr Bar hardlySlower{1.2, 1.05};
 
 // So many that SQLite moves its write-ahead log into the database about once in a repetition, on both sides.
 constexpr int recordedCalls = 200;
@@ -65,8 +66,10 @@ void query(benchmark::State &state, const Line &line, int (*ask)())
 {
     handset::install(line.telephone);
     int failures = ask();
-    for (auto _ : state)
+    for (auto _ : state) {
+        const Counted counted;
         failures += ask();
+    }
     handset::install(nullptr);
     if (failures != 0)
         state.SkipWithError("a query failed");
@@ -77,8 +80,10 @@ void record(benchmark::State &state, const Line &line)
     int failures = 0;
     for (int i = 0; i < warmUpCalls; ++i)
         failures += recordCall(line);
-    for (auto _ : state)
+    for (auto _ : state) {
+        const Counted counted;
         failures += recordCall(line);
+    }
     if (failures != 0)
         state.SkipWithError("a call was not recorded");
 }
@@ -104,11 +109,19 @@ std::vector<Comparison> callLogComparisons(const QString &directory)
     std::vector<Comparison> comparisons;
     for (const Figure &figure : figures) {
         const auto work = [&figure](benchmark::State &state, const Line &line) { query(state, line, figure.ask); };
-        comparisons.push_back({std::string("Asking for a figure: ") + figure.name, side(logs, many, work),
-                               side(logs, few, work), hardlySlower});
+        Comparison row;
+        row.name = std::string("Asking for a figure: ") + figure.name;
+        row.ours = side(logs, many, work);
+        row.beside = {{side(logs, few, work), hardlySlower}};
+        comparisons.push_back(row);
     }
-    comparisons.push_back({"Recording a call, on the disk", side(logs, many, &record), side(logs, few, &record),
-                           hardlySlower, Clock::Wall, recordedCalls});
+    Comparison row;
+    row.name = "Recording a call, on the disk";
+    row.ours = side(logs, many, &record);
+    row.beside = {{side(logs, few, &record), hardlySlower}};
+    row.clock = Clock::Wall;
+    row.iterations = recordedCalls;
+    comparisons.push_back(row);
     return comparisons;
 }
 

@@ -1,8 +1,8 @@
-// Opening the list of currencies beside a stock list with the same texts in a dialog.
+// Opening the list of currencies beside a list view with a delegate and the same texts.
 #include "Groups.h"
+#include "ListScreen.h"
 #include "Opening.h"
 #include "PHONE_UI_RecentCallCostSetupView.h"
-#include "StockScreen.h"
 #include "ZListBox.h"
 #include "ZListItem.h"
 #include "ZSettingItem.h"
@@ -48,13 +48,12 @@ protected:
     std::unique_ptr<PHONE_UI_RecentCallCostSetupView> screen;
 };
 
-/// Opens a dialog of stock widgets with the texts of the other over the same screen.
+/// Opens a dialog of a list view with the texts of the other over the same screen.
 class HandMadeList final : public PluginList
 {
 public:
-    HandMadeList(QWidget *display, StockDialog::Rows rowSizes)
+    explicit HandMadeList(QWidget *display)
         : PluginList(display)
-        , rows(rowSizes)
     {
         PluginList::open();
         title = dialog()->header();
@@ -64,42 +63,37 @@ public:
 
     void open() override
     {
-        stock = std::make_unique<StockDialog>(title, currencies, rows, screen.get());
-        stock->show();
+        handMade = std::make_unique<ListDialog>(title, currencies, screen.get());
+        handMade->show();
     }
-    void close() override { stock.reset(); }
+    void close() override { handMade.reset(); }
     const char *fault() override
     {
-        return currencies.size() == choices ? nullptr : "it has not all the currencies";
+        const bool isWhole = currencies.size() == choices && handMade->choices() == currencies;
+        return isWhole ? nullptr : "it has not all the currencies";
     }
 
 private:
-    StockDialog::Rows rows;
     QString title;
     QStringList currencies;
-    std::unique_ptr<StockDialog> stock;
+    std::unique_ptr<ListDialog> handMade;
 };
 
-Side handMade(const char *label, StockDialog::Rows rows)
+template <typename List>
+Side side(const char *label)
 {
-    return openingSide(label, [rows](QWidget *display) { return std::make_unique<HandMadeList>(display, rows); });
+    return {label, openingSide([](QWidget *display) { return std::make_unique<List>(display); })};
 }
 
 } // namespace
 
 std::vector<Comparison> currencyListComparisons()
 {
-    constexpr double halfAsLong = 0.5;
-    const Side ours =
-        openingSide("plug-in", [](QWidget *display) { return std::make_unique<PluginList>(display); });
-    return {
-        {"Opening the currency list, to the first paint", ours,
-         handMade("stock list", StockDialog::Rows::AsTheyCome), halfAsLong},
-        {"Opening the currency list, stock rows alike",
-         ours,
-         handMade("tuned stock list", StockDialog::Rows::Alike),
-         {}},
-    };
+    Comparison row;
+    row.name = "Opening the currency list, to the first whole paint";
+    row.ours = side<PluginList>("plug-in");
+    row.beside = {{side<HandMadeList>("list view and delegate"), Bar{1.1, 0.8}}};
+    return {row};
 }
 
 } // namespace bench

@@ -1,12 +1,18 @@
-// Opening a screen beside the same texts on stock widgets.
+// Opening a screen beside the same texts in a list view with a delegate, and painted on an image.
+#include "BarePainting.h"
+#include "Counted.h"
+#include "FixedTelephone.h"
 #include "Groups.h"
+#include "ListScreen.h"
 #include "Opening.h"
 #include "ScreenTable.h"
-#include "StockScreen.h"
 
 namespace bench {
 
 namespace {
+
+constexpr Bar barBesideList{0.85, 0.7};
+constexpr Bar barBesideLimit{2.1, 1.7};
 
 class PluginScreen final : public Opening
 {
@@ -24,7 +30,7 @@ public:
     void close() override { entry.destroy(screen); }
     const char *fault() override
     {
-        return textsOn(screen) == entry.texts() ? nullptr : "it has other texts than the one of stock widgets";
+        return textsOn(screen) == entry.texts() ? nullptr : "it has other texts than what is beside it";
     }
 
 private:
@@ -43,33 +49,52 @@ public:
 
     void open() override
     {
-        screen = std::make_unique<StockScreen>(entry.texts(), display);
+        screen = std::make_unique<ListScreen>(entry.texts(), display);
         screen->show();
     }
     void close() override { screen.reset(); }
+    const char *fault() override
+    {
+        return screen->texts() == entry.texts() ? nullptr : "the list view has other texts";
+    }
 
 private:
     const ScreenEntry &entry;
     QWidget *display;
-    std::unique_ptr<StockScreen> screen;
+    std::unique_ptr<ListScreen> screen;
 };
 
 template <typename Screen>
 Side side(const char *label, const ScreenEntry &entry)
 {
-    return openingSide(label, [&entry](QWidget *display) { return std::make_unique<Screen>(entry, display); });
+    return {label, openingSide([&entry](QWidget *display) { return std::make_unique<Screen>(entry, display); })};
+}
+
+Side bareLimit(const ScreenEntry &entry)
+{
+    return {"bare limit: texts on an image", [&entry](benchmark::State &state) {
+                useFixedTelephone();
+                BarePainting painting;
+                for (auto _ : state) {
+                    const Counted counted;
+                    painting.paint(entry.texts());
+                }
+            }};
 }
 
 } // namespace
 
 std::vector<Comparison> screenComparisons()
 {
-    constexpr double noSlower = 1.0;
     std::vector<Comparison> comparisons;
-    for (const ScreenEntry &entry : screenTable())
-        comparisons.push_back({std::string("Opening ") + entry.name + ", to the first paint",
-                               side<PluginScreen>("plug-in", entry), side<HandMadeScreen>("stock widgets", entry),
-                               noSlower});
+    for (const ScreenEntry &entry : screenTable()) {
+        Comparison row;
+        row.name = std::string("Opening ") + entry.name + ", to the first whole paint";
+        row.ours = side<PluginScreen>("plug-in", entry);
+        row.beside = {{side<HandMadeScreen>("list view and delegate", entry), barBesideList},
+                      {bareLimit(entry), barBesideLimit}};
+        comparisons.push_back(row);
+    }
     return comparisons;
 }
 
