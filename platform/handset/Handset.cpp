@@ -6,6 +6,7 @@
 #include "DataCalls.h"
 #include "PacketData.h"
 #include "SimulatedBackend.h"
+#include "StateDirectory.h"
 #include "UpdateBroadcast.h"
 
 #include <QtCore/QCoreApplication>
@@ -104,6 +105,10 @@ Opened open(const Settings &settings)
         const QString error = QStringLiteral("There is no telephone named \"%1\"; those there are: %2.");
         return {nullptr, error.arg(settings.backend, backendNames().join(QStringLiteral(", "))), {}};
     }
+    // Made here for every backend: whoever opens a telephone keeps more there than a backend does.
+    if (QString error;
+        !settings.stateDirectory.isEmpty() && !calllog::StateDirectory::make(settings.stateDirectory, error))
+        return {nullptr, error, {}};
     Settings complete = settings;
     if (!complete.clock)
         complete.clock = std::make_shared<SystemClock>();

@@ -29,6 +29,7 @@ private slots:
     void anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin();
     void anUnusableStateDirectoryIsSaid();
     void aDamagedCallLogIsSaidAndKeptAside();
+    void aTelephoneThatKeepsNothingFindsItsStateDirectoryMade();
     void aSecondStartOnTheSameStateIsRefused();
     void anUnknownBackendIsSaid();
     void theTraceIsAppendedToItsFile();
@@ -200,6 +201,18 @@ void CommandLineTest::aDamagedCallLogIsSaidAndKeptAside()
     QCOMPARE(result.code, 0);
     QVERIFY2(result.errors.contains("calllog-kept-1.db"), qPrintable(result.errors));
     QCOMPARE(contents("state/calllog-kept-1.db"), QString::fromLatin1(damaged));
+}
+
+void CommandLineTest::aTelephoneThatKeepsNothingFindsItsStateDirectoryMade()
+{
+    environment.insert("LD_PRELOAD", KAV_DOUBLES "/libbarebackend.so");
+    const HostResult result = showCallTimes({"--state", path("new/state")});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY(hasMeterTrace(contents("new/state/trace.log")));
+    constexpr QFile::Permissions userAlone = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                             QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
+    for (const char *directory : {"new", "new/state"})
+        QCOMPARE(QFile::permissions(path(directory)), userAlone);
 }
 
 void CommandLineTest::aSecondStartOnTheSameStateIsRefused()

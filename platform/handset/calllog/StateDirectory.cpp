@@ -84,6 +84,16 @@ bool isWhole(const QString &path)
     return !path.contains(QChar(QChar::ReplacementCharacter)) && QFile::decodeName(encoded(path)) == path;
 }
 
+QString absolutePath(const QString &path)
+{
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
+QString unusable(const QString &path, const QString &why)
+{
+    return QStringLiteral("The state directory \"%1\" cannot be used: %2.").arg(path, why);
+}
+
 QString whoElseMayWrite(const struct stat &directory)
 {
     if (directory.st_uid != ::geteuid())
@@ -94,29 +104,35 @@ QString whoElseMayWrite(const struct stat &directory)
 
 } // namespace
 
+bool StateDirectory::make(const QString &path, QString &error)
+{
+    if (path.contains(QChar(u'\0'))) {
+        error = unusable(QString(path).replace(QChar(u'\0'), QChar(u'?')), reason(EINVAL));
+        return false;
+    }
+    const QString absolute = absolutePath(path);
+    if (!isWhole(absolute)) {
+        error = unusable(QFile::decodeName(encoded(absolute)), QStringLiteral("its name is not UTF-8"));
+        return false;
+    }
+    const int failure = makeDirectories(absolute);
+    if (failure != 0)
+        error = unusable(absolute, reason(failure));
+    return failure == 0;
+}
+
 std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QString &error)
 {
-    const QString unusable = QStringLiteral("The state directory \"%1\" cannot be used: %2.");
-    if (path.contains(QChar(u'\0'))) {
-        error = unusable.arg(QString(path).replace(QChar(u'\0'), QChar(u'?')), reason(EINVAL));
+    if (!make(path, error))
         return nullptr;
-    }
-    const QString absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
-    if (!isWhole(absolute)) {
-        error = unusable.arg(QFile::decodeName(encoded(absolute)), QStringLiteral("its name is not UTF-8"));
-        return nullptr;
-    }
-    if (const int failure = makeDirectories(absolute)) {
-        error = unusable.arg(absolute, reason(failure));
-        return nullptr;
-    }
+    const QString absolute = absolutePath(path);
     std::unique_ptr<StateDirectory> directory(new StateDirectory(absolute));
     const int failure = directory->lock();
     if (failure == 0)
         return directory;
     error = failure == EWOULDBLOCK
                 ? QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(absolute)
-                : unusable.arg(absolute, reason(failure));
+                : unusable(absolute, reason(failure));
     return nullptr;
 }
 

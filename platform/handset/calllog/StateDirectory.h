@@ -12,8 +12,10 @@ namespace handset::calllog {
 class StateDirectory
 {
 public:
-    /// Makes the directory (mode 0700) when it is missing. Null when it cannot be used; `error` then says why, in
-    /// one sentence.
+    /// Makes the directory, and every one on the way to it that is missing (mode 0700). False when it cannot be used;
+    /// `error` then says why, in one sentence.
+    static bool make(const QString &path, QString &error);
+    /// Makes the directory and locks it. Null when it cannot be used; `error` then says why, in one sentence.
     static std::unique_ptr<StateDirectory> open(const QString &path, QString &error);
     ~StateDirectory();
     StateDirectory(const StateDirectory &) = delete;
