@@ -27,14 +27,17 @@ auto ruleOf(Files &files, quint8 file) -> decltype(&files.acmRule)
 
 } // namespace
 
-SimCard::SimCard()
-    : pin(newCardPin2, newCardPuk2)
-{}
-
 SimCard::SimCard(const SimFiles &stored, const Pin2Record &storedPin)
     : content(stored)
     , pin(storedPin)
 {}
+
+Pin2 &SimCard::madePin() const
+{
+    if (!pin)
+        pin.emplace(newCardPin2, newCardPuk2);
+    return *pin;
+}
 
 // A cyclic file: the oldest record is overwritten and becomes the newest.
 void SimCard::writeAcm(quint32 units)
@@ -111,7 +114,7 @@ int SimCard::mayUpdate(quint8 file) const
     if (!rule)
         return InvalidArgument;
     const bool guarded = *rule == AdviceOfCharge::UpdateUnderPin2;
-    return *rule == AdviceOfCharge::NoUpdate || (guarded && !pin.isSatisfied()) ? NotAllowed : Success;
+    return *rule == AdviceOfCharge::NoUpdate || (guarded && !pin2().isSatisfied()) ? NotAllowed : Success;
 }
 
 QByteArray SimCard::fileBytes(quint8 file) const

@@ -35,8 +35,9 @@ public:
     static constexpr QByteArrayView newCardPin2{"1234"};
     static constexpr QByteArrayView newCardPuk2{"12345678"};
 
-    /// A new card: meters at 0, no limit, no price, every file free, PIN2 on and not entered.
-    SimCard();
+    /// A new card: meters at 0, no limit, no price, every file free, PIN2 on and not entered. What is kept of its codes
+    /// takes some milliseconds to make, and is made when it is asked for.
+    SimCard() = default;
     /// A card as it was stored, just switched on.
     SimCard(const SimFiles &stored, const Pin2Record &storedPin);
 
@@ -70,18 +71,19 @@ public:
     /// A file's bytes, for display; EF_ACM's records newest first. Empty for a number that is no file.
     QByteArray fileBytes(quint8 file) const;
 
-    Pin2 &pin2() { return pin; }
-    const Pin2 &pin2() const { return pin; }
+    Pin2 &pin2() { return madePin(); }
+    const Pin2 &pin2() const { return madePin(); }
     /// PIN2 has to be entered again. Tries and files stay.
-    void powerOff() { pin.powerOff(); }
+    void powerOff() { madePin().powerOff(); }
 
     const SimFiles &files() const { return content; }
 
 private:
     void writeAcm(quint32 units);
+    Pin2 &madePin() const;
 
     SimFiles content;
-    Pin2 pin;
+    mutable std::optional<Pin2> pin; ///< nothing: still that of a new card
 };
 
 } // namespace handset::sim
