@@ -191,6 +191,14 @@ QString Line::describeState() const
     return parts.join(QStringLiteral(", "));
 }
 
+QString Line::recordNotice() const
+{
+    if (!simulated || !simulated->owesRecord())
+        return {};
+    return tr("The call log cannot be written. The end of a call or a packet-data session is kept in memory, and "
+              "written as soon as it can be.");
+}
+
 QString Line::chargeNotice() const
 {
     if (!simulated)

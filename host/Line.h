@@ -50,6 +50,8 @@ public:
     QString describeState() const;
     /// That the end of what may be charged is near, or that the telephone has ended the last call for it; else empty.
     QString chargeNotice() const;
+    /// That the end of a call or a session is not in the call log yet; else empty.
+    QString recordNotice() const;
     /// Why the last operation failed; empty when it did not.
     QString failure() const { return lastFailure; }
 

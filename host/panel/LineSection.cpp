@@ -38,6 +38,7 @@ LineSection::LineSection(Line &drivenLine)
     , line(drivenLine)
     , state(new QLabel)
     , notice(new QLabel)
+    , record(new QLabel)
     , failure(new QLabel)
     , number(new QLineEdit(drivenLine.number()))
 {
@@ -57,6 +58,11 @@ LineSection::LineSection(Line &drivenLine)
     notice->setFont(bold);
     notice->setWordWrap(true);
     column->addWidget(notice);
+    record->setObjectName(QStringLiteral("record notice"));
+    record->setAccessibleName(tr("What is not in the call log yet"));
+    record->setFont(bold);
+    record->setWordWrap(true);
+    column->addWidget(record);
     failure->setWordWrap(true);
     failure->setObjectName(QStringLiteral("line failure"));
     column->addWidget(failure);
@@ -100,6 +106,8 @@ void LineSection::refresh()
     state->setText(line.describeState());
     notice->setText(line.chargeNotice());
     notice->setVisible(!line.chargeNotice().isEmpty());
+    record->setText(line.recordNotice());
+    record->setVisible(!line.recordNotice().isEmpty());
     failure->setText(line.failure());
     failure->setVisible(!line.failure().isEmpty());
     for (std::size_t index = 0; index < buttonPlans.size(); ++index)

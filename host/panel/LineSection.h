@@ -28,6 +28,7 @@ private:
     Line &line;
     QLabel *state;
     QLabel *notice;
+    QLabel *record;
     QLabel *failure;
     QLineEdit *number;
     std::array<QPushButton *, 6> buttons{};

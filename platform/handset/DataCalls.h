@@ -15,7 +15,7 @@ public:
     enum CallStatus : quint8 {
         Idle = 0,      ///< no data call
         SettingUp = 1, ///< one is being set up
-        Released = 2,  ///< the last one has ended and its figures are written
+        Released = 2,  ///< the last one has ended and its figures are final
         Connected = 3  ///< one is connected
     };
 

@@ -5,6 +5,7 @@
 #include "CallService.h"
 #include "Clock.h"
 #include "DataCalls.h"
+#include "FullDisk.h"
 #include "Handset.h"
 #include "PacketData.h"
 #include "PhoneWindow.h"
@@ -21,6 +22,7 @@
 #include "phone/PhoneKey.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTranslator>
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -166,6 +168,7 @@ private slots:
     void theEndOfTheCreditLimitIsAnnouncedAndTold();
     void theEndOfTheCreditIsAnnouncedAndTold();
     void aCallThatMayNotBeginIsExplained();
+    void anEndThatCannotBeWrittenIsToldUntilItIs();
     void theFilesOfTheSimAreShownLive();
     void anUpdateRuleIsSetAndShown_data();
     void anUpdateRuleIsSetAndShown();
@@ -201,6 +204,7 @@ private slots:
     void aCatalogueTranslatesAllThatThePanelSays();
     void aCatalogueTranslatesWhatIsRefused();
     void aCatalogueTranslatesTheLineAndTheEndOfCharging();
+    void aCatalogueTranslatesThatAnEndIsNotWritten();
     void aCatalogueTranslatesTheNamesOfTheKeys();
     void anotherTelephoneThanTheSimulatedHasNothingToSet();
 
@@ -208,6 +212,7 @@ private:
     QStringList texts() const;
     QString untranslated() const;
     void openWindow(const std::shared_ptr<handset::Handset> &telephone);
+    void openTelephoneIn(const QString &stateDirectory);
     static void expectSizeHintWarning();
     template <typename Control>
     Control *control(const char *name) const
@@ -251,7 +256,12 @@ void PanelTest::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     clock = std::make_shared<handset::ManualClock>(1000000);
-    const handset::Opened opened = handset::open({"simulated", {}, clock});
+    openTelephoneIn({});
+}
+
+void PanelTest::openTelephoneIn(const QString &stateDirectory)
+{
+    const handset::Opened opened = handset::open({"simulated", stateDirectory, clock});
     QVERIFY2(opened.handset, qPrintable(opened.error));
     owner = opened.handset;
     telephone = dynamic_cast<SimulatedTelephone *>(owner.get());
@@ -616,6 +626,29 @@ void PanelTest::aCallThatMayNotBeginIsExplained()
 }
 
 // --- the SIM card
+
+void PanelTest::anEndThatCannotBeWrittenIsToldUntilItIs()
+{
+    const QTemporaryDir state;
+    openTelephoneIn(state.filePath(QStringLiteral("state")));
+    connectCall();
+    QVERIFY(!control<QLabel>("record notice")->isVisible());
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^The call log failed: ")));
+        click("Hang up");
+        QCOMPARE(label("line state"), "Idle");
+        QVERIFY(!control<QLabel>("line failure")->isVisible());
+        QVERIFY(control<QLabel>("record notice")->isVisible());
+        QCOMPARE(label("record notice"),
+                 "The call log cannot be written. The end of a call or a packet-data session"
+                 " is kept in memory, and written as soon as it can be.");
+        showTab("Data");
+        QVERIFY(control<QLabel>("record notice")->isVisible());
+    }
+    QCOMPARE(telephone->checkpoint(), 0);
+    QVERIFY(!control<QLabel>("record notice")->isVisible());
+}
 
 void PanelTest::theFilesOfTheSimAreShownLive()
 {
@@ -1224,6 +1257,21 @@ void PanelTest::aCatalogueTranslatesTheLineAndTheEndOfCharging()
     QTRY_VERIFY(isSaid("charge notice", "The credit is used up in"));
     clock->advance(29000);
     QTRY_VERIFY(isSaid("charge notice", "has ended the call: the credit is used up"));
+}
+
+void PanelTest::aCatalogueTranslatesThatAnEndIsNotWritten()
+{
+    const MarkingCatalogue catalogue;
+    const QTemporaryDir state;
+    openTelephoneIn(state.filePath(QStringLiteral("state")));
+    QCOMPARE(telephone->ring({}), 0);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^The call log failed: ")));
+        QCOMPARE(telephone->hangUp(), 0);
+    }
+    QVERIFY(label("record notice").contains(QStringLiteral("cannot be written")));
+    QCOMPARE(untranslated(), QString());
 }
 
 void PanelTest::aCatalogueTranslatesTheNamesOfTheKeys()

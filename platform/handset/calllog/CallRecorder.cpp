@@ -7,6 +7,20 @@
 
 namespace handset::calllog {
 
+namespace {
+
+bool countsIn(Counter counter, Counter own)
+{
+    return counter == Counter::Last || counter == Counter::All || counter == Counter::Lifetime || counter == own;
+}
+
+bool countsIn(CostCounter counter, Counter own)
+{
+    return counter == CostCounter::Last || counter == ownCostCounter(own);
+}
+
+} // namespace
+
 CallRecorder::CallRecorder(std::unique_ptr<CallStore> callStore, std::shared_ptr<Clock> clocks,
                            CallCharges *callCharges)
     : store(std::move(callStore))
@@ -18,6 +32,8 @@ CallRecorder::~CallRecorder()
 {
     if (running)
         callEnded();
+    else
+        writeOwed();
 }
 
 // Time is added reading by reading, so that a clock that goes back takes nothing away that was already reported. The
@@ -38,23 +54,28 @@ Charge CallRecorder::due() const
     return charges ? charges->due(saturatingSum(running->writtenMs, running->unwritten.ms)) : Charge{};
 }
 
-void CallRecorder::timeIsWritten()
+// In the order of the calls. What has been written is no longer owed, whatever becomes of the rest.
+int CallRecorder::writeOwed()
 {
-    running->writtenMs = saturatingSum(running->writtenMs, running->unwritten.ms);
-    running->unwritten.ms = 0;
-}
-
-void CallRecorder::written(const Charge &charge)
-{
-    timeIsWritten();
-    if (charges)
-        charges->written(charge);
+    if (owed) {
+        if (const int status = store->finishCall(owed->time, owed->charge))
+            return status;
+        owed.reset();
+    }
+    if (!owedUnconnected.isEmpty()) {
+        if (const int status = store->addUnconnected(owedUnconnected))
+            return status;
+        owedUnconnected.clear();
+    }
+    return Success;
 }
 
 int CallRecorder::callConnected(const PastCall &call)
 {
     if (running)
         return WrongState;
+    if (const int status = writeOwed())
+        return status;
     RunningCall begun;
     const int status = store->beginCall(call, begun.unwritten.call);
     if (status != Success)
@@ -70,18 +91,17 @@ int CallRecorder::callEnded()
     if (!running)
         return WrongState;
     readClock();
-    const Charge charge = due();
-    const int status = store->finishCall(running->unwritten, charge);
-    if (status != Success)
-        return status;
-    written(charge);
+    owed = OwedEnd{running->unwritten, due()};
+    if (charges)
+        charges->charged(owed->charge);
     running.reset();
-    return Success;
+    return writeOwed();
 }
 
 int CallRecorder::callNotConnected(const PastCall &call)
 {
-    return store->addUnconnected(call);
+    owedUnconnected.append(call);
+    return writeOwed();
 }
 
 int CallRecorder::addHistory(const QList<PastCall> &calls, const KeptValues &values)
@@ -91,14 +111,19 @@ int CallRecorder::addHistory(const QList<PastCall> &calls, const KeptValues &val
 
 int CallRecorder::checkpoint()
 {
+    if (const int status = writeOwed())
+        return status;
     if (!running)
         return Success;
     readClock();
     const Charge charge = due();
-    const int status = store->countTime(running->unwritten, charge);
-    if (status == Success)
-        written(charge);
-    return status;
+    if (const int status = store->countTime(running->unwritten, charge))
+        return status;
+    running->writtenMs = saturatingSum(running->writtenMs, running->unwritten.ms);
+    running->unwritten.ms = 0;
+    if (charges)
+        charges->charged(charge);
+    return Success;
 }
 
 qint64 CallRecorder::connectedMs() const
@@ -117,9 +142,8 @@ int CallRecorder::figure(Counter counter, qint64 &ms) const
         return status;
     if (running)
         readClock();
-    const bool counts = running && (counter == Counter::Last || counter == Counter::All ||
-                                    counter == Counter::Lifetime || counter == running->unwritten.own);
-    ms = counts ? saturatingSum(stored, running->unwritten.ms) : stored;
+    const UnwrittenTime *const unwritten = running ? &running->unwritten : owed ? &owed->time : nullptr;
+    ms = unwritten && countsIn(counter, unwritten->own) ? saturatingSum(stored, unwritten->ms) : stored;
     return Success;
 }
 
@@ -130,20 +154,19 @@ std::optional<CostCounter> CallRecorder::runningCostCounter() const
 
 int CallRecorder::cost(CostCounter counter, qint64 &units) const
 {
-    return store->cost(counter, units);
+    qint64 stored = 0;
+    if (const int status = store->cost(counter, stored))
+        return status;
+    units = owed && countsIn(counter, owed->time.own) ? saturatingSum(stored, owed->charge.units) : stored;
+    return Success;
 }
 
 int CallRecorder::reset(std::initializer_list<Counter> times, std::initializer_list<CostCounter> costs,
                         const KeptValues &values)
 {
-    if (running)
-        readClock();
-    const ResetPlan plan{{times.begin(), times.size()}, {costs.begin(), costs.size()}, values};
-    const int status = store->reset(plan, running ? &running->unwritten : nullptr);
+    const int status = store->reset({{times.begin(), times.size()}, {costs.begin(), costs.size()}, values});
     if (status != Success)
         return status;
-    if (running)
-        timeIsWritten();
     if (onChange)
         onChange();
     return Success;

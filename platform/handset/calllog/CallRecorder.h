@@ -15,6 +15,9 @@ namespace handset::calllog {
 
 /// One call at a time. Operations answer a number of handset/Status.h; a failed one has changed nothing. The end of
 /// the recorder ends the connected call.
+///
+/// A call can always be ended: an end that cannot be written is kept here, counts in every figure, and is written with
+/// the next operation that writes. Until then each of these fails, checkpoint() and callConnected() among them.
 class CallRecorder
 {
 public:
@@ -29,12 +32,16 @@ public:
 
     /// The call has been connected now; WrongState while another one is. Only one that answers Success is counted.
     int callConnected(const PastCall &call);
-    /// The connected call has ended now; WrongState without one.
+    /// The connected call has ended now; WrongState without one. It is over whatever else this answers: StorageFailed
+    /// is one that is kept, see above.
     int callEnded();
-    /// A call has ended that was never connected.
+    /// A call has ended that was never connected. StorageFailed as above.
     int callNotConnected(const PastCall &call);
+    /// Whether the end of a call is kept that could not be written yet.
+    bool owesEnd() const { return owed || !owedUnconnected.isEmpty(); }
     int addHistory(const QList<PastCall> &calls, const KeptValues &kept = {});
-    /// Writes the time that the connected call has lasted so far, and what it costs; success without one.
+    /// Writes what is owed, and the time that the connected call has lasted so far with what it costs; success with
+    /// none of them.
     int checkpoint();
 
     bool isConnected() const { return running.has_value(); }
@@ -46,10 +53,10 @@ public:
     int figure(Counter counter, qint64 &ms) const;
     /// What the connected call's cost adds to beside the last call's; nothing for a data call, and without one.
     std::optional<CostCounter> runningCostCounter() const;
-    /// Units, as written.
+    /// Units, as charged.
     int cost(CostCounter counter, qint64 &units) const;
-    /// Zeroes the counters and keeps the values; of a running call only the time from now on counts. A charge that is
-    /// due is left due: checkpoint() first where it is to count before the reset.
+    /// Zeroes the counters and keeps the values. Of a running call what follows its last checkpoint() goes on to count:
+    /// that comes first, so that its time and its charge are written together.
     int reset(std::initializer_list<Counter> times, std::initializer_list<CostCounter> costs = {},
               const KeptValues &kept = {});
     /// As CallStore::keep(), CallStore::kept().
@@ -73,15 +80,22 @@ private:
         qint64 lastReading = 0; ///< of the monotonic clock
     };
 
+    /// The end of a connected call that is not in the database yet.
+    struct OwedEnd {
+        UnwrittenTime time;
+        Charge charge;
+    };
+
     void readClock() const;
     Charge due() const;
-    void timeIsWritten();
-    void written(const Charge &charge);
+    int writeOwed();
 
     std::unique_ptr<CallStore> store;
     std::shared_ptr<Clock> clock;
     CallCharges *charges;
     mutable std::optional<RunningCall> running; ///< a query reads the clock, too
+    std::optional<OwedEnd> owed;                ///< there is no running call then
+    QList<PastCall> owedUnconnected;
     DataCalls::CallStatus dataStatus = DataCalls::Idle;
     std::function<void()> onChange;
 };

@@ -194,12 +194,15 @@ int CallStore::finishCall(const UnwrittenTime &time, const Charge &charge)
     return status(database->inTransaction([&] { return addTime(time, charge, CallState::Finished); }));
 }
 
-int CallStore::addUnconnected(const PastCall &call)
+int CallStore::addUnconnected(const QList<PastCall> &calls)
 {
-    PastCall row = call;
-    row.durationMs = 0;
-    row.units = 0;
-    return addHistory({row}, false);
+    return status(database->inTransaction([&] {
+        return std::all_of(calls.begin(), calls.end(), [this](PastCall row) {
+            row.durationMs = 0;
+            row.units = 0;
+            return insertRow(row, CallState::NotConnected);
+        });
+    }));
 }
 
 int CallStore::addHistory(const QList<PastCall> &calls, bool setLast, const KeptValues &values)
@@ -247,11 +250,9 @@ int CallStore::cost(CostCounter counter, qint64 &units)
     return status(found);
 }
 
-int CallStore::reset(const ResetPlan &plan, const UnwrittenTime *running)
+int CallStore::reset(const ResetPlan &plan)
 {
     return status(database->inTransaction([&] {
-        if (running && !addTime(*running, {}, CallState::Running))
-            return false;
         for (const Counter counter : plan.times)
             if (!putTotal(counter, 0))
                 return false;

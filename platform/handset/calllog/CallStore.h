@@ -49,8 +49,8 @@ public:
     int countTime(const UnwrittenTime &time, const Charge &charge);
     /// The same, and the call is over.
     int finishCall(const UnwrittenTime &time, const Charge &charge);
-    /// Adds the row of a call that was never connected. `call.durationMs` and `call.units` are not used.
-    int addUnconnected(const PastCall &call);
+    /// Adds the rows of calls that were never connected. Their durations and units are not used.
+    int addUnconnected(const QList<PastCall> &calls);
     /// Adds calls that are over, in their order, and counts them. The last connected one becomes the last call when
     /// `setLast`.
     int addHistory(const QList<PastCall> &calls, bool setLast, const KeptValues &kept = {});
@@ -59,8 +59,7 @@ public:
     int total(Counter counter, qint64 &ms);
     /// Units, 0 or more.
     int cost(CostCounter counter, qint64 &units);
-    /// Counts the time of the running call (null for none), then does what `plan` says.
-    int reset(const ResetPlan &plan, const UnwrittenTime *running);
+    int reset(const ResetPlan &plan);
 
     /// Keeps values in place of those of the same names.
     int keep(const KeptValues &values);

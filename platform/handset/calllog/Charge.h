@@ -81,10 +81,10 @@ public:
 
     /// The connected time at which the call is over whatever anyone does, in ms; nothing when there is no such end.
     virtual std::optional<qint64> longestMs() const = 0;
-    /// What is due after `connectedMs` and has not been written yet.
+    /// What is due after `connectedMs` and has not been charged yet.
     virtual Charge due(qint64 connectedMs) const = 0;
-    /// It is written now.
-    virtual void written(const Charge &charge) = 0;
+    /// It is charged now: it is written, or is with the call's end as soon as that can be written.
+    virtual void charged(const Charge &charge) = 0;
 };
 
 } // namespace handset::calllog

@@ -7,6 +7,12 @@
 
 namespace handset::calllog {
 
+int Figures::reset(Counter counter)
+{
+    const int status = recorder.checkpoint();
+    return status == Success ? recorder.reset({counter}) : status;
+}
+
 int Figures::seconds(Counter counter, quint64 &value) const
 {
     qint64 ms = 0;
@@ -47,12 +53,12 @@ int Figures::lifetimeCallsTime(CallTime &value)
 
 int Figures::resetDialedCallsTime()
 {
-    return recorder.reset({Counter::Dialed});
+    return reset(Counter::Dialed);
 }
 
 int Figures::resetAnsweredCallsTime()
 {
-    return recorder.reset({Counter::Answered});
+    return reset(Counter::Answered);
 }
 
 int Figures::totalCallTime(CallTime &value)
@@ -62,12 +68,12 @@ int Figures::totalCallTime(CallTime &value)
 
 int Figures::resetCallTime()
 {
-    return recorder.reset({Counter::All});
+    return reset(Counter::All);
 }
 
 int Figures::refreshTotals()
 {
-    return recorder.checkpoint();
+    return recorder.isConnected() ? recorder.checkpoint() : Success;
 }
 
 int Figures::totalDuration(quint32 &value)
@@ -87,7 +93,7 @@ int Figures::callStatus(quint8 &value)
 
 int Figures::resetTotalDuration()
 {
-    return recorder.reset({Counter::Data});
+    return reset(Counter::Data);
 }
 
 } // namespace handset::calllog

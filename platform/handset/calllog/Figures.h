@@ -34,6 +34,7 @@ public:
     int resetTotalDuration() override;
 
 private:
+    int reset(Counter counter);
     int seconds(Counter counter, quint64 &value) const;
     int time(Counter counter, CallTime &value) const;
 

@@ -101,7 +101,7 @@ calllog::Charge ChargeMeter::due(qint64 connectedMs) const
     return {units, keptValues(next)};
 }
 
-void ChargeMeter::written(const calllog::Charge &charge)
+void ChargeMeter::charged(const calllog::Charge &charge)
 {
     const auto units = static_cast<quint32>(charge.units);
     kept.charge(units);

@@ -31,14 +31,14 @@ public:
     void begin(const sim::Tariff &tariff) { running = Running{tariff, 0}; }
     void end() { running.reset(); }
 
-    /// Of the connected call after so much time, beyond what is written: 0 without one.
+    /// Of the connected call after so much time, beyond what is charged: 0 without one.
     quint32 dueUnits(qint64 connectedMs) const;
-    /// Of the connected call, as far as it is written.
+    /// Of the connected call, so far.
     quint32 chargedUnits() const { return running ? running->charged : 0; }
 
     std::optional<qint64> longestMs() const override;
     calllog::Charge due(qint64 connectedMs) const override;
-    void written(const calllog::Charge &charge) override;
+    void charged(const calllog::Charge &charge) override;
 
 private:
     struct Running {

@@ -19,7 +19,8 @@ public:
     /// Begins a session with access point name `apn` (Latin-1, 1 to longestApn characters, no NUL; else
     /// InvalidArgument). It counts the given bytes each second, each way. WrongState while one runs.
     virtual int startSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond) = 0;
-    /// Ends it; it is in the call log when this returns 0. WrongState without one.
+    /// Ends it, also where the call log cannot be written: then that is owed to it (SimulatedTelephone::owesRecord()).
+    /// WrongState without one.
     virtual int stopSession() = 0;
 
     virtual bool isSessionRunning() const = 0;

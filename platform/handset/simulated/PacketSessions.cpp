@@ -69,6 +69,8 @@ PacketSessions::~PacketSessions()
 {
     if (running)
         end();
+    else
+        writeOwed();
 }
 
 // Time is added reading by reading, so that a clock that goes back takes nothing away that was already reported.
@@ -79,12 +81,12 @@ void PacketSessions::readClock()
     running->lastReading = now;
 }
 
-SessionAmounts PacketSessions::upToNow(const SessionAmounts &stored)
+std::optional<calllog::UnwrittenAmounts> PacketSessions::unwritten()
 {
     if (!running)
-        return stored;
+        return owed;
     readClock();
-    return sum(stored, running->unwritten().amounts);
+    return running->unwritten();
 }
 
 int PacketSessions::sessions(DataSessions &sessions)
@@ -93,9 +95,10 @@ int PacketSessions::sessions(DataSessions &sessions)
     QList<StoredSession> recent;
     if (const int status = store.recent(static_cast<int>(told.records.size()), recent))
         return status;
+    const auto more = unwritten();
     for (StoredSession &session : recent) {
-        if (running && session.id == running->id)
-            session.amounts = upToNow(session.amounts);
+        if (more && session.id == more->session)
+            session.amounts = sum(session.amounts, more->amounts);
         told.records[told.count++] = toRecord(session);
     }
     sessions = told;
@@ -107,7 +110,8 @@ int PacketSessions::totals(SessionAmounts &amounts)
     SessionAmounts stored;
     if (const int status = store.totals(stored))
         return status;
-    amounts = upToNow(stored);
+    const auto more = unwritten();
+    amounts = more ? sum(stored, more->amounts) : stored;
     return Success;
 }
 
@@ -133,10 +137,10 @@ int PacketSessions::totalBytes(quint32 &total, quint32 &received, quint32 &sent)
 
 int PacketSessions::reset(std::initializer_list<SessionCounter> counters)
 {
-    if (running)
-        readClock();
-    const auto unwritten = running ? std::optional(running->unwritten()) : std::nullopt;
-    if (const int status = store.reset(counters, unwritten ? &*unwritten : nullptr))
+    if (const int status = writeOwed())
+        return status;
+    const auto more = unwritten();
+    if (const int status = store.reset(counters, more ? &*more : nullptr))
         return status;
     if (running)
         running->written = running->amounts();
@@ -160,6 +164,8 @@ int PacketSessions::startSession(const QByteArray &apn, quint32 sentPerSecond, q
         return InvalidArgument;
     if (running)
         return WrongState;
+    if (const int status = writeOwed())
+        return status;
     RunningSession begun;
     if (const int status = store.begin(apn, clock->wallMs(), begun.id))
         return status;
@@ -172,28 +178,36 @@ int PacketSessions::startSession(const QByteArray &apn, quint32 sentPerSecond, q
     return Success;
 }
 
-int PacketSessions::end()
+// The session is over at once, whether its end can be written now or not.
+void PacketSessions::end()
 {
-    readClock();
-    if (const int status = store.finish(running->unwritten()))
-        return status;
+    owed = unwritten();
     running.reset();
+    writeOwed();
     tellUpdate();
-    return Success;
+}
+
+int PacketSessions::writeOwed()
+{
+    const int status = owed ? store.finish(*owed) : int{Success};
+    if (status == Success)
+        owed.reset();
+    return status;
 }
 
 int PacketSessions::stopSession()
 {
     if (!running)
         return WrongState;
-    const int status = end();
-    if (status == Success)
-        tellChange();
-    return status;
+    end();
+    tellChange();
+    return Success;
 }
 
 int PacketSessions::checkpoint()
 {
+    if (const int status = writeOwed())
+        return status;
     if (!running)
         return Success;
     readClock();

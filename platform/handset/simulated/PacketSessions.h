@@ -38,8 +38,10 @@ public:
     int stopSession() override;
     bool isSessionRunning() const override { return running.has_value(); }
 
-    /// Writes what the running session has counted so far; success without one.
+    /// Writes what is owed and what the running session has counted so far; success with neither.
     int checkpoint();
+    /// Whether the end of a session is kept that could not be written yet. It counts in every figure.
+    bool owesEnd() const { return owed.has_value(); }
     /// Tells the update listener when the running session has gone on for a second since it was told last.
     void tick();
 
@@ -61,17 +63,19 @@ private:
     };
 
     void readClock();
-    /// What is written, and what is not yet.
-    calllog::SessionAmounts upToNow(const calllog::SessionAmounts &stored);
+    /// What the running session, or one that is over, has come to beyond what is written.
+    std::optional<calllog::UnwrittenAmounts> unwritten();
     int totals(calllog::SessionAmounts &amounts);
     int reset(std::initializer_list<calllog::SessionCounter> counters);
-    int end();
+    void end();
+    int writeOwed();
     void tellUpdate() const;
     void tellChange() const;
 
     calllog::SessionStore store;
     std::shared_ptr<Clock> clock;
     std::optional<RunningSession> running;
+    std::optional<calllog::UnwrittenAmounts> owed; ///< by a session that is over; there is no running one then
     std::function<void()> onUpdate;
     std::function<void()> onChange;
 };

@@ -63,10 +63,7 @@ SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, st
     , packetSessions(recorder.connection(), clock)
 {
     recorder.setChangeListener([this] { figuresChanged(); });
-    packetSessions.setChangeListener([this] {
-        runTimer();
-        emit changed();
-    });
+    packetSessions.setChangeListener([this] { tellChange(); });
     timer.setInterval(tickMs);
     timer.setTimerType(Qt::PreciseTimer);
     connect(&timer, &QTimer::timeout, this, &SimulatedHandset::tick);
@@ -82,6 +79,7 @@ int SimulatedHandset::begin(LineState begun, const PastCall &begunCall)
 {
     if (state != LineState::Idle)
         return WrongState;
+    recorder.checkpoint(); // what is owed
     if (begunCall.direction == CallDirection::Dialed && !charges.permits(tariffOf(begunCall)))
         return NotAllowed;
     charges.callBegins();
@@ -89,7 +87,7 @@ int SimulatedHandset::begin(LineState begun, const PastCall &begunCall)
     call.startWallMs = clock->wallMs();
     state = begun;
     setDataCallStatus(DataCalls::SettingUp);
-    emit changed();
+    tellChange();
     return Success;
 }
 
@@ -122,8 +120,7 @@ int SimulatedHandset::connectCall(LineState from)
     meter.begin(tariff);
     state = LineState::Connected;
     setDataCallStatus(DataCalls::Connected);
-    runTimer();
-    emit changed();
+    tellChange();
     return Success;
 }
 
@@ -137,27 +134,24 @@ int SimulatedHandset::answer()
     return connectCall(LineState::Ringing);
 }
 
+// The line is idle at once, whether the end can be written now or not.
 int SimulatedHandset::endCall()
 {
     const int status = state == LineState::Connected ? recorder.callEnded() : recorder.callNotConnected(call);
-    if (status != Success)
-        return status;
     meter.end();
     setDataCallStatus(DataCalls::Released);
     state = LineState::Idle;
     call = {};
-    runTimer();
-    return Success;
+    return status;
 }
 
 int SimulatedHandset::hangUp()
 {
     if (state == LineState::Idle)
         return WrongState;
-    const int status = endCall();
-    if (status == Success)
-        emit changed();
-    return status;
+    endCall();
+    tellChange();
+    return Success;
 }
 
 int SimulatedHandset::addHistory(const QList<PastCall> &calls)
@@ -183,15 +177,19 @@ int SimulatedHandset::checkpoint()
 {
     ticksToCheckpoint = ticksPerCheckpoint;
     const int ofSession = packetSessions.checkpoint();
-    int ofCall = recorder.checkpoint();
-    if (ofCall == Success)
-        ofCall = endCallWhoseTimeIsUp();
+    const int ofCall = isTimeUp() ? stopCall() : recorder.checkpoint();
+    tellWhatIsOwed();
     return ofCall == Success ? ofSession : ofCall;
+}
+
+bool SimulatedHandset::owesRecord() const
+{
+    return recorder.owesEnd() || packetSessions.owesEnd();
 }
 
 void SimulatedHandset::runTimer()
 {
-    if (state != LineState::Connected && !packetSessions.isSessionRunning()) {
+    if (state != LineState::Connected && !packetSessions.isSessionRunning() && !owesRecord()) {
         timer.stop();
     } else if (!timer.isActive()) {
         ticksToCheckpoint = ticksPerCheckpoint;
@@ -199,14 +197,15 @@ void SimulatedHandset::runTimer()
     }
 }
 
-// Every unit is on the disk within a second of falling due, and the time every few seconds.
+// Every unit is on the disk within a second of falling due, and the time, and what is owed, every few seconds.
 void SimulatedHandset::tick()
 {
     const bool unitIsDue = meter.dueUnits(recorder.connectedMs()) > 0;
-    const bool isTimeToWrite = --ticksToCheckpoint <= 0 || unitIsDue || charges.isTimeUp();
+    const bool isTimeToWrite = --ticksToCheckpoint <= 0 || unitIsDue || isTimeUp();
     if (isTimeToWrite && checkpoint() == Success && unitIsDue)
-        emit changed();
+        tellChange();
     packetSessions.tick();
+    tellWhatIsOwed();
     // A full second from now: a tick that came late would otherwise be followed by one that comes too early for the
     // update listener.
     if (timer.isActive())
@@ -216,20 +215,37 @@ void SimulatedHandset::tick()
 // A setting, too, can be what ends a call: a lower limit.
 void SimulatedHandset::figuresChanged()
 {
-    endCallWhoseTimeIsUp();
+    if (isTimeUp())
+        stopCall();
+    else
+        tellChange();
+}
+
+void SimulatedHandset::tellChange()
+{
+    runTimer();
+    toldOwing = owesRecord();
     emit changed();
 }
 
-int SimulatedHandset::endCallWhoseTimeIsUp()
+void SimulatedHandset::tellWhatIsOwed()
 {
-    if (state != LineState::Connected || !charges.isTimeUp())
-        return Success;
+    if (owesRecord() != toldOwing)
+        tellChange();
+}
+
+bool SimulatedHandset::isTimeUp() const
+{
+    return state == LineState::Connected && charges.isTimeUp();
+}
+
+// The network ends the call by itself.
+int SimulatedHandset::stopCall()
+{
     const int status = endCall();
-    if (status != Success)
-        return status;
     charges.callStopped();
-    emit changed();
-    return Success;
+    tellChange();
+    return status;
 }
 
 sim::Tariff SimulatedHandset::tariffOf(const PastCall &of) const

@@ -35,6 +35,7 @@ public:
     int hangUp() override;
     int addHistory(const QList<PastCall> &calls) override;
     int checkpoint() override;
+    bool owesRecord() const override;
 
     LineState lineState() const override { return state; }
     CallKind callKind() const override { return call.kind; }
@@ -52,8 +53,11 @@ private:
     sim::Tariff tariffOf(const PastCall &of) const;
     void tick();
     void figuresChanged();
+    void tellChange();
+    void tellWhatIsOwed();
     void runTimer();
-    int endCallWhoseTimeIsUp();
+    bool isTimeUp() const;
+    int stopCall();
     int begin(LineState begun, const PastCall &begunCall);
     int connectCall(LineState from);
     int endCall();
@@ -66,8 +70,9 @@ private:
     Charging charges;
     SimAccess sim;
     PacketSessions packetSessions;
-    QTimer timer{this}; ///< runs while a call is connected or a session runs
+    QTimer timer{this}; ///< runs while a call is connected, a session runs, or something is owed
     int ticksToCheckpoint = 0;
+    bool toldOwing = false; ///< with the last changed()
     LineState state = LineState::Idle;
     PastCall call; ///< on the line
 };

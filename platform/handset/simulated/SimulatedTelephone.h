@@ -25,6 +25,8 @@ using handset::PastCall;
 /// that fails has changed nothing. The end of the telephone ends the call on the line and the packet-data session;
 /// neither knows of the other.
 ///
+/// A call and a session can always be ended. An end that cannot be written is owed to the call log: owesRecord().
+///
 /// A connected call is charged as it goes on. Where nothing more may be charged (ChargingControl::unitsLeft() is 0)
 /// the telephone ends a charged call and lets no other begin. Calls to emergencyNumbers cost nothing and always go
 /// on.
@@ -55,7 +57,8 @@ public:
     virtual int ring(const QString &number) = 0;
     /// Ringing -> Connected: we answer.
     virtual int answer() = 0;
-    /// Dialing, Ringing or Connected -> Idle. The call is in the log when this returns 0.
+    /// Dialing, Ringing or Connected -> Idle, also where the call log cannot be written. The call is in the log when
+    /// this returns 0 and nothing is owed.
     virtual int hangUp() = 0;
     /// Adds calls that are over to the log, in one transaction, counted and charged as if they had been made in their
     /// order, also where nothing more might be charged. The last connected one becomes the last call, unless a call
@@ -63,9 +66,14 @@ public:
     /// could not have been dialed or shown, and for what is no CallKind or CallDirection.
     virtual int addHistory(const QList<PastCall> &calls) = 0;
     /// Writes the time that the connected call has lasted so far and what it has cost, and what the running
-    /// packet-data session has counted, so that a crash loses no more than what follows; ends a call whose time is up.
-    /// The telephone does this by itself every few seconds, and whenever a unit is due; success with neither.
+    /// packet-data session has counted, so that a crash loses no more than what follows, and what is owed; ends a call
+    /// whose time is up. The telephone does this by itself every few seconds, and whenever a unit is due; success with
+    /// none of them.
     virtual int checkpoint() = 0;
+    /// Whether the end of a call or a packet-data session could not be written to the call log yet. It is kept in
+    /// memory, counts in every figure, and is written with the next operation that writes. Until then those that write
+    /// answer StorageFailed: a call can be dialed and can ring, but is not connected, and no session begins.
+    virtual bool owesRecord() const = 0;
 
     virtual LineState lineState() const = 0;
     virtual CallKind callKind() const = 0;  ///< of the call on the line; Voice when idle
@@ -78,7 +86,7 @@ public:
     virtual PacketControl &packets() = 0;
 
 signals:
-    /// The line state, or a figure that a query answers, has changed.
+    /// The line state, a figure that a query answers, or owesRecord() has changed.
     void changed();
 };
 

@@ -132,6 +132,8 @@ private slots:
     void everythingIsKeptOverARestart();
     void unitsAreOnTheDiskWithinASecond();
     void aFailedWriteLeavesUnitsDue();
+    void aCrashAfterAResetOfATimeChargesTheWholeCall_data();
+    void aCrashAfterAResetOfATimeChargesTheWholeCall();
     void aFailedWriteChangesNoSetting_data();
     void aFailedWriteChangesNoSetting();
     void aDamagedCardIsKeptAsideAndToldOnce();
@@ -789,6 +791,40 @@ void TestCharging::aFailedWriteLeavesUnitsDue()
     QCOMPARE(costsOf(phone), (FourCosts{"4.00", "4.00", "0.00", "4.00"}));
     QCOMPARE(phone->simCard().card().acm(), 4U);
     QCOMPARE(creditOf(phone), QByteArray("96.00"));
+}
+
+void TestCharging::aCrashAfterAResetOfATimeChargesTheWholeCall_data()
+{
+    QTest::addColumn<std::function<int(Phone &)>>("reset");
+    using Reset = std::function<int(Phone &)>;
+    const auto row = [](const char *name, const Reset &reset) { QTest::newRow(name) << reset; };
+    row("dialed calls", [](Phone &p) { return p.log().resetDialedCallsTime(); });
+    row("answered calls", [](Phone &p) { return p.log().resetAnsweredCallsTime(); });
+    row("data calls", [](Phone &p) { return p.data().resetTotalDuration(); });
+    row("all calls", [](Phone &p) { return p.service().resetCallTime(); });
+}
+
+void TestCharging::aCrashAfterAResetOfATimeChargesTheWholeCall()
+{
+    using Reset = std::function<int(Phone &)>;
+    QFETCH(Reset, reset);
+    const StateDir state;
+    const QString copy = state.sibling(QStringLiteral("crashed"));
+    Phone phone(state.path());
+    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), someDay), int(Success));
+    QVERIFY(phone.dial());
+    phone.clock->advance(40 * second);
+    QCOMPARE(reset(phone), int(Success));
+    QVERIFY(copyState(state.path(), copy));
+    const LogFile crashed(copy + QStringLiteral("/calllog.db"));
+    QCOMPARE(crashed.value(QStringLiteral("SELECT duration_ms FROM calls")), QVariant(40 * second));
+    QCOMPARE(crashed.value(QStringLiteral("SELECT units FROM calls")), QVariant(4));
+    QCOMPARE(costsOf(Phone(copy)), (FourCosts{"4.00", "4.00", "0.00", "4.00"}));
+    QCOMPARE(creditOf(Phone(copy)), QByteArray("96.00"));
+    phone.clock->advance(20 * second);
+    QCOMPARE(phone->hangUp(), int(Success));
+    QCOMPARE(costsOf(phone), (FourCosts{"6.00", "6.00", "0.00", "6.00"})); // and not twice
+    QCOMPARE(creditOf(phone), QByteArray("94.00"));
 }
 
 void TestCharging::aFailedWriteChangesNoSetting_data()

@@ -2,6 +2,7 @@
 #include "CallLog.h"
 #include "CallService.h"
 #include "DataCalls.h"
+#include "FullDisk.h"
 #include "HandsetTestKit.h"
 #include "Schema.h"
 #include "Status.h"
@@ -9,17 +10,16 @@
 #include <QtCore/QDir>
 #include <QtCore/QHash>
 
-#include <csignal>
 #include <functional>
 #include <random>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace handset;
 using namespace handset::test;
 using calllog::CallState;
+using support::FullDisk;
 
 namespace {
 
@@ -86,23 +86,6 @@ bool same(const LoggedCall &a, const LoggedCall &b)
            a.startedMs == b.startedMs && a.durationMs == b.durationMs && a.state == b.state;
 }
 
-/// Files cannot grow beyond a size while this lives, as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &previous);
-        const rlimit limit{bytes, previous.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &previous); }
-
-private:
-    rlimit previous{};
-};
-
 } // namespace
 
 class TestDamagedLog : public QObject
@@ -139,7 +122,6 @@ private slots:
     void aReplacementThatWasInterruptedIsMadeUpFor_data();
     void aReplacementThatWasInterruptedIsMadeUpFor();
     void aDiskThatIsFullIsAnErrorAndChangesNothing();
-    void aDiskThatFillsUpFailsTheWriteAndNothingElse();
     void aBigLogThatWasClosedIsNotReadThroughButOneThatWasNotIs();
 
 private:
@@ -629,29 +611,6 @@ void TestDamagedLog::aDiskThatIsFullIsAnErrorAndChangesNothing()
         QCOMPARE(readFile(state.database()), damaged);
     }
     openAndCheck(state, false);
-}
-
-void TestDamagedLog::aDiskThatFillsUpFailsTheWriteAndNothingElse()
-{
-    const StateDir state;
-    Phone phone(state.path());
-    QVERIFY(phone.dialed(4 * second));
-    QVERIFY(phone.dial());
-    phone.clock->advance(6 * second);
-    const SixFigures before = phone.figures();
-    {
-        const FullDisk full(static_cast<rlim_t>(QFileInfo(state.file(QStringLiteral("calllog.db-wal"))).size()));
-        const QRegularExpression warning(QStringLiteral("^The call log failed: "));
-        QTest::ignoreMessage(QtWarningMsg, warning);
-        QCOMPARE(phone->hangUp(), int(StorageFailed));
-        QTest::ignoreMessage(QtWarningMsg, warning);
-        QCOMPARE(phone.service().resetCallTime(), int(StorageFailed));
-        QCOMPARE(phone.figures(), before);
-    }
-    QCOMPARE(phone->hangUp(), int(Success));
-    QCOMPARE(phone.figures(), before);
-    phone.close();
-    QCOMPARE(Phone(state.path()).figures(), before);
 }
 
 void TestDamagedLog::aBigLogThatWasClosedIsNotReadThroughButOneThatWasNotIs()
