@@ -13,19 +13,18 @@ namespace handset::calllog {
 namespace {
 
 // What SQLite would not mind, or mistake for a file that must not be written. `whole` is false while leftovers wait to
-// be worked in: the length may differ until then.
-Finding checkHeader(const QString &path, bool whole)
+// be worked in: the length may differ until then. What is no log by its header may be one by its tables: that is looked
+// at before anything takes its place.
+Finding checkHeader(const StateDirectory &directory, const QString &name, qint64 size, bool whole)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {Verdict::Blocked, file.errorString()};
-    const std::optional<FileHeader> header = FileHeader::parse(file.read(FileHeader::size));
-    if (!header)
+    QByteArray bytes;
+    if (const int error = directory.readBeginning(name, FileHeader::size, bytes))
+        return blocked(error);
+    const std::optional<FileHeader> header = FileHeader::parse(bytes);
+    if (!header || !header->isSound)
         return {Verdict::Foreign, {}};
-    if (!header->versionIsKnown)
-        return {Verdict::Damaged, QStringLiteral("its format is wrong")};
     // SQLite takes a file that lost the end of its last page for a whole one.
-    if (whole && header->pageCountIsValid && file.size() < header->pageSize * header->pageCount)
+    if (whole && header->pageCountIsValid && size < header->pageSize * header->pageCount)
         return {Verdict::Damaged, QStringLiteral("its end is missing")};
     return {};
 }
@@ -34,8 +33,7 @@ Finding checkHeader(const QString &path, bool whole)
 
 Finding examineFile(const StateDirectory &directory, const QString &name)
 {
-    const QString path = directory.filePath(name);
-    const QByteArray encoded = QFile::encodeName(path);
+    const QByteArray encoded = QFile::encodeName(directory.filePath(name));
     const bool leftovers = directory.hasLeftovers(name);
     struct stat status = {};
     if (::lstat(encoded.constData(), &status) != 0) {
@@ -51,7 +49,7 @@ Finding examineFile(const StateDirectory &directory, const QString &name)
         return blocked(errno);
     if (status.st_size == 0) // SQLite would take it for a new one and throw the leftovers away
         return {Verdict::Lost, {}};
-    return checkHeader(path, !leftovers);
+    return checkHeader(directory, name, status.st_size, !leftovers);
 }
 
 } // namespace handset::calllog

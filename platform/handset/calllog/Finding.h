@@ -10,6 +10,9 @@ namespace handset::calllog {
 /// In the state directory.
 inline constexpr auto databaseName = "calllog.db";
 
+/// Under this name a new log keeps the sentence about what it replaced, until that has been told. Empty when it has.
+inline constexpr auto keptNotice = "notice";
+
 enum class Verdict {
     Usable,
     Missing, ///< never made yet
@@ -27,7 +30,18 @@ struct Finding {
 
 /// Blocked, for the reason of an errno.
 Finding blocked(int error);
-/// What the last error of a database says about it.
+/// The same, of another file of the state directory.
+Finding blocked(int error, const QString &file);
+/// A reason that names a file.
+QString inFile(const QString &file, const QString &reason);
+
+/// What the last error of a database says about it. Damaged is only what SQLite finds to be no sound database, or none
+/// of ours: what cannot be read or written now may be sound.
 Finding failure(const Database &database);
+/// What a line of SQLite's own check ("ok", or what is wrong) says.
+Finding judgeCheck(const QString &line);
+
+/// Words for a finding that has no reason of its own, and the reason of any other.
+QString explain(const Finding &finding);
 
 } // namespace handset::calllog

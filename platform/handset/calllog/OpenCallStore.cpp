@@ -32,27 +32,37 @@ Attempt openFile(std::unique_ptr<StateDirectory> &directory)
     return openDatabase(directory->filePath(name), directory, care);
 }
 
-QString cannotBeUsed(const StateDirectory &directory, const QString &reason)
+OpenedStore cannotBeUsed(const StateDirectory &directory, const QString &reason)
 {
-    return QStringLiteral("The call log \"%1\" cannot be used: %2.")
-        .arg(directory.filePath(QString::fromLatin1(databaseName)), reason);
+    const QString error = QStringLiteral("The call log \"%1\" cannot be used: %2.")
+                              .arg(directory.filePath(QString::fromLatin1(databaseName)), reason);
+    return {nullptr, error, {}};
+}
+
+bool isToBeReplaced(const Attempt &attempt)
+{
+    return !attempt.store && attempt.finding.verdict != Verdict::Blocked;
 }
 
 OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory)
 {
-    OpenedStore opened;
-    finishReplacement(*directory);
+    const Finding finished = finishReplacement(*directory);
+    if (finished.verdict != Verdict::Usable)
+        return cannotBeUsed(*directory, explain(finished));
     Attempt attempt = openFile(directory);
-    if (!attempt.store && attempt.finding.verdict != Verdict::Blocked) {
+    // A read that went wrong once may look like damage. What is damaged still is when it is read again.
+    if (isToBeReplaced(attempt))
+        attempt = openFile(directory);
+    if (isToBeReplaced(attempt)) {
         const Replacement replacement = replace(*directory, attempt.finding.verdict);
         if (!replacement.error.isEmpty())
-            return {nullptr, cannotBeUsed(*directory, replacement.error), {}};
-        opened.notice = replacement.notice;
+            return cannotBeUsed(*directory, replacement.error);
         attempt = openFile(directory);
     }
     if (!attempt.store)
-        return {nullptr, cannotBeUsed(*directory, attempt.finding.reason), opened.notice};
-    opened.store = std::move(attempt.store);
+        return cannotBeUsed(*directory, explain(attempt.finding));
+    OpenedStore opened{std::move(attempt.store), {}, {}};
+    opened.notice = untoldNotice(*opened.store);
     return opened;
 }
 

@@ -12,7 +12,9 @@ namespace handset::calllog {
 struct OpenedStore {
     std::unique_ptr<CallStore> store; ///< null when it could not be opened
     QString error;                    ///< then: why, in one sentence
-    QString notice;                   ///< what happened to a file that could not be used; empty for nothing
+    /// What happened to a file that could not be used; empty for nothing. Every start has it until whoever tells it
+    /// keeps an empty value under keptNotice (Finding.h).
+    QString notice;
 };
 
 /// An empty directory name keeps the calls in memory only. A file that cannot be used as a call log, or not by this

@@ -44,9 +44,7 @@ Finding configure(Database &database)
 Finding verify(Database &database)
 {
     const QString result = database.text(QStringLiteral("PRAGMA quick_check(1)"));
-    if (result == QLatin1String("ok"))
-        return {};
-    return result.isEmpty() ? failure(database) : Finding{Verdict::Damaged, result};
+    return result.isEmpty() ? failure(database) : judgeCheck(result);
 }
 
 struct TotalsTable {

@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace handset::calllog {
@@ -102,6 +103,94 @@ QString whoElseMayWrite(const struct stat &directory)
                                                           : QString();
 }
 
+/// Closed with the object.
+class Descriptor
+{
+public:
+    Descriptor(const QString &path, int flags)
+        : fd(::open(encoded(path).constData(), flags | O_CLOEXEC, 0600))
+    {}
+    ~Descriptor()
+    {
+        if (fd >= 0)
+            ::close(fd);
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    bool isOpen() const { return fd >= 0; } ///< else errno says why
+    int number() const { return fd; }
+
+private:
+    int fd;
+};
+
+// The following answer 0 or an errno.
+
+// Some file systems cannot sync a directory, and have no need of it.
+int syncFile(const QString &path, int flags)
+{
+    const Descriptor file(path, O_RDONLY | flags);
+    if (!file.isOpen())
+        return errno;
+    return ::fsync(file.number()) == 0 || errno == EINVAL ? 0 : errno;
+}
+
+// Fills `bytes` as far as the file goes.
+int readUpTo(int fd, QByteArray &bytes, qsizetype &length)
+{
+    length = 0;
+    while (length < bytes.size()) {
+        const ssize_t got = ::read(fd, bytes.data() + length, static_cast<std::size_t>(bytes.size() - length));
+        if (got == 0)
+            return 0;
+        if (got < 0 && errno != EINTR)
+            return errno;
+        length += std::max<ssize_t>(got, 0);
+    }
+    return 0;
+}
+
+int writeAll(int fd, QByteArrayView bytes)
+{
+    while (!bytes.isEmpty()) {
+        const ssize_t put = ::write(fd, bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (put < 0 && errno != EINTR)
+            return errno;
+        bytes = bytes.sliced(std::max<ssize_t>(put, 0));
+    }
+    return 0;
+}
+
+bool hasOtherName(const QString &path)
+{
+    struct stat status = {};
+    return ::lstat(encoded(path).constData(), &status) == 0 && status.st_nlink > 1;
+}
+
+// A file that yields less than it has is an error: the copy of a log must have all of it.
+int copyFile(const QString &from, const QString &to)
+{
+    const Descriptor source(from, O_RDONLY | O_NOFOLLOW);
+    if (!source.isOpen())
+        return errno;
+    const Descriptor target(to, O_WRONLY | O_CREAT | O_EXCL);
+    if (!target.isOpen())
+        return errno;
+    QByteArray block(qsizetype{1} << 18, Qt::Uninitialized);
+    qint64 copied = 0;
+    for (qsizetype length = block.size(); length == block.size(); copied += length) {
+        if (const int error = readUpTo(source.number(), block, length))
+            return error;
+        if (const int error = writeAll(target.number(), QByteArrayView(block).first(length)))
+            return error;
+    }
+    struct stat status = {};
+    if (::fstat(source.number(), &status) != 0)
+        return errno;
+    return copied == status.st_size ? 0 : EIO;
+}
+
 } // namespace
 
 bool StateDirectory::make(const QString &path, QString &error)
@@ -188,72 +277,119 @@ QString StateDirectory::mendRights(const QString &name) const
     return {};
 }
 
-bool StateDirectory::rename(const QString &from, const QString &to)
+int StateDirectory::rename(const QString &from, const QString &to)
 {
     const QByteArray source = encoded(filePath(from));
     const QByteArray target = encoded(filePath(to));
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) != 0)
-        return false;
+        return errno;
     // The order of renames must hold even when the machine goes down.
-    const int fd = ::open(encoded(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd >= 0) {
-        ::fsync(fd);
-        ::close(fd);
-    }
-    return true;
+    return syncFile(path, O_DIRECTORY);
 }
 
-bool StateDirectory::exists(const QString &name) const
+int StateDirectory::sync(const QString &name)
+{
+    return syncFile(filePath(name), O_NOFOLLOW);
+}
+
+int StateDirectory::readBeginning(const QString &name, qint64 most, QByteArray &bytes) const
+{
+    bytes.clear();
+    struct stat status = {};
+    if (::lstat(encoded(filePath(name)).constData(), &status) != 0)
+        return errno;
+    if (!S_ISREG(status.st_mode))
+        return 0;
+    const Descriptor file(filePath(name), O_RDONLY | O_NOFOLLOW);
+    if (!file.isOpen())
+        return errno;
+    bytes.resize(std::min(most, static_cast<qint64>(status.st_size)));
+    qsizetype length = 0;
+    if (const int error = readUpTo(file.number(), bytes, length))
+        return error;
+    return length == bytes.size() ? 0 : EIO;
+}
+
+int StateDirectory::find(const QString &name) const
 {
     struct stat status = {};
-    return ::lstat(encoded(filePath(name)).constData(), &status) == 0;
+    return ::lstat(encoded(filePath(name)).constData(), &status) == 0 ? 0 : errno;
 }
 
 QString StateDirectory::unusedName(const QString &name) const
 {
+    constexpr int most = 100'000;
     const QFileInfo file(name);
-    for (int number = 1;; ++number) {
+    for (int number = 1; number <= most; ++number) {
         QString candidate =
             QStringLiteral("%1-kept-%2.%3").arg(file.completeBaseName()).arg(number).arg(file.suffix());
-        const auto inUse = [&](const char *suffix) { return exists(candidate + QLatin1String(suffix)); };
-        if (!exists(candidate) && std::none_of(recordings.begin(), recordings.end(), inUse))
+        const auto isUnused = [&](const char *suffix) {
+            return find(candidate + QLatin1String(suffix)) == ENOENT;
+        };
+        if (isUnused("") && std::all_of(recordings.begin(), recordings.end(), isUnused))
             return candidate;
     }
-}
-
-QString StateDirectory::keepAside(const QString &name, QString &error)
-{
-    unlink(name + QLatin1String(indexSuffix));
-    QString kept = unusedName(name);
-    // The database itself first: what is left beside a database that is gone is recognised as a leftover.
-    bool done = !exists(name) || rename(name, kept);
-    for (const char *recording : recordings) {
-        const QLatin1String suffix(recording);
-        if (done && hasContent(name + suffix))
-            done = rename(name + suffix, kept + suffix);
-        else if (done)
-            unlink(name + suffix);
-    }
-    if (done)
-        return kept;
-    error = reason(errno);
     return {};
 }
 
-bool StateDirectory::copy(const QString &from, const QString &to)
+// A second name for a file; a copy where the file system knows no second names.
+int StateDirectory::addName(const QString &from, const QString &to)
+{
+    if (::link(encoded(filePath(from)).constData(), encoded(filePath(to)).constData()) == 0)
+        return 0;
+    return errno == EPERM || errno == EOPNOTSUPP || errno == EMLINK ? copyFile(filePath(from), filePath(to))
+                                                                    : errno;
+}
+
+int StateDirectory::addNamesOfRecordings(const QString &name, const QString &kept)
+{
+    const bool isAlone = find(name) == ENOENT;
+    for (const char *recording : recordings) {
+        const QLatin1String suffix(recording);
+        // One that was left alone has its other name already when this was interrupted.
+        if (!hasContent(name + suffix) || (isAlone && hasOtherName(filePath(name + suffix))))
+            continue;
+        if (const int error = addName(name + suffix, kept + suffix))
+            return error;
+    }
+    return 0;
+}
+
+void StateDirectory::removeRecordings(const QString &name)
+{
+    for (const char *recording : recordings)
+        unlink(name + QLatin1String(recording));
+}
+
+int StateDirectory::keepAside(const QString &name, const QString &kept)
+{
+    unlink(name + QLatin1String(indexSuffix));
+    int error = addNamesOfRecordings(name, kept);
+    if (error == 0 && find(name) != ENOENT)
+        error = rename(name, kept);
+    if (error != 0 && (find(name) != ENOENT || find(kept) != 0)) { // it has not moved
+        removeRecordings(kept);
+        return error;
+    }
+    removeRecordings(name);
+    // A new database must not have the recordings of an old one beside it.
+    return error == 0 && hasLeftovers(name) ? EBUSY : error;
+}
+
+int StateDirectory::copy(const QString &from, const QString &to)
 {
     for (const char *recording : recordings) {
         const QLatin1String suffix(recording);
-        if (exists(from + suffix) && !QFile::copy(filePath(from + suffix), filePath(to + suffix)))
-            return false;
+        const int error = copyFile(filePath(from + suffix), filePath(to + suffix));
+        if (error != 0 && error != ENOENT)
+            return error;
     }
-    return QFile::copy(filePath(from), filePath(to));
+    return copyFile(filePath(from), filePath(to));
 }
 
 void StateDirectory::remove(const QString &name)
 {
-    for (const char *recording : recordings)
-        unlink(name + QLatin1String(recording));
+    removeRecordings(name);
     unlink(name + QLatin1String(indexSuffix));
     unlink(name);
 }
@@ -266,13 +402,30 @@ void StateDirectory::unlink(const QString &name)
 bool StateDirectory::hasContent(const QString &name) const
 {
     struct stat status = {};
-    return ::lstat(encoded(filePath(name)).constData(), &status) == 0 && status.st_size > 0;
+    return ::lstat(encoded(filePath(name)).constData(), &status) == 0 ? status.st_size > 0 : errno != ENOENT;
 }
 
 bool StateDirectory::hasLeftovers(const QString &name) const
 {
     return std::any_of(recordings.begin(), recordings.end(),
                        [&](const char *recording) { return hasContent(name + QLatin1String(recording)); });
+}
+
+qint64 StateDirectory::size(const QString &name) const
+{
+    qint64 bytes = 0;
+    for (const char *suffix : {"", recordings[0], recordings[1]})
+        bytes += QFileInfo(filePath(name + QLatin1String(suffix))).size();
+    return bytes;
+}
+
+int StateDirectory::freeSpace(qint64 &bytes) const
+{
+    struct statvfs status = {};
+    if (::statvfs(encoded(path).constData(), &status) != 0)
+        return errno;
+    bytes = static_cast<qint64>(status.f_bavail) * static_cast<qint64>(status.f_frsize);
+    return 0;
 }
 
 } // namespace handset::calllog

@@ -26,24 +26,41 @@ public:
 
     QString filePath(const QString &name) const;
 
-    /// Renames `name` and what is recorded beside it to the first unused "<base>-kept-<n>.<suffix>". Answers the new
-    /// name, or a null string with the reason in `error`.
-    QString keepAside(const QString &name, QString &error);
-    /// Renames a file of the directory to a name that is not in use; false when that cannot be done.
-    bool rename(const QString &from, const QString &to);
-    /// Copies `from` and what is recorded beside it to a name that is not in use; false when that cannot be done.
-    bool copy(const QString &from, const QString &to);
+    // Where the answer is an int it is 0, or an errno.
+
+    /// "<base>-kept-<n>.<suffix>", the first that is not in use; a null string when there is none.
+    QString unusedName(const QString &name) const;
+    /// Gives `name`, and what is recorded beside it, another name that is not in use. Whenever this is interrupted
+    /// the database has its recordings beside it, under the one name or the other.
+    int keepAside(const QString &name, const QString &kept);
+    /// Renames a file of the directory to a name that is not in use, and waits until the disk has it.
+    int rename(const QString &from, const QString &to);
+    /// Copies `from` and what is recorded beside it to a name that is not in use.
+    int copy(const QString &from, const QString &to);
+    /// Waits until the disk has what was written to a file.
+    int sync(const QString &name);
+    /// Up to `most` bytes from the beginning of a file; a file that yields fewer than it has is an error (EIO).
+    /// Nothing of what is no file.
+    int readBeginning(const QString &name, qint64 most, QByteArray &bytes) const;
     /// Removes `name` and what SQLite keeps beside it.
     void remove(const QString &name);
-    bool exists(const QString &name) const;
+
+    /// 0 for a name that is in use, ENOENT for one that is not; any other errno when that cannot be told.
+    int find(const QString &name) const;
     /// Makes what SQLite left beside `name` readable and writable for its user alone. Answers what is wrong with the
     /// one that is not and cannot be made so, part of a sentence that names it; empty when there is none.
     QString mendRights(const QString &name) const;
-    /// Whether SQLite left recordings beside `name`: it was not closed.
+    /// Whether SQLite left recordings beside `name`: it was not closed. True also when that cannot be told.
     bool hasLeftovers(const QString &name) const;
+    /// Bytes of `name` and of what is recorded beside it.
+    qint64 size(const QString &name) const;
+    /// Bytes that the disk has left for this user.
+    int freeSpace(qint64 &bytes) const;
 
 private:
-    QString unusedName(const QString &name) const;
+    int addName(const QString &from, const QString &to);
+    int addNamesOfRecordings(const QString &name, const QString &kept);
+    void removeRecordings(const QString &name);
     void unlink(const QString &name);
     bool hasContent(const QString &name) const;
 

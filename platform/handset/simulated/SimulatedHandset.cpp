@@ -1,5 +1,6 @@
 #include "SimulatedHandset.h"
 
+#include "Finding.h"
 #include "OpenCallStore.h"
 #include "SimulatedBackend.h"
 #include "Status.h"
@@ -51,6 +52,8 @@ Opened open(const Settings &settings)
     QStringList notices(opened.notice.isEmpty() ? QStringList() : QStringList(opened.notice));
     if (telephone->load(notices) != Success)
         return {nullptr, QStringLiteral("What the call log keeps of the SIM card cannot be read."), {}};
+    if (!opened.notice.isEmpty())
+        telephone->noticeIsTold();
     return {telephone, {}, notices.join(QLatin1Char(' '))};
 }
 
@@ -67,6 +70,11 @@ SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, st
     timer.setInterval(tickMs);
     timer.setTimerType(Qt::PreciseTimer);
     connect(&timer, &QTimer::timeout, this, &SimulatedHandset::tick);
+}
+
+void SimulatedHandset::noticeIsTold()
+{
+    recorder.keep({{QString::fromLatin1(calllog::keptNotice), {}}});
 }
 
 SimulatedHandset::~SimulatedHandset()

@@ -48,6 +48,8 @@ public:
 
     /// Reads what the call log keeps beside the calls; before anything else. As ChargeMeter::load().
     int load(QStringList &notices) { return meter.load(recorder, notices); }
+    /// What the call log had to tell of its opening; else the next start tells it again.
+    void noticeIsTold();
 
 private:
     sim::Tariff tariffOf(const PastCall &of) const;

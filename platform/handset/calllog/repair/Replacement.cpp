@@ -1,9 +1,11 @@
 #include "Replacement.h"
 
+#include "LogCopy.h"
 #include "OpenDatabase.h"
 #include "Salvage.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QVariant>
 
 #include <cerrno>
 
@@ -14,12 +16,13 @@ namespace handset::calllog {
 
 namespace {
 
-// A new log is made under the first name and gets the second when it is complete and closed; it becomes the database
-// when what was there before has made way. So a database is never seen half made.
+// A new log is made under the first name and gets the second when it is complete and on the disk; it becomes the
+// database when what was there before has made way. So a database is never seen half made.
 constexpr auto unfinishedName = "calllog-new.db";
 constexpr auto readyName = "calllog-ready.db";
-// What a damaged log is read from, so that it is kept as it was found.
-constexpr auto copyName = "calllog-copy.db";
+
+/// Bytes: an empty log, and what SQLite needs beside it to make one and to open it.
+constexpr qint64 spaceOfNewLog = 512 << 10;
 
 QString describe(Verdict verdict)
 {
@@ -38,51 +41,6 @@ QString describe(Verdict verdict)
         return QStringLiteral("The call log was written by a newer version");
     }
     return {};
-}
-
-Finding createFile(const QString &path)
-{
-    // SQLite gives the files that it keeps beside the database the database's mode.
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (fd < 0)
-        return blocked(errno);
-    ::close(fd);
-    return {};
-}
-
-Finding readCopy(StateDirectory &directory, CallStore &target, Salvaged &salvaged)
-{
-    const QString copy = QString::fromLatin1(copyName);
-    directory.remove(copy);
-    if (!directory.copy(QString::fromLatin1(databaseName), copy)) {
-        directory.remove(copy);
-        return {Verdict::Blocked, QStringLiteral("the old one cannot be copied")};
-    }
-    salvaged = salvage(directory.filePath(copy), target);
-    directory.remove(copy);
-    return salvaged.written ? Finding{} : failure(target.connection());
-}
-
-// A complete new log under the ready name, with what can be read of the damaged one. Anything but Usable says why
-// there is none.
-Finding makeReplacement(StateDirectory &directory, Verdict verdict, Salvaged &salvaged)
-{
-    const QString name = QString::fromLatin1(unfinishedName);
-    directory.remove(name);
-    Finding created = createFile(directory.filePath(name));
-    if (created.verdict != Verdict::Usable)
-        return created;
-    std::unique_ptr<StateDirectory> unlocked;
-    Attempt fresh = openDatabase(directory.filePath(name), unlocked, Care::Quick);
-    if (!fresh.store)
-        return fresh.finding;
-    if (verdict == Verdict::Damaged) {
-        Finding read = readCopy(directory, *fresh.store, salvaged);
-        if (read.verdict != Verdict::Usable)
-            return read;
-    }
-    fresh.store.reset();
-    return directory.rename(name, QString::fromLatin1(readyName)) ? Finding{} : blocked(errno);
 }
 
 QString whatWasRead(const Salvaged &salvaged)
@@ -105,13 +63,144 @@ QString whatWasCounted(const Salvaged &salvaged)
     return all.isEmpty() ? QString() : QStringLiteral(" and %1 counted from them").arg(all);
 }
 
-QString notice(Verdict verdict, const QString &keptName, const Salvaged &salvaged)
+struct Replaced {
+    Verdict verdict = Verdict::Missing;
+    QString keptName;
+};
+
+QString notice(const Replaced &old, const Salvaged &salvaged)
 {
-    QString text =
-        QStringLiteral("%1; it was kept as \"%2\" and a new one was begun").arg(describe(verdict), keptName);
-    if (verdict == Verdict::Damaged)
+    QString text = QStringLiteral("%1; it was kept as \"%2\" and a new one was begun")
+                       .arg(describe(old.verdict), old.keptName);
+    if (old.verdict == Verdict::Damaged)
         text += whatWasRead(salvaged) + whatWasCounted(salvaged);
     return text + QLatin1Char('.');
+}
+
+// What needs the room is known before: a disk that fills up half way is found as well, but costs the time.
+Finding findSpace(const StateDirectory &directory, Verdict verdict)
+{
+    const qint64 old = verdict == Verdict::Damaged ? directory.size(QString::fromLatin1(databaseName)) : 0;
+    const qint64 needed = spaceOfNewLog + 2 * old; // the copy, and what is read from it
+    qint64 left = 0;
+    if (const int error = directory.freeSpace(left))
+        return blocked(error);
+    if (left >= needed)
+        return {};
+    const QString text = QStringLiteral("%1 KiB of disk space are needed and %2 KiB are left");
+    return {Verdict::Blocked, text.arg((needed + 1023) / 1024).arg(left / 1024)};
+}
+
+Finding createFile(const QString &path)
+{
+    // SQLite gives the files that it keeps beside the database the database's mode.
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (fd < 0)
+        return blocked(errno);
+    ::close(fd);
+    return {};
+}
+
+// As it is not used before it is complete there is no need to be able to go back: what is written goes into the file at
+// once, which takes half the room.
+Finding prepare(Database &database)
+{
+    const QString mode = database.text(QStringLiteral("PRAGMA journal_mode = MEMORY"));
+    if (mode != QLatin1String("memory"))
+        return mode.isEmpty() ? failure(database)
+                              : Finding{Verdict::Blocked, QStringLiteral("it cannot be written")};
+    return database.run(QStringLiteral("PRAGMA synchronous = OFF")) ? Finding{} : failure(database);
+}
+
+// The write-ahead log that a call log has must have nothing in it: the new file is renamed alone.
+Finding emptyWriteAheadLog(Database &database)
+{
+    if (database.text(QStringLiteral("PRAGMA journal_mode = WAL")) != QLatin1String("wal"))
+        return failure(database);
+    QSqlQuery checkpoint = database.query();
+    if (!checkpoint.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")) || !checkpoint.next())
+        return {Verdict::Blocked, sqlite::reason(checkpoint.lastError())};
+    const bool isBusy = checkpoint.value(0).toInt() != 0;
+    const bool isAllWritten = checkpoint.value(1) == checkpoint.value(2);
+    return !isBusy && isAllWritten ? Finding{}
+                                   : Finding{Verdict::Blocked, QStringLiteral("its write-ahead log is not empty")};
+}
+
+// A notice that was never told goes on in front of the new one.
+Finding putNotice(CallStore &store, const QString &notice)
+{
+    const QString name = QString::fromLatin1(keptNotice);
+    QByteArray untold;
+    if (store.kept(name, untold) != 0)
+        return failure(store.connection());
+    const QByteArray all = untold.isEmpty() ? notice.toUtf8() : untold + ' ' + notice.toUtf8();
+    return store.putKept({name, all}) ? Finding{} : failure(store.connection());
+}
+
+Finding fill(CallStore &store, LogCopy &copy, const Replaced &old)
+{
+    Finding finding = prepare(store.connection());
+    Salvaged salvaged;
+    if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
+        finding = salvage(copy.database(), store, salvaged);
+    if (finding.verdict == Verdict::Usable && old.verdict != Verdict::Missing)
+        finding = putNotice(store, notice(old, salvaged));
+    return finding.verdict == Verdict::Usable ? emptyWriteAheadLog(store.connection()) : finding;
+}
+
+// As it is on the disk, not as it was meant.
+Finding readBack(const QString &file)
+{
+    Database database(file, Database::Access::ReadWrite);
+    if (!database.isOpen() || !database.run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE")))
+        return failure(database);
+    const QString line = database.text(QStringLiteral("PRAGMA quick_check(1)"));
+    return line.isEmpty() ? failure(database) : judgeCheck(line);
+}
+
+Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced &old)
+{
+    const QString name = QString::fromLatin1(unfinishedName);
+    const QString path = directory.filePath(name);
+    directory.remove(name);
+    Finding finding = createFile(path);
+    if (finding.verdict != Verdict::Usable)
+        return finding;
+    {
+        std::unique_ptr<StateDirectory> unlocked;
+        Attempt fresh = openDatabase(path, unlocked, Care::Quick);
+        finding = fresh.store ? fill(*fresh.store, copy, old) : fresh.finding;
+    }
+    if (finding.verdict != Verdict::Usable)
+        return finding;
+    if (const int error = directory.sync(name))
+        return blocked(error);
+    finding = readBack(path);
+    if (finding.verdict == Verdict::Usable && directory.hasLeftovers(name))
+        return {Verdict::Blocked, QStringLiteral("its write-ahead log is left")};
+    return finding;
+}
+
+// A complete new log under the ready name, with what can be read of a damaged one. Anything but Usable says why there
+// is none; then nothing has changed.
+Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced &old)
+{
+    Finding finding = findSpace(directory, old.verdict);
+    if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
+        finding = copy.make();
+    if (finding.verdict != Verdict::Usable)
+        return finding;
+    const QString name = QString::fromLatin1(unfinishedName);
+    finding = makeUnfinished(directory, copy, old);
+    int error = 0;
+    if (finding.verdict == Verdict::Usable)
+        error = directory.rename(name, QString::fromLatin1(readyName));
+    if (error != 0)
+        finding = blocked(error);
+    if (finding.verdict == Verdict::Usable)
+        return finding;
+    directory.remove(name);
+    return {finding.verdict, inFile(name, explain(finding))};
 }
 
 } // namespace
@@ -119,35 +208,59 @@ QString notice(Verdict verdict, const QString &keptName, const Salvaged &salvage
 Replacement replace(StateDirectory &directory, Verdict verdict)
 {
     const QString name = QString::fromLatin1(databaseName);
-    Salvaged salvaged;
-    const Finding made = makeReplacement(directory, verdict, salvaged);
+    LogCopy copy(directory);
+    const Finding found = copy.look(verdict);
+    if (found.verdict == Verdict::Blocked)
+        return {QStringLiteral("it cannot be read (%1)").arg(found.reason)};
+    const Replaced old{found.verdict, directory.unusedName(name)};
+    const Finding made = makeReplacement(directory, copy, old);
     if (made.verdict != Verdict::Usable)
-        return {QStringLiteral("a new one cannot be made (%1)").arg(made.reason), {}};
-    QString keptName;
-    QString error;
-    if (verdict != Verdict::Missing) {
-        keptName = directory.keepAside(name, error);
-        if (keptName.isNull())
-            return {QStringLiteral("it cannot be kept under another name (%1)").arg(error), {}};
+        return {QStringLiteral("a new one cannot be made (%1)").arg(explain(made))};
+    if (old.verdict != Verdict::Missing) {
+        if (const int error = directory.keepAside(name, old.keptName))
+            return {QStringLiteral("it cannot be kept under another name (%1)").arg(blocked(error).reason)};
     }
-    if (!directory.rename(QString::fromLatin1(readyName), name))
-        return {QStringLiteral("a new one cannot take its place (%1)").arg(blocked(errno).reason), {}};
-    return {{}, verdict == Verdict::Missing ? QString() : notice(verdict, keptName, salvaged)};
+    if (const int error = directory.rename(QString::fromLatin1(readyName), name))
+        return {QStringLiteral("a new one cannot take its place (%1)").arg(blocked(error).reason)};
+    return {};
 }
 
-void finishReplacement(StateDirectory &directory)
+Finding finishReplacement(StateDirectory &directory)
 {
     const QString name = QString::fromLatin1(databaseName);
+    const QString unfinished = QString::fromLatin1(unfinishedName);
     const QString ready = QString::fromLatin1(readyName);
-    directory.remove(QString::fromLatin1(copyName));
-    directory.remove(QString::fromLatin1(unfinishedName));
-    if (directory.exists(name)) {
+    const int found = directory.find(name);
+    const int foundReady = directory.find(ready);
+    for (const int error : {found, foundReady})
+        if (error != 0 && error != ENOENT)
+            return blocked(error);
+    directory.remove(QString::fromLatin1(LogCopy::name));
+    // A write-ahead log without its database may be all there is of one.
+    const bool isAlone = directory.find(unfinished) == ENOENT && directory.hasLeftovers(unfinished);
+    if (isAlone && found == ENOENT)
+        directory.keepAside(unfinished, directory.unusedName(unfinished));
+    else
+        directory.remove(unfinished);
+    if (found == 0) {
         directory.remove(ready);
-        return;
+        return {};
     }
-    QString error;
-    if (directory.exists(ready) && (!directory.hasLeftovers(name) || !directory.keepAside(name, error).isNull()))
-        directory.rename(ready, name);
+    if (foundReady != 0)
+        return {};
+    if (directory.hasLeftovers(name)) {
+        if (const int error = directory.keepAside(name, directory.unusedName(name)))
+            return blocked(error);
+    }
+    const int error = directory.rename(ready, name);
+    return error == 0 ? Finding{} : blocked(error);
+}
+
+QString untoldNotice(CallStore &store)
+{
+    QByteArray notice;
+    store.kept(QString::fromLatin1(keptNotice), notice);
+    return QString::fromUtf8(notice);
 }
 
 } // namespace handset::calllog

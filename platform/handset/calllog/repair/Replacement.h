@@ -1,21 +1,27 @@
 // Puts a new call log in the place of one that cannot be used.
 #pragma once
 
+#include "CallStore.h"
 #include "Finding.h"
 #include "StateDirectory.h"
 
 namespace handset::calllog {
 
 struct Replacement {
-    QString error;  ///< part of a sentence: why there is no new log; empty when there is one
-    QString notice; ///< a sentence: what has become of the old one; empty for nothing
+    QString error; ///< part of a sentence: why there is no new log; empty when there is one
 };
 
 /// For every verdict but Usable and Blocked. What is there is kept under a new name, and what can be read of a damaged
-/// log goes into the new one. Whenever this is interrupted, finishReplacement() makes up for it on the next start.
+/// log goes into the new one, with a notice. What is foreign or newer only by its header is taken for damaged. Nothing
+/// has changed when no new log can be made. Whenever this is interrupted, finishReplacement() makes up for it on the next
+/// start.
 Replacement replace(StateDirectory &directory, Verdict verdict);
 
-/// To be called before anything else in a directory.
-void finishReplacement(StateDirectory &directory);
+/// To be called before anything else in a directory. Blocked when that must be left alone for now.
+Finding finishReplacement(StateDirectory &directory);
+
+/// What has not been told yet of the log that this one replaced; empty for nothing. It is told again until whoever
+/// tells it empties it.
+QString untoldNotice(CallStore &store);
 
 } // namespace handset::calllog

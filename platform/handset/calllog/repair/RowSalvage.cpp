@@ -2,17 +2,74 @@
 
 #include <QtSql/QSqlRecord>
 
+#include <algorithm>
+
 namespace handset::calllog {
+
+namespace {
+
+constexpr int idColumn = 0;
+
+} // namespace
+
+void RowSalvage::note(const QSqlError &error)
+{
+    // A table that is missing is damage, too.
+    switch (sqlite::code(error)) {
+    case sqlite::Error:
+    case sqlite::Corrupt:
+    case sqlite::NotADatabase:
+        return;
+    }
+    if (error.isValid() && !isBlocked())
+        blockedBy = {Verdict::Blocked, sqlite::reason(error)};
+}
+
+std::optional<qint64> RowSalvage::read(const QString &select)
+{
+    const std::optional<qint64> number = source.number(select);
+    if (!number)
+        note(source.lastError());
+    return number;
+}
 
 bool RowSalvage::copy(const QString &select, const QString &insert)
 {
     if (!target.prepare(putRow, insert))
         return false;
-    Passed passed = pass(select, false);
+    Passed passed = pass(select + QStringLiteral(" ORDER BY id"), false);
     // From the other end as well, so that one damaged page in the middle costs no more than its own rows.
     if (passed == Passed::UpToTheDamage)
-        passed = pass(select + QStringLiteral(" DESC"), true);
-    return passed != Passed::NotWritten;
+        passed = passTail(select);
+    return passed != Passed::NotDone;
+}
+
+// In the order of the ids as far as that goes: rows that are put in front of others leave half of each page empty.
+RowSalvage::Passed RowSalvage::passTail(const QString &select)
+{
+    const QString backwards = select + QStringLiteral(" ORDER BY id DESC");
+    if (const std::optional<qint64> first = firstOfTail(backwards)) {
+        const QString forwards = select + QStringLiteral(" WHERE id >= %1 ORDER BY id").arg(*first);
+        if (pass(forwards, false) == Passed::NotDone)
+            return Passed::NotDone;
+    }
+    return isBlocked() ? Passed::NotDone : pass(backwards, true);
+}
+
+std::optional<qint64> RowSalvage::firstOfTail(const QString &select)
+{
+    QSqlQuery rows = source.query();
+    rows.exec(select);
+    std::optional<qint64> first;
+    while (rows.next()) {
+        if (!isPlausible(rows))
+            continue;
+        if (rows.value(idColumn).toLongLong() <= highestCopied)
+            break;
+        first = rows.value(idColumn).toLongLong();
+    }
+    note(rows.lastError());
+    return first;
 }
 
 RowSalvage::Passed RowSalvage::pass(const QString &select, bool untilKnown)
@@ -22,10 +79,13 @@ RowSalvage::Passed RowSalvage::pass(const QString &select, bool untilKnown)
     columnCount = rows.record().count();
     while (rows.next()) {
         if (isPlausible(rows) && !copyRow(rows, isNew))
-            return Passed::NotWritten;
+            return Passed::NotDone;
         if (untilKnown && !isNew)
             break;
     }
+    note(rows.lastError());
+    if (isBlocked())
+        return Passed::NotDone;
     return rows.lastError().isValid() ? Passed::UpToTheDamage : Passed::ToTheEnd;
 }
 
@@ -38,6 +98,7 @@ bool RowSalvage::copyRow(const QSqlQuery &row, bool &isNew)
     isNew = putRow.numRowsAffected() > 0;
     if (isNew) {
         ++count;
+        highestCopied = std::max(highestCopied, row.value(idColumn).toLongLong());
         countRow(row);
     }
     return true;

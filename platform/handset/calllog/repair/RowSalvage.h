@@ -1,7 +1,7 @@
 // Copies the rows of a table that can still be read.
 #pragma once
 
-#include "Database.h"
+#include "Finding.h"
 
 #include <QtCore/QVariant>
 
@@ -41,11 +41,19 @@ public:
     RowSalvage &operator=(const RowSalvage &) = delete;
 
     qint64 copied() const { return count; }
+    /// Blocked when the source could not be read for any other reason than damage: there may be more in it than was read.
+    const Finding &obstacle() const { return blockedBy; }
 
 protected:
-    /// `select` has the rows in ascending order of their ids; `insert` has a '?' for each of its columnCount, and
-    /// ignores a row whose id is there already. False when the target could not be written.
+    /// `select` has neither WHERE nor ORDER BY, and the table an `id`, which comes first; `insert` has a '?' for each
+    /// column, and ignores a row whose id is there already. False when the target could not be written, or there is an
+    /// obstacle.
     bool copy(const QString &select, const QString &insert);
+    /// The first column of the source's first row; nothing when there is none that can be read.
+    std::optional<qint64> read(const QString &select);
+    /// To be told of every error of the source.
+    void note(const QSqlError &error);
+    bool isBlocked() const { return blockedBy.verdict != Verdict::Usable; }
 
     /// Whether the target's table takes it.
     virtual bool isPlausible(const QSqlQuery &row) const = 0;
@@ -56,14 +64,18 @@ protected:
     Database &target;
 
 private:
-    enum class Passed { ToTheEnd, UpToTheDamage, NotWritten };
+    enum class Passed { ToTheEnd, UpToTheDamage, NotDone };
 
     Passed pass(const QString &select, bool untilKnown);
+    Passed passTail(const QString &select);
+    std::optional<qint64> firstOfTail(const QString &select);
     bool copyRow(const QSqlQuery &row, bool &isNew);
 
     QSqlQuery putRow;
     int columnCount = 0;
     qint64 count = 0;
+    qint64 highestCopied = 0; ///< id
+    Finding blockedBy;
 };
 
 } // namespace handset::calllog

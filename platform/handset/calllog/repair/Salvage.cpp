@@ -1,12 +1,10 @@
 #include "Salvage.h"
 
-#include "FileHeader.h"
 #include "RowSalvage.h"
 #include "SalvageSessions.h"
 #include "Saturating.h"
 #include "Schema.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QVariant>
 
 #include <array>
@@ -16,8 +14,7 @@ namespace handset::calllog {
 
 namespace {
 
-constexpr auto rowsSql =
-    "SELECT id, kind, direction, number, started_ms, duration_ms, state, %1 FROM calls ORDER BY id";
+constexpr auto rowsSql = "SELECT id, kind, direction, number, started_ms, duration_ms, state, %1 FROM calls";
 constexpr auto putRowSql =
     "INSERT OR IGNORE INTO calls (id, kind, direction, number, started_ms, duration_ms, state, units)"
     " VALUES (?, ?, ?, ?, ?, ?, ?, ?)";
@@ -76,14 +73,14 @@ bool CallSalvage::isPlausible(const QSqlQuery &row) const
 
 bool CallSalvage::run()
 {
-    return copy(QString::fromLatin1(rowsSql).arg(unitsColumn()), QString::fromLatin1(putRowSql)) && putTotals() &&
-           putCosts() && putKept();
+    const QString select = QString::fromLatin1(rowsSql).arg(unitsColumn());
+    return !isBlocked() && copy(select, QString::fromLatin1(putRowSql)) && putTotals() && putCosts() && putKept();
 }
 
 // A log of the first version has none.
 QString CallSalvage::unitsColumn()
 {
-    const std::optional<qint64> columns = source.number(QString::fromLatin1(hasUnitsSql));
+    const std::optional<qint64> columns = read(QString::fromLatin1(hasUnitsSql));
     return columns == qint64{0} ? QStringLiteral("0") : QStringLiteral("units");
 }
 
@@ -111,7 +108,7 @@ std::optional<Totals> CallSalvage::readTotals()
     Totals totals{};
     for (const CounterName &name : counterNames) {
         const QString select = QStringLiteral("SELECT ms FROM totals WHERE counter = '%1'");
-        const std::optional<qint64> ms = source.number(select.arg(QString::fromLatin1(name.key)));
+        const std::optional<qint64> ms = read(select.arg(QString::fromLatin1(name.key)));
         if (!ms || *ms < 0)
             return std::nullopt;
         totalOf(totals, name.counter) = *ms;
@@ -121,9 +118,11 @@ std::optional<Totals> CallSalvage::readTotals()
 
 bool CallSalvage::putTotals()
 {
-    const std::optional<Totals> read = readTotals();
-    totalsRead = read.has_value();
-    Totals totals = read.value_or(counted);
+    const std::optional<Totals> kept = readTotals();
+    totalsRead = kept.has_value();
+    Totals totals = kept.value_or(counted);
+    if (isBlocked())
+        return false;
     for (const CounterName &name : counterNames)
         if (!store.putTotal(name.counter, totalOf(totals, name.counter)))
             return false;
@@ -135,7 +134,7 @@ std::optional<Costs> CallSalvage::readCosts()
     Costs costs{};
     for (const CostCounterName &name : costCounterNames) {
         const QString select = QStringLiteral("SELECT units FROM costs WHERE counter = '%1'");
-        const std::optional<qint64> units = source.number(select.arg(QString::fromLatin1(name.key)));
+        const std::optional<qint64> units = read(select.arg(QString::fromLatin1(name.key)));
         if (!units || *units < 0)
             return std::nullopt;
         costOf(costs, name.counter) = *units;
@@ -146,6 +145,8 @@ std::optional<Costs> CallSalvage::readCosts()
 bool CallSalvage::putCosts()
 {
     Costs costs = readCosts().value_or(countedCosts);
+    if (isBlocked())
+        return false;
     for (const CostCounterName &name : costCounterNames)
         if (!store.putCost(name.counter, costOf(costs, name.counter)))
             return false;
@@ -164,29 +165,14 @@ bool CallSalvage::putKept()
         if (isValue && !store.putKept({name.toString(), content.toByteArray()}))
             return false;
     }
-    return true;
-}
-
-// SQLite would fill up a page that was cut off with zeros, and read calls from it that nobody made.
-void cutToWholePages(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite))
-        return;
-    const std::optional<FileHeader> header = FileHeader::parse(file.read(FileHeader::size));
-    if (header && header->pageSize > 0)
-        file.resize(file.size() / header->pageSize * header->pageSize);
+    note(rows.lastError());
+    return !isBlocked();
 }
 
 } // namespace
 
-Salvaged salvage(const QString &file, CallStore &target)
+Finding salvage(Database &source, CallStore &target, Salvaged &salvaged)
 {
-    cutToWholePages(file);
-    // It may have to be written before it can be read: leftovers are worked in.
-    Database source(file, Database::Access::ReadWrite);
-    // Without this a database that is shorter than it says is refused as a whole.
-    source.run(QStringLiteral("PRAGMA writable_schema = ON"));
     CallSalvage calls(source, target);
     SalvagedSessions sessions;
     const bool written = target.connection().inTransaction([&] {
@@ -195,7 +181,11 @@ Salvaged salvage(const QString &file, CallStore &target)
         sessions = salvageSessions(source, target.connection());
         return sessions.written;
     });
-    return {written, calls.copied(), calls.hasReadTotals(), sessions.sessions, sessions.totalsRead};
+    for (const Finding &obstacle : {calls.obstacle(), sessions.obstacle})
+        if (obstacle.verdict != Verdict::Usable)
+            return obstacle;
+    salvaged = {calls.copied(), calls.hasReadTotals(), sessions.sessions, sessions.totalsRead};
+    return written ? Finding{} : failure(target.connection());
 }
 
 } // namespace handset::calllog

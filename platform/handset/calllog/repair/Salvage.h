@@ -2,13 +2,11 @@
 #pragma once
 
 #include "CallStore.h"
-
-#include <QtCore/QString>
+#include "Finding.h"
 
 namespace handset::calllog {
 
 struct Salvaged {
-    bool written = false;    ///< the target has what could be read
     qint64 calls = 0;        ///< how many
     bool totalsRead = false; ///< else they were counted anew from the calls, resets forgotten
 
@@ -16,8 +14,9 @@ struct Salvaged {
     bool sessionTotalsRead = false; ///< as totalsRead, for the sessions
 };
 
-/// Copies the calls, the sessions, and the totals of each where all of them can be read, from the database `file` into
-/// the empty `target`, in one transaction. `file` may be changed on the way: it is to be a copy.
-Salvaged salvage(const QString &file, CallStore &target);
+/// Copies the calls, the sessions, and the totals of each where all of them can be read, from `source` into the empty
+/// `target`, in one transaction. Blocked when anything but damage keeps it from reading: then there may be more, and the
+/// target has nothing.
+Finding salvage(Database &source, CallStore &target, Salvaged &salvaged);
 
 } // namespace handset::calllog

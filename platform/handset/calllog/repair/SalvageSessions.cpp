@@ -15,8 +15,7 @@ namespace handset::calllog {
 
 namespace {
 
-constexpr auto rowsSql =
-    "SELECT id, apn, started_ms, duration_ms, sent, received, state FROM sessions ORDER BY id";
+constexpr auto rowsSql = "SELECT id, apn, started_ms, duration_ms, sent, received, state FROM sessions";
 constexpr auto putRowSql =
     "INSERT OR IGNORE INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
     " VALUES (?, ?, ?, ?, ?, ?, ?)";
@@ -67,7 +66,7 @@ std::optional<SessionAmounts> SessionSalvage::readTotals()
     SessionAmounts totals;
     for (const SessionCounterName &name : sessionCounters) {
         const QString select = QStringLiteral("SELECT value FROM session_totals WHERE counter = '%1'");
-        const std::optional<qint64> value = source.number(select.arg(QString::fromLatin1(name.key)));
+        const std::optional<qint64> value = read(select.arg(QString::fromLatin1(name.key)));
         if (!value || *value < 0)
             return std::nullopt;
         totals.*name.amount = *value;
@@ -77,9 +76,11 @@ std::optional<SessionAmounts> SessionSalvage::readTotals()
 
 bool SessionSalvage::putTotals()
 {
-    const std::optional<SessionAmounts> read = readTotals();
-    totalsRead = read.has_value();
-    const SessionAmounts totals = read.value_or(counted);
+    const std::optional<SessionAmounts> kept = readTotals();
+    totalsRead = kept.has_value();
+    const SessionAmounts totals = kept.value_or(counted);
+    if (isBlocked())
+        return false;
     SessionStore store(target);
     return std::all_of(sessionCounters.begin(), sessionCounters.end(), [&](const SessionCounterName &name) {
         return store.putTotal(name.counter, totals.*name.amount);
@@ -92,7 +93,7 @@ SalvagedSessions salvageSessions(Database &source, Database &target)
 {
     SessionSalvage salvage(source, target);
     const bool written = salvage.run();
-    return {written, salvage.copied(), salvage.hasReadTotals()};
+    return {written, salvage.obstacle(), salvage.copied(), salvage.hasReadTotals()};
 }
 
 } // namespace handset::calllog

@@ -1,12 +1,13 @@
 // The part of the salvage that is about packet-data sessions.
 #pragma once
 
-#include "Database.h"
+#include "Finding.h"
 
 namespace handset::calllog {
 
 struct SalvagedSessions {
     bool written = false;    ///< the target has what could be read
+    Finding obstacle;        ///< Blocked when it has not because the source could not be read
     qint64 sessions = 0;     ///< how many
     bool totalsRead = false; ///< else they were counted anew from the sessions, resets forgotten
 };

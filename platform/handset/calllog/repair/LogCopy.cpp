@@ -1,0 +1,135 @@
+#include "LogCopy.h"
+
+#include "FileHeader.h"
+#include "Schema.h"
+
+#include <QtCore/QFile>
+
+#include <cerrno>
+#include <optional>
+
+namespace handset::calllog {
+
+namespace {
+
+constexpr qint64 largestFirstPage = 65536;
+// What the definition of our first table begins with, as SQLite keeps it.
+constexpr auto firstDefinition = "CREATE TABLE calls (";
+constexpr auto ourColumnsSql = "SELECT count(*) FROM pragma_table_info('calls') WHERE name IN"
+                               " ('id', 'kind', 'direction', 'number', 'started_ms', 'duration_ms', 'state')";
+constexpr qint64 ourColumns = 7;
+constexpr auto definitionsSql =
+    "SELECT group_concat(sql, ';') FROM (SELECT sql FROM main.sqlite_schema WHERE sql NOT NULL ORDER BY name)";
+
+QString databaseFile()
+{
+    return QString::fromLatin1(databaseName);
+}
+
+// Spares other programs' databases the copy. The definitions of a log that was never closed are in its write-ahead log.
+Finding findDefinitions(const StateDirectory &directory, bool &found)
+{
+    found = false;
+    for (const QString &file : {databaseFile(), databaseFile() + QStringLiteral("-wal")}) {
+        QByteArray bytes;
+        const int error = directory.readBeginning(file, largestFirstPage, bytes);
+        if (error != 0 && error != ENOENT)
+            return blocked(error, file);
+        found = found || bytes.contains(firstDefinition);
+    }
+    return {};
+}
+
+// What cannot be asked because the copy is damaged says nothing; anything else is in the way.
+Finding unanswered(const Database &copy, Verdict verdict)
+{
+    Finding finding = failure(copy);
+    return finding.verdict == Verdict::Blocked ? finding : Finding{verdict, {}};
+}
+
+// A version with the very tables of ours is not a newer one.
+Finding judgeVersion(Database &copy)
+{
+    Database fresh(QStringLiteral(":memory:"), Database::Access::ReadWrite);
+    const QString definitions = QString::fromLatin1(definitionsSql);
+    if (!migrate(fresh, migrations()))
+        return {Verdict::Blocked, sqlite::reason(fresh.lastError())};
+    const QString found = copy.text(definitions);
+    if (found.isEmpty())
+        return unanswered(copy, Verdict::Newer);
+    return {found == fresh.text(definitions) ? Verdict::Damaged : Verdict::Newer, {}};
+}
+
+Finding judgeTables(Database &copy, Verdict verdict)
+{
+    const std::optional<qint64> columns = copy.number(QString::fromLatin1(ourColumnsSql));
+    if (!columns)
+        return unanswered(copy, verdict);
+    if (*columns != ourColumns)
+        return {verdict, {}};
+    return verdict == Verdict::Newer ? judgeVersion(copy) : Finding{Verdict::Damaged, {}};
+}
+
+} // namespace
+
+LogCopy::~LogCopy()
+{
+    opened.reset();
+    directory.remove(QString::fromLatin1(name));
+}
+
+Finding LogCopy::look(Verdict verdict)
+{
+    const bool mayBeMistaken = verdict == Verdict::Foreign || verdict == Verdict::Newer;
+    if (!mayBeMistaken)
+        return {verdict, {}};
+    bool mayBeOurs = false;
+    Finding finding = findDefinitions(directory, mayBeOurs);
+    if (finding.verdict == Verdict::Usable && mayBeOurs)
+        finding = make();
+    if (finding.verdict != Verdict::Usable)
+        return finding;
+    return mayBeOurs ? judgeTables(*opened, verdict) : Finding{verdict, {}};
+}
+
+Finding LogCopy::make()
+{
+    if (opened)
+        return {};
+    const QString file = QString::fromLatin1(name);
+    directory.remove(file);
+    if (const int error = directory.copy(databaseFile(), file))
+        return blocked(error, file);
+    Finding mended = mend();
+    if (mended.verdict != Verdict::Usable)
+        return mended;
+    // It may have to be written before it can be read: leftovers are worked in.
+    auto database = std::make_unique<Database>(directory.filePath(file), Database::Access::ReadWrite);
+    // Nobody else has it, so no file is needed beside it. And without the second a database that is shorter than it
+    // says is refused as a whole.
+    for (const char *setting : {"locking_mode = EXCLUSIVE", "writable_schema = ON"})
+        if (!database->isOpen() || !database->run(QStringLiteral("PRAGMA ") + QString::fromLatin1(setting)))
+            return {Verdict::Blocked, inFile(file, sqlite::reason(database->lastError()))};
+    opened = std::move(database);
+    return {};
+}
+
+// SQLite would also fill up a page that was cut off with zeros, and read calls from it that nobody made.
+Finding LogCopy::mend()
+{
+    const QString file = QString::fromLatin1(name);
+    QByteArray first;
+    if (const int error = directory.readBeginning(file, largestFirstPage, first))
+        return blocked(error, file);
+    if (first.size() < FileHeader::size)
+        return {};
+    QFile copy(directory.filePath(file));
+    if (!copy.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return {Verdict::Blocked, inFile(file, copy.errorString())};
+    const MendedHeader mended = mendHeader(first, copy.size());
+    if (copy.write(mended.bytes) != mended.bytes.size() || !copy.resize(mended.fileSize))
+        return {Verdict::Blocked, inFile(file, copy.errorString())};
+    return {};
+}
+
+} // namespace handset::calllog

@@ -1,0 +1,41 @@
+// The copy that a call log which cannot be used is read from, so that it is kept as it was found.
+#pragma once
+
+#include "Finding.h"
+#include "StateDirectory.h"
+
+#include <memory>
+
+namespace handset::calllog {
+
+/// Removed with the object.
+class LogCopy
+{
+public:
+    /// In the state directory.
+    static constexpr auto name = "calllog-copy.db";
+
+    /// `stateDirectory` outlives this.
+    explicit LogCopy(StateDirectory &stateDirectory)
+        : directory(stateDirectory)
+    {}
+    ~LogCopy();
+    LogCopy(const LogCopy &) = delete;
+    LogCopy &operator=(const LogCopy &) = delete;
+
+    /// Answers `verdict`, or Damaged for a log that is foreign or newer by its header alone: its tables say that it is
+    /// ours. Blocked when that cannot be found out. Makes the copy where it takes one.
+    Finding look(Verdict verdict);
+    /// Makes the copy, unless it is there. Blocked when it cannot be made; what is wrong with its header is put right.
+    Finding make();
+    /// Of the copy that has been made.
+    Database &database() { return *opened; }
+
+private:
+    Finding mend();
+
+    StateDirectory &directory;
+    std::unique_ptr<Database> opened;
+};
+
+} // namespace handset::calllog
