@@ -115,35 +115,52 @@ bool copyFile(const QString &from, const QString &to)
     return written;
 }
 
-bool copyDirectory(const QString &from, const QString &to)
+bool copyFiles(const QString &from, const QTemporaryDir &to)
 {
-    QDir(to).removeRecursively();
-    if (!QDir().mkpath(to))
-        return false;
     const QStringList names = QDir(from).entryList(QDir::Files);
-    return std::all_of(names.begin(), names.end(), [&](const QString &name) {
-        return copyFile(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
-    });
+    return to.isValid() && std::all_of(names.begin(), names.end(), [&](const QString &name) {
+               return copyFile(from + QLatin1Char('/') + name, to.filePath(name));
+           });
 }
 
 } // namespace
 
+QString CallLogs::original(int calls) const
+{
+    return QStringLiteral("%1/calls-%2").arg(directory).arg(calls);
+}
+
+QString CallLogs::prepare(int calls) const
+{
+    return isUpToDate(original(calls)) ? QString() : build(original(calls), calls);
+}
+
+std::shared_ptr<const QTemporaryDir> CallLogs::copy(int calls) const
+{
+    auto made = std::make_shared<QTemporaryDir>(directory + QStringLiteral("/measured-XXXXXX"));
+    return copyFiles(original(calls), *made) ? made : nullptr;
+}
+
 Line CallLogs::open(int calls, bool keep)
 {
-    Line failed;
-    const QString original = QStringLiteral("%1/calls-%2").arg(directory).arg(calls);
-    if (!isUpToDate(original)) {
-        failed.error = build(original, calls);
-        if (!failed.error.isEmpty())
-            return failed;
-    }
-    const QString copy = original + QStringLiteral(".measured");
-    if ((!keep || !copied.contains(copy)) && !copyDirectory(original, copy)) {
-        failed.error = QStringLiteral("%1 cannot be copied.").arg(original);
+    std::shared_ptr<const QTemporaryDir> where = keep ? kept.value(calls) : nullptr;
+    if (!where)
+        where = copy(calls);
+    if (!where) {
+        Line failed;
+        failed.error = QStringLiteral("%1 cannot be copied.").arg(original(calls));
         return failed;
     }
-    copied.append(copy);
-    return openLine(copy);
+    if (keep)
+        kept.insert(calls, where);
+    return openIn(where);
+}
+
+Line CallLogs::openIn(const std::shared_ptr<const QTemporaryDir> &where)
+{
+    Line line = openLine(where->path());
+    line.directory = where;
+    return line;
 }
 
 } // namespace bench

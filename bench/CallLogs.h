@@ -4,17 +4,25 @@
 #include "Clock.h"
 #include "SimulatedTelephone.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QString>
+#include <QtCore/QTemporaryDir>
 
 #include <memory>
 
 namespace bench {
 
+inline constexpr auto logName = "calllog.db";
+
 /// The simulated telephone on a log of its own, with a clock that stands still.
 struct Line {
+    std::shared_ptr<const QTemporaryDir> directory; ///< goes with the last that uses it
     std::shared_ptr<handset::simulated::SimulatedTelephone> telephone;
     std::shared_ptr<handset::ManualClock> clock;
     QString error; ///< then there is no telephone
+
+    /// The log's file.
+    QString file() const { return directory->filePath(QLatin1StringView(logName)); }
 };
 
 /// Logs are built once and kept in the directory; one that is older than the telephone's library is built again.
@@ -25,13 +33,23 @@ public:
         : directory(path)
     {}
 
-    /// A telephone on a log of `calls` calls. They are in a copy, which goes on to hold what is recorded during this
-    /// run if `keep`, and is made anew with every call of this otherwise.
+    /// Builds the log of `calls` calls where it is missing. Answers what went wrong.
+    QString prepare(int calls) const;
+
+    /// A copy of the log of `calls` calls; null where it cannot be made.
+    std::shared_ptr<const QTemporaryDir> copy(int calls) const;
+
+    /// A telephone on a copy. With `keep` the same copy serves every call of this; it goes on to hold what is recorded.
     Line open(int calls, bool keep);
 
+    /// The telephone on the log in `where`.
+    static Line openIn(const std::shared_ptr<const QTemporaryDir> &where);
+
 private:
+    QString original(int calls) const;
+
     QString directory;
-    QStringList copied; ///< during this run
+    QHash<int, std::shared_ptr<const QTemporaryDir>> kept;
 };
 
 } // namespace bench

@@ -3,6 +3,7 @@
 #include "Counted.h"
 #include "Groups.h"
 #include "Handset.h"
+#include "LeanLog.h"
 #include "tapi.h"
 #include "util.h"
 
@@ -12,13 +13,18 @@ namespace bench {
 
 namespace {
 
+using handset::PastCall;
+
 constexpr int few = 100;
 constexpr int many = 1'000'000;
 constexpr Bar hardlySlower{1.2, 1.05};
 
-// So many that SQLite moves its write-ahead log into the database about once in a repetition, on both sides.
+// A batch: so many that SQLite moves its write-ahead log into the database a few times in each, on all sides.
 constexpr int recordedCalls = 200;
 constexpr int warmUpCalls = 10;
+constexpr qint64 callMs = 60'000;
+constexpr qint64 callUnits = 6;
+constexpr auto number = "+4930555010";
 
 struct Figure {
     const char *name;
@@ -55,10 +61,10 @@ static_assert(figures.size() == 6);
 // A call as it is made: two transactions, both on the disk when they are over.
 int recordCall(const Line &line)
 {
-    int result = line.telephone->dial(QStringLiteral("+4930555010"), handset::CallKind::Voice);
+    int result = line.telephone->dial(QLatin1StringView(number), handset::CallKind::Voice);
     if (result == 0)
         result = line.telephone->remoteAnswer();
-    line.clock->advance(60'000);
+    line.clock->advance(callMs);
     return result == 0 ? line.telephone->hangUp() : result;
 }
 
@@ -82,14 +88,59 @@ void record(benchmark::State &state, const Line &line)
         failures += recordCall(line);
     for (auto _ : state) {
         const Counted counted;
-        failures += recordCall(line);
+        for (int i = 0; i < recordedCalls; ++i)
+            failures += recordCall(line);
     }
     if (failures != 0)
         state.SkipWithError("a call was not recorded");
 }
 
+PastCall leanCall(qint64 startWallMs)
+{
+    return {handset::CallKind::Voice,
+            handset::CallDirection::Dialed,
+            QLatin1StringView(number),
+            startWallMs,
+            callMs,
+            callUnits};
+}
+
+// Records the same calls in both logs. Answers what is not the same then.
+QString compare(LeanLog &lean, Line &line)
+{
+    for (int i = 0; i < warmUpCalls; ++i) {
+        if (recordCall(line) != 0 || !lean.record(leanCall(line.clock->wallMs() - callMs)))
+            return QStringLiteral("a call was not recorded");
+    }
+    line.telephone.reset();
+    return lean.difference(line.file());
+}
+
+void recordLean(benchmark::State &state, CallLogs &logs)
+{
+    Line line = logs.open(few, false);
+    if (!line.telephone)
+        return state.SkipWithError(qUtf8Printable(line.error));
+    LeanLog lean(line.directory->filePath(QStringLiteral("lean.db")), line.file());
+    const QString fault = lean.error().isEmpty() ? compare(lean, line) : lean.error();
+    if (!fault.isEmpty())
+        return state.SkipWithError(qUtf8Printable(fault));
+    bool isRecorded = true;
+    for (auto _ : state) {
+        const Counted counted;
+        for (int i = 0; i < recordedCalls; ++i) {
+            isRecorded = lean.record(leanCall(line.clock->wallMs())) && isRecorded;
+            line.clock->advance(callMs);
+        }
+    }
+    if (!isRecorded)
+        state.SkipWithError("a call was not recorded");
+}
+
+using Logs = std::shared_ptr<CallLogs>;
+
 template <typename Work>
-Side side(const std::shared_ptr<CallLogs> &logs, int calls, Work work)
+Side side(const Logs &logs, int calls, Work work)
 {
     return {calls == many ? "1,000,000 calls" : "100 calls", [logs, calls, work](benchmark::State &state) {
                 // What is recorded makes the small log another one, and nothing of the large one.
@@ -101,6 +152,37 @@ Side side(const std::shared_ptr<CallLogs> &logs, int calls, Work work)
             }};
 }
 
+QString prepareLogs(const CallLogs &logs)
+{
+    const QString error = logs.prepare(few);
+    return error.isEmpty() ? logs.prepare(many) : error;
+}
+
+template <typename Work>
+Comparison manyBesideFew(const std::string &name, const Logs &logs, Work work)
+{
+    Comparison row;
+    row.name = name;
+    row.ours = side(logs, many, work);
+    row.beside = {{side(logs, few, work), hardlySlower}};
+    row.prepare = [logs] { return prepareLogs(*logs); };
+    return row;
+}
+
+Comparison recordingBesideLean(const Logs &logs)
+{
+    Comparison row;
+    row.name = "Recording a call, beside lean SQLite";
+    row.ours = side(logs, few, &record);
+    row.ours.label = "telephone";
+    row.beside = {
+        {{"C functions of SQLite", [logs](benchmark::State &state) { recordLean(state, *logs); }}, Bar{3, 2}}};
+    row.iterations = 1;
+    row.operations = recordedCalls;
+    row.prepare = [logs] { return logs->prepare(few); };
+    return row;
+}
+
 } // namespace
 
 std::vector<Comparison> callLogComparisons(const QString &directory)
@@ -109,19 +191,14 @@ std::vector<Comparison> callLogComparisons(const QString &directory)
     std::vector<Comparison> comparisons;
     for (const Figure &figure : figures) {
         const auto work = [&figure](benchmark::State &state, const Line &line) { query(state, line, figure.ask); };
-        Comparison row;
-        row.name = std::string("Asking for a figure: ") + figure.name;
-        row.ours = side(logs, many, work);
-        row.beside = {{side(logs, few, work), hardlySlower}};
-        comparisons.push_back(row);
+        comparisons.push_back(manyBesideFew(std::string("Asking for a figure: ") + figure.name, logs, work));
     }
-    Comparison row;
-    row.name = "Recording a call, on the disk";
-    row.ours = side(logs, many, &record);
-    row.beside = {{side(logs, few, &record), hardlySlower}};
-    row.clock = Clock::Wall;
-    row.iterations = recordedCalls;
-    comparisons.push_back(row);
+    Comparison recording = manyBesideFew("Recording a call, on the disk", logs, &record);
+    recording.clock = Clock::Wall;
+    recording.iterations = 1;
+    recording.operations = recordedCalls;
+    comparisons.push_back(recording);
+    comparisons.push_back(recordingBesideLean(logs));
     return comparisons;
 }
 
