@@ -9,7 +9,7 @@ enum ExitCode : int {
     ExitBadCommandLine = 2,
     ExitNoTelephone = 3,   ///< the state directory cannot be used, or the backend is not known
     ExitNoTrace = 4,       ///< the trace file cannot be opened
-    ExitNoPlugin = 5,      ///< the plug-in library, or a function of it, is missing
+    ExitNoPlugin = 5,      ///< the plug-in or another library, or a function of it, is missing
     ExitBadScript = 6,     ///< a tour's script cannot be read or says something unknown
     ExitNotWritten = 7,    ///< a photograph, or the text of a tour, cannot be written
     ExitNoTranslation = 8, ///< the translation catalogue cannot be loaded

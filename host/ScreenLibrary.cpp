@@ -53,6 +53,8 @@ int screenIndex(const QString &name)
 QString ScreenLibrary::load(const QString &name)
 {
     QLibrary library;
+    // What the library and those that it needs lack is found now, and not when a screen calls it.
+    library.setLoadHints(QLibrary::ResolveAllSymbolsHint);
     if (QString problem = loadLibrary(library, name); !problem.isEmpty())
         return problem;
     for (std::size_t index = 0; index < screenTable.size(); ++index) {

@@ -194,7 +194,8 @@ int run(const Options &options)
 
 } // namespace
 
-int main(int argc, char **argv)
+// What the starting program calls.
+extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
 {
     const CommandLine line = readCommandLine(argc, argv);
     if (!line.error.isEmpty())

@@ -27,6 +27,8 @@ private slots:
     void aPluginThatCannotServeIsNamed();
     void aPluginWithoutAScreenIsSaid();
     void anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin();
+    void aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data();
+    void aReplacementLibraryThatLacksAFunctionIsToldAtTheStart();
     void anUnusableStateDirectoryIsSaid();
     void aDamagedCallLogIsSaidAndKeptAside();
     void aTelephoneThatKeepsNothingFindsItsStateDirectoryMade();
@@ -92,7 +94,7 @@ void CommandLineTest::helpAndVersionAreAnswered_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("text");
     QTest::newRow("help names the options") << QStringList{"--help"} << "--state <DIR>";
-    QTest::newRow("help names the exit codes") << QStringList{"--help"} << "\n  5  the plug-in library";
+    QTest::newRow("help names the exit codes") << QStringList{"--help"} << "\n  5  the plug-in or";
     QTest::newRow("help names the screens") << QStringList{"-h"} << "callTime";
     QTest::newRow("help comes before other options") << QStringList{"--screen", "nowhere", "--help"} << "Usage:";
     QTest::newRow("version") << QStringList{"--version"} << "kavrecentcalls 1.";
@@ -177,6 +179,37 @@ void CommandLineTest::anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin()
     const HostResult result = showCallTimes({"--state", "none"});
     QCOMPARE(result.code, 0);
     QVERIFY2(contents("record").startsWith("create callTime"), qPrintable(contents("record")));
+}
+
+void CommandLineTest::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QString>("missing");
+    // The rest of the row says who calls what is missing first.
+    QTest::newRow("the telephony library, by a screen") << "telephony"
+                                                        << "TAPI_LOG_GetLastCallTime";
+    QTest::newRow("the log, by the program at its end") << "log"
+                                                        << "libaplog_close";
+    QTest::newRow("the toolkit, by the program") << "toolkit"
+                                                 << "ZKbMainWidget";
+    QTest::newRow("the call setup, by a screen") << "callsetup"
+                                                 << "PHONE_ENG_Setup";
+    QTest::newRow("the message client, by a screen") << "message"
+                                                     << "PHONE_MsgClient";
+    QTest::newRow("the security library, by a screen") << "security"
+                                                       << "SETUP_SECURITY_Util";
+}
+
+void CommandLineTest::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart()
+{
+    QFETCH(QString, folder);
+    QFETCH(QString, missing);
+    environment.insert("LD_LIBRARY_PATH", KAV_DOUBLES "/lacking/" + folder);
+    const HostResult result = run({"--state", "none", "--photo", path("window.png")});
+    QCOMPARE(result.code, 5);
+    QVERIFY2(result.errors.startsWith("kavrecentcalls: "), qPrintable(result.errors));
+    const QRegularExpression name("undefined symbol: \\S*" + missing);
+    QVERIFY2(name.match(result.errors).hasMatch(), qPrintable(result.errors));
 }
 
 void CommandLineTest::anUnusableStateDirectoryIsSaid()
