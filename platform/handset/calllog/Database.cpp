@@ -4,6 +4,7 @@
 
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>
+#include <QtSql/QSqlDriver>
 
 namespace handset::calllog {
 
@@ -56,6 +57,13 @@ Database::~Database()
     connection.close();
     connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
+}
+
+sqlite3 *Database::handle() const
+{
+    const QVariant handle = connection.driver()->handle();
+    const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
+    return held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
 }
 
 QSqlQuery Database::query() const

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+struct sqlite3;
+
 namespace handset::calllog {
 
 /// SQLite's primary result codes, as far as anything here depends on them.
@@ -36,6 +38,8 @@ public:
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
+    /// SQLite's own connection, for what Qt has no way for; null when it is not open.
+    sqlite3 *handle() const;
     bool isOpen() const { return connection.isOpen(); }
     const QSqlError &lastError() const { return error; }
 

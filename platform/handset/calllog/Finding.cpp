@@ -21,19 +21,24 @@ QString inFile(const QString &file, const QString &reason)
     return QStringLiteral("\"%1\": %2").arg(file, reason);
 }
 
-Finding failure(const Database &database)
+Finding failure(int code, const QString &reason)
 {
-    const QSqlError &error = database.lastError();
-    switch (sqlite::code(error)) {
+    switch (code) {
     case sqlite::Error: // the tables are not those of a call log
     case sqlite::Corrupt:
     case sqlite::NotADatabase:
-        return {Verdict::Damaged, sqlite::reason(error)};
+        return {Verdict::Damaged, reason};
     case sqlite::Busy:
     case sqlite::Locked:
         return {Verdict::Blocked, QStringLiteral("another process is using it")};
     }
-    return {Verdict::Blocked, sqlite::reason(error)};
+    return {Verdict::Blocked, reason};
+}
+
+Finding failure(const Database &database)
+{
+    const QSqlError &error = database.lastError();
+    return failure(sqlite::code(error), sqlite::reason(error));
 }
 
 Finding judgeCheck(const QString &line)

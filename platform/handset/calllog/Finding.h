@@ -35,8 +35,10 @@ Finding blocked(int error, const QString &file);
 /// A reason that names a file.
 QString inFile(const QString &file, const QString &reason);
 
-/// What the last error of a database says about it. Damaged is only what SQLite finds to be no sound database, or none
-/// of ours: what cannot be read or written now may be sound.
+/// What SQLite's primary result code says about a database; `reason` is SQLite's. Damaged is only what SQLite finds to
+/// be no sound database, or none of ours: what cannot be read or written now may be sound.
+Finding failure(int code, const QString &reason);
+/// The same, of the last error of a database.
 Finding failure(const Database &database);
 /// What a line of SQLite's own check ("ok", or what is wrong) says.
 Finding judgeCheck(const QString &line);

@@ -1,28 +1,35 @@
 #include "OpenDatabase.h"
 
 #include "Schema.h"
+#include "SchemaCheck.h"
 #include "SessionStore.h"
 
-#include <array>
 #include <initializer_list>
 
 namespace handset::calllog {
 
 namespace {
 
+// None of these looks at a table yet.
 Finding identify(Database &database)
 {
+    if (!database.run(QStringLiteral("PRAGMA trusted_schema = OFF")))
+        return failure(database);
     const auto application = database.number(QStringLiteral("PRAGMA application_id"));
     const auto version = database.number(QStringLiteral("PRAGMA user_version"));
-    const auto tables = database.number(QStringLiteral("SELECT count(*) FROM sqlite_schema"));
-    if (!application || !version || !tables)
+    if (!application || !version)
         return failure(database);
-    const bool isNew = *application == 0 && *version == 0 && *tables == 0;
-    if (!isNew && *application != applicationId)
+    const bool mayBeNew = *application == 0 && *version == 0;
+    if (!mayBeNew && *application != applicationId)
         return {Verdict::Foreign, {}};
     if (*version > static_cast<qint64>(migrations().size()))
         return {Verdict::Newer, {}};
-    return *version < 0 ? Finding{Verdict::Damaged, QStringLiteral("its version is wrong")} : Finding{};
+    if (*version < 0)
+        return {Verdict::Damaged, QStringLiteral("its version is wrong")};
+    Finding tables = checkSchema(database, *version);
+    if (mayBeNew && tables.verdict == Verdict::Damaged) // nothing says that it was ever one of ours
+        return {Verdict::Foreign, {}};
+    return tables;
 }
 
 Finding configure(Database &database)
@@ -47,16 +54,37 @@ Finding verify(Database &database)
     return result.isEmpty() ? failure(database) : judgeCheck(result);
 }
 
-struct TotalsTable {
-    const char *count;
-    qint64 rows;
-};
+// Every total by its name, and no other; a negative one is none.
+template <typename Names>
+Finding checkTotals(Database &database, const char *select, const Names &names)
+{
+    QStringList expected;
+    for (const auto &name : names)
+        expected << QString::fromLatin1(name.key);
+    expected.sort();
+    QStringList found;
+    QSqlQuery rows = database.query();
+    const bool read = rows.exec(QString::fromLatin1(select));
+    while (rows.next())
+        found << rows.value(0).toString();
+    if (!read || rows.lastError().isValid())
+        return failure(sqlite::code(rows.lastError()), sqlite::reason(rows.lastError()));
+    if (found == expected)
+        return {};
+    return {Verdict::Damaged, QStringLiteral("a total is missing")};
+}
 
-constexpr std::array totalsTables{
-    TotalsTable{"SELECT count(*) FROM totals WHERE ms >= 0", counterNames.size()},
-    TotalsTable{"SELECT count(*) FROM costs WHERE units >= 0", costCounterNames.size()},
-    TotalsTable{"SELECT count(*) FROM session_totals WHERE value >= 0", sessionCounters.size()},
-};
+Finding checkAllTotals(Database &database)
+{
+    for (Finding finding :
+         {checkTotals(database, "SELECT counter FROM totals WHERE ms >= 0 ORDER BY counter", counterNames),
+          checkTotals(database, "SELECT counter FROM costs WHERE units >= 0 ORDER BY counter", costCounterNames),
+          checkTotals(database, "SELECT counter FROM session_totals WHERE value >= 0 ORDER BY counter",
+                      sessionCounters)})
+        if (finding.verdict != Verdict::Usable)
+            return finding;
+    return {};
+}
 
 // Reads and writes what every later operation depends on, and closes the call and the session that were running when
 // the telephone stopped: their time is counted up to their last checkpoint.
@@ -64,13 +92,9 @@ Finding settle(Database &database)
 {
     if (!migrate(database, migrations()))
         return failure(database);
-    for (const TotalsTable &table : totalsTables) {
-        const auto rows = database.number(QString::fromLatin1(table.count));
-        if (!rows)
-            return failure(database);
-        if (*rows != table.rows)
-            return {Verdict::Damaged, QStringLiteral("a total is missing")};
-    }
+    Finding totals = checkAllTotals(database);
+    if (totals.verdict != Verdict::Usable)
+        return totals;
     for (const char *newest : {"SELECT max(id) FROM calls",
                                "SELECT sum(length(apn)) FROM (SELECT apn FROM sessions ORDER BY id DESC LIMIT 3)"})
         if (!database.number(QString::fromLatin1(newest)))

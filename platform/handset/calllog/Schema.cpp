@@ -48,7 +48,19 @@ constexpr std::array toVersion2{
     "INSERT INTO session_totals (counter, value) VALUES ('duration', 0), ('sent', 0), ('received', 0)",
 };
 
-constexpr std::array<Migration, 2> steps{toVersion1, toVersion2};
+constexpr std::array toVersion3{
+    // What the totals count of calls and sessions whose rows went with a damaged page: milliseconds and units of calls,
+    // and of sessions as in session_totals. NULL where that is not known, in a log of an earlier version, until it is
+    // read through.
+    "CREATE TABLE lost (counter TEXT PRIMARY KEY, value INTEGER CHECK (value >= 0)) STRICT, WITHOUT ROWID",
+    "INSERT INTO lost SELECT 'calls', CASE ms WHEN 0 THEN 0 END FROM totals WHERE counter = 'lifetime'",
+    "INSERT INTO lost SELECT 'units', CASE max(units) WHEN 0 THEN 0 END FROM costs",
+    "INSERT INTO lost SELECT counter, CASE value WHEN 0 THEN 0 END FROM session_totals",
+    // From here on a backend's value that is missing has been lost; one that was never written reads "new".
+    "INSERT OR IGNORE INTO kept (name, content) VALUES ('card', x'6E6577'), ('charging', x'6E6577')",
+};
+
+constexpr std::array<Migration, 3> steps{toVersion1, toVersion2, toVersion3};
 
 bool runStep(Database &database, Migration step, qint64 version)
 {

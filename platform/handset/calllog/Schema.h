@@ -13,6 +13,9 @@ inline constexpr qint64 applicationId = 0x4b41566c;
 /// The steps from one schema version to the next: statements that are run in one transaction.
 using Migration = std::span<const char *const>;
 
+/// From this version on every value that a backend keeps has a row in `kept`.
+inline constexpr qint64 versionWithAllKept = 3;
+
 /// The migration at index v leads from version v to v + 1; a database without tables is version 0.
 std::span<const Migration> migrations();
 

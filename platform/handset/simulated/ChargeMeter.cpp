@@ -39,6 +39,7 @@ int ChargeMeter::load(calllog::CallRecorder &recorder, QStringList &notices)
 {
     keeper = &recorder;
     calllog::KeptValues aside;
+    bool somethingIsNew = false;
     for (const KeptPart &part : keptParts) {
         const QString name = QString::fromLatin1(part.name);
         QByteArray content;
@@ -46,12 +47,18 @@ int ChargeMeter::load(calllog::CallRecorder &recorder, QStringList &notices)
             return status;
         if (part.read(content, kept))
             continue;
+        somethingIsNew = true;
+        const QString what = QLatin1String(part.whatIsNew);
+        if (content.isNull()) {
+            notices << QStringLiteral("%1 is missing from the call log; a new one was begun.").arg(what);
+            continue;
+        }
         aside << calllog::KeptValue{unusedName(recorder, name), content};
         notices << QStringLiteral("%1 could not be read; a new one was begun and the old one kept as \"%2\".")
-                       .arg(QLatin1String(part.whatIsNew), aside.constLast().name);
+                       .arg(what, aside.constLast().name);
     }
     // With the new ones in their places, so that this is told once.
-    if (!aside.isEmpty() && recorder.keep(keptValues(kept) + aside) != Success)
+    if (somethingIsNew && recorder.keep(keptValues(kept) + aside) != Success)
         notices << QStringLiteral("That could not be written.");
     return Success;
 }

@@ -2,6 +2,7 @@
 
 #include "SimImage.h"
 
+#include <QtCore/QCryptographicHash>
 #include <QtCore/QDate>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -15,7 +16,11 @@ namespace {
 
 using sim::Tariff;
 
-constexpr int version = 1;
+// What a new call log has in the place of both values; see its tables.
+constexpr QByteArrayView neverWritten = "new";
+
+constexpr int version = 2;
+constexpr int versionWithoutCheck = 1;
 
 constexpr auto versionKey = QLatin1StringView("version");
 constexpr auto chargeTypeKey = QLatin1StringView("chargeType");
@@ -24,6 +29,9 @@ constexpr auto answeredKey = QLatin1StringView("answered");
 constexpr auto creditKey = QLatin1StringView("credit");
 constexpr auto depositKey = QLatin1StringView("deposit");
 constexpr auto expiresKey = QLatin1StringView("expires");
+constexpr auto checkKey = QLatin1StringView("check");
+
+constexpr qsizetype checkSize = 20; ///< as the card's
 
 constexpr std::array tariffElements{
     &Tariff::unitsPerInterval,
@@ -101,6 +109,26 @@ bool read(const QJsonObject &object, std::optional<Account> &account)
     return true;
 }
 
+QByteArray bytesOf(const QJsonObject &object)
+{
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+// Of an object that has none yet. Its members come in the order of their names, so equal objects have equal bytes.
+QString checkOf(const QJsonObject &object)
+{
+    const QByteArray hash = QCryptographicHash::hash(bytesOf(object), QCryptographicHash::Sha256);
+    return QString::fromLatin1(hash.first(checkSize).toHex());
+}
+
+bool isChecked(QJsonObject object)
+{
+    if (object.value(versionKey).toInt() == versionWithoutCheck)
+        return true;
+    const QJsonValue check = object.take(checkKey);
+    return object.value(versionKey).toInt() == version && check.toString() == checkOf(object);
+}
+
 QByteArray chargingRecord(const ChargingState &state)
 {
     QJsonObject object{
@@ -114,7 +142,8 @@ QByteArray chargingRecord(const ChargingState &state)
         object.insert(depositKey, static_cast<qint64>(state.account->deposit));
         object.insert(expiresKey, toJson(state.account->expires));
     }
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    object.insert(checkKey, checkOf(object));
+    return bytesOf(object);
 }
 
 Tariff unitEveryTenSeconds()
@@ -160,17 +189,17 @@ calllog::KeptValues keptValues(const ChargingState &state)
 
 bool readCard(const QByteArray &kept, ChargingState &state)
 {
-    return kept.isNull() || sim::loadCard(kept, state.card) == Success;
+    return kept == neverWritten || sim::loadCard(kept, state.card) == Success;
 }
 
 bool readCharging(const QByteArray &kept, ChargingState &state)
 {
-    if (kept.isNull())
+    if (kept == neverWritten)
         return true;
     const QJsonObject object = QJsonDocument::fromJson(kept).object();
     ChargingState read = state;
     qint64 type = 0;
-    const bool usable = object.value(versionKey).toInt() == version &&
+    const bool usable = isChecked(object) &&
                         simulated::read(object.value(chargeTypeKey), AdviceOfCharge::InCurrency, type) &&
                         simulated::read(object.value(dialedKey), read.tariff(CallDirection::Dialed)) &&
                         simulated::read(object.value(answeredKey), read.tariff(CallDirection::Answered)) &&

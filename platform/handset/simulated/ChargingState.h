@@ -35,19 +35,21 @@ struct ChargingState {
 bool costsAnything(const sim::Tariff &tariff);
 
 /// The names under which the call log keeps the state: the card as sim::saveCard() has it, the rest as a JSON object
-/// of numbers
+/// of numbers and a check
 ///
-///     {"version": 1, "chargeType": 0, "dialed": [e1 to e7], "answered": [e1 to e7],
-///      "credit": units, "deposit": units, "expires": [year, month, day]}
+///     {"version": 2, "chargeType": 0, "dialed": [e1 to e7], "answered": [e1 to e7],
+///      "credit": units, "deposit": units, "expires": [year, month, day], "check": text}
 ///
-/// with the last three only where there is an account.
+/// with credit, deposit and day only where there is an account. The check is the first 20 bytes, in hexadecimal digits,
+/// of the SHA-256 hash of the object without it: written without blanks, its members in the order of their names.
+/// Version 1 has none.
 inline constexpr auto keptCardName = "card";
 inline constexpr auto keptChargingName = "charging";
 
 calllog::KeptValues keptValues(const ChargingState &state);
 
-/// Reads back what was kept; null arrays are what never was, and stay as they are in `state`. False for one that cannot
-/// be used: damaged, or of a later version.
+/// Reads back what was kept. What a new call log has there leaves `state` as it is. False for what cannot be used:
+/// damaged, of a later version, or missing (a null array).
 bool readCard(const QByteArray &kept, ChargingState &state);
 bool readCharging(const QByteArray &kept, ChargingState &state);
 

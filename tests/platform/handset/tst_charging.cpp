@@ -139,6 +139,12 @@ private slots:
     void aDamagedCardIsKeptAsideAndToldOnce();
     void aDamagedAccountIsKeptAsideAndTheCardStays_data();
     void aDamagedAccountIsKeptAsideAndTheCardStays();
+    void aChangedAccountIsTold_data();
+    void aChangedAccountIsTold();
+    void anAccountOfTheFirstVersionIsRead();
+    void whatIsMissingOfTheCardIsToldAndNeverNewInSilence_data();
+    void whatIsMissingOfTheCardIsToldAndNeverNewInSilence();
+    void aCardThatWasNeverChangedIsNotMissing();
     void aDamagedLogKeepsCostsAndCard();
     void everyChangeIsSignalledOnce();
 };
@@ -919,7 +925,10 @@ void TestCharging::aDamagedAccountIsKeptAsideAndTheCardStays_data()
     row("nothing", "");
     row("no JSON", "{\"version\":1,");
     row("no object", "[1]");
-    row("a later version", R"({"version":2,"chargeType":0,)" + tariffs + "}");
+    row("a later version", R"({"version":3,"chargeType":0,)" + tariffs + "}");
+    row("no check", R"({"version":2,"chargeType":0,)" + tariffs + "}");
+    row("a check that is not its own",
+        R"({"version":2,"check":"00112233445566778899aabbccddeeff00112233","chargeType":0,)" + tariffs + "}");
     row("a charge type that does not exist", R"({"version":1,"chargeType":2,)" + tariffs + "}");
     row("a tariff with six elements",
         R"({"version":1,"chargeType":0,"dialed":[10,100,100,0,0,0],"answered":[0,0,100,0,0,0,0]})");
@@ -960,6 +969,108 @@ void TestCharging::aDamagedAccountIsKeptAsideAndTheCardStays()
     const LogFile file(state.database());
     QCOMPARE(file.value(QStringLiteral("SELECT content FROM kept WHERE name = 'charging-kept-1'")).toByteArray(),
              content);
+}
+
+void TestCharging::aChangedAccountIsTold_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<QString>("to");
+    QTest::newRow("the credit") << QStringLiteral("\"credit\":100") << QStringLiteral("\"credit\":900");
+    QTest::newRow("the deposit") << QStringLiteral("\"deposit\":100") << QStringLiteral("\"deposit\":101");
+    QTest::newRow("its day") << QStringLiteral("[2027,") << QStringLiteral("[2028,");
+    QTest::newRow("what a unit of time costs")
+        << QStringLiteral("\"dialed\":[10,") << QStringLiteral("\"dialed\":[1,");
+    QTest::newRow("the charge type") << QStringLiteral("\"chargeType\":0") << QStringLiteral("\"chargeType\":1");
+}
+
+void TestCharging::aChangedAccountIsTold()
+{
+    QFETCH(QString, from);
+    QFETCH(QString, to);
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QCOMPARE(phone->charging().topUp(QStringLiteral("100"), someDay), int(Success));
+    }
+    {
+        const LogFile file(state.database());
+        const QString select = QStringLiteral("SELECT content FROM kept WHERE name = 'charging'");
+        const QByteArray before = file.value(select).toByteArray();
+        QVERIFY(file.run(QStringLiteral("UPDATE kept SET content = CAST(replace(content, '%1', '%2') AS BLOB)"
+                                        " WHERE name = 'charging'")
+                             .arg(from, to)));
+        QVERIFY(file.value(select).toByteArray() != before);
+    }
+    {
+        const Phone phone(state.path());
+        QCOMPARE(phone.opened.notice,
+                 QStringLiteral("The record of tariffs and account could not be read; a new one "
+                                "was begun and the old one kept as \"charging-kept-1\"."));
+        QCOMPARE(phone->charging().account(), std::nullopt);
+    }
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+void TestCharging::anAccountOfTheFirstVersionIsRead()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()));
+    const QByteArray record = R"({"answered":[0,0,100,0,0,0,0],"chargeType":1,"credit":75,"deposit":100,)"
+                              R"("dialed":[20,100,100,0,0,0,0],"expires":[2027,6,30],"version":1})";
+    QVERIFY(LogFile(state.database())
+                .run(QStringLiteral("UPDATE kept SET content = x'%1' WHERE name = 'charging'")
+                         .arg(QString::fromLatin1(record.toHex()))));
+    for (int start = 0; start < 2; ++start) { // the second reads what the first has written
+        const Phone phone(state.path());
+        QCOMPARE(phone.opened.notice, QString());
+        QCOMPARE(phone->charging().account(), (Account{75, 100, {2027, 6, 30}}));
+        QCOMPARE(phone->charging().tariff(CallDirection::Dialed), perSeconds(20, 10));
+        QCOMPARE(advice(phone).setChargeType(AdviceOfCharge::InCurrency), int(Success));
+    }
+    const QString version =
+        QStringLiteral("SELECT CAST(content AS TEXT) LIKE '%\"version\":2%' FROM kept WHERE name = 'charging'");
+    QCOMPARE(LogFile(state.database()).value(version), QVariant(1));
+}
+
+void TestCharging::whatIsMissingOfTheCardIsToldAndNeverNewInSilence_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("notice");
+    QTest::newRow("the card") << QStringLiteral("card")
+                              << QStringLiteral("The SIM card is missing from the call log; a new one was begun.");
+    QTest::newRow("the account") << QStringLiteral("charging")
+                                 << QStringLiteral(
+                                        "The record of tariffs and account is missing from the call log; "
+                                        "a new one was begun.");
+}
+
+void TestCharging::whatIsMissingOfTheCardIsToldAndNeverNewInSilence()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, notice);
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.dialed(50 * second));
+        bool accepted = true;
+        QCOMPARE(phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "0000", accepted), int(Success));
+        QCOMPARE(phone->simCard().card().pin2().triesLeft(), 2);
+    }
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM kept WHERE name = '%1'").arg(name)));
+    QCOMPARE(Phone(state.path()).opened.notice, notice);
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+void TestCharging::aCardThatWasNeverChangedIsNotMissing()
+{
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.answered(50 * second)); // which costs nothing
+    }
+    Phone phone(state.path());
+    QCOMPARE(phone.opened.notice, QString());
+    QCOMPARE(phone->simCard().card().acm(), 0U);
 }
 
 void TestCharging::aDamagedLogKeepsCostsAndCard()

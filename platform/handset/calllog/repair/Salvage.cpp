@@ -4,6 +4,7 @@
 #include "SalvageSessions.h"
 #include "Saturating.h"
 #include "Schema.h"
+#include "TablesOnly.h"
 
 #include <QtCore/QVariant>
 
@@ -153,9 +154,13 @@ bool CallSalvage::putCosts()
     return true;
 }
 
-// Who kept the values looks whether they are whole.
+// Who kept the values looks whether they are whole, and tells of the one that is missing. In an earlier version's log
+// one that was never written has no row.
 bool CallSalvage::putKept()
 {
+    const std::optional<qint64> version = read(QStringLiteral("PRAGMA user_version"));
+    if (version.value_or(0) >= versionWithAllKept && !target.run(QStringLiteral("DELETE FROM kept")))
+        return false;
     QSqlQuery rows = source.query();
     rows.exec(QStringLiteral("SELECT name, content FROM kept"));
     while (rows.next()) {
@@ -169,10 +174,21 @@ bool CallSalvage::putKept()
     return !isBlocked();
 }
 
+// Where the list of tables cannot be read, nothing can. A card may have been there.
+Finding beginWithNothing(const Database &source, CallStore &target)
+{
+    Finding finding = failure(source);
+    if (finding.verdict == Verdict::Blocked)
+        return finding;
+    return target.connection().run(QStringLiteral("DELETE FROM kept")) ? Finding{} : failure(target.connection());
+}
+
 } // namespace
 
 Finding salvage(Database &source, CallStore &target, Salvaged &salvaged)
 {
+    if (!leaveOnlyTables(source))
+        return beginWithNothing(source, target);
     CallSalvage calls(source, target);
     SalvagedSessions sessions;
     const bool written = target.connection().inTransaction([&] {

@@ -1,0 +1,90 @@
+#include "PlainSqlite.h"
+
+#include <QtCore/QFile>
+
+#include <sqlite3.h>
+
+#include <utility>
+
+namespace handset::calllog {
+
+namespace {
+
+constexpr int busyTimeoutMs = 1000;
+constexpr int stepsBetweenQuestions = 1000; ///< of SQLite's virtual machine
+
+int primary(int code)
+{
+    return code & 0xff;
+}
+
+} // namespace
+
+PlainConnection::PlainConnection(const QString &file)
+{
+    const QByteArray name = file.isEmpty() ? QByteArrayLiteral(":memory:") : QFile::encodeName(file);
+    const int flags = file.isEmpty() ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
+    open = sqlite3_open_v2(name.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK;
+    if (open)
+        sqlite3_busy_timeout(connection, busyTimeoutMs);
+}
+
+PlainConnection::~PlainConnection()
+{
+    sqlite3_close(connection);
+}
+
+bool PlainConnection::run(const char *statement)
+{
+    return sqlite3_exec(connection, statement, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+PlainStatement::PlainStatement(sqlite3 *connection, const char *text)
+    : code(primary(sqlite3_prepare_v2(connection, text, -1, &statement, nullptr)))
+{}
+
+PlainStatement::~PlainStatement()
+{
+    sqlite3_finalize(statement);
+}
+
+bool PlainStatement::next()
+{
+    if (code != SQLITE_OK)
+        return false;
+    const int result = primary(sqlite3_step(statement));
+    if (result != SQLITE_ROW && result != SQLITE_DONE)
+        code = result;
+    return result == SQLITE_ROW;
+}
+
+qint64 PlainStatement::number(int column) const
+{
+    return sqlite3_column_int64(statement, column);
+}
+
+bool PlainStatement::isNull(int column) const
+{
+    return sqlite3_column_type(statement, column) == SQLITE_NULL;
+}
+
+QByteArray PlainStatement::text(int column) const
+{
+    const auto *const bytes = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
+    return {bytes, sqlite3_column_bytes(statement, column)};
+}
+
+Interruption::Interruption(sqlite3 *connection, std::function<bool()> isEnough)
+    : handle(connection)
+    , asked(std::move(isEnough))
+{
+    const auto ask = [](void *question) { return (*static_cast<std::function<bool()> *>(question))() ? 1 : 0; };
+    sqlite3_progress_handler(handle, stepsBetweenQuestions, ask, &asked);
+}
+
+Interruption::~Interruption()
+{
+    sqlite3_progress_handler(handle, 0, nullptr, nullptr);
+}
+
+} // namespace handset::calllog

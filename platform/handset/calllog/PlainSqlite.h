@@ -1,0 +1,72 @@
+// SQLite without Qt SQL between: for what reads a whole log in a thread that can be stopped, and for limits.
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+#include <functional>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace handset::calllog {
+
+/// A connection of its own. Every statement of it must be gone before it goes.
+class PlainConnection
+{
+public:
+    /// `file` is opened for reading only; an empty name makes a database in memory.
+    explicit PlainConnection(const QString &file);
+    ~PlainConnection();
+    PlainConnection(const PlainConnection &) = delete;
+    PlainConnection &operator=(const PlainConnection &) = delete;
+
+    bool isOpen() const { return open; }
+    sqlite3 *handle() const { return connection; }
+    /// Runs a statement whose result does not matter.
+    bool run(const char *statement);
+
+private:
+    sqlite3 *connection = nullptr;
+    bool open = false;
+};
+
+/// A statement, row by row.
+class PlainStatement
+{
+public:
+    PlainStatement(sqlite3 *connection, const char *text);
+    ~PlainStatement();
+    PlainStatement(const PlainStatement &) = delete;
+    PlainStatement &operator=(const PlainStatement &) = delete;
+
+    /// Moves to the next row, the first one at first; false at the end and on a failure.
+    bool next();
+    /// SQLite's primary result code of a failure; 0 as long as there is none.
+    int error() const { return code; }
+    qint64 number(int column) const;
+    bool isNull(int column) const;
+    QByteArray text(int column) const;
+
+private:
+    sqlite3_stmt *statement = nullptr;
+    int code = 0;
+};
+
+/// While this lives, statements of a connection fail with SQLITE_INTERRUPT as soon as `isEnough` says so. It is asked
+/// every few microseconds.
+class Interruption
+{
+public:
+    Interruption(sqlite3 *connection, std::function<bool()> isEnough);
+    ~Interruption();
+    Interruption(const Interruption &) = delete;
+    Interruption &operator=(const Interruption &) = delete;
+
+private:
+    sqlite3 *handle;
+    std::function<bool()> asked;
+};
+
+} // namespace handset::calllog

@@ -1,0 +1,71 @@
+#include "SchemaCheck.h"
+
+#include "PlainSqlite.h"
+#include "Schema.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cctype>
+#include <vector>
+
+namespace handset::calllog {
+
+namespace {
+
+constexpr auto listSql = "SELECT type, name, tbl_name, sql FROM sqlite_schema";
+
+// Ours has some ten entries. The list of tables is read and parsed as a whole before any other statement: a long one
+// would take seconds.
+constexpr int mostQuestions = 100; ///< some thousands of entries
+
+using Entries = std::vector<QByteArray>;
+
+// How a statement was broken into lines says nothing.
+QByteArray withoutBlanks(QByteArray text)
+{
+    const auto isBlank = [](char c) { return std::isspace(static_cast<unsigned char>(c)) != 0; };
+    text.erase(std::remove_if(text.begin(), text.end(), isBlank), text.end());
+    return text;
+}
+
+// Sorted. The answer is SQLite's result code.
+int listEntries(sqlite3 *connection, Entries &entries)
+{
+    PlainStatement list(connection, listSql);
+    while (list.next())
+        entries.push_back(list.text(0) + '\n' + list.text(1) + '\n' + list.text(2) + '\n' +
+                          withoutBlanks(list.text(3)));
+    std::sort(entries.begin(), entries.end());
+    return list.error();
+}
+
+// As the migrations make them.
+Entries expectedEntries(qint64 version)
+{
+    PlainConnection fresh({});
+    const auto steps = migrations().first(static_cast<std::size_t>(version));
+    for (const Migration &step : steps)
+        for (const char *statement : step)
+            fresh.run(statement);
+    Entries entries;
+    listEntries(fresh.handle(), entries);
+    return entries;
+}
+
+} // namespace
+
+Finding checkSchema(Database &database, qint64 version)
+{
+    Entries found;
+    int questions = 0;
+    const Interruption limit(database.handle(), [&] { return ++questions > mostQuestions; });
+    const int error = listEntries(database.handle(), found);
+    if (error != SQLITE_OK && error != SQLITE_INTERRUPT)
+        return failure(error, QString::fromUtf8(sqlite3_errmsg(database.handle())));
+    if (error == SQLITE_OK && found == expectedEntries(version))
+        return {};
+    return {Verdict::Damaged, QStringLiteral("its tables are not those of a call log")};
+}
+
+} // namespace handset::calllog

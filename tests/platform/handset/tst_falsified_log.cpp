@@ -1,0 +1,179 @@
+// A call log that somebody has changed: it is told, nothing of it runs, and the telephone works.
+#include "CallLog.h"
+#include "HandsetTestKit.h"
+#include "SimSecurity.h"
+#include "Status.h"
+
+#include <QtCore/QDir>
+
+using namespace handset;
+using namespace handset::test;
+
+namespace {
+
+// Never comes to an end.
+const QString endless = QStringLiteral("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n)");
+
+/// A log with four calls, a session and a card whose PIN2 has two tries left.
+bool makeLog(const StateDir &state)
+{
+    Phone phone(state.path());
+    bool accepted = true;
+    return phone.dialed(61 * second) && phone.answered(5 * second) && phone.dialed(9 * second, CallKind::Data) &&
+           phone.dialed(20 * second) && phone.session(7 * second, "internet", 10, 20) &&
+           phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "0000", accepted) == Success;
+}
+
+bool change(const StateDir &state, const QStringList &statements)
+{
+    const LogFile file(state.database());
+    return std::all_of(statements.begin(), statements.end(),
+                       [&](const QString &statement) { return file.run(statement); });
+}
+
+} // namespace
+
+class TestFalsifiedLog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data();
+    void whatIsChangedInTheTablesIsToldOnceAndCostsNoCall();
+    void aViewThatNeverEndsIsNeverRead_data();
+    void aViewThatNeverEndsIsNeverRead();
+    void aColumnThatIsComputedIsNeverRead();
+    void moreEntriesThanALogCanHaveCostNoCall();
+};
+
+void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data()
+{
+    QTest::addColumn<QStringList>("statements");
+    const auto row = [](const char *name, const QStringList &statements) { QTest::newRow(name) << statements; };
+    for (const char *table : {"totals", "costs", "session_totals"}) {
+        const QString set =
+            QStringLiteral("UPDATE %1 SET counter = '%2' WHERE counter = (SELECT max(counter) FROM %1)");
+        QTest::addRow("a total of %s under another name", table)
+            << QStringList{set.arg(QLatin1String(table), QStringLiteral("zero"))};
+        QTest::addRow("one more total in %s", table)
+            << QStringList{QStringLiteral("INSERT INTO %1 VALUES ('one more', 1)").arg(QLatin1String(table))};
+    }
+    row("a foreign table", {QStringLiteral("CREATE TABLE mine (id INTEGER) STRICT")});
+    row("a table that is not strict",
+        {QStringLiteral("ALTER TABLE totals RENAME TO before"),
+         QStringLiteral("CREATE TABLE totals (counter TEXT PRIMARY KEY, ms INTEGER NOT NULL CHECK (ms >= 0))"
+                        " WITHOUT ROWID"),
+         QStringLiteral("INSERT INTO totals SELECT * FROM before"), QStringLiteral("DROP TABLE before")});
+    row("a table without its checks",
+        {QStringLiteral("ALTER TABLE totals RENAME TO before"),
+         QStringLiteral("CREATE TABLE totals (counter TEXT PRIMARY KEY, ms INTEGER) STRICT, WITHOUT ROWID"),
+         QStringLiteral("INSERT INTO totals SELECT * FROM before"), QStringLiteral("DROP TABLE before")});
+    row("a foreign view", {QStringLiteral("CREATE VIEW mine AS SELECT 1")});
+    row("a foreign index", {QStringLiteral("CREATE INDEX mine ON calls (number)")});
+    row("an index that is missing", {QStringLiteral("DROP INDEX running_calls")});
+    row("a trigger that takes the calls away",
+        {QStringLiteral("CREATE TRIGGER mine AFTER UPDATE ON totals BEGIN DELETE FROM calls; END")});
+    row("a trigger that forbids calls",
+        {QStringLiteral("CREATE TRIGGER mine BEFORE INSERT ON calls BEGIN SELECT raise(ABORT, 'no'); END")});
+}
+
+void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall()
+{
+    QFETCH(QStringList, statements);
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    QVERIFY(change(state, statements));
+    {
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        const QString begin =
+            QStringLiteral("The call log is damaged; it was kept as \"calllog-kept-1.db\" and a new "
+                           "one was begun with the calls (4) and data sessions (1)");
+        QVERIFY2(phone.opened.notice.startsWith(begin), qPrintable(phone.opened.notice));
+        QCOMPARE(phone.figures(), (SixFigures{20, 81, 5, 9, 95, 95}));
+        QCOMPARE(phone.sessionTotals(), QStringLiteral("7 70 140 210"));
+        QCOMPARE(phone->simCard().card().pin2().triesLeft(), 2);
+    }
+    Phone phone(state.path());
+    QCOMPARE(phone.opened.notice, QString());
+    QVERIFY(phone.dialed(3 * second));
+    bool accepted = false;
+    QCOMPARE(phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "1234", accepted), int(Success));
+    QVERIFY(accepted);
+    QCOMPARE(phone.figures().lifetime, quint64{98});
+}
+
+void TestFalsifiedLog::aViewThatNeverEndsIsNeverRead_data()
+{
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("columns");
+    QTest::addColumn<bool>("losesCalls");
+    const auto row = [](const char *table, const char *columns) {
+        QTest::addRow("in the place of %s", table)
+            << QString::fromLatin1(table) << QString::fromLatin1(columns) << (QByteArray(table) == "calls");
+    };
+    row("calls",
+        "i AS id, 0 AS kind, 0 AS direction, '1' AS number, 0 AS started_ms, 0 AS duration_ms, 1 AS state,"
+        " 0 AS units");
+    row("totals", "'last' || i AS counter, i AS ms");
+    row("costs", "'last' || i AS counter, i AS units");
+    row("session_totals", "'sent' || i AS counter, i AS value");
+    row("sessions",
+        "i AS id, 'x' AS apn, 0 AS started_ms, 0 AS duration_ms, 0 AS sent, 0 AS received, 1 AS state");
+    row("kept", "'card' || i AS name, x'00' AS content");
+    row("lost", "'calls' || i AS counter, 0 AS value");
+}
+
+void TestFalsifiedLog::aViewThatNeverEndsIsNeverRead()
+{
+    QFETCH(QString, table);
+    QFETCH(QString, columns);
+    QFETCH(bool, losesCalls);
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    QVERIFY(change(state, {QStringLiteral("DROP TABLE %1").arg(table),
+                           QStringLiteral("CREATE VIEW %1 AS %2 SELECT %3 FROM n").arg(table, endless, columns)}));
+    {
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QVERIFY2(phone.opened.notice.startsWith(QStringLiteral("The call log is damaged")),
+                 qPrintable(phone.opened.notice));
+        QVERIFY(phone.dialed(3 * second));
+    }
+    QCOMPARE(LogFile(state.database()).calls().size(), losesCalls ? 1 : 5);
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+void TestFalsifiedLog::aColumnThatIsComputedIsNeverRead()
+{
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    QVERIFY(change(state, {QStringLiteral("ALTER TABLE totals RENAME TO before"),
+                           QStringLiteral("CREATE TABLE totals (counter TEXT, ms INTEGER AS (length(counter)))"),
+                           QStringLiteral("INSERT INTO totals (counter) SELECT counter FROM before"),
+                           QStringLiteral("DROP TABLE before")}));
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QVERIFY2(phone.opened.notice.contains(QStringLiteral("timers")), qPrintable(phone.opened.notice));
+    QCOMPARE(phone.figures(), (SixFigures{20, 81, 5, 9, 95, 95}));
+}
+
+void TestFalsifiedLog::moreEntriesThanALogCanHaveCostNoCall()
+{
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    QVERIFY(change(state, {QStringLiteral("PRAGMA writable_schema = ON"),
+                           QStringLiteral("%1 INSERT INTO sqlite_schema SELECT 'view', 'v' || i, 'v' || i, 0, "
+                                          "'CREATE VIEW v' || i || ' AS SELECT ' || i FROM n LIMIT 20000")
+                               .arg(endless)}));
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QVERIFY2(phone.opened.notice.contains(QStringLiteral("with the calls (4) and data sessions (1)")),
+             qPrintable(phone.opened.notice));
+    QCOMPARE(phone.figures(), (SixFigures{20, 81, 5, 9, 95, 95}));
+}
+
+QTEST_GUILESS_MAIN(TestFalsifiedLog)
+#include "tst_falsified_log.moc"
