@@ -138,7 +138,12 @@ QString CallLogs::prepare(int calls) const
 std::shared_ptr<const QTemporaryDir> CallLogs::copy(int calls) const
 {
     auto made = std::make_shared<QTemporaryDir>(directory + QStringLiteral("/measured-XXXXXX"));
-    return copyFiles(original(calls), *made) ? made : nullptr;
+    return copyTo(*made, calls) ? made : nullptr;
+}
+
+bool CallLogs::copyTo(const QTemporaryDir &where, int calls) const
+{
+    return copyFiles(original(calls), where);
 }
 
 Line CallLogs::open(int calls, bool keep)

@@ -39,6 +39,8 @@ public:
     /// A copy of the log of `calls` calls; null where it cannot be made.
     std::shared_ptr<const QTemporaryDir> copy(int calls) const;
 
+    bool copyTo(const QTemporaryDir &where, int calls) const;
+
     /// A telephone on a copy. With `keep` the same copy serves every call of this; it goes on to hold what is recorded.
     Line open(int calls, bool keep);
 

@@ -3,6 +3,8 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QtCore/QMap>
+#include <QtCore/QProcessEnvironment>
 #include <QtCore/QStringList>
 
 #include <functional>
@@ -20,7 +22,10 @@ enum class Clock { Processor, Wall };
 struct Program {
     QString path;
     QStringList arguments;
+    QMap<QString, QString> environment; ///< beside what this process has
 };
+
+QProcessEnvironment environmentOf(const Program &program);
 
 struct Side {
     std::string label;

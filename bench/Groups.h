@@ -14,6 +14,7 @@ std::vector<Comparison> currencyListComparisons();
 std::vector<Comparison> screenComparisons();
 std::vector<Comparison> broadcastComparisons();
 /// `directory` keeps the logs that are measured; they are built on first use.
+std::vector<Comparison> coldStartComparisons(const QString &directory);
 std::vector<Comparison> callLogComparisons(const QString &directory);
 
 } // namespace bench

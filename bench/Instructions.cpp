@@ -115,7 +115,7 @@ Count run(const Job &job, const CountingPlace &place)
     const QString file = QDir(place.profiles).filePath(fileName(job));
     QStringList words = command(job, place, file);
     QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = environmentOf(sideOf(job).program.value_or(Program{}));
     environment.insert(QStringLiteral("QT_HASH_SEED"), QStringLiteral("0"));
     process.setProcessEnvironment(environment);
     process.setChildProcessModifier([] { ::personality(ADDR_NO_RANDOMIZE); });

@@ -34,7 +34,8 @@ std::vector<bench::Comparison> allComparisons(const bench::Options &options)
     std::vector<bench::Comparison> all;
     for (const auto &group :
          {bench::getterComparisons(), bench::screenComparisons(), bench::currencyListComparisons(),
-          bench::broadcastComparisons(), bench::callLogComparisons(options.directory)})
+          bench::broadcastComparisons(), bench::coldStartComparisons(options.directory),
+          bench::callLogComparisons(options.directory)})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

@@ -6,13 +6,16 @@
 #include "PlainSignal.h"
 #include "QCopChannel.h"
 #include "Stage.h"
+#include "qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QProcess>
 #include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusMessage>
 
 #include <array>
+#include <chrono>
 #include <memory>
 
 namespace bench {
@@ -23,6 +26,7 @@ constexpr auto channelName = "/KAV/phone";
 constexpr auto updateMessage = "/KAV/phone/RecentCall/Update";
 constexpr int patienceMs = 30'000;
 constexpr int burst = 10'000;
+constexpr int sentAtOnce = 100;
 
 /// Gets what the other process sends as a plain signal, and passes it on as a direct call.
 class PlainReceiver : public QObject
@@ -257,6 +261,55 @@ void manyPlain(benchmark::State &state)
     countFromOutside(state, "plain", counter);
 }
 
+// --- sending alone
+
+// The bus answers when it has handled all that was sent before, and what it sends back here has come.
+bool isPlainHandled()
+{
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId"));
+    return QDBusConnection::sessionBus().call(question, QDBus::Block, patienceMs).type() ==
+           QDBusMessage::ReplyMessage;
+}
+
+bool isChannelHandled()
+{
+    return QCopBus::instance()->sync(std::chrono::milliseconds(patienceMs));
+}
+
+bool sendOnChannel()
+{
+    return QCopChannel::send(channelName, updateMessage, QByteArrayLiteral("1"));
+}
+
+bool sendPlain()
+{
+    QDBusMessage message = QDBusMessage::createSignal(
+        QLatin1StringView(plainPath), QLatin1StringView(plainInterface), QLatin1StringView(plainMember));
+    message << QByteArrayLiteral("1");
+    return QDBusConnection::sessionBus().send(message);
+}
+
+/// Sends many, until the bus has handled them and nothing is left to do here.
+template <bool (*send)(), bool (*isHandled)()>
+void sendMany(benchmark::State &state)
+{
+    useFixedTelephone();
+    if (!QCopBus::instance()->waitFor(std::chrono::milliseconds(patienceMs)) || !send() || !isHandled())
+        return state.SkipWithError("there is no bus");
+    bool isSent = true;
+    for (auto _ : state) {
+        const Counted counted;
+        for (int i = 0; i < sentAtOnce; ++i)
+            isSent = send() && isSent;
+        isSent = isHandled() && isSent;
+        QCoreApplication::processEvents();
+    }
+    if (!isSent)
+        state.SkipWithError("an update was not sent");
+}
+
 } // namespace
 
 std::vector<Comparison> broadcastComparisons()
@@ -274,6 +327,13 @@ std::vector<Comparison> broadcastComparisons()
     across.clock = Clock::Wall;
     across.countsInstructions = false;
 
+    Comparison sending;
+    sending.name = "Sending an update";
+    sending.ours = {"channel", &sendMany<&sendOnChannel, &isChannelHandled>};
+    sending.beside = {{{"Qt D-Bus signal", &sendMany<&sendPlain, &isPlainHandled>}, Bar{1.8, 1.3}}};
+    sending.iterations = 20;
+    sending.operations = sentAtOnce;
+
     Comparison many;
     many.name = "10,000 broadcasts across processes, none lost";
     many.ours = {"channel", &manyOnTheChannel};
@@ -282,7 +342,7 @@ std::vector<Comparison> broadcastComparisons()
     many.iterations = 1;
     many.operations = burst;
     many.countsInstructions = false;
-    return {within, across, many};
+    return {within, across, sending, many};
 }
 
 } // namespace bench
