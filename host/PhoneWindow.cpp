@@ -21,8 +21,9 @@ constexpr int deskMargin = 24;
 
 PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephone)
     : line(telephone.handset)
+    , row(new QHBoxLayout(this))
+    , panelSetup{telephone.stateDirectory, telephone.notice, telephone.faults}
     , body(new PhoneBody(this))
-    , panel(new Panel(line, {telephone.stateDirectory, telephone.notice, telephone.faults}))
     , menu(new MenuScreen(body->display()))
     , screens(library, body->display())
 {
@@ -50,11 +51,30 @@ PhoneWindow::~PhoneWindow()
 
 void PhoneWindow::layOut()
 {
-    auto *row = new QHBoxLayout(this);
     row->setContentsMargins(deskMargin, deskMargin, deskMargin, deskMargin);
     row->setSpacing(deskMargin);
     row->addWidget(body, 0, Qt::AlignTop);
+    placeOfPanel = new QSpacerItem(deskMargin + Panel::usualWidth, 0, QSizePolicy::MinimumExpanding);
+    row->addItem(placeOfPanel);
+}
+
+void PhoneWindow::paintEvent(QPaintEvent *)
+{
+    if (!panel)
+        QMetaObject::invokeMethod(this, &PhoneWindow::complete, Qt::QueuedConnection);
+}
+
+void PhoneWindow::complete()
+{
+    if (panel)
+        return;
+    panel = new Panel(line, panelSetup, this);
+    row->removeItem(placeOfPanel);
+    delete placeOfPanel;
     row->addWidget(panel, 1);
+    panel->show();
+    // For texts that are longer than usual in their language.
+    resize(size().expandedTo(sizeHint()));
 }
 
 bool PhoneWindow::openScreen(int index)
@@ -64,7 +84,10 @@ bool PhoneWindow::openScreen(int index)
 
 void PhoneWindow::choosePage(int index)
 {
-    panel->choosePage(index);
+    if (panel)
+        panel->choosePage(index);
+    else
+        panelSetup.page = index;
 }
 
 void PhoneWindow::keyPressEvent(QKeyEvent *event)

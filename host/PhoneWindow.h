@@ -3,14 +3,17 @@
 
 #include "Line.h"
 #include "ScreenHost.h"
+#include "panel/Panel.h"
 
 #include <QtWidgets/QWidget>
+
+class QHBoxLayout;
+class QSpacerItem;
 
 namespace host {
 
 class Faults;
 class MenuScreen;
-class Panel;
 class PhoneBody;
 
 class PhoneWindow : public QWidget
@@ -35,8 +38,11 @@ public:
     bool openScreen(int index);
     /// As Panel::choosePage().
     void choosePage(int index);
+    /// Makes the panel now, which otherwise follows the window's first paint: the phone is there that much sooner.
+    void complete();
 
 protected:
+    void paintEvent(QPaintEvent *event) override;
     /// Keys that nothing in the panel takes go to the phone.
     void keyPressEvent(QKeyEvent *event) override;
 
@@ -44,8 +50,11 @@ private:
     void layOut();
 
     Line line;
+    QHBoxLayout *row;
+    Panel::Setup panelSetup;
     PhoneBody *body;
-    Panel *panel;
+    QSpacerItem *placeOfPanel; ///< until the panel is there
+    Panel *panel = nullptr;    ///< until complete()
     MenuScreen *menu;
     ScreenHost screens;
 };

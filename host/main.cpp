@@ -147,6 +147,7 @@ int runTour(const Options &options, const ScreenLibrary &library)
 
 int photographWindow(PhoneWindow &window, const QString &file)
 {
+    window.complete();
     QCoreApplication::processEvents();
     if (window.grab().save(file, "PNG"))
         return ExitSuccess;

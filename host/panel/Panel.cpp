@@ -20,7 +20,6 @@ namespace host {
 namespace {
 
 constexpr int tickMs = 1000;
-constexpr int contentWidth = 340;
 constexpr int spacing = 10;
 
 QVBoxLayout *makeColumn(QWidget *owner)
@@ -42,49 +41,69 @@ Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
     QVBoxLayout *column = makeColumn(content);
     column->addWidget(keep(new LineSection(line)));
     column->addWidget(tabs);
-    addPages(column, setup);
+    pageColumn = makeColumn(nullptr);
+    column->addLayout(pageColumn);
     column->addStretch();
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
-    setMinimumWidth(contentWidth);
+    setMinimumWidth(usualWidth);
     setWidget(content);
     connect(&line, &Line::changed, this, &Panel::refresh);
     connect(&tick, &QTimer::timeout, this, &Panel::refresh);
-    refresh();
+    addPages(setup);
 }
 
-void Panel::addPages(QVBoxLayout *column, const Setup &setup)
+void Panel::addPages(const Setup &setup)
 {
     tabs->setExpanding(false);
     tabs->setFocusPolicy(Qt::TabFocus);
     tabs->setAccessibleName(tr("Sides of the telephone"));
-    addPage(column, tr("Calls"), {new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)});
-    addPage(column, tr("Charging"), {new TariffSection(line), new CostSection(line), new AccountSection(line)});
-    addPage(column, tr("SIM"), {new SimFilesSection(line), new Pin2Section(line)});
-    addPage(column, tr("Data"), {new PacketSection(line)});
+    using Sections = QList<PanelSection *>;
+    addPage(tr("Calls"), [this, setup] {
+        return Sections{new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)};
+    });
+    addPage(tr("Charging"), [this] {
+        return Sections{new TariffSection(line), new CostSection(line), new AccountSection(line)};
+    });
+    addPage(tr("SIM"), [this] { return Sections{new SimFilesSection(line), new Pin2Section(line)}; });
+    addPage(tr("Data"), [this] { return Sections{new PacketSection(line)}; });
     if (setup.faults)
-        addPage(column, tr("Failures"), {new FailuresSection(*setup.faults)});
+        addPage(tr("Failures"), [faults = setup.faults] { return Sections{new FailuresSection(*faults)}; });
+    choosePage(setup.page);
     connect(tabs, &QTabBar::currentChanged, this, &Panel::showPage);
     showPage(tabs->currentIndex());
 }
 
-void Panel::addPage(QVBoxLayout *column, const QString &title, const QList<PanelSection *> &ofPage)
+void Panel::addPage(const QString &title, MakeSections makeSections)
 {
-    auto *page = new QWidget;
-    QVBoxLayout *inPage = makeColumn(page);
+    pages.append({std::move(makeSections)});
+    tabs->addTab(title);
+}
+
+QWidget *Panel::makePage(const Page &page)
+{
+    auto *widget = new QWidget;
+    QVBoxLayout *inPage = makeColumn(widget);
+    const QList<PanelSection *> ofPage = page.makeSections();
     for (PanelSection *section : ofPage)
         inPage->addWidget(keep(section));
-    column->addWidget(page);
-    pages.append(page);
-    tabs->addTab(title);
+    pageColumn->addWidget(widget);
+    return widget;
 }
 
 void Panel::showPage(int index)
 {
-    for (qsizetype page = 0; page < pages.size(); ++page)
-        pages[page]->setVisible(page == index);
+    QWidget *&shown = pages[index].widget;
+    if (!shown) {
+        shown = makePage(pages[index]);
+        refresh();
+    }
+    for (const Page &page : std::as_const(pages)) {
+        if (page.widget)
+            page.widget->setVisible(page.widget == shown);
+    }
 }
 
 void Panel::choosePage(int index)

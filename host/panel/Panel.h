@@ -8,6 +8,7 @@
 #include <QtWidgets/QScrollArea>
 
 #include <array>
+#include <functional>
 
 class QTabBar;
 class QVBoxLayout;
@@ -21,7 +22,7 @@ class PanelSection;
 inline constexpr std::array<const char *, 5> pageNames{"calls", "charging", "sim", "data", "failures"};
 
 /// The line, and under it a page for each side of the telephone: a column of sections, each a class of its own. A new
-/// role of the telephone is a new section.
+/// role of the telephone is a new section. A page is made when it is shown for the first time.
 class Panel : public QScrollArea
 {
     Q_OBJECT
@@ -31,7 +32,11 @@ public:
         QString stateDirectory;   ///< empty for a telephone in memory
         QString notice;           ///< what the user should know of its opening, or empty
         Faults *faults = nullptr; ///< of the telephone that the phone's libraries talk to; null: it has none
+        int page = 0;             ///< shown first, as by choosePage()
     };
+
+    /// What it wants to be as wide as with its own texts; translated ones may want more.
+    static constexpr int usualWidth = 340;
 
     /// `line`, and what `setup` points to, outlive the panel.
     Panel(Line &line, const Setup &setup, QWidget *parent = nullptr);
@@ -43,17 +48,27 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void addPages(QVBoxLayout *column, const Setup &setup);
-    void addPage(QVBoxLayout *column, const QString &title, const QList<PanelSection *> &ofPage);
+    using MakeSections = std::function<QList<PanelSection *>()>;
+
+    /// A side of the telephone: one a tab.
+    struct Page {
+        MakeSections makeSections;
+        QWidget *widget = nullptr; ///< until it is shown
+    };
+
+    void addPages(const Setup &setup);
+    void addPage(const QString &title, MakeSections makeSections);
     void showPage(int index);
+    QWidget *makePage(const Page &page);
     PanelSection *keep(PanelSection *section);
     void refresh();
 
     Line &line;
     QTabBar *tabs;
-    QList<QWidget *> pages; ///< one a tab
-    QList<PanelSection *> sections;
-    QTimer tick; ///< runs while a call or a session goes on without a change being told
+    QVBoxLayout *pageColumn;
+    QList<Page> pages;
+    QList<PanelSection *> sections; ///< of the line and of the pages that are made
+    QTimer tick;                    ///< runs while a call or a session goes on without a change being told
 };
 
 } // namespace host

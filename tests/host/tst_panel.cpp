@@ -153,6 +153,8 @@ private slots:
     void cleanup();
 
     void eachTabShowsItsSections();
+    void aTabIsMadeWhenItIsFirstOpened();
+    void theTabThatIsAskedForIsTheFirstToBeMade();
     void aTariffIsSetByItsNumbers_data();
     void aTariffIsSetByItsNumbers();
     void aTariffIsSetFreeAndBack();
@@ -212,6 +214,7 @@ private:
     QStringList texts() const;
     QString untranslated() const;
     void openWindow(const std::shared_ptr<handset::Handset> &telephone);
+    void openEachTabOnce();
     void openTelephoneIn(const QString &stateDirectory);
     static void expectSizeHintWarning();
     template <typename Control>
@@ -286,6 +289,15 @@ void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &handset)
     expectSizeHintWarning();
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    window->complete();
+    openEachTabOnce();
+}
+
+// Which makes its controls.
+void PanelTest::openEachTabOnce()
+{
+    for (int page = static_cast<int>(pageNames.size()) - 1; page >= 0; --page)
+        window->choosePage(page);
 }
 
 // Qt's offscreen platform warns of every window that has a least size.
@@ -401,6 +413,41 @@ void PanelTest::eachTabShowsItsSections()
 }
 
 // --- charging
+
+static QStringList madeSections(const PhoneWindow &window)
+{
+    QStringList titles;
+    const QList<QGroupBox *> sections = window.findChildren<QGroupBox *>();
+    for (const QGroupBox *section : sections)
+        titles << section->title();
+    return titles;
+}
+
+void PanelTest::aTabIsMadeWhenItIsFirstOpened()
+{
+    PhoneWindow fresh(library, PhoneWindow::Telephone{owner, {}, {}});
+    fresh.complete();
+    QCOMPARE(madeSections(fresh), (QStringList{"Line", "Call timers", "State"}));
+    fresh.choosePage(3);
+    QCOMPARE(madeSections(fresh), (QStringList{"Line", "Call timers", "State", "Packet data"}));
+    auto *name = fresh.findChild<QLineEdit *>("apn");
+    QVERIFY(name);
+    name->setText("kept");
+    fresh.choosePage(0);
+    fresh.choosePage(3);
+    QCOMPARE(fresh.findChild<QLineEdit *>("apn"), name);
+    QCOMPARE(name->text(), "kept");
+}
+
+void PanelTest::theTabThatIsAskedForIsTheFirstToBeMade()
+{
+    PhoneWindow fresh(library, PhoneWindow::Telephone{owner, {}, {}});
+    fresh.choosePage(3);
+    QCOMPARE(madeSections(fresh), QStringList());
+    fresh.complete();
+    QCOMPARE(madeSections(fresh), (QStringList{"Line", "Packet data"}));
+    QCOMPARE(fresh.findChild<QTabBar *>()->currentIndex(), 3);
+}
 
 void PanelTest::aTariffIsSetByItsNumbers_data()
 {
@@ -1042,6 +1089,8 @@ void PanelTest::zeroIsNoCode()
 void PanelTest::withoutFaultsThereIsNoPageForThem()
 {
     window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{owner, {}, {}});
+    window->complete();
+    openEachTabOnce();
     QVERIFY(!window->findChild<QListWidget *>("failing"));
     QCOMPARE(window->findChild<QTabBar *>()->count(), 4);
 }

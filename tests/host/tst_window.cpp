@@ -15,6 +15,7 @@
 #include "ZListItem.h"
 #include "ZSoftKey.h"
 #include "doubles/RecordingPlugin.h"
+#include "panel/Panel.h"
 #include "phone/Keypad.h"
 #include "phone/PhoneKey.h"
 
@@ -53,6 +54,7 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
+    void thePhoneIsPaintedBeforeThePanelIsMade();
     void theMenuHasTheKeysAtTheStart();
     void keypadKeysDriveTheScreensAndLeaveTheFocus();
     void theDesktopKeyboardDrivesTheScreens();
@@ -137,6 +139,7 @@ void WindowTest::showWindow()
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    window->complete();
 }
 
 QPushButton *WindowTest::button(const char *text) const
@@ -168,6 +171,50 @@ QString WindowTest::title() const
         widget = widget->parentWidget();
     const auto *screen = qobject_cast<ZKbMainWidget *>(widget);
     return screen ? screen->mainWidgetTitle() : QStringLiteral("(none)");
+}
+
+namespace {
+
+// Looks, whenever a widget of a window is painted, whether the window has its panel.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *watched)
+        : window(watched)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const auto *widget = qobject_cast<const QWidget *>(object);
+        if (event->type() == QEvent::Paint && widget && (widget == window || window->isAncestorOf(widget)))
+            (window->findChild<Panel *>() ? withPanel : withoutPanel) << widget->metaObject()->className();
+        return false;
+    }
+
+    QStringList withoutPanel;
+    QStringList withPanel;
+
+private:
+    QWidget *window;
+};
+
+} // namespace
+
+void WindowTest::thePhoneIsPaintedBeforeThePanelIsMade()
+{
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{owner, {}, {}});
+    const PaintWatch watch(window.get());
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    window->show();
+    const QSize first = window->size();
+    QTRY_VERIFY(watch.withPanel.contains("host::LineSection"));
+    for (const char *part : {"host::PhoneBody", "host::PhoneKey", "host::MenuScreen"})
+        QVERIFY2(watch.withoutPanel.contains(QLatin1StringView(part)), part);
+    QCOMPARE(window->size(), first);
+    QVERIFY(button("Dial")->isVisible());
 }
 
 void WindowTest::theMenuHasTheKeysAtTheStart()
