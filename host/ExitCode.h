@@ -13,7 +13,8 @@ enum ExitCode : int {
     ExitBadScript = 6,     ///< a tour's script cannot be read or says something unknown
     ExitNotWritten = 7,    ///< a photograph, or the text of a tour, cannot be written
     ExitNoTranslation = 8, ///< the translation catalogue cannot be loaded
-    ExitNoDisplay = 9      ///< a window is asked for where there is none to show it on
+    ExitNoDisplay = 9,     ///< a window is asked for where there is none to show it on
+    ExitInterrupted = 10   ///< a signal ended a tour before its end
 };
 
 } // namespace host

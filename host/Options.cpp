@@ -31,7 +31,8 @@ constexpr const char *exitCodes = "\nExit codes:\n"
                                   "  6  the tour's script cannot be read, or has a mistake\n"
                                   "  7  a photograph, or the text of a tour, cannot be written\n"
                                   "  8  the translation catalogue cannot be loaded\n"
-                                  "  9  there is no display to show the window on\n";
+                                  "  9  there is no display to show the window on\n"
+                                  " 10  a tour was ended by a signal before its end\n";
 
 struct OptionText {
     const char *name;

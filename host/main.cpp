@@ -1,9 +1,12 @@
 // kavrecentcalls, the recent-calls application of the phone.
 
+#include "Catalogue.h"
+#include "EndSignals.h"
 #include "ExitCode.h"
 #include "Handset.h"
 #include "Options.h"
 #include "PhoneWindow.h"
+#include "ReadFile.h"
 #include "ScreenLibrary.h"
 #include "aplog.h"
 #include "faults/FaultyHandset.h"
@@ -13,7 +16,6 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibrary>
 #include <QtCore/QTextStream>
-#include <QtCore/QTranslator>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -23,6 +25,8 @@
 namespace {
 
 using namespace host;
+
+constexpr qint64 largestScript = qint64{4} * 1024 * 1024;
 
 void nameProgram()
 {
@@ -34,6 +38,15 @@ int complain(int code, const QString &message)
 {
     QTextStream(stderr) << "kavrecentcalls: " << message << Qt::endl;
     return code;
+}
+
+int print(const QString &text)
+{
+    QTextStream output(stdout);
+    output << text << Qt::flush;
+    if (output.status() == QTextStream::Ok)
+        return ExitSuccess;
+    return complain(ExitNotWritten, QStringLiteral("The standard output cannot be written to."));
 }
 
 // Before the GUI's application object, which would want a display even for --help.
@@ -100,15 +113,10 @@ int startTrace(const QString &file)
                                      .arg(file, QString::fromLocal8Bit(std::strerror(error))));
 }
 
-int loadTranslation(QTranslator &translator, const QString &file)
+int loadTranslation(Catalogue &catalogue, const QString &file)
 {
-    if (file.isEmpty())
-        return ExitSuccess;
-    // Qt would try other endings and shorter names; here the file that is named is the file that is meant.
-    if (!QFileInfo(file).isFile() || !translator.load(file))
-        return complain(ExitNoTranslation, QStringLiteral("The catalogue \"%1\" cannot be loaded.").arg(file));
-    QCoreApplication::installTranslator(&translator);
-    return ExitSuccess;
+    const QString problem = file.isEmpty() ? QString() : catalogue.install(file);
+    return problem.isEmpty() ? ExitSuccess : complain(ExitNoTranslation, problem);
 }
 
 int loadScreens(ScreenLibrary &library, const QString &name)
@@ -121,17 +129,19 @@ int loadScreens(ScreenLibrary &library, const QString &name)
 
 int readScript(const QString &fileName, tour::Script &script)
 {
-    QFile file(fileName);
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
-        return complain(ExitBadScript, QStringLiteral("The script \"%1\" cannot be read.").arg(fileName));
+    QByteArray text;
+    const QString problem = readFile(fileName, largestScript, text);
+    if (!problem.isEmpty())
+        return complain(ExitBadScript,
+                        QStringLiteral("The script \"%1\" cannot be read: %2.").arg(fileName, problem));
     const QString name = fileName.startsWith(u':') ? QFileInfo(fileName).fileName() : fileName;
-    script = tour::parseScript(name, QString::fromUtf8(file.readAll()));
+    script = tour::parseScript(name, QString::fromUtf8(text));
     for (const QString &mistake : std::as_const(script.mistakes))
         complain(ExitBadScript, mistake);
     return script.mistakes.isEmpty() ? ExitSuccess : ExitBadScript;
 }
 
-int runTour(const Options &options, const ScreenLibrary &library)
+int runTour(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
 {
     tour::Script script;
     if (const int code = readScript(options.script, script))
@@ -140,7 +150,9 @@ int runTour(const Options &options, const ScreenLibrary &library)
         return code;
     QTextStream output(stdout);
     QTextStream errors(stderr);
-    return tour::TourPlayer(library, options, output, errors).play(script);
+    tour::TourPlayer player(library, options, output, errors);
+    QObject::connect(&endSignals, &EndSignals::asked, &player, &tour::TourPlayer::interrupt);
+    return player.play(script);
 }
 
 // --- the window
@@ -154,17 +166,24 @@ int photographWindow(PhoneWindow &window, const QString &file)
     return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
 }
 
-int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened, Faults &faults)
+int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened, Faults &faults,
+               const EndSignals &endSignals)
 {
     PhoneWindow window(library, {opened.handset, options.stateDirectory, opened.notice, &faults});
+    QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
+        window.close();
+        QCoreApplication::exit(ExitSuccess); // also while something else is open
+    });
     window.choosePage(options.page);
     window.show();
     if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
         return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));
-    return options.photo.isEmpty() ? QApplication::exec() : photographWindow(window, options.photo);
+    if (!options.photo.isEmpty())
+        return photographWindow(window, options.photo);
+    return endSignals.haveCome() ? ExitSuccess : QApplication::exec();
 }
 
-int runWindow(const Options &options, const ScreenLibrary &library)
+int runWindow(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
 {
     const handset::Opened opened = handset::open({options.backend, options.stateDirectory, nullptr});
     if (!opened.handset)
@@ -175,20 +194,22 @@ int runWindow(const Options &options, const ScreenLibrary &library)
         return code;
     const auto installed = std::make_shared<FaultyHandset>(opened.handset);
     handset::install(installed);
-    const int code = showWindow(options, library, opened, installed->faults());
+    const int code = showWindow(options, library, opened, installed->faults(), endSignals);
     handset::install(nullptr);
     return code;
 }
 
 int run(const Options &options)
 {
-    QTranslator translator;
-    if (const int code = loadTranslation(translator, options.translation))
+    const EndSignals endSignals; // outlives the telephone, whose call is to be written
+    Catalogue catalogue;
+    if (const int code = loadTranslation(catalogue, options.translation))
         return code;
     ScreenLibrary library;
     if (const int code = loadScreens(library, options.plugin))
         return code;
-    const int code = options.isTour() ? runTour(options, library) : runWindow(options, library);
+    const int code =
+        options.isTour() ? runTour(options, library, endSignals) : runWindow(options, library, endSignals);
     libaplog_close();
     return code;
 }
@@ -198,13 +219,12 @@ int run(const Options &options)
 // What the starting program calls.
 extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
 {
+    guardStandardStreams();
     const CommandLine line = readCommandLine(argc, argv);
     if (!line.error.isEmpty())
         return complain(ExitBadCommandLine, line.error + QStringLiteral(" See kavrecentcalls --help."));
-    if (!line.options) {
-        QTextStream(stdout) << line.output;
-        return ExitSuccess;
-    }
+    if (!line.options)
+        return print(line.output);
     const Options &options = *line.options;
     if (options.isTour() || !options.photo.isEmpty())
         fixSurroundings(options.isTour());

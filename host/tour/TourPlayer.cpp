@@ -106,6 +106,12 @@ int TourPlayer::play(const Script &played)
     return finish();
 }
 
+void TourPlayer::interrupt()
+{
+    if (!stopped)
+        stop(ExitInterrupted, QStringLiteral("The tour was ended by a signal."));
+}
+
 // Said before anything is played, as the script's mistakes are.
 bool TourPlayer::hasDirectoryToKeep(const Script &played)
 {

@@ -37,6 +37,10 @@ public:
     /// Plays `script`, which has no mistakes, and answers an ExitCode.
     int play(const Script &script);
 
+    /// Ends the tour before its next step, as at its end: screens are closed, a running call is ended and written.
+    /// play() then answers ExitInterrupted.
+    void interrupt();
+
 private:
     void perform(const SetState &action);
     void perform(const MakeCall &action);

@@ -172,6 +172,11 @@ bool appendTyped(const QString &text, QList<Key> &keys)
     return true;
 }
 
+QString tooManyKeys()
+{
+    return QStringLiteral("a script presses no more than %1 keys").arg(mostKeys);
+}
+
 Parsed parsePress(const QString &rest)
 {
     static const QRegularExpression form(QStringLiteral("\\G\\s*(?:\"([^\"]*)\"|([^\\s\"]+))(?=\\s|$)"));
@@ -184,6 +189,8 @@ Parsed parsePress(const QString &rest)
             match.hasMatch() && (isTyped ? appendTyped(word, press.keys) : appendKeys(word, press.keys));
         if (!isKnown)
             return Parsed::wrong(QStringLiteral("there is no key \"%1\"").arg(word));
+        if (press.keys.size() > mostKeys)
+            return Parsed::wrong(tooManyKeys());
         at = match.capturedEnd();
     }
     return press.keys.isEmpty() ? Parsed::wrong(QStringLiteral("which key?")) : done(press);
@@ -567,6 +574,22 @@ Parsed parseLine(const QString &line)
     return Parsed::wrong(QStringLiteral("unknown word \"%1\"").arg(word));
 }
 
+qsizetype keysOf(const Parsed &parsed)
+{
+    const auto *press = parsed.action ? std::get_if<Press>(&*parsed.action) : nullptr;
+    return press ? press->keys.size() : 0;
+}
+
+// Of a script that is to have one line more, and so many keys with it. Empty while it may.
+QString passedLimit(const Script &script, qsizetype keys)
+{
+    if (script.steps.size() + script.mistakes.size() >= mostSteps)
+        return QStringLiteral("a script has no more than %1 steps").arg(mostSteps);
+    if (keys > mostKeys)
+        return tooManyKeys();
+    return {};
+}
+
 } // namespace
 
 Script parseScript(const QString &name, const QString &text)
@@ -574,13 +597,18 @@ Script parseScript(const QString &name, const QString &text)
     Script script;
     script.name = name;
     int number = 0;
-    const QStringList lines = text.split(u'\n');
-    for (const QString &raw : lines) {
+    qsizetype keys = 0;
+    for (const QStringView raw : QStringView(text).tokenize(u'\n')) {
         ++number;
-        const QString line = raw.trimmed();
+        const QString line = raw.trimmed().toString();
         if (line.isEmpty() || line.startsWith(u'#'))
             continue;
         Parsed parsed = parseLine(line);
+        keys += keysOf(parsed);
+        if (const QString limit = passedLimit(script, keys); !limit.isEmpty()) {
+            script.mistakes << QStringLiteral("%1: %2").arg(script.place(number), limit);
+            break;
+        }
         if (parsed.action)
             script.steps.append({number, line, *parsed.action});
         else

@@ -117,7 +117,12 @@ struct Script {
     QString place(int line) const { return QStringLiteral("%1:%2").arg(name).arg(line); }
 };
 
-/// Reads the text of a script. Every line is looked at, so that all mistakes are told at once.
+/// What a script may hold: so many steps, and so many keys in all of them together. A tour of that size runs for hours.
+inline constexpr int mostSteps = 20'000;
+inline constexpr int mostKeys = 200'000;
+
+/// Reads the text of a script. Every line is looked at, so that all mistakes are told at once; from the first line on
+/// that is one step too many, or has a key too many, nothing more is.
 Script parseScript(const QString &name, const QString &text);
 
 /// "1h2m3s", "65s", "250ms" in milliseconds, 0 or more; -1 when it is no duration or more than 100 years.

@@ -1,0 +1,198 @@
+#include "Catalogue.h"
+
+#include "ReadFile.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QtEndian>
+
+#include <algorithm>
+#include <optional>
+
+namespace host {
+
+namespace {
+
+// lrelease's own numbers: what a file begins with, its sections, the parts of a message.
+constexpr unsigned char magic[] = {0x3c, 0xb8, 0x64, 0x18, 0xca, 0xef, 0x9c, 0x95,
+                                   0xcd, 0x21, 0x1c, 0xbf, 0x60, 0xa1, 0xbd, 0xdd};
+enum Section : quint8 { Contexts = 0x2f, Hashes = 0x42, Messages = 0x69, Dependencies = 0x96 };
+enum Part : quint8 { End = 1, Translation = 3, Obsolete = 5, SourceText = 6, Context = 7, Comment = 8 };
+
+constexpr qint64 largestCatalogue = qint64{64} * 1024 * 1024;
+
+/// Numbers, most significant byte first, from the front on. None where the bytes end.
+class Reader
+{
+public:
+    explicit Reader(QByteArrayView read)
+        : left(read)
+    {}
+
+    bool isAtEnd() const { return left.isEmpty(); }
+
+    template <typename Number>
+    std::optional<Number> number()
+    {
+        if (left.size() < qsizetype(sizeof(Number)))
+            return {};
+        const auto read = qFromBigEndian<Number>(left.data());
+        left = left.sliced(sizeof(Number));
+        return read;
+    }
+
+    std::optional<QByteArrayView> block(quint32 size)
+    {
+        if (left.size() < qsizetype(size))
+            return {};
+        const QByteArrayView taken = left.first(size);
+        left = left.sliced(size);
+        return taken;
+    }
+
+    std::optional<QByteArrayView> sizedBlock()
+    {
+        const auto size = number<quint32>();
+        return size ? block(*size) : std::nullopt;
+    }
+
+private:
+    QByteArrayView left;
+};
+
+struct Sections {
+    QByteArrayView contexts;
+    QByteArrayView hashes;
+    QByteArrayView messages;
+    bool hasDependencies = false;
+};
+
+void keep(Sections &sections, quint8 tag, QByteArrayView block)
+{
+    if (tag == Contexts)
+        sections.contexts = block;
+    else if (tag == Hashes)
+        sections.hashes = block;
+    else if (tag == Messages)
+        sections.messages = block;
+    else if (tag == Dependencies)
+        sections.hasDependencies = true;
+    // Qt looks at the rules of plurals itself; the language is a text, and what it does not know it skips.
+}
+
+// Nothing where they do not fill the bytes exactly.
+std::optional<Sections> sectionsOf(QByteArrayView bytes)
+{
+    Sections sections;
+    Reader reader(bytes);
+    while (!reader.isAtEnd()) {
+        const auto tag = reader.number<quint8>();
+        const auto block = reader.sizedBlock();
+        if (!tag || *tag == 0 || !block || block->isEmpty())
+            return {};
+        keep(sections, *tag, *block);
+    }
+    return sections;
+}
+
+// A message is a row of parts up to its end.
+bool isMessage(QByteArrayView bytes)
+{
+    Reader reader(bytes);
+    for (;;) {
+        const auto part = reader.number<quint8>();
+        if (part == End)
+            return true;
+        if (part == Obsolete) {
+            if (!reader.block(4))
+                return false;
+            continue;
+        }
+        if (part != Translation && part != SourceText && part != Context && part != Comment)
+            return false;
+        const auto text = reader.sizedBlock();
+        if (!text || (part == Translation && text->size() % 2 != 0))
+            return false;
+    }
+}
+
+// Pairs of a hash, in rising order, and where its message begins.
+bool areHashes(QByteArrayView hashes, QByteArrayView messages)
+{
+    if (hashes.size() % 8 != 0)
+        return false;
+    Reader reader(hashes);
+    quint32 before = 0;
+    while (!reader.isAtEnd()) {
+        const quint32 hash = *reader.number<quint32>();
+        const quint32 offset = *reader.number<quint32>();
+        if (hash < before || qsizetype(offset) >= messages.size() || !isMessage(messages.sliced(offset)))
+            return false;
+        before = hash;
+    }
+    return true;
+}
+
+// Names, each behind its length, up to a length of 0.
+bool isChain(QByteArrayView bytes)
+{
+    Reader reader(bytes);
+    for (;;) {
+        const auto length = reader.number<quint8>();
+        if (!length || !reader.block(*length))
+            return false;
+        if (*length == 0)
+            return true;
+    }
+}
+
+// A table of so many places, in units of two bytes from behind itself on; 0 is none.
+bool areContexts(QByteArrayView contexts)
+{
+    Reader reader(contexts);
+    const auto count = reader.number<quint16>();
+    if (!count || *count == 0 || contexts.size() < 2 + 2 * *count)
+        return false;
+    const QByteArrayView names = contexts.sliced(2 + 2 * *count);
+    for (int i = 0; i < *count; ++i) {
+        const qsizetype place = qsizetype{2} * *reader.number<quint16>();
+        if (place != 0 && (place >= names.size() || !isChain(names.sliced(place))))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+QString findDamage(const QByteArray &bytes)
+{
+    const QByteArrayView start(magic, sizeof magic);
+    if (!QByteArrayView(bytes).startsWith(start))
+        return QStringLiteral("it is no catalogue");
+    const auto sections = sectionsOf(QByteArrayView(bytes).sliced(start.size()));
+    if (!sections)
+        return QStringLiteral("it is damaged, a section of it is not whole");
+    if (sections->hasDependencies)
+        return QStringLiteral("it needs other catalogues");
+    if (!areHashes(sections->hashes, sections->messages))
+        return QStringLiteral("it is damaged, a text of it is not where it should be");
+    if (!sections->contexts.isEmpty() && !areContexts(sections->contexts))
+        return QStringLiteral("it is damaged, its table of contexts leads nowhere");
+    return {};
+}
+
+QString Catalogue::install(const QString &file)
+{
+    const QString refusal = QStringLiteral("The catalogue \"%1\" cannot be loaded: %2.");
+    QString problem = readFile(file, largestCatalogue, bytes);
+    if (problem.isEmpty())
+        problem = findDamage(bytes);
+    if (problem.isEmpty() &&
+        !translator.load(reinterpret_cast<const uchar *>(bytes.constData()), static_cast<int>(bytes.size())))
+        problem = QStringLiteral("it has no texts, or wrong rules of plurals");
+    if (!problem.isEmpty())
+        return refusal.arg(file, problem);
+    QCoreApplication::installTranslator(&translator);
+    return {};
+}
+
+} // namespace host

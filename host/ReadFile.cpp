@@ -1,0 +1,25 @@
+#include "ReadFile.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+
+namespace host {
+
+QString readFile(const QString &file, qint64 limit, QByteArray &bytes)
+{
+    if (!QFileInfo::exists(file))
+        return QStringLiteral("there is none");
+    if (!QFileInfo(file).isFile())
+        return QStringLiteral("it is no file");
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return source.errorString();
+    bytes = source.read(limit + 1);
+    if (source.error() != QFileDevice::NoError)
+        return source.errorString();
+    if (bytes.size() > limit)
+        return QStringLiteral("it is larger than %1 MiB").arg(limit / (1024 * 1024));
+    return {};
+}
+
+} // namespace host

@@ -1,0 +1,240 @@
+// Catalogues that a disk, a transfer or somebody has damaged.
+#include "Catalogue.h"
+#include "HostProcess.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtCore/QTranslator>
+#include <QtCore/QtEndian>
+#include <QtTest/QTest>
+
+namespace {
+
+// Where things are, and how large, in what lrelease makes.
+constexpr qsizetype magicSize = 16;
+constexpr qsizetype sectionHead = 5;
+
+QByteArray wholeCatalogue()
+{
+    QFile file(QStringLiteral(KAV_CATALOGUE));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray section(quint8 tag, const QByteArray &block)
+{
+    QByteArray bytes(sectionHead, '\0');
+    bytes[0] = static_cast<char>(tag);
+    qToBigEndian(static_cast<quint32>(block.size()), bytes.data() + 1);
+    return bytes + block;
+}
+
+QByteArray number(quint32 value)
+{
+    QByteArray bytes(4, '\0');
+    qToBigEndian(value, bytes.data());
+    return bytes;
+}
+
+QByteArray magic()
+{
+    return wholeCatalogue().left(magicSize);
+}
+
+// Where the section with this tag begins.
+qsizetype placeOf(const QByteArray &bytes, quint8 tag)
+{
+    qsizetype place = magicSize;
+    while (static_cast<quint8>(bytes.at(place)) != tag)
+        place += sectionHead + qFromBigEndian<quint32>(bytes.constData() + place + 1);
+    return place;
+}
+
+// The whole catalogue with four other bytes.
+QByteArray changed(quint8 tag, qsizetype behindHead, quint32 value)
+{
+    QByteArray bytes = wholeCatalogue();
+    return bytes.replace(placeOf(bytes, tag) + sectionHead + behindHead, 4, number(value));
+}
+
+// Everything that the phone asks a translator.
+void askForTexts(const QTranslator &translator)
+{
+    for (const char *context : {"host::MenuScreen", "PHONE_UI_RecentCallTimesView", "", "nothing"}) {
+        translator.translate(context, "TXT_RID_HEADER_RECENT_CALLS", "Recent Calls");
+        translator.translate(context, "TXT_RID_HEADER_CALL_TIMES", "Call Times", 3);
+        translator.translate(context, "", "");
+    }
+}
+
+} // namespace
+
+class CatalogueTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void whatLreleaseMakesIsWhole();
+    void damageIsFound_data();
+    void damageIsFound();
+    void aTableOfContextsThatIsWholeIsTaken();
+    void anUnknownSectionIsPassedOver();
+    void whatIsCutOffAnywhereIsFoundOrHarmless();
+    void whatIsChangedAnywhereIsFoundOrHarmless_data();
+    void whatIsChangedAnywhereIsFoundOrHarmless();
+    void theProgramRefusesADamagedCatalogue_data();
+    void theProgramRefusesADamagedCatalogue();
+    void theProgramRefusesACatalogueOfGigabytes();
+};
+
+void CatalogueTest::whatLreleaseMakesIsWhole()
+{
+    QVERIFY(!wholeCatalogue().isEmpty());
+    QCOMPARE(host::findDamage(wholeCatalogue()), QString());
+}
+
+void CatalogueTest::damageIsFound_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    const QByteArray whole = wholeCatalogue();
+    const QByteArray end("\x01", 1);
+    const auto one = [&](const QByteArray &hashes, const QByteArray &messages, const QByteArray &more = {}) {
+        return magic() + section(0x42, hashes) + section(0x69, messages) + more;
+    };
+    const QByteArray sound = number(1) + number(0);
+    QTest::newRow("nothing") << QByteArray();
+    QTest::newRow("another kind of file") << QByteArray("\x7f"
+                                                        "ELF") +
+                                                 whole;
+    QTest::newRow("a byte behind the last section") << whole + '\0';
+    QTest::newRow("a section longer than the file") << magic() + QByteArray("\x42\xff\xff\xff\xff", 5);
+    QTest::newRow("a section that ends in its head") << magic() + QByteArray("\x42\0", 2);
+    QTest::newRow("an empty section") << magic() + section(0x42, {});
+    QTest::newRow("half a hash") << one(sound + number(2), end);
+    QTest::newRow("a hash out of order") << one(number(2) + number(0) + number(1) + number(0), end);
+    QTest::newRow("a text outside the texts") << changed(0x42, 4, 0x7ffffff0);
+    QTest::newRow("a text at the end of the texts") << one(number(1) + number(1), end);
+    QTest::newRow("hashes without texts") << magic() + section(0x42, sound);
+    QTest::newRow("a text without an end") << one(sound, QByteArray("\x05\0\0\0\0", 5));
+    QTest::newRow("a translation longer than the texts") << one(sound, "\x03" + number(0x7ffffff0) + end);
+    QTest::newRow("a translation of half a character") << one(sound, QByteArray("\x03") + number(1) + 'x' + end);
+    QTest::newRow("a comment longer than the texts") << one(sound, "\x08" + number(0xfffffff0) + end);
+    QTest::newRow("an unknown part") << one(sound, QByteArray("\x63\x01", 2));
+    QTest::newRow("an old part that is cut off") << one(sound, QByteArray("\x05\0\0", 3));
+    QTest::newRow("a table of contexts with no place") << one(sound, end, section(0x2f, QByteArray(2, '\0')));
+    QTest::newRow("a table of contexts that is cut off")
+        << one(sound, end, section(0x2f, QByteArray("\0\x09\0\0", 4)));
+    QTest::newRow("a context outside the names")
+        << one(sound, end, section(0x2f, QByteArray("\0\x01\x7f\xff\0\0", 6)));
+    QTest::newRow("a context without an end")
+        << one(sound, end, section(0x2f, QByteArray("\0\x01\0\x01\0\0\x02zz", 9)));
+    QTest::newRow("other catalogues to be loaded") << whole + section(0x96, QByteArray("\0\0\0\x06\0o\0n\0e", 10));
+}
+
+void CatalogueTest::damageIsFound()
+{
+    QFETCH(QByteArray, bytes);
+    QVERIFY(!host::findDamage(bytes).isEmpty());
+}
+
+void CatalogueTest::aTableOfContextsThatIsWholeIsTaken()
+{
+    const QByteArray contexts("\0\x02\0\0\0\x01\0\0\x02zz\0", 12);
+    QCOMPARE(host::findDamage(wholeCatalogue() + section(0x2f, contexts)), QString());
+}
+
+void CatalogueTest::anUnknownSectionIsPassedOver()
+{
+    QCOMPARE(host::findDamage(wholeCatalogue() + section(0x11, "later")), QString());
+}
+
+void CatalogueTest::whatIsCutOffAnywhereIsFoundOrHarmless()
+{
+    const QByteArray whole = wholeCatalogue();
+    for (qsizetype size = 0; size < whole.size(); ++size) {
+        const QByteArray bytes = whole.left(size);
+        if (!host::findDamage(bytes).isEmpty())
+            continue;
+        QTranslator translator;
+        if (translator.load(reinterpret_cast<const uchar *>(bytes.constData()), static_cast<int>(bytes.size())))
+            askForTexts(translator);
+    }
+    QVERIFY(!host::findDamage(whole.chopped(1)).isEmpty());
+}
+
+void CatalogueTest::whatIsChangedAnywhereIsFoundOrHarmless_data()
+{
+    QTest::addColumn<int>("value");
+    QTest::newRow("to 0") << 0x00;
+    QTest::newRow("to 1") << 0x01;
+    QTest::newRow("to 127") << 0x7f;
+    QTest::newRow("to 255") << 0xff;
+}
+
+// The sanitizers see a step outside; without them a crash does.
+void CatalogueTest::whatIsChangedAnywhereIsFoundOrHarmless()
+{
+    QFETCH(int, value);
+    const QByteArray whole = wholeCatalogue();
+    int found = 0;
+    for (qsizetype place = 0; place < whole.size(); ++place) {
+        QByteArray bytes = whole;
+        bytes[place] = static_cast<char>(value);
+        if (!host::findDamage(bytes).isEmpty()) {
+            ++found;
+            continue;
+        }
+        QTranslator translator;
+        if (translator.load(reinterpret_cast<const uchar *>(bytes.constData()), static_cast<int>(bytes.size())))
+            askForTexts(translator);
+    }
+    QVERIFY(found > magicSize / 2);
+}
+
+void CatalogueTest::theProgramRefusesADamagedCatalogue_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("with translations of a length below zero") << [] {
+        QByteArray bytes = wholeCatalogue();
+        const qsizetype hashes = placeOf(bytes, 0x42) + sectionHead;
+        const qsizetype messages = placeOf(bytes, 0x69) + sectionHead;
+        for (qsizetype entry = hashes; entry < messages - sectionHead; entry += 8) {
+            const auto message = qFromBigEndian<quint32>(bytes.constData() + entry + 4);
+            bytes.replace(messages + message + 1, 4, number(0x80000000));
+        }
+        return bytes;
+    }();
+    QTest::newRow("with an empty table of contexts") << wholeCatalogue() + section(0x2f, QByteArray(2, '\0'));
+}
+
+void CatalogueTest::theProgramRefusesADamagedCatalogue()
+{
+    QFETCH(QByteArray, bytes);
+    const QTemporaryDir home;
+    QFile file(home.filePath(QStringLiteral("damaged.qm")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    file.close();
+    const HostResult result =
+        runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
+                 home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), file.fileName()},
+                hostEnvironment(home.path()));
+    QCOMPARE(result.code, 8);
+    QVERIFY2(result.errors.contains(QStringLiteral("damaged.qm\" cannot be loaded: it is damaged")),
+             qPrintable(result.errors));
+}
+
+void CatalogueTest::theProgramRefusesACatalogueOfGigabytes()
+{
+    const QTemporaryDir home;
+    QFile file(home.filePath(QStringLiteral("large.qm")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{40} * 1024 * 1024 * 1024)); // takes no room
+    file.close();
+    const HostResult result =
+        runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
+                 home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), file.fileName()},
+                hostEnvironment(home.path()));
+    QCOMPARE(result.code, 8);
+    QVERIFY2(result.errors.contains(QStringLiteral("it is larger than 64 MiB")), qPrintable(result.errors));
+}
+
+QTEST_GUILESS_MAIN(CatalogueTest)
+#include "tst_catalogue.moc"

@@ -1,0 +1,221 @@
+// How the program ends when it is asked to from outside, and when nobody reads what it prints.
+#include "HostProcess.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr int patienceMs = 120'000;
+
+} // namespace
+
+class EndsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void aSignalClosesTheWindowAndTheCallLogInOrder_data() { everySignal(); }
+    void aSignalClosesTheWindowAndTheCallLogInOrder();
+    void aSignalEndsATourWithTheRunningCallWritten_data() { everySignal(); }
+    void aSignalEndsATourWithTheRunningCallWritten();
+    void aSignalThatTheShellIgnoredStaysIgnored();
+    void aReaderThatGoesIsAnErrorAndNoDeath_data();
+    void aReaderThatGoesIsAnErrorAndNoDeath();
+    void aClosedOutputIsAnErrorAndGetsIntoNoFile();
+    void aScriptOfTooManyStepsIsRefused_data();
+    void aScriptOfTooManyStepsIsRefused();
+    void aScriptOfGigabytesIsRefused();
+
+private:
+    static void everySignal();
+    QString path(const char *name) const { return home->filePath(QString::fromLatin1(name)); }
+    QString write(const char *name, const QByteArray &text) const;
+    void start(QProcess &process, const QStringList &arguments) const;
+    HostResult run(const QStringList &arguments) const
+    {
+        return runHost(arguments, hostEnvironment(home->path()));
+    }
+
+    std::unique_ptr<QTemporaryDir> home;
+};
+
+void EndsTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    home = std::make_unique<QTemporaryDir>();
+    QVERIFY(home->isValid());
+}
+
+void EndsTest::everySignal()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+QString EndsTest::write(const char *name, const QByteArray &text) const
+{
+    QFile file(path(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
+        qFatal("%s cannot be written", name);
+    return file.fileName();
+}
+
+void EndsTest::start(QProcess &process, const QStringList &arguments) const
+{
+    process.setProcessEnvironment(hostEnvironment(home->path()));
+    process.start(QStringLiteral(KAV_HOST_PROGRAM), arguments);
+}
+
+// The window is open when its screen has asked the telephone.
+void EndsTest::aSignalClosesTheWindowAndTheCallLogInOrder()
+{
+    QFETCH(int, signal);
+    QProcess process;
+    start(process, {"--state", path("state"), "--screen", "callTime", "--trace", "-"});
+    QVERIFY(process.waitForReadyRead(patienceMs));
+    QVERIFY(QFile::exists(path("state/calllog.db-wal")));
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QVERIFY(process.waitForFinished(patienceMs));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(!QFile::exists(path("state/calllog.db-wal"))); // SQLite's own sign of a database that was closed
+}
+
+// A tour for hours, with a call of 65 seconds that goes on.
+void EndsTest::aSignalEndsATourWithTheRunningCallWritten()
+{
+    QFETCH(int, signal);
+    const QString script = write("long.tour", "state kept\ndial 5550123\nanswer\nclock +65s\nshow\n" +
+                                                  QByteArray("expect line connected\n").repeated(15'000));
+    QProcess process;
+    start(process, {"--tour", path("tour"), "--script", script, "--state", path("state")});
+    QByteArray output;
+    while (!output.contains("line connected")) {
+        QVERIFY(process.waitForReadyRead(patienceMs));
+        output += process.readAllStandardOutput();
+    }
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QVERIFY(process.waitForFinished(patienceMs));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 10);
+    QVERIFY(process.readAllStandardError().contains("ended by a signal"));
+    const QString look =
+        write("look.tour", "state kept\nexpect line idle\nopen callTime\nexpect row 1 Dialed Calls | 00:01:05\n");
+    const HostResult after = run({"--tour", path("tour"), "--script", look, "--state", path("state")});
+    QVERIFY2(after.code == 0, qPrintable(after.errors));
+}
+
+void EndsTest::aSignalThatTheShellIgnoredStaysIgnored()
+{
+    QProcess process;
+    process.setProcessEnvironment(hostEnvironment(home->path()));
+    process.start("sh", {"-c", "trap '' HUP; exec \"$0\" --state none --screen callTime --trace -",
+                         QStringLiteral(KAV_HOST_PROGRAM)});
+    QVERIFY(process.waitForReadyRead(patienceMs));
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGHUP), 0);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGTERM), 0);
+    QVERIFY(process.waitForFinished(patienceMs));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+}
+
+void EndsTest::aReaderThatGoesIsAnErrorAndNoDeath_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::newRow("help") << QStringList{"--help"} << 7;
+    QTest::newRow("a tour") << QStringList{"--tour", "TOUR", "--script", "SCRIPT"} << 7;
+    QTest::newRow("a window that traces")
+        << QStringList{"--state", "none", "--screen", "callTime", "--trace", "-", "--photo", "TOUR/window.png"}
+        << 0;
+}
+
+void EndsTest::aReaderThatGoesIsAnErrorAndNoDeath()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, code);
+    QVERIFY(QDir(home->path()).mkpath("tour"));
+    arguments.replaceInStrings("TOUR", path("tour"));
+    arguments.replaceInStrings("SCRIPT", write("short.tour", "open callTime\n"));
+    int pipe[2] = {};
+    QCOMPARE(::pipe2(pipe, O_CLOEXEC), 0);
+    ::close(pipe[0]);
+    QProcess process;
+    process.setChildProcessModifier([&pipe] {
+        ::signal(SIGPIPE, SIG_DFL);
+        ::dup2(pipe[1], STDOUT_FILENO);
+    });
+    start(process, arguments);
+    QVERIFY(process.waitForFinished(patienceMs));
+    ::close(pipe[1]);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), code);
+}
+
+// What is opened first would get the number of the standard output, and the tour be printed into the call log.
+void EndsTest::aClosedOutputIsAnErrorAndGetsIntoNoFile()
+{
+    const QString script = write("short.tour", "state kept\nopen callTime\n");
+    QProcess process;
+    process.setChildProcessModifier([] {
+        ::close(STDIN_FILENO);
+        ::close(STDOUT_FILENO);
+    });
+    start(process,
+          {"--tour", path("tour"), "--script", script, "--state", path("state"), "--trace", path("trace")});
+    QVERIFY(process.waitForFinished(patienceMs));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 7);
+    QFile trace(path("trace"));
+    QVERIFY(trace.open(QIODevice::ReadOnly));
+    QVERIFY(!trace.readAll().contains("expectations"));
+}
+
+void EndsTest::aScriptOfTooManyStepsIsRefused_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QString>("mistake");
+    QTest::newRow("many steps") << QByteArray("show\n").repeated(100'000)
+                                << "too.tour:20001: a script has no more";
+    QTest::newRow("few steps with very many keys")
+        << QByteArray("press down*1000 up*1000\n").repeated(50'000) << "too.tour:101: a script presses no more";
+    QTest::newRow("one step with very many keys")
+        << "press" + QByteArray(" down*1000").repeated(300'000) << "too.tour:1: a script presses no more";
+    QTest::newRow("many mistakes") << QByteArray("nonsense\n").repeated(100'000)
+                                   << "too.tour:20001: a script has no more";
+}
+
+void EndsTest::aScriptOfTooManyStepsIsRefused()
+{
+    QFETCH(QByteArray, text);
+    QFETCH(QString, mistake);
+    const QString script = write("too.tour", text);
+    const HostResult result = run({"--tour", path("tour"), "--script", script});
+    QCOMPARE(result.code, 6);
+    QVERIFY2(result.errors.contains(mistake), qPrintable(result.errors.right(1'000)));
+    QVERIFY(!QFile::exists(path("tour")));
+}
+
+void EndsTest::aScriptOfGigabytesIsRefused()
+{
+    const QString script = write("large.tour", {});
+    QVERIFY(QFile::resize(script, qint64{40} * 1024 * 1024 * 1024)); // takes no room
+    const HostResult result = run({"--tour", path("tour"), "--script", script});
+    QCOMPARE(result.code, 6);
+    QVERIFY2(result.errors.contains("it is larger than 4 MiB"), qPrintable(result.errors));
+}
+
+QTEST_GUILESS_MAIN(EndsTest)
+#include "tst_ends.moc"
