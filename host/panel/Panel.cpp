@@ -15,6 +15,8 @@
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QVBoxLayout>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -44,6 +46,7 @@ Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
     pageColumn = makeColumn(nullptr);
     column->addLayout(pageColumn);
     column->addStretch();
+    addPages(setup); // before the column is laid out: tabs that come later find no room
     setFrameShape(NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
@@ -52,7 +55,6 @@ Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
     setWidget(content);
     connect(&line, &Line::changed, this, &Panel::refresh);
     connect(&tick, &QTimer::timeout, this, &Panel::refresh);
-    addPages(setup);
 }
 
 void Panel::addPages(const Setup &setup)
@@ -109,6 +111,12 @@ void Panel::showPage(int index)
 void Panel::choosePage(int index)
 {
     tabs->setCurrentIndex(index);
+}
+
+QSize Panel::sizeHint() const
+{
+    const int least = widget()->minimumSizeHint().width();
+    return {std::max(usualWidth, least), QScrollArea::sizeHint().height()};
 }
 
 PanelSection *Panel::keep(PanelSection *section)

@@ -35,7 +35,7 @@ public:
         int page = 0;             ///< shown first, as by choosePage()
     };
 
-    /// What it wants to be as wide as with its own texts; translated ones may want more.
+    /// As wide as it is with its own texts; translated ones may need more.
     static constexpr int usualWidth = 340;
 
     /// `line`, and what `setup` points to, outlive the panel.
@@ -43,6 +43,9 @@ public:
 
     /// Shows the page of row `index` of pageNames; a page that there is not changes nothing.
     void choosePage(int index);
+
+    /// As wide as usual, unless its texts need more at the least.
+    QSize sizeHint() const override;
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

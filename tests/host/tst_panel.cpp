@@ -394,7 +394,11 @@ void PanelTest::eachTabShowsItsSections()
         }
         return titles;
     };
-    QCOMPARE(window->findChild<QTabBar *>()->count(), static_cast<int>(pageNames.size()));
+    const auto *tabs = window->findChild<QTabBar *>();
+    QCOMPARE(tabs->count(), static_cast<int>(pageNames.size()));
+    QVERIFY(tabs->isVisible());
+    for (int tab = 0; tab < tabs->count(); ++tab)
+        QVERIFY2(tabs->rect().contains(tabs->tabRect(tab)), qPrintable(tabs->tabText(tab)));
     QCOMPARE(shown(), (QStringList{"Line", "Call timers", "State"}));
     window->choosePage(2);
     QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
@@ -442,11 +446,13 @@ void PanelTest::aTabIsMadeWhenItIsFirstOpened()
 void PanelTest::theTabThatIsAskedForIsTheFirstToBeMade()
 {
     PhoneWindow fresh(library, PhoneWindow::Telephone{owner, {}, {}});
-    fresh.choosePage(3);
+    const QSize usual = fresh.sizeHint();
+    fresh.choosePage(1);
     QCOMPARE(madeSections(fresh), QStringList());
     fresh.complete();
-    QCOMPARE(madeSections(fresh), (QStringList{"Line", "Packet data"}));
-    QCOMPARE(fresh.findChild<QTabBar *>()->currentIndex(), 3);
+    QCOMPARE(madeSections(fresh), (QStringList{"Line", "Tariff", "Costs", "Prepaid account"}));
+    QCOMPARE(fresh.findChild<QTabBar *>()->currentIndex(), 1);
+    QCOMPARE(fresh.sizeHint(), usual);
 }
 
 void PanelTest::aTariffIsSetByItsNumbers_data()
