@@ -27,15 +27,30 @@ auto ruleOf(Files &files, quint8 file) -> decltype(&files.acmRule)
 
 } // namespace
 
+SimCard::SimCard()
+    : newCodes(std::make_shared<std::optional<Pin2Record>>())
+{}
+
 SimCard::SimCard(const SimFiles &stored, const Pin2Record &storedPin)
     : content(stored)
     , pin(storedPin)
 {}
 
+bool operator==(const SimCard &one, const SimCard &other)
+{
+    if (one.content != other.content)
+        return false;
+    const bool areUntouched = !one.pin && !other.pin && one.newCodes == other.newCodes;
+    return areUntouched || one.pin2().record() == other.pin2().record();
+}
+
 Pin2 &SimCard::madePin() const
 {
-    if (!pin)
-        pin.emplace(newCardPin2, newCardPuk2);
+    if (!pin) {
+        if (!*newCodes)
+            *newCodes = Pin2(newCardPin2, newCardPuk2).record();
+        pin.emplace(**newCodes);
+    }
     return *pin;
 }
 

@@ -6,6 +6,7 @@
 #include "Pin2.h"
 #include "Puct.h"
 
+#include <memory>
 #include <optional>
 
 namespace handset::sim {
@@ -36,8 +37,8 @@ public:
     static constexpr QByteArrayView newCardPuk2{"12345678"};
 
     /// A new card: meters at 0, no limit, no price, every file free, PIN2 on and not entered. What is kept of its codes
-    /// takes some milliseconds to make, and is made when it is asked for.
-    SimCard() = default;
+    /// takes some milliseconds to make, and is made when it is asked for, once for all its copies.
+    SimCard();
     /// A card as it was stored, just switched on.
     SimCard(const SimFiles &stored, const Pin2Record &storedPin);
 
@@ -78,12 +79,16 @@ public:
 
     const SimFiles &files() const { return content; }
 
+    /// Whether the same of both outlasts power-off.
+    friend bool operator==(const SimCard &, const SimCard &);
+
 private:
     void writeAcm(quint32 units);
     Pin2 &madePin() const;
 
     SimFiles content;
-    mutable std::optional<Pin2> pin; ///< nothing: still that of a new card
+    mutable std::optional<Pin2> pin;                     ///< nothing: that of the new card
+    std::shared_ptr<std::optional<Pin2Record>> newCodes; ///< of a new card and its copies; nothing: not made yet
 };
 
 } // namespace handset::sim
