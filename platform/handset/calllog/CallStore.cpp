@@ -17,8 +17,11 @@ namespace {
 constexpr auto insertRowSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state)"
                               " VALUES (:kind, :direction, :number, :started, :duration, :units, :state)";
 constexpr auto addTimeSql = "UPDATE calls SET state = :state, %1, %2 WHERE id = :id";
-constexpr auto addToTotalsSql = "UPDATE totals SET %1 WHERE counter IN (:own, 'all', 'lifetime', :last)";
-constexpr auto addToCostsSql = "UPDATE costs SET %1 WHERE counter IN (:own, :last)";
+// These tables are small enough to be walked. The plus signs keep SQLite from looking each key up, for which it would
+// first make a table of the keys, every time.
+constexpr auto addToTotalsSql =
+    "UPDATE totals SET %1 WHERE +counter = :own OR +counter = :last OR +counter = 'all' OR +counter = 'lifetime'";
+constexpr auto addToCostsSql = "UPDATE costs SET %1 WHERE +counter = :own OR +counter = :last";
 constexpr auto setTotalSql = "UPDATE totals SET ms = :ms WHERE counter = :counter";
 constexpr auto totalSql = "SELECT ms FROM totals WHERE counter = :counter";
 constexpr auto setCostSql = "UPDATE costs SET units = :units WHERE counter = :counter";
@@ -265,7 +268,7 @@ int CallStore::reset(const ResetPlan &plan)
 
 int CallStore::keep(const KeptValues &values)
 {
-    return status(database->inTransaction([&] { return putAll(values); }));
+    return values.isEmpty() ? Success : status(database->inTransaction([&] { return putAll(values); }));
 }
 
 int CallStore::kept(const QString &name, QByteArray &content)

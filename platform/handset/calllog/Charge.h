@@ -38,9 +38,15 @@ static_assert(
     }(),
     "costCounterNames is indexed by the counter");
 
-inline QString costCounterKey(CostCounter counter)
+inline const QString &costCounterKey(CostCounter counter)
 {
-    return QString::fromLatin1(costCounterNames[static_cast<std::size_t>(counter)].key);
+    static const auto keys = [] {
+        std::array<QString, costCounterNames.size()> texts;
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            texts[i] = QString::fromLatin1(costCounterNames[i].key);
+        return texts;
+    }();
+    return keys[static_cast<std::size_t>(counter)];
 }
 
 /// The counter of its own kind that a call's cost adds to, beside the last call's; nothing for a data call.

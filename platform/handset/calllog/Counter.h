@@ -37,9 +37,15 @@ static_assert(
     }(),
     "counterNames is indexed by the counter");
 
-inline QString counterKey(Counter counter)
+inline const QString &counterKey(Counter counter)
 {
-    return QString::fromLatin1(counterNames[static_cast<std::size_t>(counter)].key);
+    static const auto keys = [] {
+        std::array<QString, counterNames.size()> texts;
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            texts[i] = QString::fromLatin1(counterNames[i].key);
+        return texts;
+    }();
+    return keys[static_cast<std::size_t>(counter)];
 }
 
 /// The counter of its own kind that a call adds to, beside the last, all and lifetime calls.

@@ -50,10 +50,14 @@ Database::Database(const QString &file, Access access)
     connection.setDatabaseName(file);
     if (!connection.open())
         error = connection.lastError();
+    else if (prepare(begin, QStringLiteral("BEGIN IMMEDIATE")))
+        prepare(commit, QStringLiteral("COMMIT"));
 }
 
 Database::~Database()
 {
+    begin = QSqlQuery();
+    commit = QSqlQuery();
     connection.close();
     connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);

@@ -65,9 +65,9 @@ public:
     template <typename Work>
     bool inTransaction(Work work)
     {
-        if (!run(QStringLiteral("BEGIN IMMEDIATE")))
+        if (!run(begin))
             return false;
-        if (work() && run(QStringLiteral("COMMIT")))
+        if (work() && run(commit))
             return true;
         const QSqlError reason = error;
         run(QStringLiteral("ROLLBACK"));
@@ -80,6 +80,8 @@ public:
 private:
     QString name;
     QSqlDatabase connection;
+    QSqlQuery begin; ///< of a transaction; kept, as every write runs both
+    QSqlQuery commit;
     QSqlError error;
 };
 

@@ -5,11 +5,11 @@
 
 namespace handset::calllog {
 
-/// An assignment of UPDATE that adds a bound value to a column, both 0 or more, up to 2^63 - 1: SQLite's own sum would
-/// turn into a floating-point number there.
+/// An assignment of UPDATE that adds a bound value to a column, both 0 or more, up to 2^63 - 1. SQLite's own sum turns
+/// into a floating-point number beyond that, which is the greater of the two.
 inline QString saturatingAddSql(const char *column, const char *value)
 {
-    return QStringLiteral("%1 = min(%1, 9223372036854775807 - %2) + %2")
+    return QStringLiteral("%1 = min(9223372036854775807, %1 + %2)")
         .arg(QLatin1String(column), QLatin1String(value));
 }
 

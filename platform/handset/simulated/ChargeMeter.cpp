@@ -70,9 +70,8 @@ int ChargeMeter::change(const ChargingState &next)
 
 int ChargeMeter::change(const ChargingState &next, const std::function<int(const calllog::KeptValues &)> &write)
 {
-    next.card.pin2(); // makes a new card's codes once, not in every copy of it
     const ChargingState before = std::exchange(kept, next); // who is told of the change finds it made
-    const int status = write(keptValues(next));
+    const int status = write(changedValues(before, next));
     if (status != Success)
         kept = before;
     return status;
@@ -102,10 +101,9 @@ calllog::Charge ChargeMeter::due(qint64 connectedMs) const
     const quint32 units = dueUnits(connectedMs);
     if (units == 0)
         return {};
-    kept.card.pin2(); // as above
     ChargingState next = kept;
     next.charge(units);
-    return {units, keptValues(next)};
+    return {units, changedValues(kept, next)};
 }
 
 void ChargeMeter::charged(const calllog::Charge &charge)

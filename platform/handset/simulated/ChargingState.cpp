@@ -146,6 +146,16 @@ QByteArray chargingRecord(const ChargingState &state)
     return bytesOf(object);
 }
 
+calllog::KeptValue keptCard(const ChargingState &state)
+{
+    return {QString::fromLatin1(keptCardName), sim::saveCard(state.card)};
+}
+
+calllog::KeptValue keptCharging(const ChargingState &state)
+{
+    return {QString::fromLatin1(keptChargingName), chargingRecord(state)};
+}
+
 Tariff unitEveryTenSeconds()
 {
     Tariff tariff;
@@ -183,8 +193,18 @@ bool costsAnything(const Tariff &tariff)
 
 calllog::KeptValues keptValues(const ChargingState &state)
 {
-    return {{QString::fromLatin1(keptCardName), sim::saveCard(state.card)},
-            {QString::fromLatin1(keptChargingName), chargingRecord(state)}};
+    return {keptCard(state), keptCharging(state)};
+}
+
+calllog::KeptValues changedValues(const ChargingState &before, const ChargingState &after)
+{
+    calllog::KeptValues changed;
+    if (before.card != after.card)
+        changed << keptCard(after);
+    if (before.chargeType != after.chargeType || before.tariffs != after.tariffs ||
+        before.account != after.account)
+        changed << keptCharging(after);
+    return changed;
 }
 
 bool readCard(const QByteArray &kept, ChargingState &state)

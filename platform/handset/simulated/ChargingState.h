@@ -47,6 +47,8 @@ inline constexpr auto keptCardName = "card";
 inline constexpr auto keptChargingName = "charging";
 
 calllog::KeptValues keptValues(const ChargingState &state);
+/// Those of `after` that are others than those of `before`, which are kept already or are a new telephone's.
+calllog::KeptValues changedValues(const ChargingState &before, const ChargingState &after);
 
 /// Reads back what was kept. What a new call log has there leaves `state` as it is. False for what cannot be used:
 /// damaged, of a later version, or missing (a null array).

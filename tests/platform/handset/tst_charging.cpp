@@ -134,6 +134,7 @@ private slots:
     void aFailedWriteLeavesUnitsDue();
     void aCrashAfterAResetOfATimeChargesTheWholeCall_data();
     void aCrashAfterAResetOfATimeChargesTheWholeCall();
+    void whatAChargeLeavesAloneIsNotWritten();
     void aFailedWriteChangesNoSetting_data();
     void aFailedWriteChangesNoSetting();
     void aDamagedCardIsKeptAsideAndToldOnce();
@@ -831,6 +832,26 @@ void TestCharging::aCrashAfterAResetOfATimeChargesTheWholeCall()
     QCOMPARE(phone->hangUp(), int(Success));
     QCOMPARE(costsOf(phone), (FourCosts{"6.00", "6.00", "0.00", "6.00"})); // and not twice
     QCOMPARE(creditOf(phone), QByteArray("94.00"));
+}
+
+void TestCharging::whatAChargeLeavesAloneIsNotWritten()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(makeExpensive(phone));
+    const LogFile file(state.database());
+    for (const char *change : {"INSERT", "UPDATE"})
+        QVERIFY(file.run(QStringLiteral("CREATE TRIGGER charging_%1 BEFORE %1 ON kept WHEN NEW.name = 'charging'"
+                                        " BEGIN SELECT RAISE(ABORT, 'written'); END")
+                             .arg(QLatin1String(change))));
+    QVERIFY(phone.dialed(4 * second));
+    QCOMPARE(advice(phone).setMeterMaximum(QStringLiteral("500")), int(Success));
+    QCOMPARE(phone->simCard().card().acm(), 4U);
+    const QVariant card = file.value(QStringLiteral("SELECT hex(content) FROM kept WHERE name = 'card'"));
+    QCOMPARE(phone->simCard().powerCycle(), int(Success)); // nothing of that outlasts it anyway
+    QCOMPARE(phone->charging().setTariff(CallDirection::Dialed, phone->charging().tariff(CallDirection::Dialed)),
+             int(Success));
+    QCOMPARE(file.value(QStringLiteral("SELECT hex(content) FROM kept WHERE name = 'card'")), card);
 }
 
 void TestCharging::aFailedWriteChangesNoSetting_data()

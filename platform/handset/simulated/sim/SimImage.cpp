@@ -28,8 +28,8 @@ public:
     template <typename Byte, std::size_t Size>
     void operator()(const std::array<Byte, Size> &field)
     {
-        std::transform(field.begin(), field.end(), std::back_inserter(bytes),
-                       [](Byte byte) { return static_cast<char>(byte); });
+        static_assert(sizeof(Byte) == 1);
+        bytes.append(reinterpret_cast<const char *>(field.data()), static_cast<qsizetype>(Size));
     }
     void operator()(quint8 byte) { bytes.append(static_cast<char>(byte)); }
     void operator()(bool flag) { bytes.append(flag ? '\1' : '\0'); }
