@@ -1,6 +1,7 @@
 #include "QCopBus.h"
 
 #include "BusProbe.h"
+#include "LineLimit.h"
 #include "QCopSubscribers.h"
 
 #include <QtCore/QCoreApplication>
@@ -20,8 +21,7 @@ constexpr QLatin1StringView interfaceName("org.kav.QCop");
 constexpr QLatin1StringView memberName("Message");
 constexpr QLatin1StringView argumentTypes("ayayay");
 
-// The D-Bus protocol's own limits are 2^26 bytes for an array and 2^27 for a message with its header.
-constexpr qsizetype largestArray = qsizetype(1) << 26;
+// The D-Bus protocol's own limit is 2^27 bytes for a message with its header.
 constexpr qsizetype largestMessage = (qsizetype(1) << 27) - (qsizetype(1) << 20);
 
 constexpr std::chrono::milliseconds guiPatience = 250ms;
@@ -68,11 +68,26 @@ bool subscribe(QDBusConnection &link, QObject *bus)
            roundTrip(link, answerPatience);
 }
 
+// A path may have megabytes.
+QByteArray shortened(const QString &text)
+{
+    constexpr qsizetype most = 100;
+    return (text.size() > most ? text.left(most) + QStringLiteral("...") : text).toLocal8Bit();
+}
+
+// Who sends such messages must not fill the disk of who keeps the errors.
 void traceForeign(const QDBusMessage &message)
 {
+    static LineLimit lines;
+    const std::optional<qint64> unsaid = lines.take(std::chrono::steady_clock::now());
+    if (!unsaid)
+        return;
+    if (*unsaid > 0)
+        qWarning("QCopChannel: %lld more were ignored since without a line", static_cast<long long>(*unsaid));
     qWarning("QCopChannel: \"%s.%s\" with \"%s\" at \"%s\" from %s is no channel message and is ignored",
-             qPrintable(message.interface()), qPrintable(message.member()), qPrintable(message.signature()),
-             qPrintable(message.path()), qPrintable(message.service()));
+             shortened(message.interface()).constData(), shortened(message.member()).constData(),
+             shortened(message.signature()).constData(), shortened(message.path()).constData(),
+             shortened(message.service()).constData());
 }
 
 bool isChannelMessage(const QDBusMessage &message)
@@ -228,7 +243,7 @@ void QCopBus::retryLater()
 
 bool QCopBus::isSendable(const QByteArray &channel, const QByteArray &message, const QByteArray &data)
 {
-    return channel.size() <= largestArray && message.size() <= largestArray && data.size() <= largestArray &&
+    return channel.size() <= largestPart && message.size() <= largestPart && data.size() <= largestPart &&
            channel.size() + message.size() + data.size() <= largestMessage;
 }
 

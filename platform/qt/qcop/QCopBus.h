@@ -43,6 +43,9 @@ public:
     /// Queues a message for the bus, which is wanted. False without a bus and for a message that is too large.
     bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 
+    /// The bytes of the largest channel name, message or data block that a bus carries; 2^26 in the D-Bus protocol.
+    static constexpr qsizetype largestPart = qsizetype(1) << 26;
+
     /// What a bus carries: 64 MiB for each of the three, 127 MiB for all.
     static bool isSendable(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 

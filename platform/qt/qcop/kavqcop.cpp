@@ -7,9 +7,13 @@
 #include <QtCore/QList>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 using namespace std::chrono_literals;
 
@@ -59,6 +63,7 @@ std::optional<QByteArray> bytesOfHex(const QByteArray &hex)
     return QByteArray::fromHex(hex);
 }
 
+// One byte more than a bus carries is enough to know.
 std::optional<QByteArray> bytesOfFile(const QByteArray &name)
 {
     QFile file(QFile::decodeName(name));
@@ -66,7 +71,9 @@ std::optional<QByteArray> bytesOfFile(const QByteArray &name)
         complain("cannot read ", name + ": " + file.errorString().toLocal8Bit());
         return std::nullopt;
     }
-    const QByteArray bytes = file.readAll();
+    QByteArray bytes;
+    for (QByteArray piece("-"); !piece.isEmpty() && bytes.size() <= QCopBus::largestPart; bytes += piece)
+        piece = file.read(QCopBus::largestPart + 1 - bytes.size());
     if (file.error() != QFileDevice::NoError) {
         complain("cannot read ", name + ": " + file.errorString().toLocal8Bit());
         return std::nullopt;
@@ -218,11 +225,14 @@ QByteArray escaped(const QByteArray &bytes)
     return text;
 }
 
-bool print(const QByteArray &message, const QByteArray &data)
+// False, and said, when nobody takes it.
+bool print(const QByteArray &text)
 {
-    const QByteArray line = escaped(message) + '\t' + escaped(data) + '\n';
-    const auto length = static_cast<size_t>(line.size());
-    return std::fwrite(line.constData(), 1, length, stdout) == length && std::fflush(stdout) == 0;
+    const auto length = static_cast<size_t>(text.size());
+    if (std::fwrite(text.constData(), 1, length, stdout) == length && std::fflush(stdout) == 0)
+        return true;
+    complain("cannot write to the standard output");
+    return false;
 }
 
 // Counts down a request's messages.
@@ -246,8 +256,7 @@ private:
     {
         if (done)
             return;
-        if (!print(message, data)) {
-            complain("cannot write to the standard output");
+        if (!print(escaped(message) + '\t' + escaped(data) + '\n')) {
             end(exitFailure);
         } else if (left > 0 && --left == 0) {
             end(EXIT_SUCCESS);
@@ -266,6 +275,17 @@ private:
     QCopChannel channel;
 };
 
+// A reader of the output that goes is an error and not the end. And what is opened later must not get the number of a
+// standard stream that was closed: in its place comes one that takes nothing.
+void guardStandardStreams()
+{
+    std::signal(SIGPIPE, SIG_IGN);
+    for (int stream = STDIN_FILENO; stream <= STDERR_FILENO; ++stream) {
+        if (::fcntl(stream, F_GETFD) == -1)
+            static_cast<void>(::open("/dev/null", O_RDONLY) == stream);
+    }
+}
+
 int listen(const Request &request)
 {
     if (!connectToBus())
@@ -279,15 +299,12 @@ int listen(const Request &request)
 
 int main(int argc, char **argv)
 {
+    guardStandardStreams();
     CommandLine commandLine(argc, argv);
-    if (commandLine.asksFor("--help")) {
-        std::fputs(helpText, stdout);
-        return EXIT_SUCCESS;
-    }
-    if (commandLine.asksFor("--version")) {
-        std::puts("kavqcop " KAV_VERSION);
-        return EXIT_SUCCESS;
-    }
+    if (commandLine.asksFor("--help"))
+        return print(helpText) ? EXIT_SUCCESS : exitFailure;
+    if (commandLine.asksFor("--version"))
+        return print("kavqcop " KAV_VERSION "\n") ? EXIT_SUCCESS : exitFailure;
     const std::optional<Request> request = commandLine.request();
     if (!request)
         return exitUsage;

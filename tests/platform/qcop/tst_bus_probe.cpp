@@ -4,15 +4,20 @@
 #include "PrivateBus.h"
 #include "UnixSocket.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <cerrno>
 #include <cstring>
+#include <thread>
 #include <vector>
 
+#include <netinet/in.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -56,6 +61,77 @@ public:
 private:
     const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
     bool listens = false;
+};
+
+// A socket on a port of this machine, with callers that nobody lets in.
+class NetworkSocket
+{
+public:
+    explicit NetworkSocket(int backlog = 8)
+    {
+        place.sin_family = AF_INET;
+        place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t size = sizeof place;
+        listens = ::bind(descriptor, reinterpret_cast<const sockaddr *>(&place), size) == 0 &&
+                  ::listen(descriptor, backlog) == 0 &&
+                  ::getsockname(descriptor, reinterpret_cast<sockaddr *>(&place), &size) == 0;
+    }
+    ~NetworkSocket()
+    {
+        for (const int caller : callers)
+            ::close(caller);
+        ::close(descriptor);
+    }
+    Q_DISABLE_COPY_MOVE(NetworkSocket)
+
+    bool isListening() const { return listens; }
+    QString port() const { return QString::number(ntohs(place.sin_port)); }
+    // From then on a call is not even refused.
+    void fill()
+    {
+        for (int i = 0; i < 4; ++i) {
+            callers.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+            ::connect(callers.back(), reinterpret_cast<const sockaddr *>(&place), sizeof place);
+        }
+    }
+
+private:
+    sockaddr_in place{};
+    const int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    bool listens = false;
+    std::vector<int> callers;
+};
+
+// Says one thing to its one caller, and nothing more until that one goes.
+class BriefBus
+{
+public:
+    explicit BriefBus(const char *words)
+        : door(listeningSocket(address()))
+        , porter([this, words] {
+            const int caller = ::accept(door, nullptr, nullptr);
+            char heard[256];
+            if (::recv(caller, heard, sizeof heard, 0) > 0)
+                ::send(caller, words, std::strlen(words), MSG_NOSIGNAL);
+            while (::recv(caller, heard, sizeof heard, 0) > 0)
+                ;
+            ::close(caller);
+        })
+    {}
+    ~BriefBus()
+    {
+        ::shutdown(door, SHUT_RDWR);
+        porter.join();
+        ::close(door);
+    }
+    Q_DISABLE_COPY_MOVE(BriefBus)
+
+    QString address() const { return busAddress(folder.filePath(QStringLiteral("bus"))); }
+
+private:
+    QTemporaryDir folder;
+    const int door;
+    std::thread porter;
 };
 
 // A bus with more callers than it can keep waiting.
@@ -120,6 +196,14 @@ private slots:
     void aBusAnswersHoweverItsAddressIsWritten();
     void aSilentOneIsGivenUp_data();
     void aSilentOneIsGivenUp();
+    void aSilentNetworkAddressIsGivenUp_data();
+    void aSilentNetworkAddressIsGivenUp();
+    void aNetworkAddressThatTakesNoMoreCallersIsGivenUp();
+    void aBusOnANetworkAddressAnswers();
+    void aSecretThatIsNoFileIsNotRead();
+    void aBusThatFallsSilentOnceOneIsInIsGivenUp();
+    void aProgramIsNotRunToGetToABus_data();
+    void aProgramIsNotRunToGetToABus();
     void whoTurnsCallersAwayIsNoBus();
     void whereNobodyCanBeAskedDBusFindsOut_data();
     void whereNobodyCanBeAskedDBusFindsOut();
@@ -175,6 +259,88 @@ void TestBusProbe::aSilentOneIsGivenUp()
     QVERIFY(!answers(before + "unix:abstract=" + abstractName, shortly));
 }
 
+void TestBusProbe::aSilentNetworkAddressIsGivenUp_data()
+{
+    QTest::addColumn<QString>("written");
+    QTest::newRow("by its number") << "tcp:host=127.0.0.1,port=%1";
+    QTest::newRow("by its number, with its family") << "tcp:host=127.0.0.1,port=%1,family=ipv4";
+    QTest::newRow("by its name") << "tcp:host=localhost,port=%1,family=ipv4";
+    QTest::newRow("without a host") << "tcp:port=%1,family=ipv4";
+    QTest::newRow("with a secret") << "nonce-tcp:host=127.0.0.1,port=%1,noncefile=%2";
+    QTest::newRow("with a secret that is not there") << "nonce-tcp:host=127.0.0.1,port=%1,noncefile=/nowhere";
+    QTest::newRow("after one where nobody is") << "unix:path=/nowhere/bus;tcp:host=127.0.0.1,port=%1";
+}
+
+void TestBusProbe::aSilentNetworkAddressIsGivenUp()
+{
+    QFETCH(QString, written);
+    const QTemporaryDir folder;
+    QFile secret(folder.filePath("secret"));
+    QVERIFY(secret.open(QIODevice::WriteOnly) && secret.write("0123456789abcdef") == 16);
+    secret.close();
+    const NetworkSocket silent;
+    QVERIFY(silent.isListening());
+    QVERIFY(!answers(written.replace("%1", silent.port()).replace("%2", secret.fileName()), shortly));
+}
+
+void TestBusProbe::aNetworkAddressThatTakesNoMoreCallersIsGivenUp()
+{
+    NetworkSocket full(0);
+    QVERIFY(full.isListening());
+    full.fill();
+    QVERIFY(!answers("tcp:host=127.0.0.1,port=" + full.port(), shortly));
+}
+
+// It wants another proof than the user's number, which over a network proves nothing.
+void TestBusProbe::aBusOnANetworkAddressAnswers()
+{
+    QProcess bus;
+    endWithParent(bus);
+    bus.start("dbus-daemon", {"--session", "--nofork", "--print-address", "--address=tcp:host=127.0.0.1,port=0"});
+    while (!bus.canReadLine())
+        QVERIFY(bus.waitForReadyRead(30000));
+    const QString address = QString::fromUtf8(bus.readLine()).trimmed();
+    QVERIFY2(address.startsWith("tcp:"), qPrintable(address));
+    const FakeBus silent(FakeBus::Silent);
+    QVERIFY(answers(address + ";" + silent.address(), patiently));
+    bus.kill();
+    bus.waitForFinished();
+}
+
+void TestBusProbe::aSecretThatIsNoFileIsNotRead()
+{
+    const QTemporaryDir folder;
+    QCOMPARE(::mkfifo(folder.filePath("secret").toUtf8().constData(), 0600), 0);
+    const NetworkSocket silent;
+    QVERIFY(!answers("nonce-tcp:host=127.0.0.1,port=" + silent.port() + ",noncefile=" + folder.filePath("secret"),
+                     patiently));
+}
+
+void TestBusProbe::aBusThatFallsSilentOnceOneIsInIsGivenUp()
+{
+    const BriefBus letsIn("OK 0123456789abcdef0123456789abcdef\r\n");
+    QVERIFY(!answers(letsIn.address(), shortly));
+    const BriefBus wantsAnotherProof("REJECTED DBUS_COOKIE_SHA1\r\n");
+    QVERIFY(answers(wantsAnotherProof.address(), patiently));
+}
+
+void TestBusProbe::aProgramIsNotRunToGetToABus_data()
+{
+    QTest::addColumn<QString>("address");
+    QTest::newRow("one that the address names") << "unixexec:path=/bin/sleep,argv1=1000";
+    QTest::newRow("one that looks on the display") << "autolaunch:";
+    QTest::newRow("where no address is told") << "";
+}
+
+void TestBusProbe::aProgramIsNotRunToGetToABus()
+{
+    QFETCH(QString, address);
+    qunsetenv("XDG_RUNTIME_DIR");
+    qputenv("DISPLAY", ":59999");
+    QVERIFY(!answers(address, patiently));
+    qunsetenv("DISPLAY");
+}
+
 void TestBusProbe::whoTurnsCallersAwayIsNoBus()
 {
     const FakeBus bus(FakeBus::TurnsAway);
@@ -199,12 +365,14 @@ void TestBusProbe::whereNobodyCanBeAskedDBusFindsOut()
 {
     QFETCH(QString, address);
     qunsetenv("XDG_RUNTIME_DIR");
+    qunsetenv("DISPLAY");
     QVERIFY(answers(address, shortly));
 }
 
 void TestBusProbe::theBusOfTheUsersSessionIsAskedWhereNoAddressIsTold()
 {
     const QTemporaryDir runtime;
+    qunsetenv("DISPLAY");
     qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
     QVERIFY(answers("", shortly)); // nobody there
     const int silent = listeningSocket(busAddress(runtime.filePath("bus")));

@@ -4,6 +4,14 @@
 
 #include <QtTest/QtTest>
 
+#include <csignal>
+
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <sys/prctl.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
 namespace {
 
 constexpr char phone[] = "/KAV/phone";
@@ -96,6 +104,11 @@ private slots:
     void aListenerEndsWithItsBus();
     void aListenerThatCannotPrintEnds();
     void aMessageLargerThanABusCarriesIsRefused();
+    void aFileWithoutAnEndIsRefused();
+    void whatAPipeDeliversInPiecesIsSentWhole();
+    void aSilentNetworkAddressIsNoBus();
+    void aReaderThatGoesIsAnErrorAndNoDeath_data();
+    void aReaderThatGoesIsAnErrorAndNoDeath();
     void wrongUsageIsRefusedWithItsReason_data();
     void wrongUsageIsRefusedWithItsReason();
     void aFileThatCannotBeReadIsRefused();
@@ -241,6 +254,90 @@ void TestCommand::aMessageLargerThanABusCarriesIsRefused()
     Command command(bus.address(), {"send", phone, "m", "--data-file", file.fileName().toLocal8Bit()});
     QCOMPARE(command.finish(), exitFailure);
     QCOMPARE(command.errors(), QByteArray("kavqcop: the message is larger than a bus carries\n"));
+}
+
+void TestCommand::aFileWithoutAnEndIsRefused()
+{
+    Command command(bus.address(), {"send", phone, "m", "--data-file", "/dev/zero"});
+    QCOMPARE(command.finish(), exitFailure);
+    QCOMPARE(command.errors(), QByteArray("kavqcop: the message is larger than a bus carries\n"));
+}
+
+void TestCommand::whatAPipeDeliversInPiecesIsSentWhole()
+{
+    Peer peer(bus.address());
+    QVERIFY(peer.subscribe(1, phone));
+    const QString kavqcop = QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/kavqcop");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    endWithParent(process);
+    process.start(kavqcop, {"send", phone, "m", "--data-file", "/dev/stdin"});
+    for (int piece = 0; piece < 10; ++piece) {
+        process.write(QByteArray(50000, static_cast<char>('a' + piece)));
+        QVERIFY(process.waitForBytesWritten(limitMs));
+    }
+    process.closeWriteChannel();
+    QVERIFY(process.waitForFinished(limitMs));
+    QCOMPARE(process.exitCode(), 0);
+    QByteArray whole;
+    for (int piece = 0; piece < 10; ++piece)
+        whole += QByteArray(50000, static_cast<char>('a' + piece));
+    QCOMPARE(peer.take(), Peer::line(1, "m", whole));
+}
+
+// It takes the connection and then says nothing.
+void TestCommand::aSilentNetworkAddressIsNoBus()
+{
+    const int door = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in place{};
+    place.sin_family = AF_INET;
+    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof place;
+    QCOMPARE(::bind(door, reinterpret_cast<const sockaddr *>(&place), size), 0);
+    QCOMPARE(::listen(door, 8), 0);
+    QCOMPARE(::getsockname(door, reinterpret_cast<sockaddr *>(&place), &size), 0);
+    Command command(QStringLiteral("tcp:host=127.0.0.1,port=%1").arg(ntohs(place.sin_port)), {"send", phone, "m"});
+    QCOMPARE(command.finish(), exitFailure);
+    QVERIFY(command.errors().startsWith("kavqcop: there is no session bus"));
+    ::close(door);
+}
+
+void TestCommand::aReaderThatGoesIsAnErrorAndNoDeath_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("help") << QStringList{"--help"};
+    QTest::newRow("version") << QStringList{"--version"};
+    QTest::newRow("listen") << QStringList{"listen", phone};
+}
+
+void TestCommand::aReaderThatGoesIsAnErrorAndNoDeath()
+{
+    QFETCH(QStringList, arguments);
+    Peer peer(bus.address());
+    QVERIFY(peer.connectToBus());
+    int pipe[2] = {};
+    QCOMPARE(::pipe2(pipe, O_CLOEXEC), 0);
+    ::close(pipe[0]);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setReadChannel(QProcess::StandardError);
+    process.setChildProcessModifier([&pipe] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        ::signal(SIGPIPE, SIG_DFL);
+        ::dup2(pipe[1], STDOUT_FILENO);
+    });
+    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/kavqcop"), arguments);
+    QVERIFY(process.waitForReadyRead(limitMs)); // it listens, or complains
+    QVERIFY(peer.send(phone, "m"));
+    QVERIFY(process.state() == QProcess::NotRunning || process.waitForFinished(limitMs));
+    ::close(pipe[1]);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), exitFailure);
+    QVERIFY(process.readAllStandardError().contains("cannot write to the standard output"));
 }
 
 void TestCommand::wrongUsageIsRefusedWithItsReason_data()

@@ -1,4 +1,5 @@
 // What other programs see of a channel on the bus, and what they can do to it.
+#include "LineLimit.h"
 #include "Peer.h"
 #include "PrivateBus.h"
 
@@ -43,6 +44,9 @@ private slots:
     void aWellFormedMessageOfAnotherProgramArrives();
     void aMalformedMessageIsIgnoredWithATrace_data();
     void aMalformedMessageIsIgnoredWithATrace();
+    void manyMalformedMessagesLeaveTenTraces();
+    void aTraceOfAnEndlessPathIsShort();
+    void tracesGoOnAfterAMinuteAndSayWhatWasLeftOut();
     void aCallIsRefusedWithATrace();
     void signalsOfOtherInterfacesLeaveNoTrace();
 
@@ -138,6 +142,44 @@ void TestForeignMessages::aMalformedMessageIsIgnoredWithATrace()
     sendWellFormed();
     QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
     QTRY_COMPARE(peer->errors().count(trace), 2);
+}
+
+void TestForeignMessages::manyMalformedMessagesLeaveTenTraces()
+{
+    const QDBusMessage message = QDBusMessage::createSignal(path, interface, member); // without arguments
+    for (int i = 0; i < 1000; ++i)
+        QVERIFY(link().send(message));
+    sendWellFormed();
+    QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
+    QCOMPARE(peer->finish(), 0);
+    QCOMPARE(peer->errors().count(trace), 10);
+    QCOMPARE(peer->errors().count('\n'), 10);
+}
+
+void TestForeignMessages::aTraceOfAnEndlessPathIsShort()
+{
+    const QString endless = QString("/elsewhere").repeated(10000);
+    QVERIFY(link().send(QDBusMessage::createSignal(endless, interface, member)));
+    sendWellFormed();
+    QCOMPARE(peer->take(), Peer::line(1, "well formed", "data"));
+    QTRY_COMPARE(peer->errors().count(trace), 1);
+    QVERIFY2(peer->errors().size() < 500, qPrintable(QString::number(peer->errors().size())));
+}
+
+void TestForeignMessages::tracesGoOnAfterAMinuteAndSayWhatWasLeftOut()
+{
+    using namespace std::chrono_literals;
+    const auto start = std::chrono::steady_clock::now();
+    LineLimit limit;
+    for (int i = 0; i < 10; ++i)
+        QCOMPARE(limit.take(start).value_or(-1), 0);
+    for (int i = 0; i < 7; ++i)
+        QVERIFY(!limit.take(start + 59s).has_value());
+    QCOMPARE(limit.take(start + 60s).value_or(-1), 7);
+    for (int i = 0; i < 9; ++i)
+        QCOMPARE(limit.take(start + 61s).value_or(-1), 0);
+    QVERIFY(!limit.take(start + 119s).has_value());
+    QCOMPARE(limit.take(start + 1h).value_or(-1), 1);
 }
 
 void TestForeignMessages::aCallIsRefusedWithATrace()
