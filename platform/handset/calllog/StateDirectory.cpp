@@ -136,6 +136,8 @@ int syncFile(const QString &path, int flags)
     return ::fsync(file.number()) == 0 || errno == EINVAL ? 0 : errno;
 }
 
+constexpr qsizetype blockSize = 1 << 18;
+
 // Fills `bytes` as far as the file goes.
 int readUpTo(int fd, QByteArray &bytes, qsizetype &length)
 {
@@ -177,7 +179,7 @@ int copyFile(const QString &from, const QString &to)
     const Descriptor target(to, O_WRONLY | O_CREAT | O_EXCL);
     if (!target.isOpen())
         return errno;
-    QByteArray block(qsizetype{1} << 18, Qt::Uninitialized);
+    QByteArray block(blockSize, Qt::Uninitialized);
     qint64 copied = 0;
     for (qsizetype length = block.size(); length == block.size(); copied += length) {
         if (const int error = readUpTo(source.number(), block, length))
@@ -308,6 +310,18 @@ int StateDirectory::readBeginning(const QString &name, qint64 most, QByteArray &
     if (const int error = readUpTo(file.number(), bytes, length))
         return error;
     return length == bytes.size() ? 0 : EIO;
+}
+
+int StateDirectory::readThrough(const QString &name) const
+{
+    const Descriptor file(filePath(name), O_RDONLY | O_NOFOLLOW);
+    if (!file.isOpen())
+        return errno;
+    QByteArray block(blockSize, Qt::Uninitialized);
+    for (qsizetype length = block.size(); length == block.size();)
+        if (const int error = readUpTo(file.number(), block, length))
+            return error;
+    return 0;
 }
 
 int StateDirectory::find(const QString &name) const

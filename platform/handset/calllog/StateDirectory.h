@@ -42,6 +42,8 @@ public:
     /// Up to `most` bytes from the beginning of a file; a file that yields fewer than it has is an error (EIO).
     /// Nothing of what is no file.
     int readBeginning(const QString &name, qint64 most, QByteArray &bytes) const;
+    /// Reads the whole of a file, for nothing but to see that it can be read.
+    int readThrough(const QString &name) const;
     /// Removes `name` and what SQLite keeps beside it.
     void remove(const QString &name);
 

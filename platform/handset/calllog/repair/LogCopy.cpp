@@ -44,7 +44,7 @@ Finding findDefinitions(const StateDirectory &directory, bool &found)
 Finding unanswered(const Database &copy, Verdict verdict)
 {
     Finding finding = failure(copy);
-    return finding.verdict == Verdict::Blocked ? finding : Finding{verdict, {}};
+    return finding.verdict == Verdict::Blocked ? finding : Finding{verdict, finding.reason};
 }
 
 // A version with the very tables of ours is not a newer one.
@@ -72,6 +72,18 @@ Finding judgeTables(Database &copy, Verdict verdict)
 
 } // namespace
 
+Finding findSpace(const StateDirectory &directory, qint64 bytes)
+{
+    constexpr qint64 kib = 1024;
+    qint64 left = 0;
+    if (const int error = directory.freeSpace(left))
+        return blocked(error);
+    if (left >= bytes)
+        return {};
+    const QString text = QStringLiteral("%1 KiB of disk space are needed and %2 KiB are left");
+    return {Verdict::Blocked, text.arg((bytes + kib - 1) / kib).arg(left / kib)};
+}
+
 LogCopy::~LogCopy()
 {
     opened.reset();
@@ -98,11 +110,26 @@ Finding LogCopy::make()
         return {};
     const QString file = QString::fromLatin1(name);
     directory.remove(file);
+    // Both may come to the size of what is copied.
+    Finding space = findSpace(directory, spaceOfNewLog + 2 * directory.size(databaseFile()));
+    if (space.verdict != Verdict::Usable)
+        return space;
     if (const int error = directory.copy(databaseFile(), file))
-        return blocked(error, file);
+        return {Verdict::Blocked, QStringLiteral("it cannot be copied: %1").arg(blocked(error, file).reason)};
     Finding mended = mend();
     if (mended.verdict != Verdict::Usable)
         return mended;
+    // SQLite calls some failed reads damage: what is damaged still is when it is opened again.
+    Finding list = open();
+    if (list.verdict == Verdict::Damaged)
+        list = open();
+    return list.verdict == Verdict::Blocked ? list : Finding{};
+}
+
+Finding LogCopy::open()
+{
+    opened.reset();
+    const QString file = QString::fromLatin1(name);
     // It may have to be written before it can be read: leftovers are worked in.
     auto database = std::make_unique<Database>(directory.filePath(file), Database::Access::ReadWrite);
     // Nobody else has it, so no file is needed beside it. And without the second a database that is shorter than it
@@ -111,7 +138,19 @@ Finding LogCopy::make()
         if (!database->isOpen() || !database->run(QStringLiteral("PRAGMA ") + QString::fromLatin1(setting)))
             return {Verdict::Blocked, inFile(file, sqlite::reason(database->lastError()))};
     opened = std::move(database);
-    return {};
+    // The second also makes SQLite go on with the tables that it knows when the list of them cannot be read to its end,
+    // whatever the reason: only the statement that reads it says so.
+    if (opened->number(QStringLiteral("SELECT count(*) FROM sqlite_schema")))
+        return {};
+    Finding list = unanswered(*opened, Verdict::Damaged);
+    return {list.verdict, inFile(file, list.reason)};
+}
+
+Finding LogCopy::check() const
+{
+    const QString file = QString::fromLatin1(name);
+    const int error = directory.readThrough(file);
+    return error == 0 ? Finding{} : blocked(error, file);
 }
 
 // SQLite would also fill up a page that was cut off with zeros, and read calls from it that nobody made.

@@ -21,9 +21,6 @@ namespace {
 constexpr auto unfinishedName = "calllog-new.db";
 constexpr auto readyName = "calllog-ready.db";
 
-/// Bytes: an empty log, and what SQLite needs beside it to make one and to open it.
-constexpr qint64 spaceOfNewLog = 512 << 10;
-
 QString describe(Verdict verdict)
 {
     switch (verdict) {
@@ -75,20 +72,6 @@ QString notice(const Replaced &old, const Salvaged &salvaged)
     if (old.verdict == Verdict::Damaged)
         text += whatWasRead(salvaged) + whatWasCounted(salvaged);
     return text + QLatin1Char('.');
-}
-
-// What needs the room is known before: a disk that fills up half way is found as well, but costs the time.
-Finding findSpace(const StateDirectory &directory, Verdict verdict)
-{
-    const qint64 old = verdict == Verdict::Damaged ? directory.size(QString::fromLatin1(databaseName)) : 0;
-    const qint64 needed = spaceOfNewLog + 2 * old; // the copy, and what is read from it
-    qint64 left = 0;
-    if (const int error = directory.freeSpace(left))
-        return blocked(error);
-    if (left >= needed)
-        return {};
-    const QString text = QStringLiteral("%1 KiB of disk space are needed and %2 KiB are left");
-    return {Verdict::Blocked, text.arg((needed + 1023) / 1024).arg(left / 1024)};
 }
 
 Finding createFile(const QString &path)
@@ -143,6 +126,8 @@ Finding fill(CallStore &store, LogCopy &copy, const Replaced &old)
     Salvaged salvaged;
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
         finding = salvage(copy.database(), store, salvaged);
+    if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
+        finding = copy.check();
     if (finding.verdict == Verdict::Usable && old.verdict != Verdict::Missing)
         finding = putNotice(store, notice(old, salvaged));
     return finding.verdict == Verdict::Usable ? emptyWriteAheadLog(store.connection()) : finding;
@@ -185,9 +170,8 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
 // is none; then nothing has changed.
 Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced &old)
 {
-    Finding finding = findSpace(directory, old.verdict);
-    if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
-        finding = copy.make();
+    const bool isRead = old.verdict == Verdict::Damaged;
+    Finding finding = isRead ? copy.make() : findSpace(directory, spaceOfNewLog);
     if (finding.verdict != Verdict::Usable)
         return finding;
     const QString name = QString::fromLatin1(unfinishedName);
@@ -211,7 +195,7 @@ Replacement replace(StateDirectory &directory, Verdict verdict)
     LogCopy copy(directory);
     const Finding found = copy.look(verdict);
     if (found.verdict == Verdict::Blocked)
-        return {QStringLiteral("it cannot be read (%1)").arg(found.reason)};
+        return {QStringLiteral("a new one cannot be made (%1)").arg(explain(found))};
     const Replaced old{found.verdict, directory.unusedName(name)};
     const Finding made = makeReplacement(directory, copy, old);
     if (made.verdict != Verdict::Usable)

@@ -25,9 +25,13 @@ void RowSalvage::note(const QSqlError &error)
         blockedBy = {Verdict::Blocked, sqlite::reason(error)};
 }
 
+// SQLite calls some failed reads (EIO) corrupt, too. So what is damaged is read twice: it still is then.
+
 std::optional<qint64> RowSalvage::read(const QString &select)
 {
-    const std::optional<qint64> number = source.number(select);
+    std::optional<qint64> number = source.number(select);
+    if (!number)
+        number = source.number(select);
     if (!number)
         note(source.lastError());
     return number;
@@ -38,6 +42,13 @@ bool RowSalvage::copy(const QString &select, const QString &insert)
     if (!target.prepare(putRow, insert))
         return false;
     Passed passed = pass(select + QStringLiteral(" ORDER BY id"), false);
+    while (passed == Passed::UpToTheDamage) {
+        const qint64 before = count;
+        const Passed again = pass(select + QStringLiteral(" WHERE id > %1 ORDER BY id").arg(highestCopied), false);
+        if (again != Passed::NotDone && count == before)
+            break;
+        passed = again;
+    }
     // From the other end as well, so that one damaged page in the middle costs no more than its own rows.
     if (passed == Passed::UpToTheDamage)
         passed = passTail(select);

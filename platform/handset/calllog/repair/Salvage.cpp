@@ -46,6 +46,7 @@ private:
     bool putCosts();
     std::optional<Costs> readCosts();
     bool putKept();
+    bool readKept(QSqlError &damage);
 
     CallStore &store;
     bool totalsRead = false;
@@ -161,6 +162,12 @@ bool CallSalvage::putKept()
     const std::optional<qint64> version = read(QStringLiteral("PRAGMA user_version"));
     if (version.value_or(0) >= versionWithAllKept && !target.run(QStringLiteral("DELETE FROM kept")))
         return false;
+    QSqlError damage;
+    return readKept(damage) && (!damage.isValid() || readKept(damage));
+}
+
+bool CallSalvage::readKept(QSqlError &damage)
+{
     QSqlQuery rows = source.query();
     rows.exec(QStringLiteral("SELECT name, content FROM kept"));
     while (rows.next()) {
@@ -170,7 +177,8 @@ bool CallSalvage::putKept()
         if (isValue && !store.putKept({name.toString(), content.toByteArray()}))
             return false;
     }
-    note(rows.lastError());
+    damage = rows.lastError();
+    note(damage);
     return !isBlocked();
 }
 
@@ -187,7 +195,7 @@ Finding beginWithNothing(const Database &source, CallStore &target)
 
 Finding salvage(Database &source, CallStore &target, Salvaged &salvaged)
 {
-    if (!leaveOnlyTables(source))
+    if (!leaveOnlyTables(source) && !leaveOnlyTables(source))
         return beginWithNothing(source, target);
     CallSalvage calls(source, target);
     SalvagedSessions sessions;
