@@ -1,0 +1,339 @@
+// The call log is opened while the system's calls fail, one after the other: no finished call is lost, what was put aside
+// is whole, the error or the notice says what happened, and the next start finds everything right.
+#include "Faults.h"
+#include "HandsetTestKit.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QSet>
+
+#include <cerrno>
+#include <vector>
+
+using namespace handset;
+using namespace handset::test;
+
+namespace {
+
+constexpr qint64 pageSize = 4096;
+constexpr int recordedCalls = 300;
+
+const QString databaseFile = QStringLiteral("calllog.db");
+const QString walFile = QStringLiteral("calllog.db-wal");
+const QString keptFile = QStringLiteral("calllog-kept-1.db");
+
+struct Fault {
+    const char *call;
+    int error; ///< 0: half of it is done
+};
+
+constexpr std::array faults{
+    Fault{"open", EMFILE}, Fault{"open", EACCES},   Fault{"read", EIO},     Fault{"read", 0},
+    Fault{"pread", EIO},   Fault{"pread", 0},       Fault{"write", ENOSPC}, Fault{"write", 0},
+    Fault{"pwrite", EIO},  Fault{"pwrite", ENOSPC}, Fault{"fsync", EIO},    Fault{"ftruncate", EIO},
+    Fault{"rename", EIO},  Fault{"link", EIO},      Fault{"link", EPERM},   Fault{"unlink", EACCES},
+    Fault{"mmap", ENOMEM},
+};
+
+/// The files of a state directory, and what must be found in it whatever fails.
+struct Surroundings {
+    const char *name;
+    QByteArray database;
+    QByteArray wal;
+    bool isDamaged = false; ///< so it is put aside, once
+    QList<LoggedCall> calls;
+    SixFigures figures;
+};
+
+bool putInto(const StateDir &state, const Surroundings &files)
+{
+    const bool made = QDir().mkpath(state.path());
+    const bool hasLog = files.database.isEmpty() || writeFile(state.database(), files.database);
+    const bool hasWal = files.wal.isEmpty() || writeFile(state.file(walFile), files.wal);
+    return made && hasLog && hasWal;
+}
+
+QList<PastCall> manyCalls()
+{
+    QList<PastCall> calls;
+    for (int i = 0; i < recordedCalls; ++i)
+        calls.append({CallKind::Voice, i % 2 == 0 ? CallDirection::Answered : CallDirection::Dialed,
+                      QString::number(100000 + i), i * minute, i * 1000 + 7});
+    return calls;
+}
+
+Surroundings closedLog()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    phone->addHistory(manyCalls());
+    phone.close();
+    return {"a sound log", readFile(state.database()), {}, false, {}, {}};
+}
+
+Surroundings crashedLog()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    phone->addHistory(manyCalls());
+    phone.dialed(7 * second);
+    return {"a log that was not closed", readFile(state.database()), readFile(state.file(walFile)), false, {}, {}};
+}
+
+QByteArray withoutPage(QByteArray database, qsizetype page)
+{
+    return database.replace(page * pageSize, pageSize, QByteArray(pageSize, '\0'));
+}
+
+std::vector<Surroundings> allSurroundings()
+{
+    const Surroundings closed = closedLog();
+    const Surroundings crashed = crashedLog();
+    const qsizetype lastPage = closed.database.size() / pageSize - 1;
+    Surroundings damaged{"a damaged log", withoutPage(closed.database, lastPage), {}, true, {}, {}};
+    Surroundings header{"a log with a wrong header", closed.database, {}, true, {}, {}};
+    header.database[70] = 'X'; // of the application's id
+    Surroundings both{"a damaged log that was not closed", crashed.database, crashed.wal, true, {}, {}};
+    both.database.truncate(40); // and neither its header
+    return {closed, crashed, damaged, header, both, {"an empty directory", {}, {}, false, {}, {}}};
+}
+
+/// The first, the last and ever fewer between: all with KAV_ALL_FAULTS.
+QSet<long> sampleOf(long count)
+{
+    QSet<long> sample;
+    const bool all = qEnvironmentVariableIsSet("KAV_ALL_FAULTS");
+    for (long n = 1; n <= count; n += all ? 1 : 3 * n)
+        sample << n << count + 1 - n;
+    return sample;
+}
+
+QByteArray keptWal(const StateDir &state)
+{
+    return readFile(state.file(keptFile + QStringLiteral("-wal")));
+}
+
+} // namespace
+
+class TestLogFaults : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+
+    void aCallOfTheSystemThatFailsLosesNoCall_data();
+    void aCallOfTheSystemThatFailsLosesNoCall();
+    void aDiskThatIsFullAtAnyPointLosesNoCall_data();
+    void aDiskThatIsFullAtAnyPointLosesNoCall();
+    void aDiskWithTooLittleSpaceIsSaidBeforeAnythingIsWritten();
+    void aNoticeIsToldByTheNextStartWhenItsOwnFails();
+
+private:
+    void fail(const Surroundings &files, const Fault &fault, long nth, bool always);
+    void openWithoutFaults(const StateDir &state, const Surroundings &files, const QString &notice);
+    long countOf(const Surroundings &files, const char *call);
+    QString openWithFaults(const StateDir &state);
+
+    std::vector<Surroundings> surroundings;
+    long struck = 0;
+};
+
+void TestLogFaults::initTestCase()
+{
+    QLoggingCategory::setFilterRules(QStringLiteral("kav.handset.calllog.warning=false"));
+    surroundings = allSurroundings();
+    for (Surroundings &files : surroundings) {
+        const StateDir state;
+        QVERIFY(putInto(state, files));
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QCOMPARE(phone.opened.notice.isEmpty(), !files.isDamaged);
+        files.figures = phone.figures();
+        phone.close();
+        files.calls = LogFile(state.database()).calls();
+    }
+    QCOMPARE(surroundings[0].calls.size(), recordedCalls);
+    QCOMPARE(surroundings[1].calls.size(), recordedCalls + 1);
+    QVERIFY(surroundings[2].calls.size() > 0);
+    QCOMPARE(surroundings[3].calls.size(), recordedCalls);
+}
+
+long TestLogFaults::countOf(const Surroundings &files, const char *call)
+{
+    const StateDir state;
+    putInto(state, files);
+    kavFaultsArm(qPrintable(state.path()), nullptr, 0, 0, false);
+    Phone(state.path()).close();
+    kavFaultsDisarm();
+    return kavFaultsCount(call);
+}
+
+/// The notice, told while the faults are on.
+QString TestLogFaults::openWithFaults(const StateDir &state)
+{
+    Phone phone(state.path());
+    if (!phone) {
+        const QString error = phone.opened.error;
+        const bool saysWhy = error.contains(state.path()) && !error.endsWith(QStringLiteral(": .")) &&
+                             !error.contains(QStringLiteral("()"));
+        if (!saysWhy)
+            QTest::qFail(qPrintable(error), __FILE__, __LINE__);
+    }
+    return phone ? phone.opened.notice : QString();
+}
+
+void TestLogFaults::openWithoutFaults(const StateDir &state, const Surroundings &files, const QString &notice)
+{
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.figures(), files.figures);
+    QVERIFY2(files.isDamaged || phone.opened.notice.isEmpty(), qPrintable(phone.opened.notice));
+    QVERIFY(!files.isDamaged || !(notice + phone.opened.notice).isEmpty());
+    phone.close();
+    const QList<LoggedCall> calls = LogFile(state.database()).calls();
+    QCOMPARE(calls.size(), files.calls.size());
+    for (qsizetype i = 0; i < calls.size(); ++i)
+        QVERIFY(calls[i].id == files.calls[i].id && calls[i].number == files.calls[i].number &&
+                calls[i].durationMs == files.calls[i].durationMs);
+    QStringList expected{databaseFile};
+    if (files.isDamaged) {
+        expected.prepend(keptFile);
+        QCOMPARE(readFile(state.file(keptFile)), files.database);
+        QCOMPARE(keptWal(state), files.wal);
+        if (!files.wal.isEmpty())
+            expected.insert(1, keptFile + QStringLiteral("-wal"));
+    }
+    QCOMPARE(state.names(), expected);
+    const Phone again(state.path());
+    QVERIFY2(again.opened.notice.isEmpty(), qPrintable(again.opened.notice));
+}
+
+void TestLogFaults::fail(const Surroundings &files, const Fault &fault, long nth, bool always)
+{
+    const StateDir state;
+    QVERIFY(putInto(state, files));
+    kavFaultsArm(qPrintable(state.path()), fault.call, nth, fault.error, always);
+    const QString notice = openWithFaults(state);
+    kavFaultsDisarm();
+    if (qEnvironmentVariableIsSet("KAV_SAY"))
+        qInfo("%ld %d: %s", nth, always, qPrintable(notice));
+    struck += kavFaultsFailed();
+    openWithoutFaults(state, files, notice);
+    if (QTest::currentTestFailed())
+        qInfo("%s: %s fails with \"%s\" at the %ldth time%s", files.name, fault.call, std::strerror(fault.error),
+              nth, always ? " and from there on" : "");
+}
+
+void TestLogFaults::aCallOfTheSystemThatFailsLosesNoCall_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QByteArray>("call");
+    for (int index = 0; index < static_cast<int>(surroundings.size()); ++index)
+        for (const char *const *call = kavFaultsCalls; *call; ++call)
+            QTest::addRow("%s of %s", *call, surroundings[static_cast<std::size_t>(index)].name)
+                << index << QByteArray(*call);
+}
+
+void TestLogFaults::aCallOfTheSystemThatFailsLosesNoCall()
+{
+    QFETCH(int, index);
+    QFETCH(QByteArray, call);
+    const Surroundings &files = surroundings[static_cast<std::size_t>(index)];
+    const long count = countOf(files, call.constData());
+    struck = 0;
+    for (const Fault &fault : faults) {
+        if (call != fault.call)
+            continue;
+        for (const long nth : sampleOf(count))
+            for (const bool always : {false, true}) {
+                fail(files, fault, nth, always);
+                if (QTest::currentTestFailed())
+                    return;
+            }
+    }
+    QVERIFY(struck > 0 || count == 0);
+}
+
+void TestLogFaults::aDiskThatIsFullAtAnyPointLosesNoCall_data()
+{
+    QTest::addColumn<int>("index");
+    for (int index = 0; index < static_cast<int>(surroundings.size()); ++index)
+        QTest::addRow("%s", surroundings[static_cast<std::size_t>(index)].name) << index;
+}
+
+void TestLogFaults::aDiskThatIsFullAtAnyPointLosesNoCall()
+{
+    QFETCH(int, index);
+    const Surroundings &files = surroundings[static_cast<std::size_t>(index)];
+    for (const bool isTold : {false, true})
+        for (long space = 0; space <= 200 << 10; space += 20 << 10) {
+            const StateDir state;
+            QVERIFY(putInto(state, files));
+            kavFaultsLimitSpace(qPrintable(state.path()), space, isTold);
+            const QString notice = openWithFaults(state);
+            kavFaultsDisarm();
+            openWithoutFaults(state, files, notice);
+            if (QTest::currentTestFailed()) {
+                qInfo("%s: %ld bytes are left", files.name, space);
+                return;
+            }
+        }
+}
+
+void TestLogFaults::aDiskWithTooLittleSpaceIsSaidBeforeAnythingIsWritten()
+{
+    for (const Surroundings &files : surroundings) {
+        if (!files.isDamaged && !files.database.isEmpty())
+            continue;
+        const StateDir state;
+        QVERIFY(putInto(state, files));
+        const QStringList before = state.names();
+        kavFaultsLimitSpace(qPrintable(state.path()), 90 << 10, true);
+        const Phone phone(state.path());
+        kavFaultsDisarm();
+        QVERIFY(!phone);
+        const QRegularExpression text(QStringLiteral("^The call log \"%1\" cannot be used: a new one cannot be "
+                                                     "made \\(.*\\d+ KiB of disk space are needed "
+                                                     "and \\d+ KiB are left\\)\\.$")
+                                          .arg(QRegularExpression::escape(state.database())));
+        QVERIFY2(text.match(phone.opened.error).hasMatch(), qPrintable(phone.opened.error));
+        QCOMPARE(state.names(), before);
+    }
+}
+
+void TestLogFaults::aNoticeIsToldByTheNextStartWhenItsOwnFails()
+{
+    const Surroundings &files = surroundings[2];
+    const StateDir state;
+    QVERIFY(putInto(state, files));
+    // Everything works up to the last rename, and nothing after it.
+    const long renames = countOf(files, "rename");
+    const long opens = countOf(files, "open");
+    QVERIFY(renames >= 3);
+    bool isShown = false;
+    for (long nth = opens; nth > 0 && !isShown; --nth) {
+        const StateDir attempt;
+        QVERIFY(putInto(attempt, files));
+        kavFaultsArm(qPrintable(attempt.path()), "open", nth, EMFILE, true);
+        Phone phone(attempt.path());
+        kavFaultsDisarm();
+        if (phone || !QFile::exists(attempt.file(keptFile)))
+            continue;
+        isShown = true;
+        QVERIFY2(phone.opened.error.startsWith(
+                     QStringLiteral("The call log \"%1\" cannot be used: ").arg(attempt.database())),
+                 qPrintable(phone.opened.error));
+        Phone next(attempt.path());
+        QVERIFY2(next.opened.notice.startsWith(QStringLiteral(
+                     "The call log is damaged; it was kept as \"calllog-kept-1.db\" and a new one was "
+                     "begun with the calls")),
+                 qPrintable(next.opened.notice));
+        next.close();
+        QCOMPARE(Phone(attempt.path()).opened.notice, QString());
+    }
+    QVERIFY(isShown);
+}
+
+QTEST_GUILESS_MAIN(TestLogFaults)
+#include "tst_log_faults.moc"
