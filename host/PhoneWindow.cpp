@@ -8,8 +8,11 @@
 #include "phone/Keypad.h"
 #include "phone/PhoneBody.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
+
+#include <utility>
 
 namespace host {
 
@@ -19,26 +22,25 @@ constexpr int deskMargin = 24;
 
 } // namespace
 
-PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephone)
-    : line(telephone.handset)
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenTelephone open)
+    : openTelephone(std::move(open))
     , row(new QHBoxLayout(this))
-    , panelSetup{telephone.stateDirectory, telephone.notice, telephone.faults}
     , body(new PhoneBody(this))
     , menu(new MenuScreen(body->display()))
     , screens(library, body->display())
 {
     setWindowTitle(tr("Recent Calls"));
     layOut();
-    connect(menu, &MenuScreen::chosen, &screens, &ScreenHost::open);
+    connect(menu, &MenuScreen::chosen, this, &PhoneWindow::openScreen);
     connect(menu, &MenuScreen::exitRequested, this, &PhoneWindow::close, Qt::QueuedConnection);
-    connect(menu, &MenuScreen::clearKeyClicked, &line, &Line::takeBackDigit);
     connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
-    connect(body->keypad(), &Keypad::callPressed, &line, &Line::pressCallKey);
-    connect(body->keypad(), &Keypad::hangUpPressed, &line, &Line::pressHangUpKey);
-    connect(body->keypad(), &Keypad::numberTyped, &line, &Line::typeNumber);
     menu->show();
     menu->takeFocus();
 }
+
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephone)
+    : PhoneWindow(library, [telephone] { return telephone; })
+{}
 
 PhoneWindow::~PhoneWindow()
 {
@@ -60,15 +62,39 @@ void PhoneWindow::layOut()
 
 void PhoneWindow::paintEvent(QPaintEvent *)
 {
-    if (!panel)
-        QMetaObject::invokeMethod(this, &PhoneWindow::complete, Qt::QueuedConnection);
+    if (openTelephone)
+        QTimer::singleShot(0, this, [this] { return isVisible() && complete(); });
 }
 
-void PhoneWindow::complete()
+bool PhoneWindow::complete()
 {
-    if (panel)
-        return;
-    panel = new Panel(line, panelSetup, this);
+    if (!openTelephone)
+        return panel != nullptr;
+    const std::optional<Telephone> telephone = std::exchange(openTelephone, nullptr)();
+    if (!telephone) {
+        close();
+        return false;
+    }
+    line = std::make_unique<Line>(telephone->handset);
+    panelSetup.stateDirectory = telephone->stateDirectory;
+    panelSetup.notice = telephone->notice;
+    panelSetup.faults = telephone->faults;
+    connectTelephone();
+    makePanel();
+    return true;
+}
+
+void PhoneWindow::connectTelephone()
+{
+    connect(menu, &MenuScreen::clearKeyClicked, line.get(), &Line::takeBackDigit);
+    connect(body->keypad(), &Keypad::callPressed, line.get(), &Line::pressCallKey);
+    connect(body->keypad(), &Keypad::hangUpPressed, line.get(), &Line::pressHangUpKey);
+    connect(body->keypad(), &Keypad::numberTyped, line.get(), &Line::typeNumber);
+}
+
+void PhoneWindow::makePanel()
+{
+    panel = new Panel(*line, panelSetup, this);
     row->removeItem(placeOfPanel);
     delete placeOfPanel;
     row->addWidget(panel, 1);
@@ -79,7 +105,7 @@ void PhoneWindow::complete()
 
 bool PhoneWindow::openScreen(int index)
 {
-    return screens.open(index);
+    return complete() && screens.open(index);
 }
 
 void PhoneWindow::choosePage(int index)

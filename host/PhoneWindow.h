@@ -7,6 +7,10 @@
 
 #include <QtWidgets/QWidget>
 
+#include <functional>
+#include <memory>
+#include <optional>
+
 class QHBoxLayout;
 class QSpacerItem;
 
@@ -27,19 +31,25 @@ public:
         QString notice;                            ///< of its opening
         Faults *faults = nullptr;                  ///< of what is installed in front of it, as in Panel::Setup
     };
+    /// Opens the telephone and installs it; nothing where that failed.
+    using OpenTelephone = std::function<std::optional<Telephone>()>;
 
-    /// `library` is loaded and outlives the window.
+    /// `library` is loaded and outlives the window. `open` is called once, by complete().
+    PhoneWindow(const ScreenLibrary &library, OpenTelephone open);
+    /// With a telephone that is open already.
     PhoneWindow(const ScreenLibrary &library, const Telephone &telephone);
     /// Gives back an open screen. Not before: a closed window's screen may still wait for a dialog that blocks it,
     /// and is destroyed once the event loop has ended.
     ~PhoneWindow() override;
 
-    /// Opens row `index` of the screen table; false as in ScreenHost::open().
+    /// Opens the telephone and makes the panel now, which otherwise follows the window's first paint: the phone is
+    /// seen that much sooner. False when the telephone cannot be opened; the window is closed then.
+    bool complete();
+
+    /// Opens row `index` of the screen table, on a complete window; false as in ScreenHost::open().
     bool openScreen(int index);
     /// As Panel::choosePage().
     void choosePage(int index);
-    /// Makes the panel now, which otherwise follows the window's first paint: the phone is there that much sooner.
-    void complete();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -48,13 +58,16 @@ protected:
 
 private:
     void layOut();
+    void connectTelephone();
+    void makePanel();
 
-    Line line;
+    OpenTelephone openTelephone; ///< until it is called
+    std::unique_ptr<Line> line;  ///< until complete() null, as the panel
     QHBoxLayout *row;
     Panel::Setup panelSetup;
     PhoneBody *body;
     QSpacerItem *placeOfPanel; ///< until the panel is there
-    Panel *panel = nullptr;    ///< until complete()
+    Panel *panel = nullptr;
     MenuScreen *menu;
     ScreenHost screens;
 };

@@ -21,6 +21,7 @@
 #include <cstdio>
 #include <cstring>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -157,44 +158,56 @@ int runTour(const Options &options, const ScreenLibrary &library, const EndSigna
 
 // --- the window
 
+// Nothing and the exit code where that fails.
+std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, int &code)
+{
+    const handset::Opened opened = handset::open({options.backend, options.stateDirectory, nullptr});
+    if (!opened.handset) {
+        code = complain(ExitNoTelephone, opened.error);
+        return {};
+    }
+    if (!opened.notice.isEmpty())
+        complain(ExitSuccess, opened.notice);
+    code = startTrace(options.traceFile);
+    if (code != ExitSuccess)
+        return {};
+    const auto installed = std::make_shared<FaultyHandset>(opened.handset);
+    handset::install(installed);
+    return PhoneWindow::Telephone{opened.handset, options.stateDirectory, opened.notice, &installed->faults()};
+}
+
 int photographWindow(PhoneWindow &window, const QString &file)
 {
-    window.complete();
     QCoreApplication::processEvents();
     if (window.grab().save(file, "PNG"))
         return ExitSuccess;
     return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
 }
 
-int showWindow(const Options &options, const ScreenLibrary &library, const handset::Opened &opened, Faults &faults,
-               const EndSignals &endSignals)
+int showWindow(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
 {
-    PhoneWindow window(library, {opened.handset, options.stateDirectory, opened.notice, &faults});
+    int openingCode = ExitSuccess;
+    PhoneWindow window(library, [&] { return openTelephone(options, openingCode); });
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open
     });
     window.choosePage(options.page);
     window.show();
+    const bool needsTelephone = !options.screen.isEmpty() || !options.photo.isEmpty();
+    if (needsTelephone && !window.complete())
+        return openingCode;
     if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
         return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));
     if (!options.photo.isEmpty())
         return photographWindow(window, options.photo);
-    return endSignals.haveCome() ? ExitSuccess : QApplication::exec();
+    const int code = endSignals.haveCome() ? ExitSuccess : QApplication::exec();
+    return openingCode == ExitSuccess ? code : openingCode;
 }
 
 int runWindow(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
 {
-    const handset::Opened opened = handset::open({options.backend, options.stateDirectory, nullptr});
-    if (!opened.handset)
-        return complain(ExitNoTelephone, opened.error);
-    if (!opened.notice.isEmpty())
-        complain(ExitSuccess, opened.notice);
-    if (const int code = startTrace(options.traceFile))
-        return code;
-    const auto installed = std::make_shared<FaultyHandset>(opened.handset);
-    handset::install(installed);
-    const int code = showWindow(options, library, opened, installed->faults(), endSignals);
+    const int code = showWindow(options, library, endSignals);
     handset::install(nullptr);
     return code;
 }

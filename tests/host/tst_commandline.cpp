@@ -31,6 +31,8 @@ private slots:
     void aReplacementLibraryThatLacksAFunctionIsToldAtTheStart();
     void anUnusableStateDirectoryIsSaid();
     void aDamagedCallLogIsSaidAndKeptAside();
+    void aWindowWhoseTelephoneCannotBeOpenedEndsLikewise_data();
+    void aWindowWhoseTelephoneCannotBeOpenedEndsLikewise();
     void aTelephoneThatKeepsNothingFindsItsStateDirectoryMade();
     void aSecondStartOnTheSameStateIsRefused();
     void anUnknownBackendIsSaid();
@@ -234,6 +236,28 @@ void CommandLineTest::aDamagedCallLogIsSaidAndKeptAside()
     QCOMPARE(result.code, 0);
     QVERIFY2(result.errors.contains("calllog-kept-1.db"), qPrintable(result.errors));
     QCOMPARE(contents("state/calllog-kept-1.db"), QString::fromLatin1(damaged));
+}
+
+void CommandLineTest::aWindowWhoseTelephoneCannotBeOpenedEndsLikewise_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("no state directory") << QStringList{"--state", "/dev/null/state"} << 3 << "/dev/null/state";
+    QTest::newRow("no trace file") << QStringList{"--state", "none", "--trace", "/dev/null/trace"} << 4
+                                   << "/dev/null/trace";
+    QTest::newRow("no such telephone") << QStringList{"--state", "none", "--backend", "pigeon"} << 3 << "pigeon";
+}
+
+// The window is there by then, and its event loop runs.
+void CommandLineTest::aWindowWhoseTelephoneCannotBeOpenedEndsLikewise()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, code);
+    QFETCH(QString, named);
+    const HostResult result = run(arguments);
+    QCOMPARE(result.code, code);
+    QVERIFY2(result.errors.contains(named), qPrintable(result.errors));
 }
 
 void CommandLineTest::aTelephoneThatKeepsNothingFindsItsStateDirectoryMade()

@@ -54,7 +54,9 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void thePhoneIsPaintedBeforeThePanelIsMade();
+    void thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade();
+    void aScreenThatIsOpenedBeforeThatWaitsForTheTelephone();
+    void aTelephoneThatCannotBeOpenedClosesTheWindow();
     void theMenuHasTheKeysAtTheStart();
     void keypadKeysDriveTheScreensAndLeaveTheFocus();
     void theDesktopKeyboardDrivesTheScreens();
@@ -80,6 +82,7 @@ private slots:
 private:
     void openWindow(const std::shared_ptr<handset::Handset> &telephone, const QString &directory = {},
                     const QString &notice = {});
+    static void expectSizeHintWarning();
     void showWindow();
     QPushButton *button(const char *text) const;
     void click(const char *text) const { QTest::mouseClick(button(text), Qt::LeftButton); }
@@ -133,10 +136,15 @@ void WindowTest::openWindow(const std::shared_ptr<handset::Handset> &handset, co
 }
 
 // Qt's offscreen platform warns of every window that has a least size.
-void WindowTest::showWindow()
+void WindowTest::expectSizeHintWarning()
 {
     if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+}
+
+void WindowTest::showWindow()
+{
+    expectSizeHintWarning();
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get()));
     window->complete();
@@ -202,19 +210,53 @@ private:
 
 } // namespace
 
-void WindowTest::thePhoneIsPaintedBeforeThePanelIsMade()
+void WindowTest::thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade()
 {
-    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{owner, {}, {}});
+    QStringList paintedBefore;
+    const PaintWatch *watching = nullptr;
+    window = std::make_unique<PhoneWindow>(library, [&] {
+        paintedBefore = watching->withoutPanel;
+        return PhoneWindow::Telephone{owner, {}, {}};
+    });
     const PaintWatch watch(window.get());
-    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
-        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    watching = &watch;
+    expectSizeHintWarning();
     window->show();
     const QSize first = window->size();
     QTRY_VERIFY(watch.withPanel.contains("host::LineSection"));
     for (const char *part : {"host::PhoneBody", "host::PhoneKey", "host::MenuScreen"})
-        QVERIFY2(watch.withoutPanel.contains(QLatin1StringView(part)), part);
+        QVERIFY2(paintedBefore.contains(QLatin1StringView(part)), part);
     QCOMPARE(window->size(), first);
     QVERIFY(button("Dial")->isVisible());
+}
+
+void WindowTest::aScreenThatIsOpenedBeforeThatWaitsForTheTelephone()
+{
+    int opened = 0;
+    window = std::make_unique<PhoneWindow>(library, [&] {
+        ++opened;
+        return PhoneWindow::Telephone{owner, {}, {}};
+    });
+    QVERIFY(window->openScreen(0));
+    QCOMPARE(opened, 1);
+    QVERIFY(window->findChild<ZKbMainWidget *>("callTime"));
+    showWindow();
+    QCOMPARE(opened, 1);
+}
+
+void WindowTest::aTelephoneThatCannotBeOpenedClosesTheWindow()
+{
+    int tried = 0;
+    window = std::make_unique<PhoneWindow>(library, [&]() -> std::optional<PhoneWindow::Telephone> {
+        ++tried;
+        return {};
+    });
+    expectSizeHintWarning();
+    window->show();
+    QTRY_VERIFY(!window->isVisible());
+    QVERIFY(!window->complete());
+    QVERIFY(!window->openScreen(0));
+    QCOMPARE(tried, 1);
 }
 
 void WindowTest::theMenuHasTheKeysAtTheStart()
