@@ -2,6 +2,7 @@
 
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
+#include <QtGui/QPixmapCache>
 
 namespace host {
 
@@ -65,19 +66,44 @@ QSize PhoneKey::sizeHint() const
 void PhoneKey::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    painter.drawPixmap(0, 0, face());
     painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient face(0, 0, 0, height());
-    face.setColorAt(0, isDown() ? keyFoot.darker(115) : keyTop);
-    face.setColorAt(1, isDown() ? keyFoot : underMouse() ? keyTop : keyFoot);
-    painter.setPen(keyEdge);
-    painter.setBrush(face);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
     if (isDown())
         painter.translate(0, 1);
     if (legend == Legend::Text)
         paintText(painter);
     else
         paintSign(painter);
+}
+
+// The key without its legend. Most keys are of one size, and are painted once.
+QPixmap PhoneKey::face() const
+{
+    const bool isTouched = isDown() || underMouse();
+    const qreal ratio = devicePixelRatioF();
+    const QString name = QStringLiteral("host::PhoneKey %1 %2 %3 %4 %5")
+                             .arg(width())
+                             .arg(height())
+                             .arg(ratio)
+                             .arg(isDown())
+                             .arg(isTouched);
+    QPixmap pixmap;
+    if (QPixmapCache::find(name, &pixmap))
+        return pixmap;
+    pixmap = QPixmap(size() * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient shade(0, 0, 0, height());
+    shade.setColorAt(0, isDown() ? keyFoot.darker(115) : keyTop);
+    shade.setColorAt(1, isDown() || !isTouched ? keyFoot : keyTop);
+    painter.setPen(keyEdge);
+    painter.setBrush(shade);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    painter.end();
+    QPixmapCache::insert(name, pixmap);
+    return pixmap;
 }
 
 void PhoneKey::paintText(QPainter &painter) const

@@ -21,6 +21,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    QPixmap face() const;
     void paintText(QPainter &painter) const;
     void paintSign(QPainter &painter) const;
 
