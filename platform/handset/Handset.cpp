@@ -79,6 +79,7 @@ void openDefault()
 {
     Settings settings;
     settings.stateDirectory = defaultStateDirectory();
+    settings.tell = [](const QString &notice) { qCWarning(lcHandset, "%s", qUtf8Printable(notice)); };
     Opened opened = open(settings);
     if (!opened.error.isEmpty())
         qCWarning(lcHandset, "%s", qUtf8Printable(opened.error));

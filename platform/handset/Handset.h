@@ -4,6 +4,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
+#include <functional>
 #include <memory>
 
 namespace handset {
@@ -36,7 +37,10 @@ struct Settings {
     QString backend = QStringLiteral("simulated"); ///< one of backendNames()
     /// Directory that keeps the state between starts, made when missing; empty keeps it in memory only.
     QString stateDirectory;
-    std::shared_ptr<Clock> clock; ///< null is the machine's clocks
+    std::shared_ptr<Clock> clock = {}; ///< null is the machine's clocks
+    /// Is told what the user should know that is found only while the telephone runs: one sentence. From the event loop
+    /// of the GUI thread, as long as the telephone lives; null for nobody.
+    std::function<void(const QString &notice)> tell = {};
 };
 
 struct Opened {

@@ -1,23 +1,23 @@
 #include "OpenCallStore.h"
 
+#include "CheckBeside.h"
 #include "ExamineFile.h"
 #include "OpenDatabase.h"
 #include "repair/Replacement.h"
-
-#include <QtCore/QFileInfo>
 
 namespace handset::calllog {
 
 namespace {
 
-/// Bytes, some 100,000 calls; that much is read through in less than 0.1 s.
-constexpr qint64 alwaysVerifiedSize = 4 << 20;
+/// Bytes, some 5,000 calls; that much is read through in a few milliseconds.
+constexpr qint64 readAtOnce = 256 << 10;
 
 Care careFor(const StateDirectory &directory, const QString &name)
 {
-    if (directory.hasLeftovers(name))
-        return Care::Leftovers;
-    return QFileInfo(directory.filePath(name)).size() <= alwaysVerifiedSize ? Care::Thorough : Care::Quick;
+    const qint64 size = directory.size(name) + directory.size(name + QStringLiteral("-wal"));
+    if (size > readAtOnce)
+        return Care::Quick;
+    return directory.hasLeftovers(name) ? Care::Leftovers : Care::Thorough;
 }
 
 Attempt openFile(std::unique_ptr<StateDirectory> &directory)
@@ -28,8 +28,14 @@ Attempt openFile(std::unique_ptr<StateDirectory> &directory)
     Finding finding = examineFile(*directory, name);
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
+    const QString path = directory->filePath(name);
+    if (isMarkedDamaged(path))
+        return {{Verdict::Damaged, {}}, nullptr, {}};
     const Care care = careFor(*directory, name);
-    return openDatabase(directory->filePath(name), directory, care);
+    Attempt attempt = openDatabase(path, directory, care);
+    if (care == Care::Quick)
+        attempt.unread = path;
+    return attempt;
 }
 
 OpenedStore cannotBeUsed(const StateDirectory &directory, const QString &reason)
@@ -61,7 +67,7 @@ OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory)
     }
     if (!attempt.store)
         return cannotBeUsed(*directory, explain(attempt.finding));
-    OpenedStore opened{std::move(attempt.store), {}, {}};
+    OpenedStore opened{std::move(attempt.store), {}, {}, attempt.unread};
     opened.notice = untoldNotice(*opened.store);
     return opened;
 }

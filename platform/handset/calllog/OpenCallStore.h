@@ -15,6 +15,7 @@ struct OpenedStore {
     /// What happened to a file that could not be used; empty for nothing. Every start has it until whoever tells it
     /// keeps an empty value under keptNotice (Finding.h).
     QString notice;
+    QString unread = {}; ///< the file that is still to be read through, by CheckBeside; empty when it has been
 };
 
 /// An empty directory name keeps the calls in memory only. A file that cannot be used as a call log, or not by this

@@ -1,5 +1,6 @@
 #include "OpenDatabase.h"
 
+#include "LogCheck.h"
 #include "Schema.h"
 #include "SchemaCheck.h"
 #include "SessionStore.h"
@@ -46,12 +47,20 @@ Finding configure(Database &database)
 }
 
 // The whole file, page by page and row by row. That takes time in proportion to its size (some 0.6 s for a million
-// calls), so a big log that was closed properly is spared: settle() reads every page of it that the figures and the
-// next calls depend on.
+// calls), so a big log is read beside its use: settle() reads every page of it that the figures and the next calls
+// depend on.
 Finding verify(Database &database)
 {
-    const QString result = database.text(QStringLiteral("PRAGMA quick_check(1)"));
-    return result.isEmpty() ? failure(database) : judgeCheck(result);
+    return checkPages(database.handle());
+}
+
+Finding verifySums(Database &database)
+{
+    CheckedLog checked = checkSums(database.handle());
+    if (checked.finding.verdict != Verdict::Usable || !saysMore(checked.unknown))
+        return std::move(checked.finding);
+    return database.inTransaction([&] { return putUnknown(database, checked.unknown); }) ? Finding{}
+                                                                                         : failure(database);
 }
 
 // Every total by its name, and no other; a negative one is none.
@@ -145,7 +154,7 @@ Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &direc
     }
     auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
     Finding finding = care == Care::Quick ? walk(*database, {identify, configure, settle})
-                                          : walk(*database, {identify, verify, configure, settle});
+                                          : walk(*database, {identify, verify, configure, settle, verifySums});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
     // Packet data prepares its statements later, when there is nobody left who could replace the log.

@@ -12,11 +12,12 @@ namespace handset::calllog {
 struct Attempt {
     Finding finding;
     std::unique_ptr<CallStore> store; ///< null unless usable
+    QString unread = {};              ///< as OpenedStore::unread
 };
 
 enum class Care {
     Quick,    ///< reads what later operations depend on
-    Thorough, ///< reads the whole file
+    Thorough, ///< reads the whole file, and its rows beside its totals
     Leftovers ///< the same, once before anything is written: there are leftovers to be worked in
 };
 

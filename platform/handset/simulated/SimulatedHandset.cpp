@@ -54,6 +54,8 @@ Opened open(const Settings &settings)
         return {nullptr, QStringLiteral("What the call log keeps of the SIM card cannot be read."), {}};
     if (!opened.notice.isEmpty())
         telephone->noticeIsTold();
+    if (!opened.unread.isEmpty())
+        telephone->checkBeside(opened.unread, settings.tell);
     return {telephone, {}, notices.join(QLatin1Char(' '))};
 }
 
@@ -70,6 +72,11 @@ SimulatedHandset::SimulatedHandset(std::unique_ptr<calllog::CallStore> store, st
     timer.setInterval(tickMs);
     timer.setTimerType(Qt::PreciseTimer);
     connect(&timer, &QTimer::timeout, this, &SimulatedHandset::tick);
+}
+
+void SimulatedHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
+{
+    check = std::make_unique<calllog::CheckBeside>(recorder.connection(), file, tell);
 }
 
 void SimulatedHandset::noticeIsTold()

@@ -4,6 +4,7 @@
 #include "CallFigures.h"
 #include "CallRecorder.h"
 #include "Charging.h"
+#include "CheckBeside.h"
 #include "PacketSessions.h"
 #include "SimAccess.h"
 #include "SimulatedTelephone.h"
@@ -48,6 +49,8 @@ public:
 
     /// Reads what the call log keeps beside the calls; before anything else. As ChargeMeter::load().
     int load(QStringList &notices) { return meter.load(recorder, notices); }
+    /// Reads the call log at `file` through while it is in use. As CheckBeside.
+    void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
     /// What the call log had to tell of its opening; else the next start tells it again.
     void noticeIsTold();
 
@@ -76,7 +79,8 @@ private:
     int ticksToCheckpoint = 0;
     bool toldOwing = false; ///< with the last changed()
     LineState state = LineState::Idle;
-    PastCall call; ///< on the line
+    PastCall call;                               ///< on the line
+    std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
 
 } // namespace handset::simulated

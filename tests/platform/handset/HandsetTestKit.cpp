@@ -116,12 +116,14 @@ QStringList StateDir::names() const
     return found;
 }
 
-Phone::Phone(const QString &stateDirectory, std::shared_ptr<ManualClock> shared)
+Phone::Phone(const QString &stateDirectory, std::shared_ptr<ManualClock> shared,
+             std::function<void(const QString &)> tell)
     : clock(shared ? std::move(shared) : std::make_shared<ManualClock>(qint64{1'800'000'000'000}))
 {
     Settings settings;
     settings.stateDirectory = stateDirectory;
     settings.clock = clock;
+    settings.tell = std::move(tell);
     opened = open(settings);
     telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
 }

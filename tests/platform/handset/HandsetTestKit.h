@@ -80,7 +80,8 @@ class Phone
 {
 public:
     /// A null clock makes a ManualClock of its own.
-    explicit Phone(const QString &stateDirectory = {}, std::shared_ptr<ManualClock> shared = nullptr);
+    explicit Phone(const QString &stateDirectory = {}, std::shared_ptr<ManualClock> shared = nullptr,
+                   std::function<void(const QString &)> tell = {});
 
     explicit operator bool() const { return telephone; }
     simulated::SimulatedTelephone *operator->() const { return telephone; }

@@ -1,6 +1,8 @@
 // A call log that somebody has changed: it is told, nothing of it runs, and the telephone works.
 #include "CallLog.h"
+#include "CallService.h"
 #include "HandsetTestKit.h"
+#include "PacketData.h"
 #include "SimSecurity.h"
 #include "Status.h"
 
@@ -42,6 +44,10 @@ private slots:
 
     void whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data();
     void whatIsChangedInTheTablesIsToldOnceAndCostsNoCall();
+    void totalsThatContradictTheRowsAreTold_data();
+    void totalsThatContradictTheRowsAreTold();
+    void totalsThatWereResetContradictNothing();
+    void aLogOfAnEarlierVersionIsBelievedOnce();
     void aViewThatNeverEndsIsNeverRead_data();
     void aViewThatNeverEndsIsNeverRead();
     void aColumnThatIsComputedIsNeverRead();
@@ -103,6 +109,85 @@ void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall()
     QCOMPARE(phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "1234", accepted), int(Success));
     QVERIFY(accepted);
     QCOMPARE(phone.figures().lifetime, quint64{98});
+}
+
+void TestFalsifiedLog::totalsThatContradictTheRowsAreTold_data()
+{
+    QTest::addColumn<QString>("statement");
+    const auto row = [](const char *name, const char *statement) {
+        QTest::newRow(name) << QString::fromLatin1(statement);
+    };
+    row("less time than all calls ever", "UPDATE totals SET ms = ms - 1 WHERE counter = 'lifetime'");
+    row("more time than all calls ever", "UPDATE totals SET ms = ms + 1 WHERE counter = 'lifetime'");
+    row("nothing at all", "UPDATE totals SET ms = 0 WHERE counter = 'lifetime'");
+    row("more time than the dialed calls", "UPDATE totals SET ms = 81001 WHERE counter = 'dialed'");
+    row("more time than the answered calls", "UPDATE totals SET ms = 5001 WHERE counter = 'answered'");
+    row("more time than the data calls", "UPDATE totals SET ms = 9001 WHERE counter = 'data'");
+    row("more time for all calls than ever", "UPDATE totals SET ms = 95001 WHERE counter = 'all'");
+    row("more time for the last call than ever", "UPDATE totals SET ms = 95001 WHERE counter = 'last'");
+    row("more units than the dialed calls", "UPDATE costs SET units = 9 WHERE counter = 'dialed'");
+    row("more units than the answered calls", "UPDATE costs SET units = 1 WHERE counter = 'answered'");
+    row("more units for the last call than all", "UPDATE costs SET units = 9 WHERE counter = 'last'");
+    row("more time than the sessions", "UPDATE session_totals SET value = 7001 WHERE counter = 'duration'");
+    row("more bytes sent than the sessions", "UPDATE session_totals SET value = 71 WHERE counter = 'sent'");
+    row("more bytes received than the sessions",
+        "UPDATE session_totals SET value = 141 WHERE counter = 'received'");
+    row("a call that is shorter", "UPDATE calls SET duration_ms = 1 WHERE id = 1");
+    row("a call that is gone", "DELETE FROM calls WHERE id = 2");
+    row("a call more", "INSERT INTO calls VALUES (9, 0, 0, '9', 0, 1000, 1, 0)");
+    row("a session that is gone", "DELETE FROM sessions");
+}
+
+void TestFalsifiedLog::totalsThatContradictTheRowsAreTold()
+{
+    QFETCH(QString, statement);
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    QVERIFY(change(state, {statement}));
+    {
+        Phone phone(state.path());
+        QVERIFY2(phone.opened.notice.startsWith(QStringLiteral("The call log is damaged; it was kept as ")),
+                 qPrintable(phone.opened.notice));
+        QVERIFY(phone.dialed(3 * second));
+    }
+    QCOMPARE(Phone(state.path()).opened.notice, QString()); // once
+}
+
+void TestFalsifiedLog::totalsThatWereResetContradictNothing()
+{
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.dial());
+        phone.clock->advance(25 * second);
+        QCOMPARE(phone.log().resetAll(), int(Success));
+        QCOMPARE(phone.service().resetCallTime(), int(Success));
+        QCOMPARE(phone.packets().resetTotalBytes(), int(Success));
+        phone.clock->advance(2 * second);
+    }
+    {
+        const Phone phone(state.path());
+        QCOMPARE(phone.opened.notice, QString());
+        QCOMPARE(phone.figures().lifetime, quint64{122});
+        QCOMPARE(phone.log().resetDialedCallsTime(), int(Success));
+    }
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+// An earlier version did not write down what a damaged page took with it, so what its totals have beyond its rows is no
+// damage when it is seen first.
+void TestFalsifiedLog::aLogOfAnEarlierVersionIsBelievedOnce()
+{
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    QVERIFY(change(state, {QStringLiteral("DROP TABLE lost"), QStringLiteral("PRAGMA user_version = 2"),
+                           QStringLiteral("DELETE FROM calls WHERE id = 1"),
+                           QStringLiteral("DELETE FROM kept WHERE name = 'charging'")}));
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+    QCOMPARE(Phone(state.path()).figures(), (SixFigures{20, 81, 5, 9, 95, 95}));
+    QVERIFY(change(state, {QStringLiteral("DELETE FROM calls WHERE id = 4")}));
+    QVERIFY(!Phone(state.path()).opened.notice.isEmpty());
 }
 
 void TestFalsifiedLog::aViewThatNeverEndsIsNeverRead_data()

@@ -37,6 +37,12 @@ std::optional<qint64> RowSalvage::read(const QString &select)
     return number;
 }
 
+bool RowSalvage::putLost(const char *counter, qint64 amount)
+{
+    const QString put = QStringLiteral("UPDATE lost SET value = %1 WHERE counter = '%2'");
+    return target.run(put.arg(std::max<qint64>(amount, 0)).arg(QString::fromLatin1(counter)));
+}
+
 bool RowSalvage::copy(const QString &select, const QString &insert)
 {
     if (!target.prepare(putRow, insert))

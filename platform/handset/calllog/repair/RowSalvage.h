@@ -51,6 +51,8 @@ protected:
     bool copy(const QString &select, const QString &insert);
     /// The first column of the source's first row; nothing when there is none that can be read.
     std::optional<qint64> read(const QString &select);
+    /// What a total counts beyond the rows that were copied; the counter is of the table `lost`.
+    bool putLost(const char *counter, qint64 amount);
     /// To be told of every error of the source.
     void note(const QSqlError &error);
     bool isBlocked() const { return blockedBy.verdict != Verdict::Usable; }

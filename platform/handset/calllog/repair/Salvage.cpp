@@ -8,6 +8,7 @@
 
 #include <QtCore/QVariant>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -41,6 +42,7 @@ private:
     bool isPlausible(const QSqlQuery &row) const override;
     void countRow(const QSqlQuery &row) override;
     QString unitsColumn();
+    bool fit(Totals &totals);
     bool putTotals();
     std::optional<Totals> readTotals();
     bool putCosts();
@@ -118,17 +120,33 @@ std::optional<Totals> CallSalvage::readTotals()
     return totals;
 }
 
+// Of a log that lost rows the totals count more than what is left, and no single one more than all of it.
+bool CallSalvage::fit(Totals &totals)
+{
+    const qint64 lifetime = totalOf(totals, Counter::Lifetime);
+    const qint64 lost = lifetime - totalOf(counted, Counter::Lifetime);
+    const auto isOwn = [](Counter counter) {
+        return counter == Counter::Dialed || counter == Counter::Answered || counter == Counter::Data;
+    };
+    return lost >= 0 && std::all_of(counterNames.begin(), counterNames.end(), [&](const CounterName &name) {
+               const qint64 total = totalOf(totals, name.counter);
+               const qint64 most =
+                   isOwn(name.counter) ? saturatingSum(totalOf(counted, name.counter), lost) : lifetime;
+               return total <= most;
+           });
+}
+
 bool CallSalvage::putTotals()
 {
-    const std::optional<Totals> kept = readTotals();
-    totalsRead = kept.has_value();
-    Totals totals = kept.value_or(counted);
+    std::optional<Totals> kept = readTotals();
+    totalsRead = kept && fit(*kept);
+    Totals totals = totalsRead ? *kept : counted;
     if (isBlocked())
         return false;
     for (const CounterName &name : counterNames)
         if (!store.putTotal(name.counter, totalOf(totals, name.counter)))
             return false;
-    return true;
+    return putLost("calls", totalOf(totals, Counter::Lifetime) - totalOf(counted, Counter::Lifetime));
 }
 
 std::optional<Costs> CallSalvage::readCosts()
@@ -149,10 +167,14 @@ bool CallSalvage::putCosts()
     Costs costs = readCosts().value_or(countedCosts);
     if (isBlocked())
         return false;
-    for (const CostCounterName &name : costCounterNames)
-        if (!store.putCost(name.counter, costOf(costs, name.counter)))
+    qint64 lost = 0;
+    for (const CostCounterName &name : costCounterNames) {
+        const qint64 cost = costOf(costs, name.counter);
+        if (!store.putCost(name.counter, cost))
             return false;
-    return true;
+        lost = std::max(lost, cost - costOf(countedCosts, name.counter));
+    }
+    return putLost("units", lost);
 }
 
 // Who kept the values looks whether they are whole, and tells of the one that is missing. In an earlier version's log

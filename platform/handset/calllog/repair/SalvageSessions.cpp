@@ -83,7 +83,8 @@ bool SessionSalvage::putTotals()
         return false;
     SessionStore store(target);
     return std::all_of(sessionCounters.begin(), sessionCounters.end(), [&](const SessionCounterName &name) {
-        return store.putTotal(name.counter, totals.*name.amount);
+        const qint64 total = totals.*name.amount;
+        return store.putTotal(name.counter, total) && putLost(name.key, total - counted.*name.amount);
     });
 }
 

@@ -1,0 +1,127 @@
+#include "CheckBeside.h"
+
+#include "PlainSqlite.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QMetaObject>
+
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace handset::calllog {
+
+namespace {
+
+constexpr auto markSuffix = "-damaged";
+constexpr int nicer = 10; ///< than the screens
+
+// A log that takes the place of the marked one is another file.
+QByteArray identity(const QString &path)
+{
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    return QByteArray::number(qulonglong{status.st_ino}) + '\n';
+}
+
+// Answers 0 or an errno. (The database itself must not be opened here: closing it would drop SQLite's locks.)
+int mark(const QString &path)
+{
+    const QByteArray name = QFile::encodeName(path + QLatin1String(markSuffix));
+    const QByteArray content = identity(path);
+    const int fd =
+        ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
+    if (fd < 0)
+        return errno;
+    const bool done =
+        ::write(fd, content.constData(), static_cast<std::size_t>(content.size())) == content.size() &&
+        ::fsync(fd) == 0;
+    const int error = done ? 0 : errno;
+    ::close(fd);
+    return error;
+}
+
+CheckedLog readThrough(sqlite3 *connection)
+{
+    Finding pages = checkPages(connection);
+    return pages.verdict == Verdict::Usable ? checkSums(connection) : CheckedLog{std::move(pages), {}};
+}
+
+} // namespace
+
+CheckBeside::CheckBeside(Database &database, QString path, std::function<void(const QString &)> tell)
+    : log(database)
+    , file(std::move(path))
+    , listener(std::move(tell))
+    , reader([this] {
+        ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), nicer);
+        const CheckedLog checked = read();
+        if (!isOver)
+            QMetaObject::invokeMethod(
+                &here, [this, checked] { finish(checked); }, Qt::QueuedConnection);
+    })
+{}
+
+CheckBeside::~CheckBeside()
+{
+    isOver = true;
+    reader.join();
+}
+
+CheckedLog CheckBeside::read() const
+{
+    PlainConnection connection(file);
+    if (!connection.isOpen())
+        return {{Verdict::Blocked, QStringLiteral("it cannot be opened once more")}, {}};
+    connection.run("PRAGMA trusted_schema = OFF");
+    connection.run("PRAGMA cell_size_check = ON");
+    const Interruption interruption(connection.handle(), [this] { return isOver.load(); });
+    CheckedLog checked = readThrough(connection.handle());
+    // A read that went wrong once may look like damage.
+    return checked.finding.verdict == Verdict::Damaged ? readThrough(connection.handle()) : checked;
+}
+
+void CheckBeside::finish(const CheckedLog &checked)
+{
+    QString text;
+    switch (checked.finding.verdict) {
+    case Verdict::Damaged:
+        text = mark(file) == 0
+                   ? QStringLiteral("The call log is damaged. The next start begins a new one, with what can "
+                                    "be read of it.")
+                   : QStringLiteral("The call log is damaged, and that cannot be noted for the next start.");
+        break;
+    case Verdict::Usable:
+        if (saysMore(checked.unknown))
+            log.inTransaction([&] { return putUnknown(log, checked.unknown); });
+        break;
+    case Verdict::Missing:
+    case Verdict::Lost:
+    case Verdict::Foreign:
+    case Verdict::Newer:
+    case Verdict::Blocked:
+        text = QStringLiteral("The call log could not be read through: %1.").arg(explain(checked.finding));
+        break;
+    }
+    if (listener && !text.isEmpty())
+        listener(text);
+}
+
+bool isMarkedDamaged(const QString &path)
+{
+    const QString name = path + QLatin1String(markSuffix);
+    QFile marked(name);
+    if (!marked.open(QIODevice::ReadOnly))
+        return false;
+    if (marked.read(64) == identity(path))
+        return true;
+    QFile::remove(name);
+    return false;
+}
+
+} // namespace handset::calllog
