@@ -89,6 +89,8 @@ void TestHardening::theFileIsLoadedAnywhere()
 void TestHardening::aBufferOnTheStackIsGuarded()
 {
     QFETCH(QString, file);
+    if (QFileInfo(file).fileName() == QStringLiteral("kavrecentcalls"))
+        QSKIP("it only loads the program and has no buffer");
     QVERIFY(ElfFile(file).wantedNames().contains("__stack_chk_fail"));
 }
 

@@ -1,12 +1,13 @@
 #include "QCopBus.h"
 
 #include "BusProbe.h"
-#include "LineLimit.h"
 #include "QCopSubscribers.h"
+#include "QCopWire.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QLibrary>
 #include <QtCore/QThread>
+
+#include <dbus/dbus.h>
 
 #include <algorithm>
 #include <limits>
@@ -16,10 +17,10 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr QLatin1StringView linkName("kav-qcop");
-constexpr QLatin1StringView objectPath("/org/kav/QCop");
-constexpr QLatin1StringView interfaceName("org.kav.QCop");
-constexpr QLatin1StringView memberName("Message");
-constexpr QLatin1StringView argumentTypes("ayayay");
+constexpr QLatin1StringView objectPath(QCopWire::objectPath);
+constexpr QLatin1StringView interfaceName(QCopWire::interfaceName);
+constexpr QLatin1StringView memberName(QCopWire::memberName);
+constexpr QLatin1StringView argumentTypes(QCopWire::argumentTypes);
 
 // The D-Bus protocol's own limit is 2^27 bytes for a message with its header.
 constexpr qsizetype largestMessage = (qsizetype(1) << 27) - (qsizetype(1) << 20);
@@ -54,11 +55,8 @@ bool watchLoss(QDBusConnection &link, QObject *bus)
 // one: ours, from which Qt does not take it up, so that nothing would arrive any more. Qt offers no way to the limit.
 void liftReceivingLimit(const QDBusConnection &link)
 {
-    using SetLimit = void (*)(void *connection, long bytes);
-    QLibrary dbus(QStringLiteral("dbus-1"), 3);
-    const auto setLimit = reinterpret_cast<SetLimit>(dbus.resolve("dbus_connection_set_max_received_size"));
-    if (setLimit)
-        setLimit(link.internalPointer(), std::numeric_limits<long>::max());
+    auto *connection = static_cast<DBusConnection *>(link.internalPointer());
+    dbus_connection_set_max_received_size(connection, std::numeric_limits<long>::max());
 }
 
 // Neither path nor member: what comes under the interface and is no channel message shall leave a trace.
@@ -68,26 +66,10 @@ bool subscribe(QDBusConnection &link, QObject *bus)
            roundTrip(link, answerPatience);
 }
 
-// A path may have megabytes.
-QByteArray shortened(const QString &text)
-{
-    constexpr qsizetype most = 100;
-    return (text.size() > most ? text.left(most) + QStringLiteral("...") : text).toLocal8Bit();
-}
-
-// Who sends such messages must not fill the disk of who keeps the errors.
 void traceForeign(const QDBusMessage &message)
 {
-    static LineLimit lines;
-    const std::optional<qint64> unsaid = lines.take(std::chrono::steady_clock::now());
-    if (!unsaid)
-        return;
-    if (*unsaid > 0)
-        qWarning("QCopChannel: %lld more were ignored since without a line", static_cast<long long>(*unsaid));
-    qWarning("QCopChannel: \"%s.%s\" with \"%s\" at \"%s\" from %s is no channel message and is ignored",
-             shortened(message.interface()).constData(), shortened(message.member()).constData(),
-             shortened(message.signature()).constData(), shortened(message.path()).constData(),
-             shortened(message.service()).constData());
+    QCopWire::traceForeign({message.interface().toUtf8(), message.member().toUtf8(), message.signature().toUtf8(),
+                            message.path().toUtf8(), message.service().toUtf8()});
 }
 
 bool isChannelMessage(const QDBusMessage &message)
@@ -99,28 +81,35 @@ bool isChannelMessage(const QDBusMessage &message)
 
 } // namespace
 
-/// One try to connect and subscribe, in a thread of its own.
+/// One try to connect what is missing, in a thread of its own.
 class QCopBusAttempt : public QThread
 {
 public:
-    explicit QCopBusAttempt(QCopBus *bus)
-        : owner(bus)
+    QCopBusAttempt(QCopBus *bus, QCopBus::Sides missing)
+        : sides(missing)
+        , owner(bus)
     {}
 
     // To be looked at when the thread has ended.
+    const QCopBus::Sides sides;
     QDBusConnection link = noLink();
-    bool succeeded = false;
+    bool isSubscribed = false;
+    QCopOutlet::Connection outlet;
 
 protected:
     void run() override
     {
         if (!busAnswers(answerPatience, [this] { return isInterruptionRequested(); }))
             return;
+        if (sides & QCopBus::Sending)
+            outlet = QCopOutlet::connectToBus();
+        if (!(sides & QCopBus::Receiving))
+            return;
         link = QDBusConnection::connectToBus(QDBusConnection::SessionBus, linkName);
         if (!link.isConnected())
             return;
         liftReceivingLimit(link);
-        succeeded = watchLoss(link, owner) && subscribe(link, owner);
+        isSubscribed = watchLoss(link, owner) && subscribe(link, owner);
     }
 
 private:
@@ -164,33 +153,45 @@ QCopBus::~QCopBus()
     QDBusConnection::disconnectFromBus(linkName);
 }
 
-void QCopBus::want()
+QCopBus::Sides QCopBus::missing() const
 {
+    Sides none = wanted;
+    none.setFlag(Receiving, wanted.testFlag(Receiving) && !isLinked);
+    none.setFlag(Sending, wanted.testFlag(Sending) && !outlet);
+    return none;
+}
+
+void QCopBus::want(Side side)
+{
+    wanted |= side;
     startIfDue();
-    if (attempt && patient)
+    while (patient && attempt && missing().testFlag(side))
         patient = waitForAttempt(guiPatience);
 }
 
-bool QCopBus::waitFor(std::chrono::milliseconds limit)
+bool QCopBus::waitFor(std::chrono::milliseconds limit, Side side)
 {
+    const QDeadlineTimer deadline(limit);
+    wanted |= side;
     startIfDue();
-    if (attempt)
-        waitForAttempt(limit);
+    while (attempt && waitForAttempt(std::chrono::milliseconds(deadline.remainingTime())))
+        ;
     return isReady();
 }
 
 void QCopBus::startIfDue()
 {
-    if (!isReady() && nextAttempt.hasExpired())
+    if (missing() && nextAttempt.hasExpired())
         start();
 }
 
+// Not while a loss has not been taken notice of in its place among the messages: see checkLink().
 void QCopBus::start()
 {
-    if (attempt)
+    if (attempt || !missing() || isLosingLink())
         return;
     retry.stop();
-    attempt = std::make_unique<QCopBusAttempt>(this);
+    attempt = std::make_unique<QCopBusAttempt>(this, missing());
     connect(attempt.get(), &QThread::finished, this, &QCopBus::collect, Qt::QueuedConnection);
     attempt->start();
 }
@@ -210,32 +211,78 @@ void QCopBus::collect()
         return;
     attempt->wait();
     const std::unique_ptr<QCopBusAttempt> ended = std::move(attempt);
-    if (!ended->succeeded || !ended->link.isConnected()) {
+    if (ended->outlet)
+        takeOutlet(*ended);
+    if (ended->sides & Receiving)
+        takeLink(*ended);
+    if (missing() & ended->sides) {
         retryLater();
         return;
     }
-    link = ended->link;
-    ownName = link.baseService();
-    link.registerVirtualObject(objectPath, this);
     patient = true;
     pause = firstPause;
+    start(); // what was wanted since
+}
+
+void QCopBus::takeOutlet(QCopBusAttempt &ended)
+{
+    outlet = std::make_unique<QCopOutlet>(std::move(ended.outlet));
+    connect(outlet.get(), &QCopOutlet::lost, this, &QCopBus::checkOutlet);
+    ownNames << outlet->name();
+}
+
+void QCopBus::takeLink(QCopBusAttempt &ended)
+{
+    if (!ended.isSubscribed || !ended.link.isConnected()) {
+        dropLink();
+        return;
+    }
+    link = ended.link;
+    isLinked = true;
+    link.registerVirtualObject(objectPath, this);
+}
+
+void QCopBus::dropLink()
+{
+    QDBusConnection::disconnectFromBus(linkName);
+    link = noLink();
+    isLinked = false;
+    ownNames = outlet ? QStringList{outlet->name()} : QStringList();
+}
+
+// While messages of it may still come back, the name stays, that tells them.
+void QCopBus::dropOutlet()
+{
+    outlet.reset();
+    unsynced = false;
+    if (!isLinked)
+        ownNames.clear();
+    retryLater();
 }
 
 // The connection's end is taken notice of here only, in its place among the messages that came before it: until
-// all of those are taken, the name that tells the own ones must stay.
+// all of those are taken, the names that tell the own ones must stay.
 void QCopBus::checkLink()
 {
-    if (!isReady() || link.isConnected())
+    if (!isLosingLink())
         return;
+    if (outlet)
+        outlet->exchange();
+    if (outlet && !outlet->isConnected())
+        outlet.reset();
+    dropLink();
     retryLater();
     emit lost();
 }
 
+void QCopBus::checkOutlet()
+{
+    if (outlet && !outlet->isConnected())
+        dropOutlet();
+}
+
 void QCopBus::retryLater()
 {
-    QDBusConnection::disconnectFromBus(linkName);
-    link = noLink();
-    ownName.clear();
     nextAttempt = QDeadlineTimer(pause);
     retry.start(pause);
     pause = std::min(2 * pause, longestPause);
@@ -251,18 +298,18 @@ bool QCopBus::send(const QByteArray &channel, const QByteArray &message, const Q
 {
     if (!isSendable(channel, message, data))
         return false;
-    want();
-    if (!link.isConnected())
+    checkOutlet();
+    if (!outlet)
+        want(Sending);
+    if (!outlet)
         return false;
-    QDBusMessage signal = QDBusMessage::createSignal(objectPath, interfaceName, memberName);
-    signal << channel << message << data;
     unsynced = true;
-    return link.send(signal);
+    return outlet->send(channel, message, data);
 }
 
 bool QCopBus::sync(std::chrono::milliseconds limit)
 {
-    const bool arrived = link.isConnected() && roundTrip(link, limit);
+    const bool arrived = outlet && outlet->sync(limit);
     unsynced = unsynced && !arrived;
     return arrived;
 }
@@ -270,8 +317,8 @@ bool QCopBus::sync(std::chrono::milliseconds limit)
 // A signal that is sent to this process alone cannot be told from a broadcast here and counts as one.
 void QCopBus::take(const QDBusMessage &message)
 {
-    if (message.service() == ownName)
-        return; // the bus's copy for the sender, whose subscribers have it from send()
+    if (ownNames.contains(message.service()))
+        return; // the bus's copy of what was sent here, which the subscribers have from send()
     if (!isChannelMessage(message)) {
         traceForeign(message);
         return;

@@ -1,8 +1,11 @@
 // The channels' end of the session bus. Not a public header: the screens know QCopChannel only.
 #pragma once
 
+#include "QCopOutlet.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QDeadlineTimer>
+#include <QtCore/QStringList>
 #include <QtCore/QTimer>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
@@ -13,14 +16,13 @@
 
 class QCopBusAttempt;
 
-/// The process's one connection to the session bus, opened when the first channel or message wants it. What may
-/// wait for the bus (finding it, logging in, the acknowledgement of the subscription) is done in a helper thread;
-/// everything here belongs to the GUI thread.
+/// The process's end of the session bus: one connection that receives, opened when the first channel wants it, and one
+/// that sends (QCopOutlet), opened with the first message. Who only sends is subscribed to nothing. What may wait for
+/// the bus (finding it, logging in, the acknowledgement of the subscription) is done in a helper thread; everything here
+/// belongs to the GUI thread.
 ///
 /// A channel message on the bus is a broadcast signal: path "/org/kav/QCop", interface "org.kav.QCop", member
-/// "Message", signature "ayayay" (channel, message, data). One match rule is for all channels. It is added with the
-/// connection, also where there are no subscribers yet: Qt adds rules from the calling thread and not from its own,
-/// which is safe only while nothing is being sent.
+/// "Message", signature "ayayay" (channel, message, data). One match rule is for all channels.
 class QCopBus : public QDBusVirtualObject
 {
     Q_OBJECT
@@ -30,15 +32,21 @@ public:
     /// that what was sent is at the bus before.
     static QCopBus *instance();
 
-    /// Connects if that is not done yet and the last failure is long enough ago. Waits a quarter of a second at
-    /// most; when that once was not enough, not at all until a connection has succeeded.
-    void want();
+    /// The two things that a bus is wanted for.
+    enum Side { Receiving = 1, Sending = 2 };
+    Q_DECLARE_FLAGS(Sides, Side)
 
-    /// The same with `limit` as the longest wait, for programs without a screen. True when the bus is ready.
-    bool waitFor(std::chrono::milliseconds limit);
+    /// Connects for `side` if that is not done yet and the last failure is long enough ago. Waits a quarter of a second
+    /// at most; when that once was not enough, not at all until a connection has succeeded.
+    void want(Side side);
 
-    /// Whether there is a connection, and the bus has acknowledged that messages are to come here.
-    bool isReady() const { return !ownName.isEmpty(); }
+    /// The same with `limit` as the longest wait, for programs without a screen, and for all that was wanted before, too.
+    /// True when the bus is ready for all of it.
+    bool waitFor(std::chrono::milliseconds limit, Side side = Sending);
+
+    /// Whether there is a connection for all that is wanted, which is something; for Receiving, the bus has acknowledged
+    /// that messages are to come here.
+    bool isReady() const { return wanted && !missing(); }
 
     /// Queues a message for the bus, which is wanted. False without a bus and for a message that is too large.
     bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
@@ -62,6 +70,7 @@ signals:
 private slots:
     void take(const QDBusMessage &message);
     void checkLink();
+    void checkOutlet();
     void start();
 
 private:
@@ -69,15 +78,24 @@ private:
     ~QCopBus() override;
     static void leave();
 
+    Sides missing() const;
+    bool isLosingLink() const { return isLinked && !link.isConnected(); }
     void startIfDue();
     bool waitForAttempt(std::chrono::milliseconds limit);
     void collect();
+    void takeOutlet(QCopBusAttempt &ended);
+    void takeLink(QCopBusAttempt &ended);
+    void dropLink();
+    void dropOutlet();
     void retryLater();
 
     static QCopBus *self;
 
-    QDBusConnection link; // invalid unless ready
-    QString ownName;      // on the bus
+    Sides wanted;
+    QDBusConnection link;  // invalid unless linked
+    bool isLinked = false; // and the bus has acknowledged the subscription
+    std::unique_ptr<QCopOutlet> outlet;
+    QStringList ownNames; // of the outlet, and of earlier ones whose messages may still come back
     bool patient = true;
     bool unsynced = false; // sent since the last sync
 

@@ -35,6 +35,8 @@ private slots:
     void aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly();
     void aBusThatDoesNotAnswerHoldsUpNoProcessThatEnds();
     void aSubscriptionCountsWhenTheBusHasAcknowledgedIt();
+    void whoOnlySendsIsSubscribedToNothing();
+    void aSenderThatSubscribesLaterGetsNothingOfItsOwnBack();
     void aProcessDoesNotEndBeforeItsMessagesAreAtTheBus();
     void aBusThatComesLaterIsFoundByAWaitingSubscriber();
     void aBusKilledAmidABurstLosesNothingWithinTheProcess();
@@ -116,6 +118,50 @@ void TestBusComesAndGoes::aSubscriptionCountsWhenTheBusHasAcknowledgedIt()
     QVERIFY(sender.connectToBus());
     QVERIFY(sender.send(phone, "heard"));
     QCOMPARE(receiver.take(), Peer::line(1, "heard"));
+}
+
+void TestBusComesAndGoes::whoOnlySendsIsSubscribedToNothing()
+{
+    constexpr char rule[] = "interface='org.kav.QCop'"; // as a subscription says it, and a message does not
+    const PrivateBus bus;
+    Peer receiver(bus.address());
+    QVERIFY(receiver.subscribe(1, phone));
+    const BusRelay senders(bus.address(), rule);
+    Peer sender(senders.address());
+    QVERIFY(sender.connectToBus());
+    QVERIFY(sender.send(phone, "heard"));
+    QCOMPARE(receiver.take(), Peer::line(1, "heard"));
+    QCOMPARE(sender.finish(), 0);
+    QVERIFY(!senders.isHolding());
+    BusRelay receivers(bus.address(), rule);
+    Peer another(receivers.address());
+    another.make(1, phone);
+    QTRY_VERIFY_WITH_TIMEOUT(receivers.isHolding(), limitMs);
+    receivers.release();
+}
+
+void TestBusComesAndGoes::aSenderThatSubscribesLaterGetsNothingOfItsOwnBack()
+{
+    PrivateBus bus;
+    Peer one(bus.address());
+    Peer two(bus.address());
+    QVERIFY(two.subscribe(2, phone));
+    for (int round = 0; round < 2; ++round) {
+        QVERIFY(one.connectToBus());
+        QVERIFY(one.send(phone, "before"));
+        QVERIFY(one.subscribe(1, phone));
+        QVERIFY(one.send(phone, "after"));
+        QCOMPARE(two.takeUntil(2, "after"), Lines({Peer::line(2, "before")}));
+        QVERIFY(two.send(phone, "end"));
+        QCOMPARE(one.takeUntil(1, "end"), Lines({Peer::line(1, "after")}));
+        QCOMPARE(two.takeUntil(2, "end"), Lines());
+        one.unsubscribe(1);
+        bus.kill();
+        QTRY_VERIFY_WITH_TIMEOUT(!one.isOnBus() && !two.isOnBus(), limitMs);
+        QVERIFY(bus.start());
+        QTRY_VERIFY_WITH_TIMEOUT(one.isOnBus() && two.isOnBus(), limitMs);
+    }
+    QCOMPARE(one.errors() + two.errors(), QByteArray());
 }
 
 void TestBusComesAndGoes::aProcessDoesNotEndBeforeItsMessagesAreAtTheBus()
