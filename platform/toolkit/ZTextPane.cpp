@@ -6,6 +6,7 @@
 
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QStyle>
 
 #include <algorithm>
 #include <cmath>
@@ -31,11 +32,27 @@ ZTextPane::ZTextPane(const QString &message, QWidget *parent)
     : QWidget(parent)
     , text(ZText::paragraph(message), ZSkinService::font(ZSkinService::RowFont))
 {
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    text.setTextOption(option);
     text.setCacheEnabled(true);
     setFocusPolicy(Qt::NoFocus);
+    alignLines();
+}
+
+// Every line begins where reading begins on this display, in whatever direction its own words run.
+void ZTextPane::alignLines()
+{
+    QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text.setTextOption(option);
+    update();
+}
+
+void ZTextPane::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LayoutDirectionChange) {
+        alignLines();
+        layOut();
+    }
+    QWidget::changeEvent(event);
 }
 
 bool ZTextPane::hasHeightForWidth() const
@@ -145,6 +162,11 @@ void ZTextPane::paintEvent(QPaintEvent *)
 }
 
 void ZTextPane::resizeEvent(QResizeEvent *)
+{
+    layOut();
+}
+
+void ZTextPane::layOut()
 {
     breakLines(textWidth(width()));
     const int count = text.lineCount();

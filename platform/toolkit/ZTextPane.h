@@ -20,11 +20,14 @@ public:
     bool scrollByKey(int qtKey);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void alignLines();
+    void layOut();
     void breakLines(int width) const;
     int textHeight() const;
     int linesFrom(int line) const;

@@ -1,6 +1,7 @@
 // Dialogs over a screen: captions, answers, what they keep away from the screen, how they come and go.
 #include "ToolkitTestKit.h"
 #include "ZApplication.h"
+#include "ZSkinService.h"
 
 #include <algorithm>
 
@@ -21,6 +22,15 @@ QString captions(const ZPopup &dialog)
 {
     return dialog.softKey()->text(ZSoftKey::LeftKey) + QLatin1Char('|') +
            dialog.softKey()->text(ZSoftKey::RightKey);
+}
+
+// What is in the dialog's box.
+QWidget *bodyOf(const ZPopup &dialog)
+{
+    const auto children = dialog.findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    const auto body = std::find_if(children.begin(), children.end(),
+                                   [&](const QWidget *child) { return child != dialog.softKey(); });
+    return body == children.end() ? nullptr : *body;
 }
 
 // Which answers a dialog gave, in order.
@@ -73,6 +83,8 @@ private slots:
     void whoever_answers_may_show_it_again();
     void whoever_answers_may_delete_it_or_its_screen_data();
     void whoever_answers_may_delete_it_or_its_screen();
+    void a_message_begins_where_reading_begins_data();
+    void a_message_begins_where_reading_begins();
     void it_comes_only_when_it_is_shown();
     void it_covers_its_screen_whole_and_follows_it();
     void its_box_stays_inside_the_display_data();
@@ -324,6 +336,38 @@ void DialogTest::whoever_answers_may_delete_it_or_its_screen()
     settle();
     QCOMPARE(screen.isNull(), screenToo);
     delete screen;
+}
+
+void DialogTest::a_message_begins_where_reading_begins_data()
+{
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("turnedLater");
+    const QString hebrew = QString::fromUtf8("\xd7\x90\xd7\x91\xd7\x92");
+    QTest::newRow("words from left to right") << "abc" << false;
+    QTest::newRow("words from right to left") << hebrew << false;
+    QTest::newRow("the display is turned while it is shown") << "abc" << true;
+}
+
+void DialogTest::a_message_begins_where_reading_begins()
+{
+    QFETCH(QString, message);
+    QFETCH(bool, turnedLater);
+    TestScreen screen;
+    screen.setLayoutDirection(turnedLater ? Qt::LeftToRight : Qt::RightToLeft);
+    screen.show();
+    ZMessageDlg dialog(QString(), message, Information, 0, &screen, nullptr, true, 0);
+    dialog.show();
+    screen.setLayoutDirection(Qt::RightToLeft);
+    // Without the corners of the box, which are round.
+    constexpr int corner = ZSkinService::DialogRadius;
+    const QRect inside = bodyOf(dialog)->geometry().adjusted(corner, 0, -corner, -corner);
+    const QColor background = ZSkinService::color(ZSkinService::DialogColor);
+    const auto looks = [&] { return dialog.grab(inside).toImage().convertToFormat(QImage::Format_RGB32); };
+    QVERIFY2(firstInk(looks(), background) > inside.width() / 2, "the message begins at the left");
+    const int rightEdge = inside.width() - (ZSkinService::DialogPadding - corner);
+    QVERIFY(lastInk(looks(), background) > rightEdge - 4 && lastInk(looks(), background) <= rightEdge);
+    screen.setLayoutDirection(Qt::LeftToRight);
+    QVERIFY2(lastInk(looks(), background) < inside.width() / 2, "the message begins at the right");
 }
 
 void DialogTest::it_comes_only_when_it_is_shown()

@@ -35,6 +35,7 @@ private slots:
     void a_caption_of_any_length_and_content_is_shown_on_one_line();
     void the_text_of_the_highest_priority_is_shown_until_it_is_withdrawn();
     void each_key_answers_to_the_pointer_on_its_own_half();
+    void the_keys_stay_where_they_are_in_every_reading_direction();
     void a_pointer_released_beside_the_bar_does_not_count();
     void a_key_without_a_caption_still_answers();
     void a_key_reports_to_a_slot_or_to_a_signal_given_as_text();
@@ -108,6 +109,21 @@ void SoftKeyTest::each_key_answers_to_the_pointer_on_its_own_half()
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(220, 310));
     QCOMPARE(left.count(), 1);
     QCOMPARE(right.count(), 1);
+}
+
+// They stand over keys of the phone, which do not move either.
+void SoftKeyTest::the_keys_stay_where_they_are_in_every_reading_direction()
+{
+    TestScreen screen;
+    screen.show();
+    const QImage before = screen.bar->grab().toImage();
+    screen.setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(screen.bar->grab().toImage(), before);
+    QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
+    QWidget *under = screen.bar->childAt(QPoint(10, 10));
+    QVERIFY(under);
+    QTest::mouseClick(under, Qt::LeftButton);
+    QCOMPARE(left.size(), 1);
 }
 
 void SoftKeyTest::a_pointer_released_beside_the_bar_does_not_count()
