@@ -29,6 +29,7 @@ struct ZListBox::Private {
     QString type;
     ZSkinService::WidgetClsID skinClass;
     ZListModel *model = nullptr;
+    const QAbstractItemDelegate *stockDelegate = nullptr; // which every view comes with
     std::unordered_map<const ZListItem *, Record> items;
     quint64 lastSerial = 0;
     QPersistentModelIndex pressed;
@@ -67,6 +68,7 @@ ZListBox::ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinServi
     d->type = type;
     d->skinClass = skinClass;
     d->model = new ZListModel(this);
+    d->stockDelegate = itemDelegate();
     if (flags != 0)
         setWindowFlags(Qt::WindowFlags::fromInt(flags));
     setFrameShape(QFrame::NoFrame);
@@ -76,7 +78,6 @@ ZListBox::ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinServi
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setUniformItemSizes(true);
-    setItemDelegate(new ZRowDelegate(this));
     setModel(d->model);
     verticalScrollBar()->setSingleStep(ZSkinService::RowHeight);
 }
@@ -197,6 +198,13 @@ void ZListBox::scrollTo(const QModelIndex &index, ScrollHint hint)
     if (heading != index.row())
         QListView::scrollTo(d->model->index(heading), hint);
     QListView::scrollTo(index, hint);
+}
+
+// One delegate does for all lists: connecting one to each takes as long as painting some rows.
+QAbstractItemDelegate *ZListBox::itemDelegateForIndex(const QModelIndex &index) const
+{
+    static ZRowDelegate rows;
+    return itemDelegate() == d->stockDelegate ? &rows : QListView::itemDelegateForIndex(index);
 }
 
 void ZListBox::adopt(ZListItem *item)

@@ -74,6 +74,9 @@ public:
 
     void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
 
+    /// The skin's, for all lists alike, unless setItemDelegate() gave the list one of its own.
+    QAbstractItemDelegate *itemDelegateForIndex(const QModelIndex &index) const override;
+
 signals:
     /// A row was chosen, with the select key or the pointer. The row may be disabled (see ZListItem::setEnabled), it
     /// is never a separator. Whoever answers may clear the list or delete it.

@@ -31,14 +31,9 @@ constexpr qreal ringWidth = 1.5;
 class ChoiceDelegate : public ZRowDelegate
 {
 public:
-    explicit ChoiceDelegate(ZListBox *rows)
-        : ZRowDelegate(rows)
-        , list(rows)
-    {}
-
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        if (!hasMark(index)) {
+        if (!hasMark(option, index)) {
             ZRowDelegate::paint(painter, option, index);
             return;
         }
@@ -55,9 +50,10 @@ public:
     }
 
 private:
-    bool hasMark(const QModelIndex &index) const
+    static bool hasMark(const QStyleOptionViewItem &option, const QModelIndex &index)
     {
-        const ZListItem *item = list->item(index.row());
+        const auto *list = qobject_cast<const ZListBox *>(option.widget);
+        const ZListItem *item = list ? list->item(index.row()) : nullptr;
         return item && !item->isSeparator() && item->type() == QLatin1String("%I%M") && item->icon().isNull();
     }
 
@@ -78,8 +74,18 @@ private:
         }
         painter->restore();
     }
+};
 
-    ZListBox *list;
+class ChoiceList : public ZListBox
+{
+public:
+    using ZListBox::ZListBox;
+
+    QAbstractItemDelegate *itemDelegateForIndex(const QModelIndex &) const override
+    {
+        static ChoiceDelegate choices;
+        return &choices;
+    }
 };
 
 // The message, if there is one, over the list.
@@ -90,7 +96,7 @@ public:
         : QWidget(parent)
         , room(std::move(roomForBody))
         , message(text.isEmpty() ? nullptr : new ZTextPane(text, this))
-        , list(new ZListBox(QStringLiteral("%M"), this, 0, ZSkinService::SettingListClass))
+        , list(new ChoiceList(QStringLiteral("%M"), this, 0, ZSkinService::SettingListClass))
     {}
 
     ZListBox *rows() const { return list; }
@@ -164,7 +170,6 @@ ZSingleSelectDlg::ZSingleSelectDlg(const QString &header, const QString &message
     answerAfter(timeout, RightAnswer);
     auto *body = new ChoiceBody(message, this, [this] { return roomForBody(); });
     d->list = body->rows();
-    d->list->setItemDelegate(new ChoiceDelegate(d->list));
     d->list->setTextElideMode(Qt::ElideMiddle);
     d->list->setAccessibleName(header);
     d->list->installEventFilter(this);
