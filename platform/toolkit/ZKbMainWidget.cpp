@@ -198,11 +198,11 @@ void ZKbMainWidget::paintEvent(QPaintEvent *)
                      ZSkinService::color(ZSkinService::AccentColor));
     if (!d->bar)
         painter.fillRect(softkeyRect(size()), ZSkinService::color(ZSkinService::SoftkeyBarColor));
-    painter.setFont(ZSkinService::font(ZSkinService::TitleFont));
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
     const QRect text =
         bar.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, -ZSkinService::AccentHeight);
-    ZText::draw(painter, text, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->title);
+    ZText::draw(painter, ZSkinService::font(ZSkinService::TitleFont), text,
+                QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->title);
 }
 
 void ZKbMainWidget::resizeEvent(QResizeEvent *event)

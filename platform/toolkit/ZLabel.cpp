@@ -26,10 +26,9 @@ void ZLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (isHeading)
         painter.fillRect(rect(), ZSkinService::color(ZSkinService::HeadingColor));
-    painter.setFont(font());
     painter.setPen(ZSkinService::color(!isEnabled() ? ZSkinService::DisabledTextColor
                                        : isHeading  ? ZSkinService::HeadingTextColor
                                                     : ZSkinService::RowTextColor));
     const QRect line = rect().adjusted(indent(), 0, -indent(), 0);
-    ZText::draw(painter, line, QStyle::visualAlignment(layoutDirection(), alignment()), text());
+    ZText::draw(painter, font(), line, QStyle::visualAlignment(layoutDirection(), alignment()), text());
 }

@@ -405,9 +405,9 @@ void ZPopup::paintEvent(QPaintEvent *)
     painter.fillRect(inner.adjusted(0, d->headerHeight(), 0, 0), ZSkinService::color(ZSkinService::DialogColor));
     if (d->header.isEmpty())
         return;
-    painter.setFont(ZSkinService::font(ZSkinService::TitleFont));
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
     const QRect text(inner.left() + ZSkinService::DialogPadding, inner.top(),
                      inner.width() - 2 * ZSkinService::DialogPadding, d->headerHeight());
-    ZText::draw(painter, text, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->header);
+    ZText::draw(painter, ZSkinService::font(ZSkinService::TitleFont), text,
+                QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->header);
 }

@@ -64,10 +64,12 @@ protected:
         if (!input)
             return;
         const QRect line(edit->x(), edit->geometry().bottom() + 1 + legendGap, edit->width(), legendHeight);
-        painter.setFont(ZSkinService::font(ZSkinService::HeadingFont));
+        const QFont font = ZSkinService::font(ZSkinService::HeadingFont);
         painter.setPen(ZSkinService::color(ZSkinService::HeadingTextColor));
-        ZText::draw(painter, line, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft), input->indicator());
-        ZText::draw(painter, line, QStyle::visualAlignment(layoutDirection(), Qt::AlignRight), input->legend());
+        ZText::draw(painter, font, line, QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft),
+                    input->indicator());
+        ZText::draw(painter, font, line, QStyle::visualAlignment(layoutDirection(), Qt::AlignRight),
+                    input->legend());
     }
 
 private:

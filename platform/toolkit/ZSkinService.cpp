@@ -1,5 +1,6 @@
 #include "ZSkinService.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -60,6 +61,34 @@ constexpr std::array<FontEntry, 5> fontTable = {{
 static_assert(fontTable.back().role == ZSkinService::SoftkeyFont &&
               fontTable.size() == ZSkinService::SoftkeyFont + 1);
 
+// Made once: every screen sets the palette, and every text has a font. Copies share what is found for it.
+std::array<QFont, fontTable.size()> makeFonts()
+{
+    std::array<QFont, fontTable.size()> fonts;
+    std::transform(fontTable.begin(), fontTable.end(), fonts.begin(), [](const FontEntry &entry) {
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setStyleHint(QFont::SansSerif);
+        font.setPixelSize(entry.pixelSize);
+        font.setBold(entry.bold);
+        return font;
+    });
+    return fonts;
+}
+
+QPalette makePalette()
+{
+    using Skin = ZSkinService;
+    const auto color = &Skin::color;
+    QPalette palette(color(Skin::RowTextColor), color(Skin::ScreenColor), color(Skin::DividerColor),
+                     color(Skin::HeadingTextColor), color(Skin::DisabledTextColor), color(Skin::RowTextColor),
+                     color(Skin::ScreenColor), color(Skin::ScreenColor), color(Skin::ScreenColor));
+    palette.setColor(QPalette::Highlight, color(Skin::FocusBarColor));
+    palette.setColor(QPalette::HighlightedText, color(Skin::FocusTextColor));
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, color(Skin::DisabledTextColor));
+    palette.setColor(QPalette::Disabled, QPalette::Text, color(Skin::DisabledTextColor));
+    return palette;
+}
+
 } // namespace
 
 QColor ZSkinService::color(ColorRole role)
@@ -69,22 +98,12 @@ QColor ZSkinService::color(ColorRole role)
 
 QFont ZSkinService::font(FontRole role)
 {
-    const FontEntry &entry = fontTable[static_cast<std::size_t>(role)];
-    QFont font(QStringLiteral("DejaVu Sans"));
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(entry.pixelSize);
-    font.setBold(entry.bold);
-    return font;
+    static const std::array<QFont, fontTable.size()> fonts = makeFonts();
+    return fonts[static_cast<std::size_t>(role)];
 }
 
 QPalette ZSkinService::palette()
 {
-    QPalette palette(color(RowTextColor), color(ScreenColor), color(DividerColor), color(HeadingTextColor),
-                     color(DisabledTextColor), color(RowTextColor), color(ScreenColor), color(ScreenColor),
-                     color(ScreenColor));
-    palette.setColor(QPalette::Highlight, color(FocusBarColor));
-    palette.setColor(QPalette::HighlightedText, color(FocusTextColor));
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, color(DisabledTextColor));
-    palette.setColor(QPalette::Disabled, QPalette::Text, color(DisabledTextColor));
+    static const QPalette palette = makePalette();
     return palette;
 }

@@ -53,7 +53,8 @@ public:
             captions.erase(priority);
         else
             captions[priority] = caption;
-        setAccessibleName(this->caption());
+        if (accessibleName() != this->caption())
+            setAccessibleName(this->caption());
         update();
     }
 
@@ -64,11 +65,10 @@ protected:
         const QString text = caption();
         if (isDown() && !text.isEmpty())
             painter.fillRect(rect(), ZSkinService::color(ZSkinService::SoftkeyPressedColor));
-        painter.setFont(ZSkinService::font(ZSkinService::SoftkeyFont));
         painter.setPen(ZSkinService::color(isEnabled() ? ZSkinService::SoftkeyTextColor
                                                        : ZSkinService::SoftkeyDisabledTextColor));
         const QRect inner = rect().adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, 0);
-        ZText::draw(painter, inner, alignment, text);
+        ZText::draw(painter, ZSkinService::font(ZSkinService::SoftkeyFont), inner, alignment, text);
     }
 
 private:

@@ -1,9 +1,12 @@
 #include "ZText.h"
 
+#include "ZKept.h"
+
 #include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>
 #include <QtGui/QTextLayout>
 
+#include <optional>
 #include <utility>
 
 namespace {
@@ -24,12 +27,12 @@ bool isControl(QChar c)
     return c.category() == QChar::Other_Control || breaksLine(c);
 }
 
-// A text in the painter's font, on one line that runs in the text's own direction.
+// A text on one line that runs in the text's own direction.
 class LaidOutLine
 {
 public:
-    LaidOutLine(const QString &text, const QPainter &painter)
-        : layout(text, painter.font(), painter.device())
+    LaidOutLine(const QString &text, const QFont &font, QPaintDevice *device)
+        : layout(text, font, device)
     {
         QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
         option.setTextDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
@@ -42,12 +45,14 @@ public:
         layout.endLayout();
     }
 
-    qreal width() const { return line.horizontalAdvance(); }
+    QString text() const { return layout.text(); }
+    QFont font() const { return layout.font(); }
+    int width() const { return qRound(line.horizontalAdvance()); }
 
     // Halfway up `place`, at its left, right or middle as `side` says.
     void draw(QPainter &painter, const QRect &place, Qt::Alignment side) const
     {
-        const qreal free = place.width() - width();
+        const qreal free = place.width() - line.horizontalAdvance();
         const qreal left = side & Qt::AlignRight ? free : side & Qt::AlignHCenter ? free / 2 : 0;
         const qreal height = line.ascent() + line.descent(); // line.height() is rounded up
         line.draw(&painter, QPointF(place.left() + left, place.top() + (place.height() - height) / 2));
@@ -59,6 +64,68 @@ private:
     QTextLayout layout;
     QTextLine line;
 };
+
+// What a line was laid out from.
+struct LineKey {
+    QString text;
+    QFont font;
+    int dpi; // of the device
+
+    bool operator==(const LineKey &) const = default;
+    friend size_t qHash(const LineKey &key, size_t seed = 0) { return qHash(key.text, seed); }
+};
+
+// A text as it is, and as it is cut for the width that it had to fit last.
+class KeptLine
+{
+public:
+    KeptLine(const QString &text, const QFont &font, QPaintDevice *device)
+        : whole(text, font, device)
+    {}
+
+    int width() const { return whole.width(); }
+
+    // What of it is drawn in `available` pixels; null where nothing fits.
+    const LaidOutLine *fitting(int available, Qt::TextElideMode where)
+    {
+        if (whole.width() <= available)
+            return &whole;
+        if (cutWidth != available || cutWhere != where)
+            cutTo(available, where);
+        return cut ? &*cut : nullptr;
+    }
+
+private:
+    void cutTo(int available, Qt::TextElideMode where)
+    {
+        cutWidth = available;
+        cutWhere = where;
+        const QString rest = QFontMetrics(whole.font()).elidedText(whole.text(), where, available);
+        cut.emplace(rest, whole.font(), nullptr);
+        // Where nothing fits, the ellipsis comes alone, and too wide.
+        if (rest.size() <= 1 && cut->width() > available)
+            cut.reset();
+    }
+
+    LaidOutLine whole;
+    std::optional<LaidOutLine> cut;
+    int cutWidth = -1; // while it was not cut
+    Qt::TextElideMode cutWhere = Qt::ElideRight;
+};
+
+// A line costs about as much memory as so many characters, besides its own.
+constexpr qsizetype charactersOfALine = 32;
+constexpr qsizetype mostCharacters = 6000; // some 120 lines
+
+// Stays until the next line is asked for.
+KeptLine &lineOf(const QString &text, const QFont &font, QPaintDevice *device)
+{
+    static ZKept<LineKey, KeptLine> lines(mostCharacters);
+    const LineKey key{text, font, device->logicalDpiY()};
+    if (KeptLine *kept = lines.find(key))
+        return *kept;
+    return lines.keep(key, new KeptLine(ZText::oneLine(text), font, device), text.size() + charactersOfALine);
+}
 
 QString shortened(const QString &text)
 {
@@ -80,23 +147,20 @@ QString ZText::oneLine(const QString &text)
     return line;
 }
 
-void ZText::draw(QPainter &painter, const QRect &place, Qt::Alignment side, const QString &text,
+int ZText::width(const QPainter &painter, const QFont &font, const QString &text)
+{
+    return text.isEmpty() ? 0 : lineOf(text, font, painter.device()).width();
+}
+
+void ZText::draw(QPainter &painter, const QFont &font, const QRect &place, Qt::Alignment side, const QString &text,
                  Qt::TextElideMode where)
 {
-    const QString whole = oneLine(text);
-    if (whole.isEmpty() || place.width() <= 0)
+    if (text.isEmpty() || place.width() <= 0)
         return;
     // Measured and drawn from one layout: making the glyphs is what takes the time.
-    const LaidOutLine line(whole, painter);
-    if (qRound(line.width()) <= place.width()) {
-        line.draw(painter, place, side);
-        return;
-    }
-    const QString cut = painter.fontMetrics().elidedText(whole, where, place.width());
-    const LaidOutLine rest(cut, painter);
-    // Where nothing fits, the ellipsis comes alone, and too wide.
-    if (cut.size() > 1 || qRound(rest.width()) <= place.width())
-        rest.draw(painter, place, side);
+    KeptLine &kept = lineOf(text, font, painter.device());
+    if (const LaidOutLine *line = kept.fitting(place.width(), where))
+        line->draw(painter, place, side);
 }
 
 QString ZText::paragraph(const QString &text)

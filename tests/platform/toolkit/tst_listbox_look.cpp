@@ -49,6 +49,10 @@ private slots:
     void a_list_that_is_filled_again_is_painted_once();
     void a_list_that_was_filled_under_a_sub_screen_has_its_rows_when_that_goes();
     void a_photograph_of_a_list_filled_just_now_has_its_rows();
+    void a_row_is_as_sharp_as_the_display_it_is_painted_on();
+    void a_title_that_was_cut_is_whole_again_where_it_fits();
+    void two_rows_alike_but_for_one_thing_do_not_look_alike_data();
+    void two_rows_alike_but_for_one_thing_do_not_look_alike();
     void the_scroll_bar_is_there_only_when_needed();
     void the_scroll_bar_can_be_dragged_from_end_to_end();
     void a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left();
@@ -274,6 +278,78 @@ void ListBoxLookTest::a_photograph_of_a_list_filled_just_now_has_its_rows()
     screen.list->clear();
     screen.addRows(7);
     QCOMPARE(screen.grab().toImage(), whole);
+}
+
+void ListBoxLookTest::a_row_is_as_sharp_as_the_display_it_is_painted_on()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("Sharp"), QStringLiteral("00:01:05"));
+    showSettled(screen);
+    const auto paintedAt = [&](int pixelRatio) {
+        QImage image(screen.list->viewport()->size() * pixelRatio, QImage::Format_RGB32);
+        image.setDevicePixelRatio(pixelRatio);
+        screen.list->viewport()->render(&image);
+        return image;
+    };
+    const QImage plain = paintedAt(1);
+    const QImage fine = paintedAt(2);
+    QVERIFY2(fine.scaled(plain.size()).scaled(fine.size()).convertToFormat(QImage::Format_RGB32) != fine,
+             "the row is an enlarged picture");
+    QCOMPARE(paintedAt(1), plain);
+    QCOMPARE(paintedAt(2), fine);
+}
+
+void ListBoxLookTest::a_title_that_was_cut_is_whole_again_where_it_fits()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("A title for a wide row"));
+    showSettled(screen);
+    const QImage whole = lookOfRow(screen.list, 1);
+    screen.list->resize(100, 100);
+    settle();
+    const QImage cut = lookOfRow(screen.list, 1);
+    QVERIFY(lastInk(cut, color(ZSkinService::ScreenColor)) < 100 - ZSkinService::RowMargin);
+    screen.list->resize(90, 100);
+    settle();
+    QVERIFY(lastInk(lookOfRow(screen.list, 1), color(ZSkinService::ScreenColor)) < 90 - ZSkinService::RowMargin);
+    screen.list->resize(screen.getContentWidget(false)->size());
+    settle();
+    QCOMPARE(lookOfRow(screen.list, 1), whole);
+}
+
+void ListBoxLookTest::two_rows_alike_but_for_one_thing_do_not_look_alike_data()
+{
+    QTest::addColumn<std::function<void(TestScreen &)>>("change");
+    using Change = std::function<void(TestScreen &)>;
+    const auto row = [](TestScreen &screen) { return static_cast<ZSettingItem *>(screen.list->item(1)); };
+    QTest::newRow("the title") << Change([row](TestScreen &screen) {
+        row(screen)->setSubItem(0, 0, QStringLiteral("Titlf"), false, ZSettingItem::TitleRegion);
+    });
+    QTest::newRow("the value") << Change([row](TestScreen &screen) {
+        row(screen)->setSubItem(0, 1, QStringLiteral("8"), false, ZSettingItem::ValueRegion);
+    });
+    QTest::newRow("emphasis") << Change([row](TestScreen &screen) {
+        row(screen)->setSubItem(0, 1, QStringLiteral("7"), true, ZSettingItem::ValueRegion);
+    });
+    QTest::newRow("disabled") << Change([row](TestScreen &screen) { row(screen)->setEnabled(false); });
+    QTest::newRow("the focus bar") << Change([](TestScreen &screen) { screen.list->setSelected(1, true); });
+    QTest::newRow("mirrored") << Change([](TestScreen &screen) { screen.setLayoutDirection(Qt::RightToLeft); });
+    QTest::newRow("a heading") << Change(
+        [row](TestScreen &screen) { row(screen)->setSeparator(QStringLiteral("Title"), nullptr); });
+}
+
+void ListBoxLookTest::two_rows_alike_but_for_one_thing_do_not_look_alike()
+{
+    QFETCH(std::function<void(TestScreen &)>, change);
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("Title"), QStringLiteral("7"));
+    const QImage before = lookOfRow(screen.list, 1);
+    QCOMPARE(lookOfRow(screen.list, 1), before);
+    change(screen);
+    QVERIFY(lookOfRow(screen.list, 1) != before);
 }
 
 void ListBoxLookTest::the_scroll_bar_is_there_only_when_needed()
