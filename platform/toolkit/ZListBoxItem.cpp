@@ -15,7 +15,7 @@ void ZListBoxItem::appendSubItem(int subItem, QString text, QString, const QPixm
         qWarning("ZListBoxItem::appendSubItem: there is no sub-item %d", subItem);
         return;
     }
-    subItems[subItem] = {text, pixmap ? *pixmap : QPixmap()};
+    subItems[subItem] = {text, pixmap ? std::optional(*pixmap) : std::nullopt};
     changed();
 }
 
@@ -41,8 +41,8 @@ QPixmap ZListBoxItem::icon() const
     if (isSeparator())
         return ZListItem::icon();
     for (const auto &entry : subItems) {
-        if (!entry.second.pixmap.isNull())
-            return entry.second.pixmap;
+        if (entry.second.pixmap && !entry.second.pixmap->isNull())
+            return *entry.second.pixmap;
     }
     return QPixmap();
 }

@@ -6,6 +6,7 @@
 #include <QtGui/QPixmap>
 
 #include <map>
+#include <optional>
 
 /// Sub-items are numbered by their place in the row's layout: in "%M" the text is sub-item 0, in "%I%M" the icon is
 /// sub-item 0 and the text sub-item 1. The row's title is the first text that is not empty.
@@ -35,7 +36,7 @@ public:
 private:
     struct SubItem {
         QString text;
-        QPixmap pixmap;
+        std::optional<QPixmap> pixmap; // none for most
     };
     std::map<int, SubItem> subItems;
 };

@@ -35,7 +35,7 @@ void ZListItem::setSeparator(const QString &text, const QPixmap *pixmap)
 {
     d->isHeading = true;
     d->heading = text;
-    d->icon = pixmap ? *pixmap : QPixmap();
+    d->icon = pixmap ? std::optional(*pixmap) : std::nullopt;
     changed();
 }
 
@@ -66,7 +66,7 @@ QString ZListItem::value() const
 
 QPixmap ZListItem::icon() const
 {
-    return d->icon;
+    return d->icon.value_or(QPixmap());
 }
 
 bool ZListItem::isMarked() const

@@ -5,11 +5,13 @@
 
 #include <QtGui/QPixmap>
 
+#include <optional>
+
 struct ZListItem::Private {
     ZListBox *list = nullptr; // the list clears it when it is destroyed first
     QString type;
     QString heading; // of a separator
-    QPixmap icon;
+    std::optional<QPixmap> icon;
     bool isHeading = false;
     bool isEnabled = true;
 };

@@ -50,6 +50,41 @@ QPainterPath rounded(const QRectF &box)
     return path;
 }
 
+// Fills what of `box`, which has round corners, lies in `part`. Only at the corners is there anything to smooth, and
+// smoothing the whole of a box takes as long as painting a screen.
+void fillRounded(QPainter &painter, const QRect &box, const QRect &part, const QColor &color)
+{
+    constexpr int radius = ZSkinService::DialogRadius;
+    const int ends = std::min(radius, box.height() / 2);
+    const QRect middle = box.adjusted(0, ends, 0, -ends);
+    painter.fillRect(middle & part, color);
+    const QRect top(box.left(), box.top(), box.width(), ends);
+    const QRect bottom(box.left(), middle.bottom() + 1, box.width(), ends);
+    for (const QRect &end : {top, bottom}) {
+        if (!end.intersects(part))
+            continue;
+        const QRect wholeArc = end == top ? end.adjusted(0, 0, 0, ends) : end.adjusted(0, -ends, 0, 0);
+        painter.save();
+        painter.setClipRect(end & part, Qt::IntersectClip);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillPath(rounded(wholeArc), color);
+        painter.restore();
+    }
+}
+
+// Fills the edges of `box`, one pixel wide, and its first `header` pixels; what is inside is left to others.
+void fillFrame(QPainter &painter, const QRect &box, int header, const QColor &color)
+{
+    const int end = ZSkinService::DialogRadius + 1;
+    const QRect top(box.left(), box.top(), box.width(), std::max(header + 1, end));
+    const QRect bottom(box.left(), box.bottom() + 1 - end, box.width(), end);
+    fillRounded(painter, box, top & box, color);
+    fillRounded(painter, box, bottom & box, color);
+    const int sides = std::max(0, bottom.top() - top.bottom() - 1);
+    painter.fillRect(box.left(), top.bottom() + 1, 1, sides, color);
+    painter.fillRect(box.right(), top.bottom() + 1, 1, sides, color);
+}
+
 } // namespace
 
 struct ZPopup::Private {
@@ -397,12 +432,10 @@ void ZPopup::paintEvent(QPaintEvent *)
     QPainter painter(this);
     if (d->modal)
         painter.fillRect(rect(), ZSkinService::color(ZSkinService::BackdropColor));
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QPainterPath frame = rounded(d->box);
-    painter.fillPath(frame, ZSkinService::color(ZSkinService::DialogFrameColor));
+    fillFrame(painter, d->box, d->headerHeight(), ZSkinService::color(ZSkinService::DialogFrameColor));
     const QRect inner = d->box.adjusted(1, 1, -1, -1);
-    painter.setClipPath(rounded(inner));
-    painter.fillRect(inner.adjusted(0, d->headerHeight(), 0, 0), ZSkinService::color(ZSkinService::DialogColor));
+    fillRounded(painter, inner, inner.adjusted(0, d->headerHeight(), 0, 0),
+                ZSkinService::color(ZSkinService::DialogColor));
     if (d->header.isEmpty())
         return;
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
