@@ -1046,7 +1046,8 @@ void TestCharging::anAccountOfTheFirstVersionIsRead()
         QCOMPARE(phone.opened.notice, QString());
         QCOMPARE(phone->charging().account(), (Account{75, 100, {2027, 6, 30}}));
         QCOMPARE(phone->charging().tariff(CallDirection::Dialed), perSeconds(20, 10));
-        QCOMPARE(advice(phone).setChargeType(AdviceOfCharge::InCurrency), int(Success));
+        QCOMPARE(advice(phone).setChargeType(start == 0 ? AdviceOfCharge::InUnits : AdviceOfCharge::InCurrency),
+                 int(Success));
     }
     const QString version =
         QStringLiteral("SELECT CAST(content AS TEXT) LIKE '%\"version\":2%' FROM kept WHERE name = 'charging'");
