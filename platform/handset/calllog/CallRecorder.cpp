@@ -19,6 +19,12 @@ bool countsIn(CostCounter counter, Counter own)
     return counter == CostCounter::Last || counter == ownCostCounter(own);
 }
 
+// Whatever else could never be written.
+bool isRecordable(const PastCall &call)
+{
+    return isKnown(call.kind) && isKnown(call.direction);
+}
+
 } // namespace
 
 CallRecorder::CallRecorder(std::unique_ptr<CallStore> callStore, std::shared_ptr<Clock> clocks,
@@ -72,6 +78,8 @@ int CallRecorder::writeOwed()
 
 int CallRecorder::callConnected(const PastCall &call)
 {
+    if (!isRecordable(call))
+        return InvalidArgument;
     if (running)
         return WrongState;
     if (const int status = writeOwed())
@@ -100,13 +108,16 @@ int CallRecorder::callEnded()
 
 int CallRecorder::callNotConnected(const PastCall &call)
 {
+    if (!isRecordable(call))
+        return InvalidArgument;
     owedUnconnected.append(call);
     return writeOwed();
 }
 
 int CallRecorder::addHistory(const QList<PastCall> &calls, const KeptValues &values)
 {
-    return store->addHistory(calls, !running, values);
+    return std::all_of(calls.begin(), calls.end(), isRecordable) ? store->addHistory(calls, !running, values)
+                                                                 : int{InvalidArgument};
 }
 
 int CallRecorder::checkpoint()

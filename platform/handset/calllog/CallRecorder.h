@@ -14,7 +14,7 @@
 namespace handset::calllog {
 
 /// One call at a time. Operations answer a number of handset/Status.h; a failed one has changed nothing. The end of
-/// the recorder ends the connected call.
+/// the recorder ends the connected call. A call of no known kind or direction is InvalidArgument.
 ///
 /// A call can always be ended: an end that cannot be written is kept here, counts in every figure, and is written with
 /// the next operation that writes. Until then each of these fails, checkpoint() and callConnected() among them.

@@ -1,8 +1,10 @@
 // What the call log writes down.
 #include "CallLog.h"
+#include "CallRecorder.h"
 #include "CallService.h"
 #include "DataCalls.h"
 #include "HandsetTestKit.h"
+#include "OpenCallStore.h"
 #include "Schema.h"
 #include "Status.h"
 
@@ -75,6 +77,8 @@ private slots:
     void aRelativeDirectoryStaysTheSameWhenTheProcessMoves();
     void closingLeavesNoFileOpenAndNoLeftovers();
     void aWriteThatFailsChangesNothing();
+    void aCallOfNoKindIsNotRecorded_data();
+    void aCallOfNoKindIsNotRecorded();
     void whatIsMissingWhenItIsWrittenIsAFailure_data();
     void whatIsMissingWhenItIsWrittenIsAFailure();
 };
@@ -450,6 +454,30 @@ void TestCallLog::aWriteThatFailsChangesNothing()
     phone.clock->advance(second);
     QCOMPARE(phone->hangUp(), int(Success));
     QCOMPARE(phone.figures(), (SixFigures{6, 56, 0, 0, 56, 56}));
+}
+
+void TestCallLog::aCallOfNoKindIsNotRecorded_data()
+{
+    constexpr auto none = 2;
+    QTest::addColumn<PastCall>("call");
+    PastCall call;
+    call.kind = static_cast<CallKind>(none);
+    QTest::newRow("a kind that is none") << call;
+    call = {};
+    call.direction = static_cast<CallDirection>(none);
+    QTest::newRow("a direction that is none") << call;
+}
+
+void TestCallLog::aCallOfNoKindIsNotRecorded()
+{
+    QFETCH(PastCall, call);
+    calllog::CallRecorder recorder(calllog::openCallStore({}).store, std::make_shared<ManualClock>());
+    QCOMPARE(recorder.callConnected(call), int(InvalidArgument));
+    QVERIFY(!recorder.isConnected());
+    QCOMPARE(recorder.callNotConnected(call), int(InvalidArgument));
+    QVERIFY(!recorder.owesEnd());
+    QCOMPARE(recorder.addHistory({{}, call}), int(InvalidArgument));
+    QCOMPARE(recorder.callConnected({}), int(Success));
 }
 
 void TestCallLog::whatIsMissingWhenItIsWrittenIsAFailure_data()
