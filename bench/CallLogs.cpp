@@ -1,10 +1,14 @@
 #include "CallLogs.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QProcess>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -115,35 +119,75 @@ bool copyFile(const QString &from, const QString &to)
     return written;
 }
 
-bool copyFiles(const QString &from, const QTemporaryDir &to)
+bool copyFiles(const QString &from, const QString &to)
 {
     const QStringList names = QDir(from).entryList(QDir::Files);
-    return to.isValid() && std::all_of(names.begin(), names.end(), [&](const QString &name) {
-               return copyFile(from + QLatin1Char('/') + name, to.filePath(name));
-           });
+    return !names.isEmpty() && std::all_of(names.begin(), names.end(), [&](const QString &name) {
+        return copyFile(from + QLatin1Char('/') + name, to + QLatin1Char('/') + name);
+    });
 }
 
 } // namespace
 
-QString CallLogs::original(int calls) const
+QString CallLogs::original(int calls, After after) const
 {
-    return QStringLiteral("%1/calls-%2").arg(directory).arg(calls);
+    const QLatin1StringView suffix(after == After::Crash ? "-crashed" : "");
+    return QStringLiteral("%1/calls-%2%3").arg(directory).arg(calls).arg(suffix);
 }
 
 QString CallLogs::prepare(int calls) const
 {
-    return isUpToDate(original(calls)) ? QString() : build(original(calls), calls);
+    const QString path = original(calls, After::Closing);
+    return isUpToDate(path) ? QString() : build(path, calls);
 }
 
-std::shared_ptr<const QTemporaryDir> CallLogs::copy(int calls) const
+QString CallLogs::prepareCrashed(int calls) const
+{
+    const QString path = original(calls, After::Crash);
+    if (isUpToDate(path))
+        return {};
+    if (QString error = prepare(calls); !error.isEmpty())
+        return error;
+    const QTemporaryDir where(directory + QStringLiteral("/crashed-XXXXXX"));
+    QProcess process;
+    if (copyTo(where, calls))
+        process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--crash-in"), where.path()});
+    process.waitForFinished(-1);
+    const bool hasCrashed = process.exitStatus() == QProcess::CrashExit;
+    const qint64 unwritten = QFileInfo(where.filePath(QLatin1StringView(logName) + QStringLiteral("-wal"))).size();
+    QDir(path).removeRecursively();
+    if (!hasCrashed || unwritten == 0 || !QDir().mkpath(path) || !copyFiles(where.path(), path))
+        return QStringLiteral("%1 cannot be made.").arg(path);
+    return {};
+}
+
+std::shared_ptr<const QTemporaryDir> CallLogs::copy(int calls, After after) const
 {
     auto made = std::make_shared<QTemporaryDir>(directory + QStringLiteral("/measured-XXXXXX"));
-    return copyTo(*made, calls) ? made : nullptr;
+    return copyTo(*made, calls, after) ? made : nullptr;
 }
 
-bool CallLogs::copyTo(const QTemporaryDir &where, int calls) const
+bool CallLogs::copyTo(const QTemporaryDir &where, int calls, After after) const
 {
-    return copyFiles(original(calls), where);
+    return where.isValid() && copyFiles(original(calls, after), where.path());
+}
+
+int recordAndCrash(const QString &directory)
+{
+    constexpr int calls = 50; // which the write-ahead log still holds
+    constexpr qint64 callMs = 60'000;
+    const Line line = openLine(directory);
+    int result = line.telephone ? 0 : 1;
+    for (int i = 0; i <= calls && result == 0; ++i) {
+        result = line.telephone->dial(QStringLiteral("+4930555010"), handset::CallKind::Voice);
+        result = result == 0 ? line.telephone->remoteAnswer() : result;
+        line.clock->advance(callMs);
+        result = result == 0 ? line.telephone->checkpoint() : result;
+        result = result == 0 && i < calls ? line.telephone->hangUp() : result;
+    }
+    if (result == 0)
+        ::kill(::getpid(), SIGKILL);
+    return EXIT_FAILURE;
 }
 
 Line CallLogs::open(int calls, bool keep)
@@ -153,7 +197,7 @@ Line CallLogs::open(int calls, bool keep)
         where = copy(calls);
     if (!where) {
         Line failed;
-        failed.error = QStringLiteral("%1 cannot be copied.").arg(original(calls));
+        failed.error = QStringLiteral("%1 cannot be copied.").arg(original(calls, After::Closing));
         return failed;
     }
     if (keep)

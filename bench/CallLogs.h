@@ -33,13 +33,19 @@ public:
         : directory(path)
     {}
 
+    /// How the telephone that wrote a log has ended.
+    enum class After {
+        Closing,
+        Crash ///< killed with a call connected and calls in the write-ahead log
+    };
+
     /// Builds the log of `calls` calls where it is missing. Answers what went wrong.
     QString prepare(int calls) const;
+    QString prepareCrashed(int calls) const;
 
     /// A copy of the log of `calls` calls; null where it cannot be made.
-    std::shared_ptr<const QTemporaryDir> copy(int calls) const;
-
-    bool copyTo(const QTemporaryDir &where, int calls) const;
+    std::shared_ptr<const QTemporaryDir> copy(int calls, After after = After::Closing) const;
+    bool copyTo(const QTemporaryDir &where, int calls, After after = After::Closing) const;
 
     /// A telephone on a copy. With `keep` the same copy serves every call of this; it goes on to hold what is recorded.
     Line open(int calls, bool keep);
@@ -48,10 +54,13 @@ public:
     static Line openIn(const std::shared_ptr<const QTemporaryDir> &where);
 
 private:
-    QString original(int calls) const;
+    QString original(int calls, After after) const;
 
     QString directory;
     QHash<int, std::shared_ptr<const QTemporaryDir>> kept;
 };
+
+/// What prepareCrashed() runs in a process of its own, which ends in this; it answers only where it fails.
+int recordAndCrash(const QString &directory);
 
 } // namespace bench

@@ -55,7 +55,9 @@ struct Comparison {
     Clock clock = Clock::Processor;
     benchmark::IterationCount iterations = 0; ///< of a timed repetition; 0 is as many as it takes to be timed well
     int operations = 1;             ///< of an iteration; where there are many, figures are of one of them
+    int counted = 9;                ///< iterations that are counted in instructions
     bool countsInstructions = true; ///< false where another process does the work
+    bool countsOneThread = false;   ///< leaves out what other threads of the process do meanwhile
     /// Makes what the row needs and is kept from run to run. Answers what went wrong.
     std::function<QString()> prepare = {};
 };

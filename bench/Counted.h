@@ -10,14 +10,32 @@ namespace bench {
 /// What the profiles are told by that Counted ends with.
 inline constexpr auto countedMark = "counted";
 
-/// The instructions of all threads while this lives are one count: one for each iteration of a loop.
+/// Whether only the thread that has a Counted is counted: callgrind is then started so that it counts none by itself.
+inline bool countsOneThread = false;
+
+/// The instructions while this lives are one count: one for each iteration of a loop.
 class Counted
 {
 public:
-    Counted() { CALLGRIND_ZERO_STATS; }
-    ~Counted() { CALLGRIND_DUMP_STATS_AT(countedMark); }
+    Counted()
+    {
+        CALLGRIND_ZERO_STATS;
+        toggleThread();
+    }
+    ~Counted()
+    {
+        toggleThread();
+        CALLGRIND_DUMP_STATS_AT(countedMark);
+    }
     Counted(const Counted &) = delete;
     Counted &operator=(const Counted &) = delete;
+
+private:
+    static void toggleThread()
+    {
+        if (countsOneThread)
+            CALLGRIND_TOGGLE_COLLECT;
+    }
 };
 
 /// What this thread does while this lives is neither counted nor timed.

@@ -13,8 +13,11 @@ std::vector<Comparison> getterComparisons();
 std::vector<Comparison> currencyListComparisons();
 std::vector<Comparison> screenComparisons();
 std::vector<Comparison> broadcastComparisons();
+std::vector<Comparison> fanOutComparisons();
 /// `directory` keeps the logs that are measured; they are built on first use.
 std::vector<Comparison> coldStartComparisons(const QString &directory);
 std::vector<Comparison> callLogComparisons(const QString &directory);
+/// `largest` is the number of calls of the largest log.
+std::vector<Comparison> reopeningComparisons(const QString &directory, int largest);
 
 } // namespace bench

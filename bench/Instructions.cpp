@@ -46,11 +46,13 @@ QStringList command(const Job &job, const CountingPlace &place, const QString &f
                       QStringLiteral("--callgrind-out-file=") + file};
     if (side.program)
         return words << side.program->path << side.program->arguments;
+    if (job.comparison->countsOneThread)
+        words << QStringLiteral("--collect-atstart=no");
     // Nothing is instrumented before a side is warm, which is much quicker.
     return words << QStringLiteral("--instr-atstart=no") << QCoreApplication::applicationFilePath()
-                 << QStringLiteral("--count-row") << QString::fromStdString(job.comparison->name)
-                 << QStringLiteral("--count-side") << QString::number(job.side) << QStringLiteral("--data")
-                 << place.data;
+                 << QStringLiteral("--large") << QStringLiteral("--count-row")
+                 << QString::fromStdString(job.comparison->name) << QStringLiteral("--count-side")
+                 << QString::number(job.side) << QStringLiteral("--data") << place.data;
 }
 
 // Of one file of callgrind's; negative where that is none of an iteration.
@@ -95,7 +97,7 @@ Count countOf(const QString &file, const Job &job)
             counts.push_back(instructions / job.comparison->operations);
     }
     // Those before are of the iterations to warm up, and empty.
-    const std::size_t wanted = isProgram ? 1 : countedIterations;
+    const auto wanted = static_cast<std::size_t>(isProgram ? 1 : job.comparison->counted);
     if (counts.size() < wanted || counts.back() <= 0)
         return {0, 0, 0, "callgrind has not counted"};
     counts.erase(counts.begin(), counts.end() - static_cast<std::ptrdiff_t>(wanted));

@@ -10,9 +10,6 @@
 
 namespace bench {
 
-/// Iterations that are counted of a side, which is one operation of each if nothing else is said.
-inline constexpr int countedIterations = 9;
-
 /// The instructions of one side, per operation.
 struct Count {
     double median = 0;

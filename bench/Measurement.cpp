@@ -2,12 +2,14 @@
 
 #include <valgrind/callgrind.h>
 
+#include <algorithm>
+
 namespace bench {
 
 namespace {
 
 constexpr double leastSeconds = 0.05; // of a repetition
-constexpr int warmUpIterations = 3;   // of a counted side
+constexpr int mostWarmUp = 3;         // iterations of a counted side
 
 class Collector final : public benchmark::BenchmarkReporter
 {
@@ -92,7 +94,7 @@ std::string runCounted(const Side &side, int iterations)
 {
     Sample sample;
     std::string error;
-    if (!runOnce(registerSide(side, warmUpIterations), sample, error))
+    if (!runOnce(registerSide(side, std::min(iterations, mostWarmUp)), sample, error))
         return error;
     CALLGRIND_START_INSTRUMENTATION;
     // The first pays for what the instrumentation itself sets off, and is not counted.

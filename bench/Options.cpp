@@ -38,21 +38,33 @@ Options readOptions()
     const QCommandLineOption profiles(QStringLiteral("profiles"),
                                       QStringLiteral("Keep callgrind's files in DIR, for callgrind_annotate."),
                                       QStringLiteral("DIR"));
+    const QCommandLineOption large(QStringLiteral("large"),
+                                   QStringLiteral("Reopen a log of 10,000,000 calls, too."));
+    QCommandLineOption crashIn(QStringLiteral("crash-in"), QString(), QStringLiteral("DIR"));
     QCommandLineOption countedRow(QStringLiteral("count-row"), QString(), QStringLiteral("NAME"));
     QCommandLineOption countedSide(QStringLiteral("count-side"), QString(), QStringLiteral("N"),
                                    QStringLiteral("0"));
     countedRow.setFlags(QCommandLineOption::HiddenFromHelp);
+    crashIn.setFlags(QCommandLineOption::HiddenFromHelp);
     countedSide.setFlags(QCommandLineOption::HiddenFromHelp);
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Measures the call meter beside what a competent developer would write instead."));
     parser.addHelpOption();
     parser.addVersionOption();
-    parser.addOptions({repetitions, cycles, only, directory, profiles, countedRow, countedSide});
+    parser.addOptions({repetitions, cycles, only, directory, profiles, large, crashIn, countedRow, countedSide});
     parser.process(*QCoreApplication::instance());
-    return {number(parser, repetitions, 0), number(parser, cycles, 0), parser.value(only),
-            parser.value(directory),        parser.value(profiles),    parser.value(countedRow),
-            number(parser, countedSide, 0)};
+    Options options;
+    options.repetitions = number(parser, repetitions, 0);
+    options.cycles = number(parser, cycles, 0);
+    options.only = parser.value(only);
+    options.directory = parser.value(directory);
+    options.profiles = parser.value(profiles);
+    options.largestLog = parser.isSet(large) ? 10'000'000 : 1'000'000;
+    options.countedRow = parser.value(countedRow);
+    options.countedSide = number(parser, countedSide, 0);
+    options.crashIn = parser.value(crashIn);
+    return options;
 }
 
 } // namespace bench

@@ -10,11 +10,13 @@ struct Options {
     int cycles = 0;      ///< of opening and destroying; 0 leaves that out
     QString only;
     QString directory;
-    QString profiles; ///< empty: they are not kept
+    QString profiles;   ///< empty: they are not kept
+    int largestLog = 0; ///< calls of the largest log that is reopened after a crash
 
-    // What the program calls itself with under callgrind.
+    // What the program calls itself with, under callgrind and to crash.
     QString countedRow; ///< empty in a run of a user's
     int countedSide = 0;
+    QString crashIn; ///< the log in which it records and crashes; likewise empty
 };
 
 /// Answers --help, --version and what is wrong by itself, and ends the process.

@@ -1,4 +1,6 @@
 // Measures everything and prints one table. The exit code says whether every bar is met.
+#include "CallLogs.h"
+#include "Counted.h"
 #include "Groups.h"
 #include "Instructions.h"
 #include "Options.h"
@@ -35,7 +37,8 @@ std::vector<bench::Comparison> allComparisons(const bench::Options &options)
     for (const auto &group :
          {bench::getterComparisons(), bench::screenComparisons(), bench::currencyListComparisons(),
           bench::broadcastComparisons(), bench::coldStartComparisons(options.directory),
-          bench::callLogComparisons(options.directory)})
+          bench::fanOutComparisons(), bench::callLogComparisons(options.directory),
+          bench::reopeningComparisons(options.directory, options.largestLog)})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }
@@ -55,9 +58,11 @@ int countOneSide(const bench::Options &options)
 {
     std::string error = "There is no such row.";
     for (const bench::Comparison &comparison : allComparisons(options)) {
-        if (comparison.name == options.countedRow.toStdString())
-            error = bench::runCounted(bench::sidesOf(comparison).at(static_cast<std::size_t>(options.countedSide)),
-                                      bench::countedIterations);
+        if (comparison.name != options.countedRow.toStdString())
+            continue;
+        bench::countsOneThread = comparison.countsOneThread;
+        const std::vector<bench::Side> sides = bench::sidesOf(comparison);
+        error = bench::runCounted(sides.at(static_cast<std::size_t>(options.countedSide)), comparison.counted);
     }
     if (!error.empty())
         std::fprintf(stderr, "%s\n", error.c_str());
@@ -126,5 +131,7 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationName(QStringLiteral("kavbench"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAV_VERSION));
     const bench::Options options = bench::readOptions();
+    if (!options.crashIn.isEmpty())
+        return bench::recordAndCrash(options.crashIn);
     return options.countedRow.isEmpty() ? measureEverything(options, home.path()) : countOneSide(options);
 }
