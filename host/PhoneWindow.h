@@ -34,7 +34,7 @@ public:
     /// Opens the telephone and installs it; nothing where that failed.
     using OpenTelephone = std::function<std::optional<Telephone>()>;
 
-    /// `library` is loaded and outlives the window. `open` is called once, by complete().
+    /// `library` outlives the window. `open` is called once, by complete(); the library is loaded after it.
     PhoneWindow(const ScreenLibrary &library, OpenTelephone open);
     /// With a telephone that is open already.
     PhoneWindow(const ScreenLibrary &library, const Telephone &telephone);

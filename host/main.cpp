@@ -142,8 +142,11 @@ int readScript(const QString &fileName, tour::Script &script)
     return script.mistakes.isEmpty() ? ExitSuccess : ExitBadScript;
 }
 
-int runTour(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
+int runTour(const Options &options, const EndSignals &endSignals)
 {
+    ScreenLibrary library;
+    if (const int code = loadScreens(library, options.plugin))
+        return code;
     tour::Script script;
     if (const int code = readScript(options.script, script))
         return code;
@@ -158,9 +161,12 @@ int runTour(const Options &options, const ScreenLibrary &library, const EndSigna
 
 // --- the window
 
-// Nothing and the exit code where that fails.
-std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, int &code)
+// Nothing and the exit code where that fails. Loads the screens, too, which want the telephone.
+std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, ScreenLibrary &library, int &code)
 {
+    code = loadScreens(library, options.plugin);
+    if (code != ExitSuccess)
+        return {};
     const handset::Opened opened = handset::open({options.backend, options.stateDirectory, nullptr});
     if (!opened.handset) {
         code = complain(ExitNoTelephone, opened.error);
@@ -184,10 +190,11 @@ int photographWindow(PhoneWindow &window, const QString &file)
     return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
 }
 
-int showWindow(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
+int showWindow(const Options &options, const EndSignals &endSignals)
 {
+    ScreenLibrary library;
     int openingCode = ExitSuccess;
-    PhoneWindow window(library, [&] { return openTelephone(options, openingCode); });
+    PhoneWindow window(library, [&] { return openTelephone(options, library, openingCode); });
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open
@@ -205,9 +212,9 @@ int showWindow(const Options &options, const ScreenLibrary &library, const EndSi
     return openingCode == ExitSuccess ? code : openingCode;
 }
 
-int runWindow(const Options &options, const ScreenLibrary &library, const EndSignals &endSignals)
+int runWindow(const Options &options, const EndSignals &endSignals)
 {
-    const int code = showWindow(options, library, endSignals);
+    const int code = showWindow(options, endSignals);
     handset::install(nullptr);
     return code;
 }
@@ -218,11 +225,7 @@ int run(const Options &options)
     Catalogue catalogue;
     if (const int code = loadTranslation(catalogue, options.translation))
         return code;
-    ScreenLibrary library;
-    if (const int code = loadScreens(library, options.plugin))
-        return code;
-    const int code =
-        options.isTour() ? runTour(options, library, endSignals) : runWindow(options, library, endSignals);
+    const int code = options.isTour() ? runTour(options, endSignals) : runWindow(options, endSignals);
     libaplog_close();
     return code;
 }
