@@ -161,13 +161,25 @@ int runTour(const Options &options, const EndSignals &endSignals)
 
 // --- the window
 
+handset::Settings telephoneSettings(const Options &options)
+{
+    handset::Settings settings;
+    settings.backend = options.backend;
+    settings.stateDirectory = options.stateDirectory;
+    settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
+    settings.progress = [](const QString &step, int percent) {
+        complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));
+    };
+    return settings;
+}
+
 // Nothing and the exit code where that fails. Loads the screens, too, which want the telephone.
 std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, ScreenLibrary &library, int &code)
 {
     code = loadScreens(library, options.plugin);
     if (code != ExitSuccess)
         return {};
-    const handset::Opened opened = handset::open({options.backend, options.stateDirectory, nullptr});
+    const handset::Opened opened = handset::open(telephoneSettings(options));
     if (!opened.handset) {
         code = complain(ExitNoTelephone, opened.error);
         return {};

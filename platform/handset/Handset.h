@@ -41,6 +41,9 @@ struct Settings {
     /// Is told what the user should know that is found only while the telephone runs: one sentence. From the event loop
     /// of the GUI thread, as long as the telephone lives; null for nobody.
     std::function<void(const QString &notice)> tell = {};
+    /// Is told how far a step of open() is that takes long, as reading a big damaged call log does: what is done, part of
+    /// a sentence, and 0 to 99 percent. Null for nobody.
+    std::function<void(const QString &step, int percent)> progress = {};
 };
 
 struct Opened {

@@ -50,7 +50,7 @@ bool isToBeReplaced(const Attempt &attempt)
     return !attempt.store && attempt.finding.verdict != Verdict::Blocked;
 }
 
-OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory)
+OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory, const ProgressListener &progress)
 {
     const Finding finished = finishReplacement(*directory);
     if (finished.verdict != Verdict::Usable)
@@ -60,7 +60,7 @@ OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory)
     if (isToBeReplaced(attempt))
         attempt = openFile(directory);
     if (isToBeReplaced(attempt)) {
-        const Replacement replacement = replace(*directory, attempt.finding.verdict);
+        const Replacement replacement = replace(*directory, attempt.finding.verdict, progress);
         if (!replacement.error.isEmpty())
             return cannotBeUsed(*directory, replacement.error);
         attempt = openFile(directory);
@@ -83,7 +83,7 @@ OpenedStore openInMemory()
 
 } // namespace
 
-OpenedStore openCallStore(const QString &directory)
+OpenedStore openCallStore(const QString &directory, const ProgressListener &progress)
 {
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
         return {
@@ -95,7 +95,7 @@ OpenedStore openCallStore(const QString &directory)
     if (!locked)
         return {nullptr, error, {}};
     const QString notice = locked->notice();
-    OpenedStore opened = openReplacing(std::move(locked));
+    OpenedStore opened = openReplacing(std::move(locked), progress);
     opened.notice = QStringList{notice, opened.notice}.join(QLatin1Char(' ')).trimmed();
     return opened;
 }

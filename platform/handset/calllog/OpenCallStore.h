@@ -2,6 +2,7 @@
 #pragma once
 
 #include "CallStore.h"
+#include "repair/Progress.h"
 
 #include <QtCore/QString>
 
@@ -20,6 +21,7 @@ struct OpenedStore {
 
 /// An empty directory name keeps the calls in memory only. A file that cannot be used as a call log, or not by this
 /// version, is kept under another name and a new log is begun, with the calls in it that can still be read.
-OpenedStore openCallStore(const QString &directory);
+/// `progress` is told of steps that take long.
+OpenedStore openCallStore(const QString &directory, const ProgressListener &progress = {});
 
 } // namespace handset::calllog

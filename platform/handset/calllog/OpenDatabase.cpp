@@ -40,7 +40,8 @@ Finding configure(Database &database)
         return failure(database);
     if (mode != QLatin1String("wal") && mode != QLatin1String("memory"))
         return {Verdict::Blocked, QStringLiteral("it cannot be opened for writing")};
-    for (const char *setting : {"synchronous = FULL", "foreign_keys = ON", "cell_size_check = ON"})
+    for (const char *setting :
+         {"synchronous = FULL", "foreign_keys = ON", "cell_size_check = ON", "journal_size_limit = 4194304"})
         if (!database.run(QStringLiteral("PRAGMA ") + QString::fromLatin1(setting)))
             return failure(database);
     return {};

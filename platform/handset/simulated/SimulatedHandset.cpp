@@ -45,7 +45,7 @@ bool isEmergency(const PastCall &call)
 
 Opened open(const Settings &settings)
 {
-    calllog::OpenedStore opened = calllog::openCallStore(settings.stateDirectory);
+    calllog::OpenedStore opened = calllog::openCallStore(settings.stateDirectory, settings.progress);
     if (!opened.store)
         return {nullptr, opened.error, {}};
     auto telephone = std::make_shared<SimulatedHandset>(std::move(opened.store), settings.clock);

@@ -124,6 +124,7 @@ Phone::Phone(const QString &stateDirectory, std::shared_ptr<ManualClock> shared,
     settings.stateDirectory = stateDirectory;
     settings.clock = clock;
     settings.tell = std::move(tell);
+    settings.progress = [this](const QString &step, int percent) { progress << qMakePair(step, percent); };
     opened = open(settings);
     telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
 }

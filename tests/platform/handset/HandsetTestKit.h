@@ -108,6 +108,7 @@ public:
     void close();
 
     std::shared_ptr<ManualClock> clock;
+    QList<QPair<QString, int>> progress; ///< what was told while it opened
     Opened opened;
 
 private:

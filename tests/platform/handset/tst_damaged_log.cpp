@@ -126,6 +126,8 @@ private slots:
     void aDiskThatIsFullIsAnErrorAndChangesNothing();
     void aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart_data();
     void aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart();
+    void aReadingThatTakesLongSaysHowFarItIs();
+    void aReadingThatTakesNoTimeSaysNothing();
     void aMarkOfAnotherLogIsNoDamage();
     void aTelephoneThatEndsDoesNotWaitForTheReading();
 
@@ -686,6 +688,28 @@ void TestDamagedLog::aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart()
     const Phone phone(state.path());
     QCOMPARE(phone.opened.notice, QString());
     QVERIFY(!QFile::exists(state.file(QStringLiteral("calllog.db-damaged"))));
+}
+
+void TestDamagedLog::aReadingThatTakesLongSaysHowFarItIs()
+{
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(210'000)), int(Success));
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
+    const Phone phone(state.path());
+    QVERIFY(!phone.opened.notice.isEmpty());
+    const QString step = QStringLiteral("Reading the damaged call log");
+    const QList<QPair<QString, int>> expected{{step, 23}, {step, 47}, {step, 71}, {step, 95}};
+    QCOMPARE(phone.progress, expected);
+}
+
+void TestDamagedLog::aReadingThatTakesNoTimeSaysNothing()
+{
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(5'000)), int(Success));
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
+    const Phone phone(state.path());
+    QVERIFY(!phone.opened.notice.isEmpty());
+    QVERIFY(phone.progress.isEmpty());
 }
 
 void TestDamagedLog::aMarkOfAnotherLogIsNoDamage()

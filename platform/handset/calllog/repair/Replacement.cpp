@@ -63,6 +63,7 @@ QString whatWasCounted(const Salvaged &salvaged)
 struct Replaced {
     Verdict verdict = Verdict::Missing;
     QString keptName;
+    ProgressListener progress;
 };
 
 QString notice(const Replaced &old, const Salvaged &salvaged)
@@ -125,7 +126,7 @@ Finding fill(CallStore &store, LogCopy &copy, const Replaced &old)
     Finding finding = prepare(store.connection());
     Salvaged salvaged;
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
-        finding = salvage(copy.database(), store, salvaged);
+        finding = salvage(copy.database(), store, salvaged, old.progress);
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
         finding = copy.check();
     if (finding.verdict == Verdict::Usable && old.verdict != Verdict::Missing)
@@ -189,14 +190,14 @@ Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced
 
 } // namespace
 
-Replacement replace(StateDirectory &directory, Verdict verdict)
+Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress)
 {
     const QString name = QString::fromLatin1(databaseName);
     LogCopy copy(directory);
     const Finding found = copy.look(verdict);
     if (found.verdict == Verdict::Blocked)
         return {QStringLiteral("a new one cannot be made (%1)").arg(explain(found))};
-    const Replaced old{found.verdict, directory.unusedName(name)};
+    const Replaced old{found.verdict, directory.unusedName(name), progress};
     const Finding made = makeReplacement(directory, copy, old);
     if (made.verdict != Verdict::Usable)
         return {QStringLiteral("a new one cannot be made (%1)").arg(explain(made))};

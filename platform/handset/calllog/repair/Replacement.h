@@ -3,6 +3,7 @@
 
 #include "CallStore.h"
 #include "Finding.h"
+#include "Progress.h"
 #include "StateDirectory.h"
 
 namespace handset::calllog {
@@ -15,7 +16,7 @@ struct Replacement {
 /// log goes into the new one, with a notice. What is foreign or newer only by its header is taken for damaged. Nothing
 /// has changed when no new log can be made. Whenever this is interrupted, finishReplacement() makes up for it on the next
 /// start.
-Replacement replace(StateDirectory &directory, Verdict verdict);
+Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress);
 
 /// To be called before anything else in a directory. Blocked when that must be left alone for now.
 Finding finishReplacement(StateDirectory &directory);

@@ -115,6 +115,7 @@ bool RowSalvage::copyRow(const QSqlQuery &row, bool &isNew)
     isNew = putRow.numRowsAffected() > 0;
     if (isNew) {
         ++count;
+        progress.oneIsDone();
         highestCopied = std::max(highestCopied, row.value(idColumn).toLongLong());
         countRow(row);
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Finding.h"
+#include "Progress.h"
 
 #include <QtCore/QVariant>
 
@@ -32,9 +33,10 @@ inline constexpr qint64 highestInteger = std::numeric_limits<qint64>::max();
 class RowSalvage
 {
 public:
-    RowSalvage(Database &damaged, Database &fresh)
+    RowSalvage(Database &damaged, Database &fresh, Progress howFar)
         : source(damaged)
         , target(fresh)
+        , progress(std::move(howFar))
     {}
     virtual ~RowSalvage() = default;
     RowSalvage(const RowSalvage &) = delete;
@@ -73,6 +75,7 @@ private:
     std::optional<qint64> firstOfTail(const QString &select);
     bool copyRow(const QSqlQuery &row, bool &isNew);
 
+    Progress progress;
     QSqlQuery putRow;
     int columnCount = 0;
     qint64 count = 0;

@@ -30,8 +30,10 @@ using Costs = std::array<qint64, costCounterNames.size()>;
 class CallSalvage final : public RowSalvage
 {
 public:
-    CallSalvage(Database &damaged, CallStore &fresh)
-        : RowSalvage(damaged, fresh.connection())
+    CallSalvage(Database &damaged, CallStore &fresh, const ProgressListener &listener)
+        : RowSalvage(damaged, fresh.connection(),
+                     {listener, QStringLiteral("Reading the damaged call log"),
+                      damaged.number(QStringLiteral("SELECT max(id) FROM calls")).value_or(0)})
         , store(fresh)
     {}
 
@@ -215,16 +217,16 @@ Finding beginWithNothing(const Database &source, CallStore &target)
 
 } // namespace
 
-Finding salvage(Database &source, CallStore &target, Salvaged &salvaged)
+Finding salvage(Database &source, CallStore &target, Salvaged &salvaged, const ProgressListener &progress)
 {
     if (!leaveOnlyTables(source) && !leaveOnlyTables(source))
         return beginWithNothing(source, target);
-    CallSalvage calls(source, target);
+    CallSalvage calls(source, target, progress);
     SalvagedSessions sessions;
     const bool written = target.connection().inTransaction([&] {
         if (!calls.run())
             return false;
-        sessions = salvageSessions(source, target.connection());
+        sessions = salvageSessions(source, target.connection(), progress);
         return sessions.written;
     });
     for (const Finding &obstacle : {calls.obstacle(), sessions.obstacle})

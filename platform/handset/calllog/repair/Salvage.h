@@ -3,6 +3,7 @@
 
 #include "CallStore.h"
 #include "Finding.h"
+#include "Progress.h"
 
 namespace handset::calllog {
 
@@ -17,6 +18,6 @@ struct Salvaged {
 /// Copies the calls, the sessions, and the totals of each where all of them can be read, from `source` into the empty
 /// `target`, in one transaction. Blocked when anything but damage keeps it from reading: then there may be more, and the
 /// target has nothing.
-Finding salvage(Database &source, CallStore &target, Salvaged &salvaged);
+Finding salvage(Database &source, CallStore &target, Salvaged &salvaged, const ProgressListener &progress);
 
 } // namespace handset::calllog

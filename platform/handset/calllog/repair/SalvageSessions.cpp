@@ -90,9 +90,11 @@ bool SessionSalvage::putTotals()
 
 } // namespace
 
-SalvagedSessions salvageSessions(Database &source, Database &target)
+SalvagedSessions salvageSessions(Database &source, Database &target, const ProgressListener &progress)
 {
-    SessionSalvage salvage(source, target);
+    const qint64 expected = source.number(QStringLiteral("SELECT max(id) FROM sessions")).value_or(0);
+    SessionSalvage salvage(source, target,
+                           {progress, QStringLiteral("Reading the damaged log of data sessions"), expected});
     const bool written = salvage.run();
     return {written, salvage.obstacle(), salvage.copied(), salvage.hasReadTotals()};
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Finding.h"
+#include "Progress.h"
 
 namespace handset::calllog {
 
@@ -13,6 +14,6 @@ struct SalvagedSessions {
 };
 
 /// As salvage(), in the transaction of the caller. A log of the first version has no sessions.
-SalvagedSessions salvageSessions(Database &source, Database &target);
+SalvagedSessions salvageSessions(Database &source, Database &target, const ProgressListener &progress);
 
 } // namespace handset::calllog
