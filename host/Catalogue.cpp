@@ -97,6 +97,7 @@ std::optional<Sections> sectionsOf(QByteArrayView bytes)
 // A message is a row of parts up to its end.
 bool isMessage(QByteArrayView bytes)
 {
+    constexpr quint8 texts[] = {Translation, SourceText, Context, Comment};
     Reader reader(bytes);
     for (;;) {
         const auto part = reader.number<quint8>();
@@ -107,7 +108,7 @@ bool isMessage(QByteArrayView bytes)
                 return false;
             continue;
         }
-        if (part != Translation && part != SourceText && part != Context && part != Comment)
+        if (!part || std::find(std::begin(texts), std::end(texts), *part) == std::end(texts))
             return false;
         const auto text = reader.sizedBlock();
         if (!text || (part == Translation && text->size() % 2 != 0))

@@ -40,7 +40,7 @@ void setHandler(int signal, void (*handler)(int))
 {
     struct sigaction action = {};
     action.sa_handler = handler;
-    action.sa_flags = SA_RESTART | SA_RESETHAND;
+    action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     ::sigemptyset(&action.sa_mask);
     ::sigaction(signal, &action, nullptr);
 }

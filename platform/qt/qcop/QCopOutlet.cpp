@@ -75,10 +75,10 @@ int descriptorOf(DBusConnection *connection)
 
 } // namespace
 
-void QCopOutlet::Closer::operator()(DBusConnection *connection) const
+void QCopOutlet::Closer::operator()(DBusConnection *opened) const
 {
-    dbus_connection_close(connection);
-    dbus_connection_unref(connection);
+    dbus_connection_close(opened);
+    dbus_connection_unref(opened);
 }
 
 void QCopOutlet::Unref::operator()(DBusMessage *message) const

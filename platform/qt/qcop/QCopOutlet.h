@@ -23,7 +23,7 @@ class QCopOutlet : public QObject
 
 public:
     struct Closer {
-        void operator()(DBusConnection *connection) const;
+        void operator()(DBusConnection *opened) const;
     };
     using Connection = std::unique_ptr<DBusConnection, Closer>;
 
