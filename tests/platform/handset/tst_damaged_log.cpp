@@ -130,6 +130,8 @@ private slots:
     void aReadingThatTakesNoTimeSaysNothing();
     void aMarkOfAnotherLogIsNoDamage();
     void aTelephoneThatEndsDoesNotWaitForTheReading();
+    void aSalvagedLogIsNoLargerThanTheOneBefore_data();
+    void aSalvagedLogIsNoLargerThanTheOneBefore();
 
 private:
     void openAndCheck(const StateDir &state, bool mayBeQuiet);
@@ -732,6 +734,35 @@ void TestDamagedLog::aTelephoneThatEndsDoesNotWaitForTheReading()
         QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")});
     }
     QCOMPARE(LogFile(state.database()).calls().size(), 20'050);
+}
+
+void TestDamagedLog::aSalvagedLogIsNoLargerThanTheOneBefore_data()
+{
+    QTest::addColumn<int>("page"); // in hundredths of the file
+    QTest::newRow("with a page damaged near its beginning") << 5;
+    QTest::newRow("with a page damaged in its middle") << 50;
+    QTest::newRow("with a page damaged near its end") << 95;
+}
+
+void TestDamagedLog::aSalvagedLogIsNoLargerThanTheOneBefore()
+{
+    QFETCH(int, page);
+    constexpr int many = 100'000;
+    const StateDir state;
+    QVERIFY(Phone(state.path())->addHistory(manyCalls(many)) == Success);
+    QByteArray content = readFile(state.database());
+    content.replace(content.size() / pageSize * page / 100 * pageSize, pageSize, QByteArray(pageSize, '\0'));
+    content[0] = 'X'; // what opening finds at once, also in a log that is read through only later
+    QVERIFY(writeFile(state.database(), content));
+    {
+        const Phone phone(state.path());
+        QVERIFY2(phone.opened.notice.startsWith(QStringLiteral("The call log is damaged")),
+                 qPrintable(phone.opened.notice));
+    }
+    QVERIFY(LogFile(state.database()).calls().size() > many - 300);
+    const qint64 salvaged = QFileInfo(state.database()).size();
+    QVERIFY2(salvaged <= content.size(),
+             qPrintable(QStringLiteral("%1 bytes after %2").arg(salvaged).arg(content.size())));
 }
 
 QTEST_GUILESS_MAIN(TestDamagedLog)
