@@ -24,7 +24,6 @@ QString inFile(const QString &file, const QString &reason)
 Finding failure(int code, const QString &reason)
 {
     switch (code) {
-    case sqlite::Error: // the tables are not those of a call log
     case sqlite::Corrupt:
     case sqlite::NotADatabase:
         return {Verdict::Damaged, reason};
@@ -39,6 +38,17 @@ Finding failure(const Database &database)
 {
     const QSqlError &error = database.lastError();
     return failure(sqlite::code(error), sqlite::reason(error));
+}
+
+bool isDamage(const QSqlError &error)
+{
+    switch (sqlite::code(error)) {
+    case sqlite::Error:
+    case sqlite::Corrupt:
+    case sqlite::NotADatabase:
+        return true;
+    }
+    return false;
 }
 
 Finding judgeCheck(const QString &line)

@@ -36,10 +36,12 @@ Finding blocked(int error, const QString &file);
 QString inFile(const QString &file, const QString &reason);
 
 /// What SQLite's primary result code says about a database; `reason` is SQLite's. Damaged is only what SQLite finds to
-/// be no sound database, or none of ours: what cannot be read or written now may be sound.
+/// be no sound database: what cannot be read or written now may be one, and whether it is ours its tables say.
 Finding failure(int code, const QString &reason);
 /// The same, of the last error of a database.
 Finding failure(const Database &database);
+/// Whether an error of a database that is salvaged is damage: there a statement that does not fit the tables is, too.
+bool isDamage(const QSqlError &error);
 /// What a line of SQLite's own check ("ok", or what is wrong) says.
 Finding judgeCheck(const QString &line);
 

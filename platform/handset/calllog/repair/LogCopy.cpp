@@ -43,8 +43,7 @@ Finding findDefinitions(const StateDirectory &directory, bool &found)
 // What cannot be asked because the copy is damaged says nothing; anything else is in the way.
 Finding unanswered(const Database &copy, Verdict verdict)
 {
-    Finding finding = failure(copy);
-    return finding.verdict == Verdict::Blocked ? finding : Finding{verdict, finding.reason};
+    return isDamage(copy.lastError()) ? Finding{verdict, {}} : failure(copy);
 }
 
 // A version with the very tables of ours is not a newer one.

@@ -14,14 +14,7 @@ constexpr int idColumn = 0;
 
 void RowSalvage::note(const QSqlError &error)
 {
-    // A table that is missing is damage, too.
-    switch (sqlite::code(error)) {
-    case sqlite::Error:
-    case sqlite::Corrupt:
-    case sqlite::NotADatabase:
-        return;
-    }
-    if (error.isValid() && !isBlocked())
+    if (error.isValid() && !isDamage(error) && !isBlocked())
         blockedBy = {Verdict::Blocked, sqlite::reason(error)};
 }
 

@@ -209,9 +209,8 @@ bool CallSalvage::readKept(QSqlError &damage)
 // Where the list of tables cannot be read, nothing can. A card may have been there.
 Finding beginWithNothing(const Database &source, CallStore &target)
 {
-    Finding finding = failure(source);
-    if (finding.verdict == Verdict::Blocked)
-        return finding;
+    if (!isDamage(source.lastError()))
+        return failure(source);
     return target.connection().run(QStringLiteral("DELETE FROM kept")) ? Finding{} : failure(target.connection());
 }
 
