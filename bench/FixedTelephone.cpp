@@ -31,15 +31,34 @@ QByteArray &firstSessionName()
     return name;
 }
 
+// How often the figures have been changed.
+quint32 &changes()
+{
+    static quint32 count = 0;
+    return count;
+}
+
+CallTime callTime()
+{
+    CallTime time = fixedTime;
+    time.seconds = static_cast<quint8>((time.seconds + changes()) % 60);
+    return time;
+}
+
+quint32 bytes(quint32 first)
+{
+    return first + changes() % 1000 * 1024;
+}
+
 QByteArray amount()
 {
-    return QByteArrayLiteral("12.50");
+    return "12." + QByteArray::number(10 + (40 + changes()) % 90);
 }
 
 class Service final : public handset::CallService
 {
 public:
-    int totalCallTime(CallTime &time) override { return answer(time, fixedTime); }
+    int totalCallTime(CallTime &time) override { return answer(time, callTime()); }
     int resetCallTime() override { return Success; }
     int remainingCredit(QByteArray &text) override { return answer(text, amount()); }
     int lastCallCost(QByteArray &text) override { return answer(text, amount()); }
@@ -48,10 +67,10 @@ public:
 class Log final : public handset::CallLog
 {
 public:
-    int lastCallTime(CallTime &time) override { return answer(time, fixedTime); }
-    int dialedCallsTime(CallTime &time) override { return answer(time, fixedTime); }
-    int answeredCallsTime(CallTime &time) override { return answer(time, fixedTime); }
-    int lifetimeCallsTime(CallTime &time) override { return answer(time, fixedTime); }
+    int lastCallTime(CallTime &time) override { return answer(time, callTime()); }
+    int dialedCallsTime(CallTime &time) override { return answer(time, callTime()); }
+    int answeredCallsTime(CallTime &time) override { return answer(time, callTime()); }
+    int lifetimeCallsTime(CallTime &time) override { return answer(time, callTime()); }
     int resetDialedCallsTime() override { return Success; }
     int resetAnsweredCallsTime() override { return Success; }
     int resetAll() override { return Success; }
@@ -71,7 +90,8 @@ public:
     int refreshTotals() override { return Success; }
     int totalDuration(quint32 &seconds) override
     {
-        return answer(seconds, (fixedTime.hours * 60 + fixedTime.minutes) * 60 + fixedTime.seconds);
+        const CallTime time = callTime();
+        return answer(seconds, (time.hours * 60 + time.minutes) * 60 + time.seconds);
     }
     int callStatus(quint8 &status) override { return answer<quint8>(status, Idle); }
     int resetTotalDuration() override { return Success; }
@@ -82,15 +102,16 @@ class Packets final : public handset::PacketData
 public:
     int sessions(handset::DataSessions &sessions) override
     {
-        const handset::DataSession first{1, 123'456, 7'890'123, fixedTime, firstSessionName()};
-        const handset::DataSession second{2, 2'345, 67'890, fixedTime, QByteArrayLiteral("mms.example")};
+        const handset::DataSession first{1, bytes(123'456), bytes(7'890'123), callTime(), firstSessionName()};
+        const handset::DataSession second{2, bytes(2'345), bytes(67'890), callTime(),
+                                          QByteArrayLiteral("mms.example")};
         return answer(sessions, {3, {first, second, handset::DataSession{}}});
     }
-    int totalDuration(CallTime &duration) override { return answer(duration, fixedTime); }
+    int totalDuration(CallTime &duration) override { return answer(duration, callTime()); }
     int totalBytes(quint32 &total, quint32 &received, quint32 &sent) override
     {
-        received = 7'958'013;
-        sent = 125'801;
+        received = bytes(7'958'013);
+        sent = bytes(125'801);
         return answer(total, received + sent);
     }
     int resetTotalDuration() override { return Success; }
@@ -153,8 +174,14 @@ void nameFirstSession(const QByteArray &name)
     firstSessionName() = name;
 }
 
+void changeFigures()
+{
+    ++changes();
+}
+
 void useFixedTelephone()
 {
+    changes() = 0;
     nameFirstSession(QByteArrayLiteral("internet"));
     handset::install(std::make_shared<FixedTelephone>());
     if (!libaplog_to_module_ptr)

@@ -7,12 +7,15 @@
 
 namespace bench {
 
-/// What the fixed telephone answers for every call time.
+/// What the fixed telephone answers for every call time at first.
 inline constexpr handset::CallTime fixedTime{5, 3, 7};
 
 /// Makes it the telephone that the phone's libraries talk to, and gives the trace stream a place where nothing is
 /// kept.
 void useFixedTelephone();
+
+/// From now on all its figures are others, as long as those before.
+void changeFigures();
 
 /// What the first of its data sessions is called from now on; "internet" at first.
 void nameFirstSession(const QByteArray &name);

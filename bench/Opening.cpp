@@ -51,6 +51,7 @@ std::function<void(benchmark::State &)> openingSide(MakeOpening make)
         if (const char *fault = faultOf(*opening, stage))
             state.SkipWithError(fault);
         for (auto _ : state) {
+            changeFigures();
             {
                 const Counted counted;
                 opening->open();

@@ -76,6 +76,7 @@ Side bareLimit(const ScreenEntry &entry)
                 useFixedTelephone();
                 BarePainting painting;
                 for (auto _ : state) {
+                    changeFigures();
                     const Counted counted;
                     painting.paint(entry.texts());
                 }
