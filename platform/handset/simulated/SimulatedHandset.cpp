@@ -194,7 +194,9 @@ int SimulatedHandset::checkpoint()
     const int ofSession = packetSessions.checkpoint();
     const int ofCall = isTimeUp() ? stopCall() : recorder.checkpoint();
     tellWhatIsOwed();
-    return ofCall == Success ? ofSession : ofCall;
+    const int status = ofCall == Success ? ofSession : ofCall;
+    isWriteFailing = status != Success;
+    return status;
 }
 
 bool SimulatedHandset::owesRecord() const
@@ -212,11 +214,12 @@ void SimulatedHandset::runTimer()
     }
 }
 
-// Every unit is on the disk within a second of falling due, and the time, and what is owed, every few seconds.
+// Every unit is on the disk within a second of falling due, and the time, and what is owed, every few seconds: so is what
+// could not be written, as the attempt may hold up whoever uses the screens.
 void SimulatedHandset::tick()
 {
     const bool unitIsDue = meter.dueUnits(recorder.connectedMs()) > 0;
-    const bool isTimeToWrite = --ticksToCheckpoint <= 0 || unitIsDue || isTimeUp();
+    const bool isTimeToWrite = --ticksToCheckpoint <= 0 || (unitIsDue && !isWriteFailing) || isTimeUp();
     if (isTimeToWrite && checkpoint() == Success && unitIsDue)
         tellChange();
     packetSessions.tick();

@@ -77,7 +77,8 @@ private:
     PacketSessions packetSessions;
     QTimer timer{this}; ///< runs while a call is connected, a session runs, or something is owed
     int ticksToCheckpoint = 0;
-    bool toldOwing = false; ///< with the last changed()
+    bool isWriteFailing = false; ///< the last checkpoint
+    bool toldOwing = false;      ///< with the last changed()
     LineState state = LineState::Idle;
     PastCall call;                               ///< on the line
     std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside

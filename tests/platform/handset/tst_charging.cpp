@@ -7,6 +7,7 @@
 #include "HandsetTestKit.h"
 #include "Status.h"
 
+#include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
 #include <functional>
@@ -132,6 +133,7 @@ private slots:
     void everythingIsKeptOverARestart();
     void unitsAreOnTheDiskWithinASecond();
     void aFailedWriteLeavesUnitsDue();
+    void unitsThatCannotBeWrittenAreNotTriedAtEveryTick();
     void aCrashAfterAResetOfATimeChargesTheWholeCall_data();
     void aCrashAfterAResetOfATimeChargesTheWholeCall();
     void whatAChargeLeavesAloneIsNotWritten();
@@ -776,6 +778,29 @@ void TestCharging::unitsAreOnTheDiskWithinASecond()
     QCOMPARE(unitsOnDisk(), QVariant(0));
     QTRY_COMPARE_WITH_TIMEOUT(unitsOnDisk(), QVariant(4), 2500); // the telephone's own timer
     QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT units FROM calls")), QVariant(4));
+}
+
+// A locked log holds each attempt up for a second: with one a second nobody could use the screens.
+void TestCharging::unitsThatCannotBeWrittenAreNotTriedAtEveryTick()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(makeExpensive(phone));
+    QVERIFY(phone.dial());
+    auto *timer = phone->findChild<QTimer *>();
+    const LogFile file(state.database());
+    QVERIFY(file.run(QStringLiteral("CREATE TRIGGER full BEFORE UPDATE ON costs BEGIN"
+                                    " SELECT RAISE(ABORT, 'full'); END")));
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("The call log failed: full")));
+        for (int tick = 0; tick < 5; ++tick) {
+            phone.clock->advance(second);
+            QVERIFY(QMetaObject::invokeMethod(timer, "timeout"));
+        }
+    }
+    QVERIFY(file.run(QStringLiteral("DROP TRIGGER full")));
+    QCOMPARE(phone->hangUp(), int(Success));
+    QCOMPARE(costsOf(phone), (FourCosts{"15.00", "15.00", "0.00", "15.00"}));
 }
 
 void TestCharging::aFailedWriteLeavesUnitsDue()
