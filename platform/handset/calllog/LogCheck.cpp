@@ -147,7 +147,9 @@ Finding checkPages(sqlite3 *connection)
 
 CheckedLog checkSums(sqlite3 *connection)
 {
-    CheckedLog checked{{}, {{{"calls", {}}, {"units", {}}, {"duration", {}}, {"sent", {}}, {"received", {}}}}};
+    CheckedLog checked;
+    for (std::size_t i = 0; i < lostNames.size(); ++i)
+        checked.unknown[i].counter = lostNames[i].key;
     Figures figures;
     const bool isOwnTransaction = sqlite3_get_autocommit(connection) != 0;
     if (isOwnTransaction)

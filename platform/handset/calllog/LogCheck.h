@@ -10,12 +10,18 @@ struct sqlite3;
 
 namespace handset::calllog {
 
+struct LostName {
+    const char *key; ///< in the database; never change one
+};
+inline constexpr std::array lostNames{LostName{"calls"}, LostName{"units"}, LostName{"duration"}, LostName{"sent"},
+                                      LostName{"received"}};
+
 /// What the totals count beyond the rows that are left, by the names in the table `lost`.
 struct LostAmount {
     const char *counter;
     std::optional<qint64> amount; ///< nothing where the log does not say
 };
-using LostAmounts = std::array<LostAmount, 5>;
+using LostAmounts = std::array<LostAmount, lostNames.size()>;
 
 /// What a log that was read through has come to.
 struct CheckedLog {

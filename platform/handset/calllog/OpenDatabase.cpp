@@ -90,7 +90,8 @@ Finding checkAllTotals(Database &database)
          {checkTotals(database, "SELECT counter FROM totals WHERE ms >= 0 ORDER BY counter", counterNames),
           checkTotals(database, "SELECT counter FROM costs WHERE units >= 0 ORDER BY counter", costCounterNames),
           checkTotals(database, "SELECT counter FROM session_totals WHERE value >= 0 ORDER BY counter",
-                      sessionCounters)})
+                      sessionCounters),
+          checkTotals(database, "SELECT counter FROM lost ORDER BY counter", lostNames)})
         if (finding.verdict != Verdict::Usable)
             return finding;
     return {};

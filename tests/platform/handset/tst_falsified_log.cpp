@@ -58,7 +58,7 @@ void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data()
 {
     QTest::addColumn<QStringList>("statements");
     const auto row = [](const char *name, const QStringList &statements) { QTest::newRow(name) << statements; };
-    for (const char *table : {"totals", "costs", "session_totals"}) {
+    for (const char *table : {"totals", "costs", "session_totals", "lost"}) {
         const QString set =
             QStringLiteral("UPDATE %1 SET counter = '%2' WHERE counter = (SELECT max(counter) FROM %1)");
         QTest::addRow("a total of %s under another name", table)
@@ -136,6 +136,7 @@ void TestFalsifiedLog::totalsThatContradictTheRowsAreTold_data()
     row("a call that is gone", "DELETE FROM calls WHERE id = 2");
     row("a call more", "INSERT INTO calls VALUES (9, 0, 0, '9', 0, 1000, 1, 0)");
     row("a session that is gone", "DELETE FROM sessions");
+    row("what was lost before is not known", "DELETE FROM lost WHERE counter = 'calls'");
 }
 
 void TestFalsifiedLog::totalsThatContradictTheRowsAreTold()
