@@ -20,13 +20,17 @@ namespace {
 constexpr auto markSuffix = "-damaged";
 constexpr int nicer = 10; ///< than the screens
 
-// A log that takes the place of the marked one is another file.
+// A log that takes the place of the marked one is another file. When the marked one is gone its number is free, and soon
+// that of a new file: the time of its birth is its own, where the file system has one.
 QByteArray identity(const QString &path)
 {
-    struct stat status = {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+    struct statx status = {};
+    const QByteArray name = QFile::encodeName(path);
+    if (::statx(AT_FDCWD, name.constData(), 0, STATX_INO | STATX_BTIME, &status) != 0)
         return {};
-    return QByteArray::number(qulonglong{status.st_ino}) + '\n';
+    return QByteArray::number(qulonglong{status.stx_ino}) + ' ' +
+           QByteArray::number(qlonglong{status.stx_btime.tv_sec}) + '.' +
+           QByteArray::number(status.stx_btime.tv_nsec) + '\n';
 }
 
 // Answers 0 or an errno. (The database itself must not be opened here: closing it would drop SQLite's locks.)

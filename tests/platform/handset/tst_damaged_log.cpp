@@ -126,8 +126,11 @@ private slots:
     void aDiskThatIsFullIsAnErrorAndChangesNothing();
     void aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart_data();
     void aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart();
+    void noTableOfABigLogLocksItForGood_data();
+    void noTableOfABigLogLocksItForGood();
     void aReadingThatTakesLongSaysHowFarItIs();
     void aReadingThatTakesNoTimeSaysNothing();
+    void aMarkOfAnotherLogIsNoDamage_data();
     void aMarkOfAnotherLogIsNoDamage();
     void aTelephoneThatEndsDoesNotWaitForTheReading();
     void aSalvagedLogIsNoLargerThanTheOneBefore_data();
@@ -692,6 +695,38 @@ void TestDamagedLog::aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart()
     QVERIFY(!QFile::exists(state.file(QStringLiteral("calllog.db-damaged"))));
 }
 
+void TestDamagedLog::noTableOfABigLogLocksItForGood_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"calls", "running_calls", "totals", "costs", "kept", "sessions", "running_sessions",
+                             "session_totals", "lost"})
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+// What opening needs of it, or the telephone after that.
+void TestDamagedLog::noTableOfABigLogLocksItForGood()
+{
+    QFETCH(QString, name);
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(10'000)), int(Success));
+    const QString root = QStringLiteral("SELECT rootpage FROM sqlite_schema WHERE name = '%1'").arg(name);
+    const qint64 page = LogFile(state.database()).value(root).toLongLong();
+    QByteArray content = readFile(state.database());
+    QVERIFY(page > 1 && page * pageSize <= content.size());
+    QVERIFY(writeFile(state.database(),
+                      content.replace((page - 1) * pageSize, pageSize, QByteArray(pageSize, '\xff'))));
+    QStringList told;
+    {
+        const Phone phone(state.path(), nullptr, [&](const QString &notice) { told << notice; });
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        if (phone.opened.notice.isEmpty())
+            QTRY_COMPARE(told.size(), 1);
+    }
+    const Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.notice.isEmpty(), told.isEmpty()); // replaced by the start before, or by this one
+}
+
 void TestDamagedLog::aReadingThatTakesLongSaysHowFarItIs()
 {
     const StateDir state;
@@ -714,11 +749,22 @@ void TestDamagedLog::aReadingThatTakesNoTimeSaysNothing()
     QVERIFY(phone.progress.isEmpty());
 }
 
+void TestDamagedLog::aMarkOfAnotherLogIsNoDamage_data()
+{
+    QTest::addColumn<bool>("hasNumberOfTheLog");
+    QTest::newRow("with a number of its own") << false;
+    QTest::newRow("whose number the file system gave to this one when it was gone") << true;
+}
+
 void TestDamagedLog::aMarkOfAnotherLogIsNoDamage()
 {
+    QFETCH(bool, hasNumberOfTheLog);
     const StateDir state;
     QVERIFY(Phone(state.path()).dialed(second));
-    QVERIFY(writeFile(state.file(QStringLiteral("calllog.db-damaged")), "1\n"));
+    struct stat status = {};
+    QCOMPARE(::stat(QFile::encodeName(state.database()).constData(), &status), 0);
+    const QByteArray mark = hasNumberOfTheLog ? QByteArray::number(qulonglong{status.st_ino}) + '\n' : "1\n";
+    QVERIFY(writeFile(state.file(QStringLiteral("calllog.db-damaged")), mark));
     const Phone phone(state.path());
     QCOMPARE(phone.opened.notice, QString());
     QCOMPARE(state.names().filter(QStringLiteral("-damaged")), QStringList());
