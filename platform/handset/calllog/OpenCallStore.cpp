@@ -20,7 +20,7 @@ Care careFor(const StateDirectory &directory, const QString &name)
     return directory.hasLeftovers(name) ? Care::Leftovers : Care::Thorough;
 }
 
-Attempt openFile(std::unique_ptr<StateDirectory> &directory)
+Attempt openFile(std::unique_ptr<StateDirectory> &directory, const ProgressListener &progress)
 {
     const QString name = QString::fromLatin1(databaseName);
     if (QString problem = directory->mendRights(name); !problem.isEmpty())
@@ -32,7 +32,7 @@ Attempt openFile(std::unique_ptr<StateDirectory> &directory)
     if (isMarkedDamaged(path))
         return {{Verdict::Damaged, {}}, nullptr, {}};
     const Care care = careFor(*directory, name);
-    Attempt attempt = openDatabase(path, directory, care);
+    Attempt attempt = openDatabase(path, directory, care, progress);
     if (care == Care::Quick)
         attempt.unread = path;
     return attempt;
@@ -55,15 +55,15 @@ OpenedStore openReplacing(std::unique_ptr<StateDirectory> directory, const Progr
     const Finding finished = finishReplacement(*directory);
     if (finished.verdict != Verdict::Usable)
         return cannotBeUsed(*directory, explain(finished));
-    Attempt attempt = openFile(directory);
+    Attempt attempt = openFile(directory, progress);
     // A read that went wrong once may look like damage. What is damaged still is when it is read again.
     if (isToBeReplaced(attempt))
-        attempt = openFile(directory);
+        attempt = openFile(directory, progress);
     if (isToBeReplaced(attempt)) {
         const Replacement replacement = replace(*directory, attempt.finding.verdict, progress);
         if (!replacement.error.isEmpty())
             return cannotBeUsed(*directory, replacement.error);
-        attempt = openFile(directory);
+        attempt = openFile(directory, progress);
     }
     if (!attempt.store)
         return cannotBeUsed(*directory, explain(attempt.finding));

@@ -5,6 +5,7 @@
 #include "SchemaCheck.h"
 #include "SessionStore.h"
 
+#include <functional>
 #include <initializer_list>
 
 namespace handset::calllog {
@@ -101,8 +102,6 @@ Finding checkAllTotals(Database &database)
 // the telephone stopped: their time is counted up to their last checkpoint.
 Finding settle(Database &database)
 {
-    if (!migrate(database, migrations()))
-        return failure(database);
     Finding totals = checkAllTotals(database);
     if (totals.verdict != Verdict::Usable)
         return totals;
@@ -121,13 +120,13 @@ Finding settle(Database &database)
                                                                                        : failure(database);
 }
 
-using Step = Finding (*)(Database &);
+using Step = std::function<Finding(Database &)>;
 
 Finding walk(Database &database, std::initializer_list<Step> steps)
 {
     if (!database.isOpen())
         return failure(database);
-    for (const Step step : steps) {
+    for (const Step &step : steps) {
         Finding finding = step(database);
         if (finding.verdict != Verdict::Usable)
             return finding;
@@ -148,7 +147,8 @@ Finding examine(const QString &file)
 
 } // namespace
 
-Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care)
+Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care,
+                     const ProgressListener &progress)
 {
     if (care == Care::Leftovers) {
         Finding examined = examine(file);
@@ -156,8 +156,12 @@ Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &direc
             return {std::move(examined), nullptr};
     }
     auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
-    Finding finding = care == Care::Quick ? walk(*database, {identify, configure, settle})
-                                          : walk(*database, {identify, verify, configure, settle, verifySums});
+    const auto bringUpToDate = [&progress](Database &older) {
+        return migrate(older, migrations(), progress) ? Finding{} : failure(older);
+    };
+    Finding finding = care == Care::Quick
+                          ? walk(*database, {identify, configure, bringUpToDate, settle})
+                          : walk(*database, {identify, verify, configure, bringUpToDate, settle, verifySums});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
     // Packet data prepares its statements later, when there is nobody left who could replace the log.

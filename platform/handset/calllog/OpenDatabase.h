@@ -4,6 +4,7 @@
 #include "CallStore.h"
 #include "Finding.h"
 #include "StateDirectory.h"
+#include "repair/Progress.h"
 
 #include <memory>
 
@@ -22,7 +23,8 @@ enum class Care {
 };
 
 /// `file` is an absolute path, or ":memory:". `directory` goes over to the store; it may be null, and stays where it
-/// is when there is no store.
-Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care);
+/// is when there is no store. `progress` as in migrate().
+Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care,
+                     const ProgressListener &progress = {});
 
 } // namespace handset::calllog

@@ -11,7 +11,6 @@ namespace handset::calllog {
 namespace {
 
 constexpr int busyTimeoutMs = 1000;
-constexpr int stepsBetweenQuestions = 1000; ///< of SQLite's virtual machine
 
 int primary(int code)
 {
@@ -74,12 +73,12 @@ QByteArray PlainStatement::text(int column) const
     return {bytes, sqlite3_column_bytes(statement, column)};
 }
 
-Interruption::Interruption(sqlite3 *connection, std::function<bool()> isEnough)
+Interruption::Interruption(sqlite3 *connection, std::function<bool()> isEnough, int steps)
     : handle(connection)
     , asked(std::move(isEnough))
 {
     const auto ask = [](void *question) { return (*static_cast<std::function<bool()> *>(question))() ? 1 : 0; };
-    sqlite3_progress_handler(handle, stepsBetweenQuestions, ask, &asked);
+    sqlite3_progress_handler(handle, steps, ask, &asked);
 }
 
 Interruption::~Interruption()

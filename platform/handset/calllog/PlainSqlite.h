@@ -55,11 +55,11 @@ private:
 };
 
 /// While this lives, statements of a connection fail with SQLITE_INTERRUPT as soon as `isEnough` says so. It is asked
-/// every few microseconds.
+/// every `steps` steps of SQLite's virtual machine; a thousand take some microseconds.
 class Interruption
 {
 public:
-    Interruption(sqlite3 *connection, std::function<bool()> isEnough);
+    Interruption(sqlite3 *connection, std::function<bool()> isEnough, int steps = 1000);
     ~Interruption();
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;

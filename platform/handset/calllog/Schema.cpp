@@ -1,5 +1,7 @@
 #include "Schema.h"
 
+#include "PlainSqlite.h"
+
 #include <array>
 
 namespace handset::calllog {
@@ -62,8 +64,25 @@ constexpr std::array toVersion3{
 
 constexpr std::array<Migration, 3> steps{toVersion1, toVersion2, toVersion3};
 
-bool runStep(Database &database, Migration step, qint64 version)
+/// What SQLite's virtual machine does to check one row of `calls` when it gets a column: measured with 3.40, over a
+/// million rows. With another SQLite a step only seems to be slower or faster towards its end.
+constexpr int machineStepsPerCall = 48;
+
+// None of them in a database without tables.
+qint64 countCalls(Database &database, qint64 version)
 {
+    return version == 0 ? 0 : database.number(QStringLiteral("SELECT max(id) FROM calls")).value_or(0);
+}
+
+bool runStep(Database &database, Migration step, qint64 version, const ProgressListener &listener)
+{
+    Progress progress(listener, QStringLiteral("Bringing the call log up to date"),
+                      countCalls(database, version - 1));
+    const auto countCall = [&progress] {
+        progress.oneIsDone();
+        return false; // goes on
+    };
+    const Interruption counting(database.handle(), countCall, machineStepsPerCall);
     return database.inTransaction([&] {
         for (const char *statement : step)
             if (!database.run(QString::fromLatin1(statement)))
@@ -80,13 +99,13 @@ std::span<const Migration> migrations()
     return steps;
 }
 
-bool migrate(Database &database, std::span<const Migration> path)
+bool migrate(Database &database, std::span<const Migration> path, const ProgressListener &listener)
 {
     const std::optional<qint64> version = database.number(QStringLiteral("PRAGMA user_version"));
     if (!version)
         return false;
     for (qint64 at = *version; at < static_cast<qint64>(path.size()); ++at)
-        if (!runStep(database, path[static_cast<std::size_t>(at)], at + 1))
+        if (!runStep(database, path[static_cast<std::size_t>(at)], at + 1, listener))
             return false;
     return true;
 }

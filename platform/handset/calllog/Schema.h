@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Database.h"
+#include "repair/Progress.h"
 
 #include <span>
 
@@ -20,8 +21,9 @@ inline constexpr qint64 versionWithAllKept = 3;
 std::span<const Migration> migrations();
 
 /// Brings a database of version 0 to `steps.size()` up to the newest version, each step in one transaction together
-/// with its version number. False leaves the database at the version that the last finished step made.
-bool migrate(Database &database, std::span<const Migration> steps);
+/// with its version number. False leaves the database at the version that the last finished step made. `progress` is
+/// told how far a step is that reads many calls; it must leave the database alone.
+bool migrate(Database &database, std::span<const Migration> steps, const ProgressListener &progress = {});
 
 /// Of a call's row; the numbers are in the database.
 enum class CallState {

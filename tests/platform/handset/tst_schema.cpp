@@ -6,6 +6,7 @@
 
 #include <QtCore/QDir>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -46,6 +47,16 @@ bool migrateFile(const QString &file, const std::vector<Migration> &steps)
     return calllog::migrate(database, steps);
 }
 
+// With calls that were never connected, so that no total counts them.
+bool makeFirstVersion(const StateDir &state, int calls)
+{
+    const QString insert =
+        QStringLiteral("WITH RECURSIVE numbers (n) AS (SELECT 1 UNION ALL SELECT n + 1 FROM numbers WHERE n < %1)"
+                       " INSERT INTO calls SELECT n, n % 2, 0, '5550123', n, 0, 2 FROM numbers");
+    return QDir().mkpath(state.path()) && migrateFile(state.database(), {calllog::migrations().front()}) &&
+           LogFile(state.database()).run(insert.arg(calls));
+}
+
 } // namespace
 
 class TestSchema : public QObject
@@ -59,6 +70,8 @@ private slots:
     void anUpToDateDatabaseIsLeftAlone();
     void anOlderDatabaseKeepsItsCallsThroughEveryStep();
     void aLogOfTheFirstVersionKeepsItsCallsAndFigures();
+    void aBigLogOfTheFirstVersionSaysHowFarItsStepsAre();
+    void aSmallLogOfTheFirstVersionSaysNothingOfItsSteps();
     void aStepThatFailsLeavesTheVersionBeforeItWhole();
     void aStepThatFailedIsDoneByTheNextStart();
     void theTelephoneTakesOverADatabaseWithoutTables();
@@ -119,6 +132,33 @@ void TestSchema::aLogOfTheFirstVersionKeepsItsCallsAndFigures()
     phone.close();
     const LogFile file(state.database());
     QCOMPARE(file.value(QStringLiteral("SELECT number || units FROM calls")), QVariant(QStringLiteral("12340")));
+}
+
+void TestSchema::aBigLogOfTheFirstVersionSaysHowFarItsStepsAre()
+{
+    const StateDir state;
+    QVERIFY(makeFirstVersion(state, 210'000));
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.isEmpty(), qPrintable(phone.opened.notice));
+    QList<int> percents;
+    for (const auto &[step, percent] : phone.progress) {
+        QCOMPARE(step, QStringLiteral("Bringing the call log up to date"));
+        percents << percent;
+    }
+    // How many steps a row takes is SQLite's: one more or less is as good.
+    QVERIFY2(percents.size() >= 3 && percents.size() <= 6, qPrintable(QString::number(percents.size())));
+    QVERIFY(std::is_sorted(percents.begin(), percents.end()));
+    QVERIFY2(percents.front() >= 15 && percents.front() <= 35, qPrintable(QString::number(percents.front())));
+    QVERIFY2(percents.back() >= 65 && percents.back() <= 99, qPrintable(QString::number(percents.back())));
+}
+
+void TestSchema::aSmallLogOfTheFirstVersionSaysNothingOfItsSteps()
+{
+    const StateDir state;
+    QVERIFY(makeFirstVersion(state, 20'000));
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.isEmpty(), qPrintable(phone.opened.notice));
+    QVERIFY(phone.progress.isEmpty());
 }
 
 void TestSchema::aStepThatFailsLeavesTheVersionBeforeItWhole()
