@@ -4,7 +4,6 @@
 #include "StatusText.h"
 
 #include <QtCore/QDateTime>
-#include <QtCore/QStringList>
 
 namespace host {
 
@@ -102,6 +101,12 @@ void Line::setNumber(const QString &number)
 void Line::changeNumber(const QString &number)
 {
     nextNumber = number;
+    emit changed();
+}
+
+void Line::addNotice(const QString &notice)
+{
+    told << notice;
     emit changed();
 }
 

@@ -5,6 +5,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <memory>
 
@@ -52,11 +53,14 @@ public:
     QString chargeNotice() const;
     /// That the end of a call or a session is not in the call log yet; else empty.
     QString recordNotice() const;
+    /// What the telephone has told while it runs (handset::Settings::tell), a sentence a line; else empty.
+    QString toldNotice() const { return told.join(QLatin1Char('\n')); }
+    void addNotice(const QString &notice);
     /// Why the last operation failed; empty when it did not.
     QString failure() const { return lastFailure; }
 
 signals:
-    /// The line state, a figure, the number or the failure has changed.
+    /// The line state, a figure, the number, a notice or the failure has changed.
     void changed();
 
 private:
@@ -68,6 +72,7 @@ private:
     Telephone *simulated;
     QString nextNumber = QStringLiteral("5550123");
     bool typing = false;
+    QStringList told;
     QString lastFailure;
 };
 

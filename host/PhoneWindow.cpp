@@ -1,6 +1,7 @@
 #include "PhoneWindow.h"
 
 #include "MenuScreen.h"
+#include "OpeningProgress.h"
 #include "ZApplication.h"
 #include "ZKeys.h"
 #include "panel/Panel.h"
@@ -8,6 +9,8 @@
 #include "phone/Keypad.h"
 #include "phone/PhoneBody.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QHBoxLayout>
@@ -60,6 +63,49 @@ void PhoneWindow::layOut()
     row->addItem(placeOfPanel);
 }
 
+// In the panel's place: as wide as a panel at the least, so that the window keeps its size.
+void PhoneWindow::putBeside(QWidget *widget, Qt::Alignment alignment)
+{
+    if (placeOfPanel)
+        row->removeItem(placeOfPanel);
+    delete std::exchange(placeOfPanel, nullptr);
+    row->addWidget(widget, 1, alignment);
+    widget->show();
+}
+
+void PhoneWindow::listen(handset::Settings &settings)
+{
+    settings.progress = [this, other = std::move(settings.progress)](const QString &step, int percent) {
+        if (other)
+            other(step, percent);
+        showProgress(step, percent);
+    };
+    // The telephone may outlive the window.
+    settings.tell = [shown = QPointer<PhoneWindow>(this),
+                     other = std::move(settings.tell)](const QString &notice) {
+        if (other)
+            other(notice);
+        if (shown && shown->line)
+            shown->line->addNotice(notice);
+    };
+}
+
+// The window system asks of an exposed or uncovered window to be painted, and of every window whether it still answers.
+// What comes in finds no telephone yet: complete() answers false. What the user does waits until there is one.
+void PhoneWindow::showProgress(const QString &step, int percent)
+{
+    if (panel)
+        return;
+    if (!opening) {
+        opening = new OpeningProgress(this);
+        opening->setMinimumWidth(Panel::usualWidth);
+        putBeside(opening, Qt::AlignTop);
+    }
+    opening->showStep(step, percent);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    repaint(); // an update that is only asked for may come late
+}
+
 void PhoneWindow::paintEvent(QPaintEvent *)
 {
     if (openTelephone)
@@ -95,10 +141,8 @@ void PhoneWindow::connectTelephone()
 void PhoneWindow::makePanel()
 {
     panel = new Panel(*line, panelSetup, this);
-    row->removeItem(placeOfPanel);
-    delete placeOfPanel;
-    row->addWidget(panel, 1);
-    panel->show();
+    delete std::exchange(opening, nullptr);
+    putBeside(panel);
     // For texts that are longer than usual in their language.
     resize(size().expandedTo(sizeHint()));
 }

@@ -1,6 +1,7 @@
 // The application's window: the phone, and the panel beside it.
 #pragma once
 
+#include "Handset.h"
 #include "Line.h"
 #include "ScreenHost.h"
 #include "panel/Panel.h"
@@ -18,6 +19,7 @@ namespace host {
 
 class Faults;
 class MenuScreen;
+class OpeningProgress;
 class PhoneBody;
 
 class PhoneWindow : public QWidget
@@ -42,8 +44,14 @@ public:
     /// and is destroyed once the event loop has ended.
     ~PhoneWindow() override;
 
+    /// Has the window show what a telephone that is opened with `settings` tells, beside whoever listens already: how far
+    /// its opening is, in the panel's place, and then its notices, in the panel. `settings.progress` is for what the
+    /// window opens; each call paints, and handles what is to be handled except what the user does.
+    void listen(handset::Settings &settings);
+
     /// Opens the telephone and makes the panel now, which otherwise follows the window's first paint: the phone is
-    /// seen that much sooner. False when the telephone cannot be opened; the window is closed then.
+    /// seen that much sooner. False when the telephone cannot be opened, and the window is closed then; and while it is
+    /// being opened.
     bool complete();
 
     /// Opens row `index` of the screen table, on a complete window; false as in ScreenHost::open().
@@ -58,15 +66,18 @@ protected:
 
 private:
     void layOut();
+    void showProgress(const QString &step, int percent);
     void connectTelephone();
     void makePanel();
+    void putBeside(QWidget *widget, Qt::Alignment alignment = {});
 
     OpenTelephone openTelephone; ///< until it is called
     std::unique_ptr<Line> line;  ///< until complete() null, as the panel
     QHBoxLayout *row;
     Panel::Setup panelSetup;
     PhoneBody *body;
-    QSpacerItem *placeOfPanel; ///< until the panel is there
+    QSpacerItem *placeOfPanel;          ///< until something is there
+    OpeningProgress *opening = nullptr; ///< until the panel is there; made when there is something to show
     Panel *panel = nullptr;
     MenuScreen *menu;
     ScreenHost screens;

@@ -161,7 +161,7 @@ int runTour(const Options &options, const EndSignals &endSignals)
 
 // --- the window
 
-handset::Settings telephoneSettings(const Options &options)
+handset::Settings telephoneSettings(const Options &options, PhoneWindow &window)
 {
     handset::Settings settings;
     settings.backend = options.backend;
@@ -170,16 +170,18 @@ handset::Settings telephoneSettings(const Options &options)
     settings.progress = [](const QString &step, int percent) {
         complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));
     };
+    window.listen(settings);
     return settings;
 }
 
 // Nothing and the exit code where that fails. Loads the screens, too, which want the telephone.
-std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, ScreenLibrary &library, int &code)
+std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, ScreenLibrary &library,
+                                                    PhoneWindow &window, int &code)
 {
     code = loadScreens(library, options.plugin);
     if (code != ExitSuccess)
         return {};
-    const handset::Opened opened = handset::open(telephoneSettings(options));
+    const handset::Opened opened = handset::open(telephoneSettings(options, window));
     if (!opened.handset) {
         code = complain(ExitNoTelephone, opened.error);
         return {};
@@ -206,7 +208,7 @@ int showWindow(const Options &options, const EndSignals &endSignals)
 {
     ScreenLibrary library;
     int openingCode = ExitSuccess;
-    PhoneWindow window(library, [&] { return openTelephone(options, library, openingCode); });
+    PhoneWindow window(library, [&] { return openTelephone(options, library, window, openingCode); });
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open

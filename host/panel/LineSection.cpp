@@ -1,5 +1,7 @@
 #include "LineSection.h"
 
+#include "Controls.h"
+
 #include <QtGui/QRegularExpressionValidator>
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLabel>
@@ -39,6 +41,7 @@ LineSection::LineSection(Line &drivenLine)
     , state(new QLabel)
     , notice(new QLabel)
     , record(new QLabel)
+    , told(makeValue("told notice", tr("What the telephone has told")))
     , failure(new QLabel)
     , number(new QLineEdit(drivenLine.number()))
 {
@@ -63,6 +66,8 @@ LineSection::LineSection(Line &drivenLine)
     record->setFont(bold);
     record->setWordWrap(true);
     column->addWidget(record);
+    told->setFont(bold);
+    column->addWidget(told);
     failure->setWordWrap(true);
     failure->setObjectName(QStringLiteral("line failure"));
     column->addWidget(failure);
@@ -108,6 +113,7 @@ void LineSection::refresh()
     notice->setVisible(!line.chargeNotice().isEmpty());
     record->setText(line.recordNotice());
     record->setVisible(!line.recordNotice().isEmpty());
+    tell(told, line.toldNotice());
     failure->setText(line.failure());
     failure->setVisible(!line.failure().isEmpty());
     for (std::size_t index = 0; index < buttonPlans.size(); ++index)

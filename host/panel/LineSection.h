@@ -29,6 +29,7 @@ private:
     QLabel *state;
     QLabel *notice;
     QLabel *record;
+    QLabel *told;
     QLabel *failure;
     QLineEdit *number;
     std::array<QPushButton *, 6> buttons{};

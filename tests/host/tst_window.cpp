@@ -22,12 +22,14 @@
 #include <QtCore/QLibrary>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
+#include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 
 using namespace host;
@@ -57,6 +59,12 @@ private slots:
     void thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade();
     void aScreenThatIsOpenedBeforeThatWaitsForTheTelephone();
     void aTelephoneThatCannotBeOpenedClosesTheWindow();
+    void howFarTheOpeningIsIsPaintedInThePanelsPlace();
+    void anEventInALongOpeningDoesNotBeginAnother();
+    void aWindowThatIsClosedInALongOpeningEndsWell();
+    void aWindowThatIsNotPaintedYetShowsALongOpening();
+    void whoListensAlreadyStillHearsTheTelephone();
+    void damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace();
     void theMenuHasTheKeysAtTheStart();
     void keypadKeysDriveTheScreensAndLeaveTheFocus();
     void theDesktopKeyboardDrivesTheScreens();
@@ -82,6 +90,8 @@ private slots:
 private:
     void openWindow(const std::shared_ptr<handset::Handset> &telephone, const QString &directory = {},
                     const QString &notice = {});
+    void makeWindow(std::function<void()> whileOpening);
+    void tellProgress(int percent);
     static void expectSizeHintWarning();
     void showWindow();
     QPushButton *button(const char *text) const;
@@ -257,6 +267,179 @@ void WindowTest::aTelephoneThatCannotBeOpenedClosesTheWindow()
     QVERIFY(!window->complete());
     QVERIFY(!window->openScreen(0));
     QCOMPARE(tried, 1);
+}
+
+// One that opens a telephone that has been opened long before.
+void WindowTest::makeWindow(std::function<void()> whileOpening)
+{
+    window = std::make_unique<PhoneWindow>(library, [this, whileOpening] {
+        whileOpening();
+        return PhoneWindow::Telephone{owner, {}, {}};
+    });
+}
+
+// As a telephone that is being opened does.
+void WindowTest::tellProgress(int percent)
+{
+    handset::Settings settings;
+    window->listen(settings);
+    settings.progress(QStringLiteral("Reading the damaged call log"), percent);
+}
+
+void WindowTest::howFarTheOpeningIsIsPaintedInThePanelsPlace()
+{
+    QStringList shown;
+    QSize duringOpening;
+    const PaintWatch *watching = nullptr;
+    makeWindow([&] {
+        for (const int percent : {12, 47}) {
+            const auto paintedBefore = watching->withoutPanel.count("QProgressBar");
+            tellProgress(percent);
+            if (watching->withoutPanel.count("QProgressBar") == paintedBefore)
+                shown << "(not painted)";
+            const auto *bar = window->findChild<QProgressBar *>();
+            shown << label("opening step") << bar->text();
+            if (!bar->isVisible() ||
+                bar->mapTo(window.get(), QPoint()).x() < window->findChild<Keypad *>()->width())
+                shown << "(not beside the phone)";
+        }
+        duringOpening = window->size();
+    });
+    const PaintWatch watch(window.get());
+    watching = &watch;
+    expectSizeHintWarning();
+    window->show();
+    const QSize first = window->size();
+    QTRY_VERIFY(watch.withPanel.contains("host::LineSection"));
+    QCOMPARE(shown, QStringList({"Reading the damaged call log", "12%", "Reading the damaged call log", "47%"}));
+    QCOMPARE(duringOpening, first);
+    QCOMPARE(window->size(), first);
+    QVERIFY(!window->findChild<QProgressBar *>());
+    QVERIFY(button("Dial")->isVisible());
+}
+
+void WindowTest::anEventInALongOpeningDoesNotBeginAnother()
+{
+    int opened = 0;
+    QList<bool> screenCame;
+    makeWindow([&] {
+        ++opened;
+        QTimer::singleShot(0, window.get(), [&] { screenCame << window->openScreen(0); });
+        tellProgress(12);
+        QCOMPARE(screenCame, QList<bool>{false});
+    });
+    showWindow();
+    QCOMPARE(opened, 1);
+    QCOMPARE(screenCame, QList<bool>{false});
+    QVERIFY(window->isVisible());
+    QVERIFY(window->openScreen(0));
+}
+
+// As by a signal that ends the program.
+void WindowTest::aWindowThatIsClosedInALongOpeningEndsWell()
+{
+    bool closed = false;
+    makeWindow([&] {
+        QTimer::singleShot(0, window.get(), [&] { closed = window->close(); });
+        tellProgress(12);
+        QVERIFY(closed);
+        tellProgress(47);
+    });
+    expectSizeHintWarning();
+    window->show();
+    QTRY_VERIFY(window->findChild<Panel *>());
+    QVERIFY(closed);
+    QVERIFY(!window->isVisible());
+}
+
+void WindowTest::aWindowThatIsNotPaintedYetShowsALongOpening()
+{
+    bool isPainted = false;
+    const PaintWatch *watching = nullptr;
+    makeWindow([&] {
+        tellProgress(12);
+        isPainted =
+            watching->withoutPanel.contains("QProgressBar") && watching->withoutPanel.contains("host::PhoneBody");
+    });
+    const PaintWatch watch(window.get());
+    watching = &watch;
+    expectSizeHintWarning();
+    window->show();
+    QVERIFY(window->complete());
+    QVERIFY(isPainted);
+}
+
+void WindowTest::whoListensAlreadyStillHearsTheTelephone()
+{
+    QStringList heard;
+    handset::Settings settings;
+    settings.tell = [&](const QString &notice) { heard << notice; };
+    settings.progress = [&](const QString &step, int percent) { heard << step + QString::number(percent); };
+    window->listen(settings);
+    settings.progress("Reading", 12);
+    settings.tell("Found.");
+    QCOMPARE(label("told notice"), "Found.");
+    window.reset();
+    settings.tell("Found late.");
+    QCOMPARE(heard, QStringList({"Reading12", "Found.", "Found late."}));
+}
+
+// Calls enough for the reading of a damaged log to say how far it is.
+static void makeDamagedLog(const QString &directory)
+{
+    handset::Settings settings;
+    settings.stateDirectory = directory;
+    const auto opened = handset::open(settings);
+    auto *made = dynamic_cast<SimulatedTelephone *>(opened.handset.get());
+    QVERIFY2(made, qPrintable(opened.error));
+    QList<handset::simulated::PastCall> calls;
+    for (int i = 0; i < 60'000; ++i)
+        calls.append({handset::CallKind::Voice, handset::CallDirection::Dialed, "5550123", i * 1000, 1000});
+    QCOMPARE(made->addHistory(calls), 0);
+}
+
+// In the middle, where no figure stands and no opening looks.
+static void zeroAPage(const QString &fileName)
+{
+    constexpr qint64 pageSize = 4096;
+    QFile file(fileName);
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(file.seek(file.size() / pageSize / 2 * pageSize));
+    QCOMPARE(file.write(QByteArray(pageSize, '\0')), pageSize);
+}
+
+void WindowTest::damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace()
+{
+    const QTemporaryDir state;
+    makeDamagedLog(state.path());
+    zeroAPage(state.filePath("calllog.db"));
+    QStringList steps;
+    const auto open = [&] {
+        handset::Settings settings;
+        settings.stateDirectory = state.path();
+        window->listen(settings);
+        settings.progress = [&, shown = settings.progress](const QString &step, int percent) {
+            shown(step, percent);
+            steps << label("opening step");
+        };
+        const auto opened = handset::open(settings);
+        return PhoneWindow::Telephone{opened.handset, state.path(), opened.notice};
+    };
+    window = std::make_unique<PhoneWindow>(library, open);
+    showWindow();
+    QVERIFY(!window->findChild<QLabel *>("told notice")->isVisible());
+    QTRY_COMPARE(label("told notice"),
+                 "The call log is damaged. The next start begins a new one, with what can be read of it.");
+    QVERIFY(window->findChild<QLabel *>("told notice")->isVisible());
+    QCOMPARE(steps, QStringList());
+
+    window.reset();
+    window = std::make_unique<PhoneWindow>(library, open);
+    showWindow();
+    QCOMPARE(steps, QStringList{"Reading the damaged call log"});
+    QVERIFY(label("notice").startsWith("The call log is damaged; it was kept as \"calllog-kept-1.db\""));
+    QVERIFY(!window->findChild<QLabel *>("told notice")->isVisible());
+    window.reset();
 }
 
 void WindowTest::theMenuHasTheKeysAtTheStart()

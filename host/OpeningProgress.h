@@ -1,0 +1,26 @@
+// How far the opening of the telephone is, in the place of the panel, which comes after it.
+#pragma once
+
+#include <QtWidgets/QGroupBox>
+
+class QLabel;
+class QProgressBar;
+
+namespace host {
+
+class OpeningProgress : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit OpeningProgress(QWidget *parent = nullptr);
+
+    /// What is done, and how far it is, 0 to 99, as handset::Settings::progress has it.
+    void showStep(const QString &step, int percent);
+
+private:
+    QLabel *text;
+    QProgressBar *bar;
+};
+
+} // namespace host
