@@ -41,6 +41,7 @@ ZTextPane::ZTextPane(const QString &message, QWidget *parent)
 void ZTextPane::alignLines()
 {
     QTextOption option(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft) | Qt::AlignAbsolute);
+    option.setTextDirection(Qt::LayoutDirectionAuto); // else it is the application's
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     text.setTextOption(option);
     update();

@@ -85,6 +85,8 @@ private slots:
     void whoever_answers_may_delete_it_or_its_screen();
     void a_message_begins_where_reading_begins_data();
     void a_message_begins_where_reading_begins();
+    void a_sentence_ends_where_its_own_words_end_data();
+    void a_sentence_ends_where_its_own_words_end();
     void it_comes_only_when_it_is_shown();
     void it_covers_its_screen_whole_and_follows_it();
     void its_box_stays_inside_the_display_data();
@@ -368,6 +370,35 @@ void DialogTest::a_message_begins_where_reading_begins()
     QVERIFY(lastInk(looks(), background) > rightEdge - 4 && lastInk(looks(), background) <= rightEdge);
     screen.setLayoutDirection(Qt::LeftToRight);
     QVERIFY2(lastInk(looks(), background) < inside.width() / 2, "the message begins at the right");
+}
+
+void DialogTest::a_sentence_ends_where_its_own_words_end_data()
+{
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<QChar>("mark"); // invisible, of the direction of the words
+    QTest::addColumn<Qt::LayoutDirection>("around");
+    const QString hebrew = QString::fromUtf8("\xd7\x90\xd7\x91\xd7\x92");
+    QTest::newRow("not translated, in an application from right to left")
+        << "abc?" << QChar(0x200e) << Qt::RightToLeft;
+    QTest::newRow("translated, in an application from left to right")
+        << hebrew + '?' << QChar(0x200f) << Qt::LeftToRight;
+}
+
+void DialogTest::a_sentence_ends_where_its_own_words_end()
+{
+    QFETCH(QString, words);
+    QFETCH(QChar, mark);
+    QFETCH(Qt::LayoutDirection, around);
+    QGuiApplication::setLayoutDirection(around);
+    const auto asBefore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
+    TestScreen screen;
+    screen.show();
+    const auto look = [&screen](const QString &message) {
+        ZMessageDlg dialog(QString(), message, Information, 0, &screen, nullptr, true, 0);
+        dialog.show();
+        return dialog.grab().toImage();
+    };
+    QVERIFY2(look(words) == look(mark + words + mark), "the question mark stands at the sentence's beginning");
 }
 
 void DialogTest::it_comes_only_when_it_is_shown()
