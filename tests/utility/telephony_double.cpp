@@ -1,5 +1,5 @@
 // A telephony library of another make, under the same name: every time is 42:42:42, there is one data call of
-// 42 seconds, and nothing else works.
+// 42 seconds, and nothing else works. It has every function: a library that lacks one is refused when it is loaded.
 #include "tapi.h"
 #include "util.h"
 
@@ -57,6 +57,70 @@ int TAPI_LOG_ResetAnsweredCallsTime()
     return notAvailable;
 }
 int TAPI_LOG_ResetAll()
+{
+    return notAvailable;
+}
+int TAPI_CS_GetRemainCredit(char *)
+{
+    return notAvailable;
+}
+int TAPI_CS_GetLastCallCost(char *)
+{
+    return notAvailable;
+}
+int TAPI_LOG_GetDepositExpirationDate(TAPI_Date *)
+{
+    return notAvailable;
+}
+int TAPI_LOG_GetLastDeposit(char *)
+{
+    return notAvailable;
+}
+int TAPI_LOG_GetDialedCallsCost(char *)
+{
+    return notAvailable;
+}
+int TAPI_LOG_GetAnsweredCallsCost(char *)
+{
+    return notAvailable;
+}
+int TAPI_LOG_GetAllCallsCost(char *)
+{
+    return notAvailable;
+}
+int TAPI_LOG_ResetAllCallsCost()
+{
+    return notAvailable;
+}
+int TAPI_LOG_ResetDialedCallsCost()
+{
+    return notAvailable;
+}
+int TAPI_LOG_ResetAnsweredCallsCost()
+{
+    return notAvailable;
+}
+int TAPI_GPRS_GetAllSessionInfo(TAPI_GPRS_SessionInfo *)
+{
+    return notAvailable;
+}
+int TAPI_GPRS_GetTotalDuration(TAPI_CallTime *)
+{
+    return notAvailable;
+}
+int TAPI_GPRS_GetTotalDataBytes(uint32_t *, uint32_t *, uint32_t *)
+{
+    return notAvailable;
+}
+int TAPI_GPRS_ResetTotalDuration()
+{
+    return notAvailable;
+}
+int TAPI_GPRS_ResetTotalDataBytes()
+{
+    return notAvailable;
+}
+int TAPI_SECURITY_GetAnyPinStatus(uint8_t, uint32_t *)
 {
     return notAvailable;
 }
