@@ -8,6 +8,8 @@
 #include <cerrno>
 #include <utility>
 
+#include <sqlite3.h>
+
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -74,10 +76,22 @@ CheckBeside::CheckBeside(Database &database, QString path, std::function<void(co
 CheckBeside::~CheckBeside()
 {
     isOver = true;
+    {
+        // Checking the structure of the file, SQLite asks nobody whether that is enough.
+        const std::lock_guard locked(readingLock);
+        if (reading)
+            sqlite3_interrupt(reading);
+    }
     reader.join();
 }
 
-CheckedLog CheckBeside::read() const
+void CheckBeside::setReading(sqlite3 *connection)
+{
+    const std::lock_guard locked(readingLock);
+    reading = connection;
+}
+
+CheckedLog CheckBeside::read()
 {
     PlainConnection connection(file);
     if (!connection.isOpen())
@@ -85,9 +99,13 @@ CheckedLog CheckBeside::read() const
     connection.run("PRAGMA trusted_schema = OFF");
     connection.run("PRAGMA cell_size_check = ON");
     const Interruption interruption(connection.handle(), [this] { return isOver.load(); });
-    CheckedLog checked = readThrough(connection.handle());
+    setReading(connection.handle());
+    CheckedLog checked = isOver ? CheckedLog{} : readThrough(connection.handle());
     // A read that went wrong once may look like damage.
-    return checked.finding.verdict == Verdict::Damaged ? readThrough(connection.handle()) : checked;
+    if (checked.finding.verdict == Verdict::Damaged)
+        checked = readThrough(connection.handle());
+    setReading(nullptr);
+    return checked;
 }
 
 void CheckBeside::finish(const CheckedLog &checked)

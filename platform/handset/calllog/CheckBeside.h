@@ -7,6 +7,7 @@
 
 #include <atomic>
 #include <functional>
+#include <mutex>
 #include <thread>
 
 namespace handset::calllog {
@@ -25,7 +26,8 @@ public:
     CheckBeside &operator=(const CheckBeside &) = delete;
 
 private:
-    CheckedLog read() const;
+    CheckedLog read();
+    void setReading(sqlite3 *connection);
     void finish(const CheckedLog &checked);
 
     Database &log;
@@ -33,6 +35,8 @@ private:
     std::function<void(const QString &)> listener;
     QObject here; ///< in the thread that made this
     std::atomic<bool> isOver = false;
+    std::mutex readingLock;
+    sqlite3 *reading = nullptr; ///< the reader's connection as long as it may be interrupted
     std::thread reader;
 };
 
