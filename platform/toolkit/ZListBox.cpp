@@ -30,6 +30,7 @@ struct ZListBox::Private {
     ZSkinService::WidgetClsID skinClass;
     ZListModel *model = nullptr;
     const QAbstractItemDelegate *stockDelegate = nullptr; // which every view comes with
+    const QScrollBar *stockScrollBar = nullptr;
     std::unordered_map<const ZListItem *, Record> items;
     quint64 lastSerial = 0;
     QPersistentModelIndex pressed;
@@ -69,11 +70,11 @@ ZListBox::ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinServi
     d->skinClass = skinClass;
     d->model = new ZListModel(this);
     d->stockDelegate = itemDelegate();
+    d->stockScrollBar = verticalScrollBar();
     if (flags != 0)
         setWindowFlags(Qt::WindowFlags::fromInt(flags));
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBar(new ZScrollBar(this));
     setVerticalScrollMode(ScrollPerPixel);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
@@ -205,6 +206,16 @@ QAbstractItemDelegate *ZListBox::itemDelegateForIndex(const QModelIndex &index) 
 {
     static ZRowDelegate rows;
     return itemDelegate() == d->stockDelegate ? &rows : QListView::itemDelegateForIndex(index);
+}
+
+// Most lists never have more rows than they show, and making a scroll bar takes as long as painting some of them.
+void ZListBox::updateGeometries()
+{
+    if (contentsSize().height() > viewport()->height() && verticalScrollBar() == d->stockScrollBar) {
+        setVerticalScrollBar(new ZScrollBar(this));
+        d->stockScrollBar = nullptr; // is gone
+    }
+    QListView::updateGeometries();
 }
 
 void ZListBox::adopt(ZListItem *item)
