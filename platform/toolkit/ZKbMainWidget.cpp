@@ -193,7 +193,8 @@ void ZKbMainWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.fillRect(rect(), ZSkinService::color(ZSkinService::ScreenColor));
     const QRect bar(0, 0, width(), ZSkinService::TitleBarHeight);
-    painter.fillRect(bar, ZSkinService::color(ZSkinService::TitleBarColor));
+    const QColor barColor = ZSkinService::color(ZSkinService::TitleBarColor);
+    painter.fillRect(bar, barColor);
     painter.fillRect(bar.adjusted(0, bar.height() - ZSkinService::AccentHeight, 0, 0),
                      ZSkinService::color(ZSkinService::AccentColor));
     if (!d->bar)
@@ -201,8 +202,8 @@ void ZKbMainWidget::paintEvent(QPaintEvent *)
     painter.setPen(ZSkinService::color(ZSkinService::TitleTextColor));
     const QRect text =
         bar.adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, -ZSkinService::AccentHeight);
-    ZText::draw(painter, ZSkinService::font(ZSkinService::TitleFont), text,
-                QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->title);
+    ZText::drawOn(painter, barColor, ZSkinService::font(ZSkinService::TitleFont), text,
+                  QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading), d->title);
 }
 
 void ZKbMainWidget::resizeEvent(QResizeEvent *event)

@@ -2,16 +2,14 @@
 
 #include "ZKept.h"
 #include "ZListBox.h"
+#include "ZPicture.h"
 #include "ZSkinService.h"
 #include "ZText.h"
 
-#include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
-#include <climits>
-#include <cmath>
 
 namespace {
 
@@ -28,13 +26,14 @@ struct RowLook {
     Qt::TextElideMode titleElision; // the view's
     QSize size;
     qreal pixelRatio; // of the device
+    int leftFree = 0; // of the title's room, at its trailing edge, for a value that is not part of the look
 
     friend bool operator==(const RowLook &a, const RowLook &b)
     {
         return a.title == b.title && a.value == b.value && a.icon.cacheKey() == b.icon.cacheKey() &&
                a.isSeparator == b.isSeparator && a.isEnabled == b.isEnabled && a.isMarked == b.isMarked &&
                a.underBar == b.underBar && a.direction == b.direction && a.titleElision == b.titleElision &&
-               a.size == b.size && qFuzzyCompare(a.pixelRatio, b.pixelRatio);
+               a.size == b.size && qFuzzyCompare(a.pixelRatio, b.pixelRatio) && a.leftFree == b.leftFree;
     }
     friend size_t qHash(const RowLook &look, size_t seed = 0)
     {
@@ -76,6 +75,28 @@ public:
             paintItem();
     }
 
+    // Onto the rest of the row.
+    void paintValue()
+    {
+        font = itemFont();
+        const int width = valueWidth();
+        painter.setPen(textColor(ZSkinService::RowValueColor));
+        paintText(look.value, QRect(room.right() - width + 1, room.top(), width, room.height()), Qt::AlignRight);
+    }
+
+    // The row without its value.
+    RowLook rest()
+    {
+        font = itemFont();
+        const int left = valueWidth() + ZSkinService::RowGap;
+        RowLook rest = look;
+        rest.value.clear();
+        // Where the title is whole anyway, one picture does for values of any width.
+        if (!look.icon.isNull() || ZText::width(painter, font, look.title) > room.width() - left)
+            rest.leftFree = left;
+        return rest;
+    }
+
 private:
     void paintHeading()
     {
@@ -93,23 +114,24 @@ private:
         if (!look.underBar)
             painter.fillRect(row.left(), row.bottom(), row.width(), 1,
                              ZSkinService::color(ZSkinService::DividerColor));
-        font = ZSkinService::font(look.isMarked ? ZSkinService::EmphasisFont : ZSkinService::RowFont);
-        paintValue();
+        font = itemFont();
+        const QRect wholeRoom = room;
+        room.setRight(room.right() - (look.value.isEmpty() ? look.leftFree : valueWidth() + ZSkinService::RowGap));
         paintIcon();
         painter.setPen(textColor(ZSkinService::RowTextColor));
         paintText(look.title, room, Qt::AlignLeft, look.titleElision);
+        room = wholeRoom;
+        if (!look.value.isEmpty())
+            paintValue();
     }
 
-    // Takes the value's room from the trailing edge: the title gets what the value leaves.
-    void paintValue()
+    QFont itemFont() const
     {
-        if (look.value.isEmpty())
-            return;
-        const int width = std::min(ZText::width(painter, font, look.value) + 1, room.width());
-        painter.setPen(textColor(ZSkinService::RowValueColor));
-        paintText(look.value, QRect(room.right() - width + 1, room.top(), width, room.height()), Qt::AlignRight);
-        room.setRight(room.right() - width - ZSkinService::RowGap);
+        return ZSkinService::font(look.isMarked ? ZSkinService::EmphasisFont : ZSkinService::RowFont);
     }
+
+    // The value is whole: the title gets what it leaves.
+    int valueWidth() const { return std::min(ZText::width(painter, font, look.value) + 1, room.width()); }
 
     // Takes the icon's room from the leading edge.
     void paintIcon()
@@ -151,45 +173,52 @@ private:
 };
 
 constexpr qsizetype mostPictureBytes = 1024 * 1024; // some 45 rows of the phone's display
+constexpr qsizetype bytesOfALook = 512;             // without a picture
 
-// Whether a picture of a row is the same as the row: on a screen of its own resolution, not on paper, not scaled.
-bool showsPictures(const QPainter &painter, const RowLook &look)
+// By look. Null for a look that was painted once.
+ZKept<RowLook, QPixmap> &pictures()
 {
-    return painter.paintEngine()->type() == QPaintEngine::Raster &&
-           painter.worldTransform().type() <= QTransform::TxTranslate && !look.size.isEmpty() &&
-           look.pixelRatio == std::floor(look.pixelRatio);
-}
-
-QPixmap *newPicture(const RowLook &look)
-{
-    auto *picture = new QPixmap(look.size * look.pixelRatio);
-    picture->setDevicePixelRatio(look.pixelRatio);
-    QPainter painter(picture);
-    RowPainter(painter, look, QPoint(0, 0)).paint();
-    return picture;
+    static ZKept<RowLook, QPixmap> kept(mostPictureBytes);
+    return kept;
 }
 
 // Stays until the next one is asked for.
-const QPixmap &pictureOf(const RowLook &look)
+const QPixmap &pictureOf(const QPainter &painter, const RowLook &look)
 {
-    static ZKept<RowLook, QPixmap> pictures(mostPictureBytes);
-    if (const QPixmap *kept = pictures.find(look))
+    const QPixmap *kept = pictures().find(look);
+    if (kept && !kept->isNull())
         return *kept;
-    QPixmap *picture = newPicture(look);
-    const qsizetype bytes = qsizetype(picture->width()) * picture->height() * picture->depth() / CHAR_BIT;
-    return pictures.keep(look, picture, bytes);
+    QPixmap *picture = ZPicture::make(
+        painter, look.size, [&look](QPainter &inside) { RowPainter(inside, look, QPoint(0, 0)).paint(); });
+    return pictures().keep(look, picture, ZPicture::bytes(*picture));
+}
+
+// Whether the row has looked like that before.
+bool isKnown(const RowLook &look)
+{
+    if (pictures().find(look))
+        return true;
+    pictures().keep(look, new QPixmap, bytesOfALook);
+    return false;
 }
 
 } // namespace
 
-// The same rows come up with every screen and every refill, and showing a picture costs a fraction of the writing.
+// The same titles come up with every screen and every refill, and showing a picture costs a fraction of the writing. A
+// value may never come up again: it is written on the picture of the rest, and becomes part of one the second time.
 void ZRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
     const RowLook look = lookOf(*painter, option, index);
-    if (showsPictures(*painter, look))
-        painter->drawPixmap(option.rect.topLeft(), pictureOf(look));
-    else
-        RowPainter(*painter, look, option.rect.topLeft()).paint();
+    const QPoint topLeft = option.rect.topLeft();
+    RowPainter row(*painter, look, topLeft);
+    if (!ZPicture::standsFor(*painter, look.size)) {
+        row.paint();
+    } else if (look.isSeparator || look.value.isEmpty() || isKnown(look)) {
+        painter->drawPixmap(topLeft, pictureOf(*painter, look));
+    } else {
+        painter->drawPixmap(topLeft, pictureOf(*painter, row.rest()));
+        row.paintValue();
+    }
 }
 
 QSize ZRowDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const

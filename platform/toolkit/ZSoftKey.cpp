@@ -61,14 +61,18 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        QPainter painter(this);
         const QString text = caption();
-        if (isDown() && !text.isEmpty())
-            painter.fillRect(rect(), ZSkinService::color(ZSkinService::SoftkeyPressedColor));
+        if (text.isEmpty())
+            return;
+        QPainter painter(this);
+        const QColor background =
+            ZSkinService::color(isDown() ? ZSkinService::SoftkeyPressedColor : ZSkinService::SoftkeyBarColor);
+        if (isDown())
+            painter.fillRect(rect(), background);
         painter.setPen(ZSkinService::color(isEnabled() ? ZSkinService::SoftkeyTextColor
                                                        : ZSkinService::SoftkeyDisabledTextColor));
         const QRect inner = rect().adjusted(ZSkinService::RowMargin, 0, -ZSkinService::RowMargin, 0);
-        ZText::draw(painter, ZSkinService::font(ZSkinService::SoftkeyFont), inner, alignment, text);
+        ZText::drawOn(painter, background, ZSkinService::font(ZSkinService::SoftkeyFont), inner, alignment, text);
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "ZText.h"
 
 #include "ZKept.h"
+#include "ZPicture.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>
@@ -127,6 +128,46 @@ KeptLine &lineOf(const QString &text, const QFont &font, QPaintDevice *device)
     return lines.keep(key, new KeptLine(ZText::oneLine(text), font, device), text.size() + charactersOfALine);
 }
 
+// Everything that a caption's look depends on.
+struct CaptionLook {
+    QString text;
+    QFont font;
+    QColor color;
+    QColor background;
+    Qt::Alignment side;
+    QSize size;
+    qreal pixelRatio; // of the device
+
+    friend bool operator==(const CaptionLook &a, const CaptionLook &b)
+    {
+        return a.text == b.text && a.font == b.font && a.color == b.color && a.background == b.background &&
+               a.side == b.side && a.size == b.size && qFuzzyCompare(a.pixelRatio, b.pixelRatio);
+    }
+    friend size_t qHash(const CaptionLook &look, size_t seed = 0) { return qHash(look.text, seed); }
+};
+
+constexpr qsizetype mostCaptionBytes = 512 * 1024; // some 20 titles on the phone's display
+
+QPixmap *newPicture(const QPainter &painter, const CaptionLook &look)
+{
+    return ZPicture::make(painter, look.size, [&look](QPainter &inside) {
+        const QRect all(QPoint(0, 0), look.size);
+        inside.fillRect(all, look.background);
+        inside.setPen(look.color);
+        ZText::draw(inside, look.font, all, look.side, look.text);
+    });
+}
+
+// Stays until the next one is asked for.
+const QPixmap &pictureOf(const QPainter &painter, const CaptionLook &look)
+{
+    static ZKept<CaptionLook, QPixmap> pictures(mostCaptionBytes);
+    if (const QPixmap *kept = pictures.find(look))
+        return *kept;
+    QPixmap *picture = newPicture(painter, look);
+    return pictures.keep(look, picture, ZPicture::bytes(*picture));
+}
+
 QString shortened(const QString &text)
 {
     if (text.size() <= longestLine)
@@ -161,6 +202,20 @@ void ZText::draw(QPainter &painter, const QFont &font, const QRect &place, Qt::A
     KeptLine &kept = lineOf(text, font, painter.device());
     if (const LaidOutLine *line = kept.fitting(place.width(), where))
         line->draw(painter, place, side);
+}
+
+void ZText::drawOn(QPainter &painter, const QColor &background, const QFont &font, const QRect &place,
+                   Qt::Alignment side, const QString &text)
+{
+    if (text.isEmpty() || place.width() <= 0)
+        return;
+    const QColor color = painter.pen().color();
+    const CaptionLook look{
+        text, font, color, background, side, place.size(), painter.device()->devicePixelRatio()};
+    if (ZPicture::standsFor(painter, look.size))
+        painter.drawPixmap(place.topLeft(), pictureOf(painter, look));
+    else
+        draw(painter, font, place, side, text);
 }
 
 QString ZText::paragraph(const QString &text)

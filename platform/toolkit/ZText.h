@@ -3,6 +3,7 @@
 
 #include <QtCore/QString>
 
+class QColor;
 class QFont;
 class QPainter;
 class QRect;
@@ -23,6 +24,10 @@ int width(const QPainter &painter, const QFont &font, const QString &text);
 /// Lines that were drawn or measured lately are kept laid out: the same captions and titles come up again and again.
 void draw(QPainter &painter, const QFont &font, const QRect &place, Qt::Alignment side, const QString &text,
           Qt::TextElideMode where = Qt::ElideRight);
+
+/// The same in a `place` that is filled with `background`. Kept as a picture: for texts that come up again and again.
+void drawOn(QPainter &painter, const QColor &background, const QFont &font, const QRect &place, Qt::Alignment side,
+            const QString &text);
 
 /// `text` for a wrapped paragraph: line breaks stay (as line separators), other control characters become blanks.
 QString paragraph(const QString &text);

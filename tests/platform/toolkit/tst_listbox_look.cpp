@@ -51,6 +51,9 @@ private slots:
     void a_photograph_of_a_list_filled_just_now_has_its_rows();
     void a_row_is_as_sharp_as_the_display_it_is_painted_on();
     void a_title_that_was_cut_is_whole_again_where_it_fits();
+    void a_row_looks_the_same_however_often_it_is_painted_data();
+    void a_row_looks_the_same_however_often_it_is_painted();
+    void a_title_is_cut_for_the_value_that_it_has_now();
     void two_rows_alike_but_for_one_thing_do_not_look_alike_data();
     void two_rows_alike_but_for_one_thing_do_not_look_alike();
     void the_scroll_bar_is_there_only_when_needed();
@@ -317,6 +320,45 @@ void ListBoxLookTest::a_title_that_was_cut_is_whole_again_where_it_fits()
     screen.list->resize(screen.getContentWidget(false)->size());
     settle();
     QCOMPARE(lookOfRow(screen.list, 1), whole);
+}
+
+void ListBoxLookTest::a_row_looks_the_same_however_often_it_is_painted_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::newRow("a title that is whole") << QStringLiteral("Often") << Qt::LeftToRight;
+    QTest::newRow("a title that is cut") << endless << Qt::LeftToRight;
+    QTest::newRow("a mirrored title that is whole") << QStringLiteral("Often") << Qt::RightToLeft;
+    QTest::newRow("a mirrored title that is cut") << endless << Qt::RightToLeft;
+}
+
+void ListBoxLookTest::a_row_looks_the_same_however_often_it_is_painted()
+{
+    QFETCH(QString, title);
+    QFETCH(Qt::LayoutDirection, direction);
+    TestScreen screen;
+    screen.setLayoutDirection(direction);
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(title, QStringLiteral("00:04:%1").arg(direction)); // as no other row
+    showSettled(screen);
+    const QImage first = lookOfRow(screen.list, 1);
+    for (int times = 0; times < 3; ++times)
+        QCOMPARE(lookOfRow(screen.list, 1), first);
+}
+
+void ListBoxLookTest::a_title_is_cut_for_the_value_that_it_has_now()
+{
+    TestScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    ZSettingItem *item = screen.addRow(endless, QStringLiteral("1"));
+    const QImage roomy = lookOfRow(screen.list, 1);
+    item->setSubItem(0, 1, QStringLiteral("1042:09:58"), false, ZSettingItem::ValueRegion);
+    const int start = 240 - ZSkinService::RowMargin - widthOf(QStringLiteral("1042:09:58")) - 1;
+    const QRect gap(start - ZSkinService::RowGap + 1, 0, ZSkinService::RowGap - 1, ZSkinService::RowHeight);
+    QVERIFY2(lastInk(lookOfRow(screen.list, 1).copy(gap), color(ZSkinService::ScreenColor)) < 0,
+             "the title runs into the value");
+    item->setSubItem(0, 1, QStringLiteral("1"), false, ZSettingItem::ValueRegion);
+    QCOMPARE(lookOfRow(screen.list, 1), roomy);
 }
 
 void ListBoxLookTest::two_rows_alike_but_for_one_thing_do_not_look_alike_data()
