@@ -1,4 +1,4 @@
-# What every target of the project has in common, and the one way to make a shared library or a test.
+# What every target of the project has in common, and the one way to make a shared library.
 
 add_library(kav_options INTERFACE)
 target_compile_features(kav_options INTERFACE cxx_std_20)
@@ -10,13 +10,18 @@ target_compile_definitions(kav_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WAR
 target_compile_options(kav_options INTERFACE -fsemantic-interposition)
 if(KAV_SANITIZE)
     target_compile_options(kav_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
     target_link_options(kav_options INTERFACE -fsanitize=address,undefined)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         # With the sanitizers on, GCC 12 warns about code of its own library and of Qt's headers that is sound.
         target_compile_options(kav_options INTERFACE -Wno-maybe-uninitialized -Wno-stringop-overflow)
     endif()
 endif()
+
+# The tests' own code waits longer for the compiler than it ever runs.
+add_library(kav_test_options INTERFACE)
+target_link_libraries(kav_test_options INTERFACE kav_options)
+target_compile_options(kav_test_options INTERFACE -O0)
 
 # Programs are loaded wherever the system puts them.
 include(CheckPIESupported)
@@ -48,6 +53,36 @@ function(kav_harden target)
         set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
     endif()
 endfunction()
+
+# kav_precompile(TARGET Core|Widgets|Test)
+# The headers of Qt and the standard library that nearly every file of the target reads are compiled once for all
+# targets of a kind. A file still includes whatever it uses: clang-tidy reads the product without these, and so does
+# every compiler with CMAKE_DISABLE_PRECOMPILE_HEADERS.
+# Core: product code that links Qt6::Core, and no widgets. Widgets: product code that links Qt6::Widgets.
+# Test: what links kav_test_options, Qt6::Widgets and Qt6::Test.
+function(kav_precompile target kind)
+    target_precompile_headers(${target} REUSE_FROM kav_precompiled_${kind})
+endfunction()
+
+function(kav_add_precompiled kind)
+    cmake_parse_arguments(ARG "" "" "LIBS;HEADERS" ${ARGN})
+    set(carrier kav_precompiled_${kind})
+    file(WRITE ${PROJECT_BINARY_DIR}/${carrier}.cpp "// Carries the precompiled headers of the kind ${kind}.\n")
+    add_library(${carrier} OBJECT ${PROJECT_BINARY_DIR}/${carrier}.cpp)
+    set_target_properties(${carrier} PROPERTIES AUTOMOC OFF POSITION_INDEPENDENT_CODE ON)
+    target_link_libraries(${carrier} PRIVATE ${ARG_LIBS})
+    target_precompile_headers(${carrier} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+set(core_headers
+    <QtCore/QByteArray> <QtCore/QCoreApplication> <QtCore/QDateTime> <QtCore/QFile> <QtCore/QList> <QtCore/QObject>
+    <QtCore/QString> <QtCore/QStringList> <QtCore/QTimer> <algorithm> <functional> <memory> <optional>)
+set(widgets_headers
+    ${core_headers} <QtGui/QPainter> <QtWidgets/QApplication> <QtWidgets/QWidget>)
+kav_add_precompiled(Core LIBS kav_options Qt6::Core HEADERS ${core_headers})
+kav_harden(kav_precompiled_Core)
+kav_add_precompiled(Widgets LIBS kav_options Qt6::Widgets HEADERS ${widgets_headers})
+kav_harden(kav_precompiled_Widgets)
 
 # kav_shared_library(TARGET [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
 # A shared object under its own name and soname.

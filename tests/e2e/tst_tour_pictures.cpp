@@ -1,5 +1,6 @@
 // Every photograph that the shipped tour names, held against the one that was looked at and kept.
 #include "Picture.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
@@ -89,5 +90,5 @@ void TourPicturesTest::aScreenLooksAsItWasKept()
                          .arg(kept)));
 }
 
-QTEST_GUILESS_MAIN(TourPicturesTest)
+KAV_TEST_GROUP(TourPicturesTest, QCoreApplication);
 #include "tst_tour_pictures.moc"

@@ -1,5 +1,6 @@
 // What an optimised build carries against errors that are still in it, read from the files that were built.
 #include "ElfFile.h"
+#include "TestGroup.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QObject>
@@ -134,5 +135,5 @@ void TestHardening::containersCheckTheirBounds()
     QVERIFY(reports);
 }
 
-QTEST_APPLESS_MAIN(TestHardening)
+KAV_TEST_GROUP(TestHardening, NoApplication);
 #include "tst_hardening.moc"

@@ -1,6 +1,7 @@
 // Catalogues that a disk, a transfer or somebody has damaged.
 #include "Catalogue.h"
 #include "HostProcess.h"
+#include "TestGroup.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
@@ -236,5 +237,5 @@ void CatalogueTest::theProgramRefusesACatalogueOfGigabytes()
     QVERIFY2(result.errors.contains(QStringLiteral("it is larger than 64 MiB")), qPrintable(result.errors));
 }
 
-QTEST_GUILESS_MAIN(CatalogueTest)
+KAV_TEST_GROUP(CatalogueTest, QCoreApplication);
 #include "tst_catalogue.moc"

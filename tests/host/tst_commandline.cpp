@@ -2,6 +2,7 @@
 
 #include "Handset.h"
 #include "HostProcess.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -348,7 +349,7 @@ void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid_data()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("there is none") << "/nowhere/texts.qm";
-    QTest::newRow("it is no catalogue") << QFINDTESTDATA("host.ts");
+    QTest::newRow("it is no catalogue") << KAV_CATALOGUE_SOURCE;
     QTest::newRow("it is a directory") << QDir::tempPath();
 }
 
@@ -429,5 +430,5 @@ void CommandLineTest::aPhotographThatCannotBeWrittenIsSaid()
     QVERIFY2(result.errors.contains("missing/window.png"), qPrintable(result.errors));
 }
 
-QTEST_GUILESS_MAIN(CommandLineTest)
+KAV_TEST_GROUP(CommandLineTest, QCoreApplication);
 #include "tst_commandline.moc"

@@ -2,6 +2,7 @@
 
 #include "ScreenHost.h"
 #include "ScreenLibrary.h"
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "doubles/RecordingPlugin.h"
 #include "phone/Display.h"
@@ -158,5 +159,5 @@ void ContractTest::theNextScreenOpensWhenOneHasClosed()
     QCOMPARE(calls->count("deleted while emitting"), 0);
 }
 
-QTEST_MAIN(ContractTest)
+KAV_TEST_GROUP(ContractTest, QApplication);
 #include "tst_contract.moc"

@@ -1,5 +1,6 @@
 // How the program ends when it is asked to from outside, and when nobody reads what it prints.
 #include "HostProcess.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -217,5 +218,5 @@ void EndsTest::aScriptOfGigabytesIsRefused()
     QVERIFY2(result.errors.contains("it is larger than 4 MiB"), qPrintable(result.errors));
 }
 
-QTEST_GUILESS_MAIN(EndsTest)
+KAV_TEST_GROUP(EndsTest, QCoreApplication);
 #include "tst_ends.moc"

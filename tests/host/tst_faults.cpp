@@ -4,6 +4,7 @@
 #include "PHONE_ENG_Setup.h"
 #include "PHONE_MsgClient.h"
 #include "ScriptedHandset.h"
+#include "TestGroup.h"
 #include "faults/FaultyHandset.h"
 #include "tapi.h"
 #include "util.h"
@@ -420,5 +421,5 @@ void FaultsTest::aRoleThatTheTelephoneLacksStaysAway()
     QCOMPARE(TAPI_LOG_ResetAll(), int{handset::NotAvailable});
 }
 
-QTEST_GUILESS_MAIN(FaultsTest)
+KAV_TEST_GROUP(FaultsTest, QCoreApplication);
 #include "tst_faults.moc"

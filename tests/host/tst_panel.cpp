@@ -12,6 +12,7 @@
 #include "SimSecurity.h"
 #include "SimulatedTelephone.h"
 #include "Status.h"
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
@@ -1351,5 +1352,5 @@ void PanelTest::anotherTelephoneThanTheSimulatedHasNothingToSet()
     QCOMPARE(label("charge notice"), "");
 }
 
-QTEST_MAIN(PanelTest)
+KAV_TEST_GROUP(PanelTest, QApplication);
 #include "tst_panel.moc"

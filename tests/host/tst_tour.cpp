@@ -1,6 +1,7 @@
 // The tour: what it prints, photographs, expects, and how it fails.
 
 #include "HostProcess.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -581,5 +582,5 @@ void TourTest::aDialogThatBlocksGivesUpBeforeItsScreenGoes()
     QCOMPARE(calls, once + once + once);
 }
 
-QTEST_GUILESS_MAIN(TourTest)
+KAV_TEST_GROUP(TourTest, QCoreApplication);
 #include "tst_tour.moc"

@@ -1,5 +1,6 @@
 // What a line of a script means.
 
+#include "TestGroup.h"
 #include "faults/Operations.h"
 #include "tour/TourScript.h"
 
@@ -349,5 +350,5 @@ void TourScriptTest::mistakes()
     QCOMPARE(script.steps.size(), 2);
 }
 
-QTEST_GUILESS_MAIN(TourScriptTest)
+KAV_TEST_GROUP(TourScriptTest, QCoreApplication);
 #include "tst_tourscript.moc"

@@ -9,6 +9,7 @@
 #include "PhoneWindow.h"
 #include "SimulatedTelephone.h"
 #include "Status.h"
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZKbMainWidget.h"
 #include "ZListBox.h"
@@ -783,5 +784,5 @@ void WindowTest::theKeypadLooksTheSameRightToLeft()
     QCOMPARE(window->findChild<Keypad *>()->grab().toImage(), direct);
 }
 
-QTEST_MAIN(WindowTest)
+KAV_TEST_GROUP(WindowTest, QApplication);
 #include "tst_window.moc"

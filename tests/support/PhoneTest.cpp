@@ -28,15 +28,3 @@ QString differenceOf(const QStringList &actual, const QStringList &expected)
     return QStringLiteral("different from line %1 on\n  actual:").arg(equal + 1) + indent + actual.join(indent) +
            QStringLiteral("\n  expected:") + indent + expected.join(indent);
 }
-
-void PhoneTestMain::prepareEnvironment()
-{
-    static constexpr const char *surroundings[][2] = {
-        {"QT_QPA_PLATFORM", "offscreen"}, {"QT_FONT_DPI", "96"}, {"QT_SCALE_FACTOR", "1"},
-        {"QT_STYLE_OVERRIDE", "fusion"},  {"LC_ALL", "C.UTF-8"}, {"LANGUAGE", "C"},
-    };
-    for (const auto &[name, value] : surroundings) {
-        if (!qEnvironmentVariableIsSet(name))
-            qputenv(name, value);
-    }
-}

@@ -1,8 +1,9 @@
-// What every test of the phone starts from, and main().
+// What every test of the phone starts from.
 #pragma once
 
 #include "Journal.h"
 #include "ScriptedHandset.h"
+#include "TestGroup.h"
 #include "TraceCapture.h"
 
 #include <QtCore/QObject>
@@ -41,25 +42,3 @@ QString differenceOf(const QStringList &actual, const QStringList &expected);
             QFAIL("the lines differ, see above");                                                                 \
         }                                                                                                         \
     } while (false)
-
-namespace PhoneTestMain {
-
-/// Sets what the test runner sets too, so that a program started by hand has the same surroundings.
-void prepareEnvironment();
-
-template <typename Test>
-int run(int argc, char *argv[])
-{
-    prepareEnvironment();
-    QApplication application(argc, argv);
-    Test test;
-    return QTest::qExec(&test, argc, argv);
-}
-
-} // namespace PhoneTestMain
-
-#define KAV_TEST_MAIN(TEST)                                                                                       \
-    int main(int argc, char *argv[])                                                                              \
-    {                                                                                                             \
-        return PhoneTestMain::run<TEST>(argc, argv);                                                              \
-    }

@@ -8,8 +8,11 @@ struct Expose {
     friend constexpr auto exposed(Tag) { return Member; }
 };
 
+// The tag belongs to its file: another file of the program may give the same name to another member.
 #define KAV_EXPOSE(TAG, ...)                                                                                      \
+    namespace {                                                                                                   \
     struct TAG {                                                                                                  \
-        friend constexpr auto exposed(TAG);                                                                       \
     };                                                                                                            \
+    }                                                                                                             \
+    constexpr auto exposed(TAG);                                                                                  \
     template struct Expose<TAG, __VA_ARGS__>

@@ -183,5 +183,5 @@ void TestFixtures::allocationsOfOthersNeverFail()
     QVERIFY(!AllocationFailure::happened());
 }
 
-KAV_TEST_MAIN(TestFixtures)
+KAV_TEST_GROUP(TestFixtures, QApplication);
 #include "tst_fixtures.moc"

@@ -10,6 +10,7 @@
 #include "PhoneScreen.h"
 #include "PhoneTest.h"
 #include "PluginLibrary.h"
+#include "Surroundings.h"
 
 #include <cstdio>
 
@@ -56,7 +57,7 @@ int printScreen(QLibrary &plugin)
 
 int main(int argc, char *argv[])
 {
-    PhoneTestMain::prepareEnvironment();
+    Surroundings::prepare();
     const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const QString mode = arguments.value(1);

@@ -479,5 +479,5 @@ void TestAllocationFailures::noFailureOnAnyOtherScreenIsACrash()
     QCOMPARE(nth, allocations + 1);
 }
 
-KAV_TEST_MAIN(TestAllocationFailures)
+KAV_TEST_GROUP(TestAllocationFailures, QApplication);
 #include "tst_allocation_failures.moc"

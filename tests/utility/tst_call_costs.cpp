@@ -672,5 +672,5 @@ void TestCallCosts::destroyingNothingDoesNothing()
     QCOMPARE(traces->take(), QString());
 }
 
-KAV_TEST_MAIN(TestCallCosts)
+KAV_TEST_GROUP(TestCallCosts, QApplication);
 #include "tst_call_costs.moc"

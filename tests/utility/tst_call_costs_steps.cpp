@@ -243,5 +243,5 @@ void TestCallCostsSteps::afterTheSetupItGoesFirstThenTheRowsAreRewrittenThenTheF
     COMPARE_LINES(stepsButFocus(), QStringList("delete setup") + rewritingSteps());
 }
 
-KAV_TEST_MAIN(TestCallCostsSteps)
+KAV_TEST_GROUP(TestCallCostsSteps, QApplication);
 #include "tst_call_costs_steps.moc"

@@ -216,5 +216,5 @@ void TestCallCostsWalk::everyKeyDoesWhatThePersonExpects()
     QVERIFY(setups > 50);
 }
 
-KAV_TEST_MAIN(TestCallCostsWalk)
+KAV_TEST_GROUP(TestCallCostsWalk, QApplication);
 #include "tst_call_costs_walk.moc"

@@ -832,5 +832,5 @@ void TestCallTimes::twoScreensDoNotDisturbEachOther()
     COMPARE_LINES(PhoneScreen::rows(other.get()), expectedRows(scriptedValues()));
 }
 
-KAV_TEST_MAIN(TestCallTimes)
+KAV_TEST_GROUP(TestCallTimes, QApplication);
 #include "tst_call_times.moc"

@@ -223,5 +223,5 @@ void TestCostEntryPoints::everyResetCallsItsOwnFunctionOnce()
     QCOMPARE(journal.lines(), QStringList(function));
 }
 
-KAV_TEST_MAIN(TestCostEntryPoints)
+KAV_TEST_GROUP(TestCostEntryPoints, QApplication);
 #include "tst_cost_entry_points.moc"

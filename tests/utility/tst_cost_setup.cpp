@@ -1756,5 +1756,5 @@ void TestCostSetup::everyNoticeHasATimerOfItsOwn()
     QVERIFY(ScreenClock::pending().isEmpty());
 }
 
-KAV_TEST_MAIN(TestCostSetup)
+KAV_TEST_GROUP(TestCostSetup, QApplication);
 #include "tst_cost_setup.moc"

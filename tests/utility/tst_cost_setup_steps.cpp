@@ -547,5 +547,5 @@ void TestCostSetupSteps::whatCannotBeMadeIsNotShown()
     QVERIFY(dialog()->isVisible());
 }
 
-KAV_TEST_MAIN(TestCostSetupSteps)
+KAV_TEST_GROUP(TestCostSetupSteps, QApplication);
 #include "tst_cost_setup_steps.moc"

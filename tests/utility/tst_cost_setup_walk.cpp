@@ -825,5 +825,5 @@ void TestCostSetupWalk::theWalksMetEverythingWorthMentioning()
         QVERIFY2(counts.value(QString::fromLatin1(what)) > 0, what);
 }
 
-KAV_TEST_MAIN(TestCostSetupWalk)
+KAV_TEST_GROUP(TestCostSetupWalk, QApplication);
 #include "tst_cost_setup_walk.moc"

@@ -150,5 +150,5 @@ void TestCostsOverSimulated::aResetZeroesItsOwnCostAlone()
     QCOMPARE(meter.getExpirationDate(), QString("2027:3:9"));
 }
 
-KAV_TEST_MAIN(TestCostsOverSimulated)
+KAV_TEST_GROUP(TestCostsOverSimulated, QApplication);
 #include "tst_costs_over_simulated.moc"

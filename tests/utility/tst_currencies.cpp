@@ -451,5 +451,5 @@ void TestCurrencies::theUnitTracesItsTranslationOnly()
              translated.isNull() ? QString() : longTrace(source, "TranslateCurrency", message.arg(translated)));
 }
 
-KAV_TEST_MAIN(TestCurrencies)
+KAV_TEST_GROUP(TestCurrencies, QApplication);
 #include "tst_currencies.moc"

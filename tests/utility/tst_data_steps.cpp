@@ -396,5 +396,5 @@ void TestDataSteps::destroyingDataVolumesClosesItFirst()
     COMPARE_LINES(journal.lines(), QStringList({"screen.close(false)", "delete screen"}));
 }
 
-KAV_TEST_MAIN(TestDataSteps)
+KAV_TEST_GROUP(TestDataSteps, QApplication);
 #include "tst_data_steps.moc"

@@ -257,5 +257,5 @@ void TestDataTexts::theNoticeTakesItsTimeAndNameInAnyOrder()
     }
 }
 
-KAV_TEST_MAIN(TestDataTexts)
+KAV_TEST_GROUP(TestDataTexts, QApplication);
 #include "tst_data_texts.moc"

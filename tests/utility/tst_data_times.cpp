@@ -486,5 +486,5 @@ void TestDataTimes::destroyingNothingDoesNothing()
     QCOMPARE(traces->take(), QString());
 }
 
-KAV_TEST_MAIN(TestDataTimes)
+KAV_TEST_GROUP(TestDataTimes, QApplication);
 #include "tst_data_times.moc"

@@ -925,5 +925,5 @@ void TestDataVolumes::figuresAreFoundByTheirEnglishWord()
     QCOMPARE((detail()->*exposed(DetailDlg()))->message(), QString::fromUtf8("Envoyé: 10 B"));
 }
 
-KAV_TEST_MAIN(TestDataVolumes)
+KAV_TEST_GROUP(TestDataVolumes, QApplication);
 #include "tst_data_volumes.moc"

@@ -355,5 +355,5 @@ void TestFrameSteps::theScreenTakesMeterNoticeAndClientWithIt()
     QCOMPARE(deleted, QStringList({"delete dialog 2", "delete dialog 3", "delete msgClient"}));
 }
 
-KAV_TEST_MAIN(TestFrameSteps)
+KAV_TEST_GROUP(TestFrameSteps, QApplication);
 #include "tst_frame_steps.moc"

@@ -231,5 +231,5 @@ void TestFullBuffers::whatAFailedQueryWroteIsNotShown()
     QCOMPARE(meter.getADV_Sessions_Total(), QString("0 B"));
 }
 
-KAV_TEST_MAIN(TestFullBuffers)
+KAV_TEST_GROUP(TestFullBuffers, QApplication);
 #include "tst_full_buffers.moc"

@@ -338,5 +338,5 @@ void TestIncludes::aViolationIsFound()
     QVERIFY2(!found.filter(violation).isEmpty(), qPrintable("found only: " + found.join('\n')));
 }
 
-KAV_TEST_MAIN(TestIncludes)
+KAV_TEST_GROUP(TestIncludes, QApplication);
 #include "tst_includes.moc"

@@ -221,5 +221,5 @@ void TestKeyWalk::everyKeyDoesWhatThePersonExpects()
     QVERIFY(person.left > 0);
 }
 
-KAV_TEST_MAIN(TestKeyWalk)
+KAV_TEST_GROUP(TestKeyWalk, QApplication);
 #include "tst_key_walk.moc"

@@ -479,5 +479,5 @@ void TestLibrary::anotherTelephonyLibraryTakesThePlaceOfOurs()
                      "Data Calls|00:00:42", "All Calls|42:42:42", "Lifetime Calls|42:42:42", "softkeys: |Back"}));
 }
 
-KAV_TEST_MAIN(TestLibrary)
+KAV_TEST_GROUP(TestLibrary, QApplication);
 #include "tst_library.moc"

@@ -409,5 +409,5 @@ void TestMeterCallTimes::textsArePaddedInPlace()
     QCOMPARE(changed, padded);
 }
 
-KAV_TEST_MAIN(TestMeterCallTimes)
+KAV_TEST_GROUP(TestMeterCallTimes, QApplication);
 #include "tst_meter_call_times.moc"

@@ -230,5 +230,5 @@ void TestMeterCosts::withoutATelephoneEveryFigureIsItsFallback()
     QCOMPARE(meter.getExpirationDate(), QString("2000/00/00"));
 }
 
-KAV_TEST_MAIN(TestMeterCosts)
+KAV_TEST_GROUP(TestMeterCosts, QApplication);
 #include "tst_meter_costs.moc"

@@ -587,5 +587,5 @@ void TestMeterData::twoMetersKeepTheirTextsApart()
     QCOMPARE(other.getRDT_Session1(), zero);
 }
 
-KAV_TEST_MAIN(TestMeterData)
+KAV_TEST_GROUP(TestMeterData, QApplication);
 #include "tst_meter_data.moc"

@@ -62,5 +62,5 @@ void TestMeterEveryTime::everyTimeReadsAsAPersonExpects()
     QCOMPARE(compared, (timeCount + stride - 1) / stride);
 }
 
-KAV_TEST_MAIN(TestMeterEveryTime)
+KAV_TEST_GROUP(TestMeterEveryTime, QApplication);
 #include "tst_meter_every_time.moc"

@@ -304,5 +304,5 @@ void TestScreenFrame::aHostMayDestroyTheScreenAfterTheSignal()
     QTRY_VERIFY(!alive);
 }
 
-KAV_TEST_MAIN(TestScreenFrame)
+KAV_TEST_GROUP(TestScreenFrame, QApplication);
 #include "tst_screen_frame.moc"

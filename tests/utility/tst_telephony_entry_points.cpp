@@ -246,5 +246,5 @@ void TestTelephonyEntryPoints::aStatusThatIsNeverWrittenDoesNothing()
     QVERIFY(PhoneScreen::shownDialogs().isEmpty());
 }
 
-KAV_TEST_MAIN(TestTelephonyEntryPoints)
+KAV_TEST_GROUP(TestTelephonyEntryPoints, QApplication);
 #include "tst_telephony_entry_points.moc"

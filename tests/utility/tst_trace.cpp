@@ -108,5 +108,5 @@ void TestTrace::withAStreamNothingGoesToStandardOutput()
     QVERIFY2(!output.contains("PHONE_UI_RecentCallMeter"), qPrintable(output));
 }
 
-KAV_TEST_MAIN(TestTrace)
+KAV_TEST_GROUP(TestTrace, QApplication);
 #include "tst_trace.moc"

@@ -209,5 +209,5 @@ void TestTranslations::theRefusalHasNoHeaderToTranslate()
     QCOMPARE(PhoneScreen::shownDialog()->message(), QString("translated"));
 }
 
-KAV_TEST_MAIN(TestTranslations)
+KAV_TEST_GROUP(TestTranslations, QApplication);
 #include "tst_translations.moc"

@@ -225,5 +225,5 @@ void TestEngine::callForwardingIsReportedOn()
     QVERIFY(journal.lines().isEmpty());
 }
 
-KAV_TEST_MAIN(TestEngine)
+KAV_TEST_GROUP(TestEngine, QApplication);
 #include "tst_engine.moc"

@@ -5,6 +5,7 @@
 #include "QCopChannel.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
@@ -274,5 +275,5 @@ void TestBroadcast::anotherProcessIsToldUpToTheEndOfTheApplication()
     QCOMPARE(LogFile(state.database()).sessions(), QStringList{QStringLiteral("1 x 9000 9 18 ") + finished});
 }
 
-QTEST_GUILESS_MAIN(TestBroadcast)
+KAV_TEST_GROUP(TestBroadcast, QCoreApplication);
 #include "tst_broadcast.moc"

@@ -7,6 +7,7 @@
 #include "OpenCallStore.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -518,5 +519,5 @@ void TestCallLog::whatIsMissingWhenItIsWrittenIsAFailure()
     QCOMPARE(other.value(QStringLiteral("SELECT units FROM costs WHERE counter = 'dialed'")), QVariant(8));
 }
 
-QTEST_GUILESS_MAIN(TestCallLog)
+KAV_TEST_GROUP(TestCallLog, QCoreApplication);
 #include "tst_calllog.moc"

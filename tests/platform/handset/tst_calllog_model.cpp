@@ -4,6 +4,7 @@
 #include "DataCalls.h"
 #include "HandsetTestKit.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <algorithm>
 #include <array>
@@ -317,5 +318,5 @@ void TestCallLogModel::allSixFiguresAgreeAfterEveryOperation()
     }
 }
 
-QTEST_GUILESS_MAIN(TestCallLogModel)
+KAV_TEST_GROUP(TestCallLogModel, QCoreApplication);
 #include "tst_calllog_model.moc"

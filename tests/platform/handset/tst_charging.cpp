@@ -6,6 +6,7 @@
 #include "DataCalls.h"
 #include "HandsetTestKit.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -1165,5 +1166,5 @@ void TestCharging::everyChangeIsSignalledOnce()
     QVERIFY(signalledAfter(phone->checkpoint())); // ends the call
 }
 
-QTEST_GUILESS_MAIN(TestCharging)
+KAV_TEST_GROUP(TestCharging, QCoreApplication);
 #include "tst_charging.moc"

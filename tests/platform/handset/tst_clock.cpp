@@ -1,5 +1,6 @@
 // The machine's clocks and the one that stands still.
 #include "HandsetTestKit.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDateTime>
 
@@ -84,5 +85,5 @@ void TestClock::settingTheWallClockLeavesTheMonotonicOneAlone()
     QCOMPARE(clock.wallMs(), qint64{-7});
 }
 
-QTEST_GUILESS_MAIN(TestClock)
+KAV_TEST_GROUP(TestClock, QCoreApplication);
 #include "tst_clock.moc"

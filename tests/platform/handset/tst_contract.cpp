@@ -6,6 +6,7 @@
 #include "HandsetTestKit.h"
 #include "PacketData.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <functional>
 
@@ -450,5 +451,5 @@ void TestContract::sessionsAndTheirTotalsSurviveARestart()
     QCOMPARE(sessions().first(), QStringLiteral("3 third 0 0 0"));
 }
 
-QTEST_GUILESS_MAIN(TestContract)
+KAV_TEST_GROUP(TestContract, QCoreApplication);
 #include "tst_contract.moc"

@@ -6,6 +6,7 @@
 #include "HandsetTestKit.h"
 #include "SimSecurity.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <functional>
 
@@ -861,5 +862,5 @@ void TestContractCharging::triesSurviveARestartAndWhatWasEnteredDoesNot()
     QCOMPARE(pin2Tries(), 3);
 }
 
-QTEST_GUILESS_MAIN(TestContractCharging)
+KAV_TEST_GROUP(TestContractCharging, QCoreApplication);
 #include "tst_contract_charging.moc"

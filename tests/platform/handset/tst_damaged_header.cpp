@@ -4,6 +4,7 @@
 #include "PacketData.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 
@@ -214,5 +215,5 @@ void TestDamagedHeader::aNewerLogStaysOne()
     QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db"))), newer);
 }
 
-QTEST_GUILESS_MAIN(TestDamagedHeader)
+KAV_TEST_GROUP(TestDamagedHeader, QCoreApplication);
 #include "tst_damaged_header.moc"

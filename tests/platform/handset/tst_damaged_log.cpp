@@ -8,6 +8,7 @@
 #include "PlainSqlite.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QHash>
@@ -811,5 +812,5 @@ void TestDamagedLog::aSalvagedLogIsNoLargerThanTheOneBefore()
              qPrintable(QStringLiteral("%1 bytes after %2").arg(salvaged).arg(content.size())));
 }
 
-QTEST_GUILESS_MAIN(TestDamagedLog)
+KAV_TEST_GROUP(TestDamagedLog, QCoreApplication);
 #include "tst_damaged_log.moc"

@@ -3,6 +3,7 @@
 #include "PacketData.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 
@@ -345,5 +346,5 @@ void TestDamagedSessions::aBigLogIsReadAsFarAsTheSlotsDependOnIt()
     QCOMPARE(phone.sessionTotals().section(QLatin1Char(' '), 0, 0), QString::number(newest - 999));
 }
 
-QTEST_GUILESS_MAIN(TestDamagedSessions)
+KAV_TEST_GROUP(TestDamagedSessions, QCoreApplication);
 #include "tst_damaged_sessions.moc"

@@ -3,6 +3,7 @@
 #include "HandsetTestKit.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
@@ -141,5 +142,5 @@ void TestFactory::theInstalledTelephoneIsClosedWithTheApplication()
     QCOMPARE(calls[0].durationMs, qint64{9000});
 }
 
-QTEST_GUILESS_MAIN(TestFactory)
+KAV_TEST_GROUP(TestFactory, QCoreApplication);
 #include "tst_factory.moc"

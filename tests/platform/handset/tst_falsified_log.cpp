@@ -5,6 +5,7 @@
 #include "PacketData.h"
 #include "SimSecurity.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 
@@ -261,5 +262,5 @@ void TestFalsifiedLog::moreEntriesThanALogCanHaveCostNoCall()
     QCOMPARE(phone.figures(), (SixFigures{20, 81, 5, 9, 95, 95}));
 }
 
-QTEST_GUILESS_MAIN(TestFalsifiedLog)
+KAV_TEST_GROUP(TestFalsifiedLog, QCoreApplication);
 #include "tst_falsified_log.moc"

@@ -7,6 +7,7 @@
 #include "PacketData.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -456,5 +457,5 @@ void TestFullDisk::aCrashWhileAnEndIsOwedLosesWhatFollowedTheLastCheckpoint()
     QCOMPARE(statesIn(copy + QStringLiteral("/calllog.db"), CallState::Interrupted), 1);
 }
 
-QTEST_GUILESS_MAIN(TestFullDisk)
+KAV_TEST_GROUP(TestFullDisk, QCoreApplication);
 #include "tst_full_disk.moc"

@@ -2,6 +2,7 @@
 // finished may be lost, and of a running session no more than what followed its last checkpoint.
 #include "HandsetTestKit.h"
 #include "Schema.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QElapsedTimer>
@@ -234,5 +235,5 @@ void TestKill::killAgainAndAgain(const char *mode, int kills, Check check)
     QVERIFY(finished > kills); // or the processes were killed before they did anything
 }
 
-QTEST_GUILESS_MAIN(TestKill)
+KAV_TEST_GROUP(TestKill, QCoreApplication);
 #include "tst_kill.moc"

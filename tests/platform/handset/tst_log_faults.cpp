@@ -3,6 +3,7 @@
 #include "Faults.h"
 #include "HandsetTestKit.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -373,5 +374,5 @@ void TestLogFaults::aTelephoneThatEndsStopsTheReadingOfTheFile()
     QVERIFY2(fewest < pages / 2, qPrintable(QStringLiteral("%1 of %2 pages").arg(fewest).arg(pages)));
 }
 
-QTEST_GUILESS_MAIN(TestLogFaults)
+KAV_TEST_GROUP(TestLogFaults, QCoreApplication);
 #include "tst_log_faults.moc"

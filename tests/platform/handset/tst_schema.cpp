@@ -3,6 +3,7 @@
 #include "HandsetTestKit.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 
@@ -224,5 +225,5 @@ void TestSchema::rowsThatMakeNoSenseAreRefusedByTheTables()
     QVERIFY(!database.run(QStringLiteral("UPDATE totals SET ms = -1")));
 }
 
-QTEST_GUILESS_MAIN(TestSchema)
+KAV_TEST_GROUP(TestSchema, QCoreApplication);
 #include "tst_schema.moc"

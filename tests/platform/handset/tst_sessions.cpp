@@ -4,6 +4,7 @@
 #include "PacketData.h"
 #include "Schema.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -586,5 +587,5 @@ void TestSessions::whatIsMissingWhenItIsWrittenIsAFailure()
     QCOMPARE(phone.sessionTotals(), QStringLiteral("57 57 57 114"));
 }
 
-QTEST_GUILESS_MAIN(TestSessions)
+KAV_TEST_GROUP(TestSessions, QCoreApplication);
 #include "tst_sessions.moc"

@@ -3,6 +3,7 @@
 #include "HandsetTestKit.h"
 #include "SimSecurity.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -517,5 +518,5 @@ void TestSimAccess::noFileHasAPinInClear()
         QVERIFY2(!all.contains(digits), digits.data());
 }
 
-QTEST_GUILESS_MAIN(TestSimAccess)
+KAV_TEST_GROUP(TestSimAccess, QCoreApplication);
 #include "tst_sim_access.moc"

@@ -5,6 +5,7 @@
 #include "HandsetTestKit.h"
 #include "ReadyMadeHistory.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
@@ -403,5 +404,5 @@ void TestSimulatedTelephone::theCheckpointComesByItselfWithinTenSeconds()
     QVERIFY(!timer->isActive());
 }
 
-QTEST_GUILESS_MAIN(TestSimulatedTelephone)
+KAV_TEST_GROUP(TestSimulatedTelephone, QCoreApplication);
 #include "tst_simulated.moc"

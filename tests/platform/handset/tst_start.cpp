@@ -3,6 +3,7 @@
 #include "HandsetTestKit.h"
 #include "SimSecurity.h"
 #include "Status.h"
+#include "TestGroup.h"
 
 #include <dlfcn.h>
 
@@ -82,5 +83,5 @@ void TestStart::aNewCardsCodesAreMadeOnce()
     QCOMPARE(derivedHashes, 2);
 }
 
-QTEST_GUILESS_MAIN(TestStart)
+KAV_TEST_GROUP(TestStart, QCoreApplication);
 #include "tst_start.moc"

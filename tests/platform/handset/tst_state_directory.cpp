@@ -1,5 +1,6 @@
 // Directories that cannot be used, and directories that somebody else uses.
 #include "HandsetTestKit.h"
+#include "TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
@@ -374,5 +375,5 @@ void TestStateDirectory::removingTheLockFileLetsNoSecondTelephoneIn()
     QVERIFY(Phone(state.path()));
 }
 
-QTEST_GUILESS_MAIN(TestStateDirectory)
+KAV_TEST_GROUP(TestStateDirectory, QCoreApplication);
 #include "tst_state_directory.moc"

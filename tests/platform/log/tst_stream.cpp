@@ -1,4 +1,5 @@
 // The trace stream: where it goes, and that a place which cannot be had changes nothing.
+#include "TestGroup.h"
 #include "aplog.h"
 
 #include <QtTest/QtTest>
@@ -387,5 +388,5 @@ void StreamTest::what_a_full_disk_did_not_take_is_lost_and_the_rest_is_not()
     QCOMPARE(contentsOf(path("trace")), QByteArray("first\ncu\nwhole\n"));
 }
 
-QTEST_GUILESS_MAIN(StreamTest)
+KAV_TEST_GROUP(StreamTest, QCoreApplication);
 #include "tst_stream.moc"

@@ -3,6 +3,7 @@
 #include "FakeBus.h"
 #include "Peer.h"
 #include "PrivateBus.h"
+#include "TestGroup.h"
 
 #include <QtTest/QtTest>
 
@@ -258,5 +259,5 @@ void TestBusComesAndGoes::aProcessEndsWellAfterItsBus()
     QCOMPARE(peer.errors(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(TestBusComesAndGoes)
+KAV_TEST_GROUP(TestBusComesAndGoes, QCoreApplication);
 #include "tst_bus_comes_and_goes.moc"

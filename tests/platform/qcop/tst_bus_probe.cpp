@@ -2,6 +2,7 @@
 #include "BusProbe.h"
 #include "FakeBus.h"
 #include "PrivateBus.h"
+#include "TestGroup.h"
 #include "UnixSocket.h"
 
 #include <QtCore/QFile>
@@ -421,5 +422,5 @@ void TestBusProbe::aCrowdedBusIsGivenUp()
     QVERIFY(!answers(bus.address(), shortly));
 }
 
-QTEST_APPLESS_MAIN(TestBusProbe)
+KAV_TEST_GROUP(TestBusProbe, NoApplication);
 #include "tst_bus_probe.moc"

@@ -1,6 +1,7 @@
 // kavqcop, as a shell calls it.
 #include "Peer.h"
 #include "PrivateBus.h"
+#include "TestGroup.h"
 
 #include <QtTest/QtTest>
 
@@ -409,5 +410,5 @@ void TestCommand::theVersionIsOneLine()
     QVERIFY2(version.startsWith("kavqcop 1.") && version.indexOf('\n') == version.size() - 1, version.constData());
 }
 
-QTEST_GUILESS_MAIN(TestCommand)
+KAV_TEST_GROUP(TestCommand, QCoreApplication);
 #include "tst_command.moc"

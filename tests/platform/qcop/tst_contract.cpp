@@ -1,6 +1,7 @@
 // What a channel promises within one process, the same with a session bus and without one.
 #include "QCopChannel.h"
 #include "QCopRig.h"
+#include "TestGroup.h"
 #include "qcop/QCopBus.h"
 
 #include <QtCore/QEventLoop>
@@ -440,5 +441,5 @@ void TestContract::tenThousandMessagesLeaveNoMemoryBehind()
     QVERIFY2(growth < limit, qPrintable(QStringLiteral("%1 bytes more").arg(growth)));
 }
 
-QTEST_GUILESS_MAIN(TestContract)
+KAV_TEST_GROUP(TestContract, QCoreApplication);
 #include "tst_contract.moc"

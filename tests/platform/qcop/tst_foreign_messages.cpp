@@ -2,6 +2,7 @@
 #include "LineLimit.h"
 #include "Peer.h"
 #include "PrivateBus.h"
+#include "TestGroup.h"
 
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
@@ -203,5 +204,5 @@ void TestForeignMessages::signalsOfOtherInterfacesLeaveNoTrace()
     QCOMPARE(peer->errors(), QByteArray());
 }
 
-QTEST_GUILESS_MAIN(TestForeignMessages)
+KAV_TEST_GROUP(TestForeignMessages, QCoreApplication);
 #include "tst_foreign_messages.moc"

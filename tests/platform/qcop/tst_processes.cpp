@@ -1,6 +1,7 @@
 // Messages between processes on one session bus.
 #include "Peer.h"
 #include "PrivateBus.h"
+#include "TestGroup.h"
 
 #include <QtTest/QtTest>
 
@@ -246,5 +247,5 @@ void TestProcesses::messagesSentRightBeforeTheEndOfAProcessStillArrive()
     QCOMPARE(lines, burstLines(1, "", burst));
 }
 
-QTEST_GUILESS_MAIN(TestProcesses)
+KAV_TEST_GROUP(TestProcesses, QCoreApplication);
 #include "tst_processes.moc"

@@ -1,5 +1,6 @@
 // A library with channels goes out of use before the application ends, as with a plug-in that is unloaded.
 #include "PrivateBus.h"
+#include "TestGroup.h"
 
 #include <QtCore/QLibrary>
 #include <QtTest/QtTest>
@@ -30,5 +31,5 @@ void TestUnload::theApplicationEndsWellAfterItsChannelsLibraryWasUnloaded()
     QVERIFY(library.unload());
 }
 
-QTEST_GUILESS_MAIN(TestUnload)
+KAV_TEST_GROUP(TestUnload, QCoreApplication);
 #include "tst_unload.moc"

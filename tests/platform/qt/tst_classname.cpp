@@ -1,4 +1,5 @@
 // className(), which the embedded edition has and the installed Qt lacks.
+#include "TestGroup.h"
 #include "classname.h"
 
 #include <QtTest/QtTest>
@@ -57,5 +58,5 @@ void ClassNameTest::a_class_without_the_macro_has_its_bases_name()
     QCOMPARE(QByteArray(silent.metaObject()->className()).split(':').last(), QByteArray("Silent"));
 }
 
-QTEST_GUILESS_MAIN(ClassNameTest)
+KAV_TEST_GROUP(ClassNameTest, QCoreApplication);
 #include "tst_classname.moc"

@@ -1,4 +1,5 @@
 // Texts by resource key, with an English default.
+#include "TestGroup.h"
 #include "translation.h"
 
 #include <QtTest/QtTest>
@@ -167,5 +168,5 @@ void TranslationTest::a_catalogue_file_is_honoured()
     QCOMPARE(translated(context.constData(), key.constData(), english.constData()), text);
 }
 
-QTEST_GUILESS_MAIN(TranslationTest)
+KAV_TEST_GROUP(TranslationTest, QCoreApplication);
 #include "tst_translation.moc"

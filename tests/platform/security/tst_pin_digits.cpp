@@ -1,4 +1,5 @@
 #include "PinDigits.h"
+#include "TestGroup.h"
 
 #include <QtTest/QtTest>
 
@@ -105,6 +106,6 @@ void PinDigitsTest::theViewIsNoCopy()
     QCOMPARE(digits.view().constData(), digits.view().constData());
 }
 
-QTEST_APPLESS_MAIN(PinDigitsTest)
+KAV_TEST_GROUP(PinDigitsTest, NoApplication);
 
 #include "tst_pin_digits.moc"

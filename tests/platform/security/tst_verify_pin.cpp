@@ -4,6 +4,7 @@
 #include "PinEntryDlg.h"
 #include "SETUP_SECURITY_Util.h"
 #include "SimSecurity.h"
+#include "TestGroup.h"
 #include "ZApplication.h"
 
 #include <QtCore/QElapsedTimer>
@@ -650,6 +651,6 @@ void VerifyPinTest::theEntryCanBeOpenedByAKeyPress()
     QCOMPARE(answers, QList<bool>({true, false}));
 }
 
-QTEST_MAIN(VerifyPinTest)
+KAV_TEST_GROUP(VerifyPinTest, QApplication);
 
 #include "tst_verify_pin.moc"

@@ -2,6 +2,7 @@
 #include "AmountText.h"
 #include "ChargeUnits.h"
 #include "LongHand.h"
+#include "TestGroup.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QRandomGenerator>
@@ -281,5 +282,5 @@ void AmountTextTest::a_limit_is_divided_as_on_paper()
     }
 }
 
-QTEST_APPLESS_MAIN(AmountTextTest)
+KAV_TEST_GROUP(AmountTextTest, NoApplication);
 #include "AmountTextTest.moc"

@@ -1,6 +1,7 @@
 // Decimal numbers as text.
 #include "DecimalText.h"
 #include "LongHand.h"
+#include "TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
@@ -197,5 +198,5 @@ void DecimalTextTest::every_number_is_read_back_as_it_was_written()
     }
 }
 
-QTEST_APPLESS_MAIN(DecimalTextTest)
+KAV_TEST_GROUP(DecimalTextTest, NoApplication);
 #include "DecimalTextTest.moc"

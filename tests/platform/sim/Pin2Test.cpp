@@ -1,5 +1,6 @@
 // PIN2: tries, PUK, and what is kept of the digits.
 #include "Pin2.h"
+#include "TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
@@ -383,5 +384,5 @@ void Pin2Test::the_same_digits_are_never_kept_alike()
     QVERIFY(!one.matches(""));
 }
 
-QTEST_APPLESS_MAIN(Pin2Test)
+KAV_TEST_GROUP(Pin2Test, NoApplication);
 #include "Pin2Test.moc"

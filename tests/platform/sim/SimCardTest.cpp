@@ -1,5 +1,6 @@
 // The files of the simulated SIM card and who may write them.
 #include "SimCard.h"
+#include "TestGroup.h"
 
 #include <QtTest/QTest>
 
@@ -388,5 +389,5 @@ void SimCardTest::a_copy_is_a_card_of_its_own()
     QVERIFY(!card.pin2().isVerified());
 }
 
-QTEST_APPLESS_MAIN(SimCardTest)
+KAV_TEST_GROUP(SimCardTest, NoApplication);
 #include "SimCardTest.moc"

@@ -1,5 +1,6 @@
 // The card as bytes: what survives, and what is made of bytes that are no card.
 #include "SimImage.h"
+#include "TestGroup.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QRandomGenerator>
@@ -331,5 +332,5 @@ void SimImageTest::bytes_that_are_no_card_leave_the_new_one_usable()
     QCOMPARE(card.updateAcmMax(5), int(Success));
 }
 
-QTEST_APPLESS_MAIN(SimImageTest)
+KAV_TEST_GROUP(SimImageTest, NoApplication);
 #include "SimImageTest.moc"

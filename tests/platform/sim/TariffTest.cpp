@@ -1,5 +1,6 @@
 // From time and data to units.
 #include "Tariff.h"
+#include "TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
@@ -340,5 +341,5 @@ void TariffTest::elements_beyond_the_networks_range_are_told()
     }
 }
 
-QTEST_APPLESS_MAIN(TariffTest)
+KAV_TEST_GROUP(TariffTest, NoApplication);
 #include "TariffTest.moc"

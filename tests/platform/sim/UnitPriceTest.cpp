@@ -1,6 +1,7 @@
 // The price per unit, and the file that holds it.
 #include "LongHand.h"
 #include "Puct.h"
+#include "TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>
@@ -421,5 +422,5 @@ void UnitPriceTest::foreign_bytes_in_the_code_are_read_as_something_that_can_be_
     QCOMPARE(decodePuct(puct).currency, code);
 }
 
-QTEST_APPLESS_MAIN(UnitPriceTest)
+KAV_TEST_GROUP(UnitPriceTest, NoApplication);
 #include "UnitPriceTest.moc"

@@ -109,5 +109,5 @@ void TestMessageClient::itSaysItsClass()
     QCOMPARE(QByteArray(client.metaObject()->className()), QByteArray("PHONE_MsgClient"));
 }
 
-KAV_TEST_MAIN(TestMessageClient)
+KAV_TEST_GROUP(TestMessageClient, QApplication);
 #include "tst_message_client.moc"

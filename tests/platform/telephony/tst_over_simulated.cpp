@@ -6,6 +6,7 @@
 #include "PHONE_MsgClient.h"
 #include "SimulatedTelephone.h"
 #include "Status.h"
+#include "TestGroup.h"
 #include "tapi.h"
 #include "util.h"
 
@@ -157,5 +158,5 @@ void TestOverSimulated::timesBeyondTheRecordStopAtItsEnd()
              (QStringList{most, most, QStringLiteral("0:0:0"), QStringLiteral("4294967295"), most, most}));
 }
 
-QTEST_GUILESS_MAIN(TestOverSimulated)
+KAV_TEST_GROUP(TestOverSimulated, QCoreApplication);
 #include "tst_over_simulated.moc"

@@ -176,5 +176,5 @@ void TestShims::aTelephoneThatIsReplacedDuringAQueryLivesUntilItHasAnswered()
     QVERIFY(watched.expired());
 }
 
-KAV_TEST_MAIN(TestShims)
+KAV_TEST_GROUP(TestShims, QApplication);
 #include "tst_shims.moc"

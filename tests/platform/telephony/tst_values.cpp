@@ -227,5 +227,5 @@ void TestValues::thePinIsPassedOn()
     }
 }
 
-KAV_TEST_MAIN(TestValues)
+KAV_TEST_GROUP(TestValues, QApplication);
 #include "tst_values.moc"

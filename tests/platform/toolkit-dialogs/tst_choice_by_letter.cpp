@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZSingleSelectDlg.h"
 
@@ -134,6 +135,6 @@ void ChoiceByLetterTest::lettersDoNotAnswer()
     QVERIFY(dialog->isVisible());
 }
 
-QTEST_MAIN(ChoiceByLetterTest)
+KAV_TEST_GROUP(ChoiceByLetterTest, QApplication);
 
 #include "tst_choice_by_letter.moc"

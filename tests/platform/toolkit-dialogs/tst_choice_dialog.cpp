@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZMultiLineEdit.h"
 #include "ZSingleCaptureDlg.h"
@@ -420,6 +421,6 @@ void ChoiceDialogTest::theScreenMayGoUnderAnOpenDialog()
     QVERIFY(!ZApplication::keyTarget());
 }
 
-QTEST_MAIN(ChoiceDialogTest)
+KAV_TEST_GROUP(ChoiceDialogTest, QApplication);
 
 #include "tst_choice_dialog.moc"

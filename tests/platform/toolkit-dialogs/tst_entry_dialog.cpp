@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZMultiLineEdit.h"
 #include "ZSingleCaptureDlg.h"
@@ -318,6 +319,6 @@ void EntryDialogTest::anUnknownTypeIsAWarning()
     QCOMPARE(dialog.getResultText(), QStringLiteral("12"));
 }
 
-QTEST_MAIN(EntryDialogTest)
+KAV_TEST_GROUP(EntryDialogTest, QApplication);
 
 #include "tst_entry_dialog.moc"

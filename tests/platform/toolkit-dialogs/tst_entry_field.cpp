@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZMultiLineEdit.h"
 
 #include <QtGui/QClipboard>
@@ -274,6 +275,6 @@ void EntryFieldTest::theFieldHasANameAndAClassName()
     QVERIFY(ZMultiLineEdit(nullptr).objectName().isEmpty());
 }
 
-QTEST_MAIN(EntryFieldTest)
+KAV_TEST_GROUP(EntryFieldTest, QApplication);
 
 #include "tst_entry_field.moc"

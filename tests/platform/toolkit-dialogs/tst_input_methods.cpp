@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZKeypadInput.h"
 #include "ZMultiLineEdit.h"
@@ -347,6 +348,6 @@ void InputMethodsTest::everyNumberKeyHasItsDigitLast()
     QVERIFY(ZMultiTap::charactersOf(Qt::Key_9 + 1).isEmpty());
 }
 
-QTEST_MAIN(InputMethodsTest)
+KAV_TEST_GROUP(InputMethodsTest, QApplication);
 
 #include "tst_input_methods.moc"

@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZLabel.h"
 
 #include <QtGui/QAccessible>
@@ -88,6 +89,6 @@ void LabelTest::aMirroredLabelBeginsAtTheRight()
     QVERIFY(firstInk(label.grab().toImage(), ZSkinService::color(ZSkinService::HeadingColor)) > 200);
 }
 
-QTEST_MAIN(LabelTest)
+KAV_TEST_GROUP(LabelTest, QApplication);
 
 #include "tst_label.moc"

@@ -1,5 +1,6 @@
 #include "DialogTestKit.h"
 
+#include "TestGroup.h"
 #include "ZApplication.h"
 #include "ZNoticeDlg.h"
 
@@ -152,6 +153,6 @@ void NoticeDialogTest::anUnknownTypeIsAWarning()
     QCOMPARE(dialog.objectName(), QStringLiteral("notice"));
 }
 
-QTEST_MAIN(NoticeDialogTest)
+KAV_TEST_GROUP(NoticeDialogTest, QApplication);
 
 #include "tst_notice_dialog.moc"

@@ -1,4 +1,5 @@
 // Dialogs over a screen: captions, answers, what they keep away from the screen, how they come and go.
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 #include "ZApplication.h"
 #include "ZSkinService.h"
@@ -822,5 +823,5 @@ void DialogTest::it_goes_with_its_screen()
     QVERIFY(!ZApplication::keyTarget());
 }
 
-QTEST_MAIN(DialogTest)
+KAV_TEST_GROUP(DialogTest, QApplication);
 #include "tst_dialog.moc"

@@ -1,4 +1,5 @@
 // Dialogs without a parent: windows of their own over the phone's display.
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 #include "ZApplication.h"
 
@@ -306,5 +307,5 @@ void DialogWindowTest::the_display_is_what_was_set_or_else_the_outermost_screen(
     QCOMPARE(ZApplication::display(), &screen);
 }
 
-QTEST_MAIN(DialogWindowTest)
+KAV_TEST_GROUP(DialogWindowTest, QApplication);
 #include "tst_dialog_window.moc"

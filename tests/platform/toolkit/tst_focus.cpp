@@ -1,4 +1,5 @@
 // Who gets the keys: screens over screens, and the keypad of a host.
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 #include "ZApplication.h"
 #include "ZKeys.h"
@@ -313,5 +314,5 @@ void FocusTest::random_coming_and_going_leaves_the_keys_with_the_one_on_top()
     }
 }
 
-QTEST_MAIN(FocusTest)
+KAV_TEST_GROUP(FocusTest, QApplication);
 #include "tst_focus.moc"

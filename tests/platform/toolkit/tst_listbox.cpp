@@ -1,4 +1,5 @@
 // The list: rows, ownership, the focus bar, keys and pointer, what is reported.
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 #include "ZListBoxItem.h"
 
@@ -869,5 +870,5 @@ void ListBoxTest::random_insertions_and_deletions_agree_with_a_plain_list()
     }
 }
 
-QTEST_MAIN(ListBoxTest)
+KAV_TEST_GROUP(ListBoxTest, QApplication);
 #include "tst_listbox.moc"

@@ -1,5 +1,6 @@
 // What the rows of a list look like.
 #include "FrameRecorder.h"
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 
 using namespace ToolkitTestKit;
@@ -493,5 +494,5 @@ void ListBoxLookTest::the_look_does_not_depend_on_the_application_around()
     QCOMPARE(screen.grab().toImage(), expected);
 }
 
-QTEST_MAIN(ListBoxLookTest)
+KAV_TEST_GROUP(ListBoxLookTest, QApplication);
 #include "tst_listbox_look.moc"

@@ -1,4 +1,5 @@
 // The frame of a screen: places, title, keys, showing and closing.
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 #include "ZKeys.h"
 
@@ -425,5 +426,5 @@ void ScreenTest::opening_and_destroying_ten_thousand_screens_leaves_no_widget_be
     QVERIFY(plain.children().isEmpty());
 }
 
-QTEST_MAIN(ScreenTest)
+KAV_TEST_GROUP(ScreenTest, QApplication);
 #include "tst_screen.moc"

@@ -1,4 +1,5 @@
 // The softkey bar.
+#include "TestGroup.h"
 #include "ToolkitTestKit.h"
 #include "ZKeys.h"
 
@@ -309,5 +310,5 @@ void SoftKeyTest::whoever_answers_may_delete_the_bars_owner()
     QVERIFY(!owner);
 }
 
-QTEST_MAIN(SoftKeyTest)
+KAV_TEST_GROUP(SoftKeyTest, QApplication);
 #include "tst_softkey.moc"

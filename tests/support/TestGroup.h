@@ -1,0 +1,36 @@
+// The tests of a folder are one program, and each of its files is a group of them, run in a process of its own.
+//
+// The program is told the group by its first argument, which is the file's name without "tst_" or "Test"; what
+// follows goes to Qt Test: `tst_utility call_costs -v2 aResetThatFailsIsTold`. Without arguments it lists its groups.
+#pragma once
+
+#include <QtTest/QTest>
+
+/// Says that the test class TEST is the group of this file, and under which application object it runs:
+/// QCoreApplication, QGuiApplication, QApplication, NoApplication, or a class of the test's own that is made from
+/// argc and argv and lives until the group has ended.
+#define KAV_TEST_GROUP(TEST, APPLICATION)                                                                         \
+    static const TestGroup::Registration testGroupOfThisFile(__FILE__, TestGroup::run<TEST, APPLICATION>)
+
+/// For tests of values and functions, which need none.
+struct NoApplication {
+    NoApplication(int &, char **) {}
+};
+
+namespace TestGroup {
+
+using Run = int (*)(int argc, char *argv[]);
+
+struct Registration {
+    Registration(const char *file, Run run);
+};
+
+template <typename Test, typename Application>
+int run(int argc, char *argv[])
+{
+    [[maybe_unused]] Application application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace TestGroup
