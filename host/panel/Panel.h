@@ -71,7 +71,7 @@ private:
     QVBoxLayout *pageColumn;
     QList<Page> pages;
     QList<PanelSection *> sections; ///< of the line and of the pages that are made
-    QTimer tick;                    ///< runs while a call or a session goes on without a change being told
+    QTimer tick{this};              ///< runs while a call or a session goes on without a change being told
 };
 
 } // namespace host
