@@ -103,7 +103,7 @@ protected:
             return;
         if (sides & QCopBus::Sending)
             outlet = QCopOutlet::connectToBus();
-        if (!(sides & QCopBus::Receiving))
+        if (!(sides & QCopBus::Receiving) || isInterruptionRequested())
             return;
         link = QDBusConnection::connectToBus(QDBusConnection::SessionBus, linkName);
         if (!link.isConnected())
@@ -146,7 +146,12 @@ QCopBus::~QCopBus()
 {
     if (attempt) {
         attempt->requestInterruption();
-        attempt->wait();
+        // libdbus waits without a limit for a bus that falls silent after it has answered the probe. A thread that only
+        // wants to send is left behind there; Qt's, where it waits for the one that receives, cannot be.
+        if (attempt->sides & Receiving)
+            attempt->wait();
+        else if (!attempt->wait(QDeadlineTimer(guiPatience)))
+            static_cast<void>(attempt.release());
     }
     if (unsynced)
         sync(answerPatience);

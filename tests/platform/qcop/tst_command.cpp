@@ -1,4 +1,5 @@
 // kavqcop, as a shell calls it.
+#include "BusRelay.h"
 #include "Peer.h"
 #include "PrivateBus.h"
 #include "TestGroup.h"
@@ -108,6 +109,7 @@ private slots:
     void aFileWithoutAnEndIsRefused();
     void whatAPipeDeliversInPiecesIsSentWhole();
     void aSilentNetworkAddressIsNoBus();
+    void aBusThatFallsSilentWhileItLetsASenderInIsNoBus();
     void aReaderThatGoesIsAnErrorAndNoDeath_data();
     void aReaderThatGoesIsAnErrorAndNoDeath();
     void wrongUsageIsRefusedWithItsReason_data();
@@ -303,6 +305,16 @@ void TestCommand::aSilentNetworkAddressIsNoBus()
     QCOMPARE(command.finish(), exitFailure);
     QVERIFY(command.errors().startsWith("kavqcop: there is no session bus"));
     ::close(door);
+}
+
+// The probe does not ask for descriptors, libdbus does.
+void TestCommand::aBusThatFallsSilentWhileItLetsASenderInIsNoBus()
+{
+    const BusRelay relay(bus.address(), "NEGOTIATE_UNIX_FD");
+    Command command(relay.address(), {"send", phone, "update"});
+    QCOMPARE(command.finish(), exitFailure);
+    QVERIFY(relay.isHolding());
+    QVERIFY2(command.errors().contains("there is no session bus"), command.errors().constData());
 }
 
 void TestCommand::aReaderThatGoesIsAnErrorAndNoDeath_data()
