@@ -1,5 +1,6 @@
 #include "Surroundings.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QtGlobal>
 
 void Surroundings::prepare()
