@@ -127,10 +127,10 @@ bool LeanLog::step(const Statement &statement)
     return done;
 }
 
-bool LeanLog::add(const Statement &statement, qint64 number, int rows)
+bool LeanLog::add(const Statement &statement, qint64 number, int rowCount)
 {
     sqlite3_bind_int64(statement.get(), 1, number);
-    return step(statement) && sqlite3_changes(database) == rows;
+    return step(statement) && sqlite3_changes(database) == rowCount;
 }
 
 bool LeanLog::begin(const handset::PastCall &call)

@@ -45,7 +45,7 @@ private:
     Statement prepare(const char *sql);
     bool step(const Statement &statement);
     /// False where that is not in so many rows.
-    bool add(const Statement &statement, qint64 number, int rows);
+    bool add(const Statement &statement, qint64 number, int rowCount);
     bool begin(const handset::PastCall &call);
     bool finish(const handset::PastCall &call);
     bool attach(const QString &telephoneLog);

@@ -3,9 +3,11 @@
 #include "PlainSqlite.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QMetaObject>
 
 #include <cerrno>
+#include <system_error>
 #include <utility>
 
 #include <sqlite3.h>
@@ -64,14 +66,18 @@ CheckBeside::CheckBeside(Database &database, QString path, std::function<void(co
     : log(database)
     , file(std::move(path))
     , listener(std::move(tell))
-    , reader([this] {
-        ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), nicer);
-        const CheckedLog checked = read();
-        if (!isOver)
-            QMetaObject::invokeMethod(
-                &here, [this, checked] { finish(checked); }, Qt::QueuedConnection);
-    })
-{}
+{
+    try {
+        reader = std::thread([this] {
+            ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), nicer);
+            const CheckedLog checked = read();
+            if (!isOver)
+                report(checked);
+        });
+    } catch (const std::system_error &error) {
+        report({{Verdict::Blocked, QString::fromLocal8Bit(error.what())}, {}});
+    }
+}
 
 CheckBeside::~CheckBeside()
 {
@@ -82,7 +88,14 @@ CheckBeside::~CheckBeside()
         if (reading)
             sqlite3_interrupt(reading);
     }
-    reader.join();
+    if (reader.joinable())
+        reader.join();
+}
+
+void CheckBeside::report(const CheckedLog &checked)
+{
+    QMetaObject::invokeMethod(
+        &here, [this, checked] { finish(checked); }, Qt::QueuedConnection);
 }
 
 void CheckBeside::setReading(sqlite3 *connection)
@@ -138,7 +151,7 @@ bool isMarkedDamaged(const QString &path)
 {
     const QString name = path + QLatin1String(markSuffix);
     QFile marked(name);
-    if (!marked.open(QIODevice::ReadOnly))
+    if (!QFileInfo(name).isFile() || !marked.open(QIODevice::ReadOnly)) // a pipe would be waited for
         return false;
     if (marked.read(64) == identity(path))
         return true;

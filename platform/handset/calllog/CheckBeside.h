@@ -27,6 +27,7 @@ public:
 
 private:
     CheckedLog read();
+    void report(const CheckedLog &checked);
     void setReading(sqlite3 *connection);
     void finish(const CheckedLog &checked);
 

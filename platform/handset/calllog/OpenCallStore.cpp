@@ -77,7 +77,7 @@ OpenedStore openInMemory()
     std::unique_ptr<StateDirectory> none;
     Attempt attempt = openDatabase(QStringLiteral(":memory:"), none, Care::Quick);
     if (!attempt.store)
-        return {nullptr, QStringLiteral("The call log cannot be opened: %1.").arg(attempt.finding.reason), {}};
+        return {nullptr, QStringLiteral("The call log cannot be opened: %1.").arg(explain(attempt.finding)), {}};
     return {std::move(attempt.store), {}, {}};
 }
 

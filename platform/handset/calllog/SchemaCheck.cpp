@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <optional>
 #include <vector>
 
 namespace handset::calllog {
@@ -40,17 +41,17 @@ int listEntries(sqlite3 *connection, Entries &entries)
     return list.error();
 }
 
-// As the migrations make them.
-Entries expectedEntries(qint64 version)
+// As the migrations make them; nothing where there is no memory for that.
+std::optional<Entries> expectedEntries(qint64 version)
 {
     PlainConnection fresh({});
     const auto steps = migrations().first(static_cast<std::size_t>(version));
     for (const Migration &step : steps)
         for (const char *statement : step)
-            fresh.run(statement);
+            if (!fresh.run(statement))
+                return std::nullopt;
     Entries entries;
-    listEntries(fresh.handle(), entries);
-    return entries;
+    return listEntries(fresh.handle(), entries) == SQLITE_OK ? std::optional(entries) : std::nullopt;
 }
 
 } // namespace
@@ -63,7 +64,10 @@ Finding checkSchema(Database &database, qint64 version)
     const int error = listEntries(database.handle(), found);
     if (error != SQLITE_OK && error != SQLITE_INTERRUPT)
         return failure(error, QString::fromUtf8(sqlite3_errmsg(database.handle())));
-    if (error == SQLITE_OK && found == expectedEntries(version))
+    const std::optional<Entries> expected = expectedEntries(version);
+    if (!expected)
+        return {Verdict::Blocked, QStringLiteral("there is nothing that its tables can be compared with")};
+    if (error == SQLITE_OK && found == *expected)
         return {};
     return {Verdict::Damaged, QStringLiteral("its tables are not those of a call log")};
 }

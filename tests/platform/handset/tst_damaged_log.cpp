@@ -133,6 +133,7 @@ private slots:
     void aReadingThatTakesNoTimeSaysNothing();
     void aMarkOfAnotherLogIsNoDamage_data();
     void aMarkOfAnotherLogIsNoDamage();
+    void aPipeInThePlaceOfTheMarkIsNotWaitedFor();
     void aTelephoneThatEndsDoesNotWaitForTheReading();
     void aSalvagedLogIsNoLargerThanTheOneBefore_data();
     void aSalvagedLogIsNoLargerThanTheOneBefore();
@@ -769,6 +770,16 @@ void TestDamagedLog::aMarkOfAnotherLogIsNoDamage()
     const Phone phone(state.path());
     QCOMPARE(phone.opened.notice, QString());
     QCOMPARE(state.names().filter(QStringLiteral("-damaged")), QStringList());
+}
+
+void TestDamagedLog::aPipeInThePlaceOfTheMarkIsNotWaitedFor()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(second));
+    QCOMPARE(::mkfifo(QFile::encodeName(state.file(QStringLiteral("calllog.db-damaged"))).constData(), 0600), 0);
+    const Phone phone(state.path());
+    QCOMPARE(phone.opened.notice, QString());
+    QCOMPARE(phone.opened.error, QString());
 }
 
 void TestDamagedLog::aTelephoneThatEndsDoesNotWaitForTheReading()
