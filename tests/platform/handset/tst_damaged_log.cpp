@@ -104,6 +104,7 @@ private slots:
     void aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd();
     void aPageOverwrittenCostsNoMoreThanItsCalls_data();
     void aPageOverwrittenCostsNoMoreThanItsCalls();
+    void bytesChangedAtRandomNeverCrash_data();
     void bytesChangedAtRandomNeverCrash();
 
     void whatIsNotACallLogIsKeptAndSaid_data();
@@ -273,16 +274,23 @@ void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls()
     QVERIFY2(complete >= sample.closed.size() / pageSize - 2, qPrintable(QString::number(complete)));
 }
 
+void TestDamagedLog::bytesChangedAtRandomNeverCrash_data()
+{
+    QTest::addColumn<quint32>("seed");
+    // KAV_SEED tries another. What is tried is the same in every run: a run that fails fails again.
+    const quint32 given = qEnvironmentVariable("KAV_SEED").toUInt();
+    for (const quint32 seed : given ? QList<quint32>{given} : QList<quint32>{1, 2, 3})
+        QTest::addRow("changes of seed %u", seed) << seed;
+}
+
 void TestDamagedLog::bytesChangedAtRandomNeverCrash()
 {
-    const quint32 given = qEnvironmentVariable("KAV_SEED").toUInt();
-    const quint32 seed = given ? given : std::random_device()();
-    qInfo("seed %u (KAV_SEED repeats it)", seed);
+    QFETCH(quint32, seed);
     std::mt19937 random(seed);
     const auto below = [&](qsizetype bound) {
         return std::uniform_int_distribution<qsizetype>(0, bound - 1)(random);
     };
-    for (int round = 0; round < 200; ++round) {
+    for (int round = 0; round < 70; ++round) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         const bool closed = round % 2 == 0;

@@ -212,7 +212,7 @@ void TestKill::checkSessions(const LogFile &file)
 void TestKill::killAgainAndAgain(const char *mode, int kills, Check check)
 {
     const quint32 given = qEnvironmentVariable("KAV_SEED").toUInt();
-    const quint32 seed = given ? given : std::random_device()();
+    const quint32 seed = given ? given : 1;
     qInfo("seed %u (KAV_SEED repeats it)", seed);
     random.seed(seed);
 
