@@ -18,7 +18,7 @@ QString readFile(const QString &file, qint64 limit, QByteArray &bytes)
     if (source.error() != QFileDevice::NoError)
         return source.errorString();
     if (bytes.size() > limit)
-        return QStringLiteral("it is larger than %1 MiB").arg(limit / (1024 * 1024));
+        return QStringLiteral("it is larger than %1 MiB").arg(limit / (qint64{1024} * 1024));
     return {};
 }
 
