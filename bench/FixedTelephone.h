@@ -7,14 +7,14 @@
 
 namespace bench {
 
-/// What the fixed telephone answers for every call time at first.
+/// What the fixed telephone answers for the dialed calls at first.
 inline constexpr handset::CallTime fixedTime{5, 3, 7};
 
 /// Makes it the telephone that the phone's libraries talk to, and gives the trace stream a place where nothing is
 /// kept.
 void useFixedTelephone();
 
-/// From now on all its figures are others, as long as those before.
+/// From now on all its figures are others, about as long as those before. Settings and the date of expiration stay.
 void changeFigures();
 
 /// What the first of its data sessions is called from now on; "internet" at first.
