@@ -40,13 +40,16 @@ int ChargeMeter::load(calllog::CallRecorder &recorder, QStringList &notices)
     keeper = &recorder;
     calllog::KeptValues aside;
     bool somethingIsNew = false;
+    bool isWithoutCheck = false;
     for (const KeptPart &part : keptParts) {
         const QString name = QString::fromLatin1(part.name);
         QByteArray content;
         if (const int status = recorder.kept(name, content))
             return status;
-        if (part.read(content, kept))
+        if (part.read(content, kept)) {
+            isWithoutCheck = isWithoutCheck || isUnchecked(content);
             continue;
+        }
         somethingIsNew = true;
         const QString what = QLatin1String(part.whatIsNew);
         if (content.isNull()) {
@@ -60,6 +63,9 @@ int ChargeMeter::load(calllog::CallRecorder &recorder, QStringList &notices)
     // With the new ones in their places, so that this is told once.
     if (somethingIsNew && recorder.keep(keptValues(kept) + aside) != Success)
         notices << QStringLiteral("That could not be written.");
+    // From now on a change of it is found. Where it cannot be written the next start tries again.
+    if (isWithoutCheck && !somethingIsNew)
+        recorder.keep(keptValues(kept));
     return Success;
 }
 

@@ -123,8 +123,9 @@ QString checkOf(const QJsonObject &object)
 
 bool isChecked(QJsonObject object)
 {
+    // One that has a check was set back, so that nobody should look at it.
     if (object.value(versionKey).toInt() == versionWithoutCheck)
-        return true;
+        return !object.contains(checkKey);
     const QJsonValue check = object.take(checkKey);
     return object.value(versionKey).toInt() == version && check.toString() == checkOf(object);
 }
@@ -210,6 +211,11 @@ calllog::KeptValues changedValues(const ChargingState &before, const ChargingSta
 bool readCard(const QByteArray &kept, ChargingState &state)
 {
     return kept == neverWritten || sim::loadCard(kept, state.card) == Success;
+}
+
+bool isUnchecked(const QByteArray &keptCharging)
+{
+    return QJsonDocument::fromJson(keptCharging).object().value(versionKey).toInt() == versionWithoutCheck;
 }
 
 bool readCharging(const QByteArray &kept, ChargingState &state)

@@ -42,7 +42,7 @@ bool costsAnything(const sim::Tariff &tariff);
 ///
 /// with credit, deposit and day only where there is an account. The check is the first 20 bytes, in hexadecimal digits,
 /// of the SHA-256 hash of the object without it: written without blanks, its members in the order of their names.
-/// Version 1 has none.
+/// Version 1 has none; one that has is damaged.
 inline constexpr auto keptCardName = "card";
 inline constexpr auto keptChargingName = "charging";
 
@@ -54,5 +54,7 @@ calllog::KeptValues changedValues(const ChargingState &before, const ChargingSta
 /// damaged, of a later version, or missing (a null array).
 bool readCard(const QByteArray &kept, ChargingState &state);
 bool readCharging(const QByteArray &kept, ChargingState &state);
+/// Whether what was read has no check yet, and should be written anew.
+bool isUnchecked(const QByteArray &keptCharging);
 
 } // namespace handset::simulated

@@ -980,6 +980,7 @@ void TestCharging::aDamagedAccountIsKeptAsideAndTheCardStays_data()
     row("no check", R"({"version":2,"chargeType":0,)" + tariffs + "}");
     row("a check that is not its own",
         R"({"version":2,"check":"00112233445566778899aabbccddeeff00112233","chargeType":0,)" + tariffs + "}");
+    row("an earlier version with a check", R"({"version":1,"check":"","chargeType":0,)" + tariffs + "}");
     row("a charge type that does not exist", R"({"version":1,"chargeType":2,)" + tariffs + "}");
     row("a tariff with six elements",
         R"({"version":1,"chargeType":0,"dialed":[10,100,100,0,0,0],"answered":[0,0,100,0,0,0,0]})");
@@ -1032,6 +1033,8 @@ void TestCharging::aChangedAccountIsTold_data()
     QTest::newRow("what a unit of time costs")
         << QStringLiteral("\"dialed\":[10,") << QStringLiteral("\"dialed\":[1,");
     QTest::newRow("the charge type") << QStringLiteral("\"chargeType\":0") << QStringLiteral("\"chargeType\":1");
+    QTest::newRow("the version, set back to the one that has no check")
+        << QStringLiteral("\"version\":2") << QStringLiteral("\"version\":1");
 }
 
 void TestCharging::aChangedAccountIsTold()
@@ -1071,17 +1074,17 @@ void TestCharging::anAccountOfTheFirstVersionIsRead()
     QVERIFY(LogFile(state.database())
                 .run(QStringLiteral("UPDATE kept SET content = x'%1' WHERE name = 'charging'")
                          .arg(QString::fromLatin1(record.toHex()))));
+    const QString version =
+        QStringLiteral("SELECT CAST(content AS TEXT) LIKE '%\"version\":2%' FROM kept WHERE name = 'charging'");
     for (int start = 0; start < 2; ++start) { // the second reads what the first has written
         const Phone phone(state.path());
         QCOMPARE(phone.opened.notice, QString());
         QCOMPARE(phone->charging().account(), (Account{75, 100, {2027, 6, 30}}));
         QCOMPARE(phone->charging().tariff(CallDirection::Dialed), perSeconds(20, 10));
+        QCOMPARE(LogFile(state.database()).value(version), QVariant(1)); // from the first start on it has a check
         QCOMPARE(advice(phone).setChargeType(start == 0 ? AdviceOfCharge::InUnits : AdviceOfCharge::InCurrency),
                  int(Success));
     }
-    const QString version =
-        QStringLiteral("SELECT CAST(content AS TEXT) LIKE '%\"version\":2%' FROM kept WHERE name = 'charging'");
-    QCOMPARE(LogFile(state.database()).value(version), QVariant(1));
 }
 
 void TestCharging::whatIsMissingOfTheCardIsToldAndNeverNewInSilence_data()
