@@ -36,6 +36,7 @@ CallRecorder::CallRecorder(std::unique_ptr<CallStore> callStore, std::shared_ptr
 
 CallRecorder::~CallRecorder()
 {
+    owedWrite = {}; // what cannot be written now is lost, and that is told
     if (running)
         callEnded();
     else
@@ -64,12 +65,12 @@ Charge CallRecorder::due() const
 int CallRecorder::writeOwed()
 {
     if (owed) {
-        if (const int status = store->finishCall(owed->time, owed->charge))
+        if (const int status = store->finishCall(owed->time, owed->charge, owedWrite))
             return status;
         owed.reset();
     }
     if (!owedUnconnected.isEmpty()) {
-        if (const int status = store->addUnconnected(owedUnconnected))
+        if (const int status = store->addUnconnected(owedUnconnected, owedWrite))
             return status;
         owedUnconnected.clear();
     }

@@ -96,6 +96,7 @@ private:
     mutable std::optional<RunningCall> running; ///< a query reads the clock, too
     std::optional<OwedEnd> owed;                ///< there is no running call then
     QList<PastCall> owedUnconnected;
+    RepeatedWrite owedWrite;
     DataCalls::CallStatus dataStatus = DataCalls::Idle;
     std::function<void()> onChange;
 };

@@ -131,14 +131,17 @@ bool CallStore::putAll(const KeptValues &values)
     return std::all_of(values.begin(), values.end(), [this](const KeptValue &value) { return putKept(value); });
 }
 
-bool CallStore::addTime(const UnwrittenTime &time, const Charge &charge, CallState state)
+void CallStore::bindTime(const UnwrittenTime &time, const Charge &charge, CallState state)
 {
     timeStatement.bindValue(QStringLiteral(":state"), static_cast<int>(state));
     timeStatement.bindValue(QStringLiteral(":ms"), time.ms);
     timeStatement.bindValue(QStringLiteral(":units"), charge.units);
     timeStatement.bindValue(QStringLiteral(":id"), time.call);
-    return database->runOn(1, timeStatement) && addToTotals(time.own, time.ms, true) &&
-           addToCosts(time.own, charge.units, true) && putAll(charge.kept);
+}
+
+bool CallStore::addSums(const UnwrittenTime &time, const Charge &charge)
+{
+    return addToTotals(time.own, time.ms, true) && addToCosts(time.own, charge.units, true) && putAll(charge.kept);
 }
 
 bool CallStore::insertPastCall(const PastCall &call)
@@ -189,23 +192,36 @@ int CallStore::beginCall(const PastCall &call, qint64 &id)
 
 int CallStore::countTime(const UnwrittenTime &time, const Charge &charge)
 {
-    return status(database->inTransaction([&] { return addTime(time, charge, CallState::Running); }));
+    bindTime(time, charge, CallState::Running);
+    return status(
+        database->inTransaction([&] { return database->runOn(1, timeStatement) && addSums(time, charge); }));
 }
 
-int CallStore::finishCall(const UnwrittenTime &time, const Charge &charge)
+int CallStore::finishCall(const UnwrittenTime &time, const Charge &charge, RepeatedWrite &write)
 {
-    return status(database->inTransaction([&] { return addTime(time, charge, CallState::Finished); }));
+    bindTime(time, charge, CallState::Finished);
+    bool isRowGone = false;
+    const bool done = database->inTransaction([&] {
+        if (!database->run(timeStatement))
+            return false;
+        isRowGone = timeStatement.numRowsAffected() == 0;
+        return addSums(time, charge);
+    });
+    if (done && isRowGone)
+        Database::warnOfMissingRow("call");
+    return database->status(done, write);
 }
 
-int CallStore::addUnconnected(const QList<PastCall> &calls)
+int CallStore::addUnconnected(const QList<PastCall> &calls, RepeatedWrite &write)
 {
-    return status(database->inTransaction([&] {
+    const bool done = database->inTransaction([&] {
         return std::all_of(calls.begin(), calls.end(), [this](PastCall row) {
             row.durationMs = 0;
             row.units = 0;
             return insertRow(row, CallState::NotConnected);
         });
-    }));
+    });
+    return database->status(done, write);
 }
 
 int CallStore::addHistory(const QList<PastCall> &calls, bool setLast, const KeptValues &values)

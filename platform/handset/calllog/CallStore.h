@@ -47,10 +47,11 @@ public:
     int beginCall(const PastCall &call, qint64 &id);
     /// Adds the time and the charge to the row and to the totals.
     int countTime(const UnwrittenTime &time, const Charge &charge);
-    /// The same, and the call is over.
-    int finishCall(const UnwrittenTime &time, const Charge &charge);
+    /// The same, and the call is over. A row that somebody has removed will not come back: there is a warning, and the
+    /// totals count the call without it.
+    int finishCall(const UnwrittenTime &time, const Charge &charge, RepeatedWrite &write);
     /// Adds the rows of calls that were never connected. Their durations and units are not used.
-    int addUnconnected(const QList<PastCall> &calls);
+    int addUnconnected(const QList<PastCall> &calls, RepeatedWrite &write);
     /// Adds calls that are over, in their order, and counts them. The last connected one becomes the last call when
     /// `setLast`.
     int addHistory(const QList<PastCall> &calls, bool setLast, const KeptValues &kept = {});
@@ -76,7 +77,8 @@ private:
     CallStore() = default;
     bool prepareStatements();
     bool insertRow(const PastCall &call, CallState state);
-    bool addTime(const UnwrittenTime &time, const Charge &charge, CallState state);
+    void bindTime(const UnwrittenTime &time, const Charge &charge, CallState state);
+    bool addSums(const UnwrittenTime &time, const Charge &charge);
     bool addToTotals(Counter own, qint64 ms, bool toLast);
     bool addToCosts(Counter own, qint64 units, bool toLast);
     bool putAll(const KeptValues &values);

@@ -6,6 +6,8 @@
 #include <QtCore/QVariant>
 #include <QtSql/QSqlDriver>
 
+#include <utility>
+
 namespace handset::calllog {
 
 namespace {
@@ -147,6 +149,21 @@ int Database::status(bool succeeded) const
         return Success;
     qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(error)));
     return StorageFailed;
+}
+
+int Database::status(bool succeeded, RepeatedWrite &write) const
+{
+    const bool hadFailed = std::exchange(write.hasFailed, !succeeded);
+    if (!hadFailed)
+        return status(succeeded);
+    if (succeeded)
+        qCInfo(lcCallLog, "What could not be written to the call log has been written.");
+    return succeeded ? Success : StorageFailed;
+}
+
+void Database::warnOfMissingRow(const char *owner)
+{
+    qCWarning(lcCallLog, "The row of a %s is gone from the call log; its totals count it all the same.", owner);
 }
 
 } // namespace handset::calllog

@@ -25,6 +25,11 @@ int code(const QSqlError &error);
 QString reason(const QSqlError &error);
 } // namespace sqlite
 
+/// A write that is tried until it succeeds. Its failure is told once, and then its success.
+struct RepeatedWrite {
+    bool hasFailed = false;
+};
+
 /// Opens on construction, closes and forgets the connection on destruction. Every statement prepared on it must be
 /// gone by then. Every operation that answers false has left its reason in lastError().
 class Database
@@ -60,6 +65,10 @@ public:
     /// What an operation of the call log answers (handset/Status.h): StorageFailed, with a warning that says why, unless
     /// it has succeeded.
     int status(bool succeeded) const;
+    /// The same, with the warning only for the first failure.
+    int status(bool succeeded, RepeatedWrite &write) const;
+    /// Warns of a row that somebody has removed while its call or session was running; `owner` is which of them.
+    static void warnOfMissingRow(const char *owner);
 
     /// Runs `work` in a transaction: all of it is in the database when this answers true, none of it otherwise.
     template <typename Work>

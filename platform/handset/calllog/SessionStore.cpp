@@ -1,7 +1,6 @@
 #include "SessionStore.h"
 
 #include "SaturatingSql.h"
-#include "Schema.h"
 
 #include <QtCore/QVariant>
 
@@ -61,25 +60,39 @@ bool SessionStore::addToTotals(const SessionAmounts &amounts)
     });
 }
 
-bool SessionStore::add(const UnwrittenAmounts &more, bool isOver)
+void SessionStore::bindMore(const UnwrittenAmounts &more, CallState state)
 {
-    const CallState state = isOver ? CallState::Finished : CallState::Running;
     addStatement.bindValue(QStringLiteral(":state"), static_cast<int>(state));
     addStatement.bindValue(QStringLiteral(":ms"), more.amounts.ms);
     addStatement.bindValue(QStringLiteral(":sent"), more.amounts.sent);
     addStatement.bindValue(QStringLiteral(":received"), more.amounts.received);
     addStatement.bindValue(QStringLiteral(":id"), more.session);
+}
+
+bool SessionStore::addToRunning(const UnwrittenAmounts &more)
+{
+    bindMore(more, CallState::Running);
     return database.runOn(1, addStatement) && addToTotals(more.amounts);
 }
 
 int SessionStore::count(const UnwrittenAmounts &more)
 {
-    return status(database.inTransaction([&] { return add(more, false); }));
+    return status(database.inTransaction([&] { return addToRunning(more); }));
 }
 
-int SessionStore::finish(const UnwrittenAmounts &more)
+int SessionStore::finish(const UnwrittenAmounts &more, RepeatedWrite &write)
 {
-    return status(database.inTransaction([&] { return add(more, true); }));
+    bindMore(more, CallState::Finished);
+    bool isRowGone = false;
+    const bool done = database.inTransaction([&] {
+        if (!database.run(addStatement))
+            return false;
+        isRowGone = addStatement.numRowsAffected() == 0;
+        return addToTotals(more.amounts);
+    });
+    if (done && isRowGone)
+        Database::warnOfMissingRow("packet-data session");
+    return database.status(done, write);
 }
 
 int SessionStore::recent(int most, QList<StoredSession> &sessions)
@@ -130,7 +143,7 @@ bool SessionStore::putTotal(SessionCounter counter, qint64 value)
 int SessionStore::reset(std::initializer_list<SessionCounter> counters, const UnwrittenAmounts *running)
 {
     return status(database.inTransaction([&] {
-        return (!running || add(*running, false)) &&
+        return (!running || addToRunning(*running)) &&
                std::all_of(counters.begin(), counters.end(),
                            [&](SessionCounter counter) { return putTotal(counter, 0); });
     }));

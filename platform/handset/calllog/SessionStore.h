@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Database.h"
+#include "Schema.h"
 #include "SessionCounter.h"
 
 #include <QtCore/QByteArray>
@@ -40,8 +41,8 @@ public:
     int begin(const QByteArray &apn, qint64 startWallMs, qint64 &id);
     /// Adds the amounts to the row and to the totals.
     int count(const UnwrittenAmounts &more);
-    /// The same, and the session is over.
-    int finish(const UnwrittenAmounts &more);
+    /// The same, and the session is over. A row that is gone: as for CallStore::finishCall().
+    int finish(const UnwrittenAmounts &more, RepeatedWrite &write);
 
     /// The `most` sessions that began last, the newest first.
     int recent(int most, QList<StoredSession> &sessions);
@@ -54,7 +55,8 @@ public:
 
 private:
     bool prepareStatements();
-    bool add(const UnwrittenAmounts &more, bool isOver);
+    void bindMore(const UnwrittenAmounts &more, CallState state);
+    bool addToRunning(const UnwrittenAmounts &more);
     bool addToTotals(const SessionAmounts &amounts);
     bool total(SessionCounter counter, qint64 &value);
     int status(bool succeeded) const { return database.status(succeeded); }

@@ -67,6 +67,7 @@ PacketSessions::PacketSessions(calllog::Database &database, std::shared_ptr<Cloc
 
 PacketSessions::~PacketSessions()
 {
+    owedWrite = {}; // what cannot be written now is lost, and that is told
     if (running)
         end();
     else
@@ -189,7 +190,7 @@ void PacketSessions::end()
 
 int PacketSessions::writeOwed()
 {
-    const int status = owed ? store.finish(*owed) : int{Success};
+    const int status = owed ? store.finish(*owed, owedWrite) : int{Success};
     if (status == Success)
         owed.reset();
     return status;

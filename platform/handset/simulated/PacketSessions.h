@@ -76,6 +76,7 @@ private:
     std::shared_ptr<Clock> clock;
     std::optional<RunningSession> running;
     std::optional<calllog::UnwrittenAmounts> owed; ///< by a session that is over; there is no running one then
+    calllog::RepeatedWrite owedWrite;
     std::function<void()> onUpdate;
     std::function<void()> onChange;
 };

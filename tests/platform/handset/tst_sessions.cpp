@@ -82,6 +82,7 @@ private slots:
     void aQueryThatFailsWritesNoOutput();
     void whatIsMissingWhenItIsWrittenIsAFailure_data();
     void whatIsMissingWhenItIsWrittenIsAFailure();
+    void aRunningSessionWhoseRowIsGoneEndsAndIsCounted();
 };
 
 void TestSessions::idsGoTo255AndBeginAgainAt1()
@@ -557,7 +558,6 @@ void TestSessions::whatIsMissingWhenItIsWrittenIsAFailure_data()
 {
     QTest::addColumn<QString>("table");
     QTest::addColumn<QString>("row");
-    QTest::newRow("the row of the running session") << QStringLiteral("sessions") << QStringLiteral("state = 0");
     for (const char *counter : {"duration", "sent", "received"})
         QTest::addRow("the total of the kind %s", counter)
             << QStringLiteral("session_totals") << QStringLiteral("counter = '%1'").arg(QLatin1String(counter));
@@ -585,6 +585,26 @@ void TestSessions::whatIsMissingWhenItIsWrittenIsAFailure()
     QVERIFY(!phone->owesRecord());
     QCOMPARE(phone.sessions(), (QStringList{QStringLiteral("2 y 7 7 7"), QStringLiteral("1 x 50 50 50")}));
     QCOMPARE(phone.sessionTotals(), QStringLiteral("57 57 57 114"));
+}
+
+void TestSessions::aRunningSessionWhoseRowIsGoneEndsAndIsCounted()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.session(50 * second, "x", 1, 1));
+    QCOMPARE(phone->packets().startSession("y", 1, 1), int(Success));
+    phone.clock->advance(7 * second);
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM sessions WHERE state = 0")));
+    QTest::ignoreMessage(QtWarningMsg, "The call log failed: a row is missing");
+    QCOMPARE(phone->checkpoint(), int(StorageFailed));
+    QTest::ignoreMessage(
+        QtWarningMsg,
+        "The row of a packet-data session is gone from the call log; its totals count it all the same.");
+    QCOMPARE(phone->packets().stopSession(), int(Success));
+    QVERIFY(!phone->owesRecord());
+    QCOMPARE(phone.sessions(), QStringList{QStringLiteral("1 x 50 50 50")});
+    QCOMPARE(phone.sessionTotals(), QStringLiteral("57 57 57 114"));
+    QCOMPARE(phone->packets().startSession("z", 1, 1), int(Success));
 }
 
 KAV_TEST_GROUP(TestSessions, QCoreApplication);
