@@ -15,7 +15,7 @@ class OpeningProgress : public QGroupBox
 public:
     explicit OpeningProgress(QWidget *parent = nullptr);
 
-    /// What is done, and how far it is, 0 to 99, as handset::Settings::progress has it.
+    /// What is done, and how far it is, in percent, as handset::Settings::progress has it.
     void showStep(const QString &step, int percent);
 
 private:

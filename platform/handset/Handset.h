@@ -42,7 +42,7 @@ struct Settings {
     /// of the GUI thread, as long as the telephone lives; null for nobody.
     std::function<void(const QString &notice)> tell = {};
     /// Is told how far a step of open() is that takes long, as reading a big damaged call log does: what is done, part of
-    /// a sentence, and 0 to 99 percent. Null for nobody.
+    /// a sentence, and 0 to 100 percent; one step after another. Null for nobody.
     std::function<void(const QString &step, int percent)> progress = {};
 };
 

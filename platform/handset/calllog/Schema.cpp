@@ -83,13 +83,16 @@ bool runStep(Database &database, Migration step, qint64 version, const ProgressL
         return false; // goes on
     };
     const Interruption counting(database.handle(), countCall, machineStepsPerCall);
-    return database.inTransaction([&] {
+    const bool done = database.inTransaction([&] {
         for (const char *statement : step)
             if (!database.run(QString::fromLatin1(statement)))
                 return false;
         return database.run(QStringLiteral("PRAGMA application_id = %1").arg(applicationId)) &&
                database.run(QStringLiteral("PRAGMA user_version = %1").arg(version));
     });
+    if (done)
+        progress.finish();
+    return done;
 }
 
 } // namespace

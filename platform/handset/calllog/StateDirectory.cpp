@@ -138,6 +138,24 @@ int syncFile(const QString &path, int flags)
 
 constexpr qsizetype blockSize = 1 << 18;
 
+// Waits for one part after another, so that it can be said how far it is. It takes a sync to have the file for certain,
+// but that then finds little to do. (Some file systems know no parts.)
+int writeOut(const QString &path, Progress &progress)
+{
+    const Descriptor file(path, O_RDONLY | O_NOFOLLOW);
+    struct stat status = {};
+    if (!file.isOpen() || ::fstat(file.number(), &status) != 0)
+        return errno;
+    constexpr unsigned wait = SYNC_FILE_RANGE_WAIT_BEFORE | SYNC_FILE_RANGE_WRITE | SYNC_FILE_RANGE_WAIT_AFTER;
+    for (off_t at = 0; at < status.st_size; at += Progress::bytes) {
+        const off_t length = std::min<off_t>(Progress::bytes, status.st_size - at);
+        if (::sync_file_range(file.number(), at, length, wait) != 0)
+            return errno == ENOSYS || errno == EINVAL || errno == ESPIPE ? 0 : errno;
+        progress.add(length);
+    }
+    return 0;
+}
+
 // Fills `bytes` as far as the file goes.
 int readUpTo(int fd, QByteArray &bytes, qsizetype &length)
 {
@@ -171,7 +189,7 @@ bool hasOtherName(const QString &path)
 }
 
 // A file that yields less than it has is an error: the copy of a log must have all of it.
-int copyFile(const QString &from, const QString &to)
+int copyFile(const QString &from, const QString &to, Progress &progress)
 {
     const Descriptor source(from, O_RDONLY | O_NOFOLLOW);
     if (!source.isOpen())
@@ -186,6 +204,7 @@ int copyFile(const QString &from, const QString &to)
             return error;
         if (const int error = writeAll(target.number(), QByteArrayView(block).first(length)))
             return error;
+        progress.add(length);
     }
     struct stat status = {};
     if (::fstat(source.number(), &status) != 0)
@@ -289,9 +308,14 @@ int StateDirectory::rename(const QString &from, const QString &to)
     return syncFile(path, O_DIRECTORY);
 }
 
-int StateDirectory::sync(const QString &name)
+int StateDirectory::sync(const QString &name, Progress &progress)
 {
-    return syncFile(filePath(name), O_NOFOLLOW);
+    if (const int error = writeOut(filePath(name), progress))
+        return error;
+    const int error = syncFile(filePath(name), O_NOFOLLOW);
+    if (error == 0)
+        progress.finish();
+    return error;
 }
 
 int StateDirectory::readBeginning(const QString &name, qint64 most, QByteArray &bytes) const
@@ -312,15 +336,16 @@ int StateDirectory::readBeginning(const QString &name, qint64 most, QByteArray &
     return length == bytes.size() ? 0 : EIO;
 }
 
-int StateDirectory::readThrough(const QString &name) const
+int StateDirectory::readThrough(const QString &name, Progress &progress) const
 {
     const Descriptor file(filePath(name), O_RDONLY | O_NOFOLLOW);
     if (!file.isOpen())
         return errno;
     QByteArray block(blockSize, Qt::Uninitialized);
-    for (qsizetype length = block.size(); length == block.size();)
+    for (qsizetype length = block.size(); length == block.size(); progress.add(length))
         if (const int error = readUpTo(file.number(), block, length))
             return error;
+    progress.finish();
     return 0;
 }
 
@@ -351,8 +376,10 @@ int StateDirectory::addName(const QString &from, const QString &to)
 {
     if (::link(encoded(filePath(from)).constData(), encoded(filePath(to)).constData()) == 0)
         return 0;
-    return errno == EPERM || errno == EOPNOTSUPP || errno == EMLINK ? copyFile(filePath(from), filePath(to))
-                                                                    : errno;
+    if (errno != EPERM && errno != EOPNOTSUPP && errno != EMLINK)
+        return errno;
+    Progress untold({}, {}, 0); // recordings are small
+    return copyFile(filePath(from), filePath(to), untold);
 }
 
 int StateDirectory::addNamesOfRecordings(const QString &name, const QString &kept)
@@ -390,15 +417,18 @@ int StateDirectory::keepAside(const QString &name, const QString &kept)
     return error == 0 && hasLeftovers(name) ? EBUSY : error;
 }
 
-int StateDirectory::copy(const QString &from, const QString &to)
+int StateDirectory::copy(const QString &from, const QString &to, Progress &progress)
 {
     for (const char *recording : recordings) {
         const QLatin1String suffix(recording);
-        const int error = copyFile(filePath(from + suffix), filePath(to + suffix));
+        const int error = copyFile(filePath(from + suffix), filePath(to + suffix), progress);
         if (error != 0 && error != ENOENT)
             return error;
     }
-    return copyFile(filePath(from), filePath(to));
+    const int error = copyFile(filePath(from), filePath(to), progress);
+    if (error == 0)
+        progress.finish();
+    return error;
 }
 
 void StateDirectory::remove(const QString &name)

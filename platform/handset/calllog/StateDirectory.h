@@ -1,6 +1,8 @@
 // The directory that keeps a telephone's state between starts.
 #pragma once
 
+#include "repair/Progress.h"
+
 #include <QtCore/QString>
 
 #include <memory>
@@ -35,15 +37,17 @@ public:
     int keepAside(const QString &name, const QString &kept);
     /// Renames a file of the directory to a name that is not in use, and waits until the disk has it.
     int rename(const QString &from, const QString &to);
+    // `progress` counts bytes.
+
     /// Copies `from` and what is recorded beside it to a name that is not in use.
-    int copy(const QString &from, const QString &to);
+    int copy(const QString &from, const QString &to, Progress &progress);
     /// Waits until the disk has what was written to a file.
-    int sync(const QString &name);
+    int sync(const QString &name, Progress &progress);
     /// Up to `most` bytes from the beginning of a file; a file that yields fewer than it has is an error (EIO).
     /// Nothing of what is no file.
     int readBeginning(const QString &name, qint64 most, QByteArray &bytes) const;
     /// Reads the whole of a file, for nothing but to see that it can be read.
-    int readThrough(const QString &name) const;
+    int readThrough(const QString &name, Progress &progress) const;
     /// Removes `name` and what SQLite keeps beside it.
     void remove(const QString &name);
 

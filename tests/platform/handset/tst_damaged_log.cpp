@@ -130,7 +130,8 @@ private slots:
     void aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStart();
     void noTableOfABigLogLocksItForGood_data();
     void noTableOfABigLogLocksItForGood();
-    void aReadingThatTakesLongSaysHowFarItIs();
+    void everyLongStepOfAReplacementSaysHowFarItIs_data();
+    void everyLongStepOfAReplacementSaysHowFarItIs();
     void aReadingThatTakesNoTimeSaysNothing();
     void aMarkOfAnotherLogIsNoDamage_data();
     void aMarkOfAnotherLogIsNoDamage();
@@ -738,16 +739,59 @@ void TestDamagedLog::noTableOfABigLogLocksItForGood()
     QCOMPARE(phone.opened.notice.isEmpty(), told.isEmpty()); // replaced by the start before, or by this one
 }
 
-void TestDamagedLog::aReadingThatTakesLongSaysHowFarItIs()
+void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs_data()
 {
+    QTest::addColumn<bool>("isOverwritten");
+    QTest::newRow("with a total missing") << false;
+    QTest::newRow("with a page overwritten near its beginning") << true;
+}
+
+// The steps by their names, in their order; what is told of one never goes back, and ends with the whole of it.
+void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
+{
+    QFETCH(bool, isOverwritten);
     const StateDir state;
     QCOMPARE(Phone(state.path())->addHistory(manyCalls(210'000)), int(Success));
+    QVERIFY(LogFile(state.database())
+                .run(QStringLiteral(
+                    "INSERT INTO sessions WITH RECURSIVE numbers (n) AS (SELECT 1 UNION ALL SELECT"
+                    " n + 1 FROM numbers WHERE n < 60000) SELECT n, 'x', n, 0, 0, 0, 1 FROM numbers")));
     QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
+    if (isOverwritten) {
+        QByteArray content = readFile(state.database());
+        QVERIFY(writeFile(state.database(), content.replace(40 * pageSize, pageSize, QByteArray(pageSize, '\0'))));
+    }
     const Phone phone(state.path());
-    QVERIFY(!phone.opened.notice.isEmpty());
-    const QString step = QStringLiteral("Reading the damaged call log");
-    const QList<QPair<QString, int>> expected{{step, 23}, {step, 47}, {step, 71}, {step, 95}};
-    QCOMPARE(phone.progress, expected);
+    QVERIFY2(phone.opened.notice.startsWith(QStringLiteral("The call log is damaged")),
+             qPrintable(phone.opened.notice));
+    QStringList steps;
+    QList<QList<int>> percents;
+    for (const auto &[step, percent] : phone.progress) {
+        if (steps.isEmpty() || steps.last() != step) {
+            steps << step;
+            percents << QList<int>();
+        }
+        percents.last() << percent;
+    }
+    QStringList expected{QStringLiteral("Copying the damaged call log"),
+                         QStringLiteral("Reading the damaged call log"),
+                         QStringLiteral("Reading the damaged log of data sessions"),
+                         QStringLiteral("Reading the damaged call log once more"),
+                         QStringLiteral("Writing the new call log to the disk"),
+                         QStringLiteral("Checking the new call log")};
+    if (isOverwritten)
+        expected.insert(1, QStringLiteral("Looking for the end of the damage"));
+    QCOMPARE(steps, expected);
+    for (qsizetype step = 0; step < steps.size(); ++step) {
+        QVERIFY2(std::is_sorted(percents[step].begin(), percents[step].end()), qPrintable(steps[step]));
+        QVERIFY2(percents[step].size() > 1 && percents[step].first() < 100, qPrintable(steps[step]));
+        QVERIFY2(percents[step].last() == 100 && percents[step].count(100) == 1, qPrintable(steps[step]));
+    }
+    const QList<int> ofCalls{23, 47, 71, 95, 100};
+    QCOMPARE(percents[steps.indexOf(QStringLiteral("Reading the damaged call log"))], ofCalls);
+    const QList<int> ofSessions{83, 100};
+    QCOMPARE(percents[steps.indexOf(QStringLiteral("Reading the damaged log of data sessions"))], ofSessions);
+    QVERIFY(percents.last().size() > 4); // the check counts rows, too
 }
 
 void TestDamagedLog::aReadingThatTakesNoTimeSaysNothing()

@@ -238,6 +238,12 @@ int fdatasync(int fd)
     return fails(Fsync, fd) ? -1 : original(fd);
 }
 
+int sync_file_range(int fd, off64_t at, off64_t count, unsigned flags)
+{
+    static const auto original = next(&sync_file_range, "sync_file_range");
+    return fails(Fsync, fd) ? -1 : original(fd, at, count, flags);
+}
+
 int ftruncate64(int fd, off64_t length) noexcept
 {
     static const auto original = next(&ftruncate64, "ftruncate64");

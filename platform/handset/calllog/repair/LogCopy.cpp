@@ -113,7 +113,9 @@ Finding LogCopy::make()
     Finding space = findSpace(directory, spaceOfNewLog + 2 * directory.size(databaseFile()));
     if (space.verdict != Verdict::Usable)
         return space;
-    if (const int error = directory.copy(databaseFile(), file))
+    Progress copying(progress, QStringLiteral("Copying the damaged call log"), directory.size(databaseFile()),
+                     Progress::bytes);
+    if (const int error = directory.copy(databaseFile(), file, copying))
         return {Verdict::Blocked, QStringLiteral("it cannot be copied: %1").arg(blocked(error, file).reason)};
     Finding mended = mend();
     if (mended.verdict != Verdict::Usable)
@@ -148,7 +150,9 @@ Finding LogCopy::open()
 Finding LogCopy::check() const
 {
     const QString file = QString::fromLatin1(name);
-    const int error = directory.readThrough(file);
+    Progress reading(progress, QStringLiteral("Reading the damaged call log once more"), directory.size(file),
+                     Progress::bytes);
+    const int error = directory.readThrough(file, reading);
     return error == 0 ? Finding{} : blocked(error, file);
 }
 

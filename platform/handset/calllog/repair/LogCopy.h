@@ -21,9 +21,10 @@ public:
     /// In the state directory.
     static constexpr auto name = "calllog-copy.db";
 
-    /// `stateDirectory` outlives this.
-    explicit LogCopy(StateDirectory &stateDirectory)
+    /// `stateDirectory` outlives this. `listener` is told how far a big copy is.
+    LogCopy(StateDirectory &stateDirectory, ProgressListener listener)
         : directory(stateDirectory)
+        , progress(std::move(listener))
     {}
     ~LogCopy();
     LogCopy(const LogCopy &) = delete;
@@ -44,6 +45,7 @@ private:
     Finding open(); ///< Damaged when the list of its tables is
 
     StateDirectory &directory;
+    ProgressListener progress;
     std::unique_ptr<Database> opened;
 };
 

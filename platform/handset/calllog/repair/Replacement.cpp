@@ -2,6 +2,7 @@
 
 #include "LogCopy.h"
 #include "OpenDatabase.h"
+#include "PlainSqlite.h"
 #include "Salvage.h"
 
 #include <QtCore/QFile>
@@ -121,10 +122,9 @@ Finding putNotice(CallStore &store, const QString &notice)
     return store.putKept({name, all}) ? Finding{} : failure(store.connection());
 }
 
-Finding fill(CallStore &store, LogCopy &copy, const Replaced &old)
+Finding fill(CallStore &store, LogCopy &copy, const Replaced &old, Salvaged &salvaged)
 {
     Finding finding = prepare(store.connection());
-    Salvaged salvaged;
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
         finding = salvage(copy.database(), store, salvaged, old.progress);
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
@@ -134,13 +134,24 @@ Finding fill(CallStore &store, LogCopy &copy, const Replaced &old)
     return finding.verdict == Verdict::Usable ? emptyWriteAheadLog(store.connection()) : finding;
 }
 
+/// What SQLite's virtual machine does to check one row: measured with 3.40, over a million calls. Before the first it
+/// checks the structure of the file, some two fifths of the time, and asks nobody.
+constexpr int machineStepsPerRow = 17;
+
 // As it is on the disk, not as it was meant.
-Finding readBack(const QString &file)
+Finding readBack(const QString &file, Progress progress)
 {
     Database database(file, Database::Access::ReadWrite);
     if (!database.isOpen() || !database.run(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE")))
         return failure(database);
+    const auto countRow = [&progress] {
+        progress.oneIsDone();
+        return false; // goes on
+    };
+    const Interruption counting(database.handle(), countRow, machineStepsPerRow);
+    progress.begin();
     const QString line = database.text(QStringLiteral("PRAGMA quick_check(1)"));
+    progress.finish();
     return line.isEmpty() ? failure(database) : judgeCheck(line);
 }
 
@@ -152,16 +163,20 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
     Finding finding = createFile(path);
     if (finding.verdict != Verdict::Usable)
         return finding;
+    Salvaged salvaged;
     {
         std::unique_ptr<StateDirectory> unlocked;
         Attempt fresh = openDatabase(path, unlocked, Care::Quick);
-        finding = fresh.store ? fill(*fresh.store, copy, old) : fresh.finding;
+        finding = fresh.store ? fill(*fresh.store, copy, old, salvaged) : fresh.finding;
     }
     if (finding.verdict != Verdict::Usable)
         return finding;
-    if (const int error = directory.sync(name))
+    Progress writing(old.progress, QStringLiteral("Writing the new call log to the disk"), directory.size(name),
+                     Progress::bytes);
+    if (const int error = directory.sync(name, writing))
         return blocked(error);
-    finding = readBack(path);
+    finding = readBack(
+        path, {old.progress, QStringLiteral("Checking the new call log"), salvaged.calls + salvaged.sessions});
     if (finding.verdict == Verdict::Usable && directory.hasLeftovers(name))
         return {Verdict::Blocked, QStringLiteral("its write-ahead log is left")};
     return finding;
@@ -193,7 +208,7 @@ Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced
 Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress)
 {
     const QString name = QString::fromLatin1(databaseName);
-    LogCopy copy(directory);
+    LogCopy copy(directory, progress);
     const Finding found = copy.look(verdict);
     if (found.verdict == Verdict::Blocked)
         return {QStringLiteral("a new one cannot be made (%1)").arg(explain(found))};

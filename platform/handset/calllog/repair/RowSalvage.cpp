@@ -51,7 +51,10 @@ bool RowSalvage::copy(const QString &select, const QString &insert)
     // From the other end as well, so that one damaged page in the middle costs no more than its own rows.
     if (passed == Passed::UpToTheDamage)
         passed = passTail(select);
-    return passed != Passed::NotDone;
+    if (passed == Passed::NotDone)
+        return false;
+    progress.finish();
+    return true;
 }
 
 // In the order of the ids as far as that goes: rows that are put in front of others leave half of each page empty.
@@ -70,14 +73,17 @@ std::optional<qint64> RowSalvage::firstOfTail(const QString &select)
 {
     QSqlQuery rows = source.query();
     rows.exec(select);
+    Progress search = progress.overTheRest(QStringLiteral("Looking for the end of the damage"));
     std::optional<qint64> first;
     while (rows.next()) {
+        search.oneIsDone();
         if (!isPlausible(rows))
             continue;
         if (rows.value(idColumn).toLongLong() <= highestCopied)
             break;
         first = rows.value(idColumn).toLongLong();
     }
+    search.finish();
     note(rows.lastError());
     return first;
 }
