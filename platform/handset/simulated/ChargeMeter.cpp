@@ -26,12 +26,25 @@ struct KeptPart {
     const char *name;
     bool (*read)(const QByteArray &kept, ChargingState &state);
     const char *whatIsNew;
+    bool isWrittenByEveryCharge;
 };
 
 constexpr std::array keptParts{
-    KeptPart{keptCardName, &readCard, "The SIM card"},
-    KeptPart{keptChargingName, &readCharging, "The record of tariffs and account"},
+    KeptPart{keptCardName, &readCard, "The SIM card", true},
+    KeptPart{keptChargingName, &readCharging, "The record of tariffs and account", false},
 };
+
+int hasCosts(const calllog::CallRecorder &recorder, bool &found)
+{
+    found = false;
+    for (const calllog::CostCounterName &name : calllog::costCounterNames) {
+        qint64 units = 0;
+        if (const int status = recorder.cost(name.counter, units))
+            return status;
+        found = found || units > 0;
+    }
+    return Success;
+}
 
 } // namespace
 
@@ -41,18 +54,23 @@ int ChargeMeter::load(calllog::CallRecorder &recorder, QStringList &notices)
     calllog::KeptValues aside;
     bool somethingIsNew = false;
     bool isWithoutCheck = false;
+    bool wasCharged = false;
+    if (const int status = hasCosts(recorder, wasCharged))
+        return status;
     for (const KeptPart &part : keptParts) {
         const QString name = QString::fromLatin1(part.name);
         QByteArray content;
         if (const int status = recorder.kept(name, content))
             return status;
-        if (part.read(content, kept)) {
+        const bool isMissing =
+            content.isNull() || (isNeverWritten(content) && part.isWrittenByEveryCharge && wasCharged);
+        if (!isMissing && part.read(content, kept)) {
             isWithoutCheck = isWithoutCheck || isUnchecked(content);
             continue;
         }
         somethingIsNew = true;
         const QString what = QLatin1String(part.whatIsNew);
-        if (content.isNull()) {
+        if (isMissing) {
             notices << QStringLiteral("%1 is missing from the call log; a new one was begun.").arg(what);
             continue;
         }

@@ -208,9 +208,14 @@ calllog::KeptValues changedValues(const ChargingState &before, const ChargingSta
     return changed;
 }
 
+bool isNeverWritten(const QByteArray &kept)
+{
+    return kept == neverWritten;
+}
+
 bool readCard(const QByteArray &kept, ChargingState &state)
 {
-    return kept == neverWritten || sim::loadCard(kept, state.card) == Success;
+    return isNeverWritten(kept) || sim::loadCard(kept, state.card) == Success;
 }
 
 bool isUnchecked(const QByteArray &keptCharging)
@@ -220,7 +225,7 @@ bool isUnchecked(const QByteArray &keptCharging)
 
 bool readCharging(const QByteArray &kept, ChargingState &state)
 {
-    if (kept == neverWritten)
+    if (isNeverWritten(kept))
         return true;
     const QJsonObject object = QJsonDocument::fromJson(kept).object();
     ChargingState read = state;

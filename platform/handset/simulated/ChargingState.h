@@ -54,6 +54,8 @@ calllog::KeptValues changedValues(const ChargingState &before, const ChargingSta
 /// damaged, of a later version, or missing (a null array).
 bool readCard(const QByteArray &kept, ChargingState &state);
 bool readCharging(const QByteArray &kept, ChargingState &state);
+/// Whether this is what a new call log has in the place of a value.
+bool isNeverWritten(const QByteArray &kept);
 /// Whether what was read has no check yet, and should be written anew.
 bool isUnchecked(const QByteArray &keptCharging);
 

@@ -148,6 +148,7 @@ private slots:
     void anAccountOfTheFirstVersionIsRead();
     void whatIsMissingOfTheCardIsToldAndNeverNewInSilence_data();
     void whatIsMissingOfTheCardIsToldAndNeverNewInSilence();
+    void aCardSetBackToNeverWrittenIsToldOnce();
     void aCardThatWasNeverChangedIsNotMissing();
     void aDamagedLogKeepsCostsAndCard();
     void everyChangeIsSignalledOnce();
@@ -1113,6 +1114,18 @@ void TestCharging::whatIsMissingOfTheCardIsToldAndNeverNewInSilence()
     }
     QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM kept WHERE name = '%1'").arg(name)));
     QCOMPARE(Phone(state.path()).opened.notice, notice);
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+// What a new call log has in its place says the same in a log with costs: every charge writes the card.
+void TestCharging::aCardSetBackToNeverWrittenIsToldOnce()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(50 * second));
+    QVERIFY(LogFile(state.database())
+                .run(QStringLiteral("UPDATE kept SET content = CAST('new' AS BLOB) WHERE name = 'card'")));
+    QCOMPARE(Phone(state.path()).opened.notice,
+             QStringLiteral("The SIM card is missing from the call log; a new one was begun."));
     QCOMPARE(Phone(state.path()).opened.notice, QString());
 }
 
