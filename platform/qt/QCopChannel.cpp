@@ -11,7 +11,7 @@ QCopChannel::QCopChannel(const QCString &channel, QObject *parent, const char *n
         setObjectName(QString::fromLatin1(name));
     QCopSubscribers::add(channelName, this);
     if (QCopBus *bus = QCopBus::instance())
-        bus->want(QCopBus::Receiving);
+        bus->receive();
 }
 
 QCopChannel::~QCopChannel()

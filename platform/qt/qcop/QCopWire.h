@@ -3,24 +3,28 @@
 
 #include <QtCore/QByteArray>
 
+#include <memory>
+
+struct DBusMessage;
+
 namespace QCopWire {
 
-inline constexpr char objectPath[] = "/org/kav/QCop";
-inline constexpr char interfaceName[] = "org.kav.QCop";
-inline constexpr char memberName[] = "Message";
-inline constexpr char argumentTypes[] = "ayayay"; ///< channel, message, data
-
-/// What a message on the bus says of itself.
-struct Heading {
-    QByteArray interface;
-    QByteArray member;
-    QByteArray signature;
-    QByteArray path;
-    QByteArray sender;
+struct Unref {
+    void operator()(DBusMessage *message) const;
 };
+using Message = std::unique_ptr<DBusMessage, Unref>;
 
-/// A line that a message of this heading is no channel message and is ignored, if there may be one more: who sends such
-/// messages must not fill the disk of who keeps the errors.
-void traceForeign(const Heading &heading);
+/// What the bus is asked for by who receives. Neither path nor member: what comes under the interface and is no channel
+/// message shall leave a trace.
+inline constexpr char matchRule[] = "type='signal',interface='org.kav.QCop'";
+
+/// A channel message, of at most what QCopBus::isSendable() tells. Null when there is no memory for it.
+Message make(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
+
+/// Delivers a channel message to the subscribers in this process. Another message under the interface, or a call to the
+/// object, is ignored with a line that says so; but not more than LineLimit allows, for who sends such messages must not
+/// fill the disk of who keeps the errors. A signal that is sent to this process alone cannot be told from a broadcast
+/// and counts as one.
+void take(DBusMessage *message);
 
 } // namespace QCopWire

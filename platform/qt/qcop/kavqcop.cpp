@@ -186,9 +186,9 @@ private:
     Request parsed;
 };
 
-bool connectToBus(QCopBus::Side side)
+bool connectToBus()
 {
-    if (QCopBus::instance()->waitFor(busPatience, side))
+    if (QCopBus::instance()->waitFor(busPatience))
         return true;
     complain("there is no session bus (is DBUS_SESSION_BUS_ADDRESS set?)");
     return false;
@@ -200,7 +200,7 @@ int send(const Request &request)
         complain("the message is larger than a bus carries");
         return exitFailure;
     }
-    if (!connectToBus(QCopBus::Sending))
+    if (!connectToBus())
         return exitFailure;
     if (!QCopChannel::send(request.channel, request.message, request.data) ||
         !QCopBus::instance()->sync(busPatience)) {
@@ -288,7 +288,8 @@ void guardStandardStreams()
 
 int listen(const Request &request)
 {
-    if (!connectToBus(QCopBus::Receiving))
+    QCopBus::instance()->receive();
+    if (!connectToBus())
         return exitFailure;
     const Listener listener(request);
     complain("listening on ", escaped(request.channel));

@@ -1,7 +1,5 @@
 #include "BusRelay.h"
 
-#include "UnixSocket.h"
-
 #include <array>
 #include <poll.h>
 #include <sys/socket.h>
@@ -18,10 +16,10 @@ bool hasInput(const pollfd &end)
 
 } // namespace
 
-BusRelay::BusRelay(const QString &busToReach, const QByteArray &word)
+BusRelay::BusRelay(const QString &busToReach, const QByteArray &word, Door kind)
     : heldWord(word)
     , bus(busToReach)
-    , door(listeningSocket(address()))
+    , door(listeningSocket(kind, folder.filePath(QStringLiteral("bus"))))
     , porter([this] { run(); })
 {}
 
@@ -33,14 +31,10 @@ BusRelay::~BusRelay()
     close(door);
 }
 
-QString BusRelay::address() const
-{
-    return busAddress(folder.filePath(QStringLiteral("bus")));
-}
-
 void BusRelay::run()
 {
     for (int program = accept(door, nullptr, nullptr); program >= 0; program = accept(door, nullptr, nullptr)) {
+        ++served;
         const int atTheBus = connectedSocket(bus);
         serve(program, atTheBus);
         close(atTheBus);
@@ -52,26 +46,32 @@ void BusRelay::serve(int program, int atTheBus)
 {
     bool isOpen = atTheBus >= 0;
     while (isOpen && !ended) {
-        std::array<pollfd, 2> ends{{{atTheBus, POLLIN, 0}, {holding && !released ? -1 : program, POLLIN, 0}}};
+        const bool isDeaf = holding && !released;
+        std::array<pollfd, 2> ends{
+            {{atTheBus, POLLIN, 0}, {program, static_cast<short>(isDeaf ? POLLRDHUP : POLLIN), 0}}};
         poll(ends.data(), ends.size(), pollMs);
         if (hasInput(ends[0]))
             isOpen = passOn(atTheBus, program, false);
-        if (hasInput(ends[1]))
+        if (isDeaf && ends[1].revents != 0)
+            isOpen = false; // it went
+        else if (hasInput(ends[1]))
             isOpen = isOpen && passOn(program, atTheBus, true);
     }
 }
 
-// The first time, the word stays in the socket with what it came with.
+// The word stays in the socket.
 bool BusRelay::passOn(int from, int to, bool isProgram)
 {
     std::array<char, 65536> piece{};
     const ssize_t peeked = recv(from, piece.data(), piece.size(), MSG_PEEK);
     if (peeked <= 0)
         return false;
-    if (isProgram && !released && QByteArray::fromRawData(piece.data(), peeked).contains(heldWord)) {
-        holding = true;
-        return true;
+    ssize_t length = peeked;
+    if (isProgram && !released) {
+        const qsizetype found = QByteArray::fromRawData(piece.data(), peeked).indexOf(heldWord);
+        holding = holding || found >= 0;
+        length = found >= 0 ? found : peeked;
     }
-    const ssize_t length = recv(from, piece.data(), static_cast<size_t>(peeked), 0);
-    return length > 0 && send(to, piece.data(), static_cast<size_t>(length), MSG_NOSIGNAL) == length;
+    length = length > 0 ? recv(from, piece.data(), static_cast<size_t>(length), 0) : 0;
+    return length == 0 || send(to, piece.data(), static_cast<size_t>(length), MSG_NOSIGNAL) == length;
 }

@@ -1,6 +1,8 @@
 // A way to the bus on which a word can be held back.
 #pragma once
 
+#include "BusSocket.h"
+
 #include <QtCore/QTemporaryDir>
 
 #include <atomic>
@@ -11,11 +13,13 @@
 class BusRelay
 {
 public:
-    BusRelay(const QString &bus, const QByteArray &word);
+    BusRelay(const QString &bus, const QByteArray &word, Door kind = Door::File);
     ~BusRelay();
     Q_DISABLE_COPY_MOVE(BusRelay)
 
-    QString address() const;
+    QString address() const { return addressOf(door); }
+    /// How many connections there have been.
+    int callers() const { return served; }
     bool isHolding() const { return holding; }
     void release() { released = true; }
 
@@ -28,6 +32,7 @@ private:
     const QByteArray heldWord;
     const QString bus;
     const int door;
+    std::atomic<int> served = 0;
     std::atomic<bool> holding = false;
     std::atomic<bool> released = false;
     std::atomic<bool> ended = false;

@@ -1,6 +1,6 @@
 #include "PrivateBus.h"
 
-#include "UnixSocket.h"
+#include "BusSocket.h"
 
 #include <QtCore/QFile>
 

@@ -1,5 +1,5 @@
 // kavqcop, as a shell calls it.
-#include "BusRelay.h"
+#include "Command.h"
 #include "Peer.h"
 #include "PrivateBus.h"
 #include "TestGroup.h"
@@ -9,9 +9,7 @@
 #include <csignal>
 
 #include <fcntl.h>
-#include <netinet/in.h>
 #include <sys/prctl.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
@@ -20,71 +18,7 @@ constexpr char phone[] = "/KAV/phone";
 constexpr int limitMs = 60000;
 constexpr int exitFailure = 1;
 constexpr int exitUsage = 2;
-using Arguments = QList<QByteArray>;
-
-/// A shell line that calls its $0 with `arguments`. QProcess takes texts, arguments are bytes: printf makes them of
-/// octal escapes.
-QString shellLine(const Arguments &arguments)
-{
-    QString line = QStringLiteral("exec \"$0\"");
-    for (const QByteArray &argument : arguments) {
-        line += QStringLiteral(" \"$(printf '");
-        for (const char byte : argument)
-            line += QStringLiteral("\\%1").arg(static_cast<unsigned char>(byte), 3, 8, QLatin1Char('0'));
-        line += QStringLiteral("')\"");
-    }
-    return line;
-}
-
-/// A running kavqcop.
-class Command
-{
-public:
-    Command(const QString &bus, const Arguments &arguments)
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus);
-        process.setProcessEnvironment(environment);
-        process.setReadChannel(QProcess::StandardError);
-        endWithParent(process);
-        process.start(QStringLiteral("/bin/sh"),
-                      {QStringLiteral("-c"), shellLine(arguments),
-                       QCoreApplication::applicationDirPath() + QStringLiteral("/../bin/kavqcop")});
-    }
-
-    ~Command()
-    {
-        process.kill();
-        process.waitForFinished();
-    }
-    Q_DISABLE_COPY_MOVE(Command)
-
-    bool isListening()
-    {
-        while (!errors().contains("listening on ")) {
-            if (!process.waitForReadyRead(limitMs))
-                return false;
-        }
-        return true;
-    }
-
-    /// The exit status; -1 when it crashed or goes on.
-    int finish()
-    {
-        if (process.state() != QProcess::NotRunning)
-            process.waitForFinished(limitMs);
-        const bool isDone =
-            process.state() == QProcess::NotRunning && process.exitStatus() == QProcess::NormalExit;
-        return isDone ? process.exitCode() : -1;
-    }
-
-    QByteArray output() { return process.readAllStandardOutput(); }
-    QByteArray errors() { return errorText += process.readAllStandardError(); }
-
-private:
-    QProcess process;
-    QByteArray errorText;
-};
+using Arguments = Command::Arguments;
 
 } // namespace
 
@@ -108,8 +42,6 @@ private slots:
     void aMessageLargerThanABusCarriesIsRefused();
     void aFileWithoutAnEndIsRefused();
     void whatAPipeDeliversInPiecesIsSentWhole();
-    void aSilentNetworkAddressIsNoBus();
-    void aBusThatFallsSilentWhileItLetsASenderInIsNoBus();
     void aReaderThatGoesIsAnErrorAndNoDeath_data();
     void aReaderThatGoesIsAnErrorAndNoDeath();
     void wrongUsageIsRefusedWithItsReason_data();
@@ -288,33 +220,6 @@ void TestCommand::whatAPipeDeliversInPiecesIsSentWhole()
     for (int piece = 0; piece < 10; ++piece)
         whole += QByteArray(50000, static_cast<char>('a' + piece));
     QCOMPARE(peer.take(), Peer::line(1, "m", whole));
-}
-
-// It takes the connection and then says nothing.
-void TestCommand::aSilentNetworkAddressIsNoBus()
-{
-    const int door = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    sockaddr_in place{};
-    place.sin_family = AF_INET;
-    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof place;
-    QCOMPARE(::bind(door, reinterpret_cast<const sockaddr *>(&place), size), 0);
-    QCOMPARE(::listen(door, 8), 0);
-    QCOMPARE(::getsockname(door, reinterpret_cast<sockaddr *>(&place), &size), 0);
-    Command command(QStringLiteral("tcp:host=127.0.0.1,port=%1").arg(ntohs(place.sin_port)), {"send", phone, "m"});
-    QCOMPARE(command.finish(), exitFailure);
-    QVERIFY(command.errors().startsWith("kavqcop: there is no session bus"));
-    ::close(door);
-}
-
-// The probe does not ask for descriptors, libdbus does.
-void TestCommand::aBusThatFallsSilentWhileItLetsASenderInIsNoBus()
-{
-    const BusRelay relay(bus.address(), "NEGOTIATE_UNIX_FD");
-    Command command(relay.address(), {"send", phone, "update"});
-    QCOMPARE(command.finish(), exitFailure);
-    QVERIFY(relay.isHolding());
-    QVERIFY2(command.errors().contains("there is no session bus"), command.errors().constData());
 }
 
 void TestCommand::aReaderThatGoesIsAnErrorAndNoDeath_data()
