@@ -57,8 +57,8 @@ struct ModuleRule {
 };
 constexpr ModuleRule moduleRules[] = {
     {"QtSql", "QSql", "platform/handset/calllog/ tests/ bench/", "the call log is the one database"},
-    {"QtDBus", "QDBus", "platform/qt/qcop platform/handset/ofono/ tests/ bench/",
-     "channels and the live telephone"},
+    {"QtDBus", "QDBus", "platform/handset/ofono/ tests/ bench/", "the live telephone"},
+    {"dbus", "dbus/", "platform/qt/qcop", "channels"},
     {"QtTest", "QTest", "tests/", "product code has no tests in it"},
 };
 
@@ -211,7 +211,7 @@ Tree soundTree()
         {"utility/Screen.h", "#include \"ZListBox.h\"\n"},
         {"utility/Screen.cpp", "#include \"Screen.h\"\n#include \"tapi.h\"\n#include <QtCore/QString>\n"},
         {"platform/qt/classname.h", ""},
-        {"platform/qt/qcop/Bus.cpp", "#include <QtDBus/QDBusConnection>\n"},
+        {"platform/qt/qcop/Bus.cpp", "#include <dbus/dbus.h>\n"},
         {"platform/log/aplog.h", ""},
         {"platform/toolkit/ZListBox.h", "#include \"classname.h\"\n"},
         {"platform/telephony/tapi.h", ""},
@@ -300,6 +300,10 @@ void TestIncludes::aViolationIsFound_data()
         "platform/telephony/New.cpp includes <QtSql/QSqlQuery>");
     row("a shim speaks D-Bus", "platform/message/New.cpp", "#include <QtDBus/QDBusConnection>\n",
         "platform/message/New.cpp includes <QtDBus/QDBusConnection>");
+    row("a shim speaks D-Bus without Qt", "platform/message/New.cpp", "#include <dbus/dbus.h>\n",
+        "platform/message/New.cpp includes <dbus/dbus.h>");
+    row("a channel speaks D-Bus through Qt", "platform/qt/qcop/New.cpp", "#include <QtDBus/QDBusConnection>\n",
+        "platform/qt/qcop/New.cpp includes <QtDBus/QDBusConnection>");
     row("a shim asks a database without naming the module", "platform/telephony/New.cpp", "#include <QSqlQuery>\n",
         "platform/telephony/New.cpp includes <QSqlQuery>");
     row("a shim speaks D-Bus without naming the module", "platform/message/New.cpp",
