@@ -1,5 +1,7 @@
 #include "CallLogs.h"
 
+#include "GrownLog.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
@@ -23,6 +25,7 @@ using handset::CallKind;
 using handset::PastCall;
 
 constexpr int batchSize = 10'000;
+constexpr int mostWritten = usualLog;             // a larger log is grown from one of as many calls
 constexpr qint64 firstCallMs = 1'136'073'600'000; // 2006-01-01
 constexpr qint64 callEveryMs = 900'000;
 
@@ -80,17 +83,19 @@ QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
     return {};
 }
 
+QString write(const QString &path, int calls)
+{
+    Line line = openLine(path);
+    return line.telephone ? fill(*line.telephone, calls) : line.error;
+}
+
 // Under another name until it is whole.
-QString build(const QString &path, int calls)
+template <typename Make>
+QString build(const QString &path, Make make)
 {
     const QString unfinished = path + QStringLiteral(".unfinished");
     QDir(unfinished).removeRecursively();
-    Line line = openLine(unfinished);
-    if (!line.telephone)
-        return line.error;
-    QString error = fill(*line.telephone, calls);
-    line.telephone.reset();
-    if (!error.isEmpty())
+    if (QString error = make(unfinished); !error.isEmpty())
         return error;
     QDir(path).removeRecursively();
     return QDir().rename(unfinished, path) ? QString() : QStringLiteral("%1 cannot be made.").arg(path);
@@ -138,7 +143,26 @@ QString CallLogs::original(int calls, After after) const
 QString CallLogs::prepare(int calls) const
 {
     const QString path = original(calls, After::Closing);
-    return isUpToDate(path) ? QString() : build(path, calls);
+    if (isUpToDate(path))
+        return {};
+    if (calls <= mostWritten)
+        return build(path, [calls](const QString &where) { return write(where, calls); });
+    if (QString error = prepare(mostWritten); !error.isEmpty())
+        return error;
+    const QString smaller = original(mostWritten, After::Closing);
+    return build(path, [&](const QString &where) {
+        std::fprintf(stderr, "  building a log of %d calls from one of %d\n", calls, mostWritten);
+        const QString file = QLatin1Char('/') + QLatin1StringView(logName);
+        return QDir().mkpath(where) && copyFiles(smaller, where)
+                   ? growLog(where + file, smaller + file, calls / mostWritten)
+                   : QStringLiteral("%1 cannot be copied.").arg(smaller);
+    });
+}
+
+void CallLogs::remove(int calls) const
+{
+    for (const After after : {After::Closing, After::Crash})
+        QDir(original(calls, after)).removeRecursively();
 }
 
 QString CallLogs::prepareCrashed(int calls) const

@@ -14,6 +14,10 @@ namespace bench {
 
 inline constexpr auto logName = "calllog.db";
 
+// Calls.
+inline constexpr int usualLog = 1'000'000;  ///< of someone who has had the telephone for decades
+inline constexpr int largeLog = 10'000'000; ///< built only when it is asked for, and not kept
+
 /// The simulated telephone on a log of its own, with a clock that stands still.
 struct Line {
     std::shared_ptr<const QTemporaryDir> directory; ///< goes with the last that uses it
@@ -39,9 +43,11 @@ public:
         Crash ///< killed with a call connected and calls in the write-ahead log
     };
 
-    /// Builds the log of `calls` calls where it is missing. Answers what went wrong.
+    /// Builds the log of `calls` calls where it is missing; beyond a million, whole millions. Answers what went wrong.
     QString prepare(int calls) const;
     QString prepareCrashed(int calls) const;
+    /// Removes the logs of `calls` calls.
+    void remove(int calls) const;
 
     /// A copy of the log of `calls` calls; null where it cannot be made.
     std::shared_ptr<const QTemporaryDir> copy(int calls, After after = After::Closing) const;

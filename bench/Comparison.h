@@ -36,7 +36,7 @@ struct Side {
     std::optional<Program> program = {};
 };
 
-/// What decides whether a row is good, in instructions: a ratio, or millions of them.
+/// What decides whether a row is good: a ratio of instructions, millions of them, or milliseconds.
 struct Bar {
     double most; ///< is allowed
     double aim;  ///< is wanted; for information
@@ -52,6 +52,8 @@ struct Comparison {
     Side ours;
     std::vector<Alternative> beside = {};
     std::optional<Bar> millions = {}; ///< of ours alone, in an iteration
+    /// Of ours alone, on the wall: where what the kernel and the disk do decides, and a bar far off the usual.
+    std::optional<Bar> milliseconds = {};
     Clock clock = Clock::Processor;
     benchmark::IterationCount iterations = 0; ///< of a timed repetition; 0 is as many as it takes to be timed well
     int operations = 1;             ///< of an iteration; where there are many, figures are of one of them

@@ -11,7 +11,8 @@ struct Options {
     QString only;
     QString directory;
     QString profiles;   ///< empty: they are not kept
-    int largestLog = 0; ///< calls of the largest log that is reopened after a crash
+    QString markdown;   ///< the file for the tables; empty: none
+    int largestLog = 0; ///< calls of the largest log that is reopened
 
     // What the program calls itself with, under callgrind and to crash.
     QString countedRow; ///< empty in a run of a user's

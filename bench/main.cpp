@@ -115,9 +115,22 @@ int measureEverything(const bench::Options &options, const QString &home)
         std::fprintf(stderr, "Nothing has \"%s\" in its name.\n", qUtf8Printable(options.only));
         return 2;
     }
-    std::printf("Instructions of one operation, and times: each side %d times, taking turns.\n",
-                options.repetitions);
-    return bench::report(results, endured) ? EXIT_SUCCESS : EXIT_FAILURE;
+    const bench::Summary summary = bench::summarize(results, endured);
+    bench::print(summary, options.repetitions);
+    if (!options.markdown.isEmpty() && !bench::writePage(options.markdown, summary, options.repetitions)) {
+        std::fprintf(stderr, "%s cannot be written.\n", qUtf8Printable(options.markdown));
+        return EXIT_FAILURE;
+    }
+    return summary.isGood() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+// As above. What is too large to be kept goes with the run.
+int measureInRun(const bench::Options &options, const QString &home)
+{
+    const int result = measureEverything(options, home);
+    if (options.largestLog > bench::usualLog)
+        bench::CallLogs(options.directory).remove(options.largestLog);
+    return result;
 }
 
 } // namespace
@@ -133,5 +146,5 @@ int main(int argc, char **argv)
     const bench::Options options = bench::readOptions();
     if (!options.crashIn.isEmpty())
         return bench::recordAndCrash(options.crashIn);
-    return options.countedRow.isEmpty() ? measureEverything(options, home.path()) : countOneSide(options);
+    return options.countedRow.isEmpty() ? measureInRun(options, home.path()) : countOneSide(options);
 }

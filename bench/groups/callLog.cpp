@@ -16,7 +16,7 @@ namespace {
 using handset::PastCall;
 
 constexpr int few = 100;
-constexpr int many = 1'000'000;
+constexpr int many = usualLog;
 constexpr Bar hardlySlower{1.2, 1.05};
 
 // A batch: so many that SQLite moves its write-ahead log into the database a few times in each, on all sides.

@@ -1,60 +1,100 @@
-// Opening a call log after a crash, until the first figure is there: a large log beside a small one.
+// Opening a call log, after a crash and after a proper end, until the first screen is there: a large log beside a small
+// one.
 #include "CallLogs.h"
 #include "Counted.h"
+#include "FixedTelephone.h"
 #include "Groups.h"
 #include "Handset.h"
-#include "tapi.h"
+#include "PHONE_UI_RecentCallTimesView.h"
+#include "Stage.h"
+#include "ZListBox.h"
+#include "ZListItem.h"
 
 namespace bench {
 
 namespace {
 
+using After = CallLogs::After;
+
 constexpr int few = 100;
 constexpr Bar hardlySlower{1.5, 1.1};
+constexpr Bar unnoticed{100, 50}; // milliseconds
 
-Side side(const std::string &label, const CallLogs &logs, int calls)
+// The screen of call times. What is on it is looked at when it is painted.
+struct FirstScreen {
+    Line line;
+    std::unique_ptr<PHONE_UI_RecentCallTimesView> view;
+
+    bool open(const std::shared_ptr<const QTemporaryDir> &log, Stage &stage)
+    {
+        line = CallLogs::openIn(log);
+        handset::install(line.telephone);
+        view = std::make_unique<PHONE_UI_RecentCallTimesView>(&stage, nullptr);
+        view->show();
+        return stage.paint();
+    }
+
+    void close()
+    {
+        view.reset();
+        handset::install(nullptr);
+        line = {};
+    }
+
+    /// What stands beside "Lifetime Calls".
+    QString lifetime() const
+    {
+        const auto *list = view->findChild<ZListBox *>();
+        return list->item(list->count() - 1)->value();
+    }
+};
+
+Side side(const std::string &label, const CallLogs &logs, int calls, After after)
 {
-    return {label, [logs, calls](benchmark::State &state) {
+    return {label, [=](benchmark::State &state) {
+                useFixedTelephone(); // which opens the traces
+                Stage stage;
                 for (auto _ : state) {
                     state.PauseTiming();
-                    const auto where = logs.copy(calls, CallLogs::After::Crash);
+                    auto where = logs.copy(calls, after);
                     if (!where)
                         return state.SkipWithError("the call log cannot be copied");
+                    FirstScreen screen;
+                    bool isThere = false;
                     state.ResumeTiming();
-                    Line line;
-                    TAPI_CallTime time = {};
-                    int result = 0;
                     {
                         const Counted counted;
-                        line = CallLogs::openIn(where);
-                        handset::install(line.telephone);
-                        result = TAPI_LOG_GetLastCallTime(&time);
+                        isThere = screen.open(where, stage);
                     }
                     state.PauseTiming();
-                    handset::install(nullptr);
-                    const bool isThere = line.telephone && result == 0 && time.minutes == 1;
-                    line = {};
+                    isThere = isThere && screen.line.telephone && screen.lifetime() != QStringLiteral("00:00:00");
+                    screen.close();
+                    where.reset(); // removing it takes longer than what is measured
+                    stage.paint();
                     if (!isThere)
-                        return state.SkipWithError("the figure is not there");
+                        return state.SkipWithError("the screen is not there");
                     state.ResumeTiming();
                 }
             }};
 }
 
-Comparison reopening(const CallLogs &logs, int calls)
+Comparison reopening(const CallLogs &logs, int calls, After after)
 {
+    const bool hasCrashed = after == After::Crash;
     const std::string label = std::to_string(calls) + " calls";
     Comparison row;
-    row.name = "Reopening a log of " + label + " after a crash, to the first figure";
-    row.ours = side(label, logs, calls);
-    row.beside = {{side("100 calls", logs, few), hardlySlower}};
+    row.name = "Reopening a log of " + label + (hasCrashed ? " after a crash" : "") + ", to the first screen";
+    row.ours = side(label, logs, calls, after);
+    row.beside = {{side("100 calls", logs, few, after), hardlySlower}};
+    row.milliseconds = unnoticed;
     row.clock = Clock::Wall;
     row.iterations = 1;
     row.counted = 1;            // each opens a copy of its own
-    row.countsOneThread = true; // what goes on beside it does not delay the figure
-    row.prepare = [logs, calls] {
-        const QString error = logs.prepareCrashed(few);
-        return error.isEmpty() ? logs.prepareCrashed(calls) : error;
+    row.countsOneThread = true; // what goes on beside it does not delay the screen
+    row.prepare = [=] {
+        const auto prepare = [&](int size) { return hasCrashed ? logs.prepareCrashed(size) : logs.prepare(size); };
+        const QString error = prepare(few);
+        return error.isEmpty() ? prepare(calls) : error;
     };
     return row;
 }
@@ -65,9 +105,11 @@ std::vector<Comparison> reopeningComparisons(const QString &directory, int large
 {
     const CallLogs logs(directory);
     std::vector<Comparison> comparisons;
-    for (const int calls : {1'000'000, 10'000'000}) {
-        if (calls <= largest)
-            comparisons.push_back(reopening(logs, calls));
+    for (const int calls : {usualLog, largeLog}) {
+        for (const After after : {After::Closing, After::Crash}) {
+            if (calls <= largest)
+                comparisons.push_back(reopening(logs, calls, after));
+        }
     }
     return comparisons;
 }
