@@ -46,6 +46,7 @@ double sizeOf(QObject *(*make)())
 void openAndDestroy(const ScreenEntry &entry, Stage &stage, int times)
 {
     for (int i = 0; i < times; ++i) {
+        changeFigures();
         QWidget *screen = entry.create(&stage);
         screen->show();
         stage.paint();

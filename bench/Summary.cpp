@@ -183,8 +183,7 @@ RowLines linesOf(const Result &result, Summary &summary)
     return lines;
 }
 
-MemoryLine memoryLine(const char *memory, const Endured &row, long long before, long long after, double noise,
-                      Summary &summary)
+MemoryLine memoryLine(const char *memory, const Endured &row, long long before, long long after, Summary &summary)
 {
     MemoryLine line;
     line.screen = row.screen;
@@ -195,7 +194,7 @@ MemoryLine memoryLine(const char *memory, const Endured &row, long long before, 
         return line;
     }
     const double growth = static_cast<double>(after - before) / row.cycles;
-    const double bar = row.leftBehind + noise;
+    const double bar = row.leftBehind + mostGrowth + (row.leftBehind > 0 ? mostBrokenUp : 0);
     line.before = printed("%.1f KiB", static_cast<double>(before) / kib);
     line.after = printed("%.1f KiB", static_cast<double>(after) / kib);
     line.growth = printed("%.3f B", growth);
@@ -216,10 +215,8 @@ Summary summarize(const std::vector<Result> &results, const std::vector<Endured>
     for (const Endured &row : endured) {
         summary.warmUp = row.warmUp;
         summary.cycles = row.cycles;
-        const double heapNoise = row.leftBehind > 0 ? mostHeapBrokenUp : mostHeap;
-        summary.memory.push_back(memoryLine("heap", row, row.before.heap, row.after.heap, heapNoise, summary));
-        summary.memory.push_back(
-            memoryLine("resident", row, row.before.resident, row.after.resident, mostResident, summary));
+        summary.memory.push_back(memoryLine("heap", row, row.before.heap, row.after.heap, summary));
+        summary.memory.push_back(memoryLine("resident", row, row.before.resident, row.after.resident, summary));
     }
     return summary;
 }
