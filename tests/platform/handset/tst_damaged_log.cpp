@@ -791,7 +791,11 @@ void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
     QCOMPARE(percents[steps.indexOf(QStringLiteral("Reading the damaged call log"))], ofCalls);
     const QList<int> ofSessions{83, 100};
     QCOMPARE(percents[steps.indexOf(QStringLiteral("Reading the damaged log of data sessions"))], ofSessions);
-    QVERIFY(percents.last().size() > 4); // the check counts rows, too
+    // The check goes through calls and sessions, too. How many steps a row takes is SQLite's: one more or less is as good.
+    QVERIFY2(percents.last().size() >= 5 && percents.last().size() <= 8,
+             qPrintable(QString::number(percents.last().size())));
+    QVERIFY2(percents.last().value(1) >= 14 && percents.last().value(1) <= 23,
+             qPrintable(QString::number(percents.last().value(1))));
 }
 
 void TestDamagedLog::aReadingThatTakesNoTimeSaysNothing()
