@@ -22,7 +22,6 @@
 namespace {
 
 constexpr char phone[] = "/KAV/phone";
-constexpr int limitMs = 60000;
 constexpr int exitFailure = 1;
 constexpr char abstractName[] = "kav-bus-address-test";
 
