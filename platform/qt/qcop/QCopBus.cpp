@@ -84,8 +84,10 @@ void QCopBus::receive()
 
 void QCopBus::waitPatiently()
 {
+    if (isReady())
+        return;
     const QDeadlineTimer deadline(patient ? guiPatience : 0ms);
-    if (!isReady() && !waitFor(std::chrono::milliseconds(deadline.remainingTime())))
+    if (!waitFor(std::chrono::milliseconds(deadline.remainingTime())))
         patient = !deadline.hasExpired();
 }
 
