@@ -773,7 +773,7 @@ void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
         }
         percents.last() << percent;
     }
-    QStringList expected{QStringLiteral("Copying the damaged call log"),
+    QStringList expected{QStringLiteral("Copying the call log"),
                          QStringLiteral("Reading the damaged call log"),
                          QStringLiteral("Reading the damaged log of data sessions"),
                          QStringLiteral("Reading the damaged call log once more"),

@@ -113,7 +113,7 @@ Finding LogCopy::make()
     Finding space = findSpace(directory, spaceOfNewLog + 2 * directory.size(databaseFile()));
     if (space.verdict != Verdict::Usable)
         return space;
-    Progress copying(progress, QStringLiteral("Copying the damaged call log"), directory.size(databaseFile()),
+    Progress copying(progress, QStringLiteral("Copying the call log"), directory.size(databaseFile()),
                      Progress::bytes);
     if (const int error = directory.copy(databaseFile(), file, copying))
         return {Verdict::Blocked, QStringLiteral("it cannot be copied: %1").arg(blocked(error, file).reason)};
