@@ -81,12 +81,14 @@ QString rowsOf(const RowLines &row)
 
 QString page(const Summary &summary, int repetitions)
 {
+    const QString times = repetitions > 0 ? QStringLiteral("medians of %1 times").arg(repetitions)
+                                          : QStringLiteral("times were not taken");
     QString text =
-        QStringLiteral("# Results of the benchmarks\n\n"
-                       "Written by `scripts/bench --markdown`; [benchmarks.md](benchmarks.md) says how to "
-                       "read it. Instructions of one operation; times of %1 repetitions on %2 processors, "
-                       "%3, Qt %4.\n\n")
-            .arg(repetitions)
+        QStringLiteral(
+            "# Results of the benchmarks\n\n"
+            "Written by `scripts/bench --markdown`; [benchmarks.md](benchmarks.md) says how to read it.\n"
+            "Instructions of one operation; %1. %2 processors, %3, Qt %4.\n\n")
+            .arg(times)
             .arg(QThread::idealThreadCount())
             .arg(processor(), QString::fromLatin1(qVersion()));
     text += tableRow({"Row", "Side", "Instructions", "Ratio", "Bar", "Time", "Ratio"});

@@ -10,6 +10,8 @@
 #include "ZListBox.h"
 #include "ZListItem.h"
 
+#include <QtCore/QLocale>
+
 namespace bench {
 
 namespace {
@@ -81,7 +83,7 @@ Side side(const std::string &label, const CallLogs &logs, int calls, After after
 Comparison reopening(const CallLogs &logs, int calls, After after)
 {
     const bool hasCrashed = after == After::Crash;
-    const std::string label = std::to_string(calls) + " calls";
+    const std::string label = QLocale(QLocale::English).toString(calls).toStdString() + " calls";
     Comparison row;
     row.name = "Reopening a log of " + label + (hasCrashed ? " after a crash" : "") + ", to the first screen";
     row.ours = side(label, logs, calls, after);
