@@ -403,18 +403,22 @@ void TestContract::aChannelKnowsItsNames()
 
 void TestContract::tenThousandChannelsLeaveNoMemoryBehind()
 {
-    const auto cycle = [](int count) {
+    const auto growthOver = [](int count) {
+        const qint64 before = allocatedBytes();
         for (int number = 0; number < count; ++number) {
             const QCopChannel common(phone);
             const QCopChannel own(QByteArray::number(number));
         }
         settle();
+        return allocatedBytes() - before;
     };
-    cycle(10000); // tables that grow once do so here
-    const qint64 before = allocatedBytes();
-    cycle(10000);
-    const qint64 growth = allocatedBytes() - before;
-    QVERIFY2(growth < 20000, qPrintable(QStringLiteral("%1 bytes more").arg(growth))); // below a byte a channel
+    constexpr qint64 limit = 20000; // a byte a channel
+    // Tables grow once, and what the allocator keeps at hand for a thread counts as taken; what is left behind is left
+    // behind in every round.
+    qint64 growth = growthOver(10000);
+    for (int round = 0; round == 0 || (round < 5 && growth >= limit); ++round)
+        growth = growthOver(10000);
+    QVERIFY2(growth < limit, qPrintable(QStringLiteral("%1 bytes more").arg(growth)));
 }
 
 void TestContract::tenThousandMessagesLeaveNoMemoryBehind()
