@@ -172,7 +172,7 @@ private:
     QFont font; // of all texts of the row
 };
 
-constexpr qsizetype mostPictureBytes = 1024 * 1024; // some 45 rows of the phone's display
+constexpr qsizetype mostPictureBytes = qsizetype(1024) * 1024; // some 45 rows of the phone's display
 constexpr qsizetype bytesOfALook = 512;             // without a picture
 
 // By look. Null for a look that was painted once.

@@ -146,7 +146,7 @@ struct CaptionLook {
     friend size_t qHash(const CaptionLook &look, size_t seed = 0) { return qHash(look.text, seed); }
 };
 
-constexpr qsizetype mostCaptionBytes = 512 * 1024; // some 20 titles on the phone's display
+constexpr qsizetype mostCaptionBytes = qsizetype(512) * 1024; // some 20 titles on the phone's display
 
 QPixmap *newPicture(const QPainter &painter, const CaptionLook &look)
 {
