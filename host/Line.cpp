@@ -14,7 +14,7 @@ using LineState = Line::Telephone::LineState;
 
 namespace {
 
-constexpr StatusMeaning meaning{
+constexpr StatusMeaning lineMeaning{
     QT_TRANSLATE_NOOP("host::StatusText", "the number is not one that can be dialed"),
     QT_TRANSLATE_NOOP("host::StatusText", "the line is in another state"),
     QT_TRANSLATE_NOOP("host::StatusText", "not allowed now: nothing more may be charged")};
@@ -179,7 +179,7 @@ void Line::addReadyMadeHistory()
 
 void Line::finish(int status)
 {
-    lastFailure = refusalText(status, meaning);
+    lastFailure = refusalText(status, lineMeaning);
     emit changed();
 }
 

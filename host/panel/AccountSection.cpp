@@ -17,7 +17,7 @@ using handset::Handset;
 
 namespace {
 
-constexpr StatusMeaning meaning{
+constexpr StatusMeaning accountMeaning{
     QT_TRANSLATE_NOOP("host::StatusText", "an amount of at least one unit, and not more than the account holds"),
     QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
     QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
@@ -87,7 +87,7 @@ void AccountSection::topUp()
     const QDate day = expires->date();
     const handset::Date until{static_cast<quint16>(day.year()), static_cast<quint8>(day.month()),
                               static_cast<quint8>(day.day())};
-    tell(failure, refusalText(line.telephone()->charging().topUp(amount->text(), until), meaning));
+    tell(failure, refusalText(line.telephone()->charging().topUp(amount->text(), until), accountMeaning));
     refresh();
 }
 

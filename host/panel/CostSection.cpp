@@ -17,7 +17,7 @@ using handset::Handset;
 
 namespace {
 
-constexpr StatusMeaning meaning{
+constexpr StatusMeaning costMeaning{
     QT_TRANSLATE_NOOP("host::StatusText", "no price, or a currency of more than three characters"),
     QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
     QT_TRANSLATE_NOOP("host::StatusText", "the SIM card refuses")};
@@ -96,7 +96,8 @@ void CostSection::setType(int chosen)
 {
     AdviceOfCharge *advice = line.handset().adviceOfCharge();
     const auto chargeType = static_cast<quint8>(chosen);
-    tell(failure, refusalText(advice ? advice->setChargeType(chargeType) : int{handset::NotAvailable}, meaning));
+    tell(failure,
+         refusalText(advice ? advice->setChargeType(chargeType) : int{handset::NotAvailable}, costMeaning));
     refresh();
 }
 
@@ -105,7 +106,7 @@ void CostSection::setPrice()
     AdviceOfCharge *advice = line.handset().adviceOfCharge();
     const int status = advice ? advice->setPriceAndCurrency(price->text(), currency->text())
                               : static_cast<int>(handset::NotAvailable);
-    tell(failure, refusalText(status, meaning));
+    tell(failure, refusalText(status, costMeaning));
     if (status == handset::Success) {
         price->setModified(false); // what the SIM could keep is shown from now on
         currency->setModified(false);

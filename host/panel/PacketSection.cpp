@@ -21,7 +21,7 @@ using handset::PacketData;
 
 namespace {
 
-constexpr StatusMeaning meaning{
+constexpr StatusMeaning packetMeaning{
     QT_TRANSLATE_NOOP("host::StatusText", "an access point name has 1 to 101 Latin-1 characters"),
     QT_TRANSLATE_NOOP("host::StatusText", "a session is running, or none is"),
     QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
@@ -146,7 +146,7 @@ void PacketSection::stop()
 
 void PacketSection::told(int status)
 {
-    tell(failure, refusalText(status, meaning));
+    tell(failure, refusalText(status, packetMeaning));
     refresh();
 }
 

@@ -15,7 +15,7 @@ using handset::sim::Pin2;
 
 namespace {
 
-constexpr StatusMeaning meaning{
+constexpr StatusMeaning pin2Meaning{
     QT_TRANSLATE_NOOP("host::StatusText", "PUK2 has eight digits, a PIN2 four to eight"),
     QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
     QT_TRANSLATE_NOOP("host::StatusText", "PUK2 is blocked, too")};
@@ -115,13 +115,13 @@ void Pin2Section::say(const QString &text)
 
 void Pin2Section::setOn(bool on)
 {
-    say(refusalText(line.telephone()->simCard().setPin2Enabled(on), meaning));
+    say(refusalText(line.telephone()->simCard().setPin2Enabled(on), pin2Meaning));
     refresh();
 }
 
 void Pin2Section::powerCycle()
 {
-    say(refusalText(line.telephone()->simCard().powerCycle(), meaning));
+    say(refusalText(line.telephone()->simCard().powerCycle(), pin2Meaning));
     refresh();
 }
 
@@ -149,7 +149,7 @@ void Pin2Section::unblock()
     puk->forget();
     newPin->forget();
     if (status != 0)
-        say(refusalText(status, meaning));
+        say(refusalText(status, pin2Meaning));
     else
         say(accepted ? tr("The new PIN2 counts.") : tr("Wrong PUK2."));
     refresh();

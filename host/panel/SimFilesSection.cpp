@@ -15,9 +15,9 @@ using Card = handset::sim::SimCard;
 
 namespace {
 
-constexpr StatusMeaning meaning{QT_TRANSLATE_NOOP("host::StatusText", "there is no such rule"),
-                                QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
-                                QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
+constexpr StatusMeaning simFileMeaning{QT_TRANSLATE_NOOP("host::StatusText", "there is no such rule"),
+                                       QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+                                       QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 
 QString hex(const QByteArray &bytes)
 {
@@ -120,7 +120,7 @@ SimFilesSection::SimFilesSection(Line &drivenLine)
 void SimFilesSection::setRule(std::size_t row, int choice)
 {
     const quint8 rule = rules[static_cast<std::size_t>(choice)].rule;
-    tell(failure, refusalText(line.telephone()->simCard().setUpdateRule(files[row].file, rule), meaning));
+    tell(failure, refusalText(line.telephone()->simCard().setUpdateRule(files[row].file, rule), simFileMeaning));
     refresh();
 }
 

@@ -16,9 +16,9 @@ using handset::sim::Tariff;
 
 namespace {
 
-constexpr StatusMeaning meaning{QT_TRANSLATE_NOOP("host::StatusText", "the network knows no such tariff"),
-                                QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
-                                QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
+constexpr StatusMeaning tariffMeaning{QT_TRANSLATE_NOOP("host::StatusText", "the network knows no such tariff"),
+                                      QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
+                                      QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 constexpr double greatest = Tariff::greatestElement / 10.0;
 
 constexpr std::array<const char *, 4> rowTexts{QT_TRANSLATE_NOOP("host::TariffSection", "Free"),
@@ -129,7 +129,7 @@ void TariffSection::setElements(const Column &column)
 void TariffSection::set(const Column &column, const Tariff &tariff)
 {
     const int status = line.telephone()->charging().setTariff(column.direction, tariff);
-    tell(failure, refusalText(status, meaning));
+    tell(failure, refusalText(status, tariffMeaning));
     refresh();
 }
 

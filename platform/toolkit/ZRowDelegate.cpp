@@ -173,7 +173,7 @@ private:
 };
 
 constexpr qsizetype mostPictureBytes = qsizetype(1024) * 1024; // some 45 rows of the phone's display
-constexpr qsizetype bytesOfALook = 512;             // without a picture
+constexpr qsizetype bytesOfALook = 512;                        // without a picture
 
 // By look. Null for a look that was painted once.
 ZKept<RowLook, QPixmap> &pictures()

@@ -28,3 +28,5 @@ QString differenceOf(const QStringList &actual, const QStringList &expected)
     return QStringLiteral("different from line %1 on\n  actual:").arg(equal + 1) + indent + actual.join(indent) +
            QStringLiteral("\n  expected:") + indent + expected.join(indent);
 }
+
+#include "moc_PhoneTest.cpp"

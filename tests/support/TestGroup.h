@@ -10,7 +10,7 @@
 /// QCoreApplication, QGuiApplication, QApplication, NoApplication, or a class of the test's own that is made from
 /// argc and argv and lives until the group has ended.
 #define KAV_TEST_GROUP(TEST, APPLICATION)                                                                         \
-    static const TestGroup::Registration testGroupOfThisFile(__FILE__, TestGroup::run<TEST, APPLICATION>)
+    static const TestGroup::Registration groupOf##TEST(__FILE__, TestGroup::run<TEST, APPLICATION>)
 
 /// For tests of values and functions, which need none.
 struct NoApplication {

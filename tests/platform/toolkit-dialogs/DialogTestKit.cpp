@@ -77,3 +77,5 @@ void DialogTestKit::Answers::note(const QString &answer)
     if (then)
         then();
 }
+
+#include "moc_DialogTestKit.cpp"

@@ -127,3 +127,5 @@ void ToolkitTestKit::noWarnings()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
 }
+
+#include "moc_ToolkitTestKit.cpp"
