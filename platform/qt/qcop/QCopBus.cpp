@@ -179,8 +179,8 @@ bool QCopBus::send(const QByteArray &channel, const QByteArray &message, const Q
     return isQueued;
 }
 
-bool QCopBus::sync(std::chrono::milliseconds limit)
+bool QCopBus::sync(std::chrono::milliseconds patience)
 {
     unsynced = false;
-    return connection && connection->sync(QDeadlineTimer(limit));
+    return connection && connection->sync(patience);
 }

@@ -24,7 +24,7 @@ class QCopBus : public QObject
 
 public:
     /// The process's bus; null while there is no application object. It goes with the application, and sees to it
-    /// that what was sent is at the bus before, if that takes it no longer than five seconds.
+    /// that what was sent is at the bus before, unless the bus takes nothing for five seconds.
     static QCopBus *instance();
 
     /// From the first call on, what other processes send is delivered here. Connects if that is not done yet and the
@@ -49,8 +49,8 @@ public:
     /// What a bus carries: 64 MiB for each of the three, 127 MiB for all.
     static bool isSendable(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 
-    /// Waits until everything sent is at the bus. False when it did not get there within `limit`.
-    bool sync(std::chrono::milliseconds limit);
+    /// Waits until everything sent is at the bus. False when the bus took nothing for as long as `patience`.
+    bool sync(std::chrono::milliseconds patience);
 
 signals:
     /// The bus went away.

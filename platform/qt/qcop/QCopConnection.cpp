@@ -7,6 +7,8 @@
 
 #include <limits>
 
+#include <poll.h>
+
 namespace {
 
 constexpr qsizetype mostKept = 4096; // bytes of a message that is kept to be sent again
@@ -98,9 +100,28 @@ bool QCopConnection::send(const QByteArray &channel, const QByteArray &message, 
            dbus_connection_get_is_connected(connection.get());
 }
 
-bool QCopConnection::sync(QDeadlineTimer deadline)
+// The bus handles the messages of a connection in their order: its answer says that all before it are handled.
+bool QCopConnection::sync(std::chrono::milliseconds patience)
 {
-    return isLoggedIn() && waitForAnswer(ask("GetId"), deadline);
+    if (!isLoggedIn())
+        return false;
+    const quint32 question = ask("GetId");
+    QDeadlineTimer deadline(patience);
+    exchange(QDeadlineTimer(0));
+    while (answered < question && !over && !deadline.hasExpired()) {
+        if (waitForRoom(deadline))
+            deadline = QDeadlineTimer(patience);
+        exchange(QDeadlineTimer(0));
+    }
+    return answered >= question;
+}
+
+bool QCopConnection::waitUntilReady(QDeadlineTimer deadline)
+{
+    dispatch();
+    while (!isReady() && !over && !deadline.hasExpired())
+        exchange(deadline);
+    return isReady();
 }
 
 // The number of the question; one that is never answered where there is no memory for it.
@@ -115,15 +136,19 @@ quint32 QCopConnection::ask(const char *method, const char *argument)
     return number;
 }
 
-// The bus handles the messages of a connection in their order: its answer says that all before it are handled.
-bool QCopConnection::waitForAnswer(quint32 question, QDeadlineTimer deadline)
+// Waits for word from the bus, or until it has room for some of what is queued for it. Whether it has.
+bool QCopConnection::waitForRoom(QDeadlineTimer deadline) const
 {
+    const bool hasWords = dbus_connection_has_messages_to_send(connection.get());
+    pollfd bus{-1, static_cast<short>(hasWords ? POLLIN | POLLOUT : POLLIN), 0};
+    dbus_connection_get_unix_fd(connection.get(), &bus.fd);
+    return ::poll(&bus, 1, static_cast<int>(deadline.remainingTime())) > 0 && (bus.revents & POLLOUT);
+}
+
+void QCopConnection::exchange(QDeadlineTimer deadline)
+{
+    dbus_connection_read_write(connection.get(), static_cast<int>(deadline.remainingTime()));
     dispatch();
-    while (answered < question && !over && !deadline.hasExpired()) {
-        dbus_connection_read_write(connection.get(), static_cast<int>(deadline.remainingTime()));
-        dispatch();
-    }
-    return answered >= question;
 }
 
 void QCopConnection::dispatch()

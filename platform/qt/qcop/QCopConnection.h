@@ -7,6 +7,7 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QObject>
 
+#include <chrono>
 #include <memory>
 
 struct DBusConnection;
@@ -47,13 +48,13 @@ public:
     /// The bus closed the connection, and all that came before is delivered.
     bool isOver() const { return over; }
 
-    bool waitUntilReady(QDeadlineTimer deadline) { return waitForAnswer(needed, deadline) && isReady(); }
+    bool waitUntilReady(QDeadlineTimer deadline);
 
     /// Queues a message of at most what QCopBus::isSendable() tells. False where nobody is logged in.
     bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 
-    /// Waits until the bus has handled all that was sent. False when it has not by the deadline.
-    bool sync(QDeadlineTimer deadline);
+    /// Waits until the bus has handled all that was sent. False when it has taken nothing for as long as `patience`.
+    bool sync(std::chrono::milliseconds patience);
 
 signals:
     /// Becomes ready.
@@ -67,7 +68,8 @@ private:
     void take(DBusMessage *message);
     void takeAnswer(DBusMessage *message);
     quint32 ask(const char *method, const char *argument = nullptr);
-    bool waitForAnswer(quint32 question, QDeadlineTimer deadline);
+    bool waitForRoom(QDeadlineTimer deadline) const;
+    void exchange(QDeadlineTimer deadline);
     QCopWire::Message messageOf(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 
     const Opened connection;

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int pollMs = 5;
+constexpr int restMs = 150;
 
 bool hasInput(const pollfd &end)
 {
@@ -56,6 +57,8 @@ void BusRelay::serve(int program, int atTheBus)
             isOpen = false; // it went
         else if (hasInput(ends[1]))
             isOpen = isOpen && passOn(program, atTheBus, true);
+        if (tired)
+            poll(nullptr, 0, restMs);
     }
 }
 

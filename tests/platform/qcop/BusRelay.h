@@ -22,6 +22,8 @@ public:
     int callers() const { return served; }
     bool isHolding() const { return holding; }
     void release() { released = true; }
+    /// From then on it takes a rest after each 64 KiB or less of the program's.
+    void tire() { tired = true; }
 
 private:
     void run();
@@ -35,6 +37,7 @@ private:
     std::atomic<int> served = 0;
     std::atomic<bool> holding = false;
     std::atomic<bool> released = false;
+    std::atomic<bool> tired = false;
     std::atomic<bool> ended = false;
     std::thread porter;
 };

@@ -39,6 +39,7 @@ private slots:
     void whoOnlySendsIsSubscribedToNothing();
     void aSenderThatSubscribesLaterGetsNothingOfItsOwnBack();
     void aProcessDoesNotEndBeforeItsMessagesAreAtTheBus();
+    void aBusThatTakesLongForTheLastMessagesGetsThemAll();
     void aBusThatComesLaterIsFoundByAWaitingSubscriber();
     void aBusKilledAmidABurstLosesNothingWithinTheProcess();
     void aBusThatIsGoneIsToldByTheNextMessage();
@@ -179,6 +180,24 @@ void TestBusComesAndGoes::aProcessDoesNotEndBeforeItsMessagesAreAtTheBus()
     bus.goOn();
     QCOMPARE(sender.finish(), 0);
     QCOMPARE(receiver.take(), Peer::patternLine(1, "large", size));
+}
+
+// Longer than a bus is waited for that takes nothing.
+void TestBusComesAndGoes::aBusThatTakesLongForTheLastMessagesGetsThemAll()
+{
+    constexpr qint64 size = 4000000;
+    const PrivateBus bus;
+    BusRelay relay(bus.address(), "a word that nobody says");
+    Peer receiver(bus.address());
+    QVERIFY(receiver.subscribe(1, phone));
+    Peer sender(relay.address());
+    QVERIFY(sender.connectToBus());
+    relay.tire();
+    QVERIFY(sender.sendPattern(phone, "large", size));
+    QVERIFY(sender.send(phone, "the last"));
+    QCOMPARE(sender.finish(), 0);
+    QCOMPARE(receiver.take(), Peer::patternLine(1, "large", size));
+    QCOMPARE(receiver.take(), Peer::line(1, "the last"));
 }
 
 void TestBusComesAndGoes::aBusThatComesLaterIsFoundByAWaitingSubscriber()
