@@ -96,10 +96,9 @@ function(kav_compile_together target)
         return()
     endif()
     set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
-    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-        # Takes the files for headers.
-        target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
-    endif()
+    # What is said of headers is not meant for the files, nor that a local name is one of another file.
+    target_compile_options(${target} PRIVATE
+        $<IF:$<CXX_COMPILER_ID:GNU>,-Wno-subobject-linkage,-Wno-shadow>)
 endfunction()
 
 # kav_shared_library(TARGET [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
