@@ -95,10 +95,14 @@ function(kav_compile_together target)
     if(NOT KAV_UNITY)
         return()
     endif()
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
     # What is said of headers is not meant for the files, nor that a local name is one of another file.
-    target_compile_options(${target} PRIVATE
-        $<IF:$<CXX_COMPILER_ID:GNU>,-Wno-subobject-linkage,-Wno-shadow>)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        set(besides_the_point "-Wsubobject-linkage")
+    else()
+        set(besides_the_point "-Wshadow")
+    endif()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8
+        UNITY_BUILD_CODE_BEFORE_INCLUDE "#pragma GCC diagnostic ignored \"${besides_the_point}\"")
 endfunction()
 
 # kav_shared_library(TARGET [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
