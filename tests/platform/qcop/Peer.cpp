@@ -96,7 +96,9 @@ void Peer::goOn()
 int Peer::cycle(int count)
 {
     command("cycle " + QByteArray::number(count));
-    return answer().toInt();
+    bool isNumber = false;
+    const int waits = answer().toInt(&isNumber);
+    return isNumber ? waits : -1;
 }
 
 bool Peer::endsWithin(int milliseconds)

@@ -34,7 +34,8 @@ public:
     /// Stops its GUI thread until goOn().
     void hold();
     void goOn();
-    /// Makes and deletes a channel `count` times. The milliseconds it took.
+    /// Makes and deletes a channel `count` times. How often its GUI thread waited for something meanwhile; -1 when it
+    /// does not get to the end.
     int cycle(int count);
     /// Ends the input, on which the process ends. True when it does so within `milliseconds`.
     bool endsWithin(int milliseconds);

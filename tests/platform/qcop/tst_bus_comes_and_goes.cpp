@@ -70,14 +70,19 @@ void TestBusComesAndGoes::nothingIsAskedOfTheBusBeforeTheFirstMessage()
     QCOMPARE(peer.finish(), 0);
 }
 
+// The time is taken around everything, so that a busy machine only makes it longer. A timer may be a twentieth early.
 void TestBusComesAndGoes::manyChannelsAskForAMissingBusOnceASecondAtMost()
 {
+    QElapsedTimer timer;
+    timer.start();
     const FakeBus bus(FakeBus::TurnsAway);
     Peer peer(bus.address());
-    const int milliseconds = peer.cycle(10000);
+    QVERIFY(peer.cycle(10000) >= 0);
     QTRY_VERIFY_WITH_TIMEOUT(bus.callers() > 0, limitMs);
-    QVERIFY2(bus.callers() <= 1 + milliseconds / 1000,
-             qPrintable(QStringLiteral("%1 calls in %2 ms").arg(bus.callers()).arg(milliseconds)));
+    const int calls = bus.callers();
+    const qint64 milliseconds = timer.elapsed();
+    QVERIFY2(calls <= 1 + milliseconds / 950,
+             qPrintable(QStringLiteral("%1 calls in %2 ms").arg(calls).arg(milliseconds)));
     QCOMPARE(peer.finish(), 0);
 }
 
@@ -86,9 +91,9 @@ void TestBusComesAndGoes::aBusThatDoesNotAnswerHoldsUpTheFirstChannelOnly()
     const FakeBus bus(FakeBus::Silent);
     QVERIFY(bus.isListening());
     Peer peer(bus.address());
-    // A quarter of a second for each would be more than four minutes.
-    const int milliseconds = peer.cycle(1000);
-    QVERIFY2(milliseconds < 20000, qPrintable(QStringLiteral("%1 ms").arg(milliseconds)));
+    constexpr int channels = 1000;
+    const int waits = peer.cycle(channels); // the first waits for more than one thing
+    QVERIFY2(waits >= 0 && waits < channels / 10, qPrintable(QStringLiteral("%1 waits").arg(waits)));
     peer.make(1, phone);
     QVERIFY(!peer.send(phone, "at home"));
     QCOMPARE(peer.take(), Peer::line(1, "at home"));
