@@ -27,7 +27,7 @@ void TestUnload::theApplicationEndsWellAfterItsChannelsLibraryWasUnloaded()
     QVERIFY2(library.load(), qPrintable(library.errorString()));
     const auto send = reinterpret_cast<Send>(library.resolve("_ZN11QCopChannel4sendERK10QByteArrayS2_S2_"));
     QVERIFY(send);
-    QTRY_VERIFY(send("/KAV/phone", "message", "data"));
+    QTRY_VERIFY_WITH_TIMEOUT(send("/KAV/phone", "message", "data"), 60000);
     QVERIFY(library.unload());
 }
 
