@@ -288,8 +288,8 @@ QString StateDirectory::mendRights(const QString &name) const
             continue;
         if (S_ISLNK(status.st_mode))
             return QStringLiteral("\"%1\" is a symbolic link").arg(file);
-        if (!S_ISREG(status.st_mode))
-            continue;
+        if (!S_ISREG(status.st_mode)) // SQLite would wait at a pipe for ever
+            return QStringLiteral("\"%1\" is no regular file").arg(file);
         if ((status.st_mode & 0777) != 0600)
             ::chmod(encodedFile.constData(), 0600); // only the owner may
         if (::faccessat(AT_FDCWD, encodedFile.constData(), R_OK | W_OK, AT_EACCESS) != 0)

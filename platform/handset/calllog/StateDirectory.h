@@ -54,7 +54,8 @@ public:
     /// 0 for a name that is in use, ENOENT for one that is not; any other errno when that cannot be told.
     int find(const QString &name) const;
     /// Makes what SQLite left beside `name` readable and writable for its user alone. Answers what is wrong with the
-    /// one that is not and cannot be made so, part of a sentence that names it; empty when there is none.
+    /// one that is not and cannot be made so, or is no regular file, part of a sentence that names it; empty when there
+    /// is none.
     QString mendRights(const QString &name) const;
     /// Whether SQLite left recordings beside `name`: it was not closed. True also when that cannot be told.
     bool hasLeftovers(const QString &name) const;

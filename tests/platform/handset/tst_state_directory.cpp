@@ -63,6 +63,8 @@ private slots:
     void aDirectoryOfAnotherUserIsTold();
     void aLeftoverWithWrongRightsIsMendedOrNamed_data();
     void aLeftoverWithWrongRightsIsMendedOrNamed();
+    void whatIsNoFileBesideTheLogIsNamedAndNotWaitedFor_data();
+    void whatIsNoFileBesideTheLogIsNamedAndNotWaitedFor();
     void permissionsThatAreMissingAreTold_data();
     void permissionsThatAreMissingAreTold();
     void aCallLogThatCannotBeWrittenIsTold();
@@ -211,6 +213,41 @@ void TestStateDirectory::aLeftoverWithWrongRightsIsMendedOrNamed()
                                            "read and written (Permission denied).");
     QCOMPARE(answer, isOurs ? QByteArray("holding") : refusal.arg(crashed, victim).toUtf8());
     QCOMPARE(Phone(crashed).opened.error, QString());
+}
+
+void TestStateDirectory::whatIsNoFileBesideTheLogIsNamedAndNotWaitedFor_data()
+{
+    QTest::addColumn<QString>("leftover");
+    QTest::addColumn<int>("kind");
+    for (const char *suffix : {"-wal", "-shm", "-journal"}) {
+        const QString leftover = QStringLiteral("calllog.db") + QLatin1String(suffix);
+        QTest::addRow("a pipe as its %s", suffix) << leftover << S_IFIFO;
+        QTest::addRow("a directory as its %s", suffix) << leftover << S_IFDIR;
+        QTest::addRow("a socket as its %s", suffix) << leftover << S_IFSOCK;
+    }
+}
+
+// SQLite would open a pipe and wait for somebody to write into it.
+void TestStateDirectory::whatIsNoFileBesideTheLogIsNamedAndNotWaitedFor()
+{
+    QFETCH(QString, leftover);
+    QFETCH(int, kind);
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(second));
+    const QByteArray before = readFile(state.database());
+    const QByteArray path = QFile::encodeName(state.file(leftover));
+    QCOMPARE(kind == S_IFDIR ? ::mkdir(path.constData(), 0700)
+                             : ::mknod(path.constData(), static_cast<mode_t>(kind) | 0600, 0),
+             0);
+    QCOMPARE(Phone(state.path()).opened.error,
+             QStringLiteral("The call log \"%1\" cannot be used: \"%2\" is no regular file.")
+                 .arg(state.database(), state.file(leftover)));
+    QCOMPARE(readFile(state.database()), before);
+    QCOMPARE(::remove(path.constData()), 0);
+    const Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.notice, QString());
+    QCOMPARE(phone.figures().lifetime, quint64{1});
 }
 
 void TestStateDirectory::permissionsThatAreMissingAreTold_data()
