@@ -94,12 +94,13 @@ void EndsTest::aSignalClosesTheWindowAndTheCallLogInOrder()
     QVERIFY(!QFile::exists(path("state/calllog.db-wal"))); // SQLite's own sign of a database that was closed
 }
 
-// A tour for hours, with a call of 65 seconds that goes on.
+// With a call of 65 seconds that goes on. The tour has more to print than a pipe holds, which is read no further: the
+// signal finds it before its end, however late it comes.
 void EndsTest::aSignalEndsATourWithTheRunningCallWritten()
 {
     QFETCH(int, signal);
-    const QString script = write("long.tour", "state kept\ndial 5550123\nanswer\nclock +65s\nshow\n" +
-                                                  QByteArray("expect line connected\n").repeated(15'000));
+    const QString script = write("long.tour", "state kept\ndial 5550123\nanswer\nclock +65s\n" +
+                                                  QByteArray("show\n").repeated(15'000));
     QProcess process;
     start(process, {"--tour", path("tour"), "--script", script, "--state", path("state")});
     QByteArray output;
