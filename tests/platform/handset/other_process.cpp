@@ -8,15 +8,18 @@
 //   handset_other_process leave DIRECTORY        installs the telephone, makes a call of 9 s, and leaves main()
 //                                                with the call still on the line
 //   handset_other_process leave-session DIRECTORY
-//                                                the same with a packet-data session
+//                                                the same with a packet-data session, which begins when the session
+//                                                bus is there to tell of it
 // A directory that cannot be opened as expected is a line "error ..." or "notice ..." and exit code 1.
 #include "Clock.h"
 #include "Handset.h"
 #include "SimulatedTelephone.h"
 #include "Status.h"
+#include "qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
 
+#include <chrono>
 #include <cstdio>
 #include <random>
 #include <utility>
@@ -154,6 +157,9 @@ int leave(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock
 
 int leaveSession(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock &clock)
 {
+    using namespace std::chrono_literals;
+    if (!QCopBus::instance()->waitFor(60s))
+        return 1;
     install(opened.handset);
     if (phone.packets().startSession("x", 1, 2) != Success)
         return 1;

@@ -6,11 +6,13 @@
 #include "Schema.h"
 #include "Status.h"
 #include "TestGroup.h"
+#include "qcop/QCopBus.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
+#include <chrono>
 #include <random>
 
 using namespace handset;
@@ -261,6 +263,7 @@ void TestBroadcast::anotherProcessIsToldUpToTheEndOfTheApplication()
     const StateDir state;
     QCopChannel channel("/KAV/phone");
     const QSignalSpy spy(&channel, &QCopChannel::received);
+    QVERIFY(QCopBus::instance()->waitFor(std::chrono::minutes(1)));
     QProcess process;
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     endWithParent(process);
