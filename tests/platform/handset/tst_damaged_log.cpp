@@ -6,6 +6,7 @@
 #include "HandsetTestKit.h"
 #include "LogCheck.h"
 #include "PlainSqlite.h"
+#include "Sample.h"
 #include "Schema.h"
 #include "Status.h"
 #include "TestGroup.h"
@@ -192,7 +193,8 @@ void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
     for (qint64 edge = pageSize; edge < sample.closed.size(); edge += pageSize)
         lengths << edge;
     lengths << sample.closed.size() - 1;
-    for (const qint64 length : lengths) {
+    for (qsizetype i = 0; i < lengths.size(); i += sampleStride(5)) {
+        const qint64 length = lengths[i];
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         QVERIFY(writeFile(state.database(), sample.closed.left(length)));
@@ -207,7 +209,8 @@ void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
 
 void TestDamagedLog::aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes()
 {
-    for (qint64 length = 0; length < sample.crashed.size(); length += length < 200 ? 50 : 2011) {
+    for (qint64 length = 0; length < sample.crashed.size();
+         length += sampleStride(3) * (length < 200 ? 50 : 2011)) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         QVERIFY(writeFile(state.database(), sample.crashed.left(length)));
@@ -223,7 +226,8 @@ void TestDamagedLog::aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes()
 void TestDamagedLog::aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd()
 {
     qsizetype most = 0;
-    for (qint64 length = 0; length <= sample.crashedWal.size(); length += length < 100 ? 13 : 1021) {
+    for (qint64 length = 0; length <= sample.crashedWal.size();
+         length += sampleStride(3) * (length < 100 ? 13 : 1021)) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         QVERIFY(writeFile(state.database(), sample.crashed));
@@ -291,7 +295,7 @@ void TestDamagedLog::bytesChangedAtRandomNeverCrash()
     const auto below = [&](qsizetype bound) {
         return std::uniform_int_distribution<qsizetype>(0, bound - 1)(random);
     };
-    for (int round = 0; round < 70; ++round) {
+    for (int round = 0; round < 70; round += sampleStride(3)) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
         const bool closed = round % 2 == 0;
