@@ -11,6 +11,14 @@ namespace bench {
 
 namespace {
 
+std::string metText(const Summary &summary)
+{
+    std::string text = std::to_string(summary.met) + " of " + std::to_string(summary.bars) + " bars met";
+    if (summary.unjudged > 0)
+        text += "; " + std::to_string(summary.unjudged) + " more are on times, which this run did not take";
+    return text + ".";
+}
+
 void printSide(const SideLine &line)
 {
     std::printf("  %-34s %12s %7s  %-22s %-8s %9s  %s\n", line.label.c_str(), line.instructions.c_str(),
@@ -105,7 +113,7 @@ QString page(const Summary &summary, int repetitions)
     for (const MemoryLine &line : summary.memory)
         text +=
             tableRow({line.screen, line.memory, line.before, line.after, line.growth, line.bar + ": " + line.met});
-    return text + QStringLiteral("\n%1 of %2 bars met.\n").arg(summary.met).arg(summary.bars);
+    return text + QStringLiteral("\n%1\n").arg(QString::fromStdString(metText(summary)));
 }
 
 } // namespace
@@ -121,7 +129,7 @@ void print(const Summary &summary, int repetitions)
         printRow(row);
     if (!summary.memory.empty())
         printMemory(summary);
-    std::printf("\n%d of %d bars met.\n", summary.met, summary.bars);
+    std::printf("\n%s\n", metText(summary).c_str());
     if (summary.unmeasured > 0)
         std::printf("%d rows could not be measured.\n", summary.unmeasured);
 }

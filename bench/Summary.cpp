@@ -113,6 +113,8 @@ SideLine lineOfOurs(const Result &result, Summary &summary)
     if (row.milliseconds && isTimed(result, 0)) {
         const double ms = median(times(result.measured.sides.front(), Clock::Wall)) / nsPerMs;
         hold(line, ms, *row.milliseconds, "%.0f ms", summary);
+    } else if (row.milliseconds) {
+        ++summary.unjudged;
     }
     fillTimes(line, result, 0);
     return line;

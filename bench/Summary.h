@@ -53,6 +53,7 @@ struct Summary {
     int cycles = 0; ///< likewise, after those to warm up
     int bars = 0;
     int met = 0;
+    int unjudged = 0;   ///< bars on times, in a run that takes none
     int unmeasured = 0; ///< rows
 
     bool isGood() const { return met == bars && unmeasured == 0; }
