@@ -38,6 +38,8 @@ using handset::simulated::SimulatedTelephone;
 
 namespace {
 
+constexpr int patienceMs = 60'000;
+
 // A telephone that is not the simulated one and has no role at all.
 class BareHandset : public handset::Handset
 {
@@ -234,7 +236,7 @@ void WindowTest::thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade()
     expectSizeHintWarning();
     window->show();
     const QSize first = window->size();
-    QTRY_VERIFY(watch.withPanel.contains("host::LineSection"));
+    QTRY_VERIFY_WITH_TIMEOUT(watch.withPanel.contains("host::LineSection"), patienceMs);
     for (const char *part : {"host::PhoneBody", "host::PhoneKey", "host::MenuScreen"})
         QVERIFY2(paintedBefore.contains(QLatin1StringView(part)), part);
     QCOMPARE(window->size(), first);
@@ -264,7 +266,7 @@ void WindowTest::aTelephoneThatCannotBeOpenedClosesTheWindow()
     });
     expectSizeHintWarning();
     window->show();
-    QTRY_VERIFY(!window->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), patienceMs);
     QVERIFY(!window->complete());
     QVERIFY(!window->openScreen(0));
     QCOMPARE(tried, 1);
@@ -311,7 +313,7 @@ void WindowTest::howFarTheOpeningIsIsPaintedInThePanelsPlace()
     expectSizeHintWarning();
     window->show();
     const QSize first = window->size();
-    QTRY_VERIFY(watch.withPanel.contains("host::LineSection"));
+    QTRY_VERIFY_WITH_TIMEOUT(watch.withPanel.contains("host::LineSection"), patienceMs);
     QCOMPARE(shown, QStringList({"Reading the damaged call log", "12%", "Reading the damaged call log", "47%"}));
     QCOMPARE(duringOpening, first);
     QCOMPARE(window->size(), first);
@@ -348,7 +350,7 @@ void WindowTest::aWindowThatIsClosedInALongOpeningEndsWell()
     });
     expectSizeHintWarning();
     window->show();
-    QTRY_VERIFY(window->findChild<Panel *>());
+    QTRY_VERIFY_WITH_TIMEOUT(window->findChild<Panel *>(), patienceMs);
     QVERIFY(closed);
     QVERIFY(!window->isVisible());
 }
@@ -430,8 +432,9 @@ void WindowTest::damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace(
     window = std::make_unique<PhoneWindow>(library, open);
     showWindow();
     QVERIFY(!window->findChild<QLabel *>("told notice")->isVisible());
-    QTRY_COMPARE(label("told notice"),
-                 "The call log is damaged. The next start begins a new one, with what can be read of it.");
+    QTRY_COMPARE_WITH_TIMEOUT(
+        label("told notice"),
+        "The call log is damaged. The next start begins a new one, with what can be read of it.", patienceMs);
     QVERIFY(window->findChild<QLabel *>("told notice")->isVisible());
     QCOMPARE(steps, QStringList());
 
@@ -463,11 +466,11 @@ void WindowTest::keypadKeysDriveTheScreensAndLeaveTheFocus()
     clickKey("Up");
     QCOMPARE(list->currentItem(), 1);
     clickKey("Right softkey");
-    QTRY_COMPARE(title(), "Recent Calls");
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
     clickKey("Left softkey");
     QCOMPARE(title(), "Call Times");
     clickKey("Clear");
-    QTRY_COMPARE(title(), "Recent Calls");
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
     const QList<PhoneKey *> keys = window->findChildren<PhoneKey *>();
     QCOMPARE(keys.size(), 20);
     for (const PhoneKey *key : keys)
@@ -479,11 +482,11 @@ void WindowTest::theDesktopKeyboardDrivesTheScreens()
     QTest::keyClick(window->windowHandle(), Qt::Key_Return);
     QCOMPARE(title(), "Call Times");
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
-    QTRY_COMPARE(title(), "Recent Calls");
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
     QTest::keyClick(window->windowHandle(), Qt::Key_F1);
     QCOMPARE(title(), "Call Times");
     QTest::keyClick(window->windowHandle(), Qt::Key_F2);
-    QTRY_COMPARE(title(), "Recent Calls");
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
 }
 
 void WindowTest::softkeysWorkWhileThePanelHasTheFocus()
@@ -494,14 +497,14 @@ void WindowTest::softkeysWorkWhileThePanelHasTheFocus()
     QCOMPARE(title(), "Call Times");
     dial->setFocus();
     QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
-    QTRY_COMPARE(title(), "Recent Calls");
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
 }
 
 void WindowTest::theMenuHasTheKeysAgainAfterAScreen()
 {
     QVERIFY(window->openScreen(0));
     clickKey("Clear");
-    QTRY_COMPARE(title(), "Recent Calls");
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
     QVERIFY(qobject_cast<ZListBox *>(window->focusWidget()));
     QCOMPARE(window->focusWidget(), ZApplication::keyTarget());
 }
@@ -512,7 +515,7 @@ void WindowTest::exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot()
     QCoreApplication::processEvents();
     QVERIFY(window->isVisible());
     clickKey("Right softkey");
-    QTRY_VERIFY(!window->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), patienceMs);
 }
 
 void WindowTest::theEndOfTheWindowGivesTheScreenBack()
@@ -635,7 +638,7 @@ void WindowTest::theRunningTimeAndTheFiguresGoOnBySecond()
     click("Answer");
     QCOMPARE(label("figure Answered calls"), "00:00:00");
     clock->advance(3661000);
-    QTRY_COMPARE(label("line state"), "Connected 01:01:01, voice call, 5550123");
+    QTRY_COMPARE_WITH_TIMEOUT(label("line state"), "Connected 01:01:01, voice call, 5550123", patienceMs);
     for (const char *figure : {"Last call", "Answered calls", "All calls", "Lifetime calls"})
         QCOMPARE(label(qPrintable(QString("figure ") + figure)), "01:01:01");
     QCOMPARE(label("figure Dialed calls"), "00:00:00");
@@ -644,7 +647,7 @@ void WindowTest::theRunningTimeAndTheFiguresGoOnBySecond()
     click("Dial data call");
     click("Other side answers");
     clock->advance(9000);
-    QTRY_COMPARE(label("figure Data calls"), "00:00:09");
+    QTRY_COMPARE_WITH_TIMEOUT(label("figure Data calls"), "00:00:09", patienceMs);
     QCOMPARE(label("figure All calls"), "01:01:10");
 }
 
@@ -768,9 +771,9 @@ void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft()
     QVERIFY(window->openScreen(0));
     clickKey("Down");
     clickKey("Select"); // resets the dialed calls, after a question
-    QTRY_VERIFY(softkeyCaption(caption));
+    QTRY_VERIFY_WITH_TIMEOUT(softkeyCaption(caption), patienceMs);
     QTest::mouseClick(keyUnder(*window, globalCentre(softkeyCaption(caption))), Qt::LeftButton);
-    QTRY_VERIFY(!softkeyCaption(caption));
+    QTRY_VERIFY_WITH_TIMEOUT(!softkeyCaption(caption), patienceMs);
     handset::CallTime time;
     QCOMPARE(owner->callLog()->dialedCallsTime(time), 0);
     QCOMPARE(time, handset::CallTime::fromSeconds(secondsAfterwards));

@@ -85,7 +85,7 @@ QString outputOfProbe(const QString &mode)
 {
     QProcess probe;
     probe.start(QCoreApplication::applicationDirPath() + "/phone_probe", {mode});
-    if (!probe.waitForFinished() || probe.exitStatus() != QProcess::NormalExit || probe.exitCode() != 0)
+    if (!probe.waitForFinished(60000) || probe.exitStatus() != QProcess::NormalExit || probe.exitCode() != 0)
         qFatal("the probe failed: %s", qPrintable(probe.readAllStandardError()));
     return withoutLineNumbers(QString::fromLatin1(probe.readAllStandardOutput()));
 }

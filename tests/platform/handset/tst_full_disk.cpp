@@ -262,7 +262,7 @@ void TestFullDisk::whatIsOwedIsWrittenWithoutAnybodyAsking()
         QVERIFY(timer->isActive());
     }
     timer->setInterval(1); // no need to wait for real seconds
-    QTRY_VERIFY(!phone->owesRecord());
+    QTRY_VERIFY_WITH_TIMEOUT(!phone->owesRecord(), 60000);
     QCOMPARE(spy.count(), 2);
     QVERIFY(!timer->isActive());
     QCOMPARE(statesIn(state.database(), CallState::Finished), 1);

@@ -91,7 +91,7 @@ void TestKill::runUntilKilled(const char *mode, const QString &directory, unsign
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
                   {QString::fromLatin1(mode), directory, QString::number(seed)});
-    QVERIFY(process.waitForStarted());
+    QVERIFY(process.waitForStarted(60000));
     QByteArray output;
     const auto readFor = [&](QDeadlineTimer deadline, int lines) {
         while (!deadline.hasExpired() && output.count('\n') < lines) {
@@ -110,7 +110,7 @@ void TestKill::runUntilKilled(const char *mode, const QString &directory, unsign
         readFor(QDeadlineTimer(below(2 * usualStartUp), Qt::PreciseTimer), std::numeric_limits<int>::max());
     }
     process.kill();
-    QVERIFY(process.waitForFinished());
+    QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.exitStatus(), QProcess::CrashExit); // it did not give up by itself
     output += process.readAll();
     read(output);

@@ -207,7 +207,7 @@ void StreamTest::the_file_is_not_handed_to_child_processes()
     QCOMPARE(open("trace"), 0);
     QProcess child;
     child.start(QStringLiteral("ls"), {QStringLiteral("-l"), QStringLiteral("/proc/self/fd")});
-    QVERIFY(child.waitForFinished());
+    QVERIFY(child.waitForFinished(60000));
     const QByteArray itsFiles = child.readAllStandardOutput();
     QVERIFY(itsFiles.contains("/proc/"));
     QVERIFY2(!itsFiles.contains(directory->path().toUtf8()), itsFiles.constData());
