@@ -25,7 +25,7 @@ using simulated::CallKind;
 
 namespace {
 
-constexpr int patience = 20'000; // milliseconds for the application to react, far more than it needs
+constexpr int patience = 60'000; // milliseconds for the application to react, far more than it needs
 
 // Where the display lies in the window, which a server without a window manager puts at its top-left corner.
 constexpr QRect displayRect(50, 72, 240, 320);

@@ -95,7 +95,7 @@ public:
     explicit User(QList<std::function<void()>> deeds)
         : steps(std::move(deeds))
     {
-        waiting.start();
+        sinceLastStep.start();
         startTimer(0);
     }
 
@@ -104,10 +104,12 @@ public:
 protected:
     void timerEvent(QTimerEvent *) override
     {
-        if (!steps.isEmpty())
+        if (!steps.isEmpty()) {
             steps.takeFirst()();
-        else if (waiting.hasExpired(10000))
+            sinceLastStep.start();
+        } else if (sinceLastStep.hasExpired(60000)) {
             giveUp();
+        }
     }
 
 private:
@@ -119,7 +121,7 @@ private:
     }
 
     QList<std::function<void()>> steps;
-    QElapsedTimer waiting;
+    QElapsedTimer sinceLastStep;
     bool gaveUp = false;
 };
 
