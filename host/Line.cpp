@@ -8,8 +8,8 @@
 namespace host {
 
 using handset::CallKind;
-using Card = handset::sim::SimCard;
-using Charging = handset::simulated::ChargingControl;
+using Card = handset::charging::SimCard;
+using Charging = handset::simulated::Charging;
 using LineState = Line::Telephone::LineState;
 
 namespace {

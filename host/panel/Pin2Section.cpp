@@ -11,7 +11,7 @@
 
 namespace host {
 
-using handset::sim::Pin2;
+using handset::charging::Pin2;
 
 namespace {
 

@@ -11,7 +11,7 @@
 namespace host {
 
 using handset::AdviceOfCharge;
-using Card = handset::sim::SimCard;
+using Card = handset::charging::SimCard;
 
 namespace {
 
@@ -52,7 +52,7 @@ QString maximumText(const Card &card)
 
 QString priceText(const Card &card)
 {
-    const handset::sim::Puct puct = card.puct();
+    const handset::charging::Puct puct = card.puct();
     const QString currency = puct.currency.isEmpty() ? SimFilesSection::tr("no currency") : puct.currency;
     return SimFilesSection::tr("%1  =  %2, %3 a unit")
         .arg(hex(card.fileBytes(AdviceOfCharge::PuctFile)), currency, puct.price.text());

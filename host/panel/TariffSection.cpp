@@ -12,7 +12,7 @@
 namespace host {
 
 using handset::CallDirection;
-using handset::sim::Tariff;
+using handset::charging::Tariff;
 
 namespace {
 

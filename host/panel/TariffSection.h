@@ -34,7 +34,7 @@ private:
     void addColumn(QGridLayout *grid, Column &column, int number);
     void setFree(const Column &column, bool free);
     void setElements(const Column &column);
-    void set(const Column &column, const handset::sim::Tariff &tariff);
+    void set(const Column &column, const handset::charging::Tariff &tariff);
     void show(const Column &column);
 
     Line &line;

@@ -18,7 +18,7 @@ namespace {
 using handset::AdviceOfCharge;
 using handset::CallDirection;
 using handset::CallKind;
-using handset::sim::Tariff;
+using handset::charging::Tariff;
 
 constexpr qint64 longestMs = qint64{100} * 365 * 24 * 3600 * 1000;
 constexpr int mostRepeats = 1000;

@@ -3,8 +3,9 @@
 
 #include "AdviceOfCharge.h"
 #include "Call.h"
-#include "ChargingControl.h"
+#include "Date.h"
 #include "ScreenText.h"
+#include "Tariff.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>
@@ -39,7 +40,7 @@ struct MoveClock {
 };
 struct SetTariff {
     handset::CallDirection direction = handset::CallDirection::Dialed;
-    handset::sim::Tariff tariff;
+    handset::charging::Tariff tariff;
 };
 struct TopUp {
     QString amount;

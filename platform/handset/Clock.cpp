@@ -1,10 +1,19 @@
 #include "Clock.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QFile>
 
 #include <ctime>
+#include <limits>
 
 namespace handset {
+
+SystemClock::SystemClock()
+{
+    QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
+    if (file.open(QIODevice::ReadOnly))
+        bootId = file.readAll().trimmed();
+}
 
 qint64 SystemClock::monotonicMs() const
 {
@@ -17,6 +26,18 @@ qint64 SystemClock::monotonicMs() const
 qint64 SystemClock::wallMs() const
 {
     return QDateTime::currentMSecsSinceEpoch();
+}
+
+qint64 SteadyClock::monotonicMs() const
+{
+    const qint64 now = clock->monotonicMs();
+    qint64 passed = 0;
+    if (now > last && __builtin_sub_overflow(now, last, &passed))
+        passed = std::numeric_limits<qint64>::max();
+    last = now;
+    if (__builtin_add_overflow(reading, passed, &reading))
+        reading = std::numeric_limits<qint64>::max();
+    return reading;
 }
 
 } // namespace handset

@@ -45,7 +45,7 @@ using namespace host;
 using handset::AdviceOfCharge;
 using handset::CallDirection;
 using handset::CallKind;
-using handset::sim::Tariff;
+using handset::charging::Tariff;
 using handset::simulated::SimulatedTelephone;
 
 namespace {
@@ -239,9 +239,9 @@ private:
     QString title() const;
     void connectCall() const;
     void pass(qint64 ms) const;
-    handset::simulated::ChargingControl &charging() const { return telephone->charging(); }
-    const handset::sim::SimCard &card() const { return telephone->simCard().card(); }
-    const handset::sim::Pin2 &pin2() const { return card().pin2(); }
+    handset::simulated::Charging &charging() const { return telephone->charging(); }
+    const handset::charging::SimCard &card() const { return telephone->simCard().card(); }
+    const handset::charging::Pin2 &pin2() const { return card().pin2(); }
     bool enterPin2(const QByteArray &digits) const;
 
     ScreenLibrary library;

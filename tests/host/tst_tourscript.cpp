@@ -155,7 +155,7 @@ void TourScriptTest::tariffs()
     QFETCH(QList<int>, tenths);
     const auto set = onlyAction<SetTariff>(line);
     QCOMPARE(set.direction == handset::CallDirection::Dialed, isDialed);
-    handset::sim::Tariff expected;
+    handset::charging::Tariff expected;
     expected.unitsPerInterval = static_cast<quint16>(tenths[0]);
     expected.interval = static_cast<quint16>(tenths[1]);
     expected.unitsAtStart = static_cast<quint16>(tenths[2]);

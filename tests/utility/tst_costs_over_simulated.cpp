@@ -78,10 +78,10 @@ void TestCostsOverSimulated::cleanup()
 // At a unit a second: 50 units paid in, 8 seconds dialed, then 3 seconds answered.
 bool TestCostsOverSimulated::payAndCall()
 {
-    sim::Tariff tariff;
+    charging::Tariff tariff;
     tariff.unitsPerInterval = 10; // tenths
     tariff.interval = 10;         // tenths of a second
-    simulated::ChargingControl &charging = phone->charging();
+    simulated::Charging &charging = phone->charging();
     if (charging.setTariff(CallDirection::Dialed, tariff) != Success ||
         charging.setTariff(CallDirection::Answered, tariff) != Success ||
         charging.topUp(QStringLiteral("50"), {2027, 3, 9}) != Success)

@@ -139,6 +139,7 @@ void CheckBeside::finish(const CheckedLog &checked)
     case Verdict::Lost:
     case Verdict::Foreign:
     case Verdict::Newer:
+    case Verdict::Older:
     case Verdict::Blocked:
         text = QStringLiteral("The call log could not be read through: %1.").arg(explain(checked.finding));
         break;

@@ -8,6 +8,10 @@
 
 #include <utility>
 
+#include <sqlite3.h>
+
+#include <unistd.h>
+
 namespace handset::calllog {
 
 namespace {
@@ -20,13 +24,16 @@ QString newConnectionName()
     return QStringLiteral("kav-calllog-%1").arg(++count);
 }
 
-// A process that only looks at the log must not make ours fail at once; none holds it for long.
-constexpr auto options = "QSQLITE_BUSY_TIMEOUT=1000";
-
-// SQLite has nothing against a statement that finds no row.
-QSqlError missingRow()
+// Whoever writes at the same time is done in a few milliseconds. SQLite's own way waits longer from try to try, and so
+// may never meet a moment in which a busy one does not write.
+int waitForOthers(void *, int tries)
 {
-    return {{}, QStringLiteral("a row is missing"), QSqlError::StatementError};
+    constexpr int mostTries = 500; // a second
+    constexpr useconds_t betweenTries = 2000;
+    if (tries >= mostTries)
+        return 0;
+    ::usleep(betweenTries);
+    return 1;
 }
 
 } // namespace
@@ -45,31 +52,28 @@ Database::Database(const QString &file, Access access)
     : name(newConnectionName())
     , connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))
 {
-    QString settings = QString::fromLatin1(options);
     if (access == Access::ReadOnly)
-        settings += QStringLiteral(";QSQLITE_OPEN_READONLY");
-    connection.setConnectOptions(settings);
+        connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     connection.setDatabaseName(file);
-    if (!connection.open())
+    if (!connection.open()) {
         error = connection.lastError();
-    else if (prepare(begin, QStringLiteral("BEGIN IMMEDIATE")))
-        prepare(commit, QStringLiteral("COMMIT"));
+        return;
+    }
+    const QVariant handle = connection.driver()->handle();
+    const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
+    sqlite = held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
+    sqlite3_busy_handler(sqlite, &waitForOthers, nullptr);
+    begin.emplace(sqlite, "BEGIN IMMEDIATE");
+    commit.emplace(sqlite, "COMMIT");
 }
 
 Database::~Database()
 {
-    begin = QSqlQuery();
-    commit = QSqlQuery();
+    begin.reset();
+    commit.reset();
     connection.close();
     connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
-}
-
-sqlite3 *Database::handle() const
-{
-    const QVariant handle = connection.driver()->handle();
-    const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
-    return held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
 }
 
 QSqlQuery Database::query() const
@@ -123,24 +127,33 @@ bool Database::run(QSqlQuery &kept)
     return false;
 }
 
-bool Database::runOn(int rows, QSqlQuery &kept)
+bool Database::fail()
 {
-    if (!run(kept))
-        return false;
-    if (kept.numRowsAffected() == rows)
-        return true;
-    error = missingRow();
+    error = QSqlError({}, QString::fromUtf8(sqlite3_errmsg(sqlite)), QSqlError::StatementError,
+                      QString::number(sqlite3_extended_errcode(sqlite)));
     return false;
 }
 
-bool Database::runForRow(QSqlQuery &kept)
+// SQLite has nothing against a statement that finds no row.
+bool Database::missesRow()
 {
-    if (!run(kept))
-        return false;
-    if (kept.next())
-        return true;
-    error = kept.lastError().isValid() ? kept.lastError() : missingRow();
+    return fail(QStringLiteral("a row is missing"));
+}
+
+bool Database::fail(const QString &reason)
+{
+    error = QSqlError({}, reason, QSqlError::StatementError);
     return false;
+}
+
+int Database::changedRows() const
+{
+    return sqlite3_changes(sqlite);
+}
+
+qint64 Database::lastInsertId() const
+{
+    return sqlite3_last_insert_rowid(sqlite);
 }
 
 int Database::status(bool succeeded) const

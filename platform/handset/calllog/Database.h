@@ -1,13 +1,13 @@
 // One named connection to an SQLite database.
 #pragma once
 
+#include "PlainSqlite.h"
+
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
 
 #include <optional>
-
-struct sqlite3;
 
 namespace handset::calllog {
 
@@ -44,7 +44,7 @@ public:
     Database &operator=(const Database &) = delete;
 
     /// SQLite's own connection, for what Qt has no way for; null when it is not open.
-    sqlite3 *handle() const;
+    sqlite3 *handle() const { return sqlite; }
     bool isOpen() const { return connection.isOpen(); }
     const QSqlError &lastError() const { return error; }
 
@@ -57,10 +57,34 @@ public:
     bool prepare(QSqlQuery &query, const QString &statement);
     /// Runs a kept statement with the values that are bound to it.
     bool run(QSqlQuery &query);
+
+    /// Runs a statement of this connection, which may have a row then.
+    template <typename... Values>
+    bool run(PlainStatement &statement, const Values &...values)
+    {
+        return statement.run(values...) || fail();
+    }
     /// The same, for one that changes `rows` rows; false when it has changed any other number of them.
-    bool runOn(int rows, QSqlQuery &query);
-    /// The same, for one that selects a row, and moves to it; false when there is none.
-    bool runForRow(QSqlQuery &query);
+    template <typename... Values>
+    bool runOn(int rows, PlainStatement &statement, const Values &...values)
+    {
+        if (!run(statement, values...))
+            return false;
+        const bool isRight = changedRows() == rows;
+        statement.finish();
+        return isRight || missesRow();
+    }
+    /// The same, for one that selects a row; false when there is none.
+    template <typename... Values>
+    bool runForRow(PlainStatement &statement, const Values &...values)
+    {
+        return run(statement, values...) && (statement.hasRow() || missesRow());
+    }
+    /// False, always: SQLite's last error, a row that should be there, or `reason`, is what lastError() has then.
+    bool fail();
+    bool missesRow();
+    bool fail(const QString &reason);
+    qint64 lastInsertId() const;
 
     /// What an operation of the call log answers (handset/Status.h): StorageFailed, with a warning that says why, unless
     /// it has succeeded.
@@ -74,9 +98,9 @@ public:
     template <typename Work>
     bool inTransaction(Work work)
     {
-        if (!run(begin))
+        if (!begin || !run(*begin))
             return false;
-        if (work() && run(commit))
+        if (work() && run(*commit))
             return true;
         const QSqlError reason = error;
         run(QStringLiteral("ROLLBACK"));
@@ -87,10 +111,13 @@ public:
     QSqlQuery query() const;
 
 private:
+    int changedRows() const;
+
+    sqlite3 *sqlite = nullptr;
     QString name;
     QSqlDatabase connection;
-    QSqlQuery begin; ///< of a transaction; kept, as every write runs both
-    QSqlQuery commit;
+    std::optional<PlainStatement> begin; ///< of a transaction; kept, as every write runs both
+    std::optional<PlainStatement> commit;
     QSqlError error;
 };
 

@@ -81,6 +81,8 @@ QString explain(const Finding &finding)
         return QStringLiteral("it is not a call log");
     case Verdict::Newer:
         return QStringLiteral("it was written by a newer version");
+    case Verdict::Older:
+        return QStringLiteral("it was written by an earlier version");
     case Verdict::Blocked:
         break;
     }

@@ -20,6 +20,7 @@ enum class Verdict {
     Lost,    ///< an empty file, or nothing but what SQLite keeps beside a database in use
     Foreign, ///< something else
     Newer,   ///< a call log of a later version
+    Older,   ///< a call log of an earlier version
     Blocked  ///< nothing is known to be wrong with it, but it cannot be used now
 };
 

@@ -1,9 +1,8 @@
 #include "LogCheck.h"
 
-#include "Charge.h"
 #include "PlainSqlite.h"
 #include "Saturating.h"
-#include "SessionCounter.h"
+#include "Totals.h"
 
 #include <sqlite3.h>
 
@@ -41,9 +40,9 @@ int sumCalls(sqlite3 *connection, Sums &sums)
 {
     PlainStatement rows(connection, callsSql);
     while (rows.next()) {
-        const Counter own =
-            ownCounter(static_cast<CallKind>(rows.number(0)), static_cast<CallDirection>(rows.number(1)));
-        const char *key = counterNames[static_cast<std::size_t>(own)].key;
+        const Total own =
+            ownTime(static_cast<CallKind>(rows.number(0)), static_cast<CallDirection>(rows.number(1)));
+        const char *key = placeOf(own).key;
         add(sums.ms[key], rows.number(2));
         add(sums.allMs, rows.number(2));
         add(sums.units[key], rows.number(3));
@@ -56,8 +55,8 @@ int sumSessions(sqlite3 *connection, Sums &sums)
 {
     PlainStatement rows(connection, sessionsSql);
     while (rows.next())
-        for (std::size_t i = 0; i < sessionCounters.size(); ++i)
-            add(sums.sessions[sessionCounters[i].key], rows.number(static_cast<int>(i)));
+        for (std::size_t i = 0; i < sessionPlaces.size(); ++i)
+            add(sums.sessions[sessionPlaces[i].key], rows.number(static_cast<int>(i)));
     return rows.error();
 }
 
@@ -98,12 +97,12 @@ Amounts excess(Figures &figures)
     const auto beyond = [](qint64 total, qint64 sum) { return std::max<qint64>(total - sum, 0); };
     Amounts found;
     found["calls"] = beyond(figures.totals["lifetime"], figures.sums.allMs);
-    for (const CostCounterName &name : costCounterNames) {
-        const bool isLast = name.counter == CostCounter::Last;
+    for (const TotalPlace &name : costPlaces) {
+        const bool isLast = name.total == Total::LastCost;
         const qint64 sum = isLast ? figures.sums.allUnits : figures.sums.units[name.key];
         found["units"] = std::max(found["units"], beyond(figures.costs[name.key], sum));
     }
-    for (const SessionCounterName &name : sessionCounters)
+    for (const TotalPlace &name : sessionPlaces)
         found[name.key] = beyond(figures.sessionTotals[name.key], figures.sums.sessions[name.key]);
     return found;
 }
@@ -113,9 +112,9 @@ bool callsFit(Figures &figures, qint64 lost)
     const qint64 lifetime = figures.totals["lifetime"];
     if (lifetime != saturatingSum(figures.sums.allMs, lost))
         return false;
-    return std::all_of(counterNames.begin(), counterNames.end(), [&](const CounterName &name) {
+    return std::all_of(timePlaces.begin(), timePlaces.end(), [&](const TotalPlace &name) {
         const bool isOwn =
-            name.counter == Counter::Dialed || name.counter == Counter::Answered || name.counter == Counter::Data;
+            name.total == Total::DialedTime || name.total == Total::AnsweredTime || name.total == Total::DataTime;
         const qint64 most = isOwn ? saturatingSum(figures.sums.ms[name.key], lost) : lifetime;
         return figures.totals[name.key] <= most;
     });

@@ -3,7 +3,7 @@
 #include "LogCheck.h"
 #include "Schema.h"
 #include "SchemaCheck.h"
-#include "SessionStore.h"
+#include "Totals.h"
 
 #include <functional>
 #include <initializer_list>
@@ -88,10 +88,10 @@ Finding checkTotals(Database &database, const char *select, const Names &names)
 Finding checkAllTotals(Database &database)
 {
     for (Finding finding :
-         {checkTotals(database, "SELECT counter FROM totals WHERE ms >= 0 ORDER BY counter", counterNames),
-          checkTotals(database, "SELECT counter FROM costs WHERE units >= 0 ORDER BY counter", costCounterNames),
+         {checkTotals(database, "SELECT counter FROM totals WHERE ms >= 0 ORDER BY counter", timePlaces),
+          checkTotals(database, "SELECT counter FROM costs WHERE units >= 0 ORDER BY counter", costPlaces),
           checkTotals(database, "SELECT counter FROM session_totals WHERE value >= 0 ORDER BY counter",
-                      sessionCounters),
+                      sessionPlaces),
           checkTotals(database, "SELECT counter FROM lost ORDER BY counter", lostNames)})
         if (finding.verdict != Verdict::Usable)
             return finding;
@@ -104,25 +104,28 @@ Finding checkAllTotals(Database &database)
 constexpr auto readKept = "SELECT sum(length(CASE WHEN length(content) <= 1048576"
                           " AND +name IN ('card', 'charging', 'notice') THEN hex(content) END)) FROM kept";
 
-// Reads and writes what every later operation depends on, and closes the call and the session that were running when
-// the telephone stopped: their time is counted up to their last checkpoint.
+// Reads what every later operation depends on, and may write.
 Finding settle(Database &database)
 {
     Finding totals = checkAllTotals(database);
     if (totals.verdict != Verdict::Usable)
         return totals;
     for (const char *needed : {"SELECT max(id) FROM calls", readKept,
-                               "SELECT sum(length(apn)) FROM (SELECT apn FROM sessions ORDER BY id DESC LIMIT 3)"})
+                               "SELECT sum(length(apn)) FROM (SELECT apn FROM sessions ORDER BY id DESC LIMIT 3)",
+                               "SELECT count(*) FROM calls WHERE state = 0",
+                               "SELECT count(*) FROM sessions WHERE state = 0"})
         if (!database.number(QString::fromLatin1(needed)))
             return failure(database);
-    const auto close = [&](const char *table) {
-        return database.run(QStringLiteral("UPDATE %1 SET state = %2 WHERE state = %3")
-                                .arg(QLatin1String(table))
-                                .arg(static_cast<int>(CallState::Interrupted))
-                                .arg(static_cast<int>(CallState::Running)));
-    };
-    return database.inTransaction([&] { return close("calls") && close("sessions"); }) ? Finding{}
-                                                                                       : failure(database);
+    return database.inTransaction([] { return true; }) ? Finding{} : failure(database);
+}
+
+// Tables of an earlier version are brought up to date by who has the directory alone.
+Finding isNewest(Database &database)
+{
+    const auto version = database.number(QStringLiteral("PRAGMA user_version"));
+    if (!version)
+        return failure(database);
+    return *version == static_cast<qint64>(migrations().size()) ? Finding{} : Finding{Verdict::Older, {}};
 }
 
 using Step = std::function<Finding(Database &)>;
@@ -152,8 +155,7 @@ Finding examine(const QString &file)
 
 } // namespace
 
-Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care,
-                     const ProgressListener &progress)
+Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressListener &progress)
 {
     if (care == Care::Leftovers) {
         Finding examined = examine(file);
@@ -161,7 +163,9 @@ Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &direc
             return {std::move(examined), nullptr};
     }
     auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
-    const auto bringUpToDate = [&progress](Database &older) {
+    const auto bringUpToDate = [&](Database &older) {
+        if (hold == Hold::Shared)
+            return isNewest(older);
         return migrate(older, migrations(), progress) ? Finding{} : failure(older);
     };
     Finding finding = care == Care::Quick
@@ -169,13 +173,7 @@ Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &direc
                           : walk(*database, {identify, verify, configure, bringUpToDate, settle, verifySums});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
-    // Packet data prepares its statements later, when there is nobody left who could replace the log.
-    if (!SessionStore(*database).isUsable())
-        return {failure(*database), nullptr};
-    auto store = CallStore::create(database, directory);
-    if (!store)
-        return {failure(*database), nullptr};
-    return {{}, std::move(store)};
+    return {{}, std::move(database)};
 }
 
 } // namespace handset::calllog

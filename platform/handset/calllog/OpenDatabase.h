@@ -1,9 +1,7 @@
 // Opens one database as a call log.
 #pragma once
 
-#include "CallStore.h"
 #include "Finding.h"
-#include "StateDirectory.h"
 #include "repair/Progress.h"
 
 #include <memory>
@@ -12,8 +10,7 @@ namespace handset::calllog {
 
 struct Attempt {
     Finding finding;
-    std::unique_ptr<CallStore> store; ///< null unless usable
-    QString unread = {};              ///< as OpenedStore::unread
+    std::unique_ptr<Database> database; ///< null unless usable
 };
 
 enum class Care {
@@ -22,9 +19,13 @@ enum class Care {
     Leftovers ///< the same, once before anything is written: there are leftovers to be worked in
 };
 
-/// `file` is an absolute path, or ":memory:". `directory` goes over to the store; it may be null, and stays where it
-/// is when there is no store. `progress` as in migrate().
-Attempt openDatabase(const QString &file, std::unique_ptr<StateDirectory> &directory, Care care,
-                     const ProgressListener &progress = {});
+/// How the directory of the file is held.
+enum class Hold {
+    Shared, ///< tables of an earlier version are left as they are: Older
+    Alone
+};
+
+/// `file` is an absolute path, or ":memory:". `progress` as in migrate().
+Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressListener &progress = {});
 
 } // namespace handset::calllog

@@ -38,13 +38,52 @@ bool PlainConnection::run(const char *statement)
     return sqlite3_exec(connection, statement, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-PlainStatement::PlainStatement(sqlite3 *connection, const char *text)
-    : code(primary(sqlite3_prepare_v2(connection, text, -1, &statement, nullptr)))
+PlainStatement::PlainStatement(sqlite3 *connection, const QByteArray &text)
+    : prepared(primary(sqlite3_prepare_v3(connection, text.constData(), static_cast<int>(text.size()) + 1,
+                                          SQLITE_PREPARE_PERSISTENT, &statement, nullptr)))
+    , code(prepared)
 {}
 
 PlainStatement::~PlainStatement()
 {
     sqlite3_finalize(statement);
+}
+
+void PlainStatement::finish()
+{
+    sqlite3_reset(statement);
+    code = prepared;
+    row = false;
+}
+
+void PlainStatement::bind(int place, qint64 value)
+{
+    sqlite3_bind_int64(statement, place, value);
+}
+
+void PlainStatement::bind(int place, std::optional<qint64> value)
+{
+    if (value)
+        bind(place, *value);
+    else
+        sqlite3_bind_null(statement, place);
+}
+
+void PlainStatement::bind(int place, const char *text)
+{
+    sqlite3_bind_text(statement, place, text, -1, SQLITE_STATIC);
+}
+
+void PlainStatement::bind(int place, const QString &text)
+{
+    const QByteArray utf8 = text.toUtf8();
+    sqlite3_bind_text(statement, place, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
+}
+
+void PlainStatement::bind(int place, const QByteArray &bytes)
+{
+    // The data of an empty array are not null, which would be a NULL.
+    sqlite3_bind_blob(statement, place, bytes.constData(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
 }
 
 bool PlainStatement::next()
@@ -69,8 +108,11 @@ bool PlainStatement::isNull(int column) const
 
 QByteArray PlainStatement::text(int column) const
 {
-    const auto *const bytes = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
-    return {bytes, sqlite3_column_bytes(statement, column)};
+    if (isNull(column))
+        return {};
+    // The data of an empty value are null.
+    const auto *const bytes = static_cast<const char *>(sqlite3_column_blob(statement, column));
+    return bytes ? QByteArray(bytes, sqlite3_column_bytes(statement, column)) : QByteArray("");
 }
 
 Interruption::Interruption(sqlite3 *connection, std::function<bool()> isEnough, int steps)

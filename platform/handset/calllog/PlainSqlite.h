@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -32,14 +33,30 @@ private:
     bool open = false;
 };
 
-/// A statement, row by row.
+/// A statement, row by row; one that is kept is run again with other values.
 class PlainStatement
 {
 public:
-    PlainStatement(sqlite3 *connection, const char *text);
+    PlainStatement(sqlite3 *connection, const QByteArray &text);
     ~PlainStatement();
     PlainStatement(const PlainStatement &) = delete;
     PlainStatement &operator=(const PlainStatement &) = delete;
+
+    /// Begins anew with `values` in the places of its '?', in their order: integers, texts, bytes, nothing (NULL). Runs to
+    /// the first row, or to the end of a statement that has none; false on a failure.
+    template <typename... Values>
+    bool run(const Values &...values)
+    {
+        finish();
+        int place = 0;
+        (bind(++place, values), ...);
+        row = next();
+        return code == 0;
+    }
+    /// Whether the last run() has come to a row.
+    bool hasRow() const { return row; }
+    /// An unfinished SELECT would keep the write-ahead log from being emptied.
+    void finish();
 
     /// Moves to the next row, the first one at first; false at the end and on a failure.
     bool next();
@@ -47,11 +64,21 @@ public:
     int error() const { return code; }
     qint64 number(int column) const;
     bool isNull(int column) const;
+    /// Of a text or of bytes; a null array for NULL.
     QByteArray text(int column) const;
 
 private:
+    void bind(int place, qint64 value);
+    void bind(int place, int value) { bind(place, qint64{value}); }
+    void bind(int place, std::optional<qint64> value);
+    void bind(int place, const char *text); ///< which stays where it is
+    void bind(int place, const QString &text);
+    void bind(int place, const QByteArray &bytes);
+
     sqlite3_stmt *statement = nullptr;
-    int code = 0;
+    int prepared;
+    int code;
+    bool row = false;
 };
 
 /// While this lives, statements of a connection fail with SQLITE_INTERRUPT as soon as `isEnough` says so. It is asked

@@ -1,14 +1,18 @@
 #include "StateDirectory.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QThread>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <set>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -21,6 +25,7 @@ namespace handset::calllog {
 namespace {
 
 constexpr auto lockName = "lock";
+constexpr auto recorderName = "recorder";
 // What SQLite keeps beside a database and what is recorded in it. (It also keeps "-shm", an index to the first that it
 // makes anew.)
 constexpr std::array recordings{"-wal", "-journal"};
@@ -53,21 +58,21 @@ int makeDirectories(const QString &path)
     return QFileInfo(path).isDir() ? 0 : ENOTDIR; // another process may have been quicker
 }
 
-// A descriptor, or minus an errno. The lock file is never removed: another process may be about to lock it.
-int lockFile(const QString &path)
+// A descriptor, or minus an errno. A lock file is never removed: another process may be about to lock it.
+int openLockFile(const QString &path)
 {
     const int fd = ::open(encoded(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
-    if (fd < 0)
-        return -errno;
-    if (::flock(fd, LOCK_EX | LOCK_NB) == 0)
-        return fd;
-    const int error = errno;
-    ::close(fd);
-    return -error;
+    return fd < 0 ? -errno : fd;
 }
 
-// The same of the directory itself, for somebody may remove the lock file while it is locked. A network's file system
-// that locks no directories leaves it at the file.
+// 0 or an errno.
+int lockNow(int fd, int mode)
+{
+    return ::flock(fd, mode | LOCK_NB) == 0 ? 0 : errno;
+}
+
+// The same as a lock file of the directory itself, for somebody may remove the file while it is locked. A network's file
+// system that locks no directories leaves it at the file.
 int lockDirectory(const QString &path)
 {
     const int fd = ::open(encoded(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
@@ -77,6 +82,43 @@ int lockDirectory(const QString &path)
         return fd;
     ::close(fd);
     return -EWOULDBLOCK;
+}
+
+// Others hold it for a moment, while they open it or make a new log.
+int lockWithin(int milliseconds, int fd, int mode)
+{
+    constexpr unsigned long betweenMs = 20;
+    const QDeadlineTimer end(milliseconds);
+    int error = lockNow(fd, mode);
+    while (error == EWOULDBLOCK && !end.hasExpired()) {
+        QThread::msleep(betweenMs);
+        error = lockNow(fd, mode);
+    }
+    return error;
+}
+
+// The state directories that are open in this process, by device and inode.
+using Identity = std::pair<dev_t, ino_t>;
+std::set<Identity> &openHere()
+{
+    static std::set<Identity> directories;
+    return directories;
+}
+
+Identity identityOf(const QString &path)
+{
+    struct stat status = {};
+    ::stat(encoded(path).constData(), &status);
+    return {status.st_dev, status.st_ino};
+}
+
+QString nameOf(const QByteArray &process)
+{
+    QFile file(QStringLiteral("/proc/%1/comm").arg(QString::fromLatin1(process)));
+    const bool isKnown = file.open(QIODevice::ReadOnly);
+    return QStringLiteral("%1 (process %2)")
+        .arg(isKnown ? QString::fromLocal8Bit(file.readAll().trimmed()) : QStringLiteral("another program"),
+             QString::fromLatin1(process));
 }
 
 // Bytes that are no UTF-8 come as replacement characters, and would lead to a directory of another name.
@@ -236,36 +278,93 @@ std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QStrin
     if (!make(path, error))
         return nullptr;
     const QString absolute = absolutePath(path);
+    if (openHere().contains(identityOf(absolute))) {
+        error = QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(absolute);
+        return nullptr;
+    }
     std::unique_ptr<StateDirectory> directory(new StateDirectory(absolute));
     const int failure = directory->lock();
     if (failure == 0)
         return directory;
-    error = failure == EWOULDBLOCK
-                ? QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(absolute)
-                : unusable(absolute, reason(failure));
+    error = unusable(absolute, failure == EWOULDBLOCK ? directory->whoHolds() : reason(failure));
     return nullptr;
 }
 
 int StateDirectory::lock()
 {
-    fileLock = lockFile(filePath(QString::fromLatin1(lockName)));
-    if (fileLock < 0)
-        return -fileLock;
-    directoryLock = lockDirectory(path);
-    return directoryLock < 0 ? -directoryLock : 0;
+    openHere().insert(identityOf(path));
+    useLock = openLockFile(filePath(QString::fromLatin1(lockName)));
+    if (useLock < 0)
+        return -useLock;
+    return lockWithin(longestWaitMs, useLock, LOCK_SH);
 }
 
 StateDirectory::~StateDirectory()
 {
-    for (const int fd : {directoryLock, fileLock})
+    openHere().erase(identityOf(path));
+    for (const int fd : {directoryLock, recorderLock, useLock})
         if (fd >= 0)
             ::close(fd);
+}
+
+QString StateDirectory::takeAlone(int milliseconds)
+{
+    // Changing a lock drops it first: whoever waits may come in between.
+    const int error = lockWithin(milliseconds, useLock, LOCK_EX);
+    if (error == 0 && record())
+        return {};
+    const QString holder = error == 0 || error == EWOULDBLOCK ? whoHolds() : reason(error);
+    share();
+    return holder;
+}
+
+void StateDirectory::share()
+{
+    lockWithin(longestWaitMs, useLock, LOCK_SH);
+}
+
+bool StateDirectory::record()
+{
+    if (isRecording())
+        return true;
+    if (recorderLock < 0)
+        recorderLock = openLockFile(filePath(QString::fromLatin1(recorderName)));
+    if (recorderLock < 0 || lockNow(recorderLock, LOCK_EX) != 0)
+        return false;
+    directoryLock = lockDirectory(path);
+    if (directoryLock < 0)
+        ::flock(recorderLock, LOCK_UN);
+    return isRecording();
+}
+
+// The kernel lists its locks by the inodes of the files, with the process that took each.
+QString StateDirectory::whoHolds() const
+{
+    struct stat file = {};
+    struct stat directory = {};
+    ::fstat(useLock, &file);
+    ::stat(encoded(path).constData(), &directory);
+    QStringList holders;
+    QFile locks(QStringLiteral("/proc/locks"));
+    const QByteArray all = locks.open(QIODevice::ReadOnly) ? locks.readAll() : QByteArray();
+    for (const QByteArray &line : all.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        const QByteArray inode = words.value(5).split(':').value(2);
+        const bool isOurs = inode == QByteArray::number(qulonglong{file.st_ino}) ||
+                            inode == QByteArray::number(qulonglong{directory.st_ino});
+        if (words.value(1) != "FLOCK" || !isOurs || words.value(4).toLongLong() == ::getpid())
+            continue;
+        if (const QString name = nameOf(words.value(4)); !holders.contains(name))
+            holders << name;
+    }
+    return holders.isEmpty() ? QStringLiteral("another process has it open")
+                             : QStringLiteral("it is in use by ") + holders.join(QStringLiteral(", "));
 }
 
 QString StateDirectory::notice() const
 {
     struct stat status = {};
-    if (::fstat(directoryLock, &status) != 0)
+    if (::stat(encoded(path).constData(), &status) != 0)
         return {};
     const QString who = whoElseMayWrite(status);
     return who.isEmpty() ? QString()

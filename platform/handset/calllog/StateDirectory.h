@@ -9,16 +9,29 @@
 
 namespace handset::calllog {
 
-/// Locked for as long as this lives, against other processes and other telephones of this one. The kernel drops the
-/// lock with the process, however it ends.
+/// Two locks stand in it, and the kernel drops both with the process, however that ends. Every process that has the
+/// directory open shares the first; who needs the files for itself takes it alone. The second says who records. One
+/// telephone of a process at a time: what a second one opens and closes would drop SQLite's own locks of the first.
 class StateDirectory
 {
 public:
     /// Makes the directory, and every one on the way to it that is missing (mode 0700). False when it cannot be used;
     /// `error` then says why, in one sentence.
     static bool make(const QString &path, QString &error);
-    /// Makes the directory and locks it. Null when it cannot be used; `error` then says why, in one sentence.
+    /// Makes the directory and shares it with others. Null when it cannot be used; `error` then says why, in one
+    /// sentence.
     static std::unique_ptr<StateDirectory> open(const QString &path, QString &error);
+    /// Takes the directory alone, also against who records. Waits so long for the others; answers an empty text, or part
+    /// of a sentence that says who has it. It is shared then as before.
+    QString takeAlone(int milliseconds);
+    /// Shares it again. This goes on to record when nobody else does.
+    void share();
+    /// Whether this records: takes the lock when nobody has it.
+    bool record();
+    bool isRecording() const { return directoryLock >= 0; }
+
+    static constexpr int longestWaitMs = 5000;
+
     ~StateDirectory();
     StateDirectory(const StateDirectory &) = delete;
     StateDirectory &operator=(const StateDirectory &) = delete;
@@ -76,10 +89,12 @@ private:
     {}
 
     int lock(); ///< 0 or an errno
+    QString whoHolds() const;
 
     QString path;
-    int fileLock = -1;
-    int directoryLock = -1;
+    int useLock = -1;
+    int recorderLock = -1;
+    int directoryLock = -1; ///< held with the one before
 };
 
 } // namespace handset::calllog

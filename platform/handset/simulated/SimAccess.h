@@ -1,21 +1,20 @@
-// The simulated telephone's way to its SIM card.
+// The simulated SIM card: what the phone asks of it, and what who makes it and who carries it can do.
 #pragma once
 
 #include "AdviceOfCharge.h"
-#include "CallRecorder.h"
-#include "ChargeMeter.h"
-#include "SimControl.h"
+#include "Ledger.h"
 #include "SimSecurity.h"
 
 namespace handset::simulated {
 
-class SimAccess final : public AdviceOfCharge, public SimSecurity, public SimControl
+/// Operations answer a status of handset/Status.h; one that fails has changed nothing. What is set is kept in the
+/// ledger.
+class SimAccess final : public AdviceOfCharge, public SimSecurity
 {
 public:
-    /// Both outlive this.
-    SimAccess(calllog::CallRecorder &callRecorder, ChargeMeter &chargeMeter)
-        : recorder(callRecorder)
-        , meter(chargeMeter)
+    /// `owner` outlives this.
+    explicit SimAccess(calllog::Ledger &owner)
+        : ledger(owner)
     {}
 
     int updateRule(quint8 file, quint8 &rule) override;
@@ -31,18 +30,23 @@ public:
     int triesLeft(quint8 pin, int &tries) override;
     int verifyPin(quint8 pin, const QByteArray &digits, bool &accepted) override;
 
-    const sim::SimCard &card() const override { return meter.state().card; }
-    int setUpdateRule(quint8 file, quint8 rule) override;
-    int setPin2Enabled(bool enabled) override;
-    int powerCycle() override;
-    int unblockPin2(QByteArrayView puk, QByteArrayView newPin, bool &accepted) override;
+    /// As Ledger::card(); a new card when it cannot be read.
+    charging::SimCard card() const;
+    /// Who may update `file` (AdviceOfCharge::File); any number is a rule, see AdviceOfCharge::UpdateRule.
+    int setUpdateRule(quint8 file, quint8 rule);
+    /// Switches the asking for PIN2 on or off; needs no code.
+    int setPin2Enabled(bool enabled);
+    /// Forgets that PIN2 has been entered, as switching off does.
+    int powerCycle();
+    /// As charging::Pin2::unblock(). The digits are neither kept nor traced.
+    int unblockPin2(QByteArrayView puk, QByteArrayView newPin, bool &accepted);
 
 private:
-    template <typename Edit>
-    int edit(Edit edit);
+    /// Asks `ask` of what stands now.
+    template <typename Ask>
+    int ask(Ask ask) const;
 
-    calllog::CallRecorder &recorder;
-    ChargeMeter &meter;
+    calllog::Ledger &ledger;
 };
 
 } // namespace handset::simulated

@@ -4,6 +4,7 @@
 #include "CallService.h"
 #include "DataCalls.h"
 #include "PacketData.h"
+#include "Schema.h"
 #include "Status.h"
 
 #include <QtCore/QDir>
@@ -113,6 +114,7 @@ QStringList StateDir::names() const
 {
     QStringList found = QDir(path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name);
     found.removeAll(QStringLiteral("lock"));
+    found.removeAll(QStringLiteral("recorder"));
     return found;
 }
 
@@ -228,6 +230,29 @@ bool LogFile::run(const QString &statement) const
 {
     QSqlQuery query(QSqlDatabase::database(name));
     return query.exec(statement);
+}
+
+bool takeBackTo(const QString &database, int version)
+{
+    calllog::Database older(QStringLiteral(":memory:"), calllog::Database::Access::ReadWrite);
+    calllog::Database log(database, calllog::Database::Access::ReadWrite);
+    bool done = calllog::migrate(older, calllog::migrations().first(static_cast<std::size_t>(version)));
+    for (const char *table : {"calls", "sessions"}) {
+        const QString columns = QStringLiteral("SELECT group_concat(name) FROM pragma_table_info('%1')");
+        const QStringList before = older.text(columns.arg(QLatin1String(table))).split(QLatin1Char(','));
+        const QStringList now = log.text(columns.arg(QLatin1String(table))).split(QLatin1Char(','));
+        for (const QString &column : now)
+            done = done &&
+                   (before.contains(column) ||
+                    log.run(QStringLiteral("ALTER TABLE %1 DROP COLUMN %2").arg(QLatin1String(table), column)));
+        QString sql = older.text(
+            QStringLiteral("SELECT sql FROM sqlite_schema WHERE name = '%1'").arg(QLatin1String(table)));
+        const QString put = QStringLiteral("UPDATE sqlite_schema SET sql = '%1' WHERE name = '%2'");
+        done = done && log.run(QStringLiteral("PRAGMA writable_schema = ON")) &&
+               log.run(put.arg(sql.replace(QLatin1String("'"), QLatin1String("''")), QLatin1String(table))) &&
+               log.run(QStringLiteral("PRAGMA writable_schema = RESET"));
+    }
+    return done && log.run(QStringLiteral("PRAGMA user_version = %1").arg(version));
 }
 
 QByteArray readFile(const QString &path)

@@ -68,7 +68,7 @@ public:
     QString database() const { return file(QStringLiteral("calllog.db")); }
     /// Beside path(), for copies.
     QString sibling(const QString &name) const { return temporary.filePath(name); }
-    /// Of the files in path(), sorted, without the lock.
+    /// Of the files in path(), sorted, without the locks.
     QStringList names() const;
 
 private:
@@ -133,6 +133,9 @@ public:
 private:
     QString name;
 };
+
+/// Gives a closed log the tables of an earlier version, 3 at least; what only the later one has is lost.
+bool takeBackTo(const QString &database, int version);
 
 /// Null when it cannot be read.
 QByteArray readFile(const QString &path);

@@ -34,7 +34,7 @@ public:
 
     bool chargeUnits() override
     {
-        sim::Tariff tariff;
+        charging::Tariff tariff;
         tariff.unitsPerInterval = 10;
         tariff.interval = 10;
         return (*phone)->charging().setTariff(CallDirection::Dialed, tariff) == Success &&
@@ -48,7 +48,7 @@ public:
     {
         return (*phone)->simCard().setUpdateRule(file, rule) == Success;
     }
-    QByteArray pin2() const override { return sim::SimCard::newCardPin2.toByteArray(); }
+    QByteArray pin2() const override { return charging::SimCard::newCardPin2.toByteArray(); }
 
 private:
     StateDir state;

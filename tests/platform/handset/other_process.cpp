@@ -3,24 +3,36 @@
 //   handset_other_process sessions DIRECTORY SEED
 //                                                has packet-data sessions until it is killed; a line for each
 //                                                checkpoint, and one that begins with '=' for each end
-//   handset_other_process hold DIRECTORY [USER]  says "holding", and holds the directory until its input ends; as the
-//                                                user with that number, or says "not permitted"
+//   handset_other_process share DIRECTORY SEED CLOCK
+//                                                makes calls while it records, asks, resets and sets while another does,
+//                                                by the clock in that file; a line for each finished call
+//   handset_other_process hold DIRECTORY [USER]  says "holding", and does what the lines say that it reads (Obedience)
+//                                                until its input ends; as the user with that number, or says "not
+//                                                permitted"
 //   handset_other_process leave DIRECTORY        installs the telephone, makes a call of 9 s, and leaves main()
 //                                                with the call still on the line
 //   handset_other_process leave-session DIRECTORY
 //                                                the same with a packet-data session, which begins when the session
 //                                                bus is there to tell of it
 // A directory that cannot be opened as expected is a line "error ..." or "notice ..." and exit code 1.
+#include "AdviceOfCharge.h"
+#include "CallLog.h"
+#include "CallService.h"
 #include "Clock.h"
 #include "Handset.h"
+#include "SharedClock.h"
+#include "SimSecurity.h"
 #include "SimulatedTelephone.h"
 #include "Status.h"
 #include "qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QSocketNotifier>
 
 #include <chrono>
 #include <cstdio>
+#include <functional>
+#include <initializer_list>
 #include <random>
 #include <utility>
 
@@ -129,13 +141,200 @@ int makeSessions(simulated::SimulatedTelephone &phone, ManualClock &clock, unsig
     return 1;
 }
 
-int hold()
+// Calls are over when they are reported: nothing is owed.
+bool makeSharedCall(simulated::SimulatedTelephone &phone, test::SharedClock &clock, std::mt19937 &random,
+                    unsigned number)
 {
+    const QString text = QString::number(number);
+    const bool isDialed = pick(random, 2) == 0;
+    const int begun =
+        isDialed ? phone.dial(text, pick(random, 3) == 0 ? CallKind::Data : CallKind::Voice) : phone.ring(text);
+    if (begun != Success || (isDialed ? phone.remoteAnswer() : phone.answer()) != Success)
+        return phone.hangUp() == Success;
+    for (int parts = pick(random, 5); parts > 0; --parts) {
+        clock.advance(pick(random, 5000));
+        if (phone.checkpoint() == Success)
+            report('~' + text.toLatin1(), phone.connectedMs());
+    }
+    clock.advance(pick(random, 5000));
+    const qint64 duration = phone.connectedMs();
+    if (phone.hangUp() != Success)
+        return false;
+    while (phone.owesRecord() && phone.checkpoint() != Success) {
+    }
+    return report(text.toLatin1(), duration);
+}
+
+// A log that is in use may be busy for a second: that is no failure.
+bool isAnswer(int status)
+{
+    return status == Success || status == StorageFailed;
+}
+
+int share(Handset &handset, simulated::SimulatedTelephone &phone, test::SharedClock &clock, unsigned seed)
+{
+    std::mt19937 random(seed);
+    CallTime time;
+    QByteArray text;
+    for (unsigned count = 0;; ++count) {
+        // Others want to write, too: SQLite gives up after a second.
+        ::usleep(static_cast<useconds_t>(pick(random, 5000)));
+        if (phone.isRecording()) {
+            if (!makeSharedCall(phone, clock, random, seed * 10000 + count))
+                return 1;
+            continue;
+        }
+        int status = Success;
+        switch (pick(random, 6)) {
+        case 0:
+            status = handset.callLog()->resetDialedCallsTime();
+            break;
+        case 1:
+            status = handset.adviceOfCharge()->setMeterMaximum(QString::number(16'000'000 + pick(random, 9)));
+            break;
+        case 2:
+            status = handset.callLog()->resetDialedCallsCost();
+            break;
+        case 3:
+            status = handset.callLog()->allCallsCost(text);
+            break;
+        default:
+            status = handset.callLog()->lastCallTime(time);
+        }
+        if (!isAnswer(status))
+            return 1;
+    }
+}
+
+/// What a test asks this process to do, a line each, and the answers, a line each.
+class Obedience
+{
+public:
+    Obedience(Handset &handset, simulated::SimulatedTelephone &driven, ManualClock &moved)
+        : roles(handset)
+        , phone(driven)
+        , clock(moved)
+    {}
+
+    QString answer(const QString &line)
+    {
+        const QStringList words = line.split(QLatin1Char(' '));
+        const QString word = words.value(1);
+        const std::initializer_list<std::pair<const char *, std::function<QString()>>> commands{
+            {"recording", [&] { return phone.isRecording() ? QStringLiteral("yes") : QStringLiteral("no"); }},
+            {"advance", [&] { return clock.advance(word.toLongLong()), QString::number(0); }},
+            {"wall", [&] { return clock.setWallMs(word.toLongLong()), QString::number(0); }},
+            {"reboot", [&] { return clock.reboot(word.toLongLong()), QString::number(0); }},
+            {"times", [&] { return times(); }},
+            {"costs", [&] { return costs(); }},
+            {"sessions", [&] { return sessions(); }},
+            {"line", [&] { return QStringLiteral("%1 %2").arg(int(phone.lineState())).arg(phone.connectedMs()); }},
+            {"dial", [&] { return number(phone.dial(word, CallKind::Voice)); }},
+            {"connect", [&] { return number(phone.remoteAnswer()); }},
+            {"hang-up", [&] { return number(phone.hangUp()); }},
+            {"checkpoint", [&] { return number(phone.checkpoint()); }},
+            {"start-session", [&] { return number(phone.packets().startSession("x", 10, 20)); }},
+            {"reset-dialed", [&] { return number(roles.callLog()->resetDialedCallsTime()); }},
+            {"reset-all", [&] { return number(roles.callLog()->resetAll()); }},
+            {"reset-bytes", [&] { return number(roles.packetData()->resetTotalBytes()); }},
+            {"limit", [&] { return number(roles.adviceOfCharge()->setMeterMaximum(word)); }},
+            {"guard", [&] { return number(phone.simCard().setUpdateRule(59, 4)); }},
+            {"pay",
+             [&] {
+                 return number(phone.charging().topUp(word, {2030, 1, 1}));
+             }},
+            {"pin", [&] { return pin(word); }},
+            {"pin-status", [&] { return pinStatus(); }},
+        };
+        for (const auto &[name, command] : commands)
+            if (words.constFirst() == QLatin1String(name))
+                return command();
+        return QStringLiteral("what?");
+    }
+
+private:
+    static QString number(qint64 value) { return QString::number(value); }
+    static QString inSeconds(const CallTime &time)
+    {
+        return number((qint64{time.hours} * 60 + time.minutes) * 60 + time.seconds);
+    }
+    QString times()
+    {
+        QStringList told;
+        CallTime time;
+        CallLog &log = *roles.callLog();
+        for (const auto ask : {&CallLog::lastCallTime, &CallLog::dialedCallsTime, &CallLog::answeredCallsTime,
+                               &CallLog::lifetimeCallsTime})
+            told << ((log.*ask)(time) == Success ? inSeconds(time) : QStringLiteral("?"));
+        return told.join(QLatin1Char(' '));
+    }
+    QString costs()
+    {
+        QByteArray last;
+        QByteArray all;
+        QByteArray credit("none");
+        if (roles.callService()->lastCallCost(last) != Success || roles.callLog()->allCallsCost(all) != Success)
+            return QStringLiteral("?");
+        roles.callService()->remainingCredit(credit);
+        return QString::fromLatin1(last + ' ' + all + ' ' + credit);
+    }
+    QString sessions()
+    {
+        DataSessions all;
+        CallTime time;
+        quint32 total = 0;
+        quint32 received = 0;
+        quint32 sent = 0;
+        PacketData &packets = *roles.packetData();
+        if (packets.sessions(all) != Success || packets.totalDuration(time) != Success ||
+            packets.totalBytes(total, received, sent) != Success)
+            return QStringLiteral("?");
+        return QStringLiteral("%1 %2 %3 %4")
+            .arg(all.count)
+            .arg(inSeconds(all.records[0].duration), inSeconds(time))
+            .arg(total);
+    }
+    QString pin(const QString &digits)
+    {
+        bool accepted = false;
+        const int status = roles.simSecurity()->verifyPin(SimSecurity::Pin2, digits.toLatin1(), accepted);
+        return QStringLiteral("%1 %2").arg(status).arg(int(accepted));
+    }
+    QString pinStatus()
+    {
+        quint32 status = 0;
+        int tries = 0;
+        const bool told = roles.simSecurity()->pinStatus(SimSecurity::Pin2, status) == Success &&
+                          roles.simSecurity()->triesLeft(SimSecurity::Pin2, tries) == Success;
+        return told ? QStringLiteral("%1 %2").arg(status).arg(tries) : QStringLiteral("?");
+    }
+
+    Handset &roles;
+    simulated::SimulatedTelephone &phone;
+    ManualClock &clock;
+};
+
+// With an event loop of its own, as a window has it, until there is nothing more to read.
+int hold(Handset &handset, simulated::SimulatedTelephone &phone, ManualClock &clock)
+{
+    Obedience obedience(handset, phone, clock);
+    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+    QByteArray unread;
+    QObject::connect(&input, &QSocketNotifier::activated, &input, [&] {
+        QByteArray bytes(4096, Qt::Uninitialized);
+        const ssize_t length = ::read(STDIN_FILENO, bytes.data(), static_cast<std::size_t>(bytes.size()));
+        if (length <= 0)
+            return QCoreApplication::quit();
+        unread += bytes.first(length);
+        for (qsizetype end = unread.indexOf('\n'); end >= 0; end = unread.indexOf('\n')) {
+            std::printf("%s\n", qUtf8Printable(obedience.answer(QString::fromUtf8(unread.first(end)))));
+            unread.remove(0, end + 1);
+        }
+        std::fflush(stdout);
+    });
     std::printf("holding\n");
     std::fflush(stdout);
-    while (std::getchar() != EOF) {
-    }
-    return 0;
+    return QCoreApplication::exec();
 }
 
 // Root's rights over files go with it.
@@ -178,17 +377,21 @@ int main(int argc, char **argv)
         return 1;
     }
     const auto clock = std::make_shared<ManualClock>(0);
+    const auto shared = std::make_shared<test::SharedClock>(arguments.value(4));
+    const bool isShared = arguments.value(1) == QLatin1String("share");
     Settings settings;
     settings.stateDirectory = arguments.value(2);
-    settings.clock = clock;
+    settings.clock = isShared ? std::shared_ptr<Clock>(shared) : clock;
     Opened opened = open(settings);
     auto *phone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
     if (!phone || !opened.notice.isEmpty()) {
         std::printf("%s %s\n", phone ? "notice" : "error", qUtf8Printable(phone ? opened.notice : opened.error));
         return 1;
     }
+    if (isShared)
+        return share(*opened.handset, *phone, *shared, arguments.value(3).toUInt());
     if (arguments.value(1) == QLatin1String("hold"))
-        return hold();
+        return hold(*opened.handset, *phone, *clock);
     if (arguments.value(1) == QLatin1String("leave"))
         return leave(std::exchange(opened, {}), *phone, *clock);
     if (arguments.value(1) == QLatin1String("leave-session"))

@@ -1,10 +1,9 @@
 // What the call log writes down.
 #include "CallLog.h"
-#include "CallRecorder.h"
 #include "CallService.h"
 #include "DataCalls.h"
 #include "HandsetTestKit.h"
-#include "OpenCallStore.h"
+#include "OpenLedger.h"
 #include "Schema.h"
 #include "Status.h"
 #include "TestGroup.h"
@@ -473,13 +472,13 @@ void TestCallLog::aCallOfNoKindIsNotRecorded_data()
 void TestCallLog::aCallOfNoKindIsNotRecorded()
 {
     QFETCH(PastCall, call);
-    calllog::CallRecorder recorder(calllog::openCallStore({}).store, std::make_shared<ManualClock>());
-    QCOMPARE(recorder.callConnected(call), int(InvalidArgument));
-    QVERIFY(!recorder.isConnected());
-    QCOMPARE(recorder.callNotConnected(call), int(InvalidArgument));
-    QVERIFY(!recorder.owesEnd());
-    QCOMPARE(recorder.addHistory({{}, call}), int(InvalidArgument));
-    QCOMPARE(recorder.callConnected({}), int(Success));
+    const auto ledger = calllog::openLedger({}, std::make_shared<ManualClock>()).ledger;
+    QCOMPARE(ledger->beginCall(call), int(InvalidArgument));
+    QVERIFY(!ledger->isConnected());
+    QCOMPARE(ledger->addUnconnected(call), int(InvalidArgument));
+    QVERIFY(!ledger->owesCall());
+    QCOMPARE(ledger->addHistory({{}, call}), int(InvalidArgument));
+    QCOMPARE(ledger->beginCall({}), int(Success));
 }
 
 void TestCallLog::whatIsMissingWhenItIsWrittenIsAFailure_data()

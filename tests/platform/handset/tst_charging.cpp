@@ -17,16 +17,16 @@
 using namespace handset;
 using namespace handset::test;
 using LineState = simulated::SimulatedTelephone::LineState;
-using StopReason = simulated::ChargingControl::StopReason;
+using StopReason = simulated::Charging::StopReason;
 using simulated::Account;
 
 namespace {
 
 constexpr Date someDay{2027, 3, 9};
 
-sim::Tariff perSeconds(quint16 tenthsOfUnits, quint16 seconds, quint16 tenthsAtStart = 0)
+charging::Tariff perSeconds(quint16 tenthsOfUnits, quint16 seconds, quint16 tenthsAtStart = 0)
 {
-    sim::Tariff tariff;
+    charging::Tariff tariff;
     tariff.unitsPerInterval = tenthsOfUnits;
     tariff.interval = static_cast<quint16>(seconds * 10);
     tariff.unitsAtStart = tenthsAtStart;
@@ -272,9 +272,9 @@ void TestCharging::aTariffHoldsFromTheNextCallOn()
 void TestCharging::aTariffOutOfItsRangeIsRefused()
 {
     Phone phone;
-    const sim::Tariff before = phone->charging().tariff(CallDirection::Answered);
-    sim::Tariff tariff;
-    tariff.scale = sim::Tariff::greatestElement + 1;
+    const charging::Tariff before = phone->charging().tariff(CallDirection::Answered);
+    charging::Tariff tariff;
+    tariff.scale = charging::Tariff::greatestElement + 1;
     QCOMPARE(phone->charging().setTariff(CallDirection::Answered, tariff), int(InvalidArgument));
     QCOMPARE(phone->charging().tariff(CallDirection::Answered), before);
 }
@@ -414,14 +414,14 @@ void TestCharging::theMeterStopsAt24Bits()
 {
     Phone phone;
     QVERIFY(makeExpensive(phone));
-    QVERIFY(phone.dialed(qint64{sim::maxUnits - 1} * second));
-    QCOMPARE(phone->simCard().card().acm(), sim::maxUnits - 1);
+    QVERIFY(phone.dialed(qint64{charging::maxUnits - 1} * second));
+    QCOMPARE(phone->simCard().card().acm(), charging::maxUnits - 1);
     QVERIFY(phone.dialed(5 * second));
-    QCOMPARE(phone->simCard().card().acm(), sim::maxUnits);
+    QCOMPARE(phone->simCard().card().acm(), charging::maxUnits);
     QCOMPARE(costsOf(phone), (FourCosts{"5.00", "16777219.00", "0.00", "16777215.00"}));
     QVERIFY(phone.dialed(std::numeric_limits<qint64>::max() / 4));
     QCOMPARE(costsOf(phone).last, QByteArray("16777215.00"));
-    QCOMPARE(phone->simCard().card().acm(), sim::maxUnits);
+    QCOMPARE(phone->simCard().card().acm(), charging::maxUnits);
 }
 
 // --- the maximum of the meter
@@ -540,11 +540,11 @@ void TestCharging::theWarningComesThirtySecondsBeforeTheEnd()
     QCOMPARE(phone->charging().msLeft(), 100 * second);
     phone.clock->advance(69'999);
     QCOMPARE(phone->charging().msLeft(), qint64{30'001});
-    QVERIFY(*phone->charging().msLeft() > simulated::ChargingControl::warningMs);
+    QVERIFY(*phone->charging().msLeft() > simulated::Charging::warningMs);
     phone.clock->advance(1);
-    QCOMPARE(phone->charging().msLeft(), simulated::ChargingControl::warningMs);
+    QCOMPARE(phone->charging().msLeft(), simulated::Charging::warningMs);
     QCOMPARE(phone->checkpoint(), int(Success));
-    QCOMPARE(phone->charging().msLeft(), simulated::ChargingControl::warningMs);
+    QCOMPARE(phone->charging().msLeft(), simulated::Charging::warningMs);
 }
 
 void TestCharging::aLowerMaximumEndsTheRunningCall()
@@ -915,12 +915,12 @@ void TestCharging::aFailedWriteChangesNoSetting()
     QCOMPARE(advice(phone).setMeterMaximum(QStringLiteral("500")), int(Success));
     QCOMPARE(phone->charging().topUp(QStringLiteral("100"), someDay), int(Success));
     QVERIFY(phone.dialed(50 * second));
-    const sim::SimFiles filesBefore = phone->simCard().card().files();
-    const sim::Pin2Record pinBefore = phone->simCard().card().pin2().record();
+    const charging::SimFiles filesBefore = phone->simCard().card().files();
+    const charging::Pin2Record pinBefore = phone->simCard().card().pin2().record();
     const FourCosts costsBefore = costsOf(phone);
     const SixFigures timesBefore = phone.figures();
     const std::optional<Account> accountBefore = phone->charging().account();
-    const sim::Tariff tariffBefore = phone->charging().tariff(CallDirection::Dialed);
+    const charging::Tariff tariffBefore = phone->charging().tariff(CallDirection::Dialed);
     const LogFile file(state.database());
     for (const char *change : {"INSERT", "UPDATE"})
         QVERIFY(file.run(QStringLiteral("CREATE TRIGGER full_%1 BEFORE %1 ON kept BEGIN"

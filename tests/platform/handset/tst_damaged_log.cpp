@@ -758,7 +758,8 @@ void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
     QCOMPARE(Phone(state.path())->addHistory(manyCalls(210'000)), int(Success));
     QVERIFY(LogFile(state.database())
                 .run(QStringLiteral(
-                    "INSERT INTO sessions WITH RECURSIVE numbers (n) AS (SELECT 1 UNION ALL SELECT"
+                    "INSERT INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
+                    " WITH RECURSIVE numbers (n) AS (SELECT 1 UNION ALL SELECT"
                     " n + 1 FROM numbers WHERE n < 60000) SELECT n, 'x', n, 0, 0, 0, 1 FROM numbers")));
     QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
     if (isOverwritten) {

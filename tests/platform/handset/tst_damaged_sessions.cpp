@@ -245,7 +245,9 @@ void TestDamagedSessions::sessionsThatNoTelephoneWroteAreLeftOut()
     {
         const LogFile file(state.database());
         QVERIFY(file.run(QStringLiteral("PRAGMA ignore_check_constraints = ON")));
-        const QString insert = QStringLiteral("INSERT INTO sessions VALUES (%1)");
+        const QString insert =
+            QStringLiteral("INSERT INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
+                           " VALUES (%1)");
         for (const char *values :
              {"-4, 'x', 0, 1, 1, 1, 1", "0, 'x', 0, 1, 1, 1, 1", "9000000000000000000, 'x', 0, 1, 1, 1, 1",
               "10, '', 0, 1, 1, 1, 1", "11, printf('%.102c', 'x'), 0, 1, 1, 1, 1", "12, char(8364), 0, 1, 1, 1, 1",
@@ -273,7 +275,10 @@ void TestDamagedSessions::totalsAreCountedUpToTheirEnd()
     {
         const LogFile file(state.database());
         const qint64 most = std::numeric_limits<qint64>::max();
-        QVERIFY(file.run(QStringLiteral("INSERT INTO sessions VALUES (2, 'b', 0, %1, %1, %1, 1)").arg(most)));
+        QVERIFY(file.run(
+            QStringLiteral("INSERT INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
+                           " VALUES (2, 'b', 0, %1, %1, %1, 1)")
+                .arg(most)));
         QVERIFY(file.run(QStringLiteral("DROP TABLE session_totals")));
     }
     Phone phone(state.path());

@@ -199,7 +199,7 @@ void TestFullDisk::aCallThatTheTelephoneStopsEndsAndIsWrittenWhenThereIsRoom()
         expectFailure();
         QCOMPARE(phone->checkpoint(), int(StorageFailed));
         QCOMPARE(phone->lineState(), LineState::Idle);
-        QCOMPARE(phone->charging().stopReason(), simulated::ChargingControl::StopReason::CreditUsedUp);
+        QCOMPARE(phone->charging().stopReason(), simulated::Charging::StopReason::CreditUsedUp);
         QVERIFY(phone->owesRecord());
         QCOMPARE(phone.figures(), (SixFigures{20, 20, 0, 0, 20, 20}));
         QCOMPARE(costsOf(phone), (CostsAndCredit{"2.00", "2.00", "2.00", "0.00"}));

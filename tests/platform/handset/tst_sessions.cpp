@@ -1,7 +1,7 @@
 // The packet-data sessions of the simulated telephone: what is counted, told and written down.
 #include "HandsetTestKit.h"
-#include "PacketControl.h"
 #include "PacketData.h"
+#include "PacketFigures.h"
 #include "Schema.h"
 #include "Status.h"
 #include "TestGroup.h"
@@ -15,7 +15,7 @@
 using namespace handset;
 using namespace handset::test;
 using calllog::CallState;
-using simulated::PacketControl;
+using calllog::PacketFigures;
 using simulated::SimulatedTelephone;
 
 namespace {
@@ -146,7 +146,7 @@ void TestSessions::theNameOfAnAccessPointIsLatin1()
 void TestSessions::thereIsOneSessionAtATime()
 {
     Phone phone;
-    PacketControl &packets = phone->packets();
+    PacketFigures &packets = phone->packets();
     QCOMPARE(packets.stopSession(), int(WrongState));
     QVERIFY(!packets.isSessionRunning());
     QCOMPARE(packets.startSession("one", 1, 1), int(Success));
@@ -491,7 +491,7 @@ void TestSessions::aWriteThatFailsChangesNothing()
     const StateDir state;
     Phone phone(state.path());
     QVERIFY(phone.session(50 * second, "x", 1, 1));
-    PacketControl &packets = phone->packets();
+    PacketFigures &packets = phone->packets();
     const LogFile other(state.database());
     const auto fails = [](int status) { return status == StorageFailed; };
     const QRegularExpression warning(QStringLiteral("^The call log failed: "));

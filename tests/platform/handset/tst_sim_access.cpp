@@ -13,8 +13,8 @@ using namespace handset::test;
 
 namespace {
 
-constexpr auto rightPin = sim::SimCard::newCardPin2;
-constexpr auto rightPuk = sim::SimCard::newCardPuk2;
+constexpr auto rightPin = charging::SimCard::newCardPin2;
+constexpr auto rightPuk = charging::SimCard::newCardPuk2;
 
 AdviceOfCharge &advice(const Phone &phone)
 {
@@ -266,7 +266,7 @@ void TestSimAccess::whatIsNoPriceIsRefused()
     QFETCH(QString, currency);
     const Phone phone;
     QCOMPARE(advice(phone).setPriceAndCurrency(QStringLiteral("0.23"), QStringLiteral("EUR")), int(Success));
-    const sim::SimFiles before = phone->simCard().card().files();
+    const charging::SimFiles before = phone->simCard().card().files();
     QCOMPARE(advice(phone).setPriceAndCurrency(price, currency), int(InvalidArgument));
     QCOMPARE(phone->simCard().card().files(), before);
 }

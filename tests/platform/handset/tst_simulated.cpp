@@ -187,14 +187,14 @@ void TestSimulatedTelephone::aKindOfCallThatIsNoneIsNotDialed()
 void TestSimulatedTelephone::aDirectionThatIsNoneHasNoTariff()
 {
     Phone phone;
-    sim::Tariff dear;
+    charging::Tariff dear;
     dear.unitsAtStart = 10;
     for (const int number : {2, -1, 255}) {
         const auto none = static_cast<CallDirection>(number);
         QCOMPARE(phone->charging().setTariff(none, dear), int(InvalidArgument));
-        QVERIFY(phone->charging().tariff(none) == sim::Tariff());
+        QVERIFY(phone->charging().tariff(none) == charging::Tariff());
     }
-    QVERIFY(phone->charging().tariff(CallDirection::Answered) == sim::Tariff());
+    QVERIFY(phone->charging().tariff(CallDirection::Answered) == charging::Tariff());
 }
 
 void TestSimulatedTelephone::aCallerMayWithholdTheNumber()

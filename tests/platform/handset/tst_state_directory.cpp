@@ -1,9 +1,10 @@
 // Directories that cannot be used, and directories that somebody else uses.
 #include "HandsetTestKit.h"
+#include "OtherProcess.h"
+#include "Status.h"
 #include "TestGroup.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QProcess>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,33 +13,6 @@ using namespace handset;
 using namespace handset::test;
 
 namespace {
-
-/// Another process that uses a state directory.
-class Holder
-{
-public:
-    explicit Holder(const QString &directory, const QStringList &user = {})
-    {
-        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
-                      QStringList{QStringLiteral("hold"), directory} + user);
-    }
-    ~Holder() { kill(); }
-
-    QByteArray firstLine()
-    {
-        while (!process.canReadLine() && process.waitForReadyRead(30000)) {
-        }
-        return process.readLine().trimmed();
-    }
-    void kill()
-    {
-        process.kill();
-        process.waitForFinished();
-    }
-
-private:
-    QProcess process;
-};
 
 /// Somebody for whom the permissions of files count, which they do not for root.
 uid_t ordinaryUser()
@@ -71,12 +45,12 @@ private slots:
     void aLockThatIsSomethingElseIsAnError_data();
     void aLockThatIsSomethingElseIsAnError();
     void aLinkToADirectoryIsFollowed();
-    void aSecondProcessIsToldWhichDirectoryIsInUse();
+    void aSecondProcessMayAskButDoesNotRecord();
     void aSecondProcessMovesNothingAside();
     void aSecondTelephoneOfThisProcessIsRefusedToo();
     void theLockGoesWithTheProcessThatWasKilled();
     void theLockGoesWithTheTelephone();
-    void removingTheLockFileLetsNoSecondTelephoneIn();
+    void removingTheLockFilesMakesNoSecondRecorder();
 };
 
 void TestStateDirectory::aDirectoryThatCannotBeUsedIsOneSentence_data()
@@ -206,7 +180,7 @@ void TestStateDirectory::aLeftoverWithWrongRightsIsMendedOrNamed()
     const QString victim = crashed + QLatin1Char('/') + leftover;
     QCOMPARE(::chmod(QFile::encodeName(victim).constData(), static_cast<mode_t>(mode)), 0);
 
-    const QByteArray answer = Holder(crashed, {QString::number(ordinaryUser())}).firstLine();
+    const QByteArray answer = OtherProcess(crashed, {QString::number(ordinaryUser())}).firstLine();
     if (answer == "not permitted")
         QSKIP("root may not become another user here");
     const QString refusal = QStringLiteral("error The call log \"%1/calllog.db\" cannot be used: \"%2\" cannot be "
@@ -275,7 +249,7 @@ void TestStateDirectory::permissionsThatAreMissingAreTold()
         QSKIP("root may not give a directory to another user here");
     QCOMPARE(::chmod(directory.constData(), static_cast<mode_t>(mode)), 0);
     const QString path = state.path() + below;
-    const QByteArray answer = Holder(path, {QString::number(ordinaryUser())}).firstLine();
+    const QByteArray answer = OtherProcess(path, {QString::number(ordinaryUser())}).firstLine();
     if (answer == "not permitted")
         QSKIP("root may not become another user here");
     // The directory that could not be made is named, not the one on the way.
@@ -297,7 +271,7 @@ void TestStateDirectory::aCallLogThatCannotBeWrittenIsTold()
             QSKIP("root may not give a file to another user here");
     }
     QCOMPARE(::chmod(log.constData(), 0400), 0);
-    const QByteArray answer = Holder(state.path(), {QString::number(ordinaryUser())}).firstLine();
+    const QByteArray answer = OtherProcess(state.path(), {QString::number(ordinaryUser())}).firstLine();
     if (answer == "not permitted")
         QSKIP("root may not become another user here");
     QCOMPARE(answer, "error The call log \"" + log + "\" cannot be used: attempt to write a readonly database.");
@@ -334,13 +308,13 @@ void TestStateDirectory::aLinkToADirectoryIsFollowed()
     QVERIFY(!Phone(state.path())); // the same directory, however it is named
 }
 
-void TestStateDirectory::aSecondProcessIsToldWhichDirectoryIsInUse()
+void TestStateDirectory::aSecondProcessMayAskButDoesNotRecord()
 {
     const StateDir state;
     Phone phone(state.path());
     QVERIFY(phone.dial());
-    QCOMPARE(Holder(state.path()).firstLine(),
-             "error The state directory \"" + state.path().toUtf8() + "\" is in use by another telephone.");
+    QCOMPARE(OtherProcess(state.path()).firstLine(), QByteArray("holding"));
+    QVERIFY(phone->isRecording());
     phone.clock->advance(3 * second);
     QCOMPARE(phone->hangUp(), 0);
     QCOMPARE(phone.figures().dialed, quint64{3});
@@ -350,7 +324,7 @@ void TestStateDirectory::aSecondProcessMovesNothingAside()
 {
     const StateDir state;
     QVERIFY(Phone(state.path()).dialed(4 * second));
-    Holder holder(state.path());
+    OtherProcess holder(state.path());
     QCOMPARE(holder.firstLine(), QByteArray("holding"));
     // Even a database that is none now.
     const QStringList before = state.names();
@@ -359,7 +333,8 @@ void TestStateDirectory::aSecondProcessMovesNothingAside()
     QVERIFY(QFile::copy(state.sibling(QStringLiteral("garbage")), state.database()));
     const Phone phone(state.path());
     QVERIFY(!phone);
-    QVERIFY(phone.opened.error.contains(QStringLiteral("in use")));
+    QVERIFY2(phone.opened.error.contains(QStringLiteral("it is in use by handset_other_p (process ")),
+             qPrintable(phone.opened.error));
     QCOMPARE(state.names(), before);
     QCOMPARE(readFile(state.database()), QByteArray(5000, 'g'));
 }
@@ -378,13 +353,18 @@ void TestStateDirectory::aSecondTelephoneOfThisProcessIsRefusedToo()
 void TestStateDirectory::theLockGoesWithTheProcessThatWasKilled()
 {
     const StateDir state;
-    Holder holder(state.path());
+    OtherProcess holder(state.path());
     QCOMPARE(holder.firstLine(), QByteArray("holding"));
-    QVERIFY(!Phone(state.path()));
-    holder.kill();
     const Phone phone(state.path());
     QVERIFY2(phone, qPrintable(phone.opened.error));
-    QVERIFY(phone.opened.notice.isEmpty());
+    QVERIFY(!phone->isRecording());
+    QCOMPARE(phone->dial(QStringLiteral("1"), CallKind::Voice), int(RecordedElsewhere));
+    QCOMPARE(phone->ring(QStringLiteral("1")), int(RecordedElsewhere));
+    QCOMPARE(phone->hangUp(), int(RecordedElsewhere));
+    QCOMPARE(phone->packets().startSession("x", 1, 1), int(RecordedElsewhere));
+    holder.kill();
+    QVERIFY(phone->isRecording());
+    QCOMPARE(phone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
 }
 
 void TestStateDirectory::theLockGoesWithTheTelephone()
@@ -396,20 +376,19 @@ void TestStateDirectory::theLockGoesWithTheTelephone()
     QVERIFY(Phone(state.path()));
 }
 
-void TestStateDirectory::removingTheLockFileLetsNoSecondTelephoneIn()
+void TestStateDirectory::removingTheLockFilesMakesNoSecondRecorder()
 {
     const StateDir state;
     Phone phone(state.path());
     QVERIFY(phone.dial());
-    QVERIFY(QFile::remove(state.file(QStringLiteral("lock"))));
-    const QByteArray refusal =
-        "The state directory \"" + state.path().toUtf8() + "\" is in use by another telephone.";
-    QCOMPARE(Phone(state.path()).opened.error.toUtf8(), refusal);
-    QCOMPARE(Holder(state.path()).firstLine(), "error " + refusal);
-    // The one that came in vain has made a new lock file, and may have left it locked.
-    QCOMPARE(Holder(state.path()).firstLine(), "error " + refusal);
-    phone.close();
-    QVERIFY(Phone(state.path()));
+    for (const char *lock : {"lock", "recorder"})
+        QVERIFY(QFile::remove(state.file(QLatin1String(lock))));
+    OtherProcess holder(state.path());
+    QCOMPARE(holder.firstLine(), QByteArray("holding"));
+    QCOMPARE(holder.ask("recording"), QByteArray("no"));
+    // Nor does it take the directory for itself.
+    QVERIFY(QFile::remove(state.database()));
+    QVERIFY(OtherProcess(state.path()).firstLine().contains("in use by"));
 }
 
 KAV_TEST_GROUP(TestStateDirectory, QCoreApplication);

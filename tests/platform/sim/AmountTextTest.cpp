@@ -11,7 +11,7 @@
 #include <limits>
 
 using namespace handset;
-using namespace handset::sim;
+using namespace handset::charging;
 using handset::test::LongHand;
 
 namespace {

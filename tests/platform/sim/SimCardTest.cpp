@@ -5,7 +5,7 @@
 #include <QtTest/QTest>
 
 using namespace handset;
-using namespace handset::sim;
+using namespace handset::charging;
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <limits>
 #include <vector>
 
-using namespace handset::sim;
+using namespace handset::charging;
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 using namespace handset;
-using namespace handset::sim;
+using namespace handset::charging;
 using handset::test::LongHand;
 
 namespace {

@@ -1,5 +1,6 @@
 #include "Replacement.h"
 
+#include "LedgerTables.h"
 #include "LogCopy.h"
 #include "OpenDatabase.h"
 #include "PlainSqlite.h"
@@ -27,6 +28,7 @@ QString describe(Verdict verdict)
     switch (verdict) {
     case Verdict::Usable:
     case Verdict::Missing:
+    case Verdict::Older:
     case Verdict::Blocked:
         break; // not worth a notice, or an error
     case Verdict::Damaged:
@@ -117,26 +119,27 @@ Finding emptyWriteAheadLog(Database &database)
 }
 
 // A notice that was never told goes on in front of the new one.
-Finding putNotice(CallStore &store, const QString &notice)
+Finding putNotice(Database &database, const QString &notice)
 {
+    LedgerTables tables(database);
     const QString name = QString::fromLatin1(keptNotice);
     QByteArray untold;
-    if (store.kept(name, untold) != 0)
-        return failure(store.connection());
+    if (!tables.kept(name, untold))
+        return failure(database);
     const QByteArray all = untold.isEmpty() ? notice.toUtf8() : untold + ' ' + notice.toUtf8();
-    return store.putKept({name, all}) ? Finding{} : failure(store.connection());
+    return tables.put({name, all}) ? Finding{} : failure(database);
 }
 
-Finding fill(CallStore &store, LogCopy &copy, const Replaced &old, Salvaged &salvaged)
+Finding fill(Database &database, LogCopy &copy, const Replaced &old, Salvaged &salvaged)
 {
-    Finding finding = prepare(store.connection());
+    Finding finding = prepare(database);
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
-        finding = salvage(copy.database(), store, salvaged, old.progress);
+        finding = salvage(copy.database(), database, salvaged, old.progress);
     if (finding.verdict == Verdict::Usable && old.verdict == Verdict::Damaged)
         finding = copy.check();
     if (finding.verdict == Verdict::Usable && old.verdict != Verdict::Missing)
-        finding = putNotice(store, notice(old, salvaged));
-    return finding.verdict == Verdict::Usable ? emptyWriteAheadLog(store.connection()) : finding;
+        finding = putNotice(database, notice(old, salvaged));
+    return finding.verdict == Verdict::Usable ? emptyWriteAheadLog(database) : finding;
 }
 
 /// What SQLite's virtual machine does to check one row: measured with 3.40, over a million calls. Before the first it
@@ -170,9 +173,8 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
         return finding;
     Salvaged salvaged;
     {
-        std::unique_ptr<StateDirectory> unlocked;
-        Attempt fresh = openDatabase(path, unlocked, Care::Quick);
-        finding = fresh.store ? fill(*fresh.store, copy, old, salvaged) : fresh.finding;
+        const Attempt fresh = openDatabase(path, Care::Quick, Hold::Alone);
+        finding = fresh.database ? fill(*fresh.database, copy, old, salvaged) : fresh.finding;
     }
     if (finding.verdict != Verdict::Usable)
         return finding;
@@ -230,6 +232,14 @@ Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressLi
     return {};
 }
 
+bool hasRemains(const StateDirectory &directory)
+{
+    for (const char *name : {LogCopy::name, unfinishedName, readyName})
+        if (directory.find(QString::fromLatin1(name)) != ENOENT)
+            return true;
+    return directory.hasLeftovers(QString::fromLatin1(unfinishedName));
+}
+
 Finding finishReplacement(StateDirectory &directory)
 {
     const QString name = QString::fromLatin1(databaseName);
@@ -261,10 +271,10 @@ Finding finishReplacement(StateDirectory &directory)
     return error == 0 ? Finding{} : blocked(error);
 }
 
-QString untoldNotice(CallStore &store)
+QString untoldNotice(Database &database)
 {
     QByteArray notice;
-    store.kept(QString::fromLatin1(keptNotice), notice);
+    LedgerTables(database).kept(QString::fromLatin1(keptNotice), notice);
     return QString::fromUtf8(notice);
 }
 

@@ -1,7 +1,6 @@
 // Puts a new call log in the place of one that cannot be used.
 #pragma once
 
-#include "CallStore.h"
 #include "Finding.h"
 #include "Progress.h"
 #include "StateDirectory.h"
@@ -18,11 +17,13 @@ struct Replacement {
 /// start.
 Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress);
 
-/// To be called before anything else in a directory. Blocked when that must be left alone for now.
+/// Whether an interrupted replacement has left files.
+bool hasRemains(const StateDirectory &directory);
+/// To be called before anything else of a replacement. Blocked when that must be left alone for now.
 Finding finishReplacement(StateDirectory &directory);
 
 /// What has not been told yet of the log that this one replaced; empty for nothing. It is told again until whoever
 /// tells it empties it.
-QString untoldNotice(CallStore &store);
+QString untoldNotice(Database &database);
 
 } // namespace handset::calllog

@@ -1,5 +1,6 @@
 #include "Salvage.h"
 
+#include "LedgerTables.h"
 #include "RowSalvage.h"
 #include "SalvageSessions.h"
 #include "Saturating.h"
@@ -24,17 +25,16 @@ constexpr auto hasUnitsSql = "SELECT count(*) FROM pragma_table_info('calls') WH
 
 enum Column { Id, Kind, Direction, Number, Started, Duration, State, Units };
 
-using Totals = std::array<qint64, counterNames.size()>;
-using Costs = std::array<qint64, costCounterNames.size()>;
+using Totals = std::array<qint64, totalPlaces.size()>; ///< of calls; those of the sessions are not used
 
 class CallSalvage final : public RowSalvage
 {
 public:
-    CallSalvage(Database &damaged, CallStore &fresh, const ProgressListener &listener)
-        : RowSalvage(damaged, fresh.connection(),
+    CallSalvage(Database &damaged, Database &fresh, const ProgressListener &listener)
+        : RowSalvage(damaged, fresh,
                      {listener, QStringLiteral("Reading the damaged call log"),
                       damaged.number(QStringLiteral("SELECT max(id) FROM calls")).value_or(0)})
-        , store(fresh)
+        , tables(fresh)
     {}
 
     bool run();
@@ -46,27 +46,25 @@ private:
     QString unitsColumn();
     bool fit(Totals &totals);
     bool putTotals();
-    std::optional<Totals> readTotals();
+    std::optional<Totals> readTotals(std::span<const TotalPlace> places);
     bool putCosts();
-    std::optional<Costs> readCosts();
     bool putKept();
     bool readKept(QSqlError &damage);
 
-    CallStore &store;
+    LedgerTables tables;
     bool totalsRead = false;
     qint64 lastConnected = 0; ///< id
     Totals counted{};
-    Costs countedCosts{};
 };
 
-qint64 &totalOf(Totals &totals, Counter counter)
+qint64 &totalOf(Totals &totals, Total total)
 {
-    return totals[static_cast<std::size_t>(counter)];
+    return totals[static_cast<std::size_t>(total)];
 }
 
-qint64 &costOf(Costs &costs, CostCounter counter)
+void add(qint64 &sum, qint64 amount)
 {
-    return costs[static_cast<std::size_t>(counter)];
+    sum = saturatingSum(sum, amount);
 }
 
 bool CallSalvage::isPlausible(const QSqlQuery &row) const
@@ -94,30 +92,32 @@ void CallSalvage::countRow(const QSqlQuery &row)
 {
     if (row.value(State).toInt() == static_cast<int>(CallState::NotConnected))
         return;
-    const Counter own = ownCounter(static_cast<CallKind>(row.value(Kind).toInt()),
-                                   static_cast<CallDirection>(row.value(Direction).toInt()));
+    const auto kind = static_cast<CallKind>(row.value(Kind).toInt());
+    const auto direction = static_cast<CallDirection>(row.value(Direction).toInt());
     const qint64 duration = row.value(Duration).toLongLong();
-    for (const Counter counter : {own, Counter::All, Counter::Lifetime})
-        totalOf(counted, counter) = saturatingSum(totalOf(counted, counter), duration);
+    for (const Total total : {ownTime(kind, direction), Total::AllTime, Total::LifetimeTime})
+        add(totalOf(counted, total), duration);
     const qint64 units = row.value(Units).toLongLong();
-    if (const std::optional<CostCounter> ownCost = ownCostCounter(own))
-        costOf(countedCosts, *ownCost) = saturatingSum(costOf(countedCosts, *ownCost), units);
+    if (const std::optional<Total> own = ownCost(kind, direction))
+        add(totalOf(counted, *own), units);
     if (row.value(Id).toLongLong() > lastConnected) {
         lastConnected = row.value(Id).toLongLong();
-        totalOf(counted, Counter::Last) = duration;
-        costOf(countedCosts, CostCounter::Last) = units;
+        totalOf(counted, Total::LastTime) = duration;
+        totalOf(counted, Total::LastCost) = units;
     }
 }
 
-std::optional<Totals> CallSalvage::readTotals()
+std::optional<Totals> CallSalvage::readTotals(std::span<const TotalPlace> places)
 {
     Totals totals{};
-    for (const CounterName &name : counterNames) {
-        const QString select = QStringLiteral("SELECT ms FROM totals WHERE counter = '%1'");
-        const std::optional<qint64> ms = read(select.arg(QString::fromLatin1(name.key)));
-        if (!ms || *ms < 0)
+    for (const TotalPlace &place : places) {
+        const QString select =
+            QStringLiteral("SELECT %1 FROM %2 WHERE counter = '%3'")
+                .arg(QLatin1String(place.column), QLatin1String(place.table), QLatin1String(place.key));
+        const std::optional<qint64> value = read(select);
+        if (!value || *value < 0)
             return std::nullopt;
-        totalOf(totals, name.counter) = *ms;
+        totalOf(totals, place.total) = *value;
     }
     return totals;
 }
@@ -125,56 +125,42 @@ std::optional<Totals> CallSalvage::readTotals()
 // Of a log that lost rows the totals count more than what is left, and no single one more than all of it.
 bool CallSalvage::fit(Totals &totals)
 {
-    const qint64 lifetime = totalOf(totals, Counter::Lifetime);
-    const qint64 lost = lifetime - totalOf(counted, Counter::Lifetime);
-    const auto isOwn = [](Counter counter) {
-        return counter == Counter::Dialed || counter == Counter::Answered || counter == Counter::Data;
+    const qint64 lifetime = totalOf(totals, Total::LifetimeTime);
+    const qint64 lost = lifetime - totalOf(counted, Total::LifetimeTime);
+    const auto isOwn = [](Total total) {
+        return total == Total::DialedTime || total == Total::AnsweredTime || total == Total::DataTime;
     };
-    return lost >= 0 && std::all_of(counterNames.begin(), counterNames.end(), [&](const CounterName &name) {
-               const qint64 total = totalOf(totals, name.counter);
+    return lost >= 0 && std::all_of(timePlaces.begin(), timePlaces.end(), [&](const TotalPlace &place) {
                const qint64 most =
-                   isOwn(name.counter) ? saturatingSum(totalOf(counted, name.counter), lost) : lifetime;
-               return total <= most;
+                   isOwn(place.total) ? saturatingSum(totalOf(counted, place.total), lost) : lifetime;
+               return totalOf(totals, place.total) <= most;
            });
 }
 
 bool CallSalvage::putTotals()
 {
-    std::optional<Totals> kept = readTotals();
+    std::optional<Totals> kept = readTotals(timePlaces);
     totalsRead = kept && fit(*kept);
     Totals totals = totalsRead ? *kept : counted;
     if (isBlocked())
         return false;
-    for (const CounterName &name : counterNames)
-        if (!store.putTotal(name.counter, totalOf(totals, name.counter)))
+    for (const TotalPlace &place : timePlaces)
+        if (!tables.put(place.total, totalOf(totals, place.total)))
             return false;
-    return putLost("calls", totalOf(totals, Counter::Lifetime) - totalOf(counted, Counter::Lifetime));
-}
-
-std::optional<Costs> CallSalvage::readCosts()
-{
-    Costs costs{};
-    for (const CostCounterName &name : costCounterNames) {
-        const QString select = QStringLiteral("SELECT units FROM costs WHERE counter = '%1'");
-        const std::optional<qint64> units = read(select.arg(QString::fromLatin1(name.key)));
-        if (!units || *units < 0)
-            return std::nullopt;
-        costOf(costs, name.counter) = *units;
-    }
-    return costs;
+    return putLost("calls", totalOf(totals, Total::LifetimeTime) - totalOf(counted, Total::LifetimeTime));
 }
 
 bool CallSalvage::putCosts()
 {
-    Costs costs = readCosts().value_or(countedCosts);
+    Totals costs = readTotals(costPlaces).value_or(counted);
     if (isBlocked())
         return false;
     qint64 lost = 0;
-    for (const CostCounterName &name : costCounterNames) {
-        const qint64 cost = costOf(costs, name.counter);
-        if (!store.putCost(name.counter, cost))
+    for (const TotalPlace &place : costPlaces) {
+        const qint64 cost = totalOf(costs, place.total);
+        if (!tables.put(place.total, cost))
             return false;
-        lost = std::max(lost, cost - costOf(countedCosts, name.counter));
+        lost = std::max(lost, cost - totalOf(counted, place.total));
     }
     return putLost("units", lost);
 }
@@ -198,7 +184,7 @@ bool CallSalvage::readKept(QSqlError &damage)
         const QVariant name = rows.value(0);
         const QVariant content = rows.value(1);
         const bool isValue = name.typeId() == QMetaType::QString && content.typeId() == QMetaType::QByteArray;
-        if (isValue && !store.putKept({name.toString(), content.toByteArray()}))
+        if (isValue && !tables.put({name.toString(), content.toByteArray()}))
             return false;
     }
     damage = rows.lastError();
@@ -207,32 +193,32 @@ bool CallSalvage::readKept(QSqlError &damage)
 }
 
 // Where the list of tables cannot be read, nothing can. A card may have been there.
-Finding beginWithNothing(const Database &source, CallStore &target)
+Finding beginWithNothing(const Database &source, Database &target)
 {
     if (!isDamage(source.lastError()))
         return failure(source);
-    return target.connection().run(QStringLiteral("DELETE FROM kept")) ? Finding{} : failure(target.connection());
+    return target.run(QStringLiteral("DELETE FROM kept")) ? Finding{} : failure(target);
 }
 
 } // namespace
 
-Finding salvage(Database &source, CallStore &target, Salvaged &salvaged, const ProgressListener &progress)
+Finding salvage(Database &source, Database &target, Salvaged &salvaged, const ProgressListener &progress)
 {
     if (!leaveOnlyTables(source) && !leaveOnlyTables(source))
         return beginWithNothing(source, target);
     CallSalvage calls(source, target, progress);
     SalvagedSessions sessions;
-    const bool written = target.connection().inTransaction([&] {
+    const bool written = target.inTransaction([&] {
         if (!calls.run())
             return false;
-        sessions = salvageSessions(source, target.connection(), progress);
+        sessions = salvageSessions(source, target, progress);
         return sessions.written;
     });
     for (const Finding &obstacle : {calls.obstacle(), sessions.obstacle})
         if (obstacle.verdict != Verdict::Usable)
             return obstacle;
     salvaged = {calls.copied(), calls.hasReadTotals(), sessions.sessions, sessions.totalsRead};
-    return written ? Finding{} : failure(target.connection());
+    return written ? Finding{} : failure(target);
 }
 
 } // namespace handset::calllog

@@ -1,7 +1,6 @@
 // Reads what can still be read of a damaged call log.
 #pragma once
 
-#include "CallStore.h"
 #include "Finding.h"
 #include "Progress.h"
 
@@ -18,6 +17,6 @@ struct Salvaged {
 /// Copies the calls, the sessions, and the totals of each where all of them can be read, from `source` into the empty
 /// `target`, in one transaction. Blocked when anything but damage keeps it from reading: then there may be more, and the
 /// target has nothing.
-Finding salvage(Database &source, CallStore &target, Salvaged &salvaged, const ProgressListener &progress);
+Finding salvage(Database &source, Database &target, Salvaged &salvaged, const ProgressListener &progress);
 
 } // namespace handset::calllog

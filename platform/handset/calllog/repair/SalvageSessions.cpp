@@ -1,14 +1,15 @@
 #include "SalvageSessions.h"
 
+#include "LedgerTables.h"
 #include "PacketData.h"
 #include "RowSalvage.h"
 #include "Saturating.h"
 #include "Schema.h"
-#include "SessionStore.h"
 
 #include <QtCore/QVariant>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 namespace handset::calllog {
@@ -19,6 +20,17 @@ constexpr auto rowsSql = "SELECT id, apn, started_ms, duration_ms, sent, receive
 constexpr auto putRowSql =
     "INSERT OR IGNORE INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
     " VALUES (?, ?, ?, ?, ?, ?, ?)";
+
+struct SessionAmount {
+    Total total;
+    qint64 SessionAmounts::*amount;
+};
+
+constexpr std::array sessionAmounts{
+    SessionAmount{Total::SessionTime, &SessionAmounts::ms},
+    SessionAmount{Total::BytesSent, &SessionAmounts::sent},
+    SessionAmount{Total::BytesReceived, &SessionAmounts::received},
+};
 
 enum Column { Id, Apn, Started, Duration, Sent, Received, State };
 
@@ -64,9 +76,9 @@ void SessionSalvage::countRow(const QSqlQuery &row)
 std::optional<SessionAmounts> SessionSalvage::readTotals()
 {
     SessionAmounts totals;
-    for (const SessionCounterName &name : sessionCounters) {
+    for (const SessionAmount &name : sessionAmounts) {
         const QString select = QStringLiteral("SELECT value FROM session_totals WHERE counter = '%1'");
-        const std::optional<qint64> value = read(select.arg(QString::fromLatin1(name.key)));
+        const std::optional<qint64> value = read(select.arg(QString::fromLatin1(placeOf(name.total).key)));
         if (!value || *value < 0)
             return std::nullopt;
         totals.*name.amount = *value;
@@ -81,10 +93,10 @@ bool SessionSalvage::putTotals()
     const SessionAmounts totals = kept.value_or(counted);
     if (isBlocked())
         return false;
-    SessionStore store(target);
-    return std::all_of(sessionCounters.begin(), sessionCounters.end(), [&](const SessionCounterName &name) {
+    LedgerTables tables(target);
+    return std::all_of(sessionAmounts.begin(), sessionAmounts.end(), [&](const SessionAmount &name) {
         const qint64 total = totals.*name.amount;
-        return store.putTotal(name.counter, total) && putLost(name.key, total - counted.*name.amount);
+        return tables.put(name.total, total) && putLost(placeOf(name.total).key, total - counted.*name.amount);
     });
 }
 

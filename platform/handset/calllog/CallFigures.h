@@ -1,0 +1,59 @@
+// The roles of a handset that are answered from the calls of the ledger.
+#pragma once
+
+#include "CallLog.h"
+#include "CallService.h"
+#include "DataCalls.h"
+#include "Ledger.h"
+
+namespace handset::calllog {
+
+/// Times in whole seconds of what the ledger has in milliseconds, the fraction cut off; costs from the totals, the SIM's
+/// meter and the account, in the unit of the charge type.
+class CallFigures final : public CallLog, public CallService, public DataCalls
+{
+public:
+    /// `owner` outlives this.
+    explicit CallFigures(Ledger &owner)
+        : ledger(owner)
+    {}
+
+    int lastCallTime(CallTime &time) override { return this->time(Total::LastTime, time); }
+    int dialedCallsTime(CallTime &time) override { return this->time(Total::DialedTime, time); }
+    int answeredCallsTime(CallTime &time) override { return this->time(Total::AnsweredTime, time); }
+    int lifetimeCallsTime(CallTime &time) override { return this->time(Total::LifetimeTime, time); }
+    int resetDialedCallsTime() override { return ledger.reset({Total::DialedTime}); }
+    int resetAnsweredCallsTime() override { return ledger.reset({Total::AnsweredTime}); }
+    int resetAll() override;
+    int depositExpirationDate(Date &date) override;
+    int lastDeposit(QByteArray &text) override;
+    int dialedCallsCost(QByteArray &text) override { return cost(Total::DialedCost, text); }
+    int answeredCallsCost(QByteArray &text) override { return cost(Total::AnsweredCost, text); }
+    int allCallsCost(QByteArray &text) override;
+    int resetDialedCallsCost() override { return ledger.reset({Total::DialedCost}); }
+    int resetAnsweredCallsCost() override { return ledger.reset({Total::AnsweredCost}); }
+    int resetAllCallsCost() override;
+
+    int totalCallTime(CallTime &time) override { return this->time(Total::AllTime, time); }
+    int resetCallTime() override { return ledger.reset({Total::AllTime}); }
+    int remainingCredit(QByteArray &text) override;
+    int lastCallCost(QByteArray &text) override { return cost(Total::LastCost, text); }
+
+    int refreshTotals() override { return ledger.isConnected() ? ledger.checkpoint() : int{Success}; }
+    int totalDuration(quint32 &seconds) override;
+    int callStatus(quint8 &value) override;
+    int resetTotalDuration() override { return ledger.reset({Total::DataTime}); }
+
+    /// What callStatus() answers.
+    void setCallStatus(CallStatus status) { dataStatus = status; }
+
+private:
+    int time(Total total, CallTime &time);
+    int cost(Total total, QByteArray &text);
+    int account(charging::Account &account, charging::ChargingState &state);
+
+    Ledger &ledger;
+    CallStatus dataStatus = Idle;
+};
+
+} // namespace handset::calllog

@@ -1,0 +1,68 @@
+#include "Charging.h"
+
+#include "AmountText.h"
+
+#include <QtCore/QDate>
+
+#include <algorithm>
+
+namespace handset::calllog {
+
+using charging::Account;
+using charging::ChargingState;
+
+Standing Charging::now() const
+{
+    Standing now;
+    return ledger.standing(now) == Success ? now : Standing{};
+}
+
+charging::Tariff Charging::tariff(CallDirection direction) const
+{
+    return isKnown(direction) ? now().state.tariff(direction) : charging::Tariff{};
+}
+
+int Charging::setTariff(CallDirection direction, const charging::Tariff &tariff)
+{
+    if (!isKnown(direction) || !tariff.isValid())
+        return InvalidArgument;
+    return ledger.edit([&](ChargingState &state) {
+        state.tariff(direction) = tariff;
+        return int{Success};
+    });
+}
+
+int Charging::topUp(const QString &amount, const Date &expires)
+{
+    return ledger.edit([&](ChargingState &state) {
+        quint32 units = 0;
+        if (const int status = charging::limitUnits(amount, state.chargeType, state.card.puct().price, units))
+            return status;
+        if (units == 0 || !QDate::isValid(expires.year, expires.month, expires.day))
+            return int{InvalidArgument};
+        const quint64 credit = state.account ? state.account->credit : 0;
+        state.account = Account{std::min(credit + units, Account::greatestCredit), units, expires};
+        return int{Success};
+    });
+}
+
+quint64 Charging::runningUnits() const
+{
+    const std::optional<RunningCall> call = now().call;
+    return call ? call->units : 0;
+}
+
+std::optional<qint64> Charging::msLeft() const
+{
+    const std::optional<RunningCall> call = now().call;
+    if (!call || !call->mostMs)
+        return std::nullopt;
+    return std::max<qint64>(*call->mostMs - call->ms, 0);
+}
+
+void Charging::callStopped()
+{
+    lastStop = now().state.card.limitReached() ? StopReason::LimitReached : StopReason::CreditUsedUp;
+}
+
+} // namespace handset::calllog

@@ -1,0 +1,397 @@
+#include "LedgerTables.h"
+
+#include "Saturating.h"
+
+#include <algorithm>
+
+namespace handset::calllog {
+
+namespace {
+
+// SQLite's own sum turns into a floating-point number beyond 2^63 - 1, which is the greater of the two.
+constexpr auto insertCallSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state,"
+                               " boot, written_ms, most_ms, tariff) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+constexpr auto updateCallSql = "UPDATE calls SET state = ?, duration_ms = ?, units = ?, boot = ?, written_ms = ?,"
+                               " most_ms = ?, tariff = ? WHERE id = ?";
+constexpr auto standingSql =
+    "SELECT (SELECT content FROM kept WHERE name = 'card'), (SELECT content FROM kept WHERE name = 'charging'),"
+    " id, kind, direction, number, started_ms, duration_ms, units, boot, written_ms, most_ms, tariff"
+    " FROM (SELECT 1) LEFT JOIN calls ON state = 0";
+constexpr auto closeCallsSql =
+    "UPDATE calls SET state = 3, boot = NULL, written_ms = NULL, most_ms = NULL, tariff = NULL WHERE state = 0";
+constexpr auto closeSessionsSql = "UPDATE sessions SET state = 3, boot = NULL, written_ms = NULL,"
+                                  " sent_per_s = NULL, received_per_s = NULL WHERE state = 0";
+
+constexpr auto insertSessionSql =
+    "INSERT INTO sessions (apn, started_ms, duration_ms, sent, received, state, boot, written_ms, sent_per_s,"
+    " received_per_s) VALUES (?, ?, 0, 0, 0, 0, ?, ?, ?, ?)";
+constexpr auto updateSessionSql =
+    "UPDATE sessions SET state = ?, duration_ms = ?, sent = ?, received = ?, boot = ?, written_ms = ?,"
+    " sent_per_s = ?, received_per_s = ? WHERE id = ?";
+#define KAV_SESSION_COLUMNS                                                                                       \
+    "id, apn, duration_ms, sent, received, state, boot, written_ms, sent_per_s, received_per_s"
+constexpr auto runningSessionSql = "SELECT " KAV_SESSION_COLUMNS " FROM sessions WHERE state = 0";
+constexpr auto recentSql = "SELECT " KAV_SESSION_COLUMNS " FROM sessions ORDER BY id DESC LIMIT ?";
+constexpr auto sessionTotalsSql = "SELECT (SELECT value FROM session_totals WHERE counter = 'duration'),"
+                                  " (SELECT value FROM session_totals WHERE counter = 'sent'),"
+                                  " (SELECT value FROM session_totals WHERE counter = 'received'),"
+                                  " " KAV_SESSION_COLUMNS " FROM (SELECT 1) LEFT JOIN sessions ON state = 0";
+#undef KAV_SESSION_COLUMNS
+
+// These tables are small enough to be walked. The plus signs keep SQLite from looking each key up, for which it would
+// first make a table of the keys, every time.
+constexpr auto addTimesSql = "UPDATE totals SET ms = min(9223372036854775807, ms + ?)"
+                             " WHERE +counter = ? OR +counter = ? OR +counter = 'all' OR +counter = 'lifetime'";
+constexpr auto addCostsSql = "UPDATE costs SET units = min(9223372036854775807, units + ?)"
+                             " WHERE +counter = ? OR +counter = ?";
+constexpr auto addSessionsSql =
+    "UPDATE session_totals SET value = min(9223372036854775807, value + CASE counter WHEN 'duration' THEN ?"
+    " WHEN 'sent' THEN ? ELSE ? END)";
+constexpr auto totalTimeSql = "SELECT ms, kind, direction, duration_ms, boot, written_ms, most_ms FROM totals"
+                              " LEFT JOIN calls ON state = 0 WHERE counter = ?";
+constexpr auto totalCostSql =
+    "SELECT costs.units, kind, direction, duration_ms, boot, written_ms, most_ms, calls.units, tariff FROM costs"
+    " LEFT JOIN calls ON state = 0 WHERE counter = ?";
+constexpr auto putTimeSql = "UPDATE totals SET ms = ? WHERE counter = ?";
+constexpr auto putCostSql = "UPDATE costs SET units = ? WHERE counter = ?";
+constexpr auto putSessionsSql = "UPDATE session_totals SET value = ? WHERE counter = ?";
+constexpr auto keptSql = "SELECT content FROM kept WHERE name = ?";
+constexpr auto putKeptSql = "INSERT INTO kept (name, content) VALUES (?, ?)"
+                            " ON CONFLICT (name) DO UPDATE SET content = excluded.content";
+
+constexpr std::optional<qint64> nothing;
+
+std::optional<qint64> numberOrNothing(const PlainStatement &row, int column)
+{
+    return row.isNull(column) ? nothing : row.number(column);
+}
+
+// `column` has the boot, the next one the reading of its clock.
+Written writtenAt(const PlainStatement &row, int column)
+{
+    if (row.isNull(column) || row.isNull(column + 1))
+        return {};
+    return {Moment{row.number(column + 1), row.text(column)}};
+}
+
+// As they stand in a row.
+QString bootOf(const Written &written)
+{
+    return QString::fromLatin1(written.until->boot);
+}
+
+SessionRow sessionAt(const PlainStatement &row, int column)
+{
+    return {row.number(column),
+            QString::fromUtf8(row.text(column + 1)).toLatin1(),
+            {row.number(column + 2), row.number(column + 3), row.number(column + 4)},
+            !row.isNull(column) && row.number(column + 5) == static_cast<int>(CallState::Running),
+            writtenAt(row, column + 6),
+            row.number(column + 8),
+            row.number(column + 9)};
+}
+
+SessionAmounts sum(const SessionAmounts &a, const SessionAmounts &b)
+{
+    return {saturatingSum(a.ms, b.ms), saturatingSum(a.sent, b.sent), saturatingSum(a.received, b.received)};
+}
+
+} // namespace
+
+qint64 Written::passedUntil(const Moment &now) const
+{
+    return until && until->boot == now.boot ? elapsed(until->ms, now.ms) : 0;
+}
+
+qint64 RunningCall::passedUntil(const Moment &now) const
+{
+    const qint64 passed = written.passedUntil(now);
+    return mostMs ? std::min(passed, elapsed(ms, *mostMs)) : passed;
+}
+
+quint32 RunningCall::dueAfter(qint64 more) const
+{
+    const quint32 cost = tariff.units(charging::CallLeg{saturatingSum(ms, more), 0});
+    return cost - std::min(cost, units);
+}
+
+SessionAmounts SessionRow::amountsAt(const Moment &now) const
+{
+    if (!isRunning)
+        return amounts;
+    const qint64 all = saturatingSum(amounts.ms, written.passedUntil(now));
+    return {all, std::max(amounts.sent, saturatingAmount(static_cast<quint32>(sentPerSecond), all)),
+            std::max(amounts.received, saturatingAmount(static_cast<quint32>(receivedPerSecond), all))};
+}
+
+LedgerTables::LedgerTables(Database &connection)
+    : database(connection)
+    , insertCall(connection.handle(), insertCallSql)
+    , updateCall(connection.handle(), updateCallSql)
+    , standingNow(connection.handle(), standingSql)
+    , closeCalls(connection.handle(), closeCallsSql)
+    , closeSessions(connection.handle(), closeSessionsSql)
+    , insertSession(connection.handle(), insertSessionSql)
+    , updateSession(connection.handle(), updateSessionSql)
+    , runningSession(connection.handle(), runningSessionSql)
+    , recentSessions(connection.handle(), recentSql)
+    , addTimes(connection.handle(), addTimesSql)
+    , addCosts(connection.handle(), addCostsSql)
+    , addSessions(connection.handle(), addSessionsSql)
+    , totalTime(connection.handle(), totalTimeSql)
+    , totalCost(connection.handle(), totalCostSql)
+    , sessionTotals(connection.handle(), sessionTotalsSql)
+    , putTime(connection.handle(), putTimeSql)
+    , putCost(connection.handle(), putCostSql)
+    , putSessions(connection.handle(), putSessionsSql)
+    , keptValue(connection.handle(), keptSql)
+    , putKept(connection.handle(), putKeptSql)
+{}
+
+bool LedgerTables::isUsable()
+{
+    const auto all = {&insertCall,    &updateCall,    &standingNow,    &closeCalls,     &closeSessions,
+                      &insertSession, &updateSession, &runningSession, &recentSessions, &addTimes,
+                      &addCosts,      &addSessions,   &totalTime,      &totalCost,      &sessionTotals,
+                      &putTime,       &putCost,       &putSessions,    &keptValue,      &putKept};
+    for (const PlainStatement *statement : all)
+        if (statement->error() != 0)
+            return database.fail();
+    return true;
+}
+
+bool LedgerTables::readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging)
+{
+    if (card != lastCard || card.isNull()) {
+        lastState.card = newState.card;
+        lastCard = charging::readCard(card, lastState) ? card : QByteArray();
+    }
+    if (charging != lastCharging || charging.isNull()) {
+        charging::ChargingState fresh = newState;
+        fresh.card = lastState.card;
+        lastState = fresh;
+        lastCharging = charging::readCharging(charging, lastState) ? charging : QByteArray();
+    }
+    if (lastCard.isNull() || lastCharging.isNull())
+        return database.fail(QStringLiteral("what is kept of the SIM card and the account cannot be read"));
+    state = lastState;
+    return true;
+}
+
+bool LedgerTables::read(Standing &standing)
+{
+    if (!database.runForRow(standingNow))
+        return false;
+    const PlainStatement &row = standingNow;
+    bool isRight = readState(standing.state, row.text(0), row.text(1));
+    standing.call.reset();
+    if (isRight && !row.isNull(2)) {
+        RunningCall call{row.number(2),
+                         static_cast<CallKind>(row.number(3)),
+                         static_cast<CallDirection>(row.number(4)),
+                         QString::fromUtf8(row.text(5)),
+                         row.number(6),
+                         row.number(7),
+                         static_cast<quint32>(row.number(8)),
+                         writtenAt(row, 9),
+                         numberOrNothing(row, 11),
+                         {}};
+        isRight = row.isNull(12) || charging::readTariff(row.text(12), call.tariff) ||
+                  database.fail(QStringLiteral("the tariff of the running call cannot be read"));
+        standing.call = call;
+    }
+    standingNow.finish();
+    return isRight;
+}
+
+bool LedgerTables::putState(const charging::ChargingState &before, const charging::ChargingState &after)
+{
+    if (!isSameCard(before.card, after.card)) {
+        const QByteArray card = charging::cardRecord(after.card);
+        if (!database.run(putKept, keptCardName, card))
+            return false;
+        lastCard = card;
+        lastState.card = after.card;
+    }
+    if (!isSameCharging(before, after)) {
+        const QByteArray charging = charging::chargingRecord(after);
+        if (!database.run(putKept, keptChargingName, charging))
+            return false;
+        lastCharging = charging;
+        const charging::SimCard card = lastState.card;
+        lastState = after;
+        lastState.card = card;
+    }
+    return true;
+}
+
+bool LedgerTables::insert(const PastCall &call, CallState state)
+{
+    return database.run(insertCall, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
+                        call.startWallMs, call.durationMs, call.units, static_cast<int>(state), nothing, nothing,
+                        nothing, nothing);
+}
+
+bool LedgerTables::insert(RunningCall &call)
+{
+    const bool done =
+        database.run(insertCall, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
+                     call.startWallMs, call.ms, qint64{call.units}, static_cast<int>(CallState::Running),
+                     bootOf(call.written), call.written.until->ms, call.mostMs, tariffRecord(call.tariff));
+    if (done)
+        call.id = database.lastInsertId();
+    return done;
+}
+
+bool LedgerTables::update(const RunningCall &call, CallState state)
+{
+    const int number = static_cast<int>(state);
+    return state == CallState::Running
+               ? database.runOn(1, updateCall, number, call.ms, qint64{call.units}, bootOf(call.written),
+                                call.written.until->ms, call.mostMs, tariffRecord(call.tariff), call.id)
+               : database.runOn(1, updateCall, number, call.ms, qint64{call.units}, nothing, nothing, nothing,
+                                nothing, call.id);
+}
+
+bool LedgerTables::closeInterrupted()
+{
+    return database.run(closeCalls) && database.run(closeSessions);
+}
+
+bool LedgerTables::insert(SessionRow &session, qint64 startWallMs)
+{
+    const bool done =
+        database.run(insertSession, QString::fromLatin1(session.apn), startWallMs, bootOf(session.written),
+                     session.written.until->ms, session.sentPerSecond, session.receivedPerSecond);
+    if (done)
+        session.id = database.lastInsertId();
+    return done;
+}
+
+bool LedgerTables::update(const SessionRow &session, CallState state)
+{
+    const int number = static_cast<int>(state);
+    const auto &[ms, sent, received] = session.amounts;
+    return state == CallState::Running
+               ? database.runOn(1, updateSession, number, ms, sent, received, bootOf(session.written),
+                                session.written.until->ms, session.sentPerSecond, session.receivedPerSecond,
+                                session.id)
+               : database.runOn(1, updateSession, number, ms, sent, received, nothing, nothing, nothing, nothing,
+                                session.id);
+}
+
+bool LedgerTables::running(std::optional<SessionRow> &session)
+{
+    session.reset();
+    const bool done = database.run(runningSession);
+    if (done && runningSession.hasRow())
+        session = sessionAt(runningSession, 0);
+    runningSession.finish();
+    return done;
+}
+
+bool LedgerTables::recent(int most, QList<SessionRow> &sessions)
+{
+    sessions.clear();
+    if (!database.run(recentSessions, most))
+        return false;
+    for (bool more = recentSessions.hasRow(); more; more = recentSessions.next())
+        sessions.append(sessionAt(recentSessions, 0));
+    const bool done = recentSessions.error() == 0 || database.fail();
+    recentSessions.finish();
+    return done;
+}
+
+bool LedgerTables::addTime(CallKind kind, CallDirection direction, qint64 ms, bool isLast)
+{
+    const char *const own = placeOf(ownTime(kind, direction)).key;
+    const char *const last = isLast ? placeOf(Total::LastTime).key : own;
+    return database.runOn(isLast ? 4 : 3, addTimes, ms, own, last);
+}
+
+bool LedgerTables::addCost(CallKind kind, CallDirection direction, qint64 units, bool isLast)
+{
+    if (units == 0)
+        return true;
+    const std::optional<Total> own = ownCost(kind, direction);
+    const char *const last = isLast ? placeOf(Total::LastCost).key : "";
+    return database.runOn((own ? 1 : 0) + (isLast ? 1 : 0), addCosts, units, own ? placeOf(*own).key : last, last);
+}
+
+bool LedgerTables::addToSessions(const SessionAmounts &more)
+{
+    return database.runOn(static_cast<int>(sessionPlaces.size()), addSessions, more.ms, more.sent, more.received);
+}
+
+bool LedgerTables::totalAt(Total total, const Moment &now, qint64 &value)
+{
+    const bool isTime = total < Total::LastCost;
+    PlainStatement &row = isTime ? totalTime : totalCost;
+    if (!database.runForRow(row, placeOf(total).key))
+        return false;
+    value = row.number(0);
+    if (!row.isNull(1)) {
+        RunningCall call;
+        call.kind = static_cast<CallKind>(row.number(1));
+        call.direction = static_cast<CallDirection>(row.number(2));
+        call.ms = row.number(3);
+        call.written = writtenAt(row, 4);
+        call.mostMs = numberOrNothing(row, 6);
+        const qint64 passed = call.passedUntil(now);
+        const bool isEveryCalls = total == Total::LastTime || total == Total::AllTime ||
+                                  total == Total::LifetimeTime || total == Total::LastCost;
+        if (!isEveryCalls && total != ownTime(call.kind, call.direction) &&
+            total != ownCost(call.kind, call.direction)) {
+            // It does not count here.
+        } else if (isTime) {
+            value = saturatingSum(value, passed);
+        } else if (charging::readTariff(row.text(8), call.tariff)) {
+            call.units = static_cast<quint32>(row.number(7));
+            value = saturatingSum(value, call.dueAfter(passed));
+        }
+    }
+    row.finish();
+    return true;
+}
+
+bool LedgerTables::sessionTotalsAt(const Moment &now, SessionAmounts &amounts)
+{
+    PlainStatement &row = sessionTotals;
+    if (!database.runForRow(row))
+        return false;
+    const bool isWhole = !row.isNull(0) && !row.isNull(1) && !row.isNull(2);
+    amounts = {row.number(0), row.number(1), row.number(2)};
+    const SessionRow session = sessionAt(row, 3);
+    if (session.isRunning) {
+        const SessionAmounts all = session.amountsAt(now);
+        const SessionAmounts &written = session.amounts;
+        amounts = sum(amounts, {all.ms - written.ms, all.sent - written.sent, all.received - written.received});
+    }
+    row.finish();
+    return isWhole || database.missesRow();
+}
+
+bool LedgerTables::put(Total total, qint64 value)
+{
+    const TotalPlace &place = placeOf(total);
+    PlainStatement &statement = total < Total::LastCost      ? putTime
+                                : total < Total::SessionTime ? putCost
+                                                             : putSessions;
+    return database.runOn(1, statement, value, place.key);
+}
+
+bool LedgerTables::kept(const QString &name, QByteArray &content)
+{
+    const bool done = database.run(keptValue, name);
+    if (done)
+        content = keptValue.hasRow() ? keptValue.text(0) : QByteArray();
+    keptValue.finish();
+    return done;
+}
+
+bool LedgerTables::put(const KeptValue &value)
+{
+    return database.run(putKept, value.name, value.content);
+}
+
+} // namespace handset::calllog

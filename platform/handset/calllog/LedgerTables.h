@@ -1,0 +1,151 @@
+// The rows of calls and packet-data sessions, their totals and what is kept beside them: the SQL of the ledger.
+#pragma once
+
+#include "ChargingState.h"
+#include "Database.h"
+#include "Schema.h"
+#include "Totals.h"
+
+#include <QtCore/QList>
+
+#include <optional>
+
+namespace handset::calllog {
+
+/// A moment of the boot clock.
+struct Moment {
+    qint64 ms = 0;
+    QByteArray boot; ///< as Clock::boot()
+};
+
+/// How far a running row is written.
+struct Written {
+    std::optional<Moment> until; ///< nothing in a row that an earlier version has left
+
+    /// The time since then, in ms; none when `now` is of another boot.
+    qint64 passedUntil(const Moment &now) const;
+};
+
+/// The row of the call that runs.
+struct RunningCall {
+    qint64 id = 0; ///< 0 until it has a row
+    CallKind kind = CallKind::Voice;
+    CallDirection direction = CallDirection::Dialed;
+    QString number;
+    qint64 startWallMs = 0;
+    qint64 ms = 0;     ///< that it has lasted
+    quint32 units = 0; ///< charged
+    Written written;
+    std::optional<qint64> mostMs; ///< that it can last before nothing more may be charged
+    charging::Tariff tariff;
+
+    /// How long it has lasted at that moment, beyond `ms`.
+    qint64 passedUntil(const Moment &now) const;
+    /// What has become due after `more` ms beyond `ms`.
+    quint32 dueAfter(qint64 more) const;
+};
+
+/// The row of a session; it runs where the last three say something.
+struct SessionRow {
+    qint64 id = 0;
+    QByteArray apn; ///< Latin-1
+    SessionAmounts amounts;
+    bool isRunning = false;
+    Written written;
+    qint64 sentPerSecond = 0; ///< bytes, 0 to 2^32 - 1; so the next
+    qint64 receivedPerSecond = 0;
+
+    /// What it has come to at that moment. Bytes are the rate times all of its time, the fraction cut off.
+    SessionAmounts amountsAt(const Moment &now) const;
+};
+
+/// What is charged by and charged to, with the running call, of one moment.
+struct Standing {
+    charging::ChargingState state;
+    std::optional<RunningCall> call;
+};
+
+/// Something that is kept under a name, whole: the card, the account.
+struct KeptValue {
+    QString name;
+    QByteArray content;
+};
+inline constexpr auto keptCardName = "card";
+inline constexpr auto keptChargingName = "charging";
+
+/// Each operation is one statement. What answers a bool is false when that fails or a row is missing; the database has
+/// the reason. What writes belongs into a transaction of the caller.
+class LedgerTables
+{
+public:
+    /// `connection` has the newest schema and outlives this.
+    explicit LedgerTables(Database &connection);
+
+    /// Whether every statement fits the tables; else `connection` has the reason.
+    bool isUsable();
+
+    bool read(Standing &standing);
+    /// What of the state is another than before. Answers without writing where nothing is.
+    bool putState(const charging::ChargingState &before, const charging::ChargingState &after);
+
+    /// A call that is over, or begins to run; `id` is the new row's.
+    bool insert(const PastCall &call, CallState state);
+    bool insert(RunningCall &call);
+    /// How far it is, and its end where `state` is not Running.
+    bool update(const RunningCall &call, CallState state);
+    /// Closes what a recorder has left that is no more: calls and sessions, with what is written of them.
+    bool closeInterrupted();
+
+    bool insert(SessionRow &session, qint64 startWallMs);
+    bool update(const SessionRow &session, CallState state);
+    bool running(std::optional<SessionRow> &session);
+    /// The `most` sessions that began last, the newest first.
+    bool recent(int most, QList<SessionRow> &sessions);
+
+    /// To the totals of a call's kind, of all, lifetime and, where it is, the last call.
+    bool addTime(CallKind kind, CallDirection direction, qint64 ms, bool isLast);
+    bool addCost(CallKind kind, CallDirection direction, qint64 units, bool isLast);
+    bool addToSessions(const SessionAmounts &more);
+    /// A total of calls at a moment, the running call included where it counts there.
+    bool totalAt(Total total, const Moment &now, qint64 &value);
+    /// Those of the sessions, likewise.
+    bool sessionTotalsAt(const Moment &now, SessionAmounts &amounts);
+    bool put(Total total, qint64 value);
+
+    /// Null when nothing is kept under that name.
+    bool kept(const QString &name, QByteArray &content);
+    bool put(const KeptValue &value);
+
+private:
+    bool readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging);
+
+    Database &database;
+    PlainStatement insertCall;
+    PlainStatement updateCall;
+    PlainStatement standingNow;
+    PlainStatement closeCalls;
+    PlainStatement closeSessions;
+    PlainStatement insertSession;
+    PlainStatement updateSession;
+    PlainStatement runningSession;
+    PlainStatement recentSessions;
+    PlainStatement addTimes;
+    PlainStatement addCosts;
+    PlainStatement addSessions;
+    PlainStatement totalTime;
+    PlainStatement totalCost;
+    PlainStatement sessionTotals;
+    PlainStatement putTime;
+    PlainStatement putCost;
+    PlainStatement putSessions;
+    PlainStatement keptValue;
+    PlainStatement putKept;
+
+    // What was read last, and what it means: reading it anew takes a while and nearly always comes to the same.
+    QByteArray lastCard;
+    QByteArray lastCharging;
+    charging::ChargingState lastState;
+    const charging::ChargingState newState; ///< of a log in which nothing has been kept yet
+};
+
+} // namespace handset::calllog

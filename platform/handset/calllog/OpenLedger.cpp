@@ -1,0 +1,148 @@
+#include "OpenLedger.h"
+
+#include "CheckBeside.h"
+#include "ExamineFile.h"
+#include "OpenDatabase.h"
+#include "Status.h"
+#include "repair/Replacement.h"
+
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QStringList>
+
+namespace handset::calllog {
+
+namespace {
+
+/// Bytes, some 5,000 calls; that much is read through in a few milliseconds.
+constexpr qint64 readAtOnce = 256 << 10;
+
+Care careFor(const StateDirectory &directory, const QString &name)
+{
+    const qint64 size = directory.size(name) + directory.size(name + QStringLiteral("-wal"));
+    if (size > readAtOnce)
+        return Care::Quick;
+    return directory.hasLeftovers(name) ? Care::Leftovers : Care::Thorough;
+}
+
+/// An attempt at the log of a state directory.
+struct FileAttempt : Attempt {
+    QString unread = {}; ///< as OpenedLedger::unread
+};
+
+FileAttempt openFile(const StateDirectory &directory, Hold hold, const ProgressListener &progress)
+{
+    const QString name = QString::fromLatin1(databaseName);
+    if (QString problem = directory.mendRights(name); !problem.isEmpty())
+        return {{{Verdict::Blocked, std::move(problem)}, nullptr}};
+    Finding finding = examineFile(directory, name);
+    if (finding.verdict != Verdict::Usable)
+        return {{std::move(finding), nullptr}};
+    const QString path = directory.filePath(name);
+    if (isMarkedDamaged(path))
+        return {{{Verdict::Damaged, {}}, nullptr}};
+    const Care care = careFor(directory, name);
+    FileAttempt attempt{openDatabase(path, care, hold, progress)};
+    if (care == Care::Quick)
+        attempt.unread = path;
+    return attempt;
+}
+
+OpenedLedger cannotBeUsed(const StateDirectory &directory, const QString &reason)
+{
+    const QString error = QStringLiteral("The call log \"%1\" cannot be used: %2.")
+                              .arg(directory.filePath(QString::fromLatin1(databaseName)), reason);
+    return {nullptr, error, {}};
+}
+
+bool isToBeReplaced(const FileAttempt &attempt)
+{
+    return !attempt.database && attempt.finding.verdict != Verdict::Blocked;
+}
+
+// With the directory alone: makes a log where there is none that can be used.
+FileAttempt openReplacing(StateDirectory &directory, const ProgressListener &progress)
+{
+    Finding finished = finishReplacement(directory);
+    if (finished.verdict != Verdict::Usable)
+        return {{{Verdict::Blocked, explain(finished)}, nullptr}};
+    FileAttempt attempt = openFile(directory, Hold::Alone, progress);
+    // A read that went wrong once may look like damage. What is damaged still is when it is read again.
+    if (isToBeReplaced(attempt))
+        attempt = openFile(directory, Hold::Alone, progress);
+    if (!isToBeReplaced(attempt))
+        return attempt;
+    const Replacement replacement = replace(directory, attempt.finding.verdict, progress);
+    if (!replacement.error.isEmpty())
+        return {{{Verdict::Blocked, replacement.error}, nullptr}};
+    return openFile(directory, Hold::Alone, progress);
+}
+
+// Who shares the directory leaves everything as it is; who finds no log that can be used takes it alone, unless another
+// one is quicker and makes it usable. What an interrupted replacement has left beside a log is cleared away by the next
+// one who can be alone at once.
+FileAttempt openInDirectory(StateDirectory &directory, const ProgressListener &progress)
+{
+    constexpr int betweenLooksMs = 200;
+    QString holder = hasRemains(directory) ? directory.takeAlone(0) : QStringLiteral("not asked yet");
+    FileAttempt attempt;
+    for (const QDeadlineTimer end(StateDirectory::longestWaitMs); !holder.isEmpty();) {
+        attempt = openFile(directory, Hold::Shared, progress);
+        if (!isToBeReplaced(attempt))
+            return attempt;
+        holder = directory.takeAlone(betweenLooksMs);
+        if (!holder.isEmpty() && end.hasExpired())
+            return {{{Verdict::Blocked, explain(attempt.finding) + QStringLiteral(", and ") + holder}, nullptr}};
+    }
+    attempt = openReplacing(directory, progress);
+    directory.share();
+    return attempt;
+}
+
+// What can be told of a ledger only when it is read.
+OpenedLedger open(std::unique_ptr<Ledger> ledger, QStringList notices, bool isUntold)
+{
+    if (ledger->load(notices) != Success)
+        return {nullptr, QStringLiteral("What the call log keeps of the SIM card cannot be read."), {}};
+    if (isUntold)
+        ledger->noticeIsTold();
+    notices.removeAll({});
+    return {std::move(ledger), {}, notices.join(QLatin1Char(' '))};
+}
+
+OpenedLedger openInMemory(const std::shared_ptr<Clock> &clock)
+{
+    Attempt attempt = openDatabase(QStringLiteral(":memory:"), Care::Quick, Hold::Alone);
+    if (!attempt.database)
+        return {nullptr, QStringLiteral("The call log cannot be opened: %1.").arg(explain(attempt.finding)), {}};
+    return open(std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock), {}, false);
+}
+
+} // namespace
+
+OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const ProgressListener &progress)
+{
+    if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
+        return {
+            nullptr, QStringLiteral("The call log cannot be opened: Qt's SQLite driver is not installed."), {}};
+    if (path.isEmpty())
+        return openInMemory(clock);
+    QString error;
+    std::unique_ptr<StateDirectory> directory = StateDirectory::open(path, error);
+    if (!directory)
+        return {nullptr, error, {}};
+    FileAttempt attempt = openInDirectory(*directory, progress);
+    if (!attempt.database)
+        return cannotBeUsed(*directory, explain(attempt.finding));
+    const QString untold = untoldNotice(*attempt.database);
+    const StateDirectory &place = *directory;
+    auto ledger = std::make_unique<Ledger>(std::move(attempt.database), std::move(directory), clock);
+    Ledger &opening = *ledger;
+    const QString notice = place.notice();
+    OpenedLedger opened = open(std::move(ledger), {notice, untold}, !untold.isEmpty());
+    if (opened.ledger && !opening.record() && place.isRecording())
+        return cannotBeUsed(place, explain(failure(opening.connection())));
+    opened.unread = attempt.unread;
+    return opened;
+}
+
+} // namespace handset::calllog

@@ -1,0 +1,29 @@
+// Opens the ledger of a state directory, whatever is found there.
+#pragma once
+
+#include "Ledger.h"
+#include "repair/Progress.h"
+
+#include <QtCore/QString>
+
+#include <memory>
+
+namespace handset::calllog {
+
+struct OpenedLedger {
+    std::unique_ptr<Ledger> ledger; ///< null when it could not be opened
+    QString error;                  ///< then: why, in one sentence
+    /// What happened to a file, or to what is kept of the card and the account, that could not be used; empty for
+    /// nothing.
+    QString notice;
+    QString unread = {}; ///< the file that is still to be read through, by CheckBeside; empty when it has been
+};
+
+/// An empty directory name keeps the calls in memory only. A file that cannot be used as a call log, or not by this
+/// version, is kept under another name and a new log is begun, with the calls in it that can still be read; that, and a
+/// log of an earlier version, need the directory alone. `progress` is told of steps that take long. The clock is not
+/// null.
+OpenedLedger openLedger(const QString &directory, const std::shared_ptr<Clock> &clock,
+                        const ProgressListener &progress = {});
+
+} // namespace handset::calllog

@@ -1,0 +1,52 @@
+// Another process on a state directory, which does what it is told.
+#pragma once
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QProcess>
+#include <QtCore/QStringList>
+
+namespace handset::test {
+
+/// Runs handset_other_process in its mode "hold"; the words are in other_process.cpp (Obedience).
+class OtherProcess
+{
+public:
+    explicit OtherProcess(const QString &directory, const QStringList &user = {})
+    {
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
+                      QStringList{QStringLiteral("hold"), directory} + user);
+    }
+    ~OtherProcess() { kill(); }
+
+    /// "holding", or why it does not.
+    QByteArray firstLine()
+    {
+        while (!process.canReadLine() && process.waitForReadyRead(30000)) {
+        }
+        return process.readLine().trimmed();
+    }
+    /// What it answers, a line.
+    QByteArray ask(const QByteArray &question)
+    {
+        process.write(question + '\n');
+        return firstLine();
+    }
+    /// As a crash ends it.
+    void kill()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+    /// As a window that is closed.
+    void close()
+    {
+        process.closeWriteChannel();
+        process.waitForFinished();
+    }
+
+private:
+    QProcess process;
+};
+
+} // namespace handset::test

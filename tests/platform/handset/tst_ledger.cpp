@@ -1,0 +1,660 @@
+// One ledger, several processes: one records, any of them asks, resets and sets.
+#include "AdviceOfCharge.h"
+#include "CallLog.h"
+#include "CallService.h"
+#include "HandsetTestKit.h"
+#include "OtherProcess.h"
+#include "PacketData.h"
+#include "Schema.h"
+#include "SharedClock.h"
+#include "SimSecurity.h"
+#include "Status.h"
+#include "TestGroup.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QHash>
+#include <QtCore/QThread>
+#include <QtCore/QTimer>
+#include <QtTest/QSignalSpy>
+
+#include <memory>
+#include <random>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+using namespace handset;
+using namespace handset::test;
+using calllog::CallState;
+
+namespace {
+
+/// A process that records, and this one, which does not.
+struct Two {
+    explicit Two(const StateDir &state)
+        : recorder(std::make_unique<OtherProcess>(state.path()))
+        , isReady(recorder->firstLine() == "holding")
+        , phone(state.path())
+    {}
+
+    /// Both clocks, which stand for one.
+    void pass(qint64 ms)
+    {
+        recorder->ask("advance " + QByteArray::number(ms));
+        phone.clock->advance(ms);
+    }
+    bool dial() { return recorder->ask("dial 5") == "0" && recorder->ask("connect") == "0"; }
+    explicit operator bool() const { return isReady && phone && !phone->isRecording(); }
+
+    std::unique_ptr<OtherProcess> recorder;
+    bool isReady;
+    Phone phone;
+};
+
+QByteArray costsOf(const Phone &phone)
+{
+    QByteArray last("?");
+    QByteArray all("?");
+    QByteArray credit("none");
+    phone.service().lastCallCost(last);
+    phone.log().allCallsCost(all);
+    phone.service().remainingCredit(credit);
+    return last + ' ' + all + ' ' + credit;
+}
+
+int stateOf(const StateDir &state, int id)
+{
+    const QString select = QStringLiteral("SELECT state FROM calls WHERE id = %1");
+    return LogFile(state.database()).value(select.arg(id)).toInt();
+}
+
+/// Holds a lock of a state directory, as a process does that has it for itself.
+class Lock
+{
+public:
+    Lock(const QString &path, int mode)
+        : fd(::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
+    {
+        taken = ::flock(fd, mode | LOCK_NB) == 0;
+    }
+    ~Lock() { ::close(fd); }
+    Lock(const Lock &) = delete;
+    Lock &operator=(const Lock &) = delete;
+
+    bool taken;
+
+private:
+    int fd;
+};
+
+} // namespace
+
+class TestLedger : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void theRunningCallIsCountedUpToNowEverywhere();
+    void theRunningSessionIsCountedUpToNowEverywhere();
+    void theLineIsSeenEverywhere();
+    void aResetElsewhereZeroesWhatWasCountedAndTheRestCounts();
+    void aResetOfTheMeterElsewhereIsOne();
+    void aLowerLimitElsewhereEndsTheCall();
+    void aDepositElsewhereLetsTheCallGoOn();
+    void pin2IsEnteredForEveryProcess();
+    void aWrongPin2CostsATryEverywhere();
+    void aPinTryWritesTheCardAndNothingElse();
+    void historyIsAddedElsewhere();
+    void anEndThatIsWrittenElsewhereIsSeenAtOnce();
+
+    void whoIsLeftRecordsWhenTheRecorderIsKilled();
+    void whoIsLeftRecordsWhenTheRecorderIsClosed();
+    void theRecorderPassesOnWithoutAnybodyAsking();
+    void aCardIsOffWhenTheRecorderIsGone();
+    void aRecorderThatWasKilledLeavesWhatItHadWritten();
+
+    void aRowOfAnotherBootCountsAsItIsWritten();
+    void aRebootInTheMiddleOfACallClosesItWithWhatWasWritten();
+    void aWallClockThatIsSetByADayChangesNoDuration();
+
+    void anOlderLogIsMigratedWhileAReaderWaits_data();
+    void anOlderLogIsMigratedWhileAReaderWaits();
+    void whoHasAnOlderLogOpenIsNamed();
+
+    void aRecorderKilledAtAnyMomentLosesNothing();
+};
+
+void TestLedger::theRunningCallIsCountedUpToNowEverywhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(12 * second);
+    QCOMPARE(two.phone.figures(), (SixFigures{12, 12, 0, 0, 12, 12}));
+    QCOMPARE(costsOf(two.phone), QByteArray("1.00 1.00 none"));
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    two.pass(9 * second);
+    QCOMPARE(two.phone.figures(), (SixFigures{21, 21, 0, 0, 21, 21}));
+    QCOMPARE(costsOf(two.phone), QByteArray("2.00 2.00 none"));
+    QCOMPARE(two.recorder->ask("times"), QByteArray("21 21 0 21"));
+    QCOMPARE(two.recorder->ask("costs"), QByteArray("2.00 2.00 none"));
+}
+
+void TestLedger::theRunningSessionIsCountedUpToNowEverywhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QCOMPARE(two.recorder->ask("start-session"), QByteArray("0"));
+    two.pass(3500);
+    QCOMPARE(two.phone.sessions(), QStringList{QStringLiteral("1 x 3 35 70")});
+    QCOMPARE(two.phone.sessionTotals(), QStringLiteral("3 35 70 105"));
+    QCOMPARE(two.phone.packets().resetTotalBytes(), int(Success));
+    two.pass(1500);
+    QCOMPARE(two.phone.sessionTotals(), QStringLiteral("5 15 30 45"));
+    QCOMPARE(two.recorder->ask("sessions"), QByteArray("1 5 5 45"));
+}
+
+void TestLedger::theLineIsSeenEverywhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    using LineState = simulated::SimulatedTelephone::LineState;
+    QCOMPARE(two.phone->lineState(), LineState::Idle);
+    QVERIFY(two.phone->number().isNull());
+    QVERIFY(two.dial());
+    two.pass(4 * second);
+    QCOMPARE(two.phone->lineState(), LineState::Connected);
+    QCOMPARE(two.phone->number(), QStringLiteral("5"));
+    QCOMPARE(two.phone->connectedMs(), 4 * second);
+    QCOMPARE(two.phone->charging().runningUnits(), quint64{0});
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(two.phone->lineState(), LineState::Idle);
+}
+
+void TestLedger::aResetElsewhereZeroesWhatWasCountedAndTheRestCounts()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(12 * second);
+    QCOMPARE(two.phone.log().resetDialedCallsTime(), int(Success));
+    QCOMPARE(two.recorder->ask("times"), QByteArray("12 0 0 12"));
+    two.pass(5 * second);
+    QCOMPARE(two.recorder->ask("times"), QByteArray("17 5 0 17"));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(two.phone.figures(), (SixFigures{17, 5, 0, 0, 17, 17}));
+    const LogFile file(state.database());
+    QCOMPARE(file.calls().value(0).durationMs, 17 * second);
+    QCOMPARE(file.calls().value(0).state, int(CallState::Finished));
+}
+
+void TestLedger::aResetOfTheMeterElsewhereIsOne()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(25 * second);
+    QCOMPARE(two.phone.log().resetAll(), int(Success));
+    two.pass(5 * second);
+    // The tariff goes on where it was: the third unit is due at 30 s.
+    QCOMPARE(two.recorder->ask("costs"), QByteArray("1.00 1.00 none"));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT units FROM calls")), QVariant(3));
+    QCOMPARE(costsOf(two.phone), QByteArray("1.00 1.00 none"));
+}
+
+void TestLedger::aLowerLimitElsewhereEndsTheCall()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(25 * second);
+    QCOMPARE(two.phone.handset().adviceOfCharge()->setMeterMaximum(QStringLiteral("2")), int(Success));
+    two.pass(hour);
+    QCOMPARE(two.recorder->ask("times"), QByteArray("25 25 0 25")); // what was told is not taken back
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    QCOMPARE(two.recorder->ask("line"), QByteArray("0 0"));
+    QCOMPARE(stateOf(state, 1), int(CallState::Finished));
+}
+
+void TestLedger::aDepositElsewhereLetsTheCallGoOn()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QCOMPARE(two.recorder->ask("pay 2"), QByteArray("0"));
+    QVERIFY(two.dial());
+    two.pass(15 * second);
+    QCOMPARE(two.phone->charging().msLeft(), 5 * second);
+    QCOMPARE(two.phone->charging().topUp(QStringLiteral("1"), {2030, 1, 1}), int(Success));
+    two.pass(10 * second);
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    QCOMPARE(two.recorder->ask("line"), QByteArray("3 25000"));
+    QCOMPARE(two.recorder->ask("costs"), QByteArray("2.00 2.00 1.00"));
+}
+
+void TestLedger::pin2IsEnteredForEveryProcess()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QCOMPARE(two.recorder->ask("guard"), QByteArray("0"));
+    AdviceOfCharge &advice = *two.phone.handset().adviceOfCharge();
+    QCOMPARE(advice.setMeterMaximum(QStringLiteral("7")), int(NotAllowed));
+    bool accepted = false;
+    QCOMPARE(two.phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "1234", accepted), int(Success));
+    QVERIFY(accepted);
+    QCOMPARE(two.recorder->ask("pin-status"), QByteArray("3 3"));
+    QCOMPARE(two.recorder->ask("limit 8"), QByteArray("0"));
+    QCOMPARE(advice.setMeterMaximum(QStringLiteral("7")), int(Success));
+    QCOMPARE(two.recorder->ask("pin 9999"), QByteArray("0 0"));
+    QCOMPARE(advice.setMeterMaximum(QStringLiteral("8")), int(NotAllowed));
+}
+
+void TestLedger::aWrongPin2CostsATryEverywhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    bool accepted = true;
+    SimSecurity &security = *two.phone.handset().simSecurity();
+    QCOMPARE(security.verifyPin(SimSecurity::Pin2, "9999", accepted), int(Success));
+    QVERIFY(!accepted);
+    QCOMPARE(two.recorder->ask("pin 9998"), QByteArray("0 0"));
+    int tries = 0;
+    QCOMPARE(security.triesLeft(SimSecurity::Pin2, tries), int(Success));
+    QCOMPARE(tries, 1);
+    QCOMPARE(security.verifyPin(SimSecurity::Pin2, "9997", accepted), int(Success));
+    QCOMPARE(two.recorder->ask("pin-status"), QByteArray("2 0"));
+}
+
+void TestLedger::aPinTryWritesTheCardAndNothingElse()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.dial());
+    phone.clock->advance(25 * second);
+    const auto everythingElse = [&] {
+        return LogFile(state.database())
+            .value(
+                QStringLiteral("SELECT group_concat(id || '/' || duration_ms || '/' || units || '/' || written_ms)"
+                               " || (SELECT group_concat(ms) FROM totals)"
+                               " || (SELECT group_concat(units) FROM costs)"
+                               " || (SELECT group_concat(hex(content)) FROM kept WHERE name <> 'card')"
+                               " FROM calls"))
+            .toString();
+    };
+    const QString before = everythingElse();
+    QVERIFY(!before.isEmpty());
+    bool accepted = true;
+    QCOMPARE(phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "9999", accepted), int(Success));
+    QCOMPARE(everythingElse(), before);
+    QCOMPARE(phone.figures().last, quint64{25});
+}
+
+void TestLedger::historyIsAddedElsewhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(15 * second);
+    QCOMPARE(
+        two.phone->addHistory({{CallKind::Voice, CallDirection::Dialed, QStringLiteral("1"), 0, 40 * second}}),
+        int(Success));
+    two.pass(15 * second);
+    QCOMPARE(two.recorder->ask("times"), QByteArray("30 70 0 70"));
+    QCOMPARE(two.recorder->ask("costs"), QByteArray("3.00 7.00 none"));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(two.phone.figures(), (SixFigures{30, 70, 0, 0, 70, 70}));
+}
+
+void TestLedger::anEndThatIsWrittenElsewhereIsSeenAtOnce()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(3 * second);
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    two.pass(hour);
+    QCOMPARE(two.phone.figures(), (SixFigures{3, 3, 0, 0, 3, 3}));
+}
+
+void TestLedger::whoIsLeftRecordsWhenTheRecorderIsKilled()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(7 * second);
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    two.pass(4 * second);
+    two.recorder->kill();
+    QVERIFY(two.phone->isRecording());
+    QCOMPARE(two.phone.figures(), (SixFigures{7, 7, 0, 0, 7, 7}));
+    QCOMPARE(stateOf(state, 1), int(CallState::Interrupted));
+    QVERIFY(two.phone.dialed(2 * second));
+    QCOMPARE(two.phone.figures(), (SixFigures{2, 9, 0, 0, 9, 9}));
+}
+
+void TestLedger::whoIsLeftRecordsWhenTheRecorderIsClosed()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(7 * second);
+    two.recorder->close();
+    QVERIFY(two.phone->isRecording());
+    QCOMPARE(two.phone.figures(), (SixFigures{7, 7, 0, 0, 7, 7}));
+    QCOMPARE(stateOf(state, 1), int(CallState::Finished));
+}
+
+void TestLedger::theRecorderPassesOnWithoutAnybodyAsking()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    auto *const timer = two.phone->findChild<QTimer *>();
+    QVERIFY(timer->isActive());
+    QVERIFY(timer->interval() <= 500);
+    QSignalSpy spy(two.phone.operator->(), &simulated::SimulatedTelephone::changed);
+    two.recorder->kill();
+    QTRY_COMPARE(spy.count(), 1);
+    QVERIFY(!timer->isActive());
+    QCOMPARE(stateOf(state, 1), int(CallState::Interrupted));
+    QVERIFY(two.phone.dial());
+    QCOMPARE(timer->interval(), 1000);
+}
+
+void TestLedger::aCardIsOffWhenTheRecorderIsGone()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    bool accepted = false;
+    SimSecurity &security = *two.phone.handset().simSecurity();
+    QCOMPARE(security.verifyPin(SimSecurity::Pin2, "1234", accepted), int(Success));
+    two.recorder->kill();
+    QVERIFY(two.phone->isRecording());
+    quint32 status = 0;
+    QCOMPARE(security.pinStatus(SimSecurity::Pin2, status), int(Success));
+    QCOMPARE(status, quint32{SimSecurity::EntryNeeded});
+}
+
+void TestLedger::aRecorderThatWasKilledLeavesWhatItHadWritten()
+{
+    const StateDir state;
+    {
+        OtherProcess recorder(state.path());
+        QCOMPARE(recorder.firstLine(), QByteArray("holding"));
+        QCOMPARE(recorder.ask("dial 5"), QByteArray("0"));
+        QCOMPARE(recorder.ask("connect"), QByteArray("0"));
+        QCOMPARE(recorder.ask("advance 5000"), QByteArray("0"));
+        QCOMPARE(recorder.ask("checkpoint"), QByteArray("0"));
+        QCOMPARE(recorder.ask("advance 4000"), QByteArray("0"));
+    }
+    const Phone phone(state.path());
+    QVERIFY(phone->isRecording());
+    QCOMPARE(phone.opened.notice, QString());
+    QCOMPARE(phone.figures(), (SixFigures{5, 5, 0, 0, 5, 5}));
+}
+
+void TestLedger::aRowOfAnotherBootCountsAsItIsWritten()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(7 * second);
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    two.phone.clock->reboot(hour); // as in a container with a clock of its own
+    QCOMPARE(two.phone.figures(), (SixFigures{7, 7, 0, 0, 7, 7}));
+    QCOMPARE(two.phone.service().resetCallTime(), int(Success));
+    QCOMPARE(two.recorder->ask("advance 3000"), QByteArray("0"));
+    QCOMPARE(two.recorder->ask("times"), QByteArray("10 10 0 10"));
+}
+
+void TestLedger::aRebootInTheMiddleOfACallClosesItWithWhatWasWritten()
+{
+    const StateDir state;
+    const auto clock = std::make_shared<ManualClock>(0);
+    const QString copy = state.sibling(QStringLiteral("off"));
+    clock->advance(hour);
+    {
+        Phone phone(state.path(), clock);
+        QVERIFY(phone.dial());
+        QCOMPARE(phone->packets().startSession("x", 1, 1), int(Success));
+        clock->advance(5 * second);
+        QCOMPARE(phone->checkpoint(), int(Success));
+        clock->advance(3 * second);
+        QVERIFY(copyState(state.path(), copy)); // as it is when the power goes
+    }
+    for (const qint64 sinceBoot : {qint64{0}, 10 * hour}) {
+        clock->reboot(sinceBoot);
+        const Phone phone(copy, clock);
+        QCOMPARE(phone.figures(), (SixFigures{5, 5, 0, 0, 5, 5}));
+        QCOMPARE(phone.sessionTotals(), QStringLiteral("5 5 5 10"));
+        QCOMPARE(LogFile(copy + QStringLiteral("/calllog.db")).value(QStringLiteral("SELECT state FROM calls")),
+                 QVariant(int(CallState::Interrupted)));
+    }
+}
+
+void TestLedger::aWallClockThatIsSetByADayChangesNoDuration()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    for (const qint64 day : {24 * hour, -24 * hour}) {
+        two.pass(2 * second);
+        QCOMPARE(two.recorder->ask("wall " + QByteArray::number(day)), QByteArray("0"));
+        two.phone.clock->setWallMs(-day);
+        QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    }
+    QCOMPARE(two.phone.figures(), (SixFigures{4, 4, 0, 0, 4, 4}));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(two.phone.figures(), (SixFigures{4, 4, 0, 0, 4, 4}));
+}
+
+void TestLedger::anOlderLogIsMigratedWhileAReaderWaits_data()
+{
+    QTest::addColumn<int>("version");
+    QTest::newRow("of the first version") << 1;
+    QTest::newRow("of the second version") << 2;
+    QTest::newRow("of the third version") << 3;
+}
+
+// The first process takes the directory for itself, and the others wait for it.
+void TestLedger::anOlderLogIsMigratedWhileAReaderWaits()
+{
+    QFETCH(int, version);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    {
+        calllog::Database database(state.database(), calllog::Database::Access::ReadWrite);
+        QVERIFY(calllog::migrate(database, calllog::migrations().first(static_cast<std::size_t>(version))));
+        QVERIFY(
+            database.run(QStringLiteral("INSERT INTO calls (id, kind, direction, number, started_ms, duration_ms,"
+                                        " state) VALUES (1, 0, 0, '12', 0, 61000, 0)")));
+        QVERIFY(
+            database.run(QStringLiteral("UPDATE totals SET ms = 61000 WHERE counter IN ('last', 'dialed', 'all',"
+                                        " 'lifetime')")));
+    }
+    auto migrating = std::make_unique<Lock>(state.file(QStringLiteral("lock")), LOCK_EX);
+    QVERIFY(migrating->taken);
+    OtherProcess one(state.path());
+    OtherProcess other(state.path());
+    migrating.reset();
+    QCOMPARE(one.firstLine(), QByteArray("holding"));
+    QCOMPARE(other.firstLine(), QByteArray("holding"));
+    QCOMPARE(one.ask("times"), QByteArray("61 61 0 61"));
+    QCOMPARE(other.ask("times"), QByteArray("61 61 0 61"));
+    QVERIFY((one.ask("recording") == "yes") != (other.ask("recording") == "yes"));
+    QCOMPARE(stateOf(state, 1), int(CallState::Interrupted));
+    QCOMPARE(LogFile(state.database()).value(QStringLiteral("PRAGMA user_version")).toULongLong(),
+             calllog::migrations().size());
+}
+
+void TestLedger::whoHasAnOlderLogOpenIsNamed()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(second));
+    OtherProcess holder(state.path());
+    QCOMPARE(holder.firstLine(), QByteArray("holding"));
+    QVERIFY(takeBackTo(state.database(), 3));
+    const Phone phone(state.path());
+    QVERIFY(!phone);
+    QVERIFY2(
+        phone.opened.error.contains(QStringLiteral("it was written by an earlier version, and it is in use by "
+                                                   "handset_other_p (process ")),
+        qPrintable(phone.opened.error));
+}
+
+// --- a recorder that is killed while others ask, reset and set
+
+namespace {
+
+constexpr int workers = 4;
+
+/// What the workers said: durations by number; with a '~' in front at a checkpoint.
+using Reported = QHash<QString, qint64>;
+
+std::unique_ptr<QProcess> startWorker(const StateDir &state, unsigned seed)
+{
+    auto process = std::make_unique<QProcess>();
+    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process->start(
+        QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
+        {QStringLiteral("share"), state.path(), QString::number(seed), state.sibling(QStringLiteral("clock"))});
+    return process;
+}
+
+void collect(QProcess &process, QByteArray &unread, Reported &reported)
+{
+    unread += process.readAllStandardOutput();
+    for (qsizetype end = unread.indexOf('\n'); end >= 0; end = unread.indexOf('\n')) {
+        const QByteArray line = unread.first(end);
+        const QList<QByteArray> words = line.split(' ');
+        unread.remove(0, end + 1);
+        bool isDuration = false;
+        const qint64 duration = words.value(1).toLongLong(&isDuration);
+        QVERIFY2(isDuration && words.size() == 2, line.constData());
+        reported.insert(QString::fromLatin1(words[0]), duration);
+    }
+}
+
+qint64 number(const LogFile &file, const char *select)
+{
+    return file.value(QString::fromLatin1(select)).toLongLong();
+}
+
+// Of one moment, while the others go on.
+void checkLog(const StateDir &state, const Reported &reported)
+{
+    const LogFile file(state.database());
+    QVERIFY(file.run(QStringLiteral("BEGIN")));
+    QHash<QString, LoggedCall> found;
+    for (const LoggedCall &call : file.calls())
+        found.insert(call.number, call);
+    for (auto call = reported.cbegin(); call != reported.cend(); ++call) {
+        const bool isCheckpoint = call.key().startsWith(QLatin1Char('~'));
+        const LoggedCall row = found.value(isCheckpoint ? call.key().sliced(1) : call.key());
+        QVERIFY2(row.id != 0, qPrintable(call.key()));
+        if (isCheckpoint) {
+            QVERIFY2(row.durationMs >= call.value(), qPrintable(call.key()));
+            QVERIFY(row.state != int(CallState::Interrupted) || row.durationMs < call.value() + 5000);
+        } else {
+            QCOMPARE(row.durationMs, call.value());
+            QCOMPARE(row.state, int(CallState::Finished));
+        }
+    }
+    QVERIFY(number(file, "SELECT count(*) FROM calls WHERE state = 0") <= 1);
+    const qint64 all = number(file, "SELECT sum(duration_ms) FROM calls");
+    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'lifetime'"), all);
+    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'all'"), all);
+    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'answered'"),
+             number(file, "SELECT coalesce(sum(duration_ms), 0) FROM calls WHERE kind = 0 AND direction = 1"));
+    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'data'"),
+             number(file, "SELECT coalesce(sum(duration_ms), 0) FROM calls WHERE kind = 1"));
+    QVERIFY(number(file, "SELECT ms FROM totals WHERE counter = 'dialed'") <=
+            number(file, "SELECT coalesce(sum(duration_ms), 0) FROM calls WHERE kind = 0 AND direction = 0"));
+    QCOMPARE(number(file, "SELECT count(*) FROM calls WHERE units <> iif(direction = 0, duration_ms / 10000, 0)"),
+             0);
+    const QByteArray card =
+        file.value(QStringLiteral("SELECT content FROM kept WHERE name = 'card'")).toByteArray();
+    if (card != "new")
+        QCOMPARE(card.mid(5, 3).toHex().toLongLong(nullptr, 16), number(file, "SELECT sum(units) FROM calls"));
+    QVERIFY(file.run(QStringLiteral("COMMIT")));
+}
+
+} // namespace
+
+// A few dozen times; KAV_KILLS says how often.
+void TestLedger::aRecorderKilledAtAnyMomentLosesNothing()
+{
+    const int given = qEnvironmentVariableIntValue("KAV_KILLS");
+    const int kills = given > 0 ? given : 30;
+    std::mt19937 random(7);
+    const StateDir state(StateDir::OnDisk);
+    std::vector<std::unique_ptr<QProcess>> processes(workers);
+    std::vector<QByteArray> unread(workers);
+    Reported reported;
+    unsigned seed = 0;
+    for (auto &process : processes)
+        process = startWorker(state, ++seed);
+    std::size_t recorder = 0;
+    for (int kill = 0; kill < kills; ++kill) {
+        // Whoever says something next records.
+        const qsizetype enough = reported.size() + 1 + static_cast<qsizetype>(random() % 8);
+        QElapsedTimer waited;
+        waited.start();
+        while (reported.size() < enough && waited.elapsed() < 60000) {
+            for (std::size_t i = 0; i < processes.size(); ++i) {
+                processes[i]->waitForReadyRead(1);
+                const qsizetype before = reported.size();
+                collect(*processes[i], unread[i], reported);
+                recorder = reported.size() > before ? i : recorder;
+                QVERIFY(!QTest::currentTestFailed());
+                QCOMPARE(processes[i]->state(), QProcess::Running);
+            }
+        }
+        QVERIFY(reported.size() >= enough);
+        processes[recorder]->kill();
+        QVERIFY(processes[recorder]->waitForFinished());
+        collect(*processes[recorder], unread[recorder], reported);
+        unread[recorder].clear();
+        checkLog(state, reported);
+        if (QTest::currentTestFailed())
+            qInfo("at kill %d", kill);
+        QVERIFY(!QTest::currentTestFailed());
+        processes[recorder] = startWorker(state, ++seed);
+    }
+    for (auto &process : processes) {
+        process->kill();
+        process->waitForFinished();
+    }
+    QCOMPARE(LogFile(state.database()).value(QStringLiteral("PRAGMA integrity_check")),
+             QVariant(QStringLiteral("ok")));
+    Phone phone(state.path());
+    QCOMPARE(phone.opened.notice, QString());
+    QVERIFY(phone->isRecording());
+    QVERIFY(phone.dialed(3 * second));
+    QCOMPARE(phone.figures().last, quint64{3});
+    qInfo("%d kills, %d calls and checkpoints reported, none lost", kills, static_cast<int>(reported.size()));
+}
+
+KAV_TEST_GROUP(TestLedger, QCoreApplication);
+#include "tst_ledger.moc"
