@@ -22,6 +22,8 @@ const char *reason(int status, const StatusMeaning &meaning)
         return meaning.wrongState;
     case handset::NotAllowed:
         return meaning.notAllowed;
+    case handset::RecordedElsewhere:
+        return QT_TRANSLATE_NOOP("host::StatusText", "another process records the calls");
     }
     return nullptr;
 }

@@ -160,7 +160,7 @@ void Pin2Section::refresh()
     setEnabled(line.telephone() != nullptr);
     if (!isEnabled())
         return;
-    const Pin2 &pin2 = line.telephone()->simCard().card().pin2();
+    const Pin2 pin2 = line.telephone()->simCard().card().pin2();
     state->setText(stateText(pin2) + u'\n' + triesText(pin2));
     Quietly(isOn)->setChecked(pin2.isEnabled());
 }

@@ -52,10 +52,19 @@ void releaseWithApplication()
 }
 
 // Screens read the installed telephone: what happens to another is none of their business.
-void setBroadcasting(const std::shared_ptr<Handset> &handset, const std::function<void()> &listener)
+void setBroadcasting(const std::shared_ptr<Handset> &handset, const std::function<void()> &update,
+                     const std::function<void()> &change)
 {
     if (PacketData *const packets = handset ? handset->packetData() : nullptr)
-        packets->setUpdateListener(listener);
+        packets->setUpdateListener(update);
+    if (handset)
+        handset->setChangeListener(change);
+}
+
+void tellOfChange()
+{
+    if (installation().handset)
+        installation().handset->changedElsewhere();
 }
 
 void decide(std::shared_ptr<Handset> handset)
@@ -71,8 +80,9 @@ void decide(std::shared_ptr<Handset> handset)
     // The previous telephone goes last: its end must find the new one installed.
     const auto previous = std::exchange(installation().handset, std::move(handset));
     installation().decided = true;
-    setBroadcasting(previous, nullptr);
-    setBroadcasting(installation().handset, &broadcastUpdate);
+    setBroadcasting(previous, nullptr, nullptr);
+    setBroadcasting(installation().handset, &broadcastUpdate, &broadcastChange);
+    followChanges(installation().handset ? std::function<void()>(&tellOfChange) : nullptr);
 }
 
 void openDefault()

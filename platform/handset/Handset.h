@@ -31,6 +31,13 @@ public:
     virtual AdviceOfCharge *adviceOfCharge() { return nullptr; }
     virtual PacketData *packetData() { return nullptr; }
     virtual SimSecurity *simSecurity() { return nullptr; }
+
+    /// `listener` is called when something has been changed by this process that another one may show: a call or session
+    /// has begun or ended, something was set or reset. It is copied, takes the place of the one before, and must not end
+    /// the handset. Null for nobody.
+    virtual void setChangeListener(const std::function<void()> & /*listener*/) {}
+    /// Another process has changed something; not necessarily of this state directory.
+    virtual void changedElsewhere() {}
 };
 
 struct Settings {
@@ -55,8 +62,8 @@ struct Opened {
 /// The names that Settings::backend may have.
 QStringList backendNames();
 
-/// Opens a telephone. Never throws; a backend name that is not known, a state directory that cannot be used and a
-/// state that another process uses are errors.
+/// Opens a telephone. Never throws; a backend name that is not known, a state directory that cannot be used, and a
+/// state that has to be made, migrated or replaced while another process uses it, are errors.
 Opened open(const Settings &settings);
 
 /// Where the default telephone keeps its state: a directory of the user's own data directory.

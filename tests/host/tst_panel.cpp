@@ -240,8 +240,8 @@ private:
     void connectCall() const;
     void pass(qint64 ms) const;
     handset::simulated::Charging &charging() const { return telephone->charging(); }
-    const handset::charging::SimCard &card() const { return telephone->simCard().card(); }
-    const handset::charging::Pin2 &pin2() const { return card().pin2(); }
+    handset::charging::SimCard card() const { return telephone->simCard().card(); }
+    handset::charging::Pin2 pin2() const { return card().pin2(); }
     bool enterPin2(const QByteArray &digits) const;
 
     ScreenLibrary library;

@@ -35,13 +35,19 @@ constexpr Rule rules[] = {
      "the factory alone knows every backend, and makes the state directory for each"},
     {"platform/handset/UpdateBroadcast.cpp", "platform/handset platform/qt",
      "the broadcast is a message on a channel; nothing else of the telephone knows channels"},
-    {"platform/handset/calllog/", "platform/handset/calllog/ platform/handset", "a store knows no backend"},
-    {"platform/handset/simulated/", "platform/handset/simulated/ platform/handset/calllog platform/handset",
+    {"platform/handset/charging/", "platform/handset/charging platform/handset",
+     "charging is arithmetic on values"},
+    {"platform/handset/calllog/", "platform/handset/calllog/ platform/handset/charging platform/handset",
+     "the ledger knows no backend"},
+    {"platform/handset/simulated/",
+     "platform/handset/simulated/ platform/handset/calllog platform/handset/charging platform/handset",
      "a backend knows no other"},
-    {"platform/handset/ofono/", "platform/handset/ofono/ platform/handset/calllog platform/handset",
+    {"platform/handset/ofono/",
+     "platform/handset/ofono/ platform/handset/calllog platform/handset/charging platform/handset",
      "a backend knows no other"},
     {"host/",
-     "host/ platform/handset platform/handset/simulated platform/toolkit platform/qt platform/log "
+     "host/ platform/handset platform/handset/simulated platform/handset/charging platform/toolkit platform/qt "
+     "platform/log "
      "platform/telephony platform/callsetup platform/message platform/security",
      "the host reaches the plug-in by its exported names only"},
     {"bench/", "bench/ host/ utility/ platform/", "a benchmark is no test"},
@@ -320,6 +326,8 @@ void TestIncludes::aViolationIsFound_data()
         "platform/handset/simulated/New.cpp includes platform/handset/ofono/Ofono.h");
     row("the call log includes a backend", "platform/handset/calllog/New.cpp", "#include \"Simulated.h\"\n",
         "platform/handset/calllog/New.cpp includes platform/handset/simulated/Simulated.h");
+    row("charging asks the ledger", "platform/handset/charging/New.cpp", "#include \"Store.h\"\n",
+        "platform/handset/charging/New.cpp includes platform/handset/calllog/Store.h");
     row("the host includes the plug-in", "host/New.cpp", "#include \"Screen.h\"\n",
         "host/New.cpp includes utility/Screen.h");
     row("the host includes the store of a backend", "host/New.cpp", "#include \"Store.h\"\n",

@@ -1,6 +1,7 @@
 #include "Charging.h"
 
 #include "AmountText.h"
+#include "Ledger.h"
 
 #include <QtCore/QDate>
 
@@ -11,15 +12,20 @@ namespace handset::calllog {
 using charging::Account;
 using charging::ChargingState;
 
-Standing Charging::now() const
+namespace {
+
+// What cannot be read is nothing.
+Standing standingOf(Ledger &ledger)
 {
     Standing now;
     return ledger.standing(now) == Success ? now : Standing{};
 }
 
+} // namespace
+
 charging::Tariff Charging::tariff(CallDirection direction) const
 {
-    return isKnown(direction) ? now().state.tariff(direction) : charging::Tariff{};
+    return isKnown(direction) ? standingOf(ledger).state.tariff(direction) : charging::Tariff{};
 }
 
 int Charging::setTariff(CallDirection direction, const charging::Tariff &tariff)
@@ -46,15 +52,25 @@ int Charging::topUp(const QString &amount, const Date &expires)
     });
 }
 
+std::optional<Account> Charging::account() const
+{
+    return standingOf(ledger).state.account;
+}
+
+std::optional<quint32> Charging::unitsLeft() const
+{
+    return standingOf(ledger).state.unitsLeft();
+}
+
 quint64 Charging::runningUnits() const
 {
-    const std::optional<RunningCall> call = now().call;
+    const std::optional<RunningCall> call = standingOf(ledger).call;
     return call ? call->units : 0;
 }
 
 std::optional<qint64> Charging::msLeft() const
 {
-    const std::optional<RunningCall> call = now().call;
+    const std::optional<RunningCall> call = standingOf(ledger).call;
     if (!call || !call->mostMs)
         return std::nullopt;
     return std::max<qint64>(*call->mostMs - call->ms, 0);
@@ -62,7 +78,7 @@ std::optional<qint64> Charging::msLeft() const
 
 void Charging::callStopped()
 {
-    lastStop = now().state.card.limitReached() ? StopReason::LimitReached : StopReason::CreditUsedUp;
+    lastStop = standingOf(ledger).state.card.limitReached() ? StopReason::LimitReached : StopReason::CreditUsedUp;
 }
 
 } // namespace handset::calllog

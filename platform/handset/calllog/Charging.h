@@ -1,13 +1,15 @@
 // What the network charges, and the prepaid account.
 #pragma once
 
-#include "Ledger.h"
+#include "ChargingState.h"
 
 #include <QtCore/QString>
 
 #include <optional>
 
 namespace handset::calllog {
+
+class Ledger;
 
 /// Operations answer a status of handset/Status.h; one that fails has changed nothing. What is set is kept in the
 /// ledger; what cannot be read is nothing.
@@ -39,10 +41,10 @@ public:
     /// them, and for a day that is none.
     int topUp(const QString &amount, const Date &expires);
     /// Nothing until something has been paid in: then the telephone is not a prepaid one.
-    std::optional<charging::Account> account() const { return now().state.account; }
+    std::optional<charging::Account> account() const;
 
     /// As ChargingState::unitsLeft(), now.
-    std::optional<quint32> unitsLeft() const { return now().state.unitsLeft(); }
+    std::optional<quint32> unitsLeft() const;
     /// What the connected call has cost so far; 0 without one.
     quint64 runningUnits() const;
     /// How long the connected call may still go on until the handset ends it, in ms; nothing when it may go on.
@@ -56,8 +58,6 @@ public:
     void callBegins() { lastStop = StopReason::None; }
 
 private:
-    Standing now() const;
-
     Ledger &ledger;
     StopReason lastStop = StopReason::None;
 };

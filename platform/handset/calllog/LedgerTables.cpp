@@ -91,6 +91,14 @@ SessionRow sessionAt(const PlainStatement &row, int column)
             row.number(column + 9)};
 }
 
+bool countsIn(Total total, const RunningCall &call)
+{
+    const bool isEveryCalls = total == Total::LastTime || total == Total::AllTime ||
+                              total == Total::LifetimeTime || total == Total::LastCost;
+    return isEveryCalls || total == ownTime(call.kind, call.direction) ||
+           total == ownCost(call.kind, call.direction);
+}
+
 SessionAmounts sum(const SessionAmounts &a, const SessionAmounts &b)
 {
     return {saturatingSum(a.ms, b.ms), saturatingSum(a.sent, b.sent), saturatingSum(a.received, b.received)};
@@ -178,6 +186,13 @@ bool LedgerTables::readState(charging::ChargingState &state, const QByteArray &c
     return true;
 }
 
+// None in the row that an earlier version has left.
+bool LedgerTables::readTariff(const PlainStatement &row, int column, RunningCall &call)
+{
+    return row.isNull(column) || charging::readTariff(row.text(column), call.tariff) ||
+           database.fail(QStringLiteral("the tariff of the running call cannot be read"));
+}
+
 bool LedgerTables::read(Standing &standing)
 {
     if (!database.runForRow(standingNow))
@@ -196,8 +211,7 @@ bool LedgerTables::read(Standing &standing)
                          writtenAt(row, 9),
                          numberOrNothing(row, 11),
                          {}};
-        isRight = row.isNull(12) || charging::readTariff(row.text(12), call.tariff) ||
-                  database.fail(QStringLiteral("the tariff of the running call cannot be read"));
+        isRight = readTariff(row, 12, call);
         standing.call = call;
     }
     standingNow.finish();
@@ -323,35 +337,40 @@ bool LedgerTables::addToSessions(const SessionAmounts &more)
     return database.runOn(static_cast<int>(sessionPlaces.size()), addSessions, more.ms, more.sent, more.received);
 }
 
+// `row` is that of totalTime or totalCost, and has a running call.
+bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Moment &now, qint64 &value)
+{
+    RunningCall call;
+    call.kind = static_cast<CallKind>(row.number(1));
+    call.direction = static_cast<CallDirection>(row.number(2));
+    if (!countsIn(total, call))
+        return true;
+    call.ms = row.number(3);
+    call.written = writtenAt(row, 4);
+    call.mostMs = numberOrNothing(row, 6);
+    const qint64 passed = call.passedUntil(now);
+    if (total < Total::LastCost) {
+        value = saturatingSum(value, passed);
+        return true;
+    }
+    call.units = static_cast<quint32>(row.number(7));
+    if (!readTariff(row, 8, call))
+        return false;
+    value = saturatingSum(value, call.dueAfter(passed));
+    return true;
+}
+
 bool LedgerTables::totalAt(Total total, const Moment &now, qint64 &value)
 {
-    const bool isTime = total < Total::LastCost;
-    PlainStatement &row = isTime ? totalTime : totalCost;
+    PlainStatement &row = total < Total::LastCost ? totalTime : totalCost;
     if (!database.runForRow(row, placeOf(total).key))
         return false;
-    value = row.number(0);
-    if (!row.isNull(1)) {
-        RunningCall call;
-        call.kind = static_cast<CallKind>(row.number(1));
-        call.direction = static_cast<CallDirection>(row.number(2));
-        call.ms = row.number(3);
-        call.written = writtenAt(row, 4);
-        call.mostMs = numberOrNothing(row, 6);
-        const qint64 passed = call.passedUntil(now);
-        const bool isEveryCalls = total == Total::LastTime || total == Total::AllTime ||
-                                  total == Total::LifetimeTime || total == Total::LastCost;
-        if (!isEveryCalls && total != ownTime(call.kind, call.direction) &&
-            total != ownCost(call.kind, call.direction)) {
-            // It does not count here.
-        } else if (isTime) {
-            value = saturatingSum(value, passed);
-        } else if (charging::readTariff(row.text(8), call.tariff)) {
-            call.units = static_cast<quint32>(row.number(7));
-            value = saturatingSum(value, call.dueAfter(passed));
-        }
-    }
+    qint64 read = row.number(0);
+    const bool isRight = row.isNull(1) || addRunning(row, total, now, read);
     row.finish();
-    return true;
+    if (isRight)
+        value = read;
+    return isRight;
 }
 
 bool LedgerTables::sessionTotalsAt(const Moment &now, SessionAmounts &amounts)

@@ -117,6 +117,8 @@ public:
     bool put(const KeptValue &value);
 
 private:
+    bool readTariff(const PlainStatement &row, int column, RunningCall &call);
+    bool addRunning(const PlainStatement &row, Total total, const Moment &now, qint64 &value);
     bool readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging);
 
     Database &database;

@@ -59,15 +59,16 @@ bool isToBeReplaced(const FileAttempt &attempt)
     return !attempt.database && attempt.finding.verdict != Verdict::Blocked;
 }
 
-// With the directory alone: makes a log where there is none that can be used.
-FileAttempt openReplacing(StateDirectory &directory, const ProgressListener &progress)
+// With the directory alone: makes a log where there is none that can be used. `before` is what was found in it shared,
+// Usable where nobody has looked. A read that went wrong once may look like damage: what is damaged still is when it is
+// read again.
+FileAttempt openReplacing(StateDirectory &directory, Verdict before, const ProgressListener &progress)
 {
     Finding finished = finishReplacement(directory);
     if (finished.verdict != Verdict::Usable)
         return {{{Verdict::Blocked, explain(finished)}, nullptr}};
     FileAttempt attempt = openFile(directory, Hold::Alone, progress);
-    // A read that went wrong once may look like damage. What is damaged still is when it is read again.
-    if (isToBeReplaced(attempt))
+    if (isToBeReplaced(attempt) && attempt.finding.verdict != before)
         attempt = openFile(directory, Hold::Alone, progress);
     if (!isToBeReplaced(attempt))
         return attempt;
@@ -93,7 +94,7 @@ FileAttempt openInDirectory(StateDirectory &directory, const ProgressListener &p
         if (!holder.isEmpty() && end.hasExpired())
             return {{{Verdict::Blocked, explain(attempt.finding) + QStringLiteral(", and ") + holder}, nullptr}};
     }
-    attempt = openReplacing(directory, progress);
+    attempt = openReplacing(directory, attempt.finding.verdict, progress);
     directory.share();
     return attempt;
 }

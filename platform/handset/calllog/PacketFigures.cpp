@@ -1,5 +1,6 @@
 #include "PacketFigures.h"
 
+#include "Ledger.h"
 #include "Saturating.h"
 
 #include <algorithm>
@@ -73,6 +74,21 @@ int PacketFigures::totalBytes(quint32 &total, quint32 &received, quint32 &sent)
     received = toCounter(all.received);
     sent = toCounter(all.sent);
     return Success;
+}
+
+int PacketFigures::resetTotalDuration()
+{
+    return ledger.resetSessions({Total::SessionTime});
+}
+
+int PacketFigures::resetTotalBytes()
+{
+    return ledger.resetSessions({Total::BytesSent, Total::BytesReceived});
+}
+
+bool PacketFigures::isSessionRunning() const
+{
+    return ledger.isSessionRunning();
 }
 
 int PacketFigures::startSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond)

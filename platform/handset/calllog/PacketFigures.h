@@ -1,13 +1,15 @@
 // Packet data from the sessions of the ledger.
 #pragma once
 
-#include "Ledger.h"
 #include "PacketData.h"
 
 #include <functional>
 
 namespace handset::calllog {
 
+class Ledger;
+
+/// What the ledger has of sessions, and the beginning and end of one that this process counts.
 class PacketFigures final : public PacketData
 {
 public:
@@ -27,8 +29,8 @@ public:
     int sessions(DataSessions &sessions) override;
     int totalDuration(CallTime &duration) override;
     int totalBytes(quint32 &total, quint32 &received, quint32 &sent) override;
-    int resetTotalDuration() override { return ledger.resetSessions({Total::SessionTime}); }
-    int resetTotalBytes() override { return ledger.resetSessions({Total::BytesSent, Total::BytesReceived}); }
+    int resetTotalDuration() override;
+    int resetTotalBytes() override;
     void setUpdateListener(const std::function<void()> &listener) override { onUpdate = listener; }
 
     /// Begins a session with access point name `apn` (Latin-1, 1 to longestApn characters, no NUL; else
@@ -38,7 +40,7 @@ public:
     /// Ends it, also where the call log cannot be written: then that is owed to it. WrongState without one.
     int stopSession();
     /// Of this process.
-    bool isSessionRunning() const { return ledger.isSessionRunning(); }
+    bool isSessionRunning() const;
     /// Tells the update listener when the running session has gone on for a second since it was told last.
     void tick();
 

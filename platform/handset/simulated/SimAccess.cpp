@@ -1,6 +1,7 @@
 #include "SimAccess.h"
 
 #include "AmountText.h"
+#include "Ledger.h"
 
 namespace handset::simulated {
 

@@ -2,8 +2,12 @@
 #pragma once
 
 #include "AdviceOfCharge.h"
-#include "Ledger.h"
+#include "SimCard.h"
 #include "SimSecurity.h"
+
+namespace handset::calllog {
+class Ledger;
+}
 
 namespace handset::simulated {
 

@@ -67,6 +67,8 @@ public:
     int endCall();
     int checkpoint();
     void figuresChanged();
+    void changedElsewhere();
+    /// Here, and to the other processes.
     void tellChange();
     bool owesRecord() const { return ledger->owesCall() || ledger->owesSession(); }
     /// Of the line, as it is here or in the process that records.
@@ -78,11 +80,13 @@ public:
     SimAccess sim{*ledger};
     PacketFigures packets{*ledger};
     LineState state = LineState::Idle;
-    PastCall call;                               ///< on the line
+    PastCall call; ///< on the line
+    std::function<void()> onChange;
     std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 
 private:
     void tick();
+    void tellHere();
     void tellWhatIsOwed();
     void runTimer();
     bool isTimeUp() const { return state == LineState::Connected && charges.isTimeUp(); }
@@ -200,13 +204,13 @@ void SimulatedTelephone::Innards::tick()
 {
     if (!records) {
         if (ledger->record())
-            tellChange();
+            tellHere();
         return;
     }
     const bool unitIsDue = isUnitDue();
     const bool isTimeToWrite = --ticksToCheckpoint <= 0 || (unitIsDue && !isWriteFailing) || isTimeUp();
     if (isTimeToWrite && checkpoint() == Success && unitIsDue)
-        tellChange();
+        tellHere();
     packets.tick();
     tellWhatIsOwed();
     // A full second from now: a tick that came late would otherwise be followed by one that comes too early for the
@@ -224,7 +228,23 @@ void SimulatedTelephone::Innards::figuresChanged()
         tellChange();
 }
 
+// The same, made by another process.
+void SimulatedTelephone::Innards::changedElsewhere()
+{
+    if (isTimeUp())
+        stopCall();
+    else
+        tellHere();
+}
+
 void SimulatedTelephone::Innards::tellChange()
+{
+    tellHere();
+    if (onChange)
+        onChange();
+}
+
+void SimulatedTelephone::Innards::tellHere()
 {
     runTimer();
     toldOwing = owesRecord();
@@ -234,7 +254,7 @@ void SimulatedTelephone::Innards::tellChange()
 void SimulatedTelephone::Innards::tellWhatIsOwed()
 {
     if (owesRecord() != toldOwing)
-        tellChange();
+        tellHere();
 }
 
 // The network ends the call by itself.
@@ -293,6 +313,16 @@ PacketData *SimulatedTelephone::packetData()
 SimSecurity *SimulatedTelephone::simSecurity()
 {
     return &innards->sim;
+}
+
+void SimulatedTelephone::setChangeListener(const std::function<void()> &listener)
+{
+    innards->onChange = listener;
+}
+
+void SimulatedTelephone::changedElsewhere()
+{
+    innards->changedElsewhere();
 }
 
 int SimulatedTelephone::dial(const QString &number, CallKind kind)

@@ -14,6 +14,10 @@
 #include <functional>
 #include <memory>
 
+namespace handset {
+class Clock;
+}
+
 namespace handset::simulated {
 
 using calllog::Charging;
@@ -56,6 +60,8 @@ public:
     AdviceOfCharge *adviceOfCharge() override;
     PacketData *packetData() override;
     SimSecurity *simSecurity() override;
+    void setChangeListener(const std::function<void()> &listener) override;
+    void changedElsewhere() override;
 
     /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument, and so for what
     /// is no CallKind. NotAllowed for a call that would be charged where nothing more may be; so for the next two.

@@ -1,4 +1,5 @@
 // The message that tells the screens of every process that the packet-data figures have changed.
+#include "CallLog.h"
 #include "HandsetTestKit.h"
 #include "PacketData.h"
 #include "PrivateBus.h"
@@ -76,6 +77,8 @@ private slots:
     void onlyTheInstalledTelephoneTells();
     void aTelephoneWithoutPacketDataCanBeInstalled();
     void anotherProcessIsToldUpToTheEndOfTheApplication();
+    void whatIsChangedHereIsAnnouncedOnce();
+    void whatAnotherProcessChangesIsSignalledHere();
 
 private:
     static void tick(const Phone &phone)
@@ -276,6 +279,47 @@ void TestBroadcast::anotherProcessIsToldUpToTheEndOfTheApplication()
     QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")});
     const QString finished = QString::number(static_cast<int>(calllog::CallState::Finished));
     QCOMPARE(LogFile(state.database()).sessions(), QStringList{QStringLiteral("1 x 9000 9 18 ") + finished});
+}
+
+void TestBroadcast::whatIsChangedHereIsAnnouncedOnce()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    int announced = 0;
+    const QCopChannel channel("/KAV/handset");
+    connect(&channel, &QCopChannel::received, this,
+            [&](const QCString &message) { announced += message == "/KAV/handset/Changed" ? 1 : 100; });
+    const auto announcedAfter = [&](int status) {
+        QCoreApplication::processEvents();
+        return status == Success ? std::exchange(announced, 0) : -1;
+    };
+    QCOMPARE(announcedAfter(phone->dial(QStringLiteral("1"), CallKind::Voice)), 1);
+    QCOMPARE(announcedAfter(phone->remoteAnswer()), 1);
+    phone.clock->advance(30 * second);
+    QCOMPARE(announcedAfter(phone->checkpoint()), 0); // every process counts by itself
+    QCOMPARE(announcedAfter(phone.log().resetDialedCallsTime()), 1);
+    QCOMPARE(announcedAfter(phone->charging().topUp(QStringLiteral("100"), {2030, 1, 1})), 1);
+    QCOMPARE(announcedAfter(phone->hangUp()), 1);
+    QCOMPARE(announcedAfter(phone->packets().startSession("x", 1, 1)), 1);
+    QCOMPARE(announcedAfter(phone.packets().resetTotalBytes()), 1);
+    QCOMPARE(announcedAfter(phone->packets().stopSession()), 1);
+}
+
+void TestBroadcast::whatAnotherProcessChangesIsSignalledHere()
+{
+    const Phone phone;
+    install(phone.opened.handset);
+    QSignalSpy spy(phone.operator->(), &simulated::SimulatedTelephone::changed);
+    const auto tellAs = [](const QByteArray &process) {
+        QCopChannel::send("/KAV/handset", "/KAV/handset/Changed", process);
+    };
+    tellAs("1");                                 // no process of ours
+    QTRY_VERIFY((tellAs("1"), spy.count() > 0)); // once it listens
+    QTest::qWait(0);
+    spy.clear();
+    tellAs(QByteArray::number(QCoreApplication::applicationPid()));
+    QCoreApplication::processEvents();
+    QCOMPARE(spy.count(), 0);
 }
 
 KAV_TEST_GROUP(TestBroadcast, QCoreApplication);

@@ -628,7 +628,7 @@ void TestLedger::aRecorderKilledAtAnyMomentLosesNothing()
                 collect(*processes[i], unread[i], reported);
                 recorder = reported.size() > before ? i : recorder;
                 QVERIFY(!QTest::currentTestFailed());
-                QCOMPARE(processes[i]->state(), QProcess::Running);
+                QVERIFY(processes[i]->state() != QProcess::NotRunning);
             }
         }
         QVERIFY(reported.size() >= enough);

@@ -235,9 +235,10 @@ Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressLi
 bool hasRemains(const StateDirectory &directory)
 {
     for (const char *name : {LogCopy::name, unfinishedName, readyName})
-        if (directory.find(QString::fromLatin1(name)) != ENOENT)
-            return true;
-    return directory.hasLeftovers(QString::fromLatin1(unfinishedName));
+        for (const char *beside : {"", "-wal", "-journal", "-shm"})
+            if (directory.find(QLatin1String(name) + QLatin1String(beside)) != ENOENT)
+                return true;
+    return false;
 }
 
 Finding finishReplacement(StateDirectory &directory)
