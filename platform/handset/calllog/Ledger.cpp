@@ -132,8 +132,6 @@ int Ledger::hasCosts(bool &found)
 
 int Ledger::load(QStringList &notices)
 {
-    if (!tables.isUsable())
-        return database->status(false);
     bool hadCosts = false;
     if (const int status = hasCosts(hadCosts))
         return status;

@@ -71,7 +71,7 @@ Written writtenAt(const PlainStatement &row, int column)
 {
     if (row.isNull(column) || row.isNull(column + 1))
         return {};
-    return {Moment{row.number(column + 1), row.text(column)}};
+    return {Moment{row.number(column + 1), row.bytes(column)}};
 }
 
 // As they stand in a row.
@@ -83,7 +83,7 @@ QString bootOf(const Written &written)
 SessionRow sessionAt(const PlainStatement &row, int column)
 {
     return {row.number(column),
-            QString::fromUtf8(row.text(column + 1)).toLatin1(),
+            QString::fromUtf8(row.bytes(column + 1)).toLatin1(),
             {row.number(column + 2), row.number(column + 3), row.number(column + 4)},
             !row.isNull(column) && row.number(column + 5) == static_cast<int>(CallState::Running),
             writtenAt(row, column + 6),
@@ -156,18 +156,6 @@ LedgerTables::LedgerTables(Database &connection)
     , putKept(connection.handle(), putKeptSql)
 {}
 
-bool LedgerTables::isUsable()
-{
-    const auto all = {&insertCall,    &updateCall,    &standingNow,    &closeCalls,     &closeSessions,
-                      &insertSession, &updateSession, &runningSession, &recentSessions, &addTimes,
-                      &addCosts,      &addSessions,   &totalTime,      &totalCost,      &sessionTotals,
-                      &putTime,       &putCost,       &putSessions,    &keptValue,      &putKept};
-    for (const PlainStatement *statement : all)
-        if (statement->error() != 0)
-            return database.fail();
-    return true;
-}
-
 bool LedgerTables::readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging)
 {
     if (card != lastCard || card.isNull()) {
@@ -189,7 +177,7 @@ bool LedgerTables::readState(charging::ChargingState &state, const QByteArray &c
 // None in the row that an earlier version has left.
 bool LedgerTables::readTariff(const PlainStatement &row, int column, RunningCall &call)
 {
-    return row.isNull(column) || charging::readTariff(row.text(column), call.tariff) ||
+    return row.isNull(column) || charging::readTariff(row.bytes(column), call.tariff) ||
            database.fail(QStringLiteral("the tariff of the running call cannot be read"));
 }
 
@@ -198,13 +186,13 @@ bool LedgerTables::read(Standing &standing)
     if (!database.runForRow(standingNow))
         return false;
     const PlainStatement &row = standingNow;
-    bool isRight = readState(standing.state, row.text(0), row.text(1));
+    bool isRight = readState(standing.state, row.bytes(0), row.bytes(1));
     standing.call.reset();
     if (isRight && !row.isNull(2)) {
         RunningCall call{row.number(2),
                          static_cast<CallKind>(row.number(3)),
                          static_cast<CallDirection>(row.number(4)),
-                         QString::fromUtf8(row.text(5)),
+                         QString::fromUtf8(row.bytes(5)),
                          row.number(6),
                          row.number(7),
                          static_cast<quint32>(row.number(8)),
@@ -403,7 +391,7 @@ bool LedgerTables::kept(const QString &name, QByteArray &content)
 {
     const bool done = database.run(keptValue, name);
     if (done)
-        content = keptValue.hasRow() ? keptValue.text(0) : QByteArray();
+        content = keptValue.hasRow() ? keptValue.bytes(0) : QByteArray();
     keptValue.finish();
     return done;
 }

@@ -81,9 +81,6 @@ public:
     /// `connection` has the newest schema and outlives this.
     explicit LedgerTables(Database &connection);
 
-    /// Whether every statement fits the tables; else `connection` has the reason.
-    bool isUsable();
-
     bool read(Standing &standing);
     /// What of the state is another than before. Answers without writing where nothing is.
     bool putState(const charging::ChargingState &before, const charging::ChargingState &after);

@@ -65,7 +65,7 @@ int readAmounts(sqlite3 *connection, const char *select, Amounts &amounts)
     PlainStatement rows(connection, select);
     while (rows.next())
         if (!rows.isNull(1))
-            amounts[rows.text(0)] = rows.number(1);
+            amounts[rows.bytes(0)] = rows.number(1);
     return rows.error();
 }
 
@@ -140,7 +140,7 @@ Finding checkPages(sqlite3 *connection)
 {
     PlainStatement check(connection, "PRAGMA quick_check(1)");
     if (check.next())
-        return judgeCheck(QString::fromUtf8(check.text(0)));
+        return judgeCheck(QString::fromUtf8(check.bytes(0)));
     return failure(connection, check.error());
 }
 

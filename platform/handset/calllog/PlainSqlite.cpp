@@ -38,21 +38,22 @@ bool PlainConnection::run(const char *statement)
     return sqlite3_exec(connection, statement, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-PlainStatement::PlainStatement(sqlite3 *connection, const QByteArray &text)
-    : prepared(primary(sqlite3_prepare_v3(connection, text.constData(), static_cast<int>(text.size()) + 1,
-                                          SQLITE_PREPARE_PERSISTENT, &statement, nullptr)))
-    , code(prepared)
-{}
-
 PlainStatement::~PlainStatement()
 {
     sqlite3_finalize(statement);
 }
 
+bool PlainStatement::prepare()
+{
+    if (!statement)
+        code = primary(sqlite3_prepare_v3(handle, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr));
+    return statement;
+}
+
 void PlainStatement::finish()
 {
     sqlite3_reset(statement);
-    code = prepared;
+    code = SQLITE_OK;
     row = false;
 }
 
@@ -88,7 +89,7 @@ void PlainStatement::bind(int place, const QByteArray &bytes)
 
 bool PlainStatement::next()
 {
-    if (code != SQLITE_OK)
+    if (!prepare() || code != SQLITE_OK)
         return false;
     const int result = primary(sqlite3_step(statement));
     if (result != SQLITE_ROW && result != SQLITE_DONE)
@@ -106,7 +107,7 @@ bool PlainStatement::isNull(int column) const
     return sqlite3_column_type(statement, column) == SQLITE_NULL;
 }
 
-QByteArray PlainStatement::text(int column) const
+QByteArray PlainStatement::bytes(int column) const
 {
     if (isNull(column))
         return {};

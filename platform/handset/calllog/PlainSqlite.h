@@ -33,11 +33,16 @@ private:
     bool open = false;
 };
 
-/// A statement, row by row; one that is kept is run again with other values.
+/// A statement, row by row; one that is kept is run again with other values. It is prepared when it is run first: opening
+/// a log is for nothing but a look at some figures, most of the time.
 class PlainStatement
 {
 public:
-    PlainStatement(sqlite3 *connection, const QByteArray &text);
+    /// `text` stays where it is.
+    PlainStatement(sqlite3 *connection, const char *text)
+        : handle(connection)
+        , sql(text)
+    {}
     ~PlainStatement();
     PlainStatement(const PlainStatement &) = delete;
     PlainStatement &operator=(const PlainStatement &) = delete;
@@ -47,6 +52,8 @@ public:
     template <typename... Values>
     bool run(const Values &...values)
     {
+        if (!prepare())
+            return false;
         finish();
         int place = 0;
         (bind(++place, values), ...);
@@ -65,9 +72,10 @@ public:
     qint64 number(int column) const;
     bool isNull(int column) const;
     /// Of a text or of bytes; a null array for NULL.
-    QByteArray text(int column) const;
+    QByteArray bytes(int column) const;
 
 private:
+    bool prepare();
     void bind(int place, qint64 value);
     void bind(int place, int value) { bind(place, qint64{value}); }
     void bind(int place, std::optional<qint64> value);
@@ -75,9 +83,10 @@ private:
     void bind(int place, const QString &text);
     void bind(int place, const QByteArray &bytes);
 
+    sqlite3 *handle;
+    const char *sql;
     sqlite3_stmt *statement = nullptr;
-    int prepared;
-    int code;
+    int code = 0;
     bool row = false;
 };
 

@@ -35,8 +35,8 @@ int listEntries(sqlite3 *connection, Entries &entries)
 {
     PlainStatement list(connection, listSql);
     while (list.next())
-        entries.push_back(list.text(0) + '\n' + list.text(1) + '\n' + list.text(2) + '\n' +
-                          withoutBlanks(list.text(3)));
+        entries.push_back(list.bytes(0) + '\n' + list.bytes(1) + '\n' + list.bytes(2) + '\n' +
+                          withoutBlanks(list.bytes(3)));
     std::sort(entries.begin(), entries.end());
     return list.error();
 }
