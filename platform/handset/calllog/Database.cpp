@@ -26,13 +26,12 @@ QString newConnectionName()
 
 // Whoever writes at the same time is done in a few milliseconds. SQLite's own way waits longer from try to try, and so
 // may never meet a moment in which a busy one does not write.
-int waitForOthers(void *, int tries)
+int waitForOthers(void *patienceMs, int tries)
 {
-    constexpr int mostTries = 500; // a second
-    constexpr useconds_t betweenTries = 2000;
-    if (tries >= mostTries)
+    constexpr int betweenTriesMs = 2;
+    if (tries >= *static_cast<const int *>(patienceMs) / betweenTriesMs)
         return 0;
-    ::usleep(betweenTries);
+    ::usleep(betweenTriesMs * 1000);
     return 1;
 }
 
@@ -62,7 +61,7 @@ Database::Database(const QString &file, Access access)
     const QVariant handle = connection.driver()->handle();
     const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
     sqlite = held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
-    sqlite3_busy_handler(sqlite, &waitForOthers, nullptr);
+    sqlite3_busy_handler(sqlite, &waitForOthers, &patienceMs);
     begin.emplace(sqlite, "BEGIN IMMEDIATE");
     commit.emplace(sqlite, "COMMIT");
 }

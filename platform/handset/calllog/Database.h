@@ -46,6 +46,9 @@ public:
     /// SQLite's own connection, for what Qt has no way for; null when it is not open.
     sqlite3 *handle() const { return sqlite; }
     bool isOpen() const { return connection.isOpen(); }
+    /// How long a statement waits for others that write, before it fails with sqlite::Busy.
+    void setPatience(int milliseconds) { patienceMs = milliseconds; }
+    static constexpr int usualPatienceMs = 1000; ///< nobody looks at a screen that stands still for longer
     const QSqlError &lastError() const { return error; }
 
     /// Runs one statement whose result does not matter.
@@ -114,6 +117,7 @@ private:
     int changedRows() const;
 
     sqlite3 *sqlite = nullptr;
+    int patienceMs = usualPatienceMs;
     QString name;
     QSqlDatabase connection;
     std::optional<PlainStatement> begin; ///< of a transaction; kept, as every write runs both

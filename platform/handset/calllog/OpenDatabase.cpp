@@ -5,6 +5,9 @@
 #include "SchemaCheck.h"
 #include "Totals.h"
 
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QThread>
+
 #include <functional>
 #include <initializer_list>
 
@@ -34,9 +37,22 @@ Finding identify(Database &database)
     return tables;
 }
 
+// SQLite does not wait where several want to change the mode at once.
+QString useWriteAheadLog(Database &database)
+{
+    constexpr unsigned long betweenMs = 2;
+    const QDeadlineTimer end(openingPatienceMs);
+    QString mode = database.text(QStringLiteral("PRAGMA journal_mode = WAL"));
+    while (mode.isEmpty() && sqlite::code(database.lastError()) == sqlite::Busy && !end.hasExpired()) {
+        QThread::msleep(betweenMs);
+        mode = database.text(QStringLiteral("PRAGMA journal_mode = WAL"));
+    }
+    return mode;
+}
+
 Finding configure(Database &database)
 {
-    const QString mode = database.text(QStringLiteral("PRAGMA journal_mode = WAL"));
+    const QString mode = useWriteAheadLog(database);
     if (mode.isEmpty())
         return failure(database);
     if (mode != QLatin1String("wal") && mode != QLatin1String("memory"))
@@ -110,10 +126,10 @@ Finding settle(Database &database)
     Finding totals = checkAllTotals(database);
     if (totals.verdict != Verdict::Usable)
         return totals;
-    for (const char *needed : {"SELECT max(id) FROM calls", readKept,
-                               "SELECT sum(length(apn)) FROM (SELECT apn FROM sessions ORDER BY id DESC LIMIT 3)",
-                               "SELECT count(*) FROM calls WHERE state = 0",
-                               "SELECT count(*) FROM sessions WHERE state = 0"})
+    for (const char *needed :
+         {"SELECT max(id) FROM calls", readKept,
+          "SELECT sum(length(apn)) FROM (SELECT apn FROM sessions ORDER BY id DESC LIMIT 3)",
+          "SELECT count(*) FROM calls WHERE state = 0", "SELECT count(*) FROM sessions WHERE state = 0"})
         if (!database.number(QString::fromLatin1(needed)))
             return failure(database);
     return database.inTransaction([] { return true; }) ? Finding{} : failure(database);
@@ -147,6 +163,7 @@ Finding walk(Database &database, std::initializer_list<Step> steps)
 Finding examine(const QString &file)
 {
     Database database(file, Database::Access::ReadOnly);
+    database.setPatience(openingPatienceMs);
     Finding finding = walk(database, {identify, verify});
     if (finding.verdict == Verdict::Blocked) // some leftovers cannot be read without writing
         return {};
@@ -163,14 +180,15 @@ Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressLi
             return {std::move(examined), nullptr};
     }
     auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
+    database->setPatience(openingPatienceMs);
+    const auto leaveOlder = [&](Database &older) { return hold == Hold::Shared ? isNewest(older) : Finding{}; };
     const auto bringUpToDate = [&](Database &older) {
-        if (hold == Hold::Shared)
-            return isNewest(older);
         return migrate(older, migrations(), progress) ? Finding{} : failure(older);
     };
-    Finding finding = care == Care::Quick
-                          ? walk(*database, {identify, configure, bringUpToDate, settle})
-                          : walk(*database, {identify, verify, configure, bringUpToDate, settle, verifySums});
+    Finding finding =
+        care == Care::Quick
+            ? walk(*database, {identify, leaveOlder, configure, bringUpToDate, settle})
+            : walk(*database, {identify, leaveOlder, verify, configure, bringUpToDate, settle, verifySums});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
     return {{}, std::move(database)};

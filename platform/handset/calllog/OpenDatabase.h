@@ -25,7 +25,10 @@ enum class Hold {
     Alone
 };
 
-/// `file` is an absolute path, or ":memory:". `progress` as in migrate().
+/// How long opening waits for other processes in all that it does (Database::setPatience()).
+inline constexpr int openingPatienceMs = 5000;
+
+/// `file` is an absolute path, or ":memory:". `progress` as in migrate(). The database has the patience of opening.
 Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressListener &progress = {});
 
 } // namespace handset::calllog

@@ -140,8 +140,11 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     Ledger &opening = *ledger;
     const QString notice = place.notice();
     OpenedLedger opened = open(std::move(ledger), {notice, untold}, !untold.isEmpty());
-    if (opened.ledger && !opening.record() && place.isRecording())
+    if (!opened.ledger)
+        return opened;
+    if (!opening.record() && place.isRecording())
         return cannotBeUsed(place, explain(failure(opening.connection())));
+    opening.connection().setPatience(Database::usualPatienceMs);
     opened.unread = attempt.unread;
     return opened;
 }

@@ -313,7 +313,7 @@ QString StateDirectory::takeAlone(int milliseconds)
     const int error = lockWithin(milliseconds, useLock, LOCK_EX);
     if (error == 0 && record())
         return {};
-    const QString holder = error == 0 || error == EWOULDBLOCK ? whoHolds() : reason(error);
+    QString holder = error == 0 || error == EWOULDBLOCK ? whoHolds() : reason(error);
     share();
     return holder;
 }

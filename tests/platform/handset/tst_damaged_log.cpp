@@ -12,6 +12,7 @@
 #include "TestGroup.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QHash>
 
 #include <functional>
@@ -123,6 +124,7 @@ private slots:
     void aDirectoryBesideAGoodLogIsAnErrorOrNothing();
 
     void keptFilesNeverReplaceOneAnother();
+    void aLogInUseByAnotherProgramIsLeftAlone_data();
     void aLogInUseByAnotherProgramIsLeftAlone();
     void aReplacementThatWasInterruptedIsMadeUpFor_data();
     void aReplacementThatWasInterruptedIsMadeUpFor();
@@ -570,15 +572,27 @@ void TestDamagedLog::keptFilesNeverReplaceOneAnother()
     QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-2.db-wal"))), QByteArray("a write-ahead log alone"));
 }
 
+void TestDamagedLog::aLogInUseByAnotherProgramIsLeftAlone_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::newRow("with a write-ahead log") << QStringLiteral("WAL");
+    QTest::newRow("with a journal, which is to be changed") << QStringLiteral("DELETE");
+}
+
 void TestDamagedLog::aLogInUseByAnotherProgramIsLeftAlone()
 {
+    QFETCH(QString, mode);
     const StateDir state;
     QVERIFY(Phone(state.path()).dialed(8 * second));
     {
         const LogFile other(state.database());
+        QVERIFY(other.run(QStringLiteral("PRAGMA journal_mode = ") + mode));
         QVERIFY(other.run(QStringLiteral("BEGIN IMMEDIATE")));
+        QElapsedTimer waited;
+        waited.start();
         const Phone phone(state.path());
         QVERIFY(!phone);
+        QVERIFY2(waited.elapsed() >= 5000, "whoever is there may be about to let it go");
         QCOMPARE(phone.opened.error,
                  QStringLiteral("The call log \"%1\" cannot be used: another process is using it.")
                      .arg(state.database()));
