@@ -2,7 +2,14 @@
 #include "TestGroup.h"
 #include "aplog.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QIODevice>
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
 
 #include <cerrno>
 #include <csignal>

@@ -3,6 +3,7 @@
 #include "PrivateBus.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
 
 namespace {

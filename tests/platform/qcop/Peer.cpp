@@ -4,6 +4,7 @@
 #include "PrivateBus.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QProcess>
 #include <QtCore/QProcessEnvironment>
 
 namespace {

@@ -3,6 +3,7 @@
 #include "BusSocket.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QProcess>
 
 #include <csignal>
 #include <sys/prctl.h>

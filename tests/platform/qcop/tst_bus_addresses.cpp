@@ -6,9 +6,11 @@
 #include "PrivateBus.h"
 #include "TestGroup.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <cstring>
 #include <memory>

@@ -5,7 +5,9 @@
 #include "PrivateBus.h"
 #include "TestGroup.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 namespace {
 

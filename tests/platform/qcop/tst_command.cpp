@@ -4,7 +4,13 @@
 #include "PrivateBus.h"
 #include "TestGroup.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QFile>
+#include <QtCore/QIODevice>
+#include <QtCore/QProcess>
+#include <QtCore/QProcessEnvironment>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QTest>
 
 #include <csignal>
 

@@ -6,8 +6,9 @@
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QVariant>
 #include <QtTest/QSignalSpy>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 #include <functional>
 #include <malloc.h>

@@ -4,9 +4,12 @@
 #include "PrivateBus.h"
 #include "TestGroup.h"
 
+#include <QtCore/QRegularExpression>
+#include <QtCore/QVariant>
+#include <QtCore/QVariantList>
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
-#include <QtTest/QtTest>
+#include <QtTest/QTest>
 
 namespace {
 

@@ -3,7 +3,8 @@
 #include "PrivateBus.h"
 #include "TestGroup.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 namespace {
 

@@ -6,7 +6,9 @@
 #include "PrivateBus.h"
 #include "TestGroup.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTemporaryFile>
+#include <QtTest/QTest>
 
 #include <memory>
 #include <vector>

@@ -3,7 +3,8 @@
 #include "TestGroup.h"
 
 #include <QtCore/QLibrary>
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 class TestUnload : public QObject
 {

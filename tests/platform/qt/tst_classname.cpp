@@ -2,7 +2,8 @@
 #include "TestGroup.h"
 #include "classname.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 namespace {
 

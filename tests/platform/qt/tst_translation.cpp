@@ -2,7 +2,10 @@
 #include "TestGroup.h"
 #include "translation.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTimer>
+#include <QtCore/QTranslator>
+#include <QtTest/QTest>
 
 namespace {
 

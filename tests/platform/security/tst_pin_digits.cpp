@@ -1,7 +1,8 @@
 #include "PinDigits.h"
 #include "TestGroup.h"
 
-#include <QtTest/QtTest>
+#include <QtCore/QRegularExpression>
+#include <QtTest/QTest>
 
 #include <algorithm>
 #include <new>

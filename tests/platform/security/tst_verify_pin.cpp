@@ -8,7 +8,12 @@
 #include "ZApplication.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QPoint>
 #include <QtCore/QTimer>
+#include <QtCore/QTimerEvent>
+#include <QtGui/QImage>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 #include <functional>
 

@@ -3,6 +3,9 @@
 #include "ZApplication.h"
 #include "ZSkinService.h"
 
+#include <QtCore/QRect>
+#include <QtGui/QImage>
+
 ZListBoxItem *DialogTestKit::addChoice(ZListBox *list, const QString &text, int subItem)
 {
     auto *item = new ZListBoxItem(list, QString());

@@ -5,6 +5,7 @@
 #include "ZListBoxItem.h"
 #include "ZPopup.h"
 
+#include <QtCore/QRect>
 #include <QtCore/QStringList>
 
 #include <functional>

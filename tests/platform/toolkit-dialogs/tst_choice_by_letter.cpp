@@ -4,6 +4,8 @@
 #include "ZApplication.h"
 #include "ZSingleSelectDlg.h"
 
+#include <QtWidgets/QApplication>
+
 using namespace DialogTestKit;
 using namespace ToolkitTestKit;
 

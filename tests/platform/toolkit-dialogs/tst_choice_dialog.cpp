@@ -6,6 +6,14 @@
 #include "ZSingleCaptureDlg.h"
 #include "ZSingleSelectDlg.h"
 
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
+
 using namespace DialogTestKit;
 using namespace ToolkitTestKit;
 

@@ -5,7 +5,13 @@
 #include "ZMultiLineEdit.h"
 #include "ZSingleCaptureDlg.h"
 
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
+#include <QtCore/QSize>
 #include <QtCore/QUuid>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
 
 using namespace DialogTestKit;
 using namespace ToolkitTestKit;

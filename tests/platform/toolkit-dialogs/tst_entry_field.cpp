@@ -3,8 +3,17 @@
 #include "TestGroup.h"
 #include "ZMultiLineEdit.h"
 
+#include <QtCore/QEvent>
+#include <QtCore/QMimeData>
+#include <QtCore/QPoint>
 #include <QtGui/QClipboard>
+#include <QtGui/QDragEnterEvent>
+#include <QtGui/QDropEvent>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QInputMethodEvent>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QTextCursor>
+#include <QtWidgets/QApplication>
 
 using namespace ToolkitTestKit;
 

@@ -7,9 +7,15 @@
 #include "ZMultiTap.h"
 #include "ZSingleCaptureDlg.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QUuid>
+#include <QtGui/QImage>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QTextCursor>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QWidget>
 
 using namespace DialogTestKit;
 using namespace ToolkitTestKit;

@@ -4,6 +4,10 @@
 #include "ZLabel.h"
 
 #include <QtGui/QAccessible>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 using namespace ToolkitTestKit;
 

@@ -4,6 +4,12 @@
 #include "ZApplication.h"
 #include "ZNoticeDlg.h"
 
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtWidgets/QApplication>
+
 using namespace DialogTestKit;
 using namespace ToolkitTestKit;
 

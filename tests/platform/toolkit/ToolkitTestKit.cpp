@@ -1,5 +1,15 @@
 #include "ToolkitTestKit.h"
 
+#include <QtCore/QEvent>
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRegularExpression>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
+#include <QtWidgets/QWidget>
+
 TestScreen::TestScreen(QWidget *parent)
     : ZKbMainWidget(parent, "test screen", 0)
     , bar(new ZSoftKey(QStringLiteral("CST_2A"), this, nullptr))

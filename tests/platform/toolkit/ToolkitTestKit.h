@@ -7,9 +7,11 @@
 #include "ZSettingItem.h"
 #include "ZSoftKey.h"
 
+#include <QtCore/QPoint>
+#include <QtGui/QColor>
 #include <QtGui/QImage>
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
+#include <QtTest/QTest>
+#include <QtWidgets/QWidget>
 
 /// A screen with a softkey bar ("Options", "Back") and a list that fills its content area.
 class TestScreen : public ZKbMainWidget

@@ -4,6 +4,23 @@
 #include "ZApplication.h"
 #include "ZSkinService.h"
 
+#include <QtCore/QPoint>
+#include <QtCore/QPointF>
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
+#include <QtCore/QSet>
+#include <QtCore/QTranslator>
+#include <QtGui/QColor>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+#include <QtGui/QWheelEvent>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QWidget>
+
 #include <algorithm>
 
 using namespace ToolkitTestKit;

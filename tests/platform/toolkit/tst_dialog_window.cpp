@@ -3,6 +3,16 @@
 #include "ToolkitTestKit.h"
 #include "ZApplication.h"
 
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
+#include <QtCore/QSize>
+#include <QtGui/QImage>
+#include <QtGui/QRegion>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
 using namespace ToolkitTestKit;
 
 namespace {

@@ -4,6 +4,15 @@
 #include "ZApplication.h"
 #include "ZKeys.h"
 
+#include <QtCore/QEvent>
+#include <QtCore/QPointer>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QSet>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QWidget>
+
 using namespace ToolkitTestKit;
 
 class FocusTest : public QObject

@@ -3,6 +3,22 @@
 #include "ToolkitTestKit.h"
 #include "ZListBoxItem.h"
 
+#include <QtCore/QAbstractItemModel>
+#include <QtCore/QModelIndex>
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRandomGenerator>
+#include <QtCore/QRect>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QSize>
+#include <QtGui/QAccessible>
+#include <QtGui/QAccessibleInterface>
+#include <QtGui/QPixmap>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QWidget>
+
 #include <array>
 #include <ctime>
 

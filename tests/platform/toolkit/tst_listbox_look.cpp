@@ -3,6 +3,21 @@
 #include "TestGroup.h"
 #include "ToolkitTestKit.h"
 
+#include <QtCore/QEvent>
+#include <QtCore/QPoint>
+#include <QtCore/QRect>
+#include <QtGui/QColor>
+#include <QtGui/QFont>
+#include <QtGui/QFontMetrics>
+#include <QtGui/QImage>
+#include <QtGui/QPaintEvent>
+#include <QtGui/QPalette>
+#include <QtGui/QPixmap>
+#include <QtGui/QRegion>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QWidget>
+
 using namespace ToolkitTestKit;
 
 namespace {

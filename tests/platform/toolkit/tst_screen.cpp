@@ -3,6 +3,20 @@
 #include "ToolkitTestKit.h"
 #include "ZKeys.h"
 
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRect>
+#include <QtCore/QSize>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QWidget>
+
 using namespace ToolkitTestKit;
 
 namespace {

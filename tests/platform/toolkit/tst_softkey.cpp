@@ -3,6 +3,16 @@
 #include "ToolkitTestKit.h"
 #include "ZKeys.h"
 
+#include <QtCore/QPoint>
+#include <QtCore/QPointer>
+#include <QtCore/QRegularExpression>
+#include <QtGui/QColor>
+#include <QtGui/QImage>
+#include <QtTest/QSignalSpy>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
+
 using namespace ToolkitTestKit;
 
 namespace {
