@@ -26,9 +26,9 @@ struct Sums {
     qint64 allUnits = 0;
 };
 
-Finding failure(sqlite3 *connection, int code)
+Finding failureOf(sqlite3 *connection, int code)
 {
-    return calllog::failure(code, QString::fromUtf8(sqlite3_errmsg(connection)));
+    return failure(code, QString::fromUtf8(sqlite3_errmsg(connection)));
 }
 
 void add(qint64 &sum, qint64 amount)
@@ -141,7 +141,7 @@ Finding checkPages(sqlite3 *connection)
     PlainStatement check(connection, "PRAGMA quick_check(1)");
     if (check.next())
         return judgeCheck(QString::fromUtf8(check.bytes(0)));
-    return failure(connection, check.error());
+    return failureOf(connection, check.error());
 }
 
 CheckedLog checkSums(sqlite3 *connection)
@@ -155,7 +155,7 @@ CheckedLog checkSums(sqlite3 *connection)
         sqlite3_exec(connection, "BEGIN", nullptr, nullptr, nullptr);
     const int code = read(connection, figures);
     if (code != SQLITE_OK)
-        checked.finding = failure(connection, code);
+        checked.finding = failureOf(connection, code);
     if (isOwnTransaction)
         sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)

@@ -94,7 +94,7 @@ constexpr std::array toVersion4{
     "PRAGMA writable_schema = RESET",
 };
 
-constexpr std::array<Migration, 4> steps{toVersion1, toVersion2, toVersion3, toVersion4};
+constexpr std::array<Migration, 4> allSteps{toVersion1, toVersion2, toVersion3, toVersion4};
 
 /// What SQLite's virtual machine does to check one row of `calls` when it gets a column: measured with 3.40, over a
 /// million rows. With another SQLite a step only seems to be slower or faster towards its end.
@@ -131,7 +131,7 @@ bool runStep(Database &database, Migration step, qint64 version, const ProgressL
 
 std::span<const Migration> migrations()
 {
-    return steps;
+    return allSteps;
 }
 
 bool migrate(Database &database, std::span<const Migration> path, const ProgressListener &listener)
