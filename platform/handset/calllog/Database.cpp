@@ -109,23 +109,6 @@ QString Database::text(const QString &statement)
     return {};
 }
 
-bool Database::prepare(QSqlQuery &kept, const QString &statement)
-{
-    kept = query();
-    if (kept.prepare(statement))
-        return true;
-    error = kept.lastError();
-    return false;
-}
-
-bool Database::run(QSqlQuery &kept)
-{
-    if (kept.exec())
-        return true;
-    error = kept.lastError();
-    return false;
-}
-
 bool Database::fail()
 {
     error = QSqlError({}, QString::fromUtf8(sqlite3_errmsg(sqlite)), QSqlError::StatementError,

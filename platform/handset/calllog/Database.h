@@ -17,6 +17,7 @@ inline constexpr int Error = 1; ///< the statement does not fit the tables
 inline constexpr int Busy = 5;
 inline constexpr int Locked = 6;
 inline constexpr int Corrupt = 11;
+inline constexpr int Constraint = 19;
 inline constexpr int NotADatabase = 26;
 
 /// The primary result code of an error; 0 when it has none.
@@ -56,11 +57,6 @@ public:
     /// The first column of the first row; nothing when there is no row or the statement failed.
     std::optional<qint64> number(const QString &statement);
     QString text(const QString &statement);
-    /// A statement to keep; false when it cannot be prepared.
-    bool prepare(QSqlQuery &query, const QString &statement);
-    /// Runs a kept statement with the values that are bound to it.
-    bool run(QSqlQuery &query);
-
     /// Runs a statement of this connection, which may have a row then.
     template <typename... Values>
     bool run(PlainStatement &statement, const Values &...values)
@@ -88,6 +84,8 @@ public:
     bool missesRow();
     bool fail(const QString &reason);
     qint64 lastInsertId() const;
+    /// By the statement that was run last.
+    int changedRows() const;
 
     /// What an operation of the call log answers (handset/Status.h): StorageFailed, with a warning that says why, unless
     /// it has succeeded.
@@ -114,8 +112,6 @@ public:
     QSqlQuery query() const;
 
 private:
-    int changedRows() const;
-
     sqlite3 *sqlite = nullptr;
     int patienceMs = usualPatienceMs;
     QString name;

@@ -2,33 +2,30 @@
 
 #include "PlainSqlite.h"
 #include "Saturating.h"
-#include "Totals.h"
 
 #include <sqlite3.h>
 
 #include <algorithm>
-#include <map>
 
 namespace handset::calllog {
 
 namespace {
 
-constexpr auto callsSql = "SELECT kind, direction, duration_ms, units FROM calls WHERE state <> 2";
+constexpr auto callsSql = "SELECT kind, direction, duration_ms, units FROM calls WHERE state <> 2 ORDER BY id";
 constexpr auto sessionsSql = "SELECT duration_ms, sent, received FROM sessions";
+constexpr auto lostSql = "SELECT value FROM lost WHERE counter = ?";
 
-using Amounts = std::map<QByteArray, qint64>;
-
-struct Sums {
-    Amounts ms; ///< of calls, by the counter of their own kind
-    Amounts units;
-    Amounts sessions;
-    qint64 allMs = 0;
-    qint64 allUnits = 0;
+/// Everything that is compared, of one moment.
+struct Figures {
+    RowTotals counted{};
+    qint64 allUnits = 0; ///< of all calls
+    RowTotals totals{};
+    LostAmounts lost{};
 };
 
-Finding failureOf(sqlite3 *connection, int code)
+constexpr std::size_t at(Total total)
 {
-    return failure(code, QString::fromUtf8(sqlite3_errmsg(connection)));
+    return static_cast<std::size_t>(total);
 }
 
 void add(qint64 &sum, qint64 amount)
@@ -36,100 +33,97 @@ void add(qint64 &sum, qint64 amount)
     sum = saturatingSum(sum, amount);
 }
 
-int sumCalls(sqlite3 *connection, Sums &sums)
+int countCalls(sqlite3 *connection, Figures &figures)
 {
+    RowTotals &counted = figures.counted;
     PlainStatement rows(connection, callsSql);
     while (rows.next()) {
-        const Total own =
-            ownTime(static_cast<CallKind>(rows.number(0)), static_cast<CallDirection>(rows.number(1)));
-        const char *key = placeOf(own).key;
-        add(sums.ms[key], rows.number(2));
-        add(sums.allMs, rows.number(2));
-        add(sums.units[key], rows.number(3));
-        add(sums.allUnits, rows.number(3));
+        const auto kind = static_cast<CallKind>(rows.number(0));
+        const auto direction = static_cast<CallDirection>(rows.number(1));
+        const qint64 units = rows.number(3);
+        counted[at(Total::LastTime)] = rows.number(2);
+        for (const Total total : {ownTime(kind, direction), Total::AllTime, Total::LifetimeTime})
+            add(counted[at(total)], rows.number(2));
+        counted[at(Total::LastCost)] = units;
+        if (const std::optional<Total> own = ownCost(kind, direction))
+            add(counted[at(*own)], units);
+        add(figures.allUnits, units);
     }
     return rows.error();
 }
 
-int sumSessions(sqlite3 *connection, Sums &sums)
+int countSessions(sqlite3 *connection, RowTotals &counted)
 {
     PlainStatement rows(connection, sessionsSql);
     while (rows.next())
         for (std::size_t i = 0; i < sessionPlaces.size(); ++i)
-            add(sums.sessions[sessionPlaces[i].key], rows.number(static_cast<int>(i)));
+            add(counted[at(sessionPlaces[i].total)], rows.number(static_cast<int>(i)));
     return rows.error();
 }
 
-int readAmounts(sqlite3 *connection, const char *select, Amounts &amounts)
+int readTotals(sqlite3 *connection, RowTotals &totals)
 {
-    PlainStatement rows(connection, select);
-    while (rows.next())
-        if (!rows.isNull(1))
-            amounts[rows.bytes(0)] = rows.number(1);
-    return rows.error();
+    for (const TotalPlace &place : totalPlaces) {
+        const QByteArray select = selectTotal(place);
+        PlainStatement row(connection, select.constData());
+        if (row.next())
+            totals[at(place.total)] = row.number(0);
+        if (row.error() != SQLITE_OK)
+            return row.error();
+    }
+    return SQLITE_OK;
 }
 
-/// Everything that is compared, of one moment.
-struct Figures {
-    Sums sums;
-    Amounts totals;
-    Amounts costs;
-    Amounts sessionTotals;
-    Amounts lost;
-};
+int readLost(sqlite3 *connection, LostAmounts &lost)
+{
+    PlainStatement row(connection, lostSql);
+    for (std::size_t i = 0; i < lost.size(); ++i)
+        if (row.run(lostNames[i].key) && row.hasRow() && !row.isNull(0))
+            lost[i] = row.number(0);
+    return row.error();
+}
 
 int read(sqlite3 *connection, Figures &figures)
 {
-    const auto amounts = [&](const char *select, Amounts &into) { return readAmounts(connection, select, into); };
-    for (const int code : {amounts("SELECT counter, ms FROM totals", figures.totals),
-                           amounts("SELECT counter, units FROM costs", figures.costs),
-                           amounts("SELECT counter, value FROM session_totals", figures.sessionTotals),
-                           amounts("SELECT counter, value FROM lost", figures.lost)})
-        if (code != SQLITE_OK)
-            return code;
-    const int code = sumCalls(connection, figures.sums);
-    return code == SQLITE_OK ? sumSessions(connection, figures.sums) : code;
+    int code = readTotals(connection, figures.totals);
+    if (code == SQLITE_OK)
+        code = readLost(connection, figures.lost);
+    if (code == SQLITE_OK)
+        code = countCalls(connection, figures);
+    return code == SQLITE_OK ? countSessions(connection, figures.counted) : code;
 }
 
 // What the totals count beyond the rows.
-Amounts excess(Figures &figures)
+LostAmounts excess(const Figures &figures)
 {
-    const auto beyond = [](qint64 total, qint64 sum) { return std::max<qint64>(total - sum, 0); };
-    Amounts found;
-    found["calls"] = beyond(figures.totals["lifetime"], figures.sums.allMs);
-    for (const TotalPlace &name : costPlaces) {
-        const bool isLast = name.total == Total::LastCost;
-        const qint64 sum = isLast ? figures.sums.allUnits : figures.sums.units[name.key];
-        found["units"] = std::max(found["units"], beyond(figures.costs[name.key], sum));
-    }
-    for (const TotalPlace &name : sessionPlaces)
-        found[name.key] = beyond(figures.sessionTotals[name.key], figures.sums.sessions[name.key]);
-    return found;
+    const auto beyond = [&](Total total) {
+        const qint64 counted = total == Total::LastCost ? figures.allUnits : figures.counted[at(total)];
+        return std::max<qint64>(figures.totals[at(total)] - counted, 0);
+    };
+    return {beyond(Total::LifetimeTime),
+            std::max({beyond(Total::LastCost), beyond(Total::DialedCost), beyond(Total::AnsweredCost)}),
+            beyond(Total::SessionTime), beyond(Total::BytesSent), beyond(Total::BytesReceived)};
 }
 
-bool callsFit(Figures &figures, qint64 lost)
+bool callsFit(const Figures &figures, qint64 lost)
 {
-    const qint64 lifetime = figures.totals["lifetime"];
-    if (lifetime != saturatingSum(figures.sums.allMs, lost))
+    const qint64 lifetime = figures.totals[at(Total::LifetimeTime)];
+    if (lifetime != saturatingSum(figures.counted[at(Total::LifetimeTime)], lost))
         return false;
-    return std::all_of(timePlaces.begin(), timePlaces.end(), [&](const TotalPlace &name) {
-        const bool isOwn =
-            name.total == Total::DialedTime || name.total == Total::AnsweredTime || name.total == Total::DataTime;
-        const qint64 most = isOwn ? saturatingSum(figures.sums.ms[name.key], lost) : lifetime;
-        return figures.totals[name.key] <= most;
+    return std::all_of(timePlaces.begin(), timePlaces.end(), [&](const TotalPlace &place) {
+        const bool isOwn = place.total == Total::DialedTime || place.total == Total::AnsweredTime ||
+                           place.total == Total::DataTime;
+        const qint64 most = isOwn ? saturatingSum(figures.counted[at(place.total)], lost) : lifetime;
+        return figures.totals[at(place.total)] <= most;
     });
 }
 
-Finding compare(Figures &figures, const LostAmounts &unknown)
+Finding compare(const Figures &figures, const LostAmounts &found)
 {
-    Amounts lost = figures.lost;
-    for (const LostAmount &measured : unknown)
-        if (measured.amount)
-            lost[measured.counter] = *measured.amount;
-    for (const auto &[counter, amount] : excess(figures))
-        if (amount > lost[counter])
+    for (std::size_t i = 0; i < found.size(); ++i)
+        if (*found[i] > *figures.lost[i])
             return {Verdict::Damaged, QStringLiteral("its totals count more than its rows")};
-    if (!callsFit(figures, lost["calls"]))
+    if (!callsFit(figures, *figures.lost[0]))
         return {Verdict::Damaged, QStringLiteral("its totals are not those of its calls")};
     return {};
 }
@@ -141,45 +135,50 @@ Finding checkPages(sqlite3 *connection)
     PlainStatement check(connection, "PRAGMA quick_check(1)");
     if (check.next())
         return judgeCheck(QString::fromUtf8(check.bytes(0)));
-    return failureOf(connection, check.error());
+    return failure(check.error(), QString::fromUtf8(sqlite3_errmsg(connection)));
+}
+
+QByteArray selectTotal(const TotalPlace &place)
+{
+    return QByteArray("SELECT ") + place.column + " FROM " + place.table + " WHERE counter = '" + place.key +
+           "' AND typeof(" + place.column + ") = 'integer'";
 }
 
 CheckedLog checkSums(sqlite3 *connection)
 {
     CheckedLog checked;
-    for (std::size_t i = 0; i < lostNames.size(); ++i)
-        checked.unknown[i].counter = lostNames[i].key;
     Figures figures;
     const bool isOwnTransaction = sqlite3_get_autocommit(connection) != 0;
     if (isOwnTransaction)
         sqlite3_exec(connection, "BEGIN", nullptr, nullptr, nullptr);
     const int code = read(connection, figures);
     if (code != SQLITE_OK)
-        checked.finding = failureOf(connection, code);
+        checked.finding = failure(code, QString::fromUtf8(sqlite3_errmsg(connection)));
     if (isOwnTransaction)
         sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)
         return checked;
-    Amounts measured = excess(figures);
-    for (LostAmount &amount : checked.unknown)
-        if (!figures.lost.contains(amount.counter))
-            amount.amount = measured[amount.counter];
-    checked.finding = compare(figures, checked.unknown);
+    checked.counted = figures.counted;
+    const LostAmounts found = excess(figures);
+    for (std::size_t i = 0; i < found.size(); ++i)
+        if (!figures.lost[i])
+            checked.unknown[i] = figures.lost[i] = found[i];
+    checked.finding = compare(figures, found);
     return checked;
 }
 
 bool saysMore(const LostAmounts &measured)
 {
-    return std::any_of(measured.begin(), measured.end(),
-                       [](const LostAmount &lost) { return lost.amount.has_value(); });
+    return std::any_of(measured.begin(), measured.end(), [](const auto &lost) { return lost.has_value(); });
 }
 
 bool putUnknown(Database &database, const LostAmounts &measured)
 {
     const QString put = QStringLiteral("UPDATE lost SET value = %1 WHERE counter = '%2'");
-    return std::all_of(measured.begin(), measured.end(), [&](const LostAmount &lost) {
-        return !lost.amount || database.run(put.arg(*lost.amount).arg(QString::fromLatin1(lost.counter)));
-    });
+    for (std::size_t i = 0; i < measured.size(); ++i)
+        if (measured[i] && !database.run(put.arg(*measured[i]).arg(QLatin1String(lostNames[i].key))))
+            return false;
+    return true;
 }
 
 } // namespace handset::calllog

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Finding.h"
+#include "Totals.h"
 
 #include <array>
 #include <optional>
@@ -16,18 +17,16 @@ struct LostName {
 inline constexpr std::array lostNames{LostName{"calls"}, LostName{"units"}, LostName{"duration"}, LostName{"sent"},
                                       LostName{"received"}};
 
-/// What the totals count beyond the rows that are left, by the names in the table `lost`.
-struct LostAmount {
-    const char *counter;
-    std::optional<qint64> amount; ///< nothing where the log does not say
-};
-using LostAmounts = std::array<LostAmount, lostNames.size()>;
+/// What the totals count beyond the rows that are left, in the order of lostNames; nothing where the log does not say.
+using LostAmounts = std::array<std::optional<qint64>, lostNames.size()>;
+/// By Total.
+using RowTotals = std::array<qint64, totalPlaces.size()>;
 
 /// What a log that was read through has come to.
 struct CheckedLog {
     Finding finding;
-    LostAmounts
-        unknown{}; ///< what a log of an earlier version did not say, measured now; the others have no amount
+    LostAmounts unknown{}; ///< what a log of an earlier version did not say, measured now; nothing for the others
+    RowTotals counted{};   ///< what the totals would be had none been reset, and had the lost rows never been
 };
 
 /// The structure of the file, every page of it, and every row by the checks of its table.
@@ -38,6 +37,8 @@ Finding checkPages(sqlite3 *connection);
 /// All calls ever have lasted as long as their rows say, with what was lost; every other total counts some of the rows,
 /// for it may have been reset.
 CheckedLog checkSums(sqlite3 *connection);
+/// Selects a total, if it is a number.
+QByteArray selectTotal(const TotalPlace &place);
 
 /// Whether there is anything to write.
 bool saysMore(const LostAmounts &measured);

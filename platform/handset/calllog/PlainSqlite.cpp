@@ -50,6 +50,17 @@ bool PlainStatement::prepare()
     return statement;
 }
 
+bool PlainStatement::runWith(const PlainStatement &other)
+{
+    if (!prepare())
+        return false;
+    finish();
+    for (int column = 0; column < sqlite3_column_count(other.statement); ++column)
+        sqlite3_bind_value(statement, column + 1, sqlite3_column_value(other.statement, column));
+    row = next();
+    return code == 0;
+}
+
 void PlainStatement::finish()
 {
     sqlite3_reset(statement);

@@ -60,6 +60,8 @@ public:
         row = next();
         return code == 0;
     }
+    /// The same with the values of the row that another statement has come to.
+    bool runWith(const PlainStatement &other);
     /// Whether the last run() has come to a row.
     bool hasRow() const { return row; }
     /// An unfinished SELECT would keep the write-ahead log from being emptied.

@@ -1,6 +1,6 @@
 #include "RowSalvage.h"
 
-#include <QtSql/QSqlRecord>
+#include <QtCore/QByteArrayList>
 
 #include <algorithm>
 
@@ -12,112 +12,135 @@ constexpr int idColumn = 0;
 
 } // namespace
 
-void RowSalvage::note(const QSqlError &error)
+// The plus sign keeps SQLite from looking for the first id, which may be anywhere in a damaged table. No log gets as far
+// as the highest one; a damaged page may.
+RowSalvage::Statements RowSalvage::statementsFor(const SalvagedTable &table, DamagedLog &source)
+{
+    const QString has = QStringLiteral("SELECT count(*) FROM pragma_table_info('%1') WHERE name = '%2'");
+    QByteArrayList names;
+    QByteArray types;
+    for (const auto &[name, type] : table.columns) {
+        if (source.number(has.arg(QLatin1String(table.name), QLatin1String(name))) == qint64{0})
+            continue;
+        names << name;
+        types += QByteArray(" AND typeof(") + name + ") = '" + type + '\'';
+    }
+    const QByteArray list = names.join(", ");
+    return {"SELECT " + list + " FROM " + table.name + " WHERE +id BETWEEN 1 AND 1000000000000" + types,
+            "INSERT INTO " + QByteArray(table.name) + " (" + list + ") VALUES (" +
+                QByteArrayList(names.size(), "?").join(", ") + ") ON CONFLICT (id) DO NOTHING"};
+}
+
+std::optional<qint64> DamagedLog::number(const QString &select)
+{
+    std::optional<qint64> number = database.number(select);
+    if (!number)
+        number = database.number(select);
+    if (!number)
+        note(database.lastError());
+    return number;
+}
+
+bool DamagedLog::note(const PlainStatement &rows)
+{
+    if (rows.error() == 0)
+        return true;
+    database.fail();
+    note(database.lastError());
+    return false;
+}
+
+void DamagedLog::note(const QSqlError &error)
 {
     if (error.isValid() && !isDamage(error) && !isBlocked())
         blockedBy = {Verdict::Blocked, sqlite::reason(error)};
 }
 
-// SQLite calls some failed reads (EIO) corrupt, too. So what is damaged is read twice: it still is then.
+RowSalvage::RowSalvage(DamagedLog &damaged, Database &fresh, const SalvagedTable &which,
+                       const ProgressListener &listener)
+    : source(damaged)
+    , target(fresh)
+    , table(which)
+    , statements(statementsFor(which, damaged))
+    , putRow(fresh.handle(), statements.insert.constData())
+    , progress(listener, QString::fromLatin1(which.step),
+               damaged.connection()
+                   .number(QStringLiteral("SELECT max(id) FROM ") + QLatin1String(which.name))
+                   .value_or(0))
+{}
 
-std::optional<qint64> RowSalvage::read(const QString &select)
+bool RowSalvage::copy()
 {
-    std::optional<qint64> number = source.number(select);
-    if (!number)
-        number = source.number(select);
-    if (!number)
-        note(source.lastError());
-    return number;
-}
-
-bool RowSalvage::putLost(const char *counter, qint64 amount)
-{
-    const QString put = QStringLiteral("UPDATE lost SET value = %1 WHERE counter = '%2'");
-    return target.run(put.arg(std::max<qint64>(amount, 0)).arg(QString::fromLatin1(counter)));
-}
-
-bool RowSalvage::copy(const QString &select, const QString &insert)
-{
-    if (!target.prepare(putRow, insert))
-        return false;
-    Passed passed = pass(select + QStringLiteral(" ORDER BY id"), false);
+    Passed passed = source.isBlocked() ? Passed::NotDone : pass(" ORDER BY id", false);
     while (passed == Passed::UpToTheDamage) {
         const qint64 before = count;
-        const Passed again = pass(select + QStringLiteral(" WHERE id > %1 ORDER BY id").arg(highestCopied), false);
+        const Passed again = pass(" AND id > " + QByteArray::number(highestCopied) + " ORDER BY id", false);
         if (again != Passed::NotDone && count == before)
             break;
         passed = again;
     }
     // From the other end as well, so that one damaged page in the middle costs no more than its own rows.
     if (passed == Passed::UpToTheDamage)
-        passed = passTail(select);
-    if (passed == Passed::NotDone)
-        return false;
+        passed = passTail();
     progress.finish();
-    return true;
+    return passed != Passed::NotDone;
 }
 
 // In the order of the ids as far as that goes: rows that are put in front of others leave half of each page empty.
-RowSalvage::Passed RowSalvage::passTail(const QString &select)
+RowSalvage::Passed RowSalvage::passTail()
 {
-    const QString backwards = select + QStringLiteral(" ORDER BY id DESC");
+    const QByteArray backwards(" ORDER BY id DESC");
     if (const std::optional<qint64> first = firstOfTail(backwards)) {
-        const QString forwards = select + QStringLiteral(" WHERE id >= %1 ORDER BY id").arg(*first);
-        if (pass(forwards, false) == Passed::NotDone)
+        if (pass(" AND id >= " + QByteArray::number(*first) + " ORDER BY id", false) == Passed::NotDone)
             return Passed::NotDone;
     }
-    return isBlocked() ? Passed::NotDone : pass(backwards, true);
+    return source.isBlocked() ? Passed::NotDone : pass(backwards, true);
 }
 
-std::optional<qint64> RowSalvage::firstOfTail(const QString &select)
+std::optional<qint64> RowSalvage::firstOfTail(const QByteArray &rest)
 {
-    QSqlQuery rows = source.query();
-    rows.exec(select);
+    const QByteArray sql = statements.select + rest;
+    PlainStatement rows(source.connection().handle(), sql.constData());
     Progress search = progress.overTheRest(QStringLiteral("Looking for the end of the damage"));
     std::optional<qint64> first;
     while (rows.next()) {
         search.oneIsDone();
-        if (!isPlausible(rows))
+        if (!isRight(rows))
             continue;
-        if (rows.value(idColumn).toLongLong() <= highestCopied)
+        if (rows.number(idColumn) <= highestCopied)
             break;
-        first = rows.value(idColumn).toLongLong();
+        first = rows.number(idColumn);
     }
     search.finish();
-    note(rows.lastError());
+    source.note(rows);
     return first;
 }
 
-RowSalvage::Passed RowSalvage::pass(const QString &select, bool untilKnown)
+RowSalvage::Passed RowSalvage::pass(const QByteArray &rest, bool untilKnown)
 {
-    QSqlQuery rows = source.query();
-    bool isNew = rows.exec(select);
-    columnCount = rows.record().count();
-    while (rows.next()) {
-        if (isPlausible(rows) && !copyRow(rows, isNew))
+    const QByteArray sql = statements.select + rest;
+    PlainStatement rows(source.connection().handle(), sql.constData());
+    bool isKnown = false;
+    while (!(untilKnown && isKnown) && rows.next())
+        if (isRight(rows) && !copyRow(rows, isKnown))
             return Passed::NotDone;
-        if (untilKnown && !isNew)
-            break;
-    }
-    note(rows.lastError());
-    if (isBlocked())
+    const bool isRead = source.note(rows);
+    if (source.isBlocked())
         return Passed::NotDone;
-    return rows.lastError().isValid() ? Passed::UpToTheDamage : Passed::ToTheEnd;
+    return isRead ? Passed::ToTheEnd : Passed::UpToTheDamage;
 }
 
-bool RowSalvage::copyRow(const QSqlQuery &row, bool &isNew)
+// One that a check of its table refuses is none.
+bool RowSalvage::copyRow(const PlainStatement &row, bool &isKnown)
 {
-    for (int column = 0; column < columnCount; ++column)
-        putRow.bindValue(column, row.value(column));
-    if (!target.run(putRow))
-        return false;
-    isNew = putRow.numRowsAffected() > 0;
-    if (isNew) {
-        ++count;
-        progress.oneIsDone();
-        highestCopied = std::max(highestCopied, row.value(idColumn).toLongLong());
-        countRow(row);
-    }
+    if (!putRow.runWith(row))
+        return putRow.error() == sqlite::Constraint || target.fail();
+    isKnown = target.changedRows() == 0;
+    if (isKnown)
+        return true;
+    ++count;
+    progress.oneIsDone();
+    highestCopied = std::max(highestCopied, row.number(idColumn));
     return true;
 }
 

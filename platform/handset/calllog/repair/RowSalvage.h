@@ -4,83 +4,83 @@
 #include "Finding.h"
 #include "Progress.h"
 
-#include <QtCore/QVariant>
-
-#include <limits>
+#include <span>
 
 namespace handset::calllog {
 
-/// What a damaged page yields may have any type, or be a row of nothing at all.
-inline bool isWithin(const QSqlQuery &row, int column, qint64 least, qint64 most)
+/// A log that is read as far as that goes. SQLite calls some failed reads (EIO) corrupt, too: what is damaged is to be
+/// read twice, and still is then.
+class DamagedLog
 {
-    const QVariant value = row.value(column);
-    const bool isInteger = value.typeId() == QMetaType::LongLong && !value.isNull();
-    return isInteger && value.toLongLong() >= least && value.toLongLong() <= most;
-}
+public:
+    explicit DamagedLog(Database &copy)
+        : database(copy)
+    {}
 
-inline bool isText(const QSqlQuery &row, int column)
-{
-    const QVariant value = row.value(column);
-    return value.typeId() == QMetaType::QString && !value.isNull();
-}
+    Database &connection() { return database; }
+    /// The first column of the first row; nothing when there is none that can be read.
+    std::optional<qint64> number(const QString &select);
+    /// To be told of all rows that have been read to their end, right then. True when there was no error.
+    bool note(const PlainStatement &rows);
+    /// Blocked when something could not be read for any other reason than damage: there may be more than was read.
+    const Finding &obstacle() const { return blockedBy; }
+    bool isBlocked() const { return blockedBy.verdict != Verdict::Usable; }
 
-/// No log gets that far; a damaged page may.
-inline constexpr qint64 highestId = 1'000'000'000'000;
-inline constexpr qint64 lowestInteger = std::numeric_limits<qint64>::min();
-inline constexpr qint64 highestInteger = std::numeric_limits<qint64>::max();
+private:
+    void note(const QSqlError &error);
+
+    Database &database;
+    Finding blockedBy;
+};
+
+/// A column, and what typeof() says of what belongs into it. What a damaged page yields may have any type.
+struct SalvagedColumn {
+    const char *name;
+    const char *type;
+};
+
+/// What a table has; the first column is its id. Which values it takes its own checks say.
+struct SalvagedTable {
+    const char *name;
+    std::span<const SalvagedColumn> columns;
+    const char *step;                         ///< of its Progress
+    bool (*check)(const PlainStatement &row); ///< what those do not say; null for nothing
+};
 
 /// One table, in the transaction of the caller.
 class RowSalvage
 {
 public:
-    RowSalvage(Database &damaged, Database &fresh, Progress howFar)
-        : source(damaged)
-        , target(fresh)
-        , progress(std::move(howFar))
-    {}
-    virtual ~RowSalvage() = default;
-    RowSalvage(const RowSalvage &) = delete;
-    RowSalvage &operator=(const RowSalvage &) = delete;
+    RowSalvage(DamagedLog &damaged, Database &fresh, const SalvagedTable &which, const ProgressListener &listener);
 
+    /// False when the target could not be written, or there is an obstacle. Columns that the source's table does not have
+    /// are left to their defaults; a table that it does not have is empty.
+    bool copy();
     qint64 copied() const { return count; }
-    /// Blocked when the source could not be read for any other reason than damage: there may be more in it than was read.
-    const Finding &obstacle() const { return blockedBy; }
-
-protected:
-    /// `select` has neither WHERE nor ORDER BY, and the table an `id`, which comes first; `insert` has a '?' for each
-    /// column, and ignores a row whose id is there already. False when the target could not be written, or there is an
-    /// obstacle.
-    bool copy(const QString &select, const QString &insert);
-    /// The first column of the source's first row; nothing when there is none that can be read.
-    std::optional<qint64> read(const QString &select);
-    /// What a total counts beyond the rows that were copied; the counter is of the table `lost`.
-    bool putLost(const char *counter, qint64 amount);
-    /// To be told of every error of the source.
-    void note(const QSqlError &error);
-    bool isBlocked() const { return blockedBy.verdict != Verdict::Usable; }
-
-    /// Whether the target's table takes it.
-    virtual bool isPlausible(const QSqlQuery &row) const = 0;
-    /// It has been copied.
-    virtual void countRow(const QSqlQuery &row) = 0;
-
-    Database &source;
-    Database &target;
 
 private:
     enum class Passed { ToTheEnd, UpToTheDamage, NotDone };
 
-    Passed pass(const QString &select, bool untilKnown);
-    Passed passTail(const QString &select);
-    std::optional<qint64> firstOfTail(const QString &select);
-    bool copyRow(const QSqlQuery &row, bool &isNew);
+    struct Statements {
+        QByteArray select; ///< to be followed by more of its condition
+        QByteArray insert;
+    };
 
+    static Statements statementsFor(const SalvagedTable &table, DamagedLog &source);
+    Passed pass(const QByteArray &rest, bool untilKnown);
+    Passed passTail();
+    std::optional<qint64> firstOfTail(const QByteArray &rest);
+    bool isRight(const PlainStatement &row) const { return !table.check || table.check(row); }
+    bool copyRow(const PlainStatement &row, bool &isKnown);
+
+    DamagedLog &source;
+    Database &target;
+    const SalvagedTable &table;
+    Statements statements;
+    PlainStatement putRow;
     Progress progress;
-    QSqlQuery putRow;
-    int columnCount = 0;
     qint64 count = 0;
     qint64 highestCopied = 0; ///< id
-    Finding blockedBy;
 };
 
 } // namespace handset::calllog
