@@ -9,6 +9,12 @@
 
 namespace handset::calllog {
 
+/// What tells that a kept value was written once, whatever stands there now.
+struct Traces {
+    bool costs = false;  ///< something was charged
+    bool checks = false; ///< a start has written the charging record with its check
+};
+
 namespace {
 
 // Whatever else could never be written.
@@ -46,21 +52,27 @@ struct KeptPart {
     bool (*read)(const QByteArray &kept, charging::ChargingState &state);
     QByteArray (*fresh)(const charging::ChargingState &state);
     const char *whatIsNew;
-    bool isWrittenByEveryCharge;
+    bool Traces::*isWrittenAfter;
 };
 
 constexpr std::array keptParts{
     KeptPart{keptCardName, &charging::readCard,
              [](const charging::ChargingState &state) { return charging::cardRecord(state.card); }, "The SIM card",
-             true},
+             &Traces::costs},
     KeptPart{keptChargingName, &charging::readCharging, &charging::chargingRecord,
-             "The record of tariffs and account", false},
+             "The record of tariffs and account", &Traces::checks},
 };
 
 // Also where it says that nothing was ever written there.
-bool isMissing(const KeptPart &part, const QByteArray &content, bool hadCosts)
+bool isMissing(const KeptPart &part, const QByteArray &content, const Traces &traces)
 {
-    return content.isNull() || (charging::isNeverWritten(content) && part.isWrittenByEveryCharge && hadCosts);
+    return content.isNull() || (charging::isNeverWritten(content) && traces.*part.isWrittenAfter);
+}
+
+// What had a check is not read without one.
+bool read(const KeptPart &part, const QByteArray &content, const Traces &traces, charging::ChargingState &state)
+{
+    return !(traces.checks && charging::isUnchecked(content)) && part.read(content, state);
 }
 
 // The first of "card-kept-1", "card-kept-2", ... that is not in use.
@@ -118,45 +130,55 @@ int Ledger::changed(int status) const
 
 // --- opening
 
-int Ledger::hasCosts(bool &found)
+int Ledger::find(Traces &traces)
 {
-    found = false;
     for (const TotalPlace &place : costPlaces) {
         qint64 units = 0;
         if (!tables.totalAt(place.total, now(), units))
             return database->status(false);
-        found = found || units > 0;
+        traces.costs = traces.costs || units > 0;
     }
+    QByteArray checked;
+    if (!tables.kept(QString::fromLatin1(keptChecked), checked))
+        return database->status(false);
+    traces.checks = !checked.isNull();
     return Success;
 }
 
 int Ledger::load(QStringList &notices)
 {
-    bool hadCosts = false;
-    if (const int status = hasCosts(hadCosts))
+    Traces traces;
+    if (const int status = find(traces))
         return status;
     charging::ChargingState state;
     bool isRight = true;
-    bool isWithoutCheck = false;
     for (const KeptPart &part : keptParts) {
         QByteArray content;
         if (!tables.kept(QString::fromLatin1(part.name), content))
             return database->status(false);
-        isRight = isRight && !isMissing(part, content, hadCosts) && part.read(content, state);
-        isWithoutCheck = isWithoutCheck || charging::isUnchecked(content);
+        isRight = isRight && !isMissing(part, content, traces) && read(part, content, traces, state);
     }
-    if (!isRight && !database->inTransaction([&] { return putNewInPlaceOf(hadCosts, notices); }))
+    if (!isRight && !database->inTransaction([&] { return putNewInPlaceOf(traces, notices); }))
         notices << QStringLiteral("That could not be written.");
-    // From now on a change of it is found. Where it cannot be written the next start tries again.
-    if (isRight && isWithoutCheck)
-        database->inTransaction([&] {
-            return tables.put({QString::fromLatin1(keptChargingName), charging::chargingRecord(state)});
-        });
+    // Where it cannot be written the next start tries again.
+    if (isRight && !traces.checks)
+        database->inTransaction([&] { return putChecks(); });
     return Success;
 }
 
+// From now on a change of the charging record is found. (It is read anew, as another process may have written it.)
+bool Ledger::putChecks()
+{
+    charging::ChargingState state;
+    const QString name = QString::fromLatin1(keptChargingName);
+    QByteArray content;
+    return tables.kept(name, content) && charging::readCharging(content, state) &&
+           tables.put({name, charging::chargingRecord(state)}) &&
+           tables.put({QString::fromLatin1(keptChecked), "1"});
+}
+
 // The new ones are written, too, so that this is told once.
-bool Ledger::putNewInPlaceOf(bool hadCosts, QStringList &notices)
+bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
 {
     charging::ChargingState state;
     for (const KeptPart &part : keptParts) {
@@ -164,8 +186,8 @@ bool Ledger::putNewInPlaceOf(bool hadCosts, QStringList &notices)
         QByteArray content;
         if (!tables.kept(name, content))
             return false;
-        const bool isGone = isMissing(part, content, hadCosts);
-        if (!isGone && part.read(content, state))
+        const bool isGone = isMissing(part, content, traces);
+        if (!isGone && read(part, content, traces, state))
             continue;
         const QString what = QLatin1String(part.whatIsNew);
         QString unused;

@@ -14,6 +14,7 @@
 
 namespace handset::calllog {
 
+struct Traces;
 /// All of it stands in the database, so that any process may ask and change it; see "The ledger" in docs/handset.md.
 /// Operations answer a number of handset/Status.h; a failed one has changed nothing. What an operation costs does not
 /// depend on how many calls and sessions there are.
@@ -118,8 +119,9 @@ private:
     int transactSession(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr);
     int writeOwedCall();
     int writeOwedSession();
-    int hasCosts(bool &found);
-    bool putNewInPlaceOf(bool hadCosts, QStringList &notices);
+    int find(Traces &traces);
+    bool putNewInPlaceOf(const Traces &traces, QStringList &notices);
+    bool putChecks();
     int changed(int status) const;
 
     // The order matters: statements go before their connection, the connection before the lock.

@@ -72,6 +72,8 @@ struct KeptValue {
 };
 inline constexpr auto keptCardName = "card";
 inline constexpr auto keptChargingName = "charging";
+/// Kept from the first start on that has written the charging record with its check, which it then always has.
+inline constexpr auto keptChecked = "checked";
 
 /// Each operation is one statement. What answers a bool is false when that fails or a row is missing; the database has
 /// the reason. What writes belongs into a transaction of the caller.

@@ -117,8 +117,9 @@ Finding checkAllTotals(Database &database)
 // The log's own values to their last bytes: there is no other place for a SIM card and its account. (The plus sign makes
 // that a walk through the whole table.) One that is larger than any of ours is somebody else's work, and too much to be
 // made a text; who reads it judges it.
-constexpr auto readKept = "SELECT sum(length(CASE WHEN length(content) <= 1048576"
-                          " AND +name IN ('card', 'charging', 'notice') THEN hex(content) END)) FROM kept";
+constexpr auto readKept =
+    "SELECT sum(length(CASE WHEN length(content) <= 1048576"
+    " AND +name IN ('card', 'charging', 'checked', 'notice') THEN hex(content) END)) FROM kept";
 
 // Reads what every later operation depends on, and may write.
 Finding settle(Database &database)

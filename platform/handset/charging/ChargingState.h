@@ -79,7 +79,7 @@ bool readCard(const QByteArray &kept, ChargingState &state);
 bool readCharging(const QByteArray &kept, ChargingState &state);
 /// Whether this is what a new call log has in the place of a value.
 bool isNeverWritten(const QByteArray &kept);
-/// Whether what was read has no check yet, and should be written anew.
+/// Whether this is of the version that has no check.
 bool isUnchecked(const QByteArray &keptCharging);
 
 } // namespace handset::charging

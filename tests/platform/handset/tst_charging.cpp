@@ -149,6 +149,8 @@ private slots:
     void whatIsMissingOfTheCardIsToldAndNeverNewInSilence_data();
     void whatIsMissingOfTheCardIsToldAndNeverNewInSilence();
     void aCardSetBackToNeverWrittenIsToldOnce();
+    void anAccountThatHadACheckIsNeverWithoutOneInSilence_data();
+    void anAccountThatHadACheckIsNeverWithoutOneInSilence();
     void aCardThatWasNeverChangedIsNotMissing();
     void aDamagedLogKeepsCostsAndCard();
     void everyChangeIsSignalledOnce();
@@ -1072,9 +1074,10 @@ void TestCharging::anAccountOfTheFirstVersionIsRead()
     QVERIFY(Phone(state.path()));
     const QByteArray record = R"({"answered":[0,0,100,0,0,0,0],"chargeType":1,"credit":75,"deposit":100,)"
                               R"("dialed":[20,100,100,0,0,0,0],"expires":[2027,6,30],"version":1})";
-    QVERIFY(LogFile(state.database())
-                .run(QStringLiteral("UPDATE kept SET content = x'%1' WHERE name = 'charging'")
-                         .arg(QString::fromLatin1(record.toHex()))));
+    const LogFile earlier(state.database());
+    QVERIFY(earlier.run(QStringLiteral("DELETE FROM kept WHERE name = 'checked'")));
+    QVERIFY(earlier.run(QStringLiteral("UPDATE kept SET content = x'%1' WHERE name = 'charging'")
+                            .arg(QString::fromLatin1(record.toHex()))));
     const QString version =
         QStringLiteral("SELECT CAST(content AS TEXT) LIKE '%\"version\":2%' FROM kept WHERE name = 'charging'");
     for (int start = 0; start < 2; ++start) { // the second reads what the first has written
@@ -1126,6 +1129,36 @@ void TestCharging::aCardSetBackToNeverWrittenIsToldOnce()
                 .run(QStringLiteral("UPDATE kept SET content = CAST('new' AS BLOB) WHERE name = 'card'")));
     QCOMPARE(Phone(state.path()).opened.notice,
              QStringLiteral("The SIM card is missing from the call log; a new one was begun."));
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+void TestCharging::anAccountThatHadACheckIsNeverWithoutOneInSilence_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("notice");
+    QTest::newRow("set back to never written")
+        << QByteArray("new")
+        << QStringLiteral("The record of tariffs and account is missing from the call log; a new one was begun.");
+    QTest::newRow("of the version that has no check")
+        << QByteArray(R"({"answered":[0,0,100,0,0,0,0],"chargeType":0,"credit":900,"deposit":900,)"
+                      R"("dialed":[10,100,100,0,0,0,0],"expires":[2027,6,30],"version":1})")
+        << QStringLiteral("The record of tariffs and account could not be read; a new one was begun and the old "
+                          "one kept as \"charging-kept-1\".");
+}
+
+void TestCharging::anAccountThatHadACheckIsNeverWithoutOneInSilence()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, notice);
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QCOMPARE(phone->charging().topUp(QStringLiteral("100"), someDay), int(Success));
+    }
+    QVERIFY(LogFile(state.database())
+                .run(QStringLiteral("UPDATE kept SET content = x'%1' WHERE name = 'charging'")
+                         .arg(QString::fromLatin1(content.toHex()))));
+    QCOMPARE(Phone(state.path()).opened.notice, notice);
     QCOMPARE(Phone(state.path()).opened.notice, QString());
 }
 
