@@ -79,7 +79,7 @@ void ContractTest::theScreenIsDestroyedOnceAndAfterItsSignal()
     calls->clear();
     press(Qt::Key_Context2);
     QCOMPARE(*calls, (QStringList{"emit", "emitted"}));
-    QTRY_COMPARE(*calls, (QStringList{"emit", "emitted", "destroy callTime", "deleted"}));
+    QTRY_COMPARE_WITH_TIMEOUT(*calls, (QStringList{"emit", "emitted", "destroy callTime", "deleted"}), 60'000);
     QCOMPARE(closed.size(), 1);
     QVERIFY(!screens->screen());
 }
@@ -89,7 +89,7 @@ void ContractTest::aSecondSignalOfALeavingScreenChangesNothing()
     QSignalSpy closed(screens.get(), &ScreenHost::closed);
     QVERIFY(screens->open(0));
     press(Qt::Key_Clear); // the double emits twice
-    QTRY_VERIFY(calls->contains("deleted"));
+    QTRY_VERIFY_WITH_TIMEOUT(calls->contains("deleted"), 60'000);
     QCoreApplication::processEvents();
     QCOMPARE(calls->count("emit"), 2);
     QCOMPARE(calls->count("destroy callTime"), 1);
@@ -101,7 +101,7 @@ void ContractTest::aSecondSignalDoesNotReachTheNextScreen()
     connect(screens.get(), &ScreenHost::closed, screens.get(), [this] { screens->open(0); });
     QVERIFY(screens->open(0));
     press(Qt::Key_Clear);
-    QTRY_COMPARE(calls->count("create callTime in a parent"), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(calls->count("create callTime in a parent"), 2, 60'000);
     QCoreApplication::processEvents();
     QCOMPARE(calls->count("destroy callTime"), 1);
     QVERIFY(screens->screen());
@@ -153,7 +153,7 @@ void ContractTest::theNextScreenOpensWhenOneHasClosed()
     for (int time = 1; time <= 3; ++time) {
         QVERIFY(screens->open(0));
         press(Qt::Key_Context2);
-        QTRY_VERIFY(!screens->screen());
+        QTRY_VERIFY_WITH_TIMEOUT(!screens->screen(), 60'000);
         QCOMPARE(calls->count("deleted"), time);
     }
     QCOMPARE(calls->count("deleted while emitting"), 0);

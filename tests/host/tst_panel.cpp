@@ -291,7 +291,7 @@ void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &handset)
     window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{handset, {}, {}, &installed->faults()});
     expectSizeHintWarning();
     window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 60'000));
     window->complete();
     openEachTabOnce();
 }
@@ -645,8 +645,8 @@ void PanelTest::theCallCostsGoOnBySecond()
     connectCall();
     QCOMPARE(label("call cost"), "0.00 units");
     pass(30000);
-    QTRY_COMPARE(label("call cost"), "3.00 units");
-    QTRY_COMPARE(label("credit"), "Credit: 47.00 units");
+    QTRY_COMPARE_WITH_TIMEOUT(label("call cost"), "3.00 units", 60'000);
+    QTRY_COMPARE_WITH_TIMEOUT(label("credit"), "Credit: 47.00 units", 60'000);
     QCOMPARE(telephone->hangUp(), 0);
     QCOMPARE(label("call cost"), "3.00 units");
 }
@@ -660,12 +660,13 @@ void PanelTest::theEndOfTheCreditLimitIsAnnouncedAndTold()
     QCOMPARE(telephone->checkpoint(), 0);
     QVERIFY(!control<QLabel>("charge notice")->isVisible());
     pass(1);
-    QTRY_COMPARE(label("charge notice"), "The credit limit is reached in 30 s.");
+    QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"), "The credit limit is reached in 30 s.", 60'000);
     QVERIFY(control<QLabel>("charge notice")->isVisible());
     pass(5000);
-    QTRY_COMPARE(label("charge notice"), "The credit limit is reached in 25 s.");
+    QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"), "The credit limit is reached in 25 s.", 60'000);
     pass(25000);
-    QTRY_COMPARE(label("charge notice"), "The telephone has ended the call: the credit limit is reached.");
+    QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"),
+                              "The telephone has ended the call: the credit limit is reached.", 60'000);
     QCOMPARE(label("line state"), "Idle");
     QCOMPARE(telephone->ring({}), 0); // answered calls are free
     QVERIFY(!control<QLabel>("charge notice")->isVisible());
@@ -677,9 +678,10 @@ void PanelTest::theEndOfTheCreditIsAnnouncedAndTold()
     QCOMPARE(charging().topUp("3", {2007, 3, 9}), 0);
     connectCall();
     pass(12500);
-    QTRY_COMPARE(label("charge notice"), "The credit is used up in 18 s.");
+    QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"), "The credit is used up in 18 s.", 60'000);
     pass(17500);
-    QTRY_COMPARE(label("charge notice"), "The telephone has ended the call: the credit is used up.");
+    QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"), "The telephone has ended the call: the credit is used up.",
+                              60'000);
 }
 
 void PanelTest::aCallThatMayNotBeginIsExplained()
@@ -1040,11 +1042,11 @@ void PanelTest::anUpdateIsSentByHand()
     auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
     QVERIFY(list);
     QCOMPARE(telephone->packets().startSession("internet", 1, 1), 0);
-    QTRY_COMPARE(list->item(1)->title(), "internet");
+    QTRY_COMPARE_WITH_TIMEOUT(list->item(1)->title(), "internet", 60'000);
     installed->faults().set(operationIndex("TAPI_GPRS_GetAllSessionInfo"), 3);
     showTab("Data");
     click("Send update");
-    QTRY_COMPARE(list->item(1)->title(), "GPRS Data Session 1");
+    QTRY_COMPARE_WITH_TIMEOUT(list->item(1)->title(), "GPRS Data Session 1", 60'000);
 }
 
 // --- failures
@@ -1317,16 +1319,16 @@ void PanelTest::aCatalogueTranslatesTheLineAndTheEndOfCharging()
     QCOMPARE(telephone->remoteAnswer(), 0);
     QVERIFY(isSaid("line state", "Connected 00:00:00"));
     pass(1000);
-    QTRY_VERIFY(isSaid("charge notice", "The credit limit is reached in"));
+    QTRY_VERIFY_WITH_TIMEOUT(isSaid("charge notice", "The credit limit is reached in"), 60'000);
     pass(29000);
-    QTRY_VERIFY(isSaid("charge notice", "has ended the call: the credit limit"));
+    QTRY_VERIFY_WITH_TIMEOUT(isSaid("charge notice", "has ended the call: the credit limit"), 60'000);
     QCOMPARE(owner->adviceOfCharge()->disableMeterMaximum(), 0);
     QCOMPARE(charging().topUp("3", {2007, 3, 9}), 0);
     connectCall();
     pass(1000);
-    QTRY_VERIFY(isSaid("charge notice", "The credit is used up in"));
+    QTRY_VERIFY_WITH_TIMEOUT(isSaid("charge notice", "The credit is used up in"), 60'000);
     pass(29000);
-    QTRY_VERIFY(isSaid("charge notice", "has ended the call: the credit is used up"));
+    QTRY_VERIFY_WITH_TIMEOUT(isSaid("charge notice", "has ended the call: the credit is used up"), 60'000);
 }
 
 void PanelTest::aCatalogueTranslatesThatAnEndIsNotWritten()

@@ -159,7 +159,7 @@ void WindowTest::showWindow()
 {
     expectSizeHintWarning();
     window->show();
-    QVERIFY(QTest::qWaitForWindowActive(window.get()));
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 60'000));
     window->complete();
 }
 

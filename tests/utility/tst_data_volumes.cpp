@@ -530,11 +530,11 @@ void TestDataVolumes::noFrameOfAnUpdateIsWithoutItsRows()
 {
     open();
     FrameRecorder recorder(screen());
-    QTRY_VERIFY(!recorder.frames.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!recorder.frames.isEmpty(), 60'000);
     recorder.frames.clear();
     for (int broadcast = 1; broadcast <= 5; ++broadcast) {
         QCopChannel::send(channel, update);
-        QTRY_VERIFY(recorder.frames.size() >= broadcast);
+        QTRY_VERIFY_WITH_TIMEOUT(recorder.frames.size() >= broadcast, 60'000);
     }
     const QImage whole = screen()->grab().toImage();
     for (const QImage &frame : std::as_const(recorder.frames))
@@ -546,10 +546,10 @@ void TestDataVolumes::noFrameAfterADetailIsWithoutItsRows()
     open();
     FrameRecorder recorder(screen());
     QVERIFY(openDetail(2));
-    QTRY_VERIFY(!recorder.frames.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!recorder.frames.isEmpty(), 60'000);
     recorder.frames.clear();
     closeDetail();
-    QTRY_VERIFY(!recorder.frames.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!recorder.frames.isEmpty(), 60'000);
     const QImage whole = screen()->grab().toImage();
     for (const QImage &frame : std::as_const(recorder.frames))
         QCOMPARE(frame.convertToFormat(QImage::Format_RGB32), whole.convertToFormat(QImage::Format_RGB32));
@@ -562,7 +562,7 @@ void TestDataVolumes::aBroadcastReachesTheScreenThroughTheEventLoop()
     journal.clear();
     QCopChannel::send(channel, update);
     QCOMPARE(journal.lines(), QStringList());
-    QTRY_COMPARE(journal.count("PacketData::sessions"), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(journal.count("PacketData::sessions"), 1, 60'000);
     QCOMPARE(PhoneScreen::rows(screen()), rows("a", "b", "c"));
 }
 
@@ -573,7 +573,7 @@ void TestDataVolumes::aBroadcastOnAnotherChannelDoesNot()
     QCopChannel witness("/KAV/other");
     QSignalSpy received(&witness, &QCopChannel::received);
     QCopChannel::send("/KAV/other", update);
-    QTRY_COMPARE(received.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(received.size(), 1, 60'000);
     QCOMPARE(journal.lines(), QStringList());
 }
 
@@ -586,7 +586,7 @@ void TestDataVolumes::aBroadcastAfterTheScreenIsGoneReachesNobody()
     QCopChannel witness(channel);
     QSignalSpy received(&witness, &QCopChannel::received);
     QCopChannel::send(channel, update);
-    QTRY_COMPARE(received.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(received.size(), 1, 60'000);
     QCOMPARE(journal.lines(), QStringList());
 }
 

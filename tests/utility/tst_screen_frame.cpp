@@ -301,7 +301,7 @@ void TestScreenFrame::aHostMayDestroyTheScreenAfterTheSignal()
     connect(farewell, &QObject::destroyed, this, [&] { screen.destroy(); });
     PhoneScreen::press(PhoneKey::Clear);
     QVERIFY(alive);
-    QTRY_VERIFY(!alive);
+    QTRY_VERIFY_WITH_TIMEOUT(!alive, 60'000);
 }
 
 KAV_TEST_GROUP(TestScreenFrame, QApplication);

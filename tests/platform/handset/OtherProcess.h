@@ -36,13 +36,13 @@ public:
     void kill()
     {
         process.kill();
-        process.waitForFinished();
+        process.waitForFinished(60'000);
     }
     /// As a window that is closed.
     void close()
     {
         process.closeWriteChannel();
-        process.waitForFinished();
+        process.waitForFinished(60'000);
     }
 
 private:

@@ -313,8 +313,8 @@ void TestBroadcast::whatAnotherProcessChangesIsSignalledHere()
     const auto tellAs = [](const QByteArray &process) {
         QCopChannel::send("/KAV/handset", "/KAV/handset/Changed", process);
     };
-    tellAs("1");                                 // no process of ours
-    QTRY_VERIFY((tellAs("1"), spy.count() > 0)); // once it listens
+    tellAs("1");                                                      // no process of ours
+    QTRY_VERIFY_WITH_TIMEOUT((tellAs("1"), spy.count() > 0), 60'000); // once it listens
     QTest::qWait(0);
     spy.clear();
     tellAs(QByteArray::number(QCoreApplication::applicationPid()));

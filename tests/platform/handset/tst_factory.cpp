@@ -97,7 +97,7 @@ void TestFactory::withoutAClockItIsTheMachines()
     QVERIFY(telephone);
     QCOMPARE(telephone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
     QCOMPARE(telephone->remoteAnswer(), int(Success));
-    QTRY_VERIFY(telephone->connectedMs() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(telephone->connectedMs() > 0, 60'000);
 }
 
 void TestFactory::installingNullLeavesNoTelephone()

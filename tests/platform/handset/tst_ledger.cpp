@@ -372,7 +372,7 @@ void TestLedger::theRecorderPassesOnWithoutAnybodyAsking()
     QVERIFY(timer->interval() <= 500);
     QSignalSpy spy(two.phone.operator->(), &simulated::SimulatedTelephone::changed);
     two.recorder->kill();
-    QTRY_COMPARE(spy.count(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 1, 60'000);
     QVERIFY(!timer->isActive());
     QCOMPARE(stateOf(state, 1), int(CallState::Interrupted));
     QVERIFY(two.phone.dial());
@@ -633,7 +633,7 @@ void TestLedger::aRecorderKilledAtAnyMomentLosesNothing()
         }
         QVERIFY(reported.size() >= enough);
         processes[recorder]->kill();
-        QVERIFY(processes[recorder]->waitForFinished());
+        QVERIFY(processes[recorder]->waitForFinished(60'000));
         collect(*processes[recorder], unread[recorder], reported);
         unread[recorder].clear();
         checkLog(state, reported);
@@ -644,7 +644,7 @@ void TestLedger::aRecorderKilledAtAnyMomentLosesNothing()
     }
     for (auto &process : processes) {
         process->kill();
-        process->waitForFinished();
+        process->waitForFinished(60'000);
     }
     QCOMPARE(LogFile(state.database()).value(QStringLiteral("PRAGMA integrity_check")),
              QVariant(QStringLiteral("ok")));

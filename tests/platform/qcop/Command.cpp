@@ -41,7 +41,7 @@ Command::Command(const QString &bus, const Arguments &arguments)
 Command::~Command()
 {
     process.kill();
-    process.waitForFinished();
+    process.waitForFinished(60'000);
 }
 
 bool Command::isListening()

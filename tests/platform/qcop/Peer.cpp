@@ -26,7 +26,7 @@ Peer::~Peer()
 {
     finish();
     process.kill();
-    process.waitForFinished();
+    process.waitForFinished(60'000);
 }
 
 bool Peer::connectToBus()

@@ -271,7 +271,7 @@ void TestContract::aMessageSentByASlotComesAfterThoseSentBefore()
     });
     QCopChannel::send(phone, "question");
     QCopChannel::send(phone, "remark");
-    QTRY_COMPARE(spy.count(), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 3, 60'000);
     settle();
     QCOMPARE(names(spy), Bytes({"question", "remark", "answer"}));
 }
@@ -366,7 +366,7 @@ void TestContract::aSubscriberMadeInASlotGetsLaterMessagesOnly()
     });
     QCopChannel::send(phone, "first");
     QCopChannel::send(phone, "second");
-    QTRY_VERIFY(lateMessages.contains("third"));
+    QTRY_VERIFY_WITH_TIMEOUT(lateMessages.contains("third"), 60'000);
     settle();
     QCOMPARE(lateMessages, Bytes({"third"}));
 }
@@ -386,7 +386,7 @@ void TestContract::slotsCanBeConnectedByTheirText()
     QVERIFY(connect(&channel, "2received(const QCString&,const QByteArray&)", this,
                     "1slotUpdate(const QCString&,const QByteArray&)", type));
     QCopChannel::send(phone, "/KAV/phone/RecentCall/Update", "block");
-    QTRY_VERIFY(!updates.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!updates.isEmpty(), 60'000);
     settle();
     QCOMPARE(updates, Bytes({"/KAV/phone/RecentCall/Update", "block"}));
 }

@@ -385,7 +385,7 @@ void ChoiceDialogTest::theTimeoutAnswersRight()
     ZSingleSelectDlg dialog(QStringLiteral("Choose"), QString(), screen.get(), nullptr, true, 0, 1);
     Answers answers(&dialog);
     dialog.show();
-    QTRY_COMPARE(answers.given, QStringList(QStringLiteral("right")));
+    QTRY_COMPARE_WITH_TIMEOUT(answers.given, QStringList(QStringLiteral("right")), 60'000);
     QVERIFY(answers.wasHidden);
 }
 
@@ -398,7 +398,7 @@ void ChoiceDialogTest::theTimeoutOfAHiddenDialogAnswersNothing()
     early.show();
     early.hide();
     late.show();
-    QTRY_COMPARE(lateAnswers.given.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(lateAnswers.given.size(), 1, 60'000);
     QVERIFY(answers.given.isEmpty());
 }
 

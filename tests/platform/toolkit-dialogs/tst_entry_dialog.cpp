@@ -305,7 +305,7 @@ void EntryDialogTest::theTimeoutAnswersRight()
                              nullptr, true, 0, 1);
     Answers answers(&dialog);
     dialog.show();
-    QTRY_COMPARE(answers.given, QStringList(QStringLiteral("right")));
+    QTRY_COMPARE_WITH_TIMEOUT(answers.given, QStringList(QStringLiteral("right")), 60'000);
 }
 
 void EntryDialogTest::theScreenMayGoUnderAnOpenDialog()

@@ -221,7 +221,7 @@ void DialogTest::keys_answer_as_they_say()
     QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
     QSignalSpy right(screen.bar, &ZSoftKey::rightClicked);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, question ? Question : Information);
     const Answers answers(dialog);
     dialog->show();
@@ -271,7 +271,7 @@ void DialogTest::a_key_that_is_held_since_before_does_not_answer()
     TestScreen screen;
     screen.addRows(1);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     const Answers answers(dialog);
     connect(screen.list, &ZListBox::selected, dialog, &QWidget::show);
@@ -287,7 +287,7 @@ void DialogTest::it_is_hidden_before_it_answers()
     TestScreen screen;
     screen.addRows(2);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     QList<bool> seen;
     connect(dialog, &ZPopup::leftSoftkeyClicked, this,
@@ -301,7 +301,7 @@ void DialogTest::whoever_answers_may_show_it_again()
 {
     TestScreen screen;
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     int answers = 0;
     connect(dialog, &ZPopup::leftSoftkeyClicked, this, [&] {
@@ -335,7 +335,7 @@ void DialogTest::whoever_answers_may_delete_it_or_its_screen()
     QPointer<TestScreen> screen = new TestScreen;
     screen->addRows(2);
     screen->show();
-    QVERIFY(QTest::qWaitForWindowActive(screen));
+    QVERIFY(QTest::qWaitForWindowActive(screen, 60'000));
     const QPointer<ZMessageDlg> dialog = newDialog(screen, Question, true, by == 3 ? 1 : 0);
     const auto deed = [&] {
         if (screenToo)
@@ -352,7 +352,7 @@ void DialogTest::whoever_answers_may_delete_it_or_its_screen()
         clickInWindow(screen, Qt::Key_Select);
     else if (by == 2)
         QTest::mouseClick(screen->windowHandle(), Qt::LeftButton, {}, QPoint(20, 310));
-    QTRY_VERIFY(!dialog);
+    QTRY_VERIFY_WITH_TIMEOUT(!dialog, 60'000);
     settle();
     QCOMPARE(screen.isNull(), screenToo);
     delete screen;
@@ -506,7 +506,7 @@ void DialogTest::a_modal_one_keeps_keys_and_pointer_from_the_screen()
     TestScreen screen;
     screen.addRows(30);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
     newDialog(&screen, Question)->show();
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(5, 100));
@@ -528,7 +528,7 @@ void DialogTest::a_modal_one_keeps_the_focus_when_the_list_below_asks_for_it()
     TestScreen screen;
     screen.addRows(3);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     screen.list->setFocus();
@@ -543,7 +543,7 @@ void DialogTest::one_that_is_not_modal_lets_the_pointer_through()
     TestScreen screen;
     screen.addRows(30);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Information, false);
     dialog->show();
     const Answers answers(dialog);
@@ -566,7 +566,7 @@ void DialogTest::the_window_around_the_phone_goes_on_working()
     screen.addRows(3);
     around.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     QSignalSpy clicked(&button, &QPushButton::clicked);
@@ -592,7 +592,7 @@ void DialogTest::the_tab_key_goes_from_the_dialog_to_the_window_around_and_back(
     after.setGeometry(300, 40, 100, 30);
     around.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     QSet<QWidget *> seen;
@@ -612,7 +612,7 @@ void DialogTest::the_focus_goes_back_to_the_list()
     TestScreen screen;
     screen.addRows(3);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     QVERIFY(!screen.list->hasFocus());
@@ -632,7 +632,7 @@ void DialogTest::the_focus_goes_back_to_what_had_it_outside_the_phone()
     screen.addRows(3);
     around.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     edit.setFocus();
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
@@ -651,7 +651,7 @@ void DialogTest::the_focus_stays_with_who_took_it_meanwhile()
     screen.addRows(3);
     around.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     edit.setFocus();
@@ -674,7 +674,7 @@ void DialogTest::the_newest_dialog_gets_the_keys_in_whatever_order_they_go()
     TestScreen screen;
     screen.addRows(3);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QList<QPointer<ZMessageDlg>> dialogs;
     for (int i = 0; i < 3; ++i) {
         dialogs << newDialog(&screen, Question);
@@ -695,7 +695,7 @@ void DialogTest::showing_it_again_brings_it_to_the_top()
 {
     TestScreen screen;
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *first = newDialog(&screen, Question);
     ZMessageDlg *second = newDialog(&screen, Question);
     first->show();
@@ -711,7 +711,7 @@ void DialogTest::a_sub_screen_opened_over_a_dialog_gets_the_keys()
     TestScreen screen;
     screen.addRows(3);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     auto *sub = new TestScreen(&screen);
@@ -740,10 +740,10 @@ void DialogTest::it_answers_by_itself_after_its_time()
     ZMessageDlg *dialog = newDialog(&screen, question ? Question : Information, true, 10);
     const Answers answers(dialog);
     dialog->show();
-    QTRY_COMPARE(answers.given, QStringList(answer));
+    QTRY_COMPARE_WITH_TIMEOUT(answers.given, QStringList(answer), 60'000);
     QVERIFY(!dialog->isVisible());
     dialog->show();
-    QTRY_COMPARE(answers.given, QStringList({answer, answer}));
+    QTRY_COMPARE_WITH_TIMEOUT(answers.given, QStringList({answer, answer}), 60'000);
 }
 
 void DialogTest::one_that_is_gone_before_its_time_does_not_answer()
@@ -760,7 +760,7 @@ void DialogTest::one_that_is_gone_before_its_time_does_not_answer()
     gone->hide();
     never->show();
     later->show();
-    QTRY_COMPARE(laterAnswers.given.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(laterAnswers.given.size(), 1, 60'000);
     QCOMPARE(goneAnswers.given, QStringList());
     QCOMPARE(neverAnswers.given, QStringList());
 }
@@ -769,7 +769,7 @@ void DialogTest::a_long_message_scrolls_by_key_and_wheel()
 {
     TestScreen screen;
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QString text;
     for (int i = 0; i < 60; ++i)
         text += QStringLiteral("Line %1 of sixty\n").arg(i);

@@ -105,7 +105,7 @@ void DialogWindowTest::without_a_display_it_has_the_displays_size()
     Notice notice;
     notice.show();
     QCOMPARE(notice.size(), QSize(240, 320));
-    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
     clickInWindow(&notice, Qt::Key_Select);
     QVERIFY(!notice.isVisible());
 }
@@ -167,17 +167,17 @@ void DialogWindowTest::one_that_was_dismissed_does_not_come_back()
 void DialogWindowTest::it_takes_the_keys_and_gives_them_back()
 {
     Phone phone;
-    QVERIFY(QTest::qWaitForWindowActive(&phone.around));
+    QVERIFY(QTest::qWaitForWindowActive(&phone.around, 60'000));
     Notice notice;
     notice.show();
-    QVERIFY(QTest::qWaitForWindowActive(&notice));
-    QTRY_COMPARE(QApplication::focusWidget(), &notice);
+    QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
+    QTRY_COMPARE_WITH_TIMEOUT(QApplication::focusWidget(), &notice, 60'000);
     QCOMPARE(ZApplication::keyTarget(), &notice);
     QVERIFY(ZApplication::pressKey(Qt::Key_Down));
     QCOMPARE(phone.screen.list->currentItem(), 0);
     clickInWindow(&notice, Qt::Key_Select);
     QVERIFY(!notice.isVisible());
-    QTRY_VERIFY(phone.screen.list->hasFocus());
+    QTRY_VERIFY_WITH_TIMEOUT(phone.screen.list->hasFocus(), 60'000);
     QVERIFY(ZApplication::pressKey(Qt::Key_Down));
     clickInWindow(&phone.around, Qt::Key_Down);
     QCOMPARE(phone.screen.list->currentItem(), 2);
@@ -190,23 +190,23 @@ void DialogWindowTest::showing_it_again_takes_the_keys_again()
     QSignalSpy answered(&notice, &ZPopup::leftSoftkeyClicked);
     for (int i = 1; i <= 3; ++i) {
         notice.show();
-        QVERIFY(QTest::qWaitForWindowActive(&notice));
+        QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
         clickInWindow(&notice, Qt::Key_Context1);
         QCOMPARE(answered.count(), i);
-        QTRY_VERIFY(phone.around.isActiveWindow());
+        QTRY_VERIFY_WITH_TIMEOUT(phone.around.isActiveWindow(), 60'000);
     }
     notice.show();
     phone.around.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&phone.around));
+    QVERIFY(QTest::qWaitForWindowActive(&phone.around, 60'000));
     notice.show();
-    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
 }
 
 void DialogWindowTest::it_stays_over_the_confirmation_that_goes()
 {
     // As a refused reset does it: the notice comes up in the answer, then the question is deleted.
     Phone phone;
-    QVERIFY(QTest::qWaitForWindowActive(&phone.around));
+    QVERIFY(QTest::qWaitForWindowActive(&phone.around, 60'000));
     Notice notice;
     auto *question = new ZMessageDlg(QStringLiteral("Reset"), QStringLiteral("Sure?"), ZMessageDlg::QuestionDlg, 0,
                                      &phone.screen, nullptr, true, 0);
@@ -217,10 +217,10 @@ void DialogWindowTest::it_stays_over_the_confirmation_that_goes()
     question->show();
     clickInWindow(&phone.around, Qt::Key_Select);
     QVERIFY(notice.isVisible());
-    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
     QCOMPARE(ZApplication::keyTarget(), &notice);
     clickInWindow(&notice, Qt::Key_Select);
-    QTRY_VERIFY(phone.screen.list->hasFocus());
+    QTRY_VERIFY_WITH_TIMEOUT(phone.screen.list->hasFocus(), 60'000);
 }
 
 void DialogWindowTest::it_survives_its_display()
@@ -233,7 +233,7 @@ void DialogWindowTest::it_survives_its_display()
     delete screen;
     settle();
     notice.show();
-    QVERIFY(QTest::qWaitForWindowActive(&notice));
+    QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
     clickInWindow(&notice, Qt::Key_Select);
     QVERIFY(!notice.isVisible());
 }
@@ -254,14 +254,14 @@ void DialogWindowTest::whoever_answers_may_delete_it()
     const QPointer<Notice> notice = new Notice(by == 3 ? 1 : 0);
     connect(notice, &ZPopup::leftSoftkeyClicked, this, [&] { delete notice; });
     notice->show();
-    QVERIFY(by == 3 || QTest::qWaitForWindowActive(notice));
+    QVERIFY(by == 3 || QTest::qWaitForWindowActive(notice, 60'000));
     if (by == 0)
         press(notice, Qt::Key_Select);
     else if (by == 1)
         clickInWindow(notice, Qt::Key_Select);
     else if (by == 2)
         QTest::mouseClick(notice->windowHandle(), Qt::LeftButton, {}, QPoint(20, 310));
-    QTRY_VERIFY(!notice);
+    QTRY_VERIFY_WITH_TIMEOUT(!notice, 60'000);
     settle();
 }
 

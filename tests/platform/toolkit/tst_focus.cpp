@@ -75,7 +75,7 @@ void FocusTest::the_keypad_works_whoever_has_the_focus()
     screen.addRows(3);
     around.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     edit.setFocus();
     QVERIFY(ZApplication::pressKey(Qt::Key_Down));
     QCOMPARE(screen.list->currentItem(), 1);
@@ -145,7 +145,7 @@ void FocusTest::a_sub_screen_takes_the_keys_and_gives_them_back()
     screen.addRows(3);
     QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     auto *sub = new TestScreen(&screen);
     sub->addRows(3);
     QSignalSpy subClear(sub, &ZKbMainWidget::clearKeyClicked);
@@ -173,7 +173,7 @@ void FocusTest::a_sub_screen_keeps_the_focus_when_the_list_below_asks_for_it()
     TestScreen screen;
     screen.addRows(3);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     TestScreen sub(&screen);
     sub.addRows(3);
     sub.show();
@@ -192,7 +192,7 @@ void FocusTest::a_screen_shown_with_its_sub_screen_leaves_the_keys_to_it()
     around.show();
     screen.show();
     sub.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     around.hide();
     around.show();
     QCOMPARE(ZApplication::keyTarget(), sub.list);
@@ -210,7 +210,7 @@ void FocusTest::a_dialog_shown_with_its_screen_has_the_keys()
     dialog.show();
     screen.show();
     around.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     QVERIFY(dialog.isVisible());
     QVERIFY(dialog.hasFocus());
 }
@@ -220,7 +220,7 @@ void FocusTest::the_last_focus_inside_a_screen_is_kept()
     TestScreen screen;
     QLineEdit edit(screen.getContentWidget(true));
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QVERIFY(screen.list->hasFocus());
     edit.setFocus();
     ZMessageDlg dialog(QString(), QStringLiteral("?"), ZMessageDlg::QuestionDlg, 0, &screen, nullptr, true, 0);
@@ -241,7 +241,7 @@ void FocusTest::screens_side_by_side_do_not_cover_each_other()
     around.show();
     left.show();
     right.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     left.list->setFocus();
     QVERIFY(left.list->hasFocus());
     right.list->setFocus();
@@ -253,7 +253,7 @@ void FocusTest::the_tab_key_stays_when_there_is_nowhere_to_go()
     TestScreen screen;
     screen.addRows(2);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     clickInWindow(&screen, Qt::Key_Tab);
     clickInWindow(&screen, Qt::Key_Backtab);
     QVERIFY(screen.list->hasFocus());
@@ -269,7 +269,7 @@ void FocusTest::hidden_screens_do_not_take_the_focus_from_the_window_around()
     TestScreen screen(&around);
     around.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     edit.setFocus();
     screen.hide();
     QVERIFY(edit.hasFocus());
@@ -282,7 +282,7 @@ void FocusTest::random_coming_and_going_leaves_the_keys_with_the_one_on_top()
     QWidget around;
     around.resize(300, 400);
     around.show();
-    QVERIFY(QTest::qWaitForWindowActive(&around));
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     QRandomGenerator random(7);
     TestScreen root(&around);
     root.addRows(3);

@@ -490,7 +490,7 @@ void ListBoxTest::the_first_row_that_can_be_chosen_gets_the_focus_bar()
     QVERIFY(!screen.list->isSelected(0));
     QVERIFY(!screen.list->isSelected(-1));
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QCOMPARE(screen.list->currentItem(), 1);
 }
 
@@ -778,7 +778,7 @@ void ListBoxTest::whoever_hears_of_a_choice_may_do_anything()
     QPointer<TestScreen> screen = new TestScreen;
     screen->addRows(4);
     screen->show();
-    QVERIFY(QTest::qWaitForWindowActive(screen));
+    QVERIFY(QTest::qWaitForWindowActive(screen, 60'000));
     int reports = 0;
     connect(screen->list, &ZListBox::selected, this, [&](ZSettingItem *item) {
         ++reports;

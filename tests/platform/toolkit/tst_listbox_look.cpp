@@ -32,7 +32,7 @@ QColor color(ZSkinService::ColorRole role)
 void showSettled(TestScreen &screen)
 {
     screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    QVERIFY(QTest::qWaitForWindowExposed(&screen, 60'000));
     settle();
 }
 
@@ -217,13 +217,13 @@ void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
     TestScreen screen;
     screen.addRows(6);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&screen));
+    QVERIFY(QTest::qWaitForWindowExposed(&screen, 60'000));
     settle();
     PaintWatch watch;
     screen.list->viewport()->installEventFilter(&watch);
     auto *item = static_cast<ZSettingItem *>(screen.list->item(3));
     item->setSubItem(0, 1, QStringLiteral("77"), false, ZSettingItem::ValueRegion);
-    QTRY_VERIFY(watch.painted.contains(middleOfRow(screen.list, 3)));
+    QTRY_VERIFY_WITH_TIMEOUT(watch.painted.contains(middleOfRow(screen.list, 3)), 60'000);
 }
 
 void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_rows_data()
@@ -246,7 +246,7 @@ void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_row
         screen.list->clear();
         screen.addRows(count);
         screen.update();
-        QTRY_VERIFY(recorder.frames.size() >= times);
+        QTRY_VERIFY_WITH_TIMEOUT(recorder.frames.size() >= times, 60'000);
     }
     settle();
     for (const QImage &frame : std::as_const(recorder.frames))
@@ -261,7 +261,7 @@ void ListBoxLookTest::a_list_that_is_filled_again_is_painted_once()
     FrameRecorder recorder(&screen);
     screen.list->clear();
     screen.addRows(6);
-    QTRY_VERIFY(!recorder.frames.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!recorder.frames.isEmpty(), 60'000);
     settle();
     QCOMPARE(recorder.frames.size(), 1);
 }
@@ -281,7 +281,7 @@ void ListBoxLookTest::a_list_that_was_filled_under_a_sub_screen_has_its_rows_whe
     subScreen.reset();
     screen.list->clear();
     screen.addRows(7);
-    QTRY_VERIFY(!recorder.frames.isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!recorder.frames.isEmpty(), 60'000);
     settle();
     for (const QImage &frame : std::as_const(recorder.frames))
         QCOMPARE(frame, whole);

@@ -293,7 +293,7 @@ void ScreenTest::no_key_and_no_click_reaches_what_the_screen_lies_in()
     screen.addRow(QStringLiteral("One"));
     outer.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&outer));
+    QVERIFY(QTest::qWaitForWindowActive(&outer, 60'000));
     const QList<Qt::Key> keys = {Qt::Key_Up,       Qt::Key_Down,     Qt::Key_Left,  Qt::Key_Select, Qt::Key_Space,
                                  Qt::Key_Context1, Qt::Key_Context2, Qt::Key_Clear, Qt::Key_A,      Qt::Key_F12,
                                  Qt::Key_Call,     Qt::Key_PageDown, Qt::Key_Tab,   Qt::Key_5,      Qt::Key_Shift};
@@ -311,7 +311,7 @@ void ScreenTest::showing_gives_the_keys_to_the_list()
     QLineEdit edit(&plain);
     edit.setGeometry(300, 0, 100, 30);
     plain.show();
-    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    QVERIFY(QTest::qWaitForWindowActive(&plain, 60'000));
     edit.setFocus();
     TestScreen screen(&plain);
     screen.addRows(3);
@@ -328,7 +328,7 @@ void ScreenTest::showing_again_brings_the_screen_back_up()
     TestScreen first(&plain);
     TestScreen second(&plain);
     plain.show();
-    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    QVERIFY(QTest::qWaitForWindowActive(&plain, 60'000));
     first.show();
     second.show();
     QVERIFY(second.list->hasFocus());
@@ -347,7 +347,7 @@ void ScreenTest::a_click_on_the_title_gives_the_keys_back_to_the_list()
     TestScreen screen(&plain);
     plain.show();
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&plain));
+    QVERIFY(QTest::qWaitForWindowActive(&plain, 60'000));
     edit.setFocus();
     QVERIFY(edit.hasFocus());
     QTest::mouseClick(plain.windowHandle(), Qt::LeftButton, {}, QPoint(10, 10));
@@ -410,7 +410,7 @@ void ScreenTest::whoever_hears_of_the_clear_key_may_delete_the_screen()
     screen->show();
     connect(screen, SIGNAL(clearKeyClicked()), screen, SIGNAL(closeWidget()));
     connect(screen, SIGNAL(closeWidget()), this, SLOT(deleteVictim()));
-    QVERIFY(QTest::qWaitForWindowActive(screen->window()));
+    QVERIFY(QTest::qWaitForWindowActive(screen->window(), 60'000));
     clickInWindow(screen->window(), Qt::Key_Clear);
     settle();
     QVERIFY(!victim);

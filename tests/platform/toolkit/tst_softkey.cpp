@@ -287,7 +287,7 @@ void SoftKeyTest::clicking_does_not_move_the_focus()
     TestScreen screen;
     screen.addRows(3);
     screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen));
+    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QVERIFY(screen.list->hasFocus());
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(220, 310));
     QVERIFY(screen.list->hasFocus());
@@ -309,7 +309,7 @@ void SoftKeyTest::whoever_answers_may_delete_the_bars_owner()
     screen->addRows(3);
     screen->bar->setClickedSlot(ZSoftKey::RightKey, this, "1deleteOwner()");
     screen->show();
-    QVERIFY(QTest::qWaitForWindowActive(screen));
+    QVERIFY(QTest::qWaitForWindowActive(screen, 60'000));
     if (by == 0)
         press(screen->list, Qt::Key_Context2);
     else if (by == 1)
