@@ -1,5 +1,7 @@
 // kavrecentcalls, the recent-calls application of the phone.
 
+#include "AccessibilityBus.h"
+#include "BusGuard.h"
 #include "Catalogue.h"
 #include "EndSignals.h"
 #include "ExitCode.h"
@@ -174,9 +176,10 @@ handset::Settings telephoneSettings(const Options &options, PhoneWindow &window)
     return settings;
 }
 
-// Nothing and the exit code where that fails. Loads the screens, too, which want the telephone.
-std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, ScreenLibrary &library,
-                                                    PhoneWindow &window, int &code)
+// Nothing and the exit code where that fails. Loads the screens, too, which want the telephone. `findings` are sentences
+// that the window is to show, too.
+std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, const QStringList &findings,
+                                                    ScreenLibrary &library, PhoneWindow &window, int &code)
 {
     code = loadScreens(library, options.plugin);
     if (code != ExitSuccess)
@@ -188,12 +191,13 @@ std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, Scre
     }
     if (!opened.notice.isEmpty())
         complain(ExitSuccess, opened.notice);
+    const QString notice = (findings + QStringList(opened.notice)).join(u' ').trimmed();
     code = startTrace(options.traceFile);
     if (code != ExitSuccess)
         return {};
     const auto installed = std::make_shared<FaultyHandset>(opened.handset);
     handset::install(installed);
-    return PhoneWindow::Telephone{opened.handset, options.stateDirectory, opened.notice, &installed->faults()};
+    return PhoneWindow::Telephone{opened.handset, options.stateDirectory, notice, &installed->faults()};
 }
 
 int photographWindow(PhoneWindow &window, const QString &file)
@@ -204,11 +208,11 @@ int photographWindow(PhoneWindow &window, const QString &file)
     return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
 }
 
-int showWindow(const Options &options, const EndSignals &endSignals)
+int showWindow(const Options &options, const QStringList &findings, const EndSignals &endSignals)
 {
     ScreenLibrary library;
     int openingCode = ExitSuccess;
-    PhoneWindow window(library, [&] { return openTelephone(options, library, window, openingCode); });
+    PhoneWindow window(library, [&] { return openTelephone(options, findings, library, window, openingCode); });
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open
@@ -226,20 +230,20 @@ int showWindow(const Options &options, const EndSignals &endSignals)
     return openingCode == ExitSuccess ? code : openingCode;
 }
 
-int runWindow(const Options &options, const EndSignals &endSignals)
+int runWindow(const Options &options, const QStringList &findings, const EndSignals &endSignals)
 {
-    const int code = showWindow(options, endSignals);
+    const int code = showWindow(options, findings, endSignals);
     handset::install(nullptr);
     return code;
 }
 
-int run(const Options &options)
+int run(const Options &options, const QStringList &findings)
 {
     const EndSignals endSignals; // outlives the telephone, whose call is to be written
     Catalogue catalogue;
     if (const int code = loadTranslation(catalogue, options.translation))
         return code;
-    const int code = options.isTour() ? runTour(options, endSignals) : runWindow(options, endSignals);
+    const int code = options.isTour() ? runTour(options, endSignals) : runWindow(options, findings, endSignals);
     libaplog_close();
     return code;
 }
@@ -260,8 +264,12 @@ extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
         fixSurroundings(options.isTour());
     else if (!hasPlatform() && !hasDisplay())
         return complain(ExitNoDisplay, missingDisplay());
+    BusGuard buses;
     int count = 1; // Qt would take --plugin for an option of its own, too
     const QApplication application(count, argv);
     nameProgram();
-    return run(options);
+    buses.guardAccessibility(announcedAccessibilityBus());
+    for (const QString &finding : buses.notices())
+        complain(ExitSuccess, finding);
+    return run(options, buses.notices());
 }

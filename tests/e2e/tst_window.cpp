@@ -3,20 +3,17 @@
 #include "Clock.h"
 #include "DataCalls.h"
 #include "Handset.h"
+#include "OwnServer.h"
 #include "Picture.h"
 #include "SimulatedTelephone.h"
 #include "TestGroup.h"
-#include "XServer.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
-#include <QtWidgets/QApplication>
 
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 using namespace handset;
@@ -34,25 +31,6 @@ const QList<simulated::PastCall> history = {
     {CallKind::Voice, CallDirection::Dialed, QStringLiteral("5550101"), 1'000'000, 65'000},
     {CallKind::Voice, CallDirection::Answered, QStringLiteral("5550102"), 2'000'000, 3'725'000},
     {CallKind::Data, CallDirection::Dialed, QStringLiteral("5550103"), 9'000'000, 36'000'000},
-};
-
-class ApplicationOnItsOwnServer
-{
-public:
-    ApplicationOnItsOwnServer(int &argc, char **argv)
-    {
-        if (server.display().isEmpty()) {
-            std::fprintf(stderr, "%s\n", qPrintable(server.error()));
-            std::exit(1);
-        }
-        qputenv("DISPLAY", server.display().toLatin1());
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        application = std::make_unique<QApplication>(argc, argv);
-    }
-
-private:
-    const XServer server;
-    std::unique_ptr<QApplication> application;
 };
 
 bool isMakingReferences()

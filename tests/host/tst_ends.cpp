@@ -1,4 +1,5 @@
 // How the program ends when it is asked to from outside, and when nobody reads what it prints.
+#include "FakeBus.h"
 #include "HostProcess.h"
 #include "TestGroup.h"
 
@@ -36,6 +37,8 @@ private slots:
     void aScriptOfTooManyStepsIsRefused_data();
     void aScriptOfTooManyStepsIsRefused();
     void aScriptOfGigabytesIsRefused();
+    void aSilentSessionBusIsToldAndHoldsUpNothing_data();
+    void aSilentSessionBusIsToldAndHoldsUpNothing();
 
 private:
     static void everySignal();
@@ -217,6 +220,28 @@ void EndsTest::aScriptOfGigabytesIsRefused()
     const HostResult result = run({"--tour", path("tour"), "--script", script});
     QCOMPARE(result.code, 6);
     QVERIFY2(result.errors.contains("it is larger than 4 MiB"), qPrintable(result.errors));
+}
+
+void EndsTest::aSilentSessionBusIsToldAndHoldsUpNothing_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("a tour") << QStringList{"--tour", "TOUR", "--script", "SCRIPT"};
+    QTest::newRow("a window") << QStringList{"--state", "none", "--photo", "TOUR/window.png"};
+}
+
+void EndsTest::aSilentSessionBusIsToldAndHoldsUpNothing()
+{
+    QFETCH(QStringList, arguments);
+    QVERIFY(QDir(home->path()).mkpath("tour"));
+    arguments.replaceInStrings("TOUR", path("tour"));
+    arguments.replaceInStrings("SCRIPT", write("short.tour", "open callTime\n"));
+    const FakeBus bus(FakeBus::Full);
+    QProcessEnvironment environment = hostEnvironment(home->path());
+    environment.insert("DBUS_SESSION_BUS_ADDRESS", bus.address());
+    const HostResult result = runHost(arguments, environment);
+    QCOMPARE(result.code, 0);
+    QVERIFY2(result.errors.startsWith("kavrecentcalls: The session bus does not answer"),
+             qPrintable(result.errors));
 }
 
 KAV_TEST_GROUP(EndsTest, QCoreApplication);

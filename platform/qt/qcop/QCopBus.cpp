@@ -1,5 +1,7 @@
 #include "QCopBus.h"
 
+#include "BusAddress.h"
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThread>
 
@@ -17,15 +19,6 @@ constexpr std::chrono::milliseconds answerPatience = 5s;
 constexpr std::chrono::milliseconds firstPause = 1s;
 constexpr std::chrono::milliseconds longestPause = 60s;
 
-// The one of the user's session is where D-Bus looks when it is told nothing.
-QByteArray sessionBusAddresses()
-{
-    const QByteArray told = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    const QByteArray directory = qgetenv("XDG_RUNTIME_DIR");
-    return !told.isEmpty() || directory.isEmpty() ? told
-                                                  : "unix:path=" + directory.toPercentEncoding("/", "~") + "/bus";
-}
-
 } // namespace
 
 /// One try to find who takes a connection.
@@ -38,7 +31,7 @@ protected:
     void run() override { opened = QCopConnection::open(addresses); }
 
 private:
-    const QByteArray addresses = sessionBusAddresses();
+    const QByteArray addresses = BusAddress::ofSession();
 };
 
 QCopBus *QCopBus::self = nullptr;
