@@ -29,6 +29,7 @@ public:
     {}
 
     bool isAtEnd() const { return left.isEmpty(); }
+    qsizetype size() const { return left.size(); }
 
     template <typename Number>
     std::optional<Number> number()
@@ -94,25 +95,44 @@ std::optional<Sections> sectionsOf(QByteArrayView bytes)
     return sections;
 }
 
-// A message is a row of parts up to its end.
-bool isMessage(QByteArrayView bytes)
+/// How many bytes may be walked through in all. In a sound file each byte belongs to one text. One in which many texts
+/// lie over each other would take Qt and its check as long as its size to the power of two.
+class Budget
+{
+public:
+    explicit Budget(qsizetype size)
+        : left(4 * size)
+    {}
+
+    bool take(qsizetype bytes)
+    {
+        left -= bytes;
+        return left >= 0;
+    }
+
+private:
+    qsizetype left;
+};
+
+// A message is a row of parts up to its end. How many bytes it has; nothing where it has no end.
+std::optional<qsizetype> sizeOfMessage(QByteArrayView bytes)
 {
     constexpr quint8 texts[] = {Translation, SourceText, Context, Comment};
     Reader reader(bytes);
     for (;;) {
         const auto part = reader.number<quint8>();
         if (part == End)
-            return true;
+            return bytes.size() - reader.size();
         if (part == Obsolete) {
             if (!reader.block(4))
-                return false;
+                return {};
             continue;
         }
         if (!part || std::find(std::begin(texts), std::end(texts), *part) == std::end(texts))
-            return false;
+            return {};
         const auto text = reader.sizedBlock();
         if (!text || (part == Translation && text->size() % 2 != 0))
-            return false;
+            return {};
     }
 }
 
@@ -122,27 +142,31 @@ bool areHashes(QByteArrayView hashes, QByteArrayView messages)
     if (hashes.size() % 8 != 0)
         return false;
     Reader reader(hashes);
+    Budget budget(messages.size());
     quint32 before = 0;
     while (!reader.isAtEnd()) {
         const quint32 hash = *reader.number<quint32>();
         const quint32 offset = *reader.number<quint32>();
-        if (hash < before || qsizetype(offset) >= messages.size() || !isMessage(messages.sliced(offset)))
+        if (hash < before || qsizetype(offset) >= messages.size())
+            return false;
+        const auto size = sizeOfMessage(messages.sliced(offset));
+        if (!size || !budget.take(*size))
             return false;
         before = hash;
     }
     return true;
 }
 
-// Names, each behind its length, up to a length of 0.
-bool isChain(QByteArrayView bytes)
+// Names, each behind its length, up to a length of 0. How many bytes they have; nothing where they have no end.
+std::optional<qsizetype> sizeOfChain(QByteArrayView bytes)
 {
     Reader reader(bytes);
     for (;;) {
         const auto length = reader.number<quint8>();
         if (!length || !reader.block(*length))
-            return false;
+            return {};
         if (*length == 0)
-            return true;
+            return bytes.size() - reader.size();
     }
 }
 
@@ -154,9 +178,15 @@ bool areContexts(QByteArrayView contexts)
     if (!count || *count == 0 || contexts.size() < 2 + 2 * *count)
         return false;
     const QByteArrayView names = contexts.sliced(2 + 2 * *count);
+    Budget budget(names.size());
     for (int i = 0; i < *count; ++i) {
         const qsizetype place = qsizetype{2} * *reader.number<quint16>();
-        if (place != 0 && (place >= names.size() || !isChain(names.sliced(place))))
+        if (place == 0)
+            continue;
+        if (place >= names.size())
+            return false;
+        const auto size = sizeOfChain(names.sliced(place));
+        if (!size || !budget.take(*size))
             return false;
     }
     return true;
@@ -174,6 +204,8 @@ QString findDamage(const QByteArray &bytes)
         return QStringLiteral("it is damaged, a section of it is not whole");
     if (sections->hasDependencies)
         return QStringLiteral("it needs other catalogues");
+    if (sections->hashes.isEmpty())
+        return QStringLiteral("it has no texts");
     if (!areHashes(sections->hashes, sections->messages))
         return QStringLiteral("it is damaged, a text of it is not where it should be");
     if (!sections->contexts.isEmpty() && !areContexts(sections->contexts))
@@ -189,7 +221,7 @@ QString Catalogue::install(const QString &file)
         problem = findDamage(bytes);
     if (problem.isEmpty() &&
         !translator.load(reinterpret_cast<const uchar *>(bytes.constData()), static_cast<int>(bytes.size())))
-        problem = QStringLiteral("it has no texts, or wrong rules of plurals");
+        problem = QStringLiteral("its rules of plurals are wrong");
     if (!problem.isEmpty())
         return refusal.arg(file, problem);
     QCoreApplication::installTranslator(&translator);

@@ -57,6 +57,28 @@ QByteArray changed(quint8 tag, qsizetype behindHead, quint32 value)
     return bytes.replace(placeOf(bytes, tag) + sectionHead + behindHead, 4, number(value));
 }
 
+// So many texts, each of which is a part of the one before it.
+QByteArray textsOverEachOther(int count)
+{
+    const QByteArray oldPart("\x05\0\0\0\0", 5);
+    QByteArray hashes;
+    hashes.reserve(8 * count);
+    for (int i = 0; i < count; ++i)
+        hashes += number(static_cast<quint32>(i)) + number(static_cast<quint32>(oldPart.size() * i));
+    return magic() + section(0x42, hashes) + section(0x69, oldPart.repeated(count) + '\x01');
+}
+
+// A text, and so many contexts, each of which is a part of the one before it.
+QByteArray contextsOverEachOther(int count)
+{
+    QByteArray places(2 + 2 * count, '\0');
+    qToBigEndian(static_cast<quint16>(count), places.data());
+    for (int i = 0; i < count; ++i)
+        qToBigEndian(static_cast<quint16>(i + 1), places.data() + 2 + 2 * i);
+    const QByteArray names = QByteArray("\x01n", 2).repeated(count + 1) + '\0';
+    return textsOverEachOther(1) + section(0x2f, places + names);
+}
+
 // Everything that the phone asks a translator.
 void askForTexts(const QTranslator &translator)
 {
@@ -78,6 +100,7 @@ private slots:
     void damageIsFound_data();
     void damageIsFound();
     void aTableOfContextsThatIsWholeIsTaken();
+    void aTextThatTwoHashesShareIsTaken();
     void anUnknownSectionIsPassedOver();
     void whatIsCutOffAnywhereIsFoundOrHarmless();
     void whatIsChangedAnywhereIsFoundOrHarmless_data();
@@ -85,6 +108,7 @@ private slots:
     void theProgramRefusesADamagedCatalogue_data();
     void theProgramRefusesADamagedCatalogue();
     void theProgramRefusesACatalogueOfGigabytes();
+    void theProgramSaysThatACatalogueHasNoTexts();
 };
 
 void CatalogueTest::whatLreleaseMakesIsWhole()
@@ -128,6 +152,12 @@ void CatalogueTest::damageIsFound_data()
         << one(sound, end, section(0x2f, QByteArray("\0\x01\x7f\xff\0\0", 6)));
     QTest::newRow("a context without an end")
         << one(sound, end, section(0x2f, QByteArray("\0\x01\0\x01\0\0\x02zz", 9)));
+    QTest::newRow("texts that lie over each other") << textsOverEachOther(100);
+    QTest::newRow("megabytes of texts that lie over each other") << textsOverEachOther(1'400'000);
+    QTest::newRow("contexts that lie over each other") << contextsOverEachOther(100);
+    QTest::newRow("as many contexts as there can be that lie over each other") << contextsOverEachOther(65'535);
+    QTest::newRow("no texts") << magic();
+    QTest::newRow("no texts, but a language") << magic() + section(0xa7, "es");
     QTest::newRow("other catalogues to be loaded") << whole + section(0x96, QByteArray("\0\0\0\x06\0o\0n\0e", 10));
 }
 
@@ -141,6 +171,12 @@ void CatalogueTest::aTableOfContextsThatIsWholeIsTaken()
 {
     const QByteArray contexts("\0\x02\0\0\0\x01\0\0\x02zz\0", 12);
     QCOMPARE(host::findDamage(wholeCatalogue() + section(0x2f, contexts)), QString());
+}
+
+void CatalogueTest::aTextThatTwoHashesShareIsTaken()
+{
+    const QByteArray hashes = number(1) + number(0) + number(2) + number(0);
+    QCOMPARE(host::findDamage(magic() + section(0x42, hashes) + section(0x69, "\x01")), QString());
 }
 
 void CatalogueTest::anUnknownSectionIsPassedOver()
@@ -235,6 +271,21 @@ void CatalogueTest::theProgramRefusesACatalogueOfGigabytes()
                 hostEnvironment(home.path()));
     QCOMPARE(result.code, 8);
     QVERIFY2(result.errors.contains(QStringLiteral("it is larger than 64 MiB")), qPrintable(result.errors));
+}
+
+void CatalogueTest::theProgramSaysThatACatalogueHasNoTexts()
+{
+    const QTemporaryDir home;
+    QFile file(home.filePath(QStringLiteral("empty.qm")));
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(magic()) == magicSize);
+    file.close();
+    const HostResult result =
+        runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
+                 home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), file.fileName()},
+                hostEnvironment(home.path()));
+    QCOMPARE(result.code, 8);
+    QVERIFY2(result.errors.contains(QStringLiteral("empty.qm\" cannot be loaded: it has no texts.")),
+             qPrintable(result.errors));
 }
 
 KAV_TEST_GROUP(CatalogueTest, QCoreApplication);
