@@ -15,9 +15,12 @@ constexpr int heard[] = {SIGTERM, SIGINT, SIGHUP};
 
 int ends[2] = {-1, -1}; // of the pipe from the handler to the event loop
 
+volatile std::sig_atomic_t come = 0;
+
 // Nothing more may be done in a handler.
 void tell(int)
 {
+    come = 1;
     const int error = errno;
     static_cast<void>(::write(ends[1], "", 1) == 1);
     errno = error;
@@ -60,17 +63,22 @@ void guardStandardStreams()
 EndSignals::EndSignals()
     : notifier(openPipe(), QSocketNotifier::Read)
 {
+    come = 0;
     connect(&notifier, &QSocketNotifier::activated, this, [this] {
         char byte = 0;
         while (::read(ends[0], &byte, 1) == 1)
             ;
-        come = true;
         emit asked();
     });
     for (const int signal : heard) {
         if (!isIgnored(signal))
             setHandler(signal, &tell);
     }
+}
+
+bool EndSignals::haveCome() const
+{
+    return come != 0;
 }
 
 EndSignals::~EndSignals()

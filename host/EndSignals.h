@@ -22,15 +22,14 @@ public:
     EndSignals();
     ~EndSignals() override;
 
-    /// Whether asked() has been said.
-    bool haveCome() const { return come; }
+    /// Whether one has come, even if the event loop has not got to asked() yet.
+    bool haveCome() const;
 
 signals:
     /// One of them has come. Said from the event loop.
     void asked();
 
 private:
-    bool come = false;
     QSocketNotifier notifier;
 };
 

@@ -156,14 +156,14 @@ int runTour(const Options &options, const EndSignals &endSignals)
         return code;
     QTextStream output(stdout);
     QTextStream errors(stderr);
-    tour::TourPlayer player(library, options, output, errors);
+    tour::TourPlayer player(library, options, output, errors, [&endSignals] { return endSignals.haveCome(); });
     QObject::connect(&endSignals, &EndSignals::asked, &player, &tour::TourPlayer::interrupt);
     return player.play(script);
 }
 
 // --- the window
 
-handset::Settings telephoneSettings(const Options &options, PhoneWindow &window)
+handset::Settings telephoneSettings(const Options &options, PhoneWindow &window, const EndSignals &endSignals)
 {
     handset::Settings settings;
     settings.backend = options.backend;
@@ -172,6 +172,7 @@ handset::Settings telephoneSettings(const Options &options, PhoneWindow &window)
     settings.progress = [](const QString &step, int percent) {
         complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));
     };
+    settings.isGivenUp = [&endSignals] { return endSignals.haveCome(); };
     window.listen(settings);
     return settings;
 }
@@ -179,14 +180,15 @@ handset::Settings telephoneSettings(const Options &options, PhoneWindow &window)
 // Nothing and the exit code where that fails. Loads the screens, too, which want the telephone. `findings` are sentences
 // that the window is to show, too.
 std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, const QStringList &findings,
-                                                    ScreenLibrary &library, PhoneWindow &window, int &code)
+                                                    ScreenLibrary &library, PhoneWindow &window,
+                                                    const EndSignals &endSignals, int &code)
 {
     code = loadScreens(library, options.plugin);
     if (code != ExitSuccess)
         return {};
-    const handset::Opened opened = handset::open(telephoneSettings(options, window));
+    const handset::Opened opened = handset::open(telephoneSettings(options, window, endSignals));
     if (!opened.handset) {
-        code = complain(ExitNoTelephone, opened.error);
+        code = complain(endSignals.haveCome() ? ExitSuccess : ExitNoTelephone, opened.error);
         return {};
     }
     if (!opened.notice.isEmpty())
@@ -212,7 +214,8 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
 {
     ScreenLibrary library;
     int openingCode = ExitSuccess;
-    PhoneWindow window(library, [&] { return openTelephone(options, findings, library, window, openingCode); });
+    PhoneWindow window(library,
+                       [&] { return openTelephone(options, findings, library, window, endSignals, openingCode); });
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open

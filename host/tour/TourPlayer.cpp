@@ -65,11 +65,12 @@ void pressKey(const Key &key)
 } // namespace
 
 TourPlayer::TourPlayer(const ScreenLibrary &pluginLibrary, const Options &tourOptions, QTextStream &transcript,
-                       QTextStream &complaints)
+                       QTextStream &complaints, std::function<bool()> askedToEnd)
     : library(pluginLibrary)
     , options(tourOptions)
     , output(transcript)
     , errors(complaints)
+    , isAskedToEnd(std::move(askedToEnd))
     , photographs(tourOptions.tourDirectory)
     , clock(std::make_shared<handset::ManualClock>(firstMomentMs))
     , screens(library, &display)
@@ -254,10 +255,14 @@ void TourPlayer::openTelephone(const QString &directory)
     telephone = nullptr;
     installed.reset();
     owner.reset();
-    const handset::Opened opened = handset::open({options.backend, directory, clock});
+    handset::Settings settings{options.backend, directory, clock};
+    settings.isGivenUp = isAskedToEnd;
+    const handset::Opened opened = handset::open(settings);
     if (!opened.notice.isEmpty())
         errors << place << ": " << opened.notice << Qt::endl;
     if (!opened.handset) {
+        if (isAskedToEnd())
+            return interrupt();
         stop(ExitNoTelephone, opened.error);
         return;
     }

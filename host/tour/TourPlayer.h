@@ -12,6 +12,7 @@
 
 #include <QtCore/QEventLoop>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -31,7 +32,9 @@ class TourPlayer : public QObject
 
 public:
     /// `library` is loaded; the streams and it outlive the player.
-    TourPlayer(const ScreenLibrary &library, const Options &options, QTextStream &output, QTextStream &errors);
+    /// `isAskedToEnd` says whether interrupt() is about to be called, so that a long opening of a telephone is given up.
+    TourPlayer(const ScreenLibrary &library, const Options &options, QTextStream &output, QTextStream &errors,
+               std::function<bool()> isAskedToEnd);
     ~TourPlayer() override;
 
     /// Plays `script`, which has no mistakes, and answers an ExitCode.
@@ -99,6 +102,7 @@ private:
     const Options &options;
     QTextStream &output;
     QTextStream &errors;
+    std::function<bool()> isAskedToEnd;
     Photographs photographs;
 
     std::shared_ptr<handset::ManualClock> clock;

@@ -51,6 +51,9 @@ struct Settings {
     /// Is told how far a step of open() is that takes long, as reading a big damaged call log does: what is done, part of
     /// a sentence, and 0 to 100 percent; one step after another. Null for nobody.
     std::function<void(const QString &step, int percent)> progress = {};
+    /// Asked as often as `progress` is told: true gives the opening up, with an error. What is kept is left as it is; the
+    /// next open() begins anew. Null for never.
+    std::function<bool()> isGivenUp = {};
 };
 
 struct Opened {

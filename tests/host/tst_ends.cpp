@@ -1,6 +1,8 @@
 // How the program ends when it is asked to from outside, and when nobody reads what it prints.
 #include "FakeBus.h"
+#include "Handset.h"
 #include "HostProcess.h"
+#include "SimulatedTelephone.h"
 #include "TestGroup.h"
 
 #include <QtCore/QDir>
@@ -12,11 +14,53 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr int patienceMs = 120'000;
+
+// So long that reading it, damaged, says how far it is.
+void makeLongLog(const QString &directory)
+{
+    handset::Settings settings;
+    settings.stateDirectory = directory;
+    const auto opened = handset::open(settings);
+    auto *made = dynamic_cast<handset::simulated::SimulatedTelephone *>(opened.handset.get());
+    QVERIFY2(made, qPrintable(opened.error));
+    const handset::simulated::PastCall call{handset::CallKind::Voice, handset::CallDirection::Dialed, "5550123", 0,
+                                            1000};
+    QCOMPARE(made->addHistory(QList<handset::simulated::PastCall>(60'000, call)), 0);
+}
+
+/// A named pipe that takes nothing more until it is drained.
+class FullPipe
+{
+public:
+    explicit FullPipe(const QString &fileName)
+        : file(QFile::encodeName(fileName))
+    {
+        if (::mkfifo(file.constData(), 0600) == 0)
+            end = ::open(file.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+        while (::write(end, "\n", 1) == 1)
+            ;
+    }
+    ~FullPipe() { ::close(end); }
+    Q_DISABLE_COPY_MOVE(FullPipe)
+
+    QString name() const { return QFile::decodeName(file); }
+    void drain() const
+    {
+        char block[4096];
+        while (::read(end, block, sizeof block) > 0)
+            ;
+    }
+
+private:
+    QByteArray file;
+    int end = -1;
+};
 
 } // namespace
 
@@ -30,6 +74,8 @@ private slots:
     void aSignalClosesTheWindowAndTheCallLogInOrder();
     void aSignalEndsATourWithTheRunningCallWritten_data() { everySignal(); }
     void aSignalEndsATourWithTheRunningCallWritten();
+    void aSignalInASalvageLeavesItToTheNextStart_data() { everySignal(); }
+    void aSignalInASalvageLeavesItToTheNextStart();
     void aSignalThatTheShellIgnoredStaysIgnored();
     void aReaderThatGoesIsAnErrorAndNoDeath_data();
     void aReaderThatGoesIsAnErrorAndNoDeath();
@@ -43,6 +89,7 @@ private slots:
 private:
     static void everySignal();
     QString path(const char *name) const { return home->filePath(QString::fromLatin1(name)); }
+    QByteArray contents(const char *name) const;
     QString write(const char *name, const QByteArray &text) const;
     void start(QProcess &process, const QStringList &arguments) const;
     HostResult run(const QStringList &arguments) const
@@ -66,6 +113,12 @@ void EndsTest::everySignal()
     QTest::newRow("SIGTERM") << SIGTERM;
     QTest::newRow("SIGINT") << SIGINT;
     QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+QByteArray EndsTest::contents(const char *name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString EndsTest::write(const char *name, const QByteArray &text) const
@@ -120,6 +173,31 @@ void EndsTest::aSignalEndsATourWithTheRunningCallWritten()
         write("look.tour", "state kept\nexpect line idle\nopen callTime\nexpect row 1 Dialed Calls | 00:01:05\n");
     const HostResult after = run({"--tour", path("tour"), "--script", look, "--state", path("state")});
     QVERIFY2(after.code == 0, qPrintable(after.errors));
+}
+
+// What the program says of the salvage finds a pipe that is full, so that the signal comes before the end of it.
+void EndsTest::aSignalInASalvageLeavesItToTheNextStart()
+{
+    QFETCH(int, signal);
+    makeLongLog(path("state"));
+    QFile log(path("state/calllog.db"));
+    QVERIFY(log.open(QIODevice::ReadWrite) && log.putChar('s')); // which a log of ours does not begin with
+    log.close();
+    const QByteArray damaged = contents("state/calllog.db");
+    FullPipe errors(path("errors"));
+    QProcess process;
+    process.setStandardErrorFile(errors.name());
+    QProcessEnvironment environment = hostEnvironment(home->path());
+    environment.insert("QT_LOGGING_RULES", "*.warning=false"); // Qt has nothing to say before
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(KAV_HOST_PROGRAM), {"--state", path("state"), "--screen", "callTime"});
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("state/calllog-copy.db")), patienceMs);
+    QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
+    QTRY_VERIFY_WITH_TIMEOUT((errors.drain(), process.state() == QProcess::NotRunning), patienceMs);
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 0);
+    QVERIFY(contents("state/calllog.db") == damaged);
+    QVERIFY(!QFile::exists(path("state/calllog-kept-1.db")));
 }
 
 void EndsTest::aSignalThatTheShellIgnoredStaysIgnored()

@@ -42,11 +42,36 @@ bool isPlausible(const PastCall &call)
     return isKnown(call.kind) && isKnown(call.direction) && call.durationMs >= 0 && isShownNumber(call.number);
 }
 
+// Thrown out of a long step, all of which leave what is kept as it is until they are done.
+struct GivenUp {
+};
+
+calllog::ProgressListener progressListener(const Settings &settings)
+{
+    if (!settings.isGivenUp)
+        return settings.progress;
+    return [&settings](const QString &step, int percent) {
+        if (settings.progress)
+            settings.progress(step, percent);
+        if (settings.isGivenUp())
+            throw GivenUp{};
+    };
+}
+
+calllog::OpenedLedger openLedger(const Settings &settings)
+{
+    try {
+        return calllog::openLedger(settings.stateDirectory, settings.clock, progressListener(settings));
+    } catch (const GivenUp &) {
+        return {nullptr, QStringLiteral("The opening of the call log was given up; it is as it was."), {}, {}};
+    }
+}
+
 } // namespace
 
 Opened open(const Settings &settings)
 {
-    calllog::OpenedLedger opened = calllog::openLedger(settings.stateDirectory, settings.clock, settings.progress);
+    calllog::OpenedLedger opened = openLedger(settings);
     if (!opened.ledger)
         return {nullptr, opened.error, {}};
     auto telephone = std::make_shared<SimulatedTelephone>(std::move(opened.ledger), settings.clock);

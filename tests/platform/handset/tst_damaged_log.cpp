@@ -135,6 +135,7 @@ private slots:
     void noTableOfABigLogLocksItForGood();
     void everyLongStepOfAReplacementSaysHowFarItIs_data();
     void everyLongStepOfAReplacementSaysHowFarItIs();
+    void aReplacementThatIsGivenUpInAnyStepLeavesEverythingAsItWas();
     void aReadingThatTakesNoTimeSaysNothing();
     void aMarkOfAnotherLogIsNoDamage_data();
     void aMarkOfAnotherLogIsNoDamage();
@@ -764,11 +765,9 @@ void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs_data()
     QTest::newRow("with a page overwritten near its beginning") << true;
 }
 
-// The steps by their names, in their order; what is told of one never goes back, and ends with the whole of it.
-void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
+// Long enough for every step of its replacement to say how far it is.
+static void makeLongDamagedLog(const StateDir &state)
 {
-    QFETCH(bool, isOverwritten);
-    const StateDir state;
     QCOMPARE(Phone(state.path())->addHistory(manyCalls(210'000)), int(Success));
     QVERIFY(LogFile(state.database())
                 .run(QStringLiteral(
@@ -776,6 +775,14 @@ void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
                     " WITH RECURSIVE numbers (n) AS (SELECT 1 UNION ALL SELECT"
                     " n + 1 FROM numbers WHERE n < 60000) SELECT n, 'x', n, 0, 0, 0, 1 FROM numbers")));
     QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
+}
+
+// The steps by their names, in their order; what is told of one never goes back, and ends with the whole of it.
+void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
+{
+    QFETCH(bool, isOverwritten);
+    const StateDir state;
+    makeLongDamagedLog(state);
     if (isOverwritten) {
         QByteArray content = readFile(state.database());
         QVERIFY(writeFile(state.database(), content.replace(40 * pageSize, pageSize, QByteArray(pageSize, '\0'))));
@@ -815,6 +822,34 @@ void TestDamagedLog::everyLongStepOfAReplacementSaysHowFarItIs()
              qPrintable(QString::number(percents.last().size())));
     QVERIFY2(percents.last().value(1) >= 14 && percents.last().value(1) <= 23,
              qPrintable(QString::number(percents.last().value(1))));
+}
+
+void TestDamagedLog::aReplacementThatIsGivenUpInAnyStepLeavesEverythingAsItWas()
+{
+    const StateDir state;
+    makeLongDamagedLog(state);
+    const QStringList names = state.names();
+    const QByteArray content = readFile(state.database());
+    for (const char *step : {"Copying the call log", "Reading the damaged call log",
+                             "Reading the damaged log of data sessions", "Reading the damaged call log once more",
+                             "Writing the new call log to the disk", "Checking the new call log"}) {
+        Settings settings;
+        settings.stateDirectory = state.path();
+        bool isReached = false;
+        settings.progress = [&](const QString &told, int) {
+            isReached = isReached || told == QLatin1String(step);
+        };
+        settings.isGivenUp = [&] { return isReached; };
+        const Opened opened = open(settings);
+        QVERIFY2(!opened.handset && isReached, step);
+        QCOMPARE(opened.error, QStringLiteral("The opening of the call log was given up; it is as it was."));
+        QCOMPARE(opened.notice, QString());
+        QCOMPARE(state.names(), names);
+        QVERIFY2(readFile(state.database()) == content, step);
+    }
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.contains(QStringLiteral("with the calls (210000)")),
+             qPrintable(phone.opened.notice));
 }
 
 void TestDamagedLog::aReadingThatTakesNoTimeSaysNothing()

@@ -184,6 +184,20 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
     return finding;
 }
 
+/// Leaves no unfinished log behind, also where what makes it is given up.
+class UnfinishedLog
+{
+public:
+    explicit UnfinishedLog(StateDirectory &which)
+        : directory(which)
+    {}
+    ~UnfinishedLog() { directory.remove(QString::fromLatin1(unfinishedName)); }
+    Q_DISABLE_COPY_MOVE(UnfinishedLog)
+
+private:
+    StateDirectory &directory;
+};
+
 // A complete new log under the ready name, with what can be read of a damaged one. Anything but Usable says why there
 // is none; then nothing has changed.
 Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced &old)
@@ -193,6 +207,7 @@ Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced
     if (finding.verdict != Verdict::Usable)
         return finding;
     const QString name = QString::fromLatin1(unfinishedName);
+    const UnfinishedLog unfinished(directory);
     finding = makeUnfinished(directory, copy, old);
     int error = 0;
     if (finding.verdict == Verdict::Usable)
@@ -201,7 +216,6 @@ Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced
         finding = blocked(error);
     if (finding.verdict == Verdict::Usable)
         return finding;
-    directory.remove(name);
     return {finding.verdict, inFile(name, explain(finding))};
 }
 
