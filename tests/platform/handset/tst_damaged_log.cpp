@@ -18,6 +18,7 @@
 #include <functional>
 #include <random>
 
+#include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -101,6 +102,8 @@ private slots:
     void initTestCase();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
+    void wantOfMemoryIsNoDamageAndLosesNothing_data();
+    void wantOfMemoryIsNoDamageAndLosesNothing();
     void aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead();
     void aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes();
     void aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd();
@@ -184,6 +187,56 @@ void TestDamagedLog::openAndCheck(const StateDir &state, bool mayBeQuiet)
     QVERIFY(again.opened.notice.isEmpty());
     QVERIFY(again.dialed(2 * second));
     QCOMPARE(again.figures().lifetime, before.lifetime + 2);
+}
+
+void TestDamagedLog::wantOfMemoryIsNoDamageAndLosesNothing_data()
+{
+    QTest::addColumn<QByteArray>("database");
+    QTest::addColumn<QByteArray>("wal");
+    QTest::addColumn<bool>("isDamaged");
+    QTest::newRow("a closed log") << sample.closed << QByteArray() << false;
+    QTest::newRow("a log after a crash") << sample.crashed << sample.crashedWal << false;
+    QByteArray damaged = sample.closed;
+    damaged.replace(8 * pageSize, pageSize, QByteArray(pageSize, '\0'));
+    QTest::newRow("a damaged log") << damaged << QByteArray() << true;
+}
+
+// Of whatever SQLite asks for, until there is enough for it to open.
+void TestDamagedLog::wantOfMemoryIsNoDamageAndLosesNothing()
+{
+    QFETCH(QByteArray, database);
+    QFETCH(QByteArray, wal);
+    QFETCH(bool, isDamaged);
+    const SixFigures figures = wal.isEmpty() ? sample.figures : sumsOf(sample.calls);
+    const QByteArray keptDamage = isDamaged ? database : QByteArray();
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("damaged")));
+    bool isEnough = false;
+    int tooLittle = 0;
+    for (qint64 more = 2'000; !isEnough; more += more / 8) {
+        const StateDir state;
+        QVERIFY(QDir().mkpath(state.path()) && writeFile(state.database(), database));
+        QVERIFY(wal.isEmpty() || writeFile(state.file(QStringLiteral("calllog.db-wal")), wal));
+        sqlite3_hard_heap_limit64(sqlite3_memory_used() + more);
+        {
+            const Phone phone(state.path());
+            sqlite3_hard_heap_limit64(0);
+            isEnough = static_cast<bool>(phone);
+            tooLittle += isEnough ? 0 : 1;
+            QCOMPARE(phone.opened.notice.startsWith(QStringLiteral("The call log is damaged")),
+                     isEnough && isDamaged);
+            QVERIFY2(isEnough || !phone.opened.error.isEmpty(), qPrintable(phone.opened.notice));
+        }
+        Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QCOMPARE(phone.opened.notice.isEmpty(), !isDamaged || isEnough);
+        if (!isDamaged)
+            QCOMPARE(phone.figures(), figures);
+        phone.close();
+        QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db"))), keptDamage);
+        const qsizetype calls = LogFile(state.database()).calls().size();
+        QVERIFY2(calls >= wholeCalls - (isDamaged ? 200 : 0), qPrintable(QString::number(calls)));
+    }
+    QVERIFY(tooLittle > 10);
 }
 
 void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
