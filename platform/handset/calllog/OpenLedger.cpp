@@ -100,12 +100,10 @@ FileAttempt openInDirectory(StateDirectory &directory, const ProgressListener &p
 }
 
 // What can be told of a ledger only when it is read.
-OpenedLedger open(std::unique_ptr<Ledger> ledger, QStringList notices, bool isUntold)
+OpenedLedger open(std::unique_ptr<Ledger> ledger, QStringList notices)
 {
     if (ledger->load(notices) != Success)
         return {nullptr, QStringLiteral("What the call log keeps of the SIM card cannot be read."), {}};
-    if (isUntold)
-        ledger->noticeIsTold();
     notices.removeAll({});
     return {std::move(ledger), {}, notices.join(QLatin1Char(' '))};
 }
@@ -115,7 +113,7 @@ OpenedLedger openInMemory(const std::shared_ptr<Clock> &clock)
     Attempt attempt = openDatabase(QStringLiteral(":memory:"), Care::Quick, Hold::Alone);
     if (!attempt.database)
         return {nullptr, QStringLiteral("The call log cannot be opened: %1.").arg(explain(attempt.finding)), {}};
-    return open(std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock), {}, false);
+    return open(std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock), {});
 }
 
 } // namespace
@@ -139,11 +137,13 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     auto ledger = std::make_unique<Ledger>(std::move(attempt.database), std::move(directory), clock);
     Ledger &opening = *ledger;
     const QString notice = place.notice();
-    OpenedLedger opened = open(std::move(ledger), {notice, untold}, !untold.isEmpty());
+    OpenedLedger opened = open(std::move(ledger), {notice, untold});
     if (!opened.ledger)
         return opened;
     if (!opening.record() && place.isRecording())
         return cannotBeUsed(place, explain(failure(opening.connection())));
+    if (!untold.isEmpty()) // now that nothing else can fail: of an opening that does only the error is told
+        opening.noticeIsTold();
     opening.connection().setPatience(Database::usualPatienceMs);
     opened.unread = attempt.unread;
     return opened;

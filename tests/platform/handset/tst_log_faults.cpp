@@ -150,6 +150,7 @@ private slots:
     void aDiskThatIsFullAtAnyPointLosesNoCall();
     void aDiskWithTooLittleSpaceIsSaidBeforeAnythingIsWritten();
     void aNoticeIsToldByTheNextStartWhenItsOwnFails();
+    void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
     void aTelephoneThatEndsStopsTheReadingOfTheFile();
 
 private:
@@ -356,6 +357,38 @@ void TestLogFaults::aNoticeIsToldByTheNextStartWhenItsOwnFails()
         QCOMPARE(Phone(attempt.path()).opened.notice, QString());
     }
     QVERIFY(isShown);
+}
+
+// Closing it is the last that an opening writes, and all that this one cannot.
+void TestLogFaults::aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed()
+{
+    const StateDir before;
+    const StateDir crashed;
+    {
+        Phone phone(before.path());
+        QCOMPARE(phone->addHistory(manyCalls()), int(Success));
+        QVERIFY(phone.dial());
+        phone.clock->advance(7 * second);
+        QCOMPARE(phone->checkpoint(), int(Success));
+        QVERIFY(copyState(before.path(), crashed.path()));
+    }
+    QVERIFY(LogFile(crashed.database())
+                .run(QStringLiteral("UPDATE totals SET counter = 'nothing of ours' WHERE counter = 'last'")));
+    const Surroundings files{"", readFile(crashed.database()), readFile(crashed.file(walFile)), true, true, {},
+                             {}};
+    const long writes = countOf(files, "pwrite");
+    int failed = 0;
+    for (long nth = writes; nth > 0 && nth > writes - 20; --nth) {
+        const StateDir state;
+        QVERIFY(putInto(state, files));
+        kavFaultsArm(qPrintable(state.path()), "pwrite", nth, ENOSPC, true);
+        const QString notice = openWithFaults(state);
+        kavFaultsDisarm();
+        failed += notice.isEmpty() ? 1 : 0;
+        const Phone next(state.path());
+        QVERIFY2(!(notice + next.opened.notice).isEmpty(), qPrintable(QString::number(nth - writes)));
+    }
+    QVERIFY(failed > 0);
 }
 
 void TestLogFaults::aTelephoneThatEndsStopsTheReadingOfTheFile()
