@@ -296,6 +296,10 @@ int StateDirectory::lock()
     useLock = openLockFile(filePath(QString::fromLatin1(lockName)));
     if (useLock < 0)
         return -useLock;
+    // What can never be locked would look like a lock of another process.
+    recorderLock = openLockFile(filePath(QString::fromLatin1(recorderName)));
+    if (recorderLock < 0)
+        return -recorderLock;
     return lockWithin(longestWaitMs, useLock, LOCK_SH);
 }
 
@@ -327,9 +331,7 @@ bool StateDirectory::record()
 {
     if (isRecording())
         return true;
-    if (recorderLock < 0)
-        recorderLock = openLockFile(filePath(QString::fromLatin1(recorderName)));
-    if (recorderLock < 0 || lockNow(recorderLock, LOCK_EX) != 0)
+    if (lockNow(recorderLock, LOCK_EX) != 0)
         return false;
     directoryLock = lockDirectory(path);
     if (directoryLock < 0)

@@ -279,21 +279,28 @@ void TestStateDirectory::aCallLogThatCannotBeWrittenIsTold()
 
 void TestStateDirectory::aLockThatIsSomethingElseIsAnError_data()
 {
+    QTest::addColumn<QString>("name");
     QTest::addColumn<int>("kind");
-    QTest::newRow("a directory") << int(S_IFDIR);
-    QTest::newRow("a link") << int(S_IFLNK);
+    for (const char *name : {"lock", "recorder"}) {
+        QTest::addRow("a directory named %s", name) << QString::fromLatin1(name) << int(S_IFDIR);
+        QTest::addRow("a link named %s", name) << QString::fromLatin1(name) << int(S_IFLNK);
+    }
 }
 
 void TestStateDirectory::aLockThatIsSomethingElseIsAnError()
 {
+    QFETCH(QString, name);
     QFETCH(int, kind);
     const StateDir state;
-    QVERIFY(QDir().mkpath(state.path()));
-    const QByteArray lock = QFile::encodeName(state.file(QStringLiteral("lock")));
+    QVERIFY(Phone(state.path()).dialed(second));
+    QVERIFY(QFile::remove(state.file(name)));
+    const QByteArray lock = QFile::encodeName(state.file(name));
     QCOMPARE(kind == S_IFDIR ? ::mkdir(lock.constData(), 0700) : ::symlink("elsewhere", lock.constData()), 0);
     const Phone phone(state.path());
     QVERIFY(!phone);
-    QVERIFY(phone.opened.error.contains(state.path()));
+    QVERIFY2(phone.opened.error.startsWith(
+                 QStringLiteral("The state directory \"%1\" cannot be used: ").arg(state.path())),
+             qPrintable(phone.opened.error));
     QVERIFY(!QFile::exists(state.file(QStringLiteral("elsewhere"))));
 }
 
