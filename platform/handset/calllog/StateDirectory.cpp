@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstring>
 #include <set>
+#include <tuple>
 #include <utility>
 
 #include <fcntl.h>
@@ -292,7 +293,8 @@ std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QStrin
 
 int StateDirectory::lock()
 {
-    openHere().insert(identityOf(path));
+    std::tie(ownDevice, ownInode) = identityOf(path);
+    openHere().insert({ownDevice, ownInode});
     useLock = openLockFile(filePath(QString::fromLatin1(lockName)));
     if (useLock < 0)
         return -useLock;
@@ -305,7 +307,7 @@ int StateDirectory::lock()
 
 StateDirectory::~StateDirectory()
 {
-    openHere().erase(identityOf(path));
+    openHere().erase({ownDevice, ownInode});
     for (const int fd : {directoryLock, recorderLock, useLock})
         if (fd >= 0)
             ::close(fd);

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+#include <sys/types.h>
+
 namespace handset::calllog {
 
 /// Two locks stand in it, and the kernel drops both with the process, however that ends. Every process that has the
@@ -92,6 +94,8 @@ private:
     QString whoHolds() const;
 
     QString path;
+    dev_t ownDevice = 0; ///< with the next, which directory it is, wherever it has gone since
+    ino_t ownInode = 0;
     int useLock = -1;
     int recorderLock = -1;
     int directoryLock = -1; ///< held with the one before

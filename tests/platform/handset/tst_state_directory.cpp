@@ -50,6 +50,7 @@ private slots:
     void aSecondTelephoneOfThisProcessIsRefusedToo();
     void theLockGoesWithTheProcessThatWasKilled();
     void theLockGoesWithTheTelephone();
+    void aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain();
     void removingTheLockFilesMakesNoSecondRecorder();
 };
 
@@ -381,6 +382,19 @@ void TestStateDirectory::theLockGoesWithTheTelephone()
     QVERIFY(!Phone(state.path()));
     phone.close();
     QVERIFY(Phone(state.path()));
+}
+
+void TestStateDirectory::aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain()
+{
+    const StateDir state;
+    Phone phone(state.path());
+    QVERIFY(phone.dialed(4 * second));
+    const QString renamed = state.sibling(QStringLiteral("renamed"));
+    QVERIFY(QDir().rename(state.path(), renamed));
+    phone.close();
+    const Phone again(renamed);
+    QVERIFY2(again, qPrintable(again.opened.error));
+    QCOMPARE(again.figures().dialed, quint64{4});
 }
 
 void TestStateDirectory::removingTheLockFilesMakesNoSecondRecorder()
