@@ -177,10 +177,15 @@ bool Ledger::putChecks()
            tables.put({QString::fromLatin1(keptChecked), "1"});
 }
 
-// The new ones are written, too, so that this is told once.
+// The new ones are written, too, so that this is told once; and what is to be told, in case that this opening fails.
 bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
 {
+    const QString keptUntold = QString::fromLatin1(keptNotice);
+    QByteArray untold;
+    if (!tables.kept(keptUntold, untold))
+        return false;
     charging::ChargingState state;
+    QStringList all{QString::fromUtf8(untold)};
     for (const KeptPart &part : keptParts) {
         const QString name = QString::fromLatin1(part.name);
         QByteArray content;
@@ -197,10 +202,12 @@ bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
                            : QStringLiteral(
                                  "%1 could not be read; a new one was begun and the old one kept as \"%2\".")
                                  .arg(what, unused));
+        all << notices.constLast();
         if (!tables.put({name, part.fresh(state)}))
             return false;
     }
-    return true;
+    all.removeAll({});
+    return tables.put({keptUntold, all.join(QLatin1Char(' ')).toUtf8()});
 }
 
 bool Ledger::record()

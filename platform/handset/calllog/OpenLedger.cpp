@@ -142,7 +142,8 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
         return opened;
     if (!opening.record() && place.isRecording())
         return cannotBeUsed(place, explain(failure(opening.connection())));
-    if (!untold.isEmpty()) // now that nothing else can fail: of an opening that does only the error is told
+    // Now that nothing else can fail: of an opening that does only the error is told.
+    if (!untoldNotice(opening.connection()).isEmpty())
         opening.noticeIsTold();
     opening.connection().setPatience(Database::usualPatienceMs);
     opened.unread = attempt.unread;

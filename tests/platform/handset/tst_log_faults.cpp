@@ -150,6 +150,7 @@ private slots:
     void aDiskThatIsFullAtAnyPointLosesNoCall();
     void aDiskWithTooLittleSpaceIsSaidBeforeAnythingIsWritten();
     void aNoticeIsToldByTheNextStartWhenItsOwnFails();
+    void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed_data();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
     void aTelephoneThatEndsStopsTheReadingOfTheFile();
 
@@ -359,9 +360,19 @@ void TestLogFaults::aNoticeIsToldByTheNextStartWhenItsOwnFails()
     QVERIFY(isShown);
 }
 
+void TestLogFaults::aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed_data()
+{
+    QTest::addColumn<QString>("change");
+    QTest::newRow("that the log was replaced")
+        << QStringLiteral("UPDATE totals SET counter = 'nothing of ours' WHERE counter = 'last'");
+    QTest::newRow("that the account was")
+        << QStringLiteral("UPDATE kept SET content = x'00' WHERE name = 'charging'");
+}
+
 // Closing it is the last that an opening writes, and all that this one cannot.
 void TestLogFaults::aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed()
 {
+    QFETCH(QString, change);
     const StateDir before;
     const StateDir crashed;
     {
@@ -372,8 +383,7 @@ void TestLogFaults::aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed()
         QCOMPARE(phone->checkpoint(), int(Success));
         QVERIFY(copyState(before.path(), crashed.path()));
     }
-    QVERIFY(LogFile(crashed.database())
-                .run(QStringLiteral("UPDATE totals SET counter = 'nothing of ours' WHERE counter = 'last'")));
+    QVERIFY(LogFile(crashed.database()).run(change));
     const Surroundings files{"", readFile(crashed.database()), readFile(crashed.file(walFile)), true, true, {},
                              {}};
     const long writes = countOf(files, "pwrite");
