@@ -7,6 +7,7 @@
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QFile>
 
 #include <algorithm>
 
@@ -112,11 +113,27 @@ QString findEmptyValue(const QCommandLineParser &parser)
     return {};
 }
 
+// Bytes that are no UTF-8 come as replacement characters, and would lead to a file of another name. (The state directory
+// says so itself.)
+QString findUnreadableName(const QCommandLineParser &parser)
+{
+    for (const char *name : {"trace", "plugin", "translation", "photo", "tour", "script"}) {
+        const QString option = QString::fromLatin1(name);
+        const QString value = parser.value(option);
+        if (value.contains(QChar(QChar::ReplacementCharacter)) ||
+            QFile::decodeName(QFile::encodeName(value)) != value)
+            return QStringLiteral("The name that option '%1' gives is not UTF-8.").arg(option);
+    }
+    return {};
+}
+
 QString findMistake(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
         return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
     if (QString mistake = findEmptyValue(parser); !mistake.isEmpty())
+        return mistake;
+    if (QString mistake = findUnreadableName(parser); !mistake.isEmpty())
         return mistake;
     if (parser.isSet(QStringLiteral("script")) && !parser.isSet(QStringLiteral("tour")))
         return QStringLiteral("Option 'script' needs option 'tour'.");

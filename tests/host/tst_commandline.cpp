@@ -8,6 +8,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
@@ -26,6 +27,8 @@ private slots:
     void helpAndVersionAreAnswered();
     void aWrongCommandLineIsRefusedWithCode2_data();
     void aWrongCommandLineIsRefusedWithCode2();
+    void aNameThatIsNotUtf8IsRefused_data();
+    void aNameThatIsNotUtf8IsRefused();
     void aPluginThatCannotServeIsNamed_data();
     void aPluginThatCannotServeIsNamed();
     void aPluginWithoutAScreenIsSaid();
@@ -141,6 +144,33 @@ void CommandLineTest::aWrongCommandLineIsRefusedWithCode2()
     QCOMPARE(result.code, 2);
     QVERIFY2(result.errors.contains(text), qPrintable(result.errors));
     QCOMPARE(result.output, QString());
+}
+
+void CommandLineTest::aNameThatIsNotUtf8IsRefused_data()
+{
+    QTest::addColumn<QByteArray>("option");
+    QTest::addColumn<QString>("others");
+    QTest::newRow("of a trace file") << QByteArray("trace") << "--state none --photo window.png";
+    QTest::newRow("of a photograph") << QByteArray("photo") << "--state none";
+    QTest::newRow("of a tour's directory") << QByteArray("tour") << "";
+    QTest::newRow("of a script") << QByteArray("script") << "--tour tour";
+    QTest::newRow("of a catalogue") << QByteArray("translation") << "--state none --photo window.png";
+}
+
+// A shell makes the byte, as QProcess takes texts.
+void CommandLineTest::aNameThatIsNotUtf8IsRefused()
+{
+    QFETCH(QByteArray, option);
+    QFETCH(QString, others);
+    QProcess shell;
+    shell.setProcessEnvironment(environment);
+    shell.setWorkingDirectory(home->path());
+    shell.start("sh", {"-c", QStringLiteral("exec \"$0\" %1 --%2 \"$(printf 'n\\377')\"").arg(others, option),
+                       QStringLiteral(KAV_HOST_PROGRAM)});
+    QVERIFY(shell.waitForFinished(60'000));
+    const QByteArray errors = shell.readAllStandardError();
+    QVERIFY2(errors.contains("The name that option '" + option + "' gives is not UTF-8."), errors.constData());
+    QCOMPARE(shell.exitCode(), 2);
 }
 
 void CommandLineTest::aPluginThatCannotServeIsNamed_data()

@@ -7,9 +7,11 @@
 #include <QtCore/QList>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <optional>
 
 #include <fcntl.h>
@@ -63,12 +65,13 @@ std::optional<QByteArray> bytesOfHex(const QByteArray &hex)
     return QByteArray::fromHex(hex);
 }
 
-// One byte more than a bus carries is enough to know.
+// One byte more than a bus carries is enough to know. The name may have any bytes, which one of Qt's may not.
 std::optional<QByteArray> bytesOfFile(const QByteArray &name)
 {
-    QFile file(QFile::decodeName(name));
-    if (!file.open(QIODevice::ReadOnly)) {
-        complain("cannot read ", name + ": " + file.errorString().toLocal8Bit());
+    QFile file;
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        complain("cannot read ", name + ": " + std::strerror(errno));
         return std::nullopt;
     }
     QByteArray bytes;

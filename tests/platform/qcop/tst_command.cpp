@@ -39,6 +39,7 @@ private slots:
     void aSentMessageReachesASubscriber_data();
     void aSentMessageReachesASubscriber();
     void aFileIsSentWhole();
+    void aFileWhoseNameIsNotUtf8IsSent();
     void aListenerPrintsEachMessageAsALine();
     void aListenerHearsASenderOnAnyChannelName();
     void withoutABusItFailsAndSaysSo_data();
@@ -106,6 +107,22 @@ void TestCommand::aFileIsSentWhole()
     Command command(bus.address(), {"send", phone, "m", "--data-file", file.fileName().toLocal8Bit()});
     QCOMPARE(command.finish(), 0);
     QCOMPARE(peer.take(), Peer::line(1, "m", data));
+}
+
+void TestCommand::aFileWhoseNameIsNotUtf8IsSent()
+{
+    const QTemporaryDir folder;
+    const QByteArray name = QFile::encodeName(folder.filePath("f")) + '\xff';
+    const int file = ::open(name.constData(), O_WRONLY | O_CREAT, 0600);
+    QCOMPARE(::write(file, "content", 7), 7);
+    ::close(file);
+    Peer peer(bus.address());
+    QVERIFY(peer.subscribe(1, phone));
+    Command command(bus.address(), {"send", phone, "m", "--data-file", name});
+    const int status = command.finish();
+    QCOMPARE(::unlink(name.constData()), 0); // which Qt cannot
+    QCOMPARE(status, 0);
+    QCOMPARE(peer.take(), Peer::line(1, "m", "content"));
 }
 
 void TestCommand::aListenerPrintsEachMessageAsALine()
