@@ -590,6 +590,16 @@ QString passedLimit(const Script &script, qsizetype keys)
     return {};
 }
 
+// A line may have megabytes.
+QString shortened(const QString &mistake)
+{
+    constexpr qsizetype mostBefore = 200;
+    constexpr qsizetype mostBehind = 100;
+    if (mistake.size() <= mostBefore + mostBehind)
+        return mistake;
+    return mistake.left(mostBefore) + QStringLiteral(" ... ") + mistake.right(mostBehind);
+}
+
 } // namespace
 
 Script parseScript(const QString &name, const QString &text)
@@ -612,7 +622,7 @@ Script parseScript(const QString &name, const QString &text)
         if (parsed.action)
             script.steps.append({number, line, *parsed.action});
         else
-            script.mistakes << QStringLiteral("%1: %2").arg(script.place(number), parsed.mistake);
+            script.mistakes << QStringLiteral("%1: %2").arg(script.place(number), shortened(parsed.mistake));
     }
     return script;
 }

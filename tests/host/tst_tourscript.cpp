@@ -32,6 +32,8 @@ private slots:
     void whatIsPrintedCanBeExpected();
     void mistakes_data();
     void mistakes();
+    void aMistakeInALineOfMegabytesIsShort_data();
+    void aMistakeInALineOfMegabytesIsShort();
 };
 
 template <typename T>
@@ -339,6 +341,25 @@ void TourScriptTest::mistakes_data()
     QTest::newRow("a photograph elsewhere") << "photo ../x";
     QTest::newRow("a photograph without a name") << "photo";
     QTest::newRow("a hidden photograph") << "photo .x";
+}
+
+void TourScriptTest::aMistakeInALineOfMegabytesIsShort_data()
+{
+    QTest::addColumn<QString>("line");
+    const QString much(4'000'000, u'x');
+    QTest::newRow("an unknown word") << much;
+    QTest::newRow("an unknown key") << "press " + much;
+    QTest::newRow("an unknown screen") << "open " + much;
+    QTest::newRow("an unknown operation") << "fail " + much + " 3";
+}
+
+void TourScriptTest::aMistakeInALineOfMegabytesIsShort()
+{
+    QFETCH(QString, line);
+    const Script script = parseScript(QStringLiteral("a.tour"), line);
+    QCOMPARE(script.mistakes.size(), 1);
+    QVERIFY2(script.mistakes[0].size() < 400, qPrintable(script.mistakes[0].left(1'000)));
+    QVERIFY(script.mistakes[0].contains(" ... "));
 }
 
 void TourScriptTest::mistakes()
