@@ -146,6 +146,12 @@ QString whoElseMayWrite(const struct stat &directory)
                                                           : QString();
 }
 
+// Who may write the directory above may give this one another name; where that has the sticky bit, only the owner may.
+bool maySomebodyElseRename(const struct stat &above)
+{
+    return (above.st_mode & (S_IWGRP | S_IWOTH)) != 0 && (above.st_mode & S_ISVTX) == 0;
+}
+
 /// Closed with the object.
 class Descriptor
 {
@@ -370,10 +376,14 @@ QString StateDirectory::notice() const
     struct stat status = {};
     if (::stat(encoded(path).constData(), &status) != 0)
         return {};
-    const QString who = whoElseMayWrite(status);
-    return who.isEmpty() ? QString()
-                         : QStringLiteral("The state directory \"%1\" %2, who can change what is kept in it.")
-                               .arg(path, who);
+    if (const QString who = whoElseMayWrite(status); !who.isEmpty())
+        return QStringLiteral("The state directory \"%1\" %2, who can change what is kept in it.").arg(path, who);
+    struct stat above = {};
+    if (::fstatat(directoryLock, "..", &above, 0) != 0 || !maySomebodyElseRename(above))
+        return {};
+    return QStringLiteral("The state directory \"%1\" lies in one that may be written by other users, who can put "
+                          "another in its place.")
+        .arg(path);
 }
 
 QString StateDirectory::filePath(const QString &name) const

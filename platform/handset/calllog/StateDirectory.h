@@ -38,7 +38,8 @@ public:
     StateDirectory(const StateDirectory &) = delete;
     StateDirectory &operator=(const StateDirectory &) = delete;
 
-    /// What the user should know of the directory, in one sentence: that others may write it. Empty for nothing.
+    /// What the user should know of the directory, in one sentence: that others may write it, or may put
+    /// another in its place. Empty for nothing.
     QString notice() const;
 
     QString filePath(const QString &name) const;

@@ -34,6 +34,8 @@ private slots:
     void aDirectoryThatCannotBeUsedIsOneSentence();
     void aDirectoryThatOthersMayWriteIsTold_data();
     void aDirectoryThatOthersMayWriteIsTold();
+    void aDirectoryThatOthersMayReplaceIsTold_data();
+    void aDirectoryThatOthersMayReplaceIsTold();
     void aDirectoryOfAnotherUserIsTold();
     void aLeftoverWithWrongRightsIsMendedOrNamed_data();
     void aLeftoverWithWrongRightsIsMendedOrNamed();
@@ -124,6 +126,35 @@ void TestStateDirectory::aDirectoryThatOthersMayWriteIsTold()
                                               "change what is kept in it.");
         QCOMPARE(phone.opened.notice, isTold ? notice.arg(state.path()) : QString());
     }
+}
+
+void TestStateDirectory::aDirectoryThatOthersMayReplaceIsTold_data()
+{
+    QTest::addColumn<int>("modeAbove");
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("the user alone") << 0700 << false;
+    QTest::newRow("others may look") << 0755 << false;
+    QTest::newRow("the group may write") << 0770 << true;
+    QTest::newRow("everybody may write") << 0777 << true;
+    QTest::newRow("everybody may write, but rename only what is theirs") << 01777 << false;
+}
+
+void TestStateDirectory::aDirectoryThatOthersMayReplaceIsTold()
+{
+    QFETCH(int, modeAbove);
+    QFETCH(bool, isTold);
+    const StateDir state;
+    const QString above = state.sibling(QStringLiteral("above"));
+    const QString path = above + QStringLiteral("/state");
+    QVERIFY(QDir().mkpath(above));
+    QCOMPARE(::mkdir(QFile::encodeName(path).constData(), 0700), 0);
+    QCOMPARE(::chmod(QFile::encodeName(above).constData(), static_cast<mode_t>(modeAbove)), 0);
+    const Phone phone(path);
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    const QString notice =
+        QStringLiteral("The state directory \"%1\" lies in one that may be written by other users, "
+                       "who can put another in its place.");
+    QCOMPARE(phone.opened.notice, isTold ? notice.arg(path) : QString());
 }
 
 void TestStateDirectory::aDirectoryOfAnotherUserIsTold()
