@@ -36,13 +36,14 @@ constexpr auto copyAll =
     "INSERT INTO costs (counter, units) SELECT counter, units FROM theirs.costs;"
     "INSERT INTO kept (name, content) VALUES ('card', zeroblob(150));";
 
-constexpr auto rows = " (SELECT 0, kind, direction, number, started_ms, duration_ms, state, units FROM %1.calls"
-                      " UNION ALL SELECT 1, counter, ms, 0, 0, 0, 0, 0 FROM %1.totals"
-                      " UNION ALL SELECT 2, counter, units, 0, 0, 0, 0, 0 FROM %1.costs) ";
+constexpr auto everyRow =
+    " (SELECT 0, kind, direction, number, started_ms, duration_ms, state, units FROM %1.calls"
+    " UNION ALL SELECT 1, counter, ms, 0, 0, 0, 0, 0 FROM %1.totals"
+    " UNION ALL SELECT 2, counter, units, 0, 0, 0, 0, 0 FROM %1.costs) ";
 
 QByteArray numberOfMissing(const char *here, const char *there)
 {
-    const QString all = QString::fromLatin1(rows);
+    const QString all = QString::fromLatin1(everyRow);
     const QString sql = QStringLiteral("SELECT count(*) FROM (SELECT * FROM ") + all.arg(QLatin1StringView(here)) +
                         QStringLiteral("EXCEPT SELECT * FROM ") + all.arg(QLatin1StringView(there)) + u')';
     return sql.toUtf8();
