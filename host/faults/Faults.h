@@ -3,12 +3,14 @@
 
 #include "Operations.h"
 
+#include <array>
+
 namespace host {
 
 class Faults
 {
 public:
-    /// What operation `index` (a row of operationNames) answers instead of doing anything; 0: it works.
+    /// What operation `index` (a row of handset::operationNames) answers instead of doing anything; 0: it works.
     int code(int index) const { return codes[static_cast<std::size_t>(index)]; }
     /// 0 lets it work again.
     void set(int index, int code) { codes[static_cast<std::size_t>(index)] = code; }
@@ -17,7 +19,7 @@ public:
     friend bool operator==(const Faults &, const Faults &) = default;
 
 private:
-    std::array<int, operationNames.size()> codes{};
+    std::array<int, handset::operationNames.size()> codes{};
 };
 
 } // namespace host

@@ -1,47 +1,30 @@
 // A telephone some of whose operations fail, in front of another.
 #pragma once
 
-#include "FaultyRoles.h"
-
-#include <memory>
+#include "DecoratedHandset.h"
+#include "Faults.h"
 
 namespace host {
 
 /// What the phone's libraries talk to, so that it can be seen what they do when the telephone does not answer. An
 /// operation that fails answers its code, does not reach the telephone behind and writes no output; all others are
 /// the telephone's. A role that the telephone has not is null here too.
-class FaultyHandset final : public handset::Handset
+class FaultyHandset final : public handset::DecoratedHandset<FaultyHandset>
 {
 public:
-    /// `telephone` is not null.
-    explicit FaultyHandset(std::shared_ptr<handset::Handset> telephone)
-        : behind(std::move(telephone))
-    {}
+    using DecoratedHandset::DecoratedHandset;
 
     Faults &faults() { return failing; }
 
-    handset::CallService *callService() override { return inFront(behind->callService(), service); }
-    handset::CallLog *callLog() override { return inFront(behind->callLog(), log); }
-    handset::DataCalls *dataCalls() override { return inFront(behind->dataCalls(), data); }
-    handset::AdviceOfCharge *adviceOfCharge() override { return inFront(behind->adviceOfCharge(), charge); }
-    handset::PacketData *packetData() override { return inFront(behind->packetData(), packets); }
-    handset::SimSecurity *simSecurity() override { return inFront(behind->simSecurity(), sim); }
-
-private:
-    template <typename Role, typename Faulty>
-    static Role *inFront(Role *real, Faulty &faulty)
+    template <typename... Arguments>
+    std::optional<int> before(int operation, Arguments &...)
     {
-        return real ? &faulty : nullptr;
+        const int code = failing.code(operation);
+        return code == 0 ? std::nullopt : std::optional(code);
     }
 
-    std::shared_ptr<handset::Handset> behind;
+private:
     Faults failing;
-    FaultyCallService service{*behind, failing};
-    FaultyCallLog log{*behind, failing};
-    FaultyDataCalls data{*behind, failing};
-    FaultyAdviceOfCharge charge{*behind, failing};
-    FaultyPacketData packets{*behind, failing};
-    FaultySimSecurity sim{*behind, failing};
 };
 
 } // namespace host

@@ -20,14 +20,7 @@ constexpr int operationRole = Qt::UserRole;
 
 QString nameOf(std::size_t index)
 {
-    return QString::fromLatin1(operationNames[index]);
-}
-
-// Without its class, which is the longer half of some: the panel is narrow.
-QString shortName(const QString &name)
-{
-    const qsizetype colons = name.indexOf(QStringLiteral("::"));
-    return colons < 0 ? name : name.mid(colons + 2);
+    return QString::fromLatin1(handset::operationNames[index]);
 }
 
 QString breakableAtColons(QString name)
@@ -58,8 +51,8 @@ FailuresSection::FailuresSection(Faults &telephoneFaults)
 
 void FailuresSection::prepareControls()
 {
-    for (std::size_t index = 0; index < operationNames.size(); ++index) {
-        operation->addItem(shortName(nameOf(index)));
+    for (std::size_t index = 0; index < handset::operationNames.size(); ++index) {
+        operation->addItem(nameOf(index));
         operation->setItemData(static_cast<int>(index), nameOf(index), Qt::ToolTipRole);
     }
     operation->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -125,7 +118,7 @@ void FailuresSection::fillList()
     const int before = failing->currentRow();
     const Quietly list(failing);
     list->clear();
-    for (int index = 0; index < static_cast<int>(operationNames.size()); ++index) {
+    for (int index = 0; index < static_cast<int>(handset::operationNames.size()); ++index) {
         if (faults.code(index) == 0)
             continue;
         const QString name = nameOf(static_cast<std::size_t>(index));

@@ -1,8 +1,8 @@
 #include "TourScript.h"
 
 #include "Latin1.h"
+#include "Operations.h"
 #include "ScreenTable.h"
-#include "faults/Operations.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QRegularExpression>
@@ -353,7 +353,7 @@ Parsed parseFail(const QString &rest)
     const int code = words.value(1).toInt(&isNumber);
     if (words.size() != 2 || !isNumber)
         return Parsed::wrong(QStringLiteral("failing is \"fail NAME CODE\" or \"fail nothing\""));
-    const int operation = operationIndex(words[0].toStdString());
+    const int operation = handset::operationIndex(words[0].toStdString());
     if (operation < 0)
         return Parsed::wrong(QStringLiteral("there is no operation \"%1\"").arg(words[0]));
     return done(Fail{operation, code});

@@ -64,7 +64,7 @@ struct SetPin2 {
     enum Kind { On, Off, Forgotten } kind = On;
 };
 struct Fail {
-    int operation = -1; ///< row of operationNames; -1: all work again
+    int operation = -1; ///< row of handset::operationNames; -1: all work again
     int code = 0;       ///< 0: the operation works again
 };
 struct StartSession {

@@ -1043,7 +1043,7 @@ void PanelTest::anUpdateIsSentByHand()
     QVERIFY(list);
     QCOMPARE(telephone->packets().startSession("internet", 1, 1), 0);
     QTRY_COMPARE_WITH_TIMEOUT(list->item(1)->title(), "internet", 60'000);
-    installed->faults().set(operationIndex("TAPI_GPRS_GetAllSessionInfo"), 3);
+    installed->faults().set(handset::operationIndex("PacketData::sessions"), 3);
     showTab("Data");
     click("Send update");
     QTRY_COMPARE_WITH_TIMEOUT(list->item(1)->title(), "GPRS Data Session 1", 60'000);
@@ -1055,9 +1055,9 @@ void PanelTest::operationsFailAndWorkAgain()
 {
     showTab("Failures");
     Faults &faults = installed->faults();
-    QCOMPARE(control<QComboBox>("operation")->count(), static_cast<int>(operationNames.size()));
-    const int lastCall = operationIndex("TAPI_LOG_GetLastCallTime");
-    const int dataCalls = operationIndex("PHONE_MsgClient::getTotalByteAndConnectedDuration");
+    QCOMPARE(control<QComboBox>("operation")->count(), static_cast<int>(handset::operationNames.size()));
+    const int lastCall = handset::operationIndex("CallLog::lastCallTime");
+    const int dataCalls = handset::operationIndex("DataCalls::refreshTotals");
     choose("operation", lastCall);
     enter("failure code", "17");
     click("Let it fail");
@@ -1066,14 +1066,13 @@ void PanelTest::operationsFailAndWorkAgain()
     enter("failure code", "-2");
     click("Let it fail");
     QCOMPARE(faults.code(dataCalls), -2);
-    QCOMPARE(failing(), (QStringList{"TAPI_LOG_GetLastCallTime: 17",
-                                     "PHONE_MsgClient::getTotalByteAndConnectedDuration: -2"}));
+    QCOMPARE(failing(), (QStringList{"CallLog::lastCallTime: 17", "DataCalls::refreshTotals: -2"}));
     enter("failure code", "-3");
     click("Let it fail"); // another code for the same
-    QCOMPARE(failing().last(), "PHONE_MsgClient::getTotalByteAndConnectedDuration: -3");
+    QCOMPARE(failing().last(), "DataCalls::refreshTotals: -3");
     control<QListWidget>("failing")->setCurrentRow(1);
     click("Remove");
-    QCOMPARE(failing(), QStringList{"TAPI_LOG_GetLastCallTime: 17"});
+    QCOMPARE(failing(), QStringList{"CallLog::lastCallTime: 17"});
     QCOMPARE(faults.code(dataCalls), 0);
     faults.set(dataCalls, 9); // from elsewhere
     QCOMPARE(telephone->ring({}), 0);
@@ -1089,7 +1088,7 @@ void PanelTest::aFailureIsSeenOnThePhone()
 {
     click("Add a ready-made history");
     showTab("Failures");
-    choose("operation", operationIndex("TAPI_LOG_GetLastCallTime"));
+    choose("operation", handset::operationIndex("CallLog::lastCallTime"));
     click("Let it fail");
     QVERIFY(window->openScreen(0));
     auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());

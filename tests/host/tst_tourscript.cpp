@@ -1,7 +1,7 @@
 // What a line of a script means.
 
+#include "Operations.h"
 #include "TestGroup.h"
-#include "faults/Operations.h"
 #include "tour/TourScript.h"
 
 #include <QtCore/QRegularExpression>
@@ -189,10 +189,10 @@ void TourScriptTest::chargingAndTheSimCard()
 
 void TourScriptTest::failuresAndPacketData()
 {
-    const auto fail = onlyAction<Fail>("fail PHONE_ENG_Setup::getMeterMax -3");
-    QCOMPARE(fail.operation, host::operationIndex("PHONE_ENG_Setup::getMeterMax"));
+    const auto fail = onlyAction<Fail>("fail AdviceOfCharge::meterMaximum -3");
+    QCOMPARE(fail.operation, handset::operationIndex("AdviceOfCharge::meterMaximum"));
     QCOMPARE(fail.code, -3);
-    QCOMPARE(onlyAction<Fail>("fail TAPI_CS_ResetCallTime 0").code, 0);
+    QCOMPARE(onlyAction<Fail>("fail CallService::resetCallTime 0").code, 0);
     QCOMPARE(onlyAction<Fail>("fail nothing").operation, -1);
     const auto session = onlyAction<StartSession>("session start internet.example 100 4294967295");
     QCOMPARE(session.apn, "internet.example");
@@ -317,9 +317,9 @@ void TourScriptTest::mistakes_data()
     QTest::newRow("a rule that there is not") << "rule acm always";
     QTest::newRow("a rule too long") << "rule acm free now";
     QTest::newRow("a PIN2 that is told") << "pin2 1234";
-    QTest::newRow("failing with no code") << "fail TAPI_CS_ResetCallTime";
-    QTest::newRow("failing with no number") << "fail TAPI_CS_ResetCallTime x";
-    QTest::newRow("an operation that there is not") << "fail TAPI_CS_Nothing 3";
+    QTest::newRow("failing with no code") << "fail CallService::resetCallTime";
+    QTest::newRow("failing with no number") << "fail CallService::resetCallTime x";
+    QTest::newRow("an operation that there is not") << "fail CallService::nothing 3";
     QTest::newRow("a session without rates") << "session start internet";
     QTest::newRow("a session that sends less than nothing") << "session start internet -1 0";
     QTest::newRow("a session that sends too much") << "session start internet 4294967296 0";

@@ -1,32 +1,31 @@
 #include "Script.h"
 
-QStringList Script::operations() const
-{
-    QStringList names;
-    for (const auto &[operation, step] : steps)
-        names.append(QString::fromLatin1(operation.data(), static_cast<qsizetype>(operation.size())));
-    return names;
-}
+#include "Journal.h"
 
 void Script::failAll(int status)
 {
-    for (auto &[operation, step] : steps)
+    for (Step &step : steps)
         step.status = status;
 }
 
 Script::Step &Script::known(std::string_view operation)
 {
-    const auto found = steps.find(operation);
-    if (found == steps.end())
-        qFatal("no scripted telephone has an operation %s", operation.data());
-    return found->second;
+    const int index = handset::operationIndex(operation);
+    if (index < 0)
+        qFatal("no telephone has an operation %s", operation.data());
+    return steps[static_cast<std::size_t>(index)];
 }
 
-const Script::Step &Script::begin(const char *operation, const QString &arguments)
+void Script::recordLine(int operation, const QStringList &inputs)
 {
-    Step &step = known(operation);
-    const QString name = QString::fromLatin1(operation);
-    Journal::shared().record(arguments.isNull() ? name : name + QLatin1Char('(') + arguments + QLatin1Char(')'));
+    const QString name = QString::fromLatin1(handset::operationNames[static_cast<std::size_t>(operation)]);
+    const QString text = inputs.size() == 1 ? inputs.first() : inputs.join(QStringLiteral(", "));
+    Journal::shared().record(text.isNull() ? name : name + QLatin1Char('(') + text + QLatin1Char(')'));
+}
+
+const Script::Step &Script::begin(int operation)
+{
+    const Step &step = steps[static_cast<std::size_t>(operation)];
     const std::function<void()> effect = step.effect; // which may script this very operation anew
     if (effect)
         effect();

@@ -1,26 +1,24 @@
 // What the operations of a scripted telephone answer, as data.
 #pragma once
 
-#include "Journal.h"
+#include "Operations.h"
 
+#include <QtCore/QByteArray>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <any>
+#include <array>
 #include <functional>
-#include <map>
 #include <string_view>
 #include <tuple>
+#include <type_traits>
 
 /// Answers for operations named as text ("CallLog::lastCallTime"). An operation that nobody scripted succeeds and
-/// answers zeroes. Operations have to be made known first, so that a misspelt name ends the test program at once
-/// instead of scripting nothing.
+/// answers zeroes. A misspelt name ends the test program at once instead of scripting nothing.
 class Script
 {
 public:
-    void makeKnown(const char *operation) { steps[operation]; }
-    QStringList operations() const;
-
     /// From now on `operation` succeeds with these outputs, whose types are those of its parameters.
     template <typename... Outputs>
     void answer(const char *operation, Outputs... outputs)
@@ -36,20 +34,24 @@ public:
     /// Runs whenever `operation` is called, before it answers.
     void whenCalled(const char *operation, std::function<void()> effect) { known(operation).effect = effect; }
 
-    /// For the roles: records the call and plays its answer. Outputs are written on success only.
-    template <typename... Outputs>
-    int play(const char *operation, Outputs &...outputs)
+    /// Records the call of a row of handset::operationNames and plays its answer. Arguments that are const go in and
+    /// appear behind the name in the journal; the others are written, on success only.
+    template <typename... Arguments>
+    int play(int operation, Arguments &...arguments)
     {
-        return playWith(operation, QString(), outputs...);
-    }
-    /// The same for an operation with arguments, which appear behind its name in the journal.
-    template <typename... Outputs>
-    int playWith(const char *operation, const QString &arguments, Outputs &...outputs)
-    {
-        const Step &step = begin(operation, arguments);
+        record(operation, arguments...);
+        const Step &step = begin(operation);
         if (step.status == 0 && step.outputs.has_value())
-            writeOutputs(operation, step.outputs, outputs...);
+            writeOutputs(operation, step.outputs, std::tuple_cat(ifOutput(arguments)...));
         return step.status;
+    }
+    /// The line of the journal alone.
+    template <typename... Arguments>
+    static void record(int operation, Arguments &...arguments)
+    {
+        QStringList inputs;
+        (addInput(inputs, arguments), ...);
+        recordLine(operation, inputs);
     }
 
 private:
@@ -59,17 +61,37 @@ private:
         std::function<void()> effect;
     };
 
+    static QString textOf(quint8 number) { return QString::number(number); }
+    static QString textOf(const QString &text) { return text; }
+    static QString textOf(const QByteArray &text) { return QString::fromLatin1(text); }
+
+    template <typename Argument>
+    static void addInput(QStringList &inputs, Argument &argument)
+    {
+        if constexpr (std::is_const_v<Argument>)
+            inputs.append(textOf(argument));
+    }
+    template <typename Argument>
+    static auto ifOutput(Argument &argument)
+    {
+        if constexpr (std::is_const_v<Argument>)
+            return std::tuple<>();
+        else
+            return std::tie(argument);
+    }
     template <typename... Outputs>
-    static void writeOutputs(const char *operation, const std::any &scripted, Outputs &...outputs)
+    static void writeOutputs(int operation, const std::any &scripted, std::tuple<Outputs &...> outputs)
     {
         const auto *values = std::any_cast<std::tuple<Outputs...>>(&scripted);
         if (!values)
-            qFatal("%s is scripted with outputs of other types than it has", operation);
-        std::tie(outputs...) = *values;
+            qFatal("%s is scripted with outputs of other types than it has",
+                   handset::operationNames[static_cast<std::size_t>(operation)]);
+        outputs = *values;
     }
 
+    static void recordLine(int operation, const QStringList &inputs);
     Step &known(std::string_view operation);
-    const Step &begin(const char *operation, const QString &arguments);
+    const Step &begin(int operation);
 
-    std::map<std::string_view, Step> steps;
+    std::array<Step, handset::operationNames.size()> steps;
 };

@@ -110,19 +110,19 @@ CostSetupModel::CostSetupModel(ExpectedTelephone &expected)
 
 // --- the telephone
 
-int CostSetupModel::call(Mood::Operation operation, const QString &arguments)
+int CostSetupModel::call(const char *operation, const QString &arguments)
 {
-    const QString name = QString::fromLatin1(Mood::names[operation]);
+    const QString name = QString::fromLatin1(operation);
     telephone.calls.append(arguments.isNull() ? name : name + QLatin1Char('(') + arguments + QLatin1Char(')'));
-    const int status = telephone.mood.status[operation];
+    const int status = telephone.mood.statusOf(operation);
     if (status != 0)
-        telephone.happened(QByteArray(Mood::names[operation]).append(" fails").constData());
+        telephone.happened(QByteArray(operation).append(" fails").constData());
     return status;
 }
 
 quint8 CostSetupModel::ruleOf(int file)
 {
-    return call(Mood::UpdateRule, QString::number(file)) == 0 ? telephone.mood.rules.value(file) : 0;
+    return call("AdviceOfCharge::updateRule", QString::number(file)) == 0 ? telephone.mood.rules.value(file) : 0;
 }
 
 void CostSetupModel::disable(int first, int last, quint8 rule)
@@ -133,11 +133,11 @@ void CostSetupModel::disable(int first, int last, quint8 rule)
 
 QString CostSetupModel::askUnit()
 {
-    if (call(Mood::ChargeType) != 0)
+    if (call("AdviceOfCharge::chargeType") != 0)
         return QString();
     if (telephone.stored.chargeType == 0)
         return QStringLiteral("units");
-    if (telephone.stored.chargeType != 1 || call(Mood::PriceAndCurrency) != 0)
+    if (telephone.stored.chargeType != 1 || call("AdviceOfCharge::priceAndCurrency") != 0)
         return QString();
     return telephone.stored.currency;
 }
@@ -145,17 +145,17 @@ QString CostSetupModel::askUnit()
 void CostSetupModel::refresh()
 {
     const QString behind = QLatin1Char(' ') + askUnit();
-    if (call(Mood::MeterMaximum) != 0)
+    if (call("AdviceOfCharge::meterMaximum") != 0)
         return;
     edited.limit = telephone.stored.limit;
     edited.limitIsOn = telephone.stored.limitIsOn;
     showLimit();
     rows[5].value = edited.limit + behind;
-    if (call(Mood::ChargeType) != 0)
+    if (call("AdviceOfCharge::chargeType") != 0)
         return;
     edited.chargeType = telephone.stored.chargeType;
     showChargeType();
-    if (call(Mood::PriceAndCurrency) != 0)
+    if (call("AdviceOfCharge::priceAndCurrency") != 0)
         return;
     edited.price = telephone.stored.price;
     edited.currency = telephone.stored.currency;
@@ -185,12 +185,12 @@ bool CostSetupModel::writeLimit()
     if (changes.limit) {
         if (changes.limitIsOn && !edited.limitIsOn)
             telephone.happened("a new limit drops the switched-off one");
-        if (call(Mood::SetMeterMaximum, edited.limit) != 0)
+        if (call("AdviceOfCharge::setMeterMaximum", edited.limit) != 0)
             return false;
         telephone.stored.limit = edited.limit;
         telephone.stored.limitIsOn = true;
     } else if (changes.limitIsOn && !edited.limitIsOn) {
-        if (call(Mood::DisableMeterMaximum) != 0)
+        if (call("AdviceOfCharge::disableMeterMaximum") != 0)
             return false;
         telephone.stored.limitIsOn = false;
     }
@@ -202,12 +202,12 @@ void CostSetupModel::write()
     if (!writeLimit())
         return;
     if (changes.chargeType) {
-        if (call(Mood::SetChargeType, QString::number(edited.chargeType)) != 0)
+        if (call("AdviceOfCharge::setChargeType", QString::number(edited.chargeType)) != 0)
             return;
         telephone.stored.chargeType = edited.chargeType;
     }
     if (changes.price || changes.currency) {
-        if (call(Mood::SetPriceAndCurrency, edited.price + QLatin1String(", ") + edited.currency) != 0)
+        if (call("AdviceOfCharge::setPriceAndCurrency", edited.price + QLatin1String(", ") + edited.currency) != 0)
             return;
         telephone.stored.price = edited.price;
         telephone.stored.currency = edited.currency;
@@ -377,7 +377,7 @@ bool CostSetupModel::mayOpen(int row)
     telephone.calls.append(QStringLiteral("SimSecurity::pinStatus(1)"));
     lastIndex = row;
     const quint8 rule = row < 4 ? ruleOfCosts : row < 6 ? ruleOfLimit : ruleOfPrice;
-    const bool isEntered = telephone.mood.statusOfPinStatus == 0 && telephone.mood.pinStatus == 3;
+    const bool isEntered = telephone.mood.statusOf("SimSecurity::pinStatus") == 0 && telephone.mood.pinStatus == 3;
     if (rule != 4 || isEntered)
         return true;
     const bool accepted = pinIsAccepted();
@@ -395,13 +395,13 @@ bool CostSetupModel::pinIsAccepted()
     }
     for (const QByteArray &digits : answer.attempts) {
         telephone.calls.append(QStringLiteral("SimSecurity::pinStatus(1)"));
-        if (telephone.mood.statusOfPinStatus != 0)
+        if (telephone.mood.statusOf("SimSecurity::pinStatus") != 0)
             return false;
         telephone.calls.append(QStringLiteral("SimSecurity::triesLeft(1)"));
         if (telephone.mood.pinStatus == 2 || telephone.mood.triesLeft == 0 || digits.isEmpty())
             return false;
         telephone.calls.append(QStringLiteral("SimSecurity::verifyPin(1, %1)").arg(QString::fromLatin1(digits)));
-        if (telephone.mood.statusOfVerifyPin != 0)
+        if (telephone.mood.statusOf("SimSecurity::verifyPin") != 0)
             return false;
         if (digits == "1234")
             return true;

@@ -2,6 +2,8 @@
 // walk over the real one is held.
 #pragma once
 
+#include "Operations.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QMap>
@@ -10,6 +12,7 @@
 
 #include <array>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 /// The settings of the advice of charge.
@@ -23,29 +26,13 @@ struct ChargeSettings {
 
 /// How the telephone answers now. A status of 0 is success.
 struct TelephoneMood {
-    enum Operation {
-        UpdateRule,
-        MeterMaximum,
-        SetMeterMaximum,
-        DisableMeterMaximum,
-        ChargeType,
-        SetChargeType,
-        PriceAndCurrency,
-        SetPriceAndCurrency,
-        OperationCount
-    };
-    static constexpr std::array<const char *, OperationCount> names = {
-        "AdviceOfCharge::updateRule",       "AdviceOfCharge::meterMaximum",
-        "AdviceOfCharge::setMeterMaximum",  "AdviceOfCharge::disableMeterMaximum",
-        "AdviceOfCharge::chargeType",       "AdviceOfCharge::setChargeType",
-        "AdviceOfCharge::priceAndCurrency", "AdviceOfCharge::setPriceAndCurrency",
-    };
-
-    std::array<int, OperationCount> status = {};
+    std::array<int, handset::operationNames.size()> status = {};
+    int &statusOf(std::string_view operation)
+    {
+        return status.at(static_cast<std::size_t>(handset::operationIndex(operation)));
+    }
     QMap<int, quint8> rules = {{61, 0}, {59, 0}, {64, 0}}; ///< update rule by file
     quint32 pinStatus = 3;
-    int statusOfPinStatus = 0;
-    int statusOfVerifyPin = 0;
     int triesLeft = 3;
 };
 
@@ -133,7 +120,7 @@ public:
     int closings = 0;                           ///< how often the screen asked to be closed
 
 private:
-    int call(TelephoneMood::Operation operation, const QString &arguments = QString());
+    int call(const char *operation, const QString &arguments = QString());
     quint8 ruleOf(int file);
     void disable(int first, int last, quint8 rule);
     void refresh();

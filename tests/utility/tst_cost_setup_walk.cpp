@@ -55,137 +55,74 @@ constexpr qsizetype longestNumber = 12;
 
 // --- the telephone
 
-class MoodyAdviceOfCharge final : public handset::AdviceOfCharge
+/// In its moods, with what it stores. Calls, which the walk does not look at, are a scripted telephone's.
+class MoodyTelephone final : public handset::DecoratedHandset<MoodyTelephone>
 {
 public:
-    explicit MoodyAdviceOfCharge(const Mood &telephoneMood)
-        : mood(telephoneMood)
-    {}
+    MoodyTelephone(const Mood &telephoneMood, const std::shared_ptr<ScriptedHandset> &calls)
+        : DecoratedHandset(calls)
+        , script(calls->script)
+        , mood(telephoneMood)
+    {
+        takeAway(QStringLiteral("DataCalls"));
+        takeAway(QStringLiteral("PacketData"));
+    }
 
+    Script &script;
     ChargeSettings stored;
+    std::function<void()> whenPinIsAsked; // by the PIN entry, which waits for its user afterwards
 
-    int updateRule(quint8 file, quint8 &rule) override
+    template <typename... Arguments>
+    std::optional<int> before(int operation, Arguments &...arguments)
     {
-        return play(Mood::UpdateRule, QString::number(file), [&] { rule = mood.rules.value(file); });
-    }
-    int meterMaximum(QString &maximum, bool &enabled) override
-    {
-        return play(Mood::MeterMaximum, QString(), [&] {
-            maximum = stored.limit;
-            enabled = stored.limitIsOn;
-        });
-    }
-    int setMeterMaximum(const QString &maximum) override
-    {
-        return play(Mood::SetMeterMaximum, maximum, [&] {
-            stored.limit = maximum;
-            stored.limitIsOn = true;
-        });
-    }
-    int disableMeterMaximum() override
-    {
-        return play(Mood::DisableMeterMaximum, QString(), [&] { stored.limitIsOn = false; });
-    }
-    int chargeType(quint8 &type) override
-    {
-        return play(Mood::ChargeType, QString(), [&] { type = stored.chargeType; });
-    }
-    int setChargeType(quint8 type) override
-    {
-        return play(Mood::SetChargeType, QString::number(type), [&] { stored.chargeType = type; });
-    }
-    int priceAndCurrency(QString &price, QString &currency) override
-    {
-        return play(Mood::PriceAndCurrency, QString(), [&] {
-            price = stored.price;
-            currency = stored.currency;
-        });
-    }
-    int setPriceAndCurrency(const QString &price, const QString &currency) override
-    {
-        return play(Mood::SetPriceAndCurrency, price + QLatin1String(", ") + currency, [&] {
-            stored.price = price;
-            stored.currency = currency;
-        });
+        if (operation < handset::operationIndex("AdviceOfCharge::updateRule"))
+            return {};
+        Script::record(operation, arguments...);
+        if (operation == handset::operationIndex("SimSecurity::pinStatus") ||
+            operation == handset::operationIndex("SimSecurity::verifyPin"))
+            whenPinIsAsked();
+        const int status = mood.status[static_cast<std::size_t>(operation)];
+        if (status == 0)
+            answer(arguments...);
+        return status;
     }
 
 private:
-    template <typename Effect>
-    int play(Mood::Operation operation, const QString &arguments, Effect effect)
+    void answer(const quint8 &file, quint8 &rule) { rule = mood.rules.value(file); }
+    void answer(QString &maximum, bool &enabled)
     {
-        const QString name = QString::fromLatin1(Mood::names[operation]);
-        Journal::shared().record(arguments.isNull() ? name : QStringLiteral("%1(%2)").arg(name, arguments));
-        if (mood.status[operation] == 0)
-            effect();
-        return mood.status[operation];
+        maximum = stored.limit;
+        enabled = stored.limitIsOn;
+    }
+    void answer(const QString &maximum)
+    {
+        stored.limit = maximum;
+        stored.limitIsOn = true;
+    }
+    void answer() { stored.limitIsOn = false; }
+    void answer(quint8 &type) { type = stored.chargeType; }
+    void answer(const quint8 &type) { stored.chargeType = type; }
+    void answer(QString &price, QString &currency)
+    {
+        price = stored.price;
+        currency = stored.currency;
+    }
+    void answer(const QString &price, const QString &currency)
+    {
+        stored.price = price;
+        stored.currency = currency;
+    }
+    void answer(const quint8 &, quint32 &pinStatus) { pinStatus = mood.pinStatus; }
+    void answer(const quint8 &, int &tries) { tries = mood.triesLeft; }
+    void answer(const quint8 &, const QByteArray &digits, bool &accepted) { accepted = digits == "1234"; }
+    // Those of the roles that are not its own.
+    template <typename... Arguments>
+    void answer(Arguments &...)
+    {
+        qFatal("the scripted telephone has not answered");
     }
 
     const Mood &mood;
-};
-
-class MoodySim final : public handset::SimSecurity
-{
-public:
-    explicit MoodySim(const Mood &telephoneMood)
-        : mood(telephoneMood)
-    {}
-
-    std::function<void()> whenAsked; // by the PIN entry, which waits for its user afterwards
-
-    int pinStatus(quint8 pin, quint32 &status) override
-    {
-        Journal::shared().record(QStringLiteral("SimSecurity::pinStatus(%1)").arg(pin));
-        whenAsked();
-        if (mood.statusOfPinStatus == 0)
-            status = mood.pinStatus;
-        return mood.statusOfPinStatus;
-    }
-    int triesLeft(quint8 pin, int &tries) override
-    {
-        Journal::shared().record(QStringLiteral("SimSecurity::triesLeft(%1)").arg(pin));
-        tries = mood.triesLeft;
-        return 0;
-    }
-    int verifyPin(quint8 pin, const QByteArray &digits, bool &accepted) override
-    {
-        const QString text = QString::fromLatin1(digits);
-        Journal::shared().record(QStringLiteral("SimSecurity::verifyPin(%1, %2)").arg(pin).arg(text));
-        whenAsked();
-        if (mood.statusOfVerifyPin == 0)
-            accepted = digits == "1234";
-        return mood.statusOfVerifyPin;
-    }
-
-private:
-    const Mood &mood;
-};
-
-class MoodyTelephone final : public handset::Handset
-{
-public:
-    explicit MoodyTelephone(const Mood &mood)
-        : charge(mood)
-        , sim(mood)
-    {
-        for (const char *operation : ScriptedCallService::operations)
-            script.makeKnown(operation);
-        for (const char *operation : ScriptedCallLog::operations)
-            script.makeKnown(operation);
-    }
-
-    handset::CallService *callService() override { return &service; }
-    handset::CallLog *callLog() override { return &log; }
-    handset::DataCalls *dataCalls() override { return nullptr; }
-    handset::AdviceOfCharge *adviceOfCharge() override { return &charge; }
-    handset::SimSecurity *simSecurity() override { return &sim; }
-
-    Script script;
-    MoodyAdviceOfCharge charge;
-    MoodySim sim;
-
-private:
-    ScriptedCallService service{script};
-    ScriptedCallLog log{script};
 };
 
 // --- keys, as often as a hand finds them
@@ -411,8 +348,8 @@ void TestCostSetupWalk::init()
     traces.reset(); // nobody reads them here
     ScreenClock::restart();
     expected = {};
-    telephone = std::make_shared<MoodyTelephone>(expected.mood);
-    telephone->sim.whenAsked = [this] { pinWasAsked(); };
+    telephone = std::make_shared<MoodyTelephone>(expected.mood, std::make_shared<ScriptedHandset>());
+    telephone->whenPinIsAsked = [this] { pinWasAsked(); };
     handset::install(telephone);
     trail.clear();
     keys = 0;
@@ -473,7 +410,7 @@ void TestCostSetupWalk::destroyScreen()
     leaveBehind(false);
     COMPARE_LINES(journal.take(), expected.calls);
     expected.calls.clear();
-    QCOMPARE(told(telephone->charge.stored), told(expected.stored));
+    QCOMPARE(told(telephone->stored), told(expected.stored));
     QVERIFY(ScreenClock::pending().isEmpty());
 }
 
@@ -567,7 +504,7 @@ void TestCostSetupWalk::pressKey(int key)
         leaveBehind(true);
         COMPARE_LINES(journal.take(), expected.calls);
         expected.calls.clear();
-        QCOMPARE(told(telephone->charge.stored), told(expected.stored));
+        QCOMPARE(told(telephone->stored), told(expected.stored));
         if (random.bounded(3) == 0)
             host.reset();
         open();
@@ -583,13 +520,15 @@ void TestCostSetupWalk::changeMood()
     constexpr quint32 statuses[] = {0, 1, 1, 2, 3, 3, 255};
     constexpr const char *resets[] = {"CallLog::resetAll", "CallLog::resetAllCallsCost",
                                       "CallLog::resetDialedCallsCost", "CallLog::resetAnsweredCallsCost"};
+    constexpr int firstOfCharge = handset::operationIndex("AdviceOfCharge::updateRule");
+    constexpr int firstBehind = handset::operationIndex("PacketData::sessions");
     Mood &mood = expected.mood;
     mood.status.fill(0);
     if (random.bounded(3) != 0)
-        mood.status[size_t(random.bounded(int(Mood::OperationCount)))] = oneOf(random, codes);
+        mood.status[size_t(firstOfCharge + random.bounded(firstBehind - firstOfCharge))] = oneOf(random, codes);
     mood.pinStatus = oneOf(random, statuses);
-    mood.statusOfPinStatus = random.bounded(8) == 0 ? oneOf(random, codes) : 0;
-    mood.statusOfVerifyPin = random.bounded(8) == 0 ? oneOf(random, codes) : 0;
+    mood.statusOf("SimSecurity::pinStatus") = random.bounded(8) == 0 ? oneOf(random, codes) : 0;
+    mood.statusOf("SimSecurity::verifyPin") = random.bounded(8) == 0 ? oneOf(random, codes) : 0;
     mood.triesLeft = random.bounded(10) == 0 ? 0 : 3;
     for (const char *reset : resets)
         telephone->script.fail(reset, random.bounded(3) == 0 ? oneOf(random, codes) : 0);
@@ -607,7 +546,7 @@ void TestCostSetupWalk::changeStored()
     stored.chargeType = oneOf(random, types);
     stored.price = QString::number(random.bounded(100)) + QLatin1String(".5");
     stored.currency = QString::fromLatin1(oneOf(random, currencies));
-    telephone->charge.stored = stored;
+    telephone->stored = stored;
     did(QStringLiteral("other settings"));
 }
 
@@ -693,7 +632,7 @@ void TestCostSetupWalk::compare()
         return;
     COMPARE_LINES(journal.take(), expected.calls);
     expected.calls.clear();
-    QCOMPARE(told(telephone->charge.stored), told(expected.stored));
+    QCOMPARE(told(telephone->stored), told(expected.stored));
     QCOMPARE(int(closed->count()), model->closings);
     QList<ScreenClock::Timer> timers;
     for (const int left : std::as_const(model->timers))

@@ -1,9 +1,8 @@
 #include "DialogTestKit.h"
 
-#include "Handset.h"
+#include "DecoratedHandset.h"
 #include "PinEntryDlg.h"
 #include "SETUP_SECURITY_Util.h"
-#include "SimSecurity.h"
 #include "TestGroup.h"
 #include "ZApplication.h"
 
@@ -22,58 +21,50 @@ using namespace ToolkitTestKit;
 
 namespace {
 
-class Sim : public handset::SimSecurity
+/// A telephone of nothing but a SIM.
+class Telephone : public handset::DecoratedHandset<Telephone>
 {
 public:
-    QByteArray code = "4711";
-    int tries = 3;
-    int statusOfPinStatus = handset::Success;
-    int statusOfTriesLeft = handset::Success;
-    int statusOfVerifyPin = handset::Success;
-    QList<QByteArray> presented;
-    QList<int> pins;
-    const char *lastSeenAt = nullptr;
-    std::function<void()> whenTriesAreAsked;
+    struct {
+        QByteArray code = "4711";
+        int tries = 3;
+        int statusOfPinStatus = handset::Success;
+        int statusOfTriesLeft = handset::Success;
+        int statusOfVerifyPin = handset::Success;
+        QList<QByteArray> presented;
+        QList<int> pins;
+        const char *lastSeenAt = nullptr;
+        std::function<void()> whenTriesAreAsked;
+    } sim;
 
-    int pinStatus(quint8 pin, quint32 &status) override
+    std::optional<int> before(int, const quint8 &pin, quint32 &status)
     {
-        pins << pin;
-        if (statusOfPinStatus == handset::Success)
-            status = tries > 0 ? EntryNeeded : Blocked;
-        return statusOfPinStatus;
+        sim.pins << pin;
+        if (sim.statusOfPinStatus == handset::Success)
+            status = sim.tries > 0 ? handset::SimSecurity::EntryNeeded : handset::SimSecurity::Blocked;
+        return sim.statusOfPinStatus;
     }
-    int triesLeft(quint8 pin, int &left) override
+    std::optional<int> before(int, const quint8 &pin, int &left)
     {
-        pins << pin;
-        if (whenTriesAreAsked)
-            whenTriesAreAsked();
-        if (statusOfTriesLeft == handset::Success)
-            left = tries;
-        return statusOfTriesLeft;
+        sim.pins << pin;
+        if (sim.whenTriesAreAsked)
+            sim.whenTriesAreAsked();
+        if (sim.statusOfTriesLeft == handset::Success)
+            left = sim.tries;
+        return sim.statusOfTriesLeft;
     }
-    int verifyPin(quint8 pin, const QByteArray &digits, bool &accepted) override
+    std::optional<int> before(int, const quint8 &pin, const QByteArray &digits, bool &accepted)
     {
-        pins << pin;
-        lastSeenAt = digits.constData();
-        presented << QByteArray(digits.constData(), digits.size());
-        if (statusOfVerifyPin != handset::Success)
-            return statusOfVerifyPin;
-        accepted = presented.last() == code;
-        tries = accepted ? 3 : tries - 1;
+        sim.pins << pin;
+        sim.lastSeenAt = digits.constData();
+        sim.presented << QByteArray(digits.constData(), digits.size());
+        if (sim.statusOfVerifyPin != handset::Success)
+            return sim.statusOfVerifyPin;
+        accepted = sim.presented.last() == sim.code;
+        sim.tries = accepted ? 3 : sim.tries - 1;
         return handset::Success;
     }
-};
-
-class Telephone : public handset::Handset
-{
-public:
-    Sim sim;
-    bool hasSim = true;
-
-    handset::CallService *callService() override { return nullptr; }
-    handset::CallLog *callLog() override { return nullptr; }
-    handset::DataCalls *dataCalls() override { return nullptr; }
-    handset::SimSecurity *simSecurity() override { return hasSim ? &sim : nullptr; }
+    using DecoratedHandset::before;
 };
 
 ZPopup *shownPopup()
@@ -321,7 +312,8 @@ void VerifyPinTest::aSimThatCannotBeAskedIsSaid()
     QFETCH(bool, hasSim);
     QFETCH(int, pinStatus);
     QFETCH(int, verifyPin);
-    telephone->hasSim = hasSim;
+    if (!hasSim)
+        telephone->takeAway("SimSecurity");
     telephone->sim.statusOfPinStatus = pinStatus;
     telephone->sim.statusOfVerifyPin = verifyPin;
     if (!hasTelephone)
