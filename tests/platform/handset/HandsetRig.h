@@ -7,6 +7,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <memory>
 
@@ -21,6 +22,8 @@ public:
     virtual bool open() = 0;
     virtual void close() = 0;
     virtual Handset &handset() = 0;
+    /// The roles that the backend has not, as the operations name them ("PacketData").
+    virtual QStringList lackingRoles() const { return {}; }
 
     /// The call is being set up, but not connected; false when that fails, as for all the others.
     virtual bool begin(CallKind kind, CallDirection direction) = 0;

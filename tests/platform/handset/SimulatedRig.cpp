@@ -1,67 +1,6 @@
-#include "HandsetRig.h"
-#include "HandsetTestKit.h"
-#include "Status.h"
+#include "SimulatedRig.h"
 
-namespace handset::test {
-
-namespace {
-
-class SimulatedRig final : public HandsetRig
-{
-public:
-    bool open() override
-    {
-        phone = std::make_unique<Phone>(state.path(), clock);
-        return phone->opened.error.isEmpty() && phone->opened.notice.isEmpty() && *phone;
-    }
-    void close() override { phone.reset(); }
-    Handset &handset() override { return phone->handset(); }
-
-    bool begin(CallKind kind, CallDirection direction) override
-    {
-        const QString number = QStringLiteral("0301234");
-        answering = direction == CallDirection::Answered;
-        return (answering ? (*phone)->ring(number) : (*phone)->dial(number, kind)) == Success;
-    }
-    bool connectCall() override { return (answering ? (*phone)->answer() : (*phone)->remoteAnswer()) == Success; }
-    bool end() override { return (*phone)->hangUp() == Success; }
-    bool beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond) override
-    {
-        return (*phone)->packets().startSession(apn, sentPerSecond, receivedPerSecond) == Success;
-    }
-    bool endSession() override { return (*phone)->packets().stopSession() == Success; }
-    void pass(qint64 ms) override { clock->advance(ms); }
-
-    bool chargeUnits() override
-    {
-        charging::Tariff tariff;
-        tariff.unitsPerInterval = 10;
-        tariff.interval = 10;
-        return (*phone)->charging().setTariff(CallDirection::Dialed, tariff) == Success &&
-               (*phone)->charging().setTariff(CallDirection::Answered, tariff) == Success;
-    }
-    bool payIn(const QString &amount, const Date &expires) override
-    {
-        return (*phone)->charging().topUp(amount, expires) == Success;
-    }
-    bool setUpdateRule(quint8 file, quint8 rule) override
-    {
-        return (*phone)->simCard().setUpdateRule(file, rule) == Success;
-    }
-    QByteArray pin2() const override { return charging::SimCard::newCardPin2.toByteArray(); }
-
-private:
-    StateDir state;
-    std::shared_ptr<ManualClock> clock = std::make_shared<ManualClock>();
-    std::unique_ptr<Phone> phone;
-    bool answering = false;
-};
-
-} // namespace
-
-std::unique_ptr<HandsetRig> makeRig()
+std::unique_ptr<handset::test::HandsetRig> handset::test::makeRig()
 {
     return std::make_unique<SimulatedRig>();
 }
-
-} // namespace handset::test
