@@ -127,8 +127,8 @@ private:
         // It has no status and cannot fail: no operation.
         void setUpdateListener(const std::function<void()> &listener) override
         {
-            if (PacketData *const packets = this->real())
-                packets->setUpdateListener(listener);
+            if (PacketData *const target = this->real())
+                target->setUpdateListener(listener);
         }
     };
     struct DecoratedSimSecurity final : Decorated<SimSecurity, &Handset::simSecurity> {
