@@ -62,7 +62,6 @@ private slots:
     void aCheckpointWritesRowAndTotals();
     void aQueryWritesNothing();
     void aCrashLosesOnlyWhatFollowedTheLastCheckpoint();
-    void aCallThatACrashInterruptedIsClosedOnce();
     void theEndOfTheTelephoneEndsTheCall();
     void theEndOfTheTelephoneLogsACallThatWasNotConnected_data();
     void theEndOfTheTelephoneLogsACallThatWasNotConnected();
@@ -241,34 +240,17 @@ void TestCallLog::aCrashLosesOnlyWhatFollowedTheLastCheckpoint()
     phone.clock->advance(9 * second);
     QVERIFY(copyState(state.path(), state.sibling(QStringLiteral("crashed"))));
 
-    Phone restarted(state.sibling(QStringLiteral("crashed")));
-    QVERIFY(restarted);
-    QVERIFY(restarted.opened.notice.isEmpty());
-    QCOMPARE(restarted.figures(), (SixFigures{20, 120, 0, 0, 120, 120}));
-    QCOMPARE(restarted->lineState(), simulated::SimulatedTelephone::LineState::Idle);
-    restarted.close();
+    for (int start = 0; start < 3; ++start) { // it is closed once
+        const Phone restarted(state.sibling(QStringLiteral("crashed")));
+        QVERIFY(restarted);
+        QVERIFY(restarted.opened.notice.isEmpty());
+        QCOMPARE(restarted.figures(), (SixFigures{20, 120, 0, 0, 120, 120}));
+        QCOMPARE(restarted->lineState(), simulated::SimulatedTelephone::LineState::Idle);
+    }
     const QList<LoggedCall> calls = LogFile(state.sibling(QStringLiteral("crashed/calllog.db"))).calls();
     QCOMPARE(calls.size(), 2);
     QCOMPARE(calls[1].durationMs, 20 * second);
     QCOMPARE(calls[1].state, int(CallState::Interrupted));
-}
-
-void TestCallLog::aCallThatACrashInterruptedIsClosedOnce()
-{
-    const StateDir state;
-    const QString copy = state.sibling(QStringLiteral("crashed"));
-    Phone phone(state.path());
-    QVERIFY(phone.dial());
-    phone.clock->advance(30 * second);
-    QCOMPARE(phone->checkpoint(), int(Success));
-    QVERIFY(copyState(state.path(), copy));
-    for (int start = 0; start < 3; ++start) {
-        Phone restarted(copy);
-        QCOMPARE(restarted.figures(), (SixFigures{30, 30, 0, 0, 30, 30}));
-    }
-    Phone restarted(copy);
-    QVERIFY(restarted.dialed(second));
-    QCOMPARE(restarted.figures(), (SixFigures{1, 31, 0, 0, 31, 31}));
 }
 
 void TestCallLog::theEndOfTheTelephoneEndsTheCall()

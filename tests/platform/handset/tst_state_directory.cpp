@@ -47,11 +47,8 @@ private slots:
     void aLockThatIsSomethingElseIsAnError_data();
     void aLockThatIsSomethingElseIsAnError();
     void aLinkToADirectoryIsFollowed();
-    void aSecondProcessMayAskButDoesNotRecord();
     void aSecondProcessMovesNothingAside();
     void aSecondTelephoneOfThisProcessIsRefusedToo();
-    void theLockGoesWithTheProcessThatWasKilled();
-    void theLockGoesWithTheTelephone();
     void aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain();
     void removingTheLockFilesMakesNoSecondRecorder();
 };
@@ -347,18 +344,6 @@ void TestStateDirectory::aLinkToADirectoryIsFollowed()
     QVERIFY(!Phone(state.path())); // the same directory, however it is named
 }
 
-void TestStateDirectory::aSecondProcessMayAskButDoesNotRecord()
-{
-    const StateDir state;
-    Phone phone(state.path());
-    QVERIFY(phone.dial());
-    QCOMPARE(OtherProcess(state.path()).firstLine(), QByteArray("holding"));
-    QVERIFY(phone->isRecording());
-    phone.clock->advance(3 * second);
-    QCOMPARE(phone->hangUp(), 0);
-    QCOMPARE(phone.figures().dialed, quint64{3});
-}
-
 void TestStateDirectory::aSecondProcessMovesNothingAside()
 {
     const StateDir state;
@@ -387,32 +372,6 @@ void TestStateDirectory::aSecondTelephoneOfThisProcessIsRefusedToo()
     QVERIFY(!another);
     QCOMPARE(another.opened.error,
              QStringLiteral("The state directory \"%1\" is in use by another telephone.").arg(state.path()));
-}
-
-void TestStateDirectory::theLockGoesWithTheProcessThatWasKilled()
-{
-    const StateDir state;
-    OtherProcess holder(state.path());
-    QCOMPARE(holder.firstLine(), QByteArray("holding"));
-    const Phone phone(state.path());
-    QVERIFY2(phone, qPrintable(phone.opened.error));
-    QVERIFY(!phone->isRecording());
-    QCOMPARE(phone->dial(QStringLiteral("1"), CallKind::Voice), int(RecordedElsewhere));
-    QCOMPARE(phone->ring(QStringLiteral("1")), int(RecordedElsewhere));
-    QCOMPARE(phone->hangUp(), int(RecordedElsewhere));
-    QCOMPARE(phone->packets().startSession("x", 1, 1), int(RecordedElsewhere));
-    holder.kill();
-    QVERIFY(phone->isRecording());
-    QCOMPARE(phone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
-}
-
-void TestStateDirectory::theLockGoesWithTheTelephone()
-{
-    const StateDir state;
-    Phone phone(state.path());
-    QVERIFY(!Phone(state.path()));
-    phone.close();
-    QVERIFY(Phone(state.path()));
 }
 
 void TestStateDirectory::aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain()
