@@ -35,54 +35,39 @@ int CallFigures::cost(Total total, QByteArray &text)
     qint64 units = 0;
     if (const int status = ledger.figure(total, units))
         return status;
-    Standing now;
-    const int status = ledger.standing(now);
-    return status == Success ? amount(static_cast<quint64>(units), now.state, text) : status;
+    return ledger.ask([&](const Standing &now) { return amount(static_cast<quint64>(units), now.state, text); });
 }
 
 int CallFigures::allCallsCost(QByteArray &text)
 {
-    Standing now;
-    const int status = ledger.standing(now);
-    return status == Success ? amount(now.state.card.acm(), now.state, text) : status;
+    return ledger.ask([&](const Standing &now) { return amount(now.state.card.acm(), now.state, text); });
 }
 
-int CallFigures::account(charging::Account &account, charging::ChargingState &state)
+template <typename Look>
+int CallFigures::askAccount(Look look)
 {
-    Standing now;
-    if (const int status = ledger.standing(now))
-        return status;
-    if (!now.state.account)
-        return NotAvailable;
-    account = *now.state.account;
-    state = now.state;
-    return Success;
+    return ledger.ask([&](const Standing &now) {
+        return now.state.account ? look(*now.state.account, now.state) : int{NotAvailable};
+    });
 }
 
 int CallFigures::remainingCredit(QByteArray &text)
 {
-    charging::Account paid;
-    charging::ChargingState state;
-    const int status = account(paid, state);
-    return status == Success ? amount(paid.credit, state, text) : status;
+    return askAccount([&](const auto &account, const auto &state) { return amount(account.credit, state, text); });
 }
 
 int CallFigures::lastDeposit(QByteArray &text)
 {
-    charging::Account paid;
-    charging::ChargingState state;
-    const int status = account(paid, state);
-    return status == Success ? amount(paid.deposit, state, text) : status;
+    return askAccount(
+        [&](const auto &account, const auto &state) { return amount(account.deposit, state, text); });
 }
 
 int CallFigures::depositExpirationDate(Date &date)
 {
-    charging::Account paid;
-    charging::ChargingState state;
-    const int status = account(paid, state);
-    if (status == Success)
-        date = paid.expires;
-    return status;
+    return askAccount([&](const auto &account, const auto &) {
+        date = account.expires;
+        return int{Success};
+    });
 }
 
 int CallFigures::resetAllCallsCost()

@@ -50,7 +50,8 @@ public:
 private:
     int time(Total total, CallTime &time);
     int cost(Total total, QByteArray &text);
-    int account(charging::Account &account, charging::ChargingState &state);
+    template <typename Look>
+    int askAccount(Look look);
 
     Ledger &ledger;
     CallStatus dataStatus = Idle;

@@ -12,20 +12,9 @@ namespace handset::calllog {
 using charging::Account;
 using charging::ChargingState;
 
-namespace {
-
-// What cannot be read is nothing.
-Standing standingOf(Ledger &ledger)
-{
-    Standing now;
-    return ledger.standing(now) == Success ? now : Standing{};
-}
-
-} // namespace
-
 charging::Tariff Charging::tariff(CallDirection direction) const
 {
-    return isKnown(direction) ? standingOf(ledger).state.tariff(direction) : charging::Tariff{};
+    return isKnown(direction) ? ledger.standing().state.tariff(direction) : charging::Tariff{};
 }
 
 int Charging::setTariff(CallDirection direction, const charging::Tariff &tariff)
@@ -54,23 +43,23 @@ int Charging::topUp(const QString &amount, const Date &expires)
 
 std::optional<Account> Charging::account() const
 {
-    return standingOf(ledger).state.account;
+    return ledger.standing().state.account;
 }
 
 std::optional<quint32> Charging::unitsLeft() const
 {
-    return standingOf(ledger).state.unitsLeft();
+    return ledger.standing().state.unitsLeft();
 }
 
 quint64 Charging::runningUnits() const
 {
-    const std::optional<RunningCall> call = standingOf(ledger).call;
+    const std::optional<RunningCall> call = ledger.standing().call;
     return call ? call->units : 0;
 }
 
 std::optional<qint64> Charging::msLeft() const
 {
-    const std::optional<RunningCall> call = standingOf(ledger).call;
+    const std::optional<RunningCall> call = ledger.standing().call;
     if (!call || !call->mostMs)
         return std::nullopt;
     return std::max<qint64>(*call->mostMs - call->ms, 0);
@@ -78,7 +67,7 @@ std::optional<qint64> Charging::msLeft() const
 
 void Charging::callStopped()
 {
-    lastStop = standingOf(ledger).state.card.limitReached() ? StopReason::LimitReached : StopReason::CreditUsedUp;
+    lastStop = ledger.standing().state.card.limitReached() ? StopReason::LimitReached : StopReason::CreditUsedUp;
 }
 
 } // namespace handset::calllog

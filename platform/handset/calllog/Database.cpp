@@ -62,14 +62,11 @@ Database::Database(const QString &file, Access access)
     const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
     sqlite = held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
     sqlite3_busy_handler(sqlite, &waitForOthers, &patienceMs);
-    begin.emplace(sqlite, "BEGIN IMMEDIATE");
-    commit.emplace(sqlite, "COMMIT");
 }
 
 Database::~Database()
 {
-    begin.reset();
-    commit.reset();
+    statements.clear();
     connection.close();
     connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);

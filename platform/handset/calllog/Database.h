@@ -7,6 +7,7 @@
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlQuery>
 
+#include <map>
 #include <optional>
 
 namespace handset::calllog {
@@ -57,27 +58,32 @@ public:
     /// The first column of the first row; nothing when there is no row or the statement failed.
     std::optional<qint64> number(const QString &statement);
     QString text(const QString &statement);
-    /// Runs a statement of this connection, which may have a row then.
-    template <typename... Values>
-    bool run(PlainStatement &statement, const Values &...values)
+    /// The statement of this text, which is kept, as the text is: it is known by where that stands.
+    PlainStatement &statement(const char *text)
     {
-        return statement.run(values...) || fail();
+        return statements.try_emplace(text, sqlite, text).first->second;
+    }
+    /// Runs such a statement, which may have a row then.
+    template <typename... Values>
+    bool run(const char *text, const Values &...values)
+    {
+        return statement(text).run(values...) || fail();
     }
     /// The same, for one that changes `rows` rows; false when it has changed any other number of them.
     template <typename... Values>
-    bool runOn(int rows, PlainStatement &statement, const Values &...values)
+    bool runOn(int rows, const char *text, const Values &...values)
     {
-        if (!run(statement, values...))
+        if (!run(text, values...))
             return false;
         const bool isRight = changedRows() == rows;
-        statement.finish();
+        statement(text).finish();
         return isRight || missesRow();
     }
     /// The same, for one that selects a row; false when there is none.
     template <typename... Values>
-    bool runForRow(PlainStatement &statement, const Values &...values)
+    bool runForRow(const char *text, const Values &...values)
     {
-        return run(statement, values...) && (statement.hasRow() || missesRow());
+        return run(text, values...) && (statement(text).hasRow() || missesRow());
     }
     /// False, always: SQLite's last error, a row that should be there, or `reason`, is what lastError() has then.
     bool fail();
@@ -99,9 +105,9 @@ public:
     template <typename Work>
     bool inTransaction(Work work)
     {
-        if (!begin || !run(*begin))
+        if (!run(beginSql))
             return false;
-        if (work() && run(*commit))
+        if (work() && run(commitSql))
             return true;
         const QSqlError reason = error;
         run(QStringLiteral("ROLLBACK"));
@@ -112,12 +118,14 @@ public:
     QSqlQuery query() const;
 
 private:
+    static constexpr auto beginSql = "BEGIN IMMEDIATE";
+    static constexpr auto commitSql = "COMMIT";
+
     sqlite3 *sqlite = nullptr;
     int patienceMs = usualPatienceMs;
     QString name;
     QSqlDatabase connection;
-    std::optional<PlainStatement> begin; ///< of a transaction; kept, as every write runs both
-    std::optional<PlainStatement> commit;
+    std::map<const char *, PlainStatement> statements;
     QSqlError error;
 };
 

@@ -173,8 +173,7 @@ bool Ledger::putChecks()
     const QString name = QString::fromLatin1(keptChargingName);
     QByteArray content;
     return tables.kept(name, content) && charging::readCharging(content, state) &&
-           tables.put({name, charging::chargingRecord(state)}) &&
-           tables.put({QString::fromLatin1(keptChecked), "1"});
+           tables.put(name, charging::chargingRecord(state)) && tables.put(QString::fromLatin1(keptChecked), "1");
 }
 
 // The new ones are written, too, so that this is told once; and what is to be told, in case that this opening fails.
@@ -196,18 +195,18 @@ bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
             continue;
         const QString what = QLatin1String(part.whatIsNew);
         QString unused;
-        if (!isGone && !(findUnusedName(tables, name, unused) && tables.put({unused, content})))
+        if (!isGone && !(findUnusedName(tables, name, unused) && tables.put(unused, content)))
             return false;
         notices << (isGone ? QStringLiteral("%1 is missing from the call log; a new one was begun.").arg(what)
                            : QStringLiteral(
                                  "%1 could not be read; a new one was begun and the old one kept as \"%2\".")
                                  .arg(what, unused));
         all << notices.constLast();
-        if (!tables.put({name, part.fresh(state)}))
+        if (!tables.put(name, part.fresh(state)))
             return false;
     }
     all.removeAll({});
-    return tables.put({keptUntold, all.join(QLatin1Char(' ')).toUtf8()});
+    return tables.put(keptUntold, all.join(QLatin1Char(' ')).toUtf8());
 }
 
 bool Ledger::record()
@@ -228,7 +227,7 @@ bool Ledger::record()
 
 void Ledger::noticeIsTold()
 {
-    database->inTransaction([&] { return tables.put({QString::fromLatin1(keptNotice), {}}); });
+    database->inTransaction([&] { return tables.put(QString::fromLatin1(keptNotice), QByteArray()); });
 }
 
 // --- transactions
@@ -309,10 +308,8 @@ int Ledger::writeOwedCall()
 
 int Ledger::permits(const PastCall &call)
 {
-    Standing now;
-    if (const int status = standing(now))
-        return status;
-    return now.state.permits(now.state.tariffOf(call)) ? Success : NotAllowed;
+    return ask(
+        [&](const Standing &now) { return now.state.permits(now.state.tariffOf(call)) ? Success : NotAllowed; });
 }
 
 int Ledger::beginCall(const PastCall &begun)
@@ -517,14 +514,25 @@ int Ledger::sessionTotals(SessionAmounts &amounts)
     return database->status(tables.sessionTotalsAt(sessionsNow(), amounts));
 }
 
-int Ledger::standing(Standing &standing)
+int Ledger::ask(const std::function<int(const Standing &now)> &look)
 {
+    Standing standing;
     if (!tables.read(standing))
         return database->status(false);
     advance(standing, callsNow());
     if (callEnded)
         standing.call.reset();
-    return Success;
+    return look(standing);
+}
+
+Standing Ledger::standing()
+{
+    Standing copy;
+    ask([&](const Standing &now) {
+        copy = now;
+        return int{Success};
+    });
+    return copy;
 }
 
 // --- what is changed

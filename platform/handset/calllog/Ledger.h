@@ -15,6 +15,7 @@
 namespace handset::calllog {
 
 struct Traces;
+
 /// All of it stands in the database, so that any process may ask and change it; see "The ledger" in docs/handset.md.
 /// Operations answer a number of handset/Status.h; a failed one has changed nothing. What an operation costs does not
 /// depend on how many calls and sessions there are.
@@ -78,8 +79,11 @@ public:
     /// The `most` sessions that began last, the newest first.
     int sessions(int most, QList<SessionRow> &sessions);
     int sessionTotals(SessionAmounts &amounts);
-    /// The running call, and what calls are charged by and charged to, with what is due on the running one.
-    int standing(Standing &standing);
+    /// What `look` answers of the running call, and of what calls are charged by and charged to, with what is due on the
+    /// running one.
+    int ask(const std::function<int(const Standing &now)> &look);
+    /// The same to look at: as of a new telephone when it cannot be read.
+    Standing standing();
 
     // --- what is changed
 

@@ -132,30 +132,6 @@ SessionAmounts SessionRow::amountsAt(const Moment &now) const
             std::max(amounts.received, saturatingAmount(static_cast<quint32>(receivedPerSecond), all))};
 }
 
-LedgerTables::LedgerTables(Database &connection)
-    : database(connection)
-    , insertCall(connection.handle(), insertCallSql)
-    , updateCall(connection.handle(), updateCallSql)
-    , standingNow(connection.handle(), standingSql)
-    , closeCalls(connection.handle(), closeCallsSql)
-    , closeSessions(connection.handle(), closeSessionsSql)
-    , insertSession(connection.handle(), insertSessionSql)
-    , updateSession(connection.handle(), updateSessionSql)
-    , runningSession(connection.handle(), runningSessionSql)
-    , recentSessions(connection.handle(), recentSql)
-    , addTimes(connection.handle(), addTimesSql)
-    , addCosts(connection.handle(), addCostsSql)
-    , addSessions(connection.handle(), addSessionsSql)
-    , totalTime(connection.handle(), totalTimeSql)
-    , totalCost(connection.handle(), totalCostSql)
-    , sessionTotals(connection.handle(), sessionTotalsSql)
-    , putTime(connection.handle(), putTimeSql)
-    , putCost(connection.handle(), putCostSql)
-    , putSessions(connection.handle(), putSessionsSql)
-    , keptValue(connection.handle(), keptSql)
-    , putKept(connection.handle(), putKeptSql)
-{}
-
 bool LedgerTables::readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging)
 {
     if (card != lastCard || card.isNull()) {
@@ -183,9 +159,9 @@ bool LedgerTables::readTariff(const PlainStatement &row, int column, RunningCall
 
 bool LedgerTables::read(Standing &standing)
 {
-    if (!database.runForRow(standingNow))
+    if (!database.runForRow(standingSql))
         return false;
-    const PlainStatement &row = standingNow;
+    PlainStatement &row = database.statement(standingSql);
     bool isRight = readState(standing.state, row.bytes(0), row.bytes(1));
     standing.call.reset();
     if (isRight && !row.isNull(2)) {
@@ -202,7 +178,7 @@ bool LedgerTables::read(Standing &standing)
         isRight = readTariff(row, 12, call);
         standing.call = call;
     }
-    standingNow.finish();
+    row.finish();
     return isRight;
 }
 
@@ -210,14 +186,14 @@ bool LedgerTables::putState(const charging::ChargingState &before, const chargin
 {
     if (!isSameCard(before.card, after.card)) {
         const QByteArray card = charging::cardRecord(after.card);
-        if (!database.run(putKept, keptCardName, card))
+        if (!database.run(putKeptSql, keptCardName, card))
             return false;
         lastCard = card;
         lastState.card = after.card;
     }
     if (!isSameCharging(before, after)) {
         const QByteArray charging = charging::chargingRecord(after);
-        if (!database.run(putKept, keptChargingName, charging))
+        if (!database.run(putKeptSql, keptChargingName, charging))
             return false;
         lastCharging = charging;
         const charging::SimCard card = lastState.card;
@@ -229,7 +205,7 @@ bool LedgerTables::putState(const charging::ChargingState &before, const chargin
 
 bool LedgerTables::insert(const PastCall &call, CallState state)
 {
-    return database.run(insertCall, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
+    return database.run(insertCallSql, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
                         call.startWallMs, call.durationMs, call.units, static_cast<int>(state), nothing, nothing,
                         nothing, nothing);
 }
@@ -237,7 +213,7 @@ bool LedgerTables::insert(const PastCall &call, CallState state)
 bool LedgerTables::insert(RunningCall &call)
 {
     const bool done =
-        database.run(insertCall, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
+        database.run(insertCallSql, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
                      call.startWallMs, call.ms, qint64{call.units}, static_cast<int>(CallState::Running),
                      bootOf(call.written), call.written.until->ms, call.mostMs, tariffRecord(call.tariff));
     if (done)
@@ -249,21 +225,21 @@ bool LedgerTables::update(const RunningCall &call, CallState state)
 {
     const int number = static_cast<int>(state);
     return state == CallState::Running
-               ? database.runOn(1, updateCall, number, call.ms, qint64{call.units}, bootOf(call.written),
+               ? database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, bootOf(call.written),
                                 call.written.until->ms, call.mostMs, tariffRecord(call.tariff), call.id)
-               : database.runOn(1, updateCall, number, call.ms, qint64{call.units}, nothing, nothing, nothing,
+               : database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, nothing, nothing, nothing,
                                 nothing, call.id);
 }
 
 bool LedgerTables::closeInterrupted()
 {
-    return database.run(closeCalls) && database.run(closeSessions);
+    return database.run(closeCallsSql) && database.run(closeSessionsSql);
 }
 
 bool LedgerTables::insert(SessionRow &session, qint64 startWallMs)
 {
     const bool done =
-        database.run(insertSession, QString::fromLatin1(session.apn), startWallMs, bootOf(session.written),
+        database.run(insertSessionSql, QString::fromLatin1(session.apn), startWallMs, bootOf(session.written),
                      session.written.until->ms, session.sentPerSecond, session.receivedPerSecond);
     if (done)
         session.id = database.lastInsertId();
@@ -275,32 +251,32 @@ bool LedgerTables::update(const SessionRow &session, CallState state)
     const int number = static_cast<int>(state);
     const auto &[ms, sent, received] = session.amounts;
     return state == CallState::Running
-               ? database.runOn(1, updateSession, number, ms, sent, received, bootOf(session.written),
+               ? database.runOn(1, updateSessionSql, number, ms, sent, received, bootOf(session.written),
                                 session.written.until->ms, session.sentPerSecond, session.receivedPerSecond,
                                 session.id)
-               : database.runOn(1, updateSession, number, ms, sent, received, nothing, nothing, nothing, nothing,
-                                session.id);
+               : database.runOn(1, updateSessionSql, number, ms, sent, received, nothing, nothing, nothing,
+                                nothing, session.id);
 }
 
 bool LedgerTables::running(std::optional<SessionRow> &session)
 {
-    session.reset();
-    const bool done = database.run(runningSession);
-    if (done && runningSession.hasRow())
-        session = sessionAt(runningSession, 0);
-    runningSession.finish();
+    PlainStatement &row = database.statement(runningSessionSql);
+    const bool done = database.run(runningSessionSql);
+    session = done && row.hasRow() ? std::optional(sessionAt(row, 0)) : std::nullopt;
+    row.finish();
     return done;
 }
 
 bool LedgerTables::recent(int most, QList<SessionRow> &sessions)
 {
     sessions.clear();
-    if (!database.run(recentSessions, most))
+    if (!database.run(recentSql, most))
         return false;
-    for (bool more = recentSessions.hasRow(); more; more = recentSessions.next())
-        sessions.append(sessionAt(recentSessions, 0));
-    const bool done = recentSessions.error() == 0 || database.fail();
-    recentSessions.finish();
+    PlainStatement &row = database.statement(recentSql);
+    for (bool more = row.hasRow(); more; more = row.next())
+        sessions.append(sessionAt(row, 0));
+    const bool done = row.error() == 0 || database.fail();
+    row.finish();
     return done;
 }
 
@@ -308,7 +284,7 @@ bool LedgerTables::addTime(CallKind kind, CallDirection direction, qint64 ms, bo
 {
     const char *const own = placeOf(ownTime(kind, direction)).key;
     const char *const last = isLast ? placeOf(Total::LastTime).key : own;
-    return database.runOn(isLast ? 4 : 3, addTimes, ms, own, last);
+    return database.runOn(isLast ? 4 : 3, addTimesSql, ms, own, last);
 }
 
 bool LedgerTables::addCost(CallKind kind, CallDirection direction, qint64 units, bool isLast)
@@ -317,15 +293,17 @@ bool LedgerTables::addCost(CallKind kind, CallDirection direction, qint64 units,
         return true;
     const std::optional<Total> own = ownCost(kind, direction);
     const char *const last = isLast ? placeOf(Total::LastCost).key : "";
-    return database.runOn((own ? 1 : 0) + (isLast ? 1 : 0), addCosts, units, own ? placeOf(*own).key : last, last);
+    return database.runOn((own ? 1 : 0) + (isLast ? 1 : 0), addCostsSql, units, own ? placeOf(*own).key : last,
+                          last);
 }
 
 bool LedgerTables::addToSessions(const SessionAmounts &more)
 {
-    return database.runOn(static_cast<int>(sessionPlaces.size()), addSessions, more.ms, more.sent, more.received);
+    return database.runOn(static_cast<int>(sessionPlaces.size()), addSessionsSql, more.ms, more.sent,
+                          more.received);
 }
 
-// `row` is that of totalTime or totalCost, and has a running call.
+// `row` is that of totalTimeSql or totalCostSql, and has a running call.
 bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Moment &now, qint64 &value)
 {
     RunningCall call;
@@ -350,9 +328,10 @@ bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Mome
 
 bool LedgerTables::totalAt(Total total, const Moment &now, qint64 &value)
 {
-    PlainStatement &row = total < Total::LastCost ? totalTime : totalCost;
-    if (!database.runForRow(row, placeOf(total).key))
+    const char *const select = total < Total::LastCost ? totalTimeSql : totalCostSql;
+    if (!database.runForRow(select, placeOf(total).key))
         return false;
+    PlainStatement &row = database.statement(select);
     qint64 read = row.number(0);
     const bool isRight = row.isNull(1) || addRunning(row, total, now, read);
     row.finish();
@@ -363,9 +342,9 @@ bool LedgerTables::totalAt(Total total, const Moment &now, qint64 &value)
 
 bool LedgerTables::sessionTotalsAt(const Moment &now, SessionAmounts &amounts)
 {
-    PlainStatement &row = sessionTotals;
-    if (!database.runForRow(row))
+    if (!database.runForRow(sessionTotalsSql))
         return false;
+    PlainStatement &row = database.statement(sessionTotalsSql);
     const bool isWhole = !row.isNull(0) && !row.isNull(1) && !row.isNull(2);
     amounts = {row.number(0), row.number(1), row.number(2)};
     const SessionRow session = sessionAt(row, 3);
@@ -381,24 +360,25 @@ bool LedgerTables::sessionTotalsAt(const Moment &now, SessionAmounts &amounts)
 bool LedgerTables::put(Total total, qint64 value)
 {
     const TotalPlace &place = placeOf(total);
-    PlainStatement &statement = total < Total::LastCost      ? putTime
-                                : total < Total::SessionTime ? putCost
-                                                             : putSessions;
-    return database.runOn(1, statement, value, place.key);
+    const char *const update = total < Total::LastCost      ? putTimeSql
+                               : total < Total::SessionTime ? putCostSql
+                                                            : putSessionsSql;
+    return database.runOn(1, update, value, place.key);
 }
 
 bool LedgerTables::kept(const QString &name, QByteArray &content)
 {
-    const bool done = database.run(keptValue, name);
+    PlainStatement &row = database.statement(keptSql);
+    const bool done = database.run(keptSql, name);
     if (done)
-        content = keptValue.hasRow() ? keptValue.bytes(0) : QByteArray();
-    keptValue.finish();
+        content = row.hasRow() ? row.bytes(0) : QByteArray();
+    row.finish();
     return done;
 }
 
-bool LedgerTables::put(const KeptValue &value)
+bool LedgerTables::put(const QString &name, const QByteArray &content)
 {
-    return database.run(putKept, value.name, value.content);
+    return database.run(putKeptSql, name, content);
 }
 
 } // namespace handset::calllog

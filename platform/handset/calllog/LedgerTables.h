@@ -65,11 +65,7 @@ struct Standing {
     std::optional<RunningCall> call;
 };
 
-/// Something that is kept under a name, whole: the card, the account.
-struct KeptValue {
-    QString name;
-    QByteArray content;
-};
+/// What is kept under a name, whole: the card, the account.
 inline constexpr auto keptCardName = "card";
 inline constexpr auto keptChargingName = "charging";
 /// Kept from the first start on that has written the charging record with its check, which it then always has.
@@ -81,7 +77,9 @@ class LedgerTables
 {
 public:
     /// `connection` has the newest schema and outlives this.
-    explicit LedgerTables(Database &connection);
+    explicit LedgerTables(Database &connection)
+        : database(connection)
+    {}
 
     bool read(Standing &standing);
     /// What of the state is another than before. Answers without writing where nothing is.
@@ -113,7 +111,7 @@ public:
 
     /// Null when nothing is kept under that name.
     bool kept(const QString &name, QByteArray &content);
-    bool put(const KeptValue &value);
+    bool put(const QString &name, const QByteArray &content);
 
 private:
     bool readTariff(const PlainStatement &row, int column, RunningCall &call);
@@ -121,26 +119,6 @@ private:
     bool readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging);
 
     Database &database;
-    PlainStatement insertCall;
-    PlainStatement updateCall;
-    PlainStatement standingNow;
-    PlainStatement closeCalls;
-    PlainStatement closeSessions;
-    PlainStatement insertSession;
-    PlainStatement updateSession;
-    PlainStatement runningSession;
-    PlainStatement recentSessions;
-    PlainStatement addTimes;
-    PlainStatement addCosts;
-    PlainStatement addSessions;
-    PlainStatement totalTime;
-    PlainStatement totalCost;
-    PlainStatement sessionTotals;
-    PlainStatement putTime;
-    PlainStatement putCost;
-    PlainStatement putSessions;
-    PlainStatement keptValue;
-    PlainStatement putKept;
 
     // What was read last, and what it means: reading it anew takes a while and nearly always comes to the same.
     QByteArray lastCard;

@@ -78,7 +78,7 @@ int readLost(sqlite3 *connection, LostAmounts &lost)
 {
     PlainStatement row(connection, lostSql);
     for (std::size_t i = 0; i < lost.size(); ++i)
-        if (row.run(lostNames[i].key) && row.hasRow() && !row.isNull(0))
+        if (row.run(lostNames[i]) && row.hasRow() && !row.isNull(0))
             lost[i] = row.number(0);
     return row.error();
 }
@@ -176,7 +176,7 @@ bool putUnknown(Database &database, const LostAmounts &measured)
 {
     const QString put = QStringLiteral("UPDATE lost SET value = %1 WHERE counter = '%2'");
     for (std::size_t i = 0; i < measured.size(); ++i)
-        if (measured[i] && !database.run(put.arg(*measured[i]).arg(QLatin1String(lostNames[i].key))))
+        if (measured[i] && !database.run(put.arg(*measured[i]).arg(QLatin1String(lostNames[i]))))
             return false;
     return true;
 }

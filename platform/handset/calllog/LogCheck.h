@@ -11,12 +11,8 @@ struct sqlite3;
 
 namespace handset::calllog {
 
-struct LostName {
-    const char *key; ///< in the database; never change one
-};
-inline constexpr std::array lostNames{LostName{"calls"}, LostName{"units"}, LostName{"duration"}, LostName{"sent"},
-                                      LostName{"received"}};
-
+/// Of the table `lost`; never change one.
+inline constexpr std::array lostNames{"calls", "units", "duration", "sent", "received"};
 /// What the totals count beyond the rows that are left, in the order of lostNames; nothing where the log does not say.
 using LostAmounts = std::array<std::optional<qint64>, lostNames.size()>;
 /// By Total.

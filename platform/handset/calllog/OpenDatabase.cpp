@@ -3,7 +3,6 @@
 #include "LogCheck.h"
 #include "Schema.h"
 #include "SchemaCheck.h"
-#include "Totals.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QThread>
@@ -82,37 +81,16 @@ Finding verifySums(Database &database)
 }
 
 // Every total by its name, and no other; a negative one is none.
-template <typename Names>
-Finding checkTotals(Database &database, const char *select, const Names &names)
-{
-    QStringList expected;
-    for (const auto &name : names)
-        expected << QString::fromLatin1(name.key);
-    expected.sort();
-    QStringList found;
-    QSqlQuery rows = database.query();
-    const bool read = rows.exec(QString::fromLatin1(select));
-    while (rows.next())
-        found << rows.value(0).toString();
-    if (!read || rows.lastError().isValid())
-        return failure(sqlite::code(rows.lastError()), sqlite::reason(rows.lastError()));
-    if (found == expected)
-        return {};
-    return {Verdict::Damaged, QStringLiteral("a total is missing")};
-}
-
-Finding checkAllTotals(Database &database)
-{
-    for (Finding finding :
-         {checkTotals(database, "SELECT counter FROM totals WHERE ms >= 0 ORDER BY counter", timePlaces),
-          checkTotals(database, "SELECT counter FROM costs WHERE units >= 0 ORDER BY counter", costPlaces),
-          checkTotals(database, "SELECT counter FROM session_totals WHERE value >= 0 ORDER BY counter",
-                      sessionPlaces),
-          checkTotals(database, "SELECT counter FROM lost ORDER BY counter", lostNames)})
-        if (finding.verdict != Verdict::Usable)
-            return finding;
-    return {};
-}
+constexpr auto hasAllTotals =
+    "SELECT (SELECT group_concat(counter) FROM (SELECT counter FROM totals WHERE ms >= 0 ORDER BY counter))"
+    " = 'all,answered,data,dialed,last,lifetime'"
+    " AND (SELECT group_concat(counter) FROM (SELECT counter FROM costs WHERE units >= 0 ORDER BY counter))"
+    " = 'answered,dialed,last'"
+    " AND (SELECT group_concat(counter) FROM (SELECT counter FROM session_totals WHERE value >= 0 ORDER BY "
+    "counter))"
+    " = 'duration,received,sent'"
+    " AND (SELECT group_concat(counter) FROM (SELECT counter FROM lost ORDER BY counter))"
+    " = 'calls,duration,received,sent,units'";
 
 // The log's own values to their last bytes: there is no other place for a SIM card and its account. (The plus sign makes
 // that a walk through the whole table.) One that is larger than any of ours is somebody else's work, and too much to be
@@ -124,9 +102,11 @@ constexpr auto readKept =
 // Reads what every later operation depends on, and may write.
 Finding settle(Database &database)
 {
-    Finding totals = checkAllTotals(database);
-    if (totals.verdict != Verdict::Usable)
-        return totals;
+    const std::optional<qint64> hasAll = database.number(QString::fromLatin1(hasAllTotals));
+    if (!hasAll)
+        return failure(database);
+    if (*hasAll == 0)
+        return {Verdict::Damaged, QStringLiteral("a total is missing")};
     for (const char *needed :
          {"SELECT max(id) FROM calls", readKept,
           "SELECT sum(length(apn)) FROM (SELECT apn FROM sessions ORDER BY id DESC LIMIT 3)",
@@ -192,7 +172,7 @@ Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressLi
             : walk(*database, {identify, leaveOlder, verify, configure, bringUpToDate, settle, verifySums});
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
-    return {{}, std::move(database)};
+    return {{}, std::move(database), care != Care::Quick};
 }
 
 } // namespace handset::calllog

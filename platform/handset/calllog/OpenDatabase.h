@@ -11,6 +11,7 @@ namespace handset::calllog {
 struct Attempt {
     Finding finding;
     std::unique_ptr<Database> database; ///< null unless usable
+    bool isReadThrough = false;
 };
 
 enum class Care {

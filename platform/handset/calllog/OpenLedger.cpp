@@ -24,27 +24,18 @@ Care careFor(const StateDirectory &directory, const QString &name)
     return directory.hasLeftovers(name) ? Care::Leftovers : Care::Thorough;
 }
 
-/// An attempt at the log of a state directory.
-struct FileAttempt : Attempt {
-    QString unread = {}; ///< as OpenedLedger::unread
-};
-
-FileAttempt openFile(const StateDirectory &directory, Hold hold, const ProgressListener &progress)
+Attempt openFile(const StateDirectory &directory, Hold hold, const ProgressListener &progress)
 {
     const QString name = QString::fromLatin1(databaseName);
     if (QString problem = directory.mendRights(name); !problem.isEmpty())
-        return {{{Verdict::Blocked, std::move(problem)}, nullptr}};
+        return {{Verdict::Blocked, std::move(problem)}, nullptr};
     Finding finding = examineFile(directory, name);
     if (finding.verdict != Verdict::Usable)
-        return {{std::move(finding), nullptr}};
+        return {std::move(finding), nullptr};
     const QString path = directory.filePath(name);
     if (isMarkedDamaged(path))
-        return {{{Verdict::Damaged, {}}, nullptr}};
-    const Care care = careFor(directory, name);
-    FileAttempt attempt{openDatabase(path, care, hold, progress)};
-    if (care == Care::Quick)
-        attempt.unread = path;
-    return attempt;
+        return {{Verdict::Damaged, {}}, nullptr};
+    return openDatabase(path, careFor(directory, name), hold, progress);
 }
 
 OpenedLedger cannotBeUsed(const StateDirectory &directory, const QString &reason)
@@ -54,7 +45,7 @@ OpenedLedger cannotBeUsed(const StateDirectory &directory, const QString &reason
     return {nullptr, error, {}};
 }
 
-bool isToBeReplaced(const FileAttempt &attempt)
+bool isToBeReplaced(const Attempt &attempt)
 {
     return !attempt.database && attempt.finding.verdict != Verdict::Blocked;
 }
@@ -62,37 +53,36 @@ bool isToBeReplaced(const FileAttempt &attempt)
 // With the directory alone: makes a log where there is none that can be used. `before` is what was found in it shared,
 // Usable where nobody has looked. A read that went wrong once may look like damage: what is damaged still is when it is
 // read again.
-FileAttempt openReplacing(StateDirectory &directory, Verdict before, const ProgressListener &progress)
+Attempt openReplacing(StateDirectory &directory, Verdict before, const ProgressListener &progress)
 {
     Finding finished = finishReplacement(directory);
     if (finished.verdict != Verdict::Usable)
-        return {{{Verdict::Blocked, explain(finished)}, nullptr}};
-    FileAttempt attempt = openFile(directory, Hold::Alone, progress);
+        return {{Verdict::Blocked, explain(finished)}, nullptr};
+    Attempt attempt = openFile(directory, Hold::Alone, progress);
     if (isToBeReplaced(attempt) && attempt.finding.verdict != before)
         attempt = openFile(directory, Hold::Alone, progress);
     if (!isToBeReplaced(attempt))
         return attempt;
-    const Replacement replacement = replace(directory, attempt.finding.verdict, progress);
-    if (!replacement.error.isEmpty())
-        return {{{Verdict::Blocked, replacement.error}, nullptr}};
+    if (const QString error = replace(directory, attempt.finding.verdict, progress); !error.isEmpty())
+        return {{Verdict::Blocked, error}, nullptr};
     return openFile(directory, Hold::Alone, progress);
 }
 
 // Who shares the directory leaves everything as it is; who finds no log that can be used takes it alone, unless another
 // one is quicker and makes it usable. What an interrupted replacement has left beside a log is cleared away by the next
 // one who can be alone at once.
-FileAttempt openInDirectory(StateDirectory &directory, const ProgressListener &progress)
+Attempt openInDirectory(StateDirectory &directory, const ProgressListener &progress)
 {
     constexpr int betweenLooksMs = 200;
     QString holder = hasRemains(directory) ? directory.takeAlone(0) : QStringLiteral("not asked yet");
-    FileAttempt attempt;
+    Attempt attempt;
     for (const QDeadlineTimer end(StateDirectory::longestWaitMs); !holder.isEmpty();) {
         attempt = openFile(directory, Hold::Shared, progress);
         if (!isToBeReplaced(attempt))
             return attempt;
         holder = directory.takeAlone(betweenLooksMs);
         if (!holder.isEmpty() && end.hasExpired())
-            return {{{Verdict::Blocked, explain(attempt.finding) + QStringLiteral(", and ") + holder}, nullptr}};
+            return {{Verdict::Blocked, explain(attempt.finding) + QStringLiteral(", and ") + holder}, nullptr};
     }
     attempt = openReplacing(directory, attempt.finding.verdict, progress);
     directory.share();
@@ -129,7 +119,7 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     std::unique_ptr<StateDirectory> directory = StateDirectory::open(path, error);
     if (!directory)
         return {nullptr, error, {}};
-    FileAttempt attempt = openInDirectory(*directory, progress);
+    Attempt attempt = openInDirectory(*directory, progress);
     if (!attempt.database)
         return cannotBeUsed(*directory, explain(attempt.finding));
     const QString untold = untoldNotice(*attempt.database);
@@ -146,7 +136,8 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     if (!untoldNotice(opening.connection()).isEmpty())
         opening.noticeIsTold();
     opening.connection().setPatience(Database::usualPatienceMs);
-    opened.unread = attempt.unread;
+    if (!attempt.isReadThrough)
+        opened.unread = place.filePath(QString::fromLatin1(databaseName));
     return opened;
 }
 

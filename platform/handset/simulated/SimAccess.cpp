@@ -5,16 +5,9 @@
 
 namespace handset::simulated {
 
+using calllog::Standing;
 using charging::ChargingState;
 using charging::SimCard;
-
-template <typename Ask>
-int SimAccess::ask(Ask ask) const
-{
-    calllog::Standing now;
-    const int status = ledger.standing(now);
-    return status == Success ? ask(now.state) : status;
-}
 
 charging::SimCard SimAccess::card() const
 {
@@ -26,16 +19,16 @@ charging::SimCard SimAccess::card() const
 
 int SimAccess::updateRule(quint8 file, quint8 &rule)
 {
-    return ask([&](const ChargingState &state) { return state.card.updateRule(file, rule); });
+    return ledger.ask([&](const Standing &now) { return now.state.card.updateRule(file, rule); });
 }
 
 int SimAccess::meterMaximum(QString &maximum, bool &enabled)
 {
-    return ask([&](const ChargingState &state) {
-        const int status =
-            charging::limitText(state.card.acmMax(), state.chargeType, state.card.puct().price, maximum);
+    return ledger.ask([&](const Standing &now) {
+        const int status = charging::limitText(now.state.card.acmMax(), now.state.chargeType,
+                                               now.state.card.puct().price, maximum);
         if (status == Success)
-            enabled = state.card.acmMax() != 0;
+            enabled = now.state.card.acmMax() != 0;
         return status;
     });
 }
@@ -56,8 +49,8 @@ int SimAccess::disableMeterMaximum()
 
 int SimAccess::chargeType(quint8 &type)
 {
-    return ask([&](const ChargingState &state) {
-        type = state.chargeType;
+    return ledger.ask([&](const Standing &now) {
+        type = now.state.chargeType;
         return int{Success};
     });
 }
@@ -74,8 +67,8 @@ int SimAccess::setChargeType(quint8 type)
 
 int SimAccess::priceAndCurrency(QString &price, QString &currency)
 {
-    return ask([&](const ChargingState &state) {
-        const charging::Puct puct = state.card.puct();
+    return ledger.ask([&](const Standing &now) {
+        const charging::Puct puct = now.state.card.puct();
         price = puct.price.text();
         currency = puct.currency;
         return int{Success};
@@ -93,8 +86,8 @@ int SimAccess::pinStatus(quint8 pin, quint32 &status)
 {
     if (pin != Pin1 && pin != Pin2)
         return InvalidArgument;
-    return ask([&](const ChargingState &state) {
-        status = pin == Pin1 ? NoEntryNeeded : state.card.pin2().status();
+    return ledger.ask([&](const Standing &now) {
+        status = pin == Pin1 ? NoEntryNeeded : now.state.card.pin2().status();
         return int{Success};
     });
 }
@@ -103,8 +96,8 @@ int SimAccess::triesLeft(quint8 pin, int &tries)
 {
     if (pin != Pin2)
         return pin == Pin1 ? NotAvailable : InvalidArgument;
-    return ask([&](const ChargingState &state) {
-        tries = state.card.pin2().triesLeft();
+    return ledger.ask([&](const Standing &now) {
+        tries = now.state.card.pin2().triesLeft();
         return int{Success};
     });
 }

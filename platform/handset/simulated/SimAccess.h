@@ -46,10 +46,6 @@ public:
     int unblockPin2(QByteArrayView puk, QByteArrayView newPin, bool &accepted);
 
 private:
-    /// Asks `ask` of what stands now.
-    template <typename Ask>
-    int ask(Ask ask) const;
-
     calllog::Ledger &ledger;
 };
 

@@ -96,8 +96,6 @@ public:
     /// Here, and to the other processes.
     void tellChange();
     bool owesRecord() const { return ledger->owesCall() || ledger->owesSession(); }
-    /// Of the line, as it is here or in the process that records.
-    calllog::Standing standing() const;
 
     std::unique_ptr<Ledger> ledger;
     calllog::CallFigures figures{*ledger};
@@ -298,12 +296,6 @@ void SimulatedTelephone::Innards::setDataCallStatus(DataCalls::CallStatus status
         figures.setCallStatus(status);
 }
 
-calllog::Standing SimulatedTelephone::Innards::standing() const
-{
-    calllog::Standing now;
-    return ledger->standing(now) == Success ? now : calllog::Standing{};
-}
-
 SimulatedTelephone::SimulatedTelephone(std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clock)
     : innards(std::make_unique<Innards>(*this, std::move(opened), std::move(clock)))
 {}
@@ -414,14 +406,14 @@ LineState SimulatedTelephone::lineState() const
 {
     if (isRecording())
         return innards->state;
-    return innards->standing().call ? LineState::Connected : LineState::Idle;
+    return innards->ledger->standing().call ? LineState::Connected : LineState::Idle;
 }
 
 CallKind SimulatedTelephone::callKind() const
 {
     if (isRecording())
         return innards->call.kind;
-    const auto call = innards->standing().call;
+    const auto call = innards->ledger->standing().call;
     return call ? call->kind : CallKind::Voice;
 }
 
@@ -429,13 +421,13 @@ QString SimulatedTelephone::number() const
 {
     if (isRecording())
         return innards->call.number;
-    const auto call = innards->standing().call;
+    const auto call = innards->ledger->standing().call;
     return call ? call->number : QString();
 }
 
 qint64 SimulatedTelephone::connectedMs() const
 {
-    const auto call = innards->standing().call;
+    const auto call = innards->ledger->standing().call;
     return call ? call->ms : 0;
 }
 

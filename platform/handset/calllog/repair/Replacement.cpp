@@ -122,7 +122,7 @@ Finding putNotice(Database &database, const QString &notice)
     if (!tables.kept(name, untold))
         return failure(database);
     const QByteArray all = untold.isEmpty() ? notice.toUtf8() : untold + ' ' + notice.toUtf8();
-    return tables.put({name, all}) ? Finding{} : failure(database);
+    return tables.put(name, all) ? Finding{} : failure(database);
 }
 
 Finding fill(Database &database, LogCopy &copy, const Replaced &old, Salvaged &salvaged)
@@ -221,23 +221,23 @@ Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced
 
 } // namespace
 
-Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress)
+QString replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress)
 {
     const QString name = QString::fromLatin1(databaseName);
     LogCopy copy(directory, progress);
     const Finding found = copy.look(verdict);
     if (found.verdict == Verdict::Blocked)
-        return {QStringLiteral("a new one cannot be made (%1)").arg(explain(found))};
+        return QStringLiteral("a new one cannot be made (%1)").arg(explain(found));
     const Replaced old{found.verdict, directory.unusedName(name), progress};
     const Finding made = makeReplacement(directory, copy, old);
     if (made.verdict != Verdict::Usable)
-        return {QStringLiteral("a new one cannot be made (%1)").arg(explain(made))};
+        return QStringLiteral("a new one cannot be made (%1)").arg(explain(made));
     if (old.verdict != Verdict::Missing) {
         if (const int error = directory.keepAside(name, old.keptName))
-            return {QStringLiteral("it cannot be kept under another name (%1)").arg(blocked(error).reason)};
+            return QStringLiteral("it cannot be kept under another name (%1)").arg(blocked(error).reason);
     }
     if (const int error = directory.rename(QString::fromLatin1(readyName), name))
-        return {QStringLiteral("a new one cannot take its place (%1)").arg(blocked(error).reason)};
+        return QStringLiteral("a new one cannot take its place (%1)").arg(blocked(error).reason);
     return {};
 }
 

@@ -7,15 +7,11 @@
 
 namespace handset::calllog {
 
-struct Replacement {
-    QString error; ///< part of a sentence: why there is no new log; empty when there is one
-};
-
 /// For every verdict but Usable and Blocked. What is there is kept under a new name, and what can be read of a damaged
 /// log goes into the new one, with a notice. What is foreign or newer only by its header is taken for damaged. Nothing
 /// has changed when no new log can be made. Whenever this is interrupted, finishReplacement() makes up for it on the next
-/// start.
-Replacement replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress);
+/// start. Answers why there is no new log, part of a sentence; an empty text when there is one.
+QString replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress);
 
 /// Whether an interrupted replacement has left files.
 bool hasRemains(const StateDirectory &directory);

@@ -82,7 +82,7 @@ bool readKept(DamagedLog &source, LedgerTables &tables, bool &isRead)
     PlainStatement rows(source.connection().handle(), "SELECT name, content FROM kept"
                                                       " WHERE typeof(name) = 'text' AND typeof(content) = 'blob'");
     while (rows.next())
-        if (!tables.put({QString::fromUtf8(rows.bytes(0)), rows.bytes(1)}))
+        if (!tables.put(QString::fromUtf8(rows.bytes(0)), rows.bytes(1)))
             return false;
     isRead = source.note(rows);
     return !source.isBlocked();
