@@ -82,6 +82,21 @@ void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data()
     row("a foreign view", {QStringLiteral("CREATE VIEW mine AS SELECT 1")});
     row("a foreign index", {QStringLiteral("CREATE INDEX mine ON calls (number)")});
     row("an index that is missing", {QStringLiteral("DROP INDEX running_calls")});
+    const auto withOneMore = [](const char *call) {
+        return QStringList{
+            QStringLiteral("ALTER TABLE calls RENAME TO before"),
+            QStringLiteral(
+                "CREATE TABLE calls (id, kind, direction, number, started_ms, duration_ms, state, units)"),
+            QStringLiteral("INSERT INTO calls SELECT id, kind, direction, number, started_ms, duration_ms, state,"
+                           " units FROM before"),
+            QStringLiteral("DROP TABLE before"),
+            QStringLiteral("INSERT INTO calls VALUES (%1)").arg(QLatin1String(call)),
+        };
+    };
+    row("a duration that is a text", withOneMore("9, 0, 0, '5', 0, '3000', 1, 0"));
+    row("a number that is none", withOneMore("9, 0, 0, 5, 0, 3000, 1, 0"));
+    row("a kind that is none", withOneMore("9, 2, 0, '5', 0, 3000, 1, 0"));
+    row("an id that is a text", withOneMore("'9', 0, 0, '5', 0, 3000, 1, 0"));
     row("a trigger that takes the calls away",
         {QStringLiteral("CREATE TRIGGER mine AFTER UPDATE ON totals BEGIN DELETE FROM calls; END")});
     row("a trigger that forbids calls",
