@@ -14,6 +14,7 @@
 #include <QtGui/QScreen>
 #include <QtTest/QTest>
 
+#include <csignal>
 #include <memory>
 
 using namespace handset;
@@ -50,6 +51,8 @@ private slots:
     void oneWrongDigitIsNotTakenForTheReference();
     void keysLeadFromTheMenuThroughAResetAndOutAgain();
     void theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey();
+    void aSignalEndsTheWindowWithItsCallWritten_data();
+    void aSignalEndsTheWindowWithItsCallWritten();
     void theQuestionWhetherTheDisplayAnswersEndsNoServer();
 
 private:
@@ -247,6 +250,48 @@ void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey(
     QCOMPARE(seconds, 36000U);
     if (isMakingReferences())
         QSKIP("references were written, nothing was compared");
+}
+
+void WindowTest::aSignalEndsTheWindowWithItsCallWritten_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("SIGTERM") << SIGTERM;
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGHUP") << SIGHUP;
+}
+
+void WindowTest::aSignalEndsTheWindowWithItsCallWritten()
+{
+    QFETCH(int, signal);
+    start();
+    verifyDisplay(QStringLiteral("menu"));
+    press("alt+a"); // the panel's "Dial data call"
+    quint32 before = 0;
+    {
+        const std::shared_ptr<Handset> beside = reopenState(); // sees the running call
+        QVERIFY(beside);
+        const auto isCounted = [&] {
+            press("alt+o"); // "Other side answers", which the panel takes once it shows the call
+            return beside->dataCalls()->totalDuration(before) == Success && before > 36'000;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isCounted(), patience);
+    }
+    QCOMPARE(::kill(static_cast<pid_t>(host->processId()), signal), 0);
+    QVERIFY(host->waitForFinished(patience));
+    QCOMPARE(host->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host->exitCode(), 0);
+
+    const std::shared_ptr<Handset> telephone = reopenState();
+    QVERIFY(telephone);
+    quint32 total = 0;
+    QCOMPARE(telephone->dataCalls()->totalDuration(total), 0);
+    QVERIFY(total >= before);
+    CallTime last;
+    QCOMPARE(telephone->callLog()->lastCallTime(last), 0);
+    QVERIFY(last == CallTime::fromSeconds(total - 36'000)); // its row
+    CallTime lifetime;
+    QCOMPARE(telephone->callLog()->lifetimeCallsTime(lifetime), 0);
+    QVERIFY(lifetime == CallTime::fromSeconds(65 + 3725 + total));
 }
 
 void WindowTest::theQuestionWhetherTheDisplayAnswersEndsNoServer()
