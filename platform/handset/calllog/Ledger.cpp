@@ -38,10 +38,7 @@ Advance advance(Standing &standing, const Moment &to)
     const quint32 due = call.dueAfter(passed);
     call.ms = saturatingSum(call.ms, passed);
     call.units += due;
-    // Whose boot is another cannot tell how far it is.
-    std::optional<Moment> &until = call.written.until;
-    if (!until || (until->boot == to.boot && until->ms < to.ms))
-        until = to;
+    call.written.goOnUntil(to);
     standing.state.charge(due);
     return {passed, due};
 }
@@ -134,7 +131,7 @@ int Ledger::find(Traces &traces)
 {
     for (const TotalPlace &place : costPlaces) {
         qint64 units = 0;
-        if (!tables.totalAt(place.total, now(), units))
+        if (!tables.totalAt(place.total, callsNow(), units))
             return database->status(false);
         traces.costs = traces.costs || units > 0;
     }
@@ -207,6 +204,21 @@ bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
     }
     all.removeAll({});
     return tables.put(keptUntold, all.join(QLatin1Char(' ')).toUtf8());
+}
+
+// Who does not record what runs cannot know that it still does, unless that has been written lately: the recorder may
+// have ended it and not be able to write that, and where there is none nothing runs.
+Moment Ledger::nowFor(bool isOwn) const
+{
+    Moment moment{clock->monotonicMs(), clock->boot()};
+    if (!isOwn)
+        moment.reachMs = directory && directory->isRecording() ? 0 : 2 * checkpointIntervalMs;
+    return moment;
+}
+
+int Ledger::whyNotRecording() const
+{
+    return directory && directory->isRecording() ? StorageFailed : RecordedElsewhere;
 }
 
 bool Ledger::record()
@@ -317,7 +329,7 @@ int Ledger::beginCall(const PastCall &begun)
     if (!isRecordable(begun))
         return InvalidArgument;
     if (!record())
-        return RecordedElsewhere;
+        return whyNotRecording();
     if (isConnected())
         return WrongState;
     if (const int status = writeOwedCall())
@@ -328,7 +340,7 @@ int Ledger::beginCall(const PastCall &begun)
             return int{NotAllowed};
         entry.begins = true;
         entry.now.call = RunningCall{0, begun.kind, begun.direction, begun.number, begun.startWallMs,
-                                     0, 0,          {now()},         {},           tariff};
+                                     0, 0,          {nowFor(true)},  {},           tariff};
         return int{Success};
     });
 }
@@ -337,7 +349,7 @@ int Ledger::endCall()
 {
     if (!isConnected())
         return WrongState;
-    callEnded = now();
+    callEnded = callsNow();
     return writeOwedCall();
 }
 
@@ -396,12 +408,12 @@ int Ledger::addHistory(const QList<PastCall> &calls)
 int Ledger::beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond)
 {
     if (!record())
-        return RecordedElsewhere;
+        return whyNotRecording();
     if (isSessionRunning())
         return WrongState;
     if (const int status = writeOwedSession())
         return status;
-    SessionRow session{0, apn, {}, true, {now()}, sentPerSecond, receivedPerSecond};
+    SessionRow session{0, apn, {}, true, {nowFor(true)}, sentPerSecond, receivedPerSecond};
     const bool done = database->inTransaction([&] { return tables.insert(session, clock->wallMs()); });
     if (done)
         ownSession = session;
@@ -412,7 +424,7 @@ int Ledger::endSession()
 {
     if (!isSessionRunning())
         return WrongState;
-    sessionEnded = now();
+    sessionEnded = sessionsNow();
     const int status = writeOwedSession();
     changed(Success);
     return status;
@@ -435,8 +447,7 @@ int Ledger::transactSession(std::initializer_list<Total> zeroed, RepeatedWrite *
             const SessionAmounts before = session->amounts;
             const Moment to = sessionsNow();
             session->amounts = session->amountsAt(to);
-            if (!session->written.until || session->written.until->boot == to.boot)
-                session->written.until = to;
+            session->written.goOnUntil(to);
             const auto &[ms, sent, received] = session->amounts;
             if (!(isRowGone || tables.update(*session, end ? CallState::Finished : CallState::Running)) ||
                 !tables.addToSessions({ms - before.ms, sent - before.sent, received - before.received}))

@@ -43,6 +43,9 @@ public:
     /// Whether this process records. When nobody does it takes that over: what was running is closed with what was
     /// written of it, and the card has been off.
     bool record();
+    /// What who wants this process to record is told when it does not: RecordedElsewhere, or StorageFailed when it has
+    /// taken that over and cannot write what another has left.
+    int whyNotRecording() const;
 
     // --- the call
 
@@ -113,9 +116,9 @@ public:
 private:
     struct Entry;
 
-    Moment now() const { return {clock->monotonicMs(), clock->boot()}; }
-    Moment callsNow() const { return callEnded.value_or(now()); }
-    Moment sessionsNow() const { return sessionEnded.value_or(now()); }
+    Moment nowFor(bool isOwn) const;
+    Moment callsNow() const { return callEnded ? *callEnded : nowFor(ownCall.has_value()); }
+    Moment sessionsNow() const { return sessionEnded ? *sessionEnded : nowFor(ownSession.has_value()); }
     template <typename Work>
     int transact(Work work, RepeatedWrite *end = nullptr);
     bool write(Entry &entry);

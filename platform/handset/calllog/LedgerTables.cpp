@@ -108,7 +108,15 @@ SessionAmounts sum(const SessionAmounts &a, const SessionAmounts &b)
 
 qint64 Written::passedUntil(const Moment &now) const
 {
-    return until && until->boot == now.boot ? elapsed(until->ms, now.ms) : 0;
+    return until && until->boot == now.boot ? std::min(elapsed(until->ms, now.ms), now.reachMs) : 0;
+}
+
+void Written::goOnUntil(const Moment &now)
+{
+    if (!until)
+        until = now;
+    else
+        until->ms += passedUntil(now);
 }
 
 qint64 RunningCall::passedUntil(const Moment &now) const

@@ -8,6 +8,7 @@
 
 #include <QtCore/QList>
 
+#include <limits>
 #include <optional>
 
 namespace handset::calllog {
@@ -16,14 +17,18 @@ namespace handset::calllog {
 struct Moment {
     qint64 ms = 0;
     QByteArray boot; ///< as Clock::boot()
+    /// How far beyond what is written it is known, in ms, that what runs has gone on until then; 0 to 2^63 - 1.
+    qint64 reachMs = std::numeric_limits<qint64>::max();
 };
 
 /// How far a running row is written.
 struct Written {
     std::optional<Moment> until; ///< nothing in a row that an earlier version has left
 
-    /// The time since then, in ms; none when `now` is of another boot.
+    /// The time since then, in ms, as far as the moment reaches; none when `now` is of another boot.
     qint64 passedUntil(const Moment &now) const;
+    /// Goes on to `now`, as far as that reaches; stays where it is, or is nothing, in another boot and when `now` is before.
+    void goOnUntil(const Moment &now);
 };
 
 /// The row of the call that runs.

@@ -152,7 +152,7 @@ SimulatedTelephone::Innards::~Innards()
 int SimulatedTelephone::Innards::begin(LineState begun, const PastCall &begunCall)
 {
     if (!ledger->record())
-        return RecordedElsewhere;
+        return ledger->whyNotRecording();
     if (state != LineState::Idle)
         return WrongState;
     ledger->checkpoint(); // what is owed
@@ -172,7 +172,7 @@ int SimulatedTelephone::Innards::begin(LineState begun, const PastCall &begunCal
 int SimulatedTelephone::Innards::connectCall(LineState from)
 {
     if (state != from)
-        return ledger->record() ? WrongState : RecordedElsewhere;
+        return ledger->record() ? int{WrongState} : ledger->whyNotRecording();
     if (const int status = ledger->beginCall(call))
         return status;
     state = LineState::Connected;
@@ -371,7 +371,7 @@ int SimulatedTelephone::answer()
 int SimulatedTelephone::hangUp()
 {
     if (innards->state == LineState::Idle)
-        return isRecording() ? WrongState : RecordedElsewhere;
+        return isRecording() ? int{WrongState} : innards->ledger->whyNotRecording();
     innards->endCall();
     innards->tellChange();
     return Success;

@@ -31,6 +31,8 @@ using calllog::CallState;
 
 namespace {
 
+constexpr qint64 writtenEvery = 5 * second;
+
 /// A process that records, and this one, which does not.
 struct Two {
     explicit Two(const StateDir &state)
@@ -39,8 +41,17 @@ struct Two {
         , phone(state.path())
     {}
 
-    /// Both clocks, which stand for one.
+    /// The recorder writes as often as its timer would have it.
     void pass(qint64 ms)
+    {
+        for (; ms > writtenEvery; ms -= writtenEvery) {
+            jump(writtenEvery);
+            recorder->ask("checkpoint");
+        }
+        jump(ms);
+    }
+    /// Both clocks, which stand for one.
+    void jump(qint64 ms)
     {
         recorder->ask("advance " + QByteArray::number(ms));
         phone.clock->advance(ms);
@@ -111,6 +122,9 @@ private slots:
     void historyIsAddedElsewhere();
     void anEndThatIsWrittenElsewhereIsSeenAtOnce();
 
+    void aCallOfWhichNothingIsWrittenGoesOnForTenSecondsElsewhere();
+    void anEndThatIsOwedIsNotOutlivedElsewhere();
+    void whatCannotBeClosedIsNotCountedOn();
     void whoIsLeftRecordsWhenTheRecorderIsKilled();
     void whoIsLeftRecordsWhenTheRecorderIsClosed();
     void theRecorderPassesOnWithoutAnybodyAsking();
@@ -219,7 +233,7 @@ void TestLedger::aLowerLimitElsewhereEndsTheCall()
     QVERIFY(two.dial());
     two.pass(25 * second);
     QCOMPARE(two.phone.handset().adviceOfCharge()->setMeterMaximum(QStringLiteral("2")), int(Success));
-    two.pass(hour);
+    two.jump(hour);
     QCOMPARE(two.recorder->ask("times"), QByteArray("25 25 0 25")); // what was told is not taken back
     QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
     QCOMPARE(two.recorder->ask("line"), QByteArray("0 0"));
@@ -328,6 +342,63 @@ void TestLedger::anEndThatIsWrittenElsewhereIsSeenAtOnce()
     QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
     two.pass(hour);
     QCOMPARE(two.phone.figures(), (SixFigures{3, 3, 0, 0, 3, 3}));
+}
+
+void TestLedger::aCallOfWhichNothingIsWrittenGoesOnForTenSecondsElsewhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    QCOMPARE(two.recorder->ask("start-session"), QByteArray("0"));
+    two.jump(hour);
+    QCOMPARE(two.phone.figures(), (SixFigures{10, 10, 0, 0, 10, 10}));
+    QCOMPARE(two.phone.sessions(), QStringList{QStringLiteral("1 x 10 100 200")});
+    QCOMPARE(two.phone.log().resetDialedCallsTime(), int(Success));
+    QCOMPARE(two.recorder->ask("times"), QByteArray("3600 3590 0 3600")); // who records it knows
+    QCOMPARE(two.phone.packets().resetTotalBytes(), int(Success));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(two.phone.figures(), (SixFigures{3600, 3590, 0, 0, 3600, 3600}));
+    QCOMPARE(LogFile(state.database()).calls().value(0).durationMs, hour);
+}
+
+// The recorder has ended the call and cannot write that; the other process can write again before it does.
+void TestLedger::anEndThatIsOwedIsNotOutlivedElsewhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(8 * second);
+    const LogFile file(state.database());
+    QVERIFY(file.run(QStringLiteral("BEGIN IMMEDIATE")));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QVERIFY(file.run(QStringLiteral("ROLLBACK")));
+    two.jump(hour);
+    QCOMPARE(two.phone.log().resetAnsweredCallsTime(), int(Success));
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    QCOMPARE(file.calls().value(0).durationMs, 15 * second); // ten beyond what was written last
+    QCOMPARE(two.phone.figures(), (SixFigures{15, 15, 0, 0, 15, 15}));
+}
+
+void TestLedger::whatCannotBeClosedIsNotCountedOn()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    two.pass(8 * second);
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    const LogFile file(state.database());
+    QVERIFY(file.run(QStringLiteral("BEGIN IMMEDIATE")));
+    two.recorder->kill();
+    two.phone.clock->advance(hour);
+    QCOMPARE(two.phone->dial(QStringLiteral("6"), CallKind::Voice), int(StorageFailed));
+    QCOMPARE(two.phone.figures(), (SixFigures{8, 8, 0, 0, 8, 8}));
+    QVERIFY(file.run(QStringLiteral("ROLLBACK")));
+    QCOMPARE(two.phone->dial(QStringLiteral("6"), CallKind::Voice), int(Success));
+    QCOMPARE(file.calls().value(0).durationMs, 8 * second);
+    QCOMPARE(file.calls().value(0).state, int(CallState::Interrupted));
 }
 
 void TestLedger::whoIsLeftRecordsWhenTheRecorderIsKilled()
