@@ -131,13 +131,25 @@ Interruption::Interruption(sqlite3 *connection, std::function<bool()> isEnough, 
     : handle(connection)
     , asked(std::move(isEnough))
 {
-    const auto ask = [](void *question) { return (*static_cast<std::function<bool()> *>(question))() ? 1 : 0; };
-    sqlite3_progress_handler(handle, steps, ask, &asked);
+    const auto answer = [](void *self) { return static_cast<Interruption *>(self)->ask() ? 1 : 0; };
+    sqlite3_progress_handler(handle, steps, answer, this);
 }
 
-Interruption::~Interruption()
+bool Interruption::ask()
+{
+    try {
+        return thrown || asked();
+    } catch (...) {
+        thrown = std::current_exception();
+        return true;
+    }
+}
+
+Interruption::~Interruption() noexcept(false)
 {
     sqlite3_progress_handler(handle, 0, nullptr, nullptr);
+    if (thrown && std::uncaught_exceptions() == 0)
+        std::rethrow_exception(thrown);
 }
 
 } // namespace handset::calllog

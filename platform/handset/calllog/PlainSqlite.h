@@ -4,6 +4,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 
+#include <exception>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -93,18 +94,22 @@ private:
 };
 
 /// While this lives, statements of a connection fail with SQLITE_INTERRUPT as soon as `isEnough` says so. It is asked
-/// every `steps` steps of SQLite's virtual machine; a thousand take some microseconds.
+/// every `steps` steps of SQLite's virtual machine; a thousand take some microseconds. What it throws interrupts the
+/// statement, too, and goes on at the end of this: SQLite itself must not be left by an exception.
 class Interruption
 {
 public:
     Interruption(sqlite3 *connection, std::function<bool()> isEnough, int steps = 1000);
-    ~Interruption();
+    ~Interruption() noexcept(false);
     Interruption(const Interruption &) = delete;
     Interruption &operator=(const Interruption &) = delete;
 
 private:
+    bool ask();
+
     sqlite3 *handle;
     std::function<bool()> asked;
+    std::exception_ptr thrown;
 };
 
 } // namespace handset::calllog

@@ -72,6 +72,7 @@ private slots:
     void anOlderDatabaseKeepsItsCallsThroughEveryStep();
     void aLogOfTheFirstVersionKeepsItsCallsAndFigures();
     void aBigLogOfTheFirstVersionSaysHowFarItsStepsAre();
+    void aMigrationThatIsGivenUpLeavesTheLogInItsVersion();
     void aSmallLogOfTheFirstVersionSaysNothingOfItsSteps();
     void aStepThatFailsLeavesTheVersionBeforeItWhole();
     void aStepThatFailedIsDoneByTheNextStart();
@@ -152,6 +153,25 @@ void TestSchema::aBigLogOfTheFirstVersionSaysHowFarItsStepsAre()
     QVERIFY(std::is_sorted(percents.begin(), percents.end()));
     QVERIFY2(percents.front() >= 15 && percents.front() <= 35, qPrintable(QString::number(percents.front())));
     QVERIFY2(percents.back() >= 65 && percents.back() <= 99, qPrintable(QString::number(percents.back())));
+}
+
+void TestSchema::aMigrationThatIsGivenUpLeavesTheLogInItsVersion()
+{
+    const StateDir state;
+    QVERIFY(makeFirstVersion(state, 110'000));
+    const auto version = [&state] {
+        return LogFile(state.database()).value(QStringLiteral("PRAGMA user_version")).toInt();
+    };
+    Settings settings;
+    settings.stateDirectory = state.path();
+    settings.isGivenUp = [] { return true; };
+    const Opened opened = open(settings);
+    QVERIFY(!opened.handset);
+    QCOMPARE(opened.error, QStringLiteral("The opening of the call log was given up; it is as it was."));
+    QCOMPARE(version(), 1);
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.error.isEmpty() && phone.opened.notice.isEmpty(), qPrintable(phone.opened.error));
+    QVERIFY(version() > 1);
 }
 
 void TestSchema::aSmallLogOfTheFirstVersionSaysNothingOfItsSteps()
