@@ -125,6 +125,13 @@ bool Database::fail(const QString &reason)
     return false;
 }
 
+bool Database::isInPlace()
+{
+    int hasMoved = 0;
+    sqlite3_file_control(sqlite, nullptr, SQLITE_FCNTL_HAS_MOVED, &hasMoved);
+    return hasMoved == 0 || fail(QStringLiteral("its file has been removed or renamed"));
+}
+
 int Database::changedRows() const
 {
     return sqlite3_changes(sqlite);

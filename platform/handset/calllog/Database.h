@@ -101,13 +101,14 @@ public:
     /// Warns of a row that somebody has removed while its call or session was running; `owner` is which of them.
     static void warnOfMissingRow(const char *owner);
 
-    /// Runs `work` in a transaction: all of it is in the database when this answers true, none of it otherwise.
+    /// Runs `work` in a transaction: all of it is in the database when this answers true, none of it otherwise; so
+    /// where somebody has removed or renamed the file, which would take with it whatever is written.
     template <typename Work>
     bool inTransaction(Work work)
     {
         if (!run(beginSql))
             return false;
-        if (work() && run(commitSql))
+        if (isInPlace() && work() && run(commitSql))
             return true;
         const QSqlError reason = error;
         run(QStringLiteral("ROLLBACK"));
@@ -118,6 +119,8 @@ public:
     QSqlQuery query() const;
 
 private:
+    bool isInPlace();
+
     static constexpr auto beginSql = "BEGIN IMMEDIATE";
     static constexpr auto commitSql = "COMMIT";
 

@@ -9,6 +9,7 @@
 #include "Status.h"
 #include "TestGroup.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
@@ -81,6 +82,8 @@ private slots:
     void whatIsOwedIsWrittenAtTheEndOfTheTelephone();
     void thatAnEndIsNotWrittenIsSaidOnceAndOnceThatItIs();
     void thatAnEndIsLostIsSaidWhenTheTelephoneEnds();
+    void nothingIsWrittenToALogThatIsNoLongerThere_data();
+    void nothingIsWrittenToALogThatIsNoLongerThere();
     void theNextCallIsNotConnectedAndCanBeEnded();
     void theNextCallIsRefusedForWhatTheOwedOneHasCost();
     void aSettingAndAResetWaitForWhatIsOwed_data();
@@ -366,6 +369,36 @@ void TestFullDisk::thatAnEndIsLostIsSaidWhenTheTelephoneEnds()
     QCOMPARE((*phone)->hangUp(), int(Success));
     expectFailure();
     phone.reset();
+}
+
+void TestFullDisk::nothingIsWrittenToALogThatIsNoLongerThere_data()
+{
+    QTest::addColumn<bool>("isDirectory");
+    QTest::newRow("the file is renamed") << false;
+    QTest::newRow("the directory is renamed") << true;
+}
+
+// It went with the file, and was told to be kept.
+void TestFullDisk::nothingIsWrittenToALogThatIsNoLongerThere()
+{
+    QFETCH(bool, isDirectory);
+    const StateDir state;
+    const QString place = isDirectory ? state.path() : state.database();
+    const QString elsewhere = state.sibling(QStringLiteral("elsewhere"));
+    Phone phone(state.path());
+    QVERIFY(phone.dial());
+    phone.clock->advance(30 * second);
+    QVERIFY(QFile::rename(place, elsewhere));
+    expectFailure();
+    QCOMPARE(phone.log().resetAnsweredCallsTime(), int(StorageFailed));
+    expectFailure();
+    QCOMPARE(phone->hangUp(), int(Success));
+    QVERIFY(phone->owesRecord());
+    QCOMPARE(phone.figures(), (SixFigures{30, 30, 0, 0, 30, 30}));
+    QVERIFY(QFile::rename(elsewhere, place));
+    QCOMPARE(phone->checkpoint(), int(Success));
+    QVERIFY(!phone->owesRecord());
+    QCOMPARE(statesIn(state.database(), CallState::Finished), 1);
 }
 
 void TestFullDisk::theNextCallIsNotConnectedAndCanBeEnded()

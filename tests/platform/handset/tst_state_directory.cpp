@@ -398,6 +398,7 @@ void TestStateDirectory::removingTheLockFilesMakesNoSecondRecorder()
     QCOMPARE(holder.firstLine(), QByteArray("holding"));
     QCOMPARE(holder.ask("recording"), QByteArray("no"));
     // Nor does it take the directory for itself.
+    QCOMPARE(phone->hangUp(), int(Success));
     QVERIFY(QFile::remove(state.database()));
     QVERIFY(OtherProcess(state.path()).firstLine().contains("in use by"));
 }
