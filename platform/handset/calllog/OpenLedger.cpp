@@ -81,8 +81,11 @@ Attempt openInDirectory(StateDirectory &directory, const ProgressListener &progr
         if (!isToBeReplaced(attempt))
             return attempt;
         holder = directory.takeAlone(betweenLooksMs);
-        if (!holder.isEmpty() && end.hasExpired())
+        if (!holder.isEmpty() && end.hasExpired()) {
+            if (attempt.finding.verdict == Verdict::Damaged)
+                attempt.finding.reason.clear(); // SQLite's words, of several lines
             return {{Verdict::Blocked, explain(attempt.finding) + QStringLiteral(", and ") + holder}, nullptr};
+        }
     }
     attempt = openReplacing(directory, attempt.finding.verdict, progress);
     directory.share();

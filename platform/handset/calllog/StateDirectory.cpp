@@ -19,6 +19,7 @@
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 namespace handset::calllog {
@@ -347,26 +348,33 @@ bool StateDirectory::record()
     return isRecording();
 }
 
-// The kernel lists its locks by the inodes of the files, with the process that took each.
+// The kernel lists its locks by device and inode of the files, with the process that took each.
 QString StateDirectory::whoHolds() const
 {
-    struct stat file = {};
-    struct stat directory = {};
-    ::fstat(useLock, &file);
-    ::stat(encoded(path).constData(), &directory);
-    QStringList holders;
+    struct stat files[3] = {};
+    ::fstat(useLock, &files[0]);
+    ::fstat(recorderLock, &files[1]);
+    ::stat(encoded(path).constData(), &files[2]);
     QFile locks(QStringLiteral("/proc/locks"));
     const QByteArray all = locks.open(QIODevice::ReadOnly) ? locks.readAll() : QByteArray();
+    QStringList ofTheFile;
+    QStringList ofTheInode; // some file systems have another device here than a file says
     for (const QByteArray &line : all.split('\n')) {
         const QList<QByteArray> words = line.simplified().split(' ');
-        const QByteArray inode = words.value(5).split(':').value(2);
-        const bool isOurs = inode == QByteArray::number(qulonglong{file.st_ino}) ||
-                            inode == QByteArray::number(qulonglong{directory.st_ino});
-        if (words.value(1) != "FLOCK" || !isOurs || words.value(4).toLongLong() == ::getpid())
+        const QList<QByteArray> place = words.value(5).split(':');
+        const QByteArray &process = words.value(4);
+        if (words.value(1) != "FLOCK" || process.toLongLong() == ::getpid())
             continue;
-        if (const QString name = nameOf(words.value(4)); !holders.contains(name))
-            holders << name;
+        for (const struct stat &file : files) {
+            if (place.value(2).toULongLong() != file.st_ino)
+                continue;
+            const bool isThere = place.value(0).toUInt(nullptr, 16) == major(file.st_dev) &&
+                                 place.value(1).toUInt(nullptr, 16) == minor(file.st_dev);
+            (isThere ? ofTheFile : ofTheInode) << nameOf(process);
+        }
     }
+    QStringList holders = ofTheFile.isEmpty() ? ofTheInode : ofTheFile;
+    holders.removeDuplicates();
     return holders.isEmpty() ? QStringLiteral("another process has it open")
                              : QStringLiteral("it is in use by ") + holders.join(QStringLiteral(", "));
 }
