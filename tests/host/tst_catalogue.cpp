@@ -89,6 +89,14 @@ void askForTexts(const QTranslator &translator)
     }
 }
 
+// The window, in the language of a catalogue.
+HostResult photographWith(const QString &catalogue, const QTemporaryDir &home)
+{
+    return runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
+                    home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), catalogue},
+                   hostEnvironment(home.path()));
+}
+
 } // namespace
 
 class CatalogueTest : public QObject
@@ -250,10 +258,7 @@ void CatalogueTest::theProgramRefusesADamagedCatalogue()
     QFile file(home.filePath(QStringLiteral("damaged.qm")));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
-    const HostResult result =
-        runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
-                 home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), file.fileName()},
-                hostEnvironment(home.path()));
+    const HostResult result = photographWith(file.fileName(), home);
     QCOMPARE(result.code, 8);
     QVERIFY2(result.errors.contains(QStringLiteral("damaged.qm\" cannot be loaded: it is damaged")),
              qPrintable(result.errors));
@@ -265,10 +270,7 @@ void CatalogueTest::theProgramRefusesACatalogueOfGigabytes()
     QFile file(home.filePath(QStringLiteral("large.qm")));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64{40} * 1024 * 1024 * 1024)); // takes no room
     file.close();
-    const HostResult result =
-        runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
-                 home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), file.fileName()},
-                hostEnvironment(home.path()));
+    const HostResult result = photographWith(file.fileName(), home);
     QCOMPARE(result.code, 8);
     QVERIFY2(result.errors.contains(QStringLiteral("it is larger than 64 MiB")), qPrintable(result.errors));
 }
@@ -279,10 +281,7 @@ void CatalogueTest::theProgramSaysThatACatalogueHasNoTexts()
     QFile file(home.filePath(QStringLiteral("empty.qm")));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.write(magic()) == magicSize);
     file.close();
-    const HostResult result =
-        runHost({QStringLiteral("--state"), QStringLiteral("none"), QStringLiteral("--photo"),
-                 home.filePath(QStringLiteral("window.png")), QStringLiteral("--translation"), file.fileName()},
-                hostEnvironment(home.path()));
+    const HostResult result = photographWith(file.fileName(), home);
     QCOMPARE(result.code, 8);
     QVERIFY2(result.errors.contains(QStringLiteral("empty.qm\" cannot be loaded: it has no texts.")),
              qPrintable(result.errors));

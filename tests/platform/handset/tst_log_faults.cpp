@@ -1,8 +1,8 @@
 // The call log is opened while the system's calls fail, one after the other: no finished call is lost, what was put aside
 // is whole, the error or the notice says what happened, and the next start finds everything right.
-#include "Faults.h"
 #include "HandsetTestKit.h"
 #include "Status.h"
+#include "SystemFaults.h"
 #include "TestGroup.h"
 
 #include <QtCore/QDir>

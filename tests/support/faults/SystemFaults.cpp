@@ -1,4 +1,4 @@
-#include "Faults.h"
+#include "SystemFaults.h"
 
 #include <algorithm>
 #include <array>
