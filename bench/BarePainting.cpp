@@ -1,7 +1,7 @@
-#include "BarePainting.h"
+#include "bench/BarePainting.h"
 
-#include "ScreenTable.h"
-#include "ZSkinService.h"
+#include "bench/ScreenTable.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtGui/QPainter>
 

@@ -1,6 +1,6 @@
-#include "CallLogs.h"
+#include "bench/CallLogs.h"
 
-#include "GrownLog.h"
+#include "bench/GrownLog.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>

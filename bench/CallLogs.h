@@ -1,8 +1,8 @@
 // Call logs of any size on the disk, to be measured.
 #pragma once
 
-#include "Clock.h"
-#include "SimulatedTelephone.h"
+#include "handset/Clock.h"
+#include "simulated/SimulatedTelephone.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>

@@ -1,4 +1,4 @@
-#include "Comparison.h"
+#include "bench/Comparison.h"
 
 namespace bench {
 

@@ -1,8 +1,8 @@
-#include "Endurance.h"
+#include "bench/Endurance.h"
 
-#include "FixedTelephone.h"
-#include "ScreenTable.h"
-#include "Stage.h"
+#include "bench/FixedTelephone.h"
+#include "bench/ScreenTable.h"
+#include "bench/Stage.h"
 
 #include <cstdio>
 #include <fstream>

@@ -1,7 +1,7 @@
-#include "FixedTelephone.h"
+#include "bench/FixedTelephone.h"
 
-#include "DecoratedHandset.h"
-#include "aplog.h"
+#include "handset/DecoratedHandset.h"
+#include "log/aplog.h"
 
 namespace bench {
 

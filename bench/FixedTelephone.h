@@ -1,7 +1,7 @@
 // A telephone whose figures cost nothing to ask and do not change by themselves.
 #pragma once
 
-#include "CallTime.h"
+#include "handset/CallTime.h"
 
 #include <QtCore/QByteArray>
 

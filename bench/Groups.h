@@ -1,7 +1,7 @@
 // The rows that there are, by what they are about.
 #pragma once
 
-#include "Comparison.h"
+#include "bench/Comparison.h"
 
 #include <QtCore/QString>
 

@@ -1,4 +1,4 @@
-#include "GrownLog.h"
+#include "bench/GrownLog.h"
 
 #include <QtCore/QFile>
 

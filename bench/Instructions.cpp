@@ -1,7 +1,7 @@
-#include "Instructions.h"
+#include "bench/Instructions.h"
 
-#include "Counted.h"
-#include "Measurement.h"
+#include "bench/Counted.h"
+#include "bench/Measurement.h"
 
 #include <QtConcurrent/QtConcurrentMap>
 #include <QtCore/QCoreApplication>

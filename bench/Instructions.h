@@ -1,7 +1,7 @@
 // Counts the instructions of comparisons with valgrind's callgrind, each side in a process of its own.
 #pragma once
 
-#include "Comparison.h"
+#include "bench/Comparison.h"
 
 #include <QtCore/QString>
 

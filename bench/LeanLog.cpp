@@ -1,4 +1,4 @@
-#include "LeanLog.h"
+#include "bench/LeanLog.h"
 
 #include <QtCore/QFile>
 

@@ -1,7 +1,7 @@
 // A call log as lean as C and SQLite make it.
 #pragma once
 
-#include "Call.h"
+#include "handset/Call.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>

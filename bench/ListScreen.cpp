@@ -1,7 +1,7 @@
-#include "ListScreen.h"
+#include "bench/ListScreen.h"
 
-#include "ScreenTable.h"
-#include "ZSkinService.h"
+#include "bench/ScreenTable.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtCore/QAbstractListModel>
 #include <QtGui/QPainter>

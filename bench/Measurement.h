@@ -1,7 +1,7 @@
 // Measures the sides of a comparison in this process with Google Benchmark.
 #pragma once
 
-#include "Comparison.h"
+#include "bench/Comparison.h"
 
 #include <string>
 #include <vector>

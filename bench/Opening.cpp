@@ -1,8 +1,8 @@
-#include "Opening.h"
+#include "bench/Opening.h"
 
-#include "Counted.h"
-#include "FixedTelephone.h"
-#include "Stage.h"
+#include "bench/Counted.h"
+#include "bench/FixedTelephone.h"
+#include "bench/Stage.h"
 
 #include <QtCore/QSet>
 

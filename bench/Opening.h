@@ -1,7 +1,7 @@
 // Measures how long something takes to come up on the display.
 #pragma once
 
-#include "Comparison.h"
+#include "bench/Comparison.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
-#include "Options.h"
+#include "bench/Options.h"
 
-#include "CallLogs.h"
+#include "bench/CallLogs.h"
 
 #include <QtCore/QCommandLineParser>
 

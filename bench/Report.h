@@ -1,7 +1,7 @@
 // The tables at the end.
 #pragma once
 
-#include "Summary.h"
+#include "bench/Summary.h"
 
 #include <QtCore/QString>
 

@@ -1,4 +1,4 @@
-#include "SessionBus.h"
+#include "bench/SessionBus.h"
 
 #include <csignal>
 

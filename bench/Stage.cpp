@@ -1,7 +1,7 @@
-#include "Stage.h"
+#include "bench/Stage.h"
 
-#include "ZApplication.h"
-#include "ZSkinService.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QScreen>

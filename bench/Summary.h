@@ -1,9 +1,9 @@
 // What a run has found, as texts that are ready to be printed.
 #pragma once
 
-#include "Endurance.h"
-#include "Instructions.h"
-#include "Measurement.h"
+#include "bench/Endurance.h"
+#include "bench/Instructions.h"
+#include "bench/Measurement.h"
 
 #include <string>
 #include <vector>

@@ -1,11 +1,11 @@
 // Measures everything and prints one table. The exit code says whether every bar is met.
-#include "CallLogs.h"
-#include "Counted.h"
-#include "Groups.h"
-#include "Instructions.h"
-#include "Options.h"
-#include "Report.h"
-#include "SessionBus.h"
+#include "bench/CallLogs.h"
+#include "bench/Counted.h"
+#include "bench/Groups.h"
+#include "bench/Instructions.h"
+#include "bench/Options.h"
+#include "bench/Report.h"
+#include "bench/SessionBus.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,8 +1,8 @@
 // kavbench_sender, the other process of the broadcasts that are measured. A line on its input is what to send and how
 // often, "channel 1" or "plain 10000"; it says "ready" when it is on the bus, and ends with its input.
-#include "PlainSignal.h"
-#include "QCopChannel.h"
-#include "qcop/QCopBus.h"
+#include "bench/PlainSignal.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtDBus/QDBusConnection>

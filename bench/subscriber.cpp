@@ -1,8 +1,8 @@
 // kavbench_subscriber, one of the processes that a broadcast is for. Its argument is how it comes, "channel" or "plain".
 // It writes a byte when it is subscribed, one for every broadcast, and ends with its input.
-#include "PlainSignal.h"
-#include "QCopChannel.h"
-#include "qcop/QCopBus.h"
+#include "bench/PlainSignal.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>

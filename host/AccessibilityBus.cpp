@@ -1,4 +1,4 @@
-#include "AccessibilityBus.h"
+#include "host/AccessibilityBus.h"
 
 #include <QtCore/QLibrary>
 #include <QtGui/QGuiApplication>

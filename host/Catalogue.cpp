@@ -1,6 +1,6 @@
-#include "Catalogue.h"
+#include "host/Catalogue.h"
 
-#include "ReadFile.h"
+#include "host/ReadFile.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QtEndian>

@@ -1,4 +1,4 @@
-#include "EndSignals.h"
+#include "host/EndSignals.h"
 
 #include <cerrno>
 #include <csignal>

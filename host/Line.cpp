@@ -1,7 +1,7 @@
-#include "Line.h"
+#include "host/Line.h"
 
-#include "ReadyMadeHistory.h"
-#include "StatusText.h"
+#include "host/StatusText.h"
+#include "simulated/ReadyMadeHistory.h"
 
 #include <QtCore/QDateTime>
 

@@ -1,7 +1,7 @@
 // The telephone's line as the panel and the keypad drive it.
 #pragma once
 
-#include "SimulatedTelephone.h"
+#include "simulated/SimulatedTelephone.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

@@ -1,10 +1,10 @@
-#include "MenuScreen.h"
+#include "host/MenuScreen.h"
 
-#include "ScreenTable.h"
-#include "ZListBox.h"
-#include "ZSettingItem.h"
-#include "ZSoftKey.h"
-#include "translation.h"
+#include "host/ScreenTable.h"
+#include "qt/translation.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSoftKey.h"
 
 namespace host {
 

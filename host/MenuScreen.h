@@ -1,7 +1,7 @@
 // The first screen: what the recent-calls application has to show.
 #pragma once
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 class ZListBox;
 class ZSettingItem;

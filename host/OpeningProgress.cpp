@@ -1,6 +1,6 @@
-#include "OpeningProgress.h"
+#include "host/OpeningProgress.h"
 
-#include "panel/Controls.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QVBoxLayout>

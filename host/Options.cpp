@@ -1,8 +1,8 @@
-#include "Options.h"
+#include "host/Options.h"
 
-#include "Handset.h"
-#include "ScreenTable.h"
-#include "panel/Panel.h"
+#include "handset/Handset.h"
+#include "host/ScreenTable.h"
+#include "host/panel/Panel.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>

@@ -1,13 +1,13 @@
-#include "PhoneWindow.h"
+#include "host/PhoneWindow.h"
 
-#include "MenuScreen.h"
-#include "OpeningProgress.h"
-#include "ZApplication.h"
-#include "ZKeys.h"
-#include "panel/Panel.h"
-#include "phone/Display.h"
-#include "phone/Keypad.h"
-#include "phone/PhoneBody.h"
+#include "host/MenuScreen.h"
+#include "host/OpeningProgress.h"
+#include "host/panel/Panel.h"
+#include "host/phone/Display.h"
+#include "host/phone/Keypad.h"
+#include "host/phone/PhoneBody.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKeys.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>

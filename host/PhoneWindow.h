@@ -1,10 +1,10 @@
 // The application's window: the phone, and the panel beside it.
 #pragma once
 
-#include "Handset.h"
-#include "Line.h"
-#include "ScreenHost.h"
-#include "panel/Panel.h"
+#include "handset/Handset.h"
+#include "host/Line.h"
+#include "host/ScreenHost.h"
+#include "host/panel/Panel.h"
 
 #include <QtWidgets/QWidget>
 

@@ -1,4 +1,4 @@
-#include "ReadFile.h"
+#include "host/ReadFile.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

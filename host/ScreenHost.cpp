@@ -1,4 +1,4 @@
-#include "ScreenHost.h"
+#include "host/ScreenHost.h"
 
 namespace host {
 

@@ -1,7 +1,7 @@
 // Opens the plug-in's screens on the display and gives them back.
 #pragma once
 
-#include "ScreenLibrary.h"
+#include "host/ScreenLibrary.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QPointer>

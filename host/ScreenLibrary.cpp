@@ -1,4 +1,4 @@
-#include "ScreenLibrary.h"
+#include "host/ScreenLibrary.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>

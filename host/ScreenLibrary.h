@@ -1,7 +1,7 @@
 // The plug-in library, reached only through its exported names.
 #pragma once
 
-#include "ScreenTable.h"
+#include "host/ScreenTable.h"
 
 class QWidget;
 

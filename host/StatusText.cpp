@@ -1,6 +1,6 @@
-#include "StatusText.h"
+#include "host/StatusText.h"
 
-#include "Status.h"
+#include "handset/Status.h"
 
 #include <QtCore/QCoreApplication>
 

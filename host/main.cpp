@@ -1,18 +1,18 @@
 // kavrecentcalls, the recent-calls application of the phone.
 
-#include "AccessibilityBus.h"
-#include "BusGuard.h"
-#include "Catalogue.h"
-#include "EndSignals.h"
-#include "ExitCode.h"
-#include "Handset.h"
-#include "Options.h"
-#include "PhoneWindow.h"
-#include "ReadFile.h"
-#include "ScreenLibrary.h"
-#include "aplog.h"
-#include "faults/FaultyHandset.h"
-#include "tour/TourPlayer.h"
+#include "handset/Handset.h"
+#include "host/AccessibilityBus.h"
+#include "host/Catalogue.h"
+#include "host/EndSignals.h"
+#include "host/ExitCode.h"
+#include "host/Options.h"
+#include "host/PhoneWindow.h"
+#include "host/ReadFile.h"
+#include "host/ScreenLibrary.h"
+#include "host/faults/FaultyHandset.h"
+#include "host/tour/TourPlayer.h"
+#include "log/aplog.h"
+#include "qt/BusGuard.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -1,7 +1,7 @@
 // Starts the program. It needs the C library only, so that a library that is missing, or one that lacks a function,
 // ends the program here with a message and an exit code, and not in the middle of its use.
 
-#include "ExitCode.h"
+#include "host/ExitCode.h"
 
 #include <cstdio>
 

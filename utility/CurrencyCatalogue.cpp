@@ -1,4 +1,4 @@
-#include "CurrencyCatalogue.h"
+#include "utility/CurrencyCatalogue.h"
 
 #include <QtCore/QString>
 

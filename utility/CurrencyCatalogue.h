@@ -1,7 +1,7 @@
 // The currencies of the world as the phone knows them: constant tables, no file is read.
 #pragma once
 
-#include "ResourceText.h"
+#include "utility/ResourceText.h"
 
 #include <span>
 

@@ -1,19 +1,19 @@
-#include "PHONE_UI_RecentCallCostSetupView.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
 
-#include "CurrencyCatalogue.h"
-#include "PHONE_ENG_Setup.h"
-#include "PHONE_UI_RecentCallMeter.h"
-#include "QValueList.h"
-#include "ResourceText.h"
-#include "SETUP_SECURITY_Util.h"
-#include "ScreenFrame.h"
-#include "ZApplication.h"
-#include "ZListBoxItem.h"
-#include "ZMultiLineEdit.h"
-#include "ZNoticeDlg.h"
-#include "ZSingleCaptureDlg.h"
-#include "ZSingleSelectDlg.h"
-#include "tapi.h"
+#include "callsetup/PHONE_ENG_Setup.h"
+#include "qt/QValueList.h"
+#include "security/SETUP_SECURITY_Util.h"
+#include "telephony/tapi.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZListBoxItem.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZNoticeDlg.h"
+#include "toolkit/ZSingleCaptureDlg.h"
+#include "toolkit/ZSingleSelectDlg.h"
+#include "utility/CurrencyCatalogue.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
+#include "utility/ResourceText.h"
+#include "utility/ScreenFrame.h"
 
 #include <QtCore/QTimer>
 #include <QtCore/QUuid>
@@ -22,7 +22,7 @@
 #include <new>
 
 #define KAV_SOURCE "utility/PHONE_UI_RecentCallCostSetupView"
-#include "trace.h"
+#include "utility/trace.h"
 
 // Names of display settings that came with the screen; nothing reads them.
 static const QString screensaverStatus = QString::fromLatin1("ScreensaverStatus");

@@ -1,7 +1,7 @@
 // The sub-screen "Call-Cost Setup".
 #pragma once
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QString>
 

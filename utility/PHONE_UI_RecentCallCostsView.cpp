@@ -1,9 +1,9 @@
-#include "PHONE_UI_RecentCallCostsView.h"
+#include "utility/PHONE_UI_RecentCallCostsView.h"
 
-#include "PHONE_UI_RecentCallCostSetupView.h"
-#include "PHONE_UI_RecentCallMeter.h"
-#include "ResourceText.h"
-#include "ScreenFrame.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
+#include "utility/ResourceText.h"
+#include "utility/ScreenFrame.h"
 
 #include <iterator>
 #include <new>

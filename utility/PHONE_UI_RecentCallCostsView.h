@@ -1,7 +1,7 @@
 // The screen "Call Costs".
 #pragma once
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QString>
 

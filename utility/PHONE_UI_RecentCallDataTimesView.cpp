@@ -1,8 +1,8 @@
-#include "PHONE_UI_RecentCallDataTimesView.h"
+#include "utility/PHONE_UI_RecentCallDataTimesView.h"
 
-#include "PHONE_UI_RecentCallMeter.h"
-#include "ResourceText.h"
-#include "ScreenFrame.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
+#include "utility/ResourceText.h"
+#include "utility/ScreenFrame.h"
 
 #include <iterator>
 #include <new>

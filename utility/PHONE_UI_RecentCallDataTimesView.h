@@ -1,7 +1,7 @@
 // The screen "Data Times".
 #pragma once
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QString>
 

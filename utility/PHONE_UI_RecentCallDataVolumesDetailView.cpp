@@ -1,10 +1,10 @@
-#include "PHONE_UI_RecentCallDataVolumesDetailView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"
 
-#include "PHONE_UI_RecentCallMeter.h"
-#include "ResourceText.h"
-#include "ScreenFrame.h"
-#include "ZLabel.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZLabel.h"
+#include "toolkit/ZSoftKey.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
+#include "utility/ResourceText.h"
+#include "utility/ScreenFrame.h"
 
 #include <iterator>
 #include <new>

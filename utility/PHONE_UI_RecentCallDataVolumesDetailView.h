@@ -1,7 +1,7 @@
 // The sub-screen "Data Volume": the volumes of one data session, or of all of them.
 #pragma once
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QString>
 

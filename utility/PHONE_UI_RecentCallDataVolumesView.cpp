@@ -1,17 +1,17 @@
-#include "PHONE_UI_RecentCallDataVolumesView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesView.h"
 
-#include "PHONE_UI_RecentCallDataVolumesDetailView.h"
-#include "PHONE_UI_RecentCallMeter.h"
-#include "QCopChannel.h"
-#include "ResourceText.h"
-#include "ScreenFrame.h"
+#include "qt/QCopChannel.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
+#include "utility/ResourceText.h"
+#include "utility/ScreenFrame.h"
 
 #include <cstring>
 #include <iterator>
 #include <new>
 
 #define KAV_SOURCE "utility/PHONE_UI_RecentCallDataVolumesView"
-#include "trace.h"
+#include "utility/trace.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // The screen "Data Volumes".
 #pragma once
 
-#include "QCString.h"
-#include "ZKbMainWidget.h"
+#include "qt/QCString.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QString>
 

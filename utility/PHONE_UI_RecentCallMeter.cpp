@@ -1,8 +1,8 @@
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "CurrencyCatalogue.h"
-#include "PHONE_ENG_Setup.h"
-#include "tapi.h"
+#include "callsetup/PHONE_ENG_Setup.h"
+#include "telephony/tapi.h"
+#include "utility/CurrencyCatalogue.h"
 
 #include <QtCore/QtEndian>
 
@@ -10,7 +10,7 @@
 #include <iterator>
 
 #define KAV_SOURCE "utility/PHONE_UI_RecentCallMeter"
-#include "trace.h"
+#include "utility/trace.h"
 
 namespace {
 

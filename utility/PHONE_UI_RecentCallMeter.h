@@ -1,7 +1,7 @@
 // The model behind every call-meter screen.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

@@ -1,9 +1,9 @@
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PHONE_MsgClient.h"
-#include "PHONE_UI_RecentCallMeter.h"
-#include "ScreenFrame.h"
-#include "util.h"
+#include "message/PHONE_MsgClient.h"
+#include "telephony/util.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
+#include "utility/ScreenFrame.h"
 
 #include <iterator>
 #include <new>

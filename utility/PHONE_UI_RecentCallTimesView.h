@@ -1,7 +1,7 @@
 // The screen "Call Times".
 #pragma once
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QString>
 

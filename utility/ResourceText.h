@@ -1,7 +1,7 @@
 // Texts of the application's translation catalogue.
 #pragma once
 
-#include "translation.h"
+#include "qt/translation.h"
 
 /// A text of the catalogue: its key (ASCII) and its English default (Latin-1).
 struct ResourceText {

@@ -1,7 +1,7 @@
-#include "ScreenFrame.h"
+#include "utility/ScreenFrame.h"
 
-#include "ZKbMainWidget.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZSoftKey.h"
 
 #include <new>
 

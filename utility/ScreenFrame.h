@@ -1,10 +1,10 @@
 // What the screens have in common: the frame, the rows of a settings list, the dialogs.
 #pragma once
 
-#include "ResourceText.h"
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "utility/ResourceText.h"
 
 #include <QtCore/QString>
 

@@ -4,7 +4,7 @@
 // under which it appears in the traces.
 #pragma once
 
-#include "aplog.h"
+#include "log/aplog.h"
 
 #include <cstdarg>
 #include <cstdio>

@@ -1,12 +1,12 @@
 // From a broadcast to the repainted list of Data Volumes, and how many broadcasts a second come through.
-#include "Counted.h"
-#include "FixedTelephone.h"
-#include "Groups.h"
-#include "PHONE_UI_RecentCallDataVolumesView.h"
-#include "PlainSignal.h"
-#include "QCopChannel.h"
-#include "Stage.h"
-#include "qcop/QCopBus.h"
+#include "bench/Counted.h"
+#include "bench/FixedTelephone.h"
+#include "bench/Groups.h"
+#include "bench/PlainSignal.h"
+#include "bench/Stage.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesView.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>

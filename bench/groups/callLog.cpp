@@ -1,11 +1,11 @@
 // A call log of a million calls beside one of a hundred: asking for a figure, and recording a call.
-#include "CallLogs.h"
-#include "Counted.h"
-#include "Groups.h"
-#include "Handset.h"
-#include "LeanLog.h"
-#include "tapi.h"
-#include "util.h"
+#include "bench/CallLogs.h"
+#include "bench/Counted.h"
+#include "bench/Groups.h"
+#include "bench/LeanLog.h"
+#include "handset/Handset.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 // From starting the host to the first paint of its window, beside a program whose window is one label.
-#include "CallLogs.h"
-#include "Groups.h"
+#include "bench/CallLogs.h"
+#include "bench/Groups.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>

@@ -1,12 +1,12 @@
 // Opening the list of currencies beside a list view with a delegate and the same texts.
-#include "Groups.h"
-#include "ListScreen.h"
-#include "Opening.h"
-#include "PHONE_UI_RecentCallCostSetupView.h"
-#include "ZListBox.h"
-#include "ZListItem.h"
-#include "ZSettingItem.h"
-#include "ZSingleSelectDlg.h"
+#include "bench/Groups.h"
+#include "bench/ListScreen.h"
+#include "bench/Opening.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItem.h"
+#include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSingleSelectDlg.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
 
 namespace bench {
 

@@ -1,7 +1,7 @@
 // A broadcast to many processes, until each of them has it.
-#include "Groups.h"
-#include "PlainSignal.h"
-#include "QCopChannel.h"
+#include "bench/Groups.h"
+#include "bench/PlainSignal.h"
+#include "qt/QCopChannel.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>

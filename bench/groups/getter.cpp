@@ -1,10 +1,10 @@
 // A call time as text: the meter's getter beside what Qt and the C library offer for the same figures.
-#include "Counted.h"
-#include "FixedTelephone.h"
-#include "Groups.h"
-#include "PHONE_UI_RecentCallMeter.h"
-#include "aplog.h"
-#include "tapi.h"
+#include "bench/Counted.h"
+#include "bench/FixedTelephone.h"
+#include "bench/Groups.h"
+#include "log/aplog.h"
+#include "telephony/tapi.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include <QtCore/QTime>
 

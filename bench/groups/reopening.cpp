@@ -1,14 +1,14 @@
 // Opening a call log, after a crash and after a proper end, until the first screen is there: a large log beside a small
 // one.
-#include "CallLogs.h"
-#include "Counted.h"
-#include "FixedTelephone.h"
-#include "Groups.h"
-#include "Handset.h"
-#include "PHONE_UI_RecentCallTimesView.h"
-#include "Stage.h"
-#include "ZListBox.h"
-#include "ZListItem.h"
+#include "bench/CallLogs.h"
+#include "bench/Counted.h"
+#include "bench/FixedTelephone.h"
+#include "bench/Groups.h"
+#include "bench/Stage.h"
+#include "handset/Handset.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItem.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
 #include <QtCore/QLocale>
 

@@ -1,11 +1,11 @@
 // Opening a screen beside the same texts in a list view with a delegate, and painted on an image.
-#include "BarePainting.h"
-#include "Counted.h"
-#include "FixedTelephone.h"
-#include "Groups.h"
-#include "ListScreen.h"
-#include "Opening.h"
-#include "ScreenTable.h"
+#include "bench/BarePainting.h"
+#include "bench/Counted.h"
+#include "bench/FixedTelephone.h"
+#include "bench/Groups.h"
+#include "bench/ListScreen.h"
+#include "bench/Opening.h"
+#include "bench/ScreenTable.h"
 
 namespace bench {
 

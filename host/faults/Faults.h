@@ -1,7 +1,7 @@
 // Which operations of the telephone fail.
 #pragma once
 
-#include "Operations.h"
+#include "handset/Operations.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 // A telephone some of whose operations fail, in front of another.
 #pragma once
 
-#include "DecoratedHandset.h"
-#include "Faults.h"
+#include "handset/DecoratedHandset.h"
+#include "host/faults/Faults.h"
 
 namespace host {
 

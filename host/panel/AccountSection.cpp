@@ -1,10 +1,10 @@
-#include "AccountSection.h"
+#include "host/panel/AccountSection.h"
 
-#include "CallLog.h"
-#include "CallService.h"
-#include "Controls.h"
-#include "CostSection.h"
-#include "StatusText.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "host/StatusText.h"
+#include "host/panel/Controls.h"
+#include "host/panel/CostSection.h"
 
 #include <QtWidgets/QDateEdit>
 #include <QtWidgets/QHBoxLayout>

@@ -1,8 +1,8 @@
 // The prepaid account.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 class QDateEdit;
 class QLabel;

@@ -1,4 +1,4 @@
-#include "CodeField.h"
+#include "host/panel/CodeField.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QDropEvent>

@@ -1,4 +1,4 @@
-#include "Controls.h"
+#include "host/panel/Controls.h"
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QComboBox>

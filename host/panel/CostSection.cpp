@@ -1,9 +1,9 @@
-#include "CostSection.h"
+#include "host/panel/CostSection.h"
 
-#include "AdviceOfCharge.h"
-#include "CallService.h"
-#include "Controls.h"
-#include "StatusText.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallService.h"
+#include "host/StatusText.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>

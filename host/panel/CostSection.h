@@ -1,8 +1,8 @@
 // How costs are shown, and what the current call costs.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 class QComboBox;
 class QGridLayout;

@@ -1,6 +1,6 @@
-#include "FailuresSection.h"
+#include "host/panel/FailuresSection.h"
 
-#include "Controls.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>

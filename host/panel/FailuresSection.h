@@ -1,8 +1,8 @@
 // Which of the telephone's operations fail.
 #pragma once
 
-#include "PanelSection.h"
-#include "faults/Faults.h"
+#include "host/faults/Faults.h"
+#include "host/panel/PanelSection.h"
 
 class QComboBox;
 class QListWidget;

@@ -1,9 +1,9 @@
-#include "FiguresSection.h"
+#include "host/panel/FiguresSection.h"
 
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "Handset.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/Handset.h"
 
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>

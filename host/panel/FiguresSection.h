@@ -1,8 +1,8 @@
 // The call timers as the telephone has them.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 #include <array>
 

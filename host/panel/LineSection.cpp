@@ -1,6 +1,6 @@
-#include "LineSection.h"
+#include "host/panel/LineSection.h"
 
-#include "Controls.h"
+#include "host/panel/Controls.h"
 
 #include <QtGui/QRegularExpressionValidator>
 #include <QtWidgets/QGridLayout>

@@ -1,8 +1,8 @@
 // The line: its state, and what can be done with it.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 #include <array>
 

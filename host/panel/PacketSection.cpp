@@ -1,10 +1,10 @@
-#include "PacketSection.h"
+#include "host/panel/PacketSection.h"
 
-#include "Controls.h"
-#include "Latin1.h"
-#include "PacketData.h"
-#include "StatusText.h"
-#include "UpdateBroadcast.h"
+#include "handset/PacketData.h"
+#include "handset/UpdateBroadcast.h"
+#include "host/Latin1.h"
+#include "host/StatusText.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QGridLayout>
 #include <QtWidgets/QLineEdit>

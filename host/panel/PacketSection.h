@@ -1,8 +1,8 @@
 // Packet-data sessions.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 #include <array>
 

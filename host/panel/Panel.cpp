@@ -1,15 +1,15 @@
-#include "Panel.h"
+#include "host/panel/Panel.h"
 
-#include "AccountSection.h"
-#include "CostSection.h"
-#include "FailuresSection.h"
-#include "FiguresSection.h"
-#include "LineSection.h"
-#include "PacketSection.h"
-#include "Pin2Section.h"
-#include "SimFilesSection.h"
-#include "StateSection.h"
-#include "TariffSection.h"
+#include "host/panel/AccountSection.h"
+#include "host/panel/CostSection.h"
+#include "host/panel/FailuresSection.h"
+#include "host/panel/FiguresSection.h"
+#include "host/panel/LineSection.h"
+#include "host/panel/PacketSection.h"
+#include "host/panel/Pin2Section.h"
+#include "host/panel/SimFilesSection.h"
+#include "host/panel/StateSection.h"
+#include "host/panel/TariffSection.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QTabBar>

@@ -1,7 +1,7 @@
 // What stands beside the phone: the controls of the simulation and the telephone's figures.
 #pragma once
 
-#include "Line.h"
+#include "host/Line.h"
 
 #include <QtCore/QList>
 #include <QtCore/QTimer>

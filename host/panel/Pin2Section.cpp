@@ -1,9 +1,9 @@
-#include "Pin2Section.h"
+#include "host/panel/Pin2Section.h"
 
-#include "CodeField.h"
-#include "Controls.h"
-#include "SimSecurity.h"
-#include "StatusText.h"
+#include "handset/SimSecurity.h"
+#include "host/StatusText.h"
+#include "host/panel/CodeField.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QGridLayout>

@@ -1,8 +1,8 @@
 // The SIM card's second PIN.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 class QCheckBox;
 class QGridLayout;

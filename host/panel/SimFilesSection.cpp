@@ -1,7 +1,7 @@
-#include "SimFilesSection.h"
+#include "host/panel/SimFilesSection.h"
 
-#include "Controls.h"
-#include "StatusText.h"
+#include "host/StatusText.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QGridLayout>

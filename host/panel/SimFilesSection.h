@@ -1,8 +1,8 @@
 // The SIM card's files of advice of charge.
 #pragma once
 
-#include "Line.h"
-#include "PanelSection.h"
+#include "host/Line.h"
+#include "host/panel/PanelSection.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "StateSection.h"
+#include "host/panel/StateSection.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QLabel>

@@ -1,7 +1,7 @@
 // Where the telephone keeps its state.
 #pragma once
 
-#include "PanelSection.h"
+#include "host/panel/PanelSection.h"
 
 namespace host {
 

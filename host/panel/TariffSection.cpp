@@ -1,7 +1,7 @@
-#include "TariffSection.h"
+#include "host/panel/TariffSection.h"
 
-#include "Controls.h"
-#include "StatusText.h"
+#include "host/StatusText.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDoubleSpinBox>

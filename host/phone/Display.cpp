@@ -1,8 +1,8 @@
-#include "Display.h"
+#include "host/phone/Display.h"
 
-#include "ZApplication.h"
-#include "ZPopup.h"
-#include "ZSkinService.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZPopup.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>

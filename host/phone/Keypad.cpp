@@ -1,8 +1,8 @@
-#include "Keypad.h"
+#include "host/phone/Keypad.h"
 
-#include "PhoneKey.h"
-#include "ZApplication.h"
-#include "ZPopup.h"
+#include "host/phone/PhoneKey.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZPopup.h"
 
 #include <QtWidgets/QGridLayout>
 

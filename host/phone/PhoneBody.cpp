@@ -1,8 +1,8 @@
-#include "PhoneBody.h"
+#include "host/phone/PhoneBody.h"
 
-#include "Display.h"
-#include "Keypad.h"
-#include "ZSkinService.h"
+#include "host/phone/Display.h"
+#include "host/phone/Keypad.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtGui/QPainter>
 

@@ -1,4 +1,4 @@
-#include "PhoneKey.h"
+#include "host/phone/PhoneKey.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>

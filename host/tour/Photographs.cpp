@@ -1,4 +1,4 @@
-#include "Photographs.h"
+#include "host/tour/Photographs.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QRegularExpression>

@@ -1,13 +1,13 @@
-#include "ScreenText.h"
+#include "host/tour/ScreenText.h"
 
-#include "ZApplication.h"
-#include "ZKbMainWidget.h"
-#include "ZLabel.h"
-#include "ZListBox.h"
-#include "ZListItem.h"
-#include "ZMessageDlg.h"
-#include "ZMultiLineEdit.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZLabel.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItem.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZSoftKey.h"
 
 #include <algorithm>
 

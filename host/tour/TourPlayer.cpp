@@ -1,13 +1,13 @@
-#include "TourPlayer.h"
+#include "host/tour/TourPlayer.h"
 
-#include "Clock.h"
-#include "ExitCode.h"
-#include "Handset.h"
-#include "ReadyMadeHistory.h"
-#include "ScreenTable.h"
-#include "Status.h"
-#include "UpdateBroadcast.h"
-#include "ZApplication.h"
+#include "handset/Clock.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
+#include "handset/UpdateBroadcast.h"
+#include "host/ExitCode.h"
+#include "host/ScreenTable.h"
+#include "simulated/ReadyMadeHistory.h"
+#include "toolkit/ZApplication.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTextStream>

@@ -1,14 +1,14 @@
 // Plays the script of a tour on a phone without a window around it.
 #pragma once
 
-#include "MenuScreen.h"
-#include "Options.h"
-#include "Photographs.h"
-#include "ScreenHost.h"
-#include "SimulatedTelephone.h"
-#include "TourScript.h"
-#include "faults/FaultyHandset.h"
-#include "phone/Display.h"
+#include "host/MenuScreen.h"
+#include "host/Options.h"
+#include "host/ScreenHost.h"
+#include "host/faults/FaultyHandset.h"
+#include "host/phone/Display.h"
+#include "host/tour/Photographs.h"
+#include "host/tour/TourScript.h"
+#include "simulated/SimulatedTelephone.h"
 
 #include <QtCore/QEventLoop>
 

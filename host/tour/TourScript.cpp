@@ -1,8 +1,8 @@
-#include "TourScript.h"
+#include "host/tour/TourScript.h"
 
-#include "Latin1.h"
-#include "Operations.h"
-#include "ScreenTable.h"
+#include "handset/Operations.h"
+#include "host/Latin1.h"
+#include "host/ScreenTable.h"
 
 #include <QtCore/QDate>
 #include <QtCore/QRegularExpression>

@@ -1,11 +1,11 @@
 // The script of a tour: what to do, what to see.
 #pragma once
 
-#include "AdviceOfCharge.h"
-#include "Call.h"
-#include "Date.h"
-#include "ScreenText.h"
-#include "Tariff.h"
+#include "charging/Tariff.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/Call.h"
+#include "handset/Date.h"
+#include "host/tour/ScreenText.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>

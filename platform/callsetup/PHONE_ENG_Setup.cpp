@@ -1,7 +1,7 @@
-#include "PHONE_ENG_Setup.h"
+#include "callsetup/PHONE_ENG_Setup.h"
 
-#include "AdviceOfCharge.h"
-#include "Roles.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/Roles.h"
 
 using handset::AdviceOfCharge;
 

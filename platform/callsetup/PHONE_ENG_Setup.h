@@ -1,7 +1,7 @@
 // The phone's call-setup engine, as far as advice of charge goes.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>

@@ -1,7 +1,7 @@
 // Advice of charge: the SIM's charging settings, what the call-setup engine asks.
 #pragma once
 
-#include "Status.h"
+#include "handset/Status.h"
 
 #include <QtCore/QString>
 

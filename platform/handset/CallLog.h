@@ -1,9 +1,9 @@
 // The call log: what the TAPI_LOG_* functions ask.
 #pragma once
 
-#include "CallTime.h"
-#include "Date.h"
-#include "Status.h"
+#include "handset/CallTime.h"
+#include "handset/Date.h"
+#include "handset/Status.h"
 
 #include <QtCore/QByteArray>
 

@@ -1,8 +1,8 @@
 // The call service: what the TAPI_CS_* functions ask.
 #pragma once
 
-#include "CallTime.h"
-#include "Status.h"
+#include "handset/CallTime.h"
+#include "handset/Status.h"
 
 #include <QtCore/QByteArray>
 

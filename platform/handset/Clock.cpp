@@ -1,4 +1,4 @@
-#include "Clock.h"
+#include "handset/Clock.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QFile>

@@ -1,14 +1,14 @@
 // A telephone in front of another, or of none, with a hook before and after each of its operations.
 #pragma once
 
-#include "AdviceOfCharge.h"
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "Handset.h"
-#include "Operations.h"
-#include "PacketData.h"
-#include "SimSecurity.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/Handset.h"
+#include "handset/Operations.h"
+#include "handset/PacketData.h"
+#include "handset/SimSecurity.h"
 
 #include <optional>
 #include <utility>

@@ -1,13 +1,13 @@
-#include "Handset.h"
+#include "handset/Handset.h"
 
-#include "CallLog.h"
-#include "CallService.h"
-#include "Clock.h"
-#include "DataCalls.h"
-#include "PacketData.h"
-#include "SimulatedBackend.h"
-#include "StateDirectory.h"
-#include "UpdateBroadcast.h"
+#include "calllog/StateDirectory.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/Clock.h"
+#include "handset/DataCalls.h"
+#include "handset/PacketData.h"
+#include "handset/UpdateBroadcast.h"
+#include "simulated/SimulatedBackend.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>

@@ -1,8 +1,8 @@
 // Packet data: what the TAPI_GPRS_* functions ask.
 #pragma once
 
-#include "CallTime.h"
-#include "Status.h"
+#include "handset/CallTime.h"
+#include "handset/Status.h"
 
 #include <QtCore/QByteArray>
 

@@ -1,8 +1,8 @@
 // How the libraries of the phone reach a role of the installed telephone.
 #pragma once
 
-#include "Handset.h"
-#include "Status.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
 
 /// Runs `call` on the role that `role` (a member of handset::Handset) answers; NotAvailable without a telephone or
 /// without the role. The telephone is held for as long as the call lasts.

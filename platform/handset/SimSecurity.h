@@ -1,7 +1,7 @@
 // SIM security: the second PIN.
 #pragma once
 
-#include "Status.h"
+#include "handset/Status.h"
 
 #include <QtCore/QByteArray>
 

@@ -1,6 +1,6 @@
-#include "UpdateBroadcast.h"
+#include "handset/UpdateBroadcast.h"
 
-#include "QCopChannel.h"
+#include "qt/QCopChannel.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>

@@ -1,6 +1,6 @@
-#include "TraceFile.h"
+#include "log/TraceFile.h"
 
-#include "aplog.h"
+#include "log/aplog.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
-#include "aplog.h"
+#include "log/aplog.h"
 
-#include "TraceFile.h"
+#include "log/TraceFile.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,7 +1,7 @@
-#include "PHONE_MsgClient.h"
+#include "message/PHONE_MsgClient.h"
 
-#include "DataCalls.h"
-#include "Roles.h"
+#include "handset/DataCalls.h"
+#include "handset/Roles.h"
 
 namespace {
 

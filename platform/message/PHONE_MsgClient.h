@@ -1,7 +1,7 @@
 // The phone's message client, as far as circuit-switched data calls go.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtCore/QObject>
 

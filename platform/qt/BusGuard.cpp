@@ -1,7 +1,7 @@
-#include "BusGuard.h"
+#include "qt/BusGuard.h"
 
-#include "qcop/BusAddress.h"
-#include "qcop/BusProbe.h"
+#include "qt/qcop/BusAddress.h"
+#include "qt/qcop/BusProbe.h"
 
 #include <QtCore/QString>
 #include <QtCore/QtGlobal>

@@ -1,4 +1,4 @@
-#include "QCString.h"
+#include "qt/QCString.h"
 
 #include <QtCore/QMetaType>
 

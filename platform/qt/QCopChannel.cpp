@@ -1,7 +1,7 @@
-#include "QCopChannel.h"
+#include "qt/QCopChannel.h"
 
-#include "qcop/QCopBus.h"
-#include "qcop/QCopSubscribers.h"
+#include "qt/qcop/QCopBus.h"
+#include "qt/qcop/QCopSubscribers.h"
 
 QCopChannel::QCopChannel(const QCString &channel, QObject *parent, const char *name)
     : QObject(parent)

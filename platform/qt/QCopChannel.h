@@ -1,8 +1,8 @@
 // The embedded edition's message channel between processes.
 #pragma once
 
-#include "QCString.h"
-#include "classname.h"
+#include "qt/QCString.h"
+#include "qt/classname.h"
 
 #include <QtCore/QObject>
 

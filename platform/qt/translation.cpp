@@ -1,4 +1,4 @@
-#include "translation.h"
+#include "qt/translation.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "PinDigits.h"
+#include "security/PinDigits.h"
 
 #include <cstring>
 

@@ -1,8 +1,8 @@
-#include "PinEntryDlg.h"
+#include "security/PinEntryDlg.h"
 
-#include "ZLabel.h"
-#include "ZSkinService.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZLabel.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZSoftKey.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>

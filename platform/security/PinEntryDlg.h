@@ -1,8 +1,8 @@
 // The dialog that a PIN is typed in. Inside the security library only.
 #pragma once
 
-#include "PinDigits.h"
-#include "ZPopup.h"
+#include "security/PinDigits.h"
+#include "toolkit/ZPopup.h"
 
 /// Shows a mark for each digit, never the digit. The left softkey and the select key answer once there are digits
 /// enough. The clear key is the right softkey at any time, as in every dialog, and so are Escape and the Back key. The

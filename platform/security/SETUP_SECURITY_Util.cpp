@@ -1,10 +1,10 @@
-#include "SETUP_SECURITY_Util.h"
+#include "security/SETUP_SECURITY_Util.h"
 
-#include "PinEntryDlg.h"
-#include "Roles.h"
-#include "SimSecurity.h"
-#include "ZMessageDlg.h"
-#include "translation.h"
+#include "handset/Roles.h"
+#include "handset/SimSecurity.h"
+#include "qt/translation.h"
+#include "security/PinEntryDlg.h"
+#include "toolkit/ZMessageDlg.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QEventLoop>

@@ -1,10 +1,10 @@
-#include "tapi.h"
+#include "telephony/tapi.h"
 
-#include "CallLog.h"
-#include "CallService.h"
-#include "PacketData.h"
-#include "Roles.h"
-#include "SimSecurity.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/PacketData.h"
+#include "handset/Roles.h"
+#include "handset/SimSecurity.h"
 
 #include <QtCore/QtEndian>
 

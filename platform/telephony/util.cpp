@@ -1,7 +1,7 @@
-#include "util.h"
+#include "telephony/util.h"
 
-#include "DataCalls.h"
-#include "Roles.h"
+#include "handset/DataCalls.h"
+#include "handset/Roles.h"
 
 using handset::DataCalls;
 using handset::Handset;

@@ -1,7 +1,7 @@
-#include "ZApplication.h"
+#include "toolkit/ZApplication.h"
 
-#include "ZKeypadInput.h"
-#include "ZLayers.h"
+#include "toolkit/ZKeypadInput.h"
+#include "toolkit/ZLayers.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDebug>

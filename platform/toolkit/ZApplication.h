@@ -1,7 +1,7 @@
 // What the toolkit knows of the application around it: where the phone's display is, and who gets its keys.
 #pragma once
 
-#include "QValueList.h"
+#include "qt/QValueList.h"
 
 #include <QtCore/QString>
 

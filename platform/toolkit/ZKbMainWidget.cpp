@@ -1,10 +1,10 @@
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
-#include "ZKeys.h"
-#include "ZLayers.h"
-#include "ZSkinService.h"
-#include "ZSoftKey.h"
-#include "ZText.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZLayers.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZSoftKey.h"
+#include "toolkit/ZText.h"
 
 #include <QtCore/QPointer>
 #include <QtGui/QKeyEvent>

@@ -1,7 +1,7 @@
 // The frame of a full screen: a title bar, a content area, a softkey area.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtWidgets/QWidget>
 

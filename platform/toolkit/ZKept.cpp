@@ -1,4 +1,4 @@
-#include "ZKept.h"
+#include "toolkit/ZKept.h"
 
 #include <QtCore/QList>
 #include <QtGui/QGuiApplication>

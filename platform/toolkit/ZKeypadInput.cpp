@@ -1,4 +1,4 @@
-#include "ZKeypadInput.h"
+#include "toolkit/ZKeypadInput.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QInputMethodEvent>

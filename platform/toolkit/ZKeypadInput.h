@@ -1,7 +1,7 @@
 // What the phone's keys type in an entry field. Inside the toolkit only.
 #pragma once
 
-#include "ZMultiTap.h"
+#include "toolkit/ZMultiTap.h"
 
 #include <QtCore/QObject>
 

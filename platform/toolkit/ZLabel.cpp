@@ -1,6 +1,6 @@
-#include "ZLabel.h"
+#include "toolkit/ZLabel.h"
 
-#include "ZText.h"
+#include "toolkit/ZText.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>

@@ -1,8 +1,8 @@
 // A line of text on a screen.
 #pragma once
 
-#include "ZSkinService.h"
-#include "classname.h"
+#include "qt/classname.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtWidgets/QLabel>
 

@@ -1,4 +1,4 @@
-#include "ZLayers.h"
+#include "toolkit/ZLayers.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPointer>

@@ -1,11 +1,11 @@
-#include "ZListBox.h"
+#include "toolkit/ZListBox.h"
 
-#include "ZKeys.h"
-#include "ZListItemPrivate.h"
-#include "ZListModel.h"
-#include "ZRowDelegate.h"
-#include "ZScrollBar.h"
-#include "ZSettingItem.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZListItemPrivate.h"
+#include "toolkit/ZListModel.h"
+#include "toolkit/ZRowDelegate.h"
+#include "toolkit/ZScrollBar.h"
+#include "toolkit/ZSettingItem.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPersistentModelIndex>

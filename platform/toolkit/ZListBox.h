@@ -1,8 +1,8 @@
 // The list of a screen or a choice dialog.
 #pragma once
 
-#include "ZSkinService.h"
-#include "classname.h"
+#include "qt/classname.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtWidgets/QListView>
 
@@ -29,7 +29,7 @@ class ZListBox : public QListView
 {
     Q_OBJECT
     KAV_CLASS_NAME
-    Q_MOC_INCLUDE("ZSettingItem.h") // so that the signals' arguments can be recorded and queued
+    Q_MOC_INCLUDE("toolkit/ZSettingItem.h") // so that the signals' arguments can be recorded and queued
 
 public:
     enum ItemDataRole {

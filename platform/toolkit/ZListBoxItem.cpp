@@ -1,4 +1,4 @@
-#include "ZListBoxItem.h"
+#include "toolkit/ZListBoxItem.h"
 
 #include <QtCore/qlogging.h>
 

@@ -1,7 +1,7 @@
 // A row of a plain list: a text, and an icon where the layout has one.
 #pragma once
 
-#include "ZListItem.h"
+#include "toolkit/ZListItem.h"
 
 #include <QtGui/QPixmap>
 

@@ -1,7 +1,7 @@
-#include "ZListItem.h"
+#include "toolkit/ZListItem.h"
 
-#include "ZListBox.h"
-#include "ZListItemPrivate.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItemPrivate.h"
 
 ZListItem::ZListItem(ZListBox *list, const QString &type)
     : d(std::make_unique<Private>())

@@ -1,7 +1,7 @@
 // What a row keeps, shared with its list. Inside the toolkit only.
 #pragma once
 
-#include "ZListItem.h"
+#include "toolkit/ZListItem.h"
 
 #include <QtGui/QPixmap>
 

@@ -1,7 +1,7 @@
-#include "ZListModel.h"
+#include "toolkit/ZListModel.h"
 
-#include "ZListBox.h"
-#include "ZListItem.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItem.h"
 
 #include <QtGui/QPixmap>
 

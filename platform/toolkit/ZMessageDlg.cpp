@@ -1,7 +1,7 @@
-#include "ZMessageDlg.h"
+#include "toolkit/ZMessageDlg.h"
 
-#include "ZTextPane.h"
-#include "translation.h"
+#include "qt/translation.h"
+#include "toolkit/ZTextPane.h"
 
 #include <QtCore/qlogging.h>
 #include <QtGui/QKeyEvent>

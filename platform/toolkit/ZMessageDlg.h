@@ -1,7 +1,7 @@
 // A message with an answer.
 #pragma once
 
-#include "ZPopup.h"
+#include "toolkit/ZPopup.h"
 
 /// The message is wrapped, and scrolled with the up and down keys where it is longer than the display. Its whole
 /// text is the accessible description.

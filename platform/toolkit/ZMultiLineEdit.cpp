@@ -1,8 +1,8 @@
-#include "ZMultiLineEdit.h"
+#include "toolkit/ZMultiLineEdit.h"
 
-#include "ZKeys.h"
-#include "ZScrollBar.h"
-#include "ZSkinService.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZScrollBar.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtCore/QMimeData>
 #include <QtGui/QInputMethodEvent>

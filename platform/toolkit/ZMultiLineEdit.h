@@ -1,7 +1,7 @@
 // The entry field of a dialog.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtWidgets/QPlainTextEdit>
 

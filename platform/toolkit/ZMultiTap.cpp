@@ -1,4 +1,4 @@
-#include "ZMultiTap.h"
+#include "toolkit/ZMultiTap.h"
 
 #include <QtCore/QTimerEvent>
 

@@ -1,9 +1,9 @@
-#include "ZNoticeDlg.h"
+#include "toolkit/ZNoticeDlg.h"
 
-#include "ZKeys.h"
-#include "ZSkinService.h"
-#include "ZTextPane.h"
-#include "translation.h"
+#include "qt/translation.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZTextPane.h"
 
 #include <QtCore/qlogging.h>
 #include <QtGui/QKeyEvent>

@@ -1,7 +1,7 @@
 // A message that asks for no answer.
 #pragma once
 
-#include "ZPopup.h"
+#include "toolkit/ZPopup.h"
 
 /// The message stands beside a sign of its type; it is wrapped, and scrolled with the up and down keys where it
 /// is longer than the display. Its whole text is the accessible description. Its maker may delete it at any

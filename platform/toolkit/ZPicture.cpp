@@ -1,4 +1,4 @@
-#include "ZPicture.h"
+#include "toolkit/ZPicture.h"
 
 #include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>

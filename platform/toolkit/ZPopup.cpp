@@ -1,11 +1,11 @@
-#include "ZPopup.h"
+#include "toolkit/ZPopup.h"
 
-#include "ZApplication.h"
-#include "ZKeys.h"
-#include "ZLayers.h"
-#include "ZSkinService.h"
-#include "ZSoftKey.h"
-#include "ZText.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZLayers.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZSoftKey.h"
+#include "toolkit/ZText.h"
 
 #include <QtCore/QBasicTimer>
 #include <QtCore/QPointer>

@@ -1,7 +1,7 @@
 // What every dialog has in common: a header, a body, two softkeys of its own.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtWidgets/QWidget>
 

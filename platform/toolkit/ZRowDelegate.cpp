@@ -1,10 +1,10 @@
-#include "ZRowDelegate.h"
+#include "toolkit/ZRowDelegate.h"
 
-#include "ZKept.h"
-#include "ZListBox.h"
-#include "ZPicture.h"
-#include "ZSkinService.h"
-#include "ZText.h"
+#include "toolkit/ZKept.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZPicture.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZText.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyle>

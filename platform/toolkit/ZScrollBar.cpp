@@ -1,6 +1,6 @@
-#include "ZScrollBar.h"
+#include "toolkit/ZScrollBar.h"
 
-#include "ZSkinService.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>

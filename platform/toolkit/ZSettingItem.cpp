@@ -1,4 +1,4 @@
-#include "ZSettingItem.h"
+#include "toolkit/ZSettingItem.h"
 
 #include <QtCore/qlogging.h>
 

@@ -1,7 +1,7 @@
 // A row of a settings list: a title, and a value in a second column.
 #pragma once
 
-#include "ZListItem.h"
+#include "toolkit/ZListItem.h"
 
 #include <QtCore/QList>
 

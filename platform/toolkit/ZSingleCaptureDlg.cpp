@@ -1,11 +1,11 @@
-#include "ZSingleCaptureDlg.h"
+#include "toolkit/ZSingleCaptureDlg.h"
 
-#include "ZKeypadInput.h"
-#include "ZMultiLineEdit.h"
-#include "ZSkinService.h"
-#include "ZText.h"
-#include "ZTextPane.h"
-#include "translation.h"
+#include "qt/translation.h"
+#include "toolkit/ZKeypadInput.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZText.h"
+#include "toolkit/ZTextPane.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/qlogging.h>

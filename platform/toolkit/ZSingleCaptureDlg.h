@@ -1,7 +1,7 @@
 // The entry of one text.
 #pragma once
 
-#include "ZPopup.h"
+#include "toolkit/ZPopup.h"
 
 class ZMultiLineEdit;
 

@@ -1,13 +1,13 @@
-#include "ZSingleSelectDlg.h"
+#include "toolkit/ZSingleSelectDlg.h"
 
-#include "ZKeys.h"
-#include "ZListBox.h"
-#include "ZListItem.h"
-#include "ZMultiTap.h"
-#include "ZRowDelegate.h"
-#include "ZSkinService.h"
-#include "ZTextPane.h"
-#include "translation.h"
+#include "qt/translation.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItem.h"
+#include "toolkit/ZMultiTap.h"
+#include "toolkit/ZRowDelegate.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZTextPane.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtGui/QKeyEvent>

@@ -1,7 +1,7 @@
 // A choice of one row.
 #pragma once
 
-#include "ZPopup.h"
+#include "toolkit/ZPopup.h"
 
 class QKeyEvent;
 class ZListBox;

@@ -1,4 +1,4 @@
-#include "ZSkinService.h"
+#include "toolkit/ZSkinService.h"
 
 #include <algorithm>
 #include <array>

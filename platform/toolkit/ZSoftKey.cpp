@@ -1,8 +1,8 @@
-#include "ZSoftKey.h"
+#include "toolkit/ZSoftKey.h"
 
-#include "ZKeys.h"
-#include "ZSkinService.h"
-#include "ZText.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZText.h"
 
 #include <QtCore/QDebug>
 #include <QtCore/QMetaMethod>

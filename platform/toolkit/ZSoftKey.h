@@ -1,7 +1,7 @@
 // The softkey bar at the foot of a screen or a dialog.
 #pragma once
 
-#include "classname.h"
+#include "qt/classname.h"
 
 #include <QtWidgets/QWidget>
 

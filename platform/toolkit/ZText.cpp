@@ -1,7 +1,7 @@
-#include "ZText.h"
+#include "toolkit/ZText.h"
 
-#include "ZKept.h"
-#include "ZPicture.h"
+#include "toolkit/ZKept.h"
+#include "toolkit/ZPicture.h"
 
 #include <QtGui/QFontMetrics>
 #include <QtGui/QPainter>

@@ -1,8 +1,8 @@
-#include "ZTextPane.h"
+#include "toolkit/ZTextPane.h"
 
-#include "ZScrollBar.h"
-#include "ZSkinService.h"
-#include "ZText.h"
+#include "toolkit/ZScrollBar.h"
+#include "toolkit/ZSkinService.h"
+#include "toolkit/ZText.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>

@@ -1,7 +1,7 @@
 // What the groups of tests on an X server have in common.
 #pragma once
 
-#include "XServer.h"
+#include "e2e/XServer.h"
 
 #include <QtWidgets/QApplication>
 

@@ -1,4 +1,4 @@
-#include "Picture.h"
+#include "e2e/Picture.h"
 
 #include <QtGui/QColor>
 

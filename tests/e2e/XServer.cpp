@@ -1,4 +1,4 @@
-#include "XServer.h"
+#include "e2e/XServer.h"
 
 #include <QtCore/QDeadlineTimer>
 

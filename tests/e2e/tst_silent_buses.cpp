@@ -1,12 +1,12 @@
 // The window where a D-Bus bus does not answer, which Qt would wait for.
-#include "AccessibilityRegistry.h"
-#include "BusRelay.h"
-#include "Command.h"
-#include "FakeBus.h"
-#include "OwnServer.h"
-#include "Picture.h"
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "e2e/AccessibilityRegistry.h"
+#include "e2e/OwnServer.h"
+#include "e2e/Picture.h"
+#include "qcop/BusRelay.h"
+#include "qcop/Command.h"
+#include "qcop/FakeBus.h"
+#include "qcop/PrivateBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>

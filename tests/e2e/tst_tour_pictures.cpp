@@ -1,6 +1,6 @@
 // Every photograph that the shipped tour names, held against the one that was looked at and kept.
-#include "Picture.h"
-#include "TestGroup.h"
+#include "e2e/Picture.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>

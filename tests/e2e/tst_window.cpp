@@ -1,12 +1,12 @@
 // The recent-calls application as a user has it: its real window, real key events, what the display shows.
-#include "CallLog.h"
-#include "Clock.h"
-#include "DataCalls.h"
-#include "Handset.h"
-#include "OwnServer.h"
-#include "Picture.h"
-#include "SimulatedTelephone.h"
-#include "TestGroup.h"
+#include "e2e/OwnServer.h"
+#include "e2e/Picture.h"
+#include "handset/CallLog.h"
+#include "handset/Clock.h"
+#include "handset/DataCalls.h"
+#include "handset/Handset.h"
+#include "simulated/SimulatedTelephone.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>

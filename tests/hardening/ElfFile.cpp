@@ -1,4 +1,4 @@
-#include "ElfFile.h"
+#include "hardening/ElfFile.h"
 
 #include <QtCore/QFile>
 

@@ -1,6 +1,6 @@
 // What an optimised build carries against errors that are still in it, read from the files that were built.
-#include "ElfFile.h"
-#include "TestGroup.h"
+#include "hardening/ElfFile.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QFileInfo>
 #include <QtCore/QObject>

@@ -1,4 +1,4 @@
-#include "HostProcess.h"
+#include "host/HostProcess.h"
 
 #include <QtCore/QProcess>
 

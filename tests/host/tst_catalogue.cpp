@@ -1,7 +1,7 @@
 // Catalogues that a disk, a transfer or somebody has damaged.
-#include "Catalogue.h"
-#include "HostProcess.h"
-#include "TestGroup.h"
+#include "host/Catalogue.h"
+#include "host/HostProcess.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>

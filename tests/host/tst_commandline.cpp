@@ -1,10 +1,10 @@
 // What the program answers to its command line, and how it ends.
 
-#include "Clock.h"
-#include "Handset.h"
-#include "HostProcess.h"
-#include "SimulatedTelephone.h"
-#include "TestGroup.h"
+#include "handset/Clock.h"
+#include "handset/Handset.h"
+#include "host/HostProcess.h"
+#include "simulated/SimulatedTelephone.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,11 +1,11 @@
 // What the host owes to a screen of the plug-in: shown once made, given back once, never from inside its signal.
 
-#include "ScreenHost.h"
-#include "ScreenLibrary.h"
-#include "TestGroup.h"
-#include "ZApplication.h"
-#include "doubles/RecordingPlugin.h"
-#include "phone/Display.h"
+#include "host/ScreenHost.h"
+#include "host/ScreenLibrary.h"
+#include "host/doubles/RecordingPlugin.h"
+#include "host/phone/Display.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
 
 #include <QtCore/QLibrary>
 #include <QtCore/QRegularExpression>

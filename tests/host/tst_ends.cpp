@@ -1,9 +1,9 @@
 // How the program ends when it is asked to from outside, and when nobody reads what it prints.
-#include "FakeBus.h"
-#include "Handset.h"
-#include "HostProcess.h"
-#include "SimulatedTelephone.h"
-#include "TestGroup.h"
+#include "handset/Handset.h"
+#include "host/HostProcess.h"
+#include "qcop/FakeBus.h"
+#include "simulated/SimulatedTelephone.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,14 +1,14 @@
 // Operations of the telephone that fail on demand, as the phone's libraries see them.
 
-#include "AdviceOfCharge.h"
-#include "Journal.h"
-#include "PHONE_ENG_Setup.h"
-#include "PHONE_MsgClient.h"
-#include "ScriptedHandset.h"
-#include "TestGroup.h"
-#include "faults/FaultyHandset.h"
-#include "tapi.h"
-#include "util.h"
+#include "callsetup/PHONE_ENG_Setup.h"
+#include "handset/AdviceOfCharge.h"
+#include "host/faults/FaultyHandset.h"
+#include "message/PHONE_MsgClient.h"
+#include "support/Journal.h"
+#include "support/ScriptedHandset.h"
+#include "support/TestGroup.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>

@@ -1,7 +1,7 @@
 // The tour: what it prints, photographs, expects, and how it fails.
 
-#include "HostProcess.h"
-#include "TestGroup.h"
+#include "host/HostProcess.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

@@ -1,8 +1,8 @@
 // What a line of a script means.
 
-#include "Operations.h"
-#include "TestGroup.h"
-#include "tour/TourScript.h"
+#include "handset/Operations.h"
+#include "host/tour/TourScript.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>

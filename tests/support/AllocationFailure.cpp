@@ -1,4 +1,4 @@
-#include "AllocationFailure.h"
+#include "support/AllocationFailure.h"
 
 #include <cstring>
 #include <new>

@@ -1,4 +1,4 @@
-#include "OtherPinEntry.h"
+#include "support/OtherPinEntry.h"
 
 #include <dlfcn.h>
 

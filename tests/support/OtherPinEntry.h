@@ -4,7 +4,7 @@
 // SETUP_SECURITY_Util::verifyPin(), which goes on to the phone's own PIN entry unless one of these lives.
 #pragma once
 
-#include "SETUP_SECURITY_Util.h"
+#include "security/SETUP_SECURITY_Util.h"
 
 #include <QtCore/QtGlobal>
 

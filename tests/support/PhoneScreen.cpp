@@ -1,10 +1,10 @@
-#include "PhoneScreen.h"
+#include "support/PhoneScreen.h"
 
-#include "ZApplication.h"
-#include "ZKbMainWidget.h"
-#include "ZListBox.h"
-#include "ZListItem.h"
-#include "ZMessageDlg.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListItem.h"
+#include "toolkit/ZMessageDlg.h"
 
 #include <QtWidgets/QApplication>
 

@@ -1,8 +1,8 @@
 // A screen as a person has it: what is on it, and the keys.
 #pragma once
 
-#include "ZKeys.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZKeys.h"
+#include "toolkit/ZSoftKey.h"
 
 #include <QtCore/QList>
 #include <QtCore/QString>

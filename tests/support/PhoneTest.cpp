@@ -1,4 +1,4 @@
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
 #include <QtCore/QRegularExpression>
 

@@ -1,10 +1,10 @@
 // What every test of the phone starts from.
 #pragma once
 
-#include "Journal.h"
-#include "ScriptedHandset.h"
-#include "TestGroup.h"
-#include "TraceCapture.h"
+#include "support/Journal.h"
+#include "support/ScriptedHandset.h"
+#include "support/TestGroup.h"
+#include "support/TraceCapture.h"
 
 #include <QtCore/QObject>
 #include <QtTest/QTest>

@@ -1,4 +1,4 @@
-#include "PluginLibrary.h"
+#include "support/PluginLibrary.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -1,6 +1,6 @@
-#include "RecordingTranslator.h"
+#include "support/RecordingTranslator.h"
 
-#include "Journal.h"
+#include "support/Journal.h"
 
 #include <QtCore/QCoreApplication>
 

@@ -1,6 +1,6 @@
-#include "ScreenClock.h"
+#include "support/ScreenClock.h"
 
-#include "ZKbMainWidget.h"
+#include "toolkit/ZKbMainWidget.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>

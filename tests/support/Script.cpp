@@ -1,6 +1,6 @@
-#include "Script.h"
+#include "support/Script.h"
 
-#include "Journal.h"
+#include "support/Journal.h"
 
 void Script::failAll(int status)
 {

@@ -1,7 +1,7 @@
 // What the operations of a scripted telephone answer, as data.
 #pragma once
 
-#include "Operations.h"
+#include "handset/Operations.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>

@@ -1,9 +1,9 @@
 // A telephone that does what a test scripts, and records what it is asked.
 #pragma once
 
-#include "Script.h"
+#include "support/Script.h"
 
-#include "DecoratedHandset.h"
+#include "handset/DecoratedHandset.h"
 
 /// Every operation of every role is recorded in the journal as "Role::operation" and answers as scripted. No backend
 /// code is involved.

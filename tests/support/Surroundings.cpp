@@ -1,4 +1,4 @@
-#include "Surroundings.h"
+#include "support/Surroundings.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QtGlobal>

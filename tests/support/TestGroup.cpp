@@ -1,6 +1,6 @@
-#include "TestGroup.h"
+#include "support/TestGroup.h"
 
-#include "Surroundings.h"
+#include "support/Surroundings.h"
 
 #include <QtCore/QtGlobal>
 

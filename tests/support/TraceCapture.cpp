@@ -1,6 +1,6 @@
-#include "TraceCapture.h"
+#include "support/TraceCapture.h"
 
-#include "aplog.h"
+#include "log/aplog.h"
 
 #include <QtCore/QRegularExpression>
 

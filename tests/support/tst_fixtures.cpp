@@ -1,9 +1,9 @@
 // The fixtures themselves: a fixture that lies makes every test lie.
-#include "AllocationFailure.h"
-#include "PhoneTest.h"
-#include "RecordingTranslator.h"
+#include "support/AllocationFailure.h"
+#include "support/PhoneTest.h"
+#include "support/RecordingTranslator.h"
 
-#include "aplog.h"
+#include "log/aplog.h"
 
 #include <climits>
 #include <new>

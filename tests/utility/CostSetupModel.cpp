@@ -1,6 +1,6 @@
-#include "CostSetupModel.h"
+#include "utility/CostSetupModel.h"
 
-#include "ListedCurrencies.h"
+#include "utility/ListedCurrencies.h"
 
 #include <QtCore/Qt>
 

@@ -2,7 +2,7 @@
 // walk over the real one is held.
 #pragma once
 
-#include "Operations.h"
+#include "handset/Operations.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QList>

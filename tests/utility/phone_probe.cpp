@@ -5,12 +5,12 @@
 //
 // "rows" throws the traces away, "untraced" leaves the trace stream without a place. LIBRARY is the file name to load,
 // as dlopen() takes it. A library or function that is missing is told on standard error, with exit status 2.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "Surroundings.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/Surroundings.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 // A telephony library of another make, under the same name: every time is 42:42:42, there is one data call of
 // 42 seconds, and nothing else works. It has every function: a library that lacks one is refused when it is loaded.
-#include "tapi.h"
-#include "util.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 namespace {
 

@@ -1,16 +1,16 @@
 // Memory that runs out: every allocation of the plug-in fails once, one after the other.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "AllocationFailure.h"
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
+#include "support/AllocationFailure.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
 
-#include "QCString.h"
-#include "ZApplication.h"
-#include "ZKbMainWidget.h"
-#include "ZListBox.h"
-#include "ZPopup.h"
+#include "qt/QCString.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZPopup.h"
 
 #include <QtTest/QSignalSpy>
 

@@ -1,17 +1,17 @@
 // The Call Costs screen: rows, details, the way into the setup and back.
-#include "PHONE_UI_RecentCallCostSetupView.h"
-#include "PHONE_UI_RecentCallCostsView.h"
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
+#include "utility/PHONE_UI_RecentCallCostsView.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "RecordingTranslator.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/RecordingTranslator.h"
 
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
 
 #include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>

@@ -1,14 +1,14 @@
 // What the Call Costs screen asks of the toolkit, call by call, with the exact arguments and in the exact order.
-#include "PHONE_UI_RecentCallCostsView.h"
+#include "utility/PHONE_UI_RecentCallCostsView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "RecordingTranslator.h"
-#include "ToolkitRecorder.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/RecordingTranslator.h"
+#include "support/ToolkitRecorder.h"
 
-#include "ZKbMainWidget.h"
-#include "ZListBox.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZListBox.h"
 
 #include <iterator>
 

@@ -1,14 +1,14 @@
 // The Call Times screen: rows, questions, resets, the refusal.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
 
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QRandomGenerator>

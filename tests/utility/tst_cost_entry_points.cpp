@@ -3,11 +3,11 @@
 // The program exports functions of the same names, which the dynamic linker finds first. What no telephone behind the
 // library can do, they do: look at what is to be filled, write into it though they fail, write nothing, or write
 // beyond the end of a text.
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
-#include "tapi.h"
+#include "telephony/tapi.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,22 +1,22 @@
 // The Call-Cost Setup screen: rows, access rules, PIN2, editors, the order of writes, resets.
-#include "PHONE_UI_RecentCallCostSetupView.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
 
-#include "OtherPinEntry.h"
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "RecordingTranslator.h"
-#include "ScreenClock.h"
+#include "support/OtherPinEntry.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/RecordingTranslator.h"
+#include "support/ScreenClock.h"
 
-#include "ZApplication.h"
-#include "ZListBox.h"
-#include "ZListBoxItem.h"
-#include "ZMultiLineEdit.h"
-#include "ZNoticeDlg.h"
-#include "ZSettingItem.h"
-#include "ZSingleCaptureDlg.h"
-#include "ZSingleSelectDlg.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListBoxItem.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZNoticeDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSingleCaptureDlg.h"
+#include "toolkit/ZSingleSelectDlg.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QPointer>

@@ -1,22 +1,22 @@
 // What the Call-Cost Setup screen asks of the toolkit and the telephone, call by call, with the exact arguments
 // and in the exact order; and what it does when an object cannot be made.
-#include "ListedCurrencies.h"
-#include "PHONE_ENG_Setup.h"
-#include "PHONE_UI_RecentCallCostSetupView.h"
-#include "PHONE_UI_RecentCallMeter.h"
+#include "callsetup/PHONE_ENG_Setup.h"
+#include "utility/ListedCurrencies.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "AllocationFailure.h"
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PrivateAccess.h"
-#include "RecordingTranslator.h"
-#include "ScreenClock.h"
-#include "ToolkitRecorder.h"
+#include "support/AllocationFailure.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PrivateAccess.h"
+#include "support/RecordingTranslator.h"
+#include "support/ScreenClock.h"
+#include "support/ToolkitRecorder.h"
 
-#include "ZApplication.h"
-#include "ZListBox.h"
-#include "ZPopup.h"
-#include "ZSettingItem.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZPopup.h"
+#include "toolkit/ZSettingItem.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>

@@ -1,24 +1,24 @@
 // Thousands of random keys on the Call-Cost Setup screen, over a telephone that fails and changes at random. A
 // model says what a person must see, what the telephone must be asked, and what it must have in the end.
-#include "CostSetupModel.h"
-#include "PHONE_UI_RecentCallCostSetupView.h"
-#include "PHONE_UI_RecentCallCostsView.h"
+#include "utility/CostSetupModel.h"
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
+#include "utility/PHONE_UI_RecentCallCostsView.h"
 
-#include "OtherPinEntry.h"
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "Sample.h"
-#include "ScreenClock.h"
+#include "support/OtherPinEntry.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/Sample.h"
+#include "support/ScreenClock.h"
 
-#include "ZApplication.h"
-#include "ZListBox.h"
-#include "ZMultiLineEdit.h"
-#include "ZNoticeDlg.h"
-#include "ZSettingItem.h"
-#include "ZSingleCaptureDlg.h"
-#include "ZSingleSelectDlg.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZNoticeDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSingleCaptureDlg.h"
+#include "toolkit/ZSingleSelectDlg.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPointer>

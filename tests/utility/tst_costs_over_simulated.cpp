@@ -1,18 +1,18 @@
 // The Call Costs screen over calls that are really made and charged.
-#include "PHONE_UI_RecentCallCostsView.h"
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallCostsView.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
 
-#include "ZMessageDlg.h"
+#include "toolkit/ZMessageDlg.h"
 
-#include "AdviceOfCharge.h"
-#include "Clock.h"
-#include "Handset.h"
-#include "SimulatedTelephone.h"
-#include "Status.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/Clock.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
+#include "simulated/SimulatedTelephone.h"
 
 using namespace handset;
 using ZKeys::PhoneKey;

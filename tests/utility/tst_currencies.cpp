@@ -1,17 +1,17 @@
 // Currency codes as texts, the unit of costs, and the catalogue of currencies.
-#include "CurrencyCatalogue.h"
-#include "ListedCurrencies.h"
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/CurrencyCatalogue.h"
+#include "utility/ListedCurrencies.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "RecordingTranslator.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/RecordingTranslator.h"
 
-#include "ZKbMainWidget.h"
-#include "ZListBox.h"
-#include "ZListBoxItem.h"
-#include "ZPopup.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZListBoxItem.h"
+#include "toolkit/ZPopup.h"
 
 #include <QtCore/QMap>
 #include <QtCore/QSet>

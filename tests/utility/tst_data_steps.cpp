@@ -1,18 +1,18 @@
 // What the screens of the data sessions ask of the toolkit and the telephone, call by call, with the exact arguments
 // and in the exact order.
-#include "PHONE_UI_RecentCallDataTimesView.h"
-#include "PHONE_UI_RecentCallDataVolumesDetailView.h"
-#include "PHONE_UI_RecentCallDataVolumesView.h"
+#include "utility/PHONE_UI_RecentCallDataTimesView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "ToolkitRecorder.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/ToolkitRecorder.h"
 
-#include "PHONE_UI_RecentCallMeter.h"
-#include "QCString.h"
-#include "ZListBox.h"
+#include "qt/QCString.h"
+#include "toolkit/ZListBox.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include <dlfcn.h>
 

@@ -1,17 +1,17 @@
 // The texts of the screens of the data sessions in the application's catalogue.
-#include "PHONE_UI_RecentCallDataTimesView.h"
-#include "PHONE_UI_RecentCallDataVolumesDetailView.h"
-#include "PHONE_UI_RecentCallDataVolumesView.h"
+#include "utility/PHONE_UI_RecentCallDataTimesView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "RecordingTranslator.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/RecordingTranslator.h"
 
-#include "PHONE_UI_RecentCallMeter.h"
-#include "ZKbMainWidget.h"
-#include "ZMessageDlg.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZMessageDlg.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include <algorithm>
 

@@ -1,17 +1,17 @@
 // The Data Times screen: rows, notices, the reset.
-#include "PHONE_UI_RecentCallDataTimesView.h"
+#include "utility/PHONE_UI_RecentCallDataTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "RecordingTranslator.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/RecordingTranslator.h"
 
-#include "PHONE_UI_RecentCallMeter.h"
-#include "QCopChannel.h"
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
+#include "qt/QCopChannel.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>

@@ -1,20 +1,20 @@
 // The Data Volumes screen and its detail screen: rows, details, the reset, the phone's update message.
-#include "PHONE_UI_RecentCallDataVolumesDetailView.h"
-#include "PHONE_UI_RecentCallDataVolumesView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesView.h"
 
-#include "FrameRecorder.h"
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "PrivateAccess.h"
-#include "RecordingTranslator.h"
+#include "support/FrameRecorder.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
+#include "support/RecordingTranslator.h"
 
-#include "PHONE_UI_RecentCallMeter.h"
-#include "QCopChannel.h"
-#include "ZLabel.h"
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
+#include "qt/QCopChannel.h"
+#include "toolkit/ZLabel.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>

@@ -1,11 +1,11 @@
 // What the Call Times screen asks of the toolkit, call by call, with the exact arguments and in the exact order.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "RecordingTranslator.h"
-#include "ToolkitRecorder.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/RecordingTranslator.h"
+#include "support/ToolkitRecorder.h"
 
 using handset::CallTime;
 using ZKeys::PhoneKey;

@@ -1,10 +1,10 @@
 // Texts of the platform that fill their buffers without a NUL, written by this program in the place of the phone's
 // library: nothing behind a buffer may be read. Queries that fail after writing give their fallbacks all the same.
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
-#include "tapi.h"
+#include "telephony/tapi.h"
 
 #include <array>
 #include <cstring>

@@ -1,5 +1,5 @@
 // Who may include whom: the rules as a table, and every source file held against them.
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -109,20 +109,18 @@ QStringList includesOf(const QString &content)
     return names;
 }
 
-// The file of the project that `name` in `file` means: in the same folder, else in the same part, else anywhere.
-// Null for what is not the project's.
+// Where the compiler looks for `name`, as the project's CMakeLists.txt say, and in the folder of `file`. Null for what is
+// not the project's.
 QString resolved(const Tree &tree, const QString &file, const QString &name)
 {
     const QString sibling = QDir::cleanPath(folderOf(file) + QLatin1Char('/') + name);
     if (tree.contains(sibling))
         return sibling;
-    const QString part = file.section(QLatin1Char('/'), 0, 0) + QLatin1Char('/');
-    QString found;
-    for (auto it = tree.keyBegin(); it != tree.keyEnd(); ++it) {
-        if (it->endsWith(QLatin1Char('/') + name) && (found.isNull() || it->startsWith(part)))
-            found = *it;
+    for (const char *root : {"", "platform/", "platform/handset/", "tests/", "tests/platform/"}) {
+        if (tree.contains(QLatin1String(root) + name))
+            return QLatin1String(root) + name;
     }
-    return found;
+    return {};
 }
 
 QStringList moduleViolations(const QString &file, const QString &name)
@@ -147,6 +145,8 @@ QStringList violationsOf(const Tree &tree, const QString &file)
     for (const QString &name : names) {
         violations += moduleViolations(file, name);
         const QString target = resolved(tree, file, name);
+        if (!target.isNull() && !name.contains(QLatin1Char('/')))
+            violations.append(QStringLiteral("%1 includes \"%2\" without its folder").arg(file, name));
         if (!target.isNull() && folderOf(target) != folderOf(file) && !isInAny(folderOf(target), rule->mayInclude))
             violations.append(
                 QStringLiteral("%1 includes %2: %3").arg(file, target, QLatin1String(rule->because)));
@@ -154,7 +154,7 @@ QStringList violationsOf(const Tree &tree, const QString &file)
     return violations;
 }
 
-// Through what the plug-in includes it must not reach the telephone either.
+// Through what the plug-in includes it must not reach the handset either.
 QStringList pluginReaches(const Tree &tree, const char *place)
 {
     QStringList ways;
@@ -214,24 +214,27 @@ void readInto(Tree &tree, const QDir &root, const QString &folder)
 Tree soundTree()
 {
     return {
-        {"utility/Screen.h", "#include \"ZListBox.h\"\n"},
-        {"utility/Screen.cpp", "#include \"Screen.h\"\n#include \"tapi.h\"\n#include <QtCore/QString>\n"},
+        {"utility/Screen.h", "#include \"toolkit/ZListBox.h\"\n"},
+        {"utility/Screen.cpp",
+         "#include \"utility/Screen.h\"\n#include \"telephony/tapi.h\"\n#include <QtCore/QString>\n"},
         {"platform/qt/classname.h", ""},
         {"platform/qt/qcop/Bus.cpp", "#include <dbus/dbus.h>\n"},
         {"platform/log/aplog.h", ""},
-        {"platform/toolkit/ZListBox.h", "#include \"classname.h\"\n"},
+        {"platform/toolkit/ZListBox.h", "#include \"qt/classname.h\"\n"},
         {"platform/telephony/tapi.h", ""},
-        {"platform/telephony/tapi.cpp", "#include \"tapi.h\"\n#include \"Handset.h\"\n"},
+        {"platform/telephony/tapi.cpp", "#include \"telephony/tapi.h\"\n#include \"handset/Handset.h\"\n"},
         {"platform/handset/Handset.h", ""},
-        {"platform/handset/Handset.cpp", "#include \"Handset.h\"\n#include \"Simulated.h\"\n"},
-        {"platform/handset/UpdateBroadcast.cpp", "#include \"Handset.h\"\n#include \"classname.h\"\n"},
+        {"platform/handset/Handset.cpp", "#include \"handset/Handset.h\"\n#include \"simulated/Simulated.h\"\n"},
+        {"platform/handset/UpdateBroadcast.cpp", "#include \"handset/Handset.h\"\n#include \"qt/classname.h\"\n"},
         {"platform/handset/calllog/Store.h", "#include <QtSql/QSqlQuery>\n"},
-        {"platform/handset/simulated/Simulated.h", "#include \"Store.h\"\n#include \"Handset.h\"\n"},
-        {"platform/handset/ofono/Ofono.h", "#include \"Handset.h\"\n"},
-        {"host/Window.cpp", "#include \"ZListBox.h\"\n#include \"Simulated.h\"\n"},
-        {"bench/Bench.cpp", "#include \"Screen.h\"\n"},
-        {"tests/support/Fixture.h", "#include \"Handset.h\"\n"},
-        {"tests/utility/tst.cpp", "#include \"Fixture.h\"\n#include \"Screen.h\"\n#include <QtTest/QTest>\n"},
+        {"platform/handset/simulated/Simulated.h",
+         "#include \"calllog/Store.h\"\n#include \"handset/Handset.h\"\n"},
+        {"platform/handset/ofono/Ofono.h", "#include \"handset/Handset.h\"\n"},
+        {"host/Window.cpp", "#include \"toolkit/ZListBox.h\"\n#include \"simulated/Simulated.h\"\n"},
+        {"bench/Bench.cpp", "#include \"utility/Screen.h\"\n"},
+        {"tests/support/Fixture.h", "#include \"handset/Handset.h\"\n"},
+        {"tests/utility/tst.cpp",
+         "#include \"support/Fixture.h\"\n#include \"utility/Screen.h\"\n#include <QtTest/QTest>\n"},
     };
 }
 
@@ -263,7 +266,7 @@ void TestIncludes::everyPartOfTheProjectIsLookedAt()
     for (const char *file : {"utility/PHONE_UI_RecentCallMeter.cpp", "platform/handset/Handset.cpp",
                              "platform/toolkit/ZListBox.cpp", "tests/utility/tst_includes.cpp"})
         QVERIFY2(tree.contains(QLatin1String(file)), file);
-    QCOMPARE(resolved(tree, "utility/PHONE_UI_RecentCallMeter.cpp", "tapi.h"),
+    QCOMPARE(resolved(tree, "utility/PHONE_UI_RecentCallMeter.cpp", "telephony/tapi.h"),
              QString("platform/telephony/tapi.h"));
     QCOMPARE(resolved(tree, "utility/PHONE_UI_RecentCallMeter.cpp", "QtCore/QString"), QString());
 }
@@ -281,26 +284,28 @@ void TestIncludes::aViolationIsFound_data()
     const auto row = [](const char *name, const char *file, const char *content, const char *violation) {
         QTest::newRow(name) << QString(file) << QString(content) << QString(violation);
     };
-    row("the plug-in includes the telephone", "utility/New.cpp", "#include \"Handset.h\"\n",
+    row("the plug-in includes the telephone", "utility/New.cpp", "#include \"handset/Handset.h\"\n",
         "utility/New.cpp includes platform/handset/Handset.h");
-    row("in angle brackets", "utility/New.cpp", "#include <Handset.h>\n",
+    row("in angle brackets", "utility/New.cpp", "#include <handset/Handset.h>\n",
         "utility/New.cpp includes platform/handset/Handset.h");
-    row("with blanks", "utility/New.cpp", "  #  include   \"Handset.h\"\n",
+    row("with blanks", "utility/New.cpp", "  #  include   \"handset/Handset.h\"\n",
         "utility/New.cpp includes platform/handset/Handset.h");
+    row("without the folder", "platform/telephony/New.cpp", "#include \"tapi.h\"\n",
+        "platform/telephony/New.cpp includes \"tapi.h\" without its folder");
     row("by a path", "utility/New.cpp", "#include \"../platform/handset/Handset.h\"\n",
         "utility/New.cpp includes platform/handset/Handset.h");
     row("the plug-in reaches the telephone through a shim", "platform/telephony/tapi.h",
-        "#include \"Handset.h\"\n",
+        "#include \"handset/Handset.h\"\n",
         "utility reaches platform/handset/Handset.h through platform/telephony/tapi.h");
-    row("the plug-in includes a test", "utility/New.cpp", "#include \"Fixture.h\"\n",
+    row("the plug-in includes a test", "utility/New.cpp", "#include \"support/Fixture.h\"\n",
         "utility/New.cpp includes tests/support/Fixture.h");
-    row("the toolkit includes telephony", "platform/toolkit/New.h", "#include \"tapi.h\"\n",
+    row("the toolkit includes telephony", "platform/toolkit/New.h", "#include \"telephony/tapi.h\"\n",
         "platform/toolkit/New.h includes platform/telephony/tapi.h");
-    row("the log includes anything", "platform/log/New.h", "#include \"classname.h\"\n",
+    row("the log includes anything", "platform/log/New.h", "#include \"qt/classname.h\"\n",
         "platform/log/New.h includes platform/qt/classname.h");
-    row("the Qt names include the toolkit", "platform/qt/New.h", "#include \"ZListBox.h\"\n",
+    row("the Qt names include the toolkit", "platform/qt/New.h", "#include \"toolkit/ZListBox.h\"\n",
         "platform/qt/New.h includes platform/toolkit/ZListBox.h");
-    row("a shim includes a backend", "platform/telephony/New.cpp", "#include \"Simulated.h\"\n",
+    row("a shim includes a backend", "platform/telephony/New.cpp", "#include \"simulated/Simulated.h\"\n",
         "platform/telephony/New.cpp includes platform/handset/simulated/Simulated.h");
     row("a shim asks a database", "platform/telephony/New.cpp", "#include <QtSql/QSqlQuery>\n",
         "platform/telephony/New.cpp includes <QtSql/QSqlQuery>");
@@ -314,25 +319,27 @@ void TestIncludes::aViolationIsFound_data()
         "platform/telephony/New.cpp includes <QSqlQuery>");
     row("a shim speaks D-Bus without naming the module", "platform/message/New.cpp",
         "#include <QDBusConnection>\n", "platform/message/New.cpp includes <QDBusConnection>");
-    row("an interface includes a backend", "platform/handset/New.h", "#include \"Simulated.h\"\n",
+    row("an interface includes a backend", "platform/handset/New.h", "#include \"simulated/Simulated.h\"\n",
         "platform/handset/New.h includes platform/handset/simulated/Simulated.h");
-    row("an interface knows channels", "platform/handset/New.cpp", "#include \"classname.h\"\n",
+    row("an interface knows channels", "platform/handset/New.cpp", "#include \"qt/classname.h\"\n",
         "platform/handset/New.cpp includes platform/qt/classname.h");
-    row("a backend knows channels", "platform/handset/simulated/New.cpp", "#include \"classname.h\"\n",
+    row("a backend knows channels", "platform/handset/simulated/New.cpp", "#include \"qt/classname.h\"\n",
         "platform/handset/simulated/New.cpp includes platform/qt/classname.h");
-    row("the broadcast includes a backend", "platform/handset/UpdateBroadcast.cpp", "#include \"Simulated.h\"\n",
+    row("the broadcast includes a backend", "platform/handset/UpdateBroadcast.cpp",
+        "#include \"simulated/Simulated.h\"\n",
         "platform/handset/UpdateBroadcast.cpp includes platform/handset/simulated/Simulated.h");
-    row("a backend includes the other", "platform/handset/simulated/New.cpp", "#include \"Ofono.h\"\n",
+    row("a backend includes the other", "platform/handset/simulated/New.cpp", "#include \"ofono/Ofono.h\"\n",
         "platform/handset/simulated/New.cpp includes platform/handset/ofono/Ofono.h");
-    row("the call log includes a backend", "platform/handset/calllog/New.cpp", "#include \"Simulated.h\"\n",
+    row("the call log includes a backend", "platform/handset/calllog/New.cpp",
+        "#include \"simulated/Simulated.h\"\n",
         "platform/handset/calllog/New.cpp includes platform/handset/simulated/Simulated.h");
-    row("charging asks the ledger", "platform/handset/charging/New.cpp", "#include \"Store.h\"\n",
+    row("charging asks the ledger", "platform/handset/charging/New.cpp", "#include \"calllog/Store.h\"\n",
         "platform/handset/charging/New.cpp includes platform/handset/calllog/Store.h");
-    row("the host includes the plug-in", "host/New.cpp", "#include \"Screen.h\"\n",
+    row("the host includes the plug-in", "host/New.cpp", "#include \"utility/Screen.h\"\n",
         "host/New.cpp includes utility/Screen.h");
-    row("the host includes the store of a backend", "host/New.cpp", "#include \"Store.h\"\n",
+    row("the host includes the store of a backend", "host/New.cpp", "#include \"calllog/Store.h\"\n",
         "host/New.cpp includes platform/handset/calllog/Store.h");
-    row("the host includes a test", "host/New.cpp", "#include \"Fixture.h\"\n",
+    row("the host includes a test", "host/New.cpp", "#include \"support/Fixture.h\"\n",
         "host/New.cpp includes tests/support/Fixture.h");
     row("product code is a test", "host/New.cpp", "#include <QtTest/QTest>\n",
         "host/New.cpp includes <QtTest/QTest>");

@@ -1,13 +1,13 @@
 // Thousands of random keys on the Call Times screen, over a telephone that answers at random, beside a model that
 // says what a person must see.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
 
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QSignalSpy>

@@ -1,9 +1,9 @@
 // The plug-in as a shared object: loading, names, what it exports and what it needs.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

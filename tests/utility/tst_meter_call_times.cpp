@@ -1,8 +1,8 @@
 // The meter's call times and resets, over a scripted telephone.
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneTest.h"
-#include "PrivateAccess.h"
+#include "support/PhoneTest.h"
+#include "support/PrivateAccess.h"
 
 #include <climits>
 #include <limits>

@@ -1,7 +1,7 @@
 // The meter's costs, credit and expiry date, over a scripted telephone.
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
 #include <climits>
 

@@ -1,7 +1,7 @@
 // Every time from 0:0:0 to 999:59:59, through the telephony library and the meter.
-#include "PHONE_UI_RecentCallMeter.h"
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
 #include <cstdio>
 

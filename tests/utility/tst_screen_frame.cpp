@@ -1,13 +1,13 @@
 // The frame that a host sees: entry points, title, softkeys, list, the way out.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
 
-#include "ZApplication.h"
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtCore/QPointer>

@@ -2,14 +2,14 @@
 //
 // The program exports functions of the same names, which the dynamic linker finds first. What no telephone behind the
 // library can do, they do: look at the record before it is filled, and write into it though they fail.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
 
-#include "tapi.h"
-#include "util.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 using ZKeys::PhoneKey;
 

@@ -1,10 +1,10 @@
 // The trace function that every source file of the plug-in has.
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
 #include <QtCore/QProcess>
 
 #define KAV_SOURCE "tests/source"
-#include "trace.h"
+#include "utility/trace.h"
 
 class TestTrace : public PhoneTest
 {

@@ -1,12 +1,12 @@
 // The texts of the Call Times screen in the application's catalogue.
-#include "PHONE_UI_RecentCallTimesView.h"
+#include "utility/PHONE_UI_RecentCallTimesView.h"
 
-#include "PhoneScreen.h"
-#include "PhoneTest.h"
-#include "PluginLibrary.h"
-#include "RecordingTranslator.h"
+#include "support/PhoneScreen.h"
+#include "support/PhoneTest.h"
+#include "support/PluginLibrary.h"
+#include "support/RecordingTranslator.h"
 
-#include "ZMessageDlg.h"
+#include "toolkit/ZMessageDlg.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,6 +1,6 @@
-#include "CallFigures.h"
+#include "calllog/CallFigures.h"
 
-#include "AmountText.h"
+#include "charging/AmountText.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,10 +1,10 @@
 // The roles of a handset that are answered from the calls of the ledger.
 #pragma once
 
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "Ledger.h"
+#include "calllog/Ledger.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
 
 namespace handset::calllog {
 

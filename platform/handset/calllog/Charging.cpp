@@ -1,7 +1,7 @@
-#include "Charging.h"
+#include "calllog/Charging.h"
 
-#include "AmountText.h"
-#include "Ledger.h"
+#include "calllog/Ledger.h"
+#include "charging/AmountText.h"
 
 #include <QtCore/QDate>
 

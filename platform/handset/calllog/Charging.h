@@ -1,7 +1,7 @@
 // What the network charges, and the prepaid account.
 #pragma once
 
-#include "ChargingState.h"
+#include "charging/ChargingState.h"
 
 #include <QtCore/QString>
 

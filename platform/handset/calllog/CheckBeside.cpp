@@ -1,6 +1,6 @@
-#include "CheckBeside.h"
+#include "calllog/CheckBeside.h"
 
-#include "PlainSqlite.h"
+#include "calllog/PlainSqlite.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>

@@ -1,7 +1,7 @@
 // Reads a call log through while it is in use.
 #pragma once
 
-#include "LogCheck.h"
+#include "calllog/LogCheck.h"
 
 #include <QtCore/QObject>
 

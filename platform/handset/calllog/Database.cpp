@@ -1,6 +1,6 @@
-#include "Database.h"
+#include "calllog/Database.h"
 
-#include "Status.h"
+#include "handset/Status.h"
 
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QVariant>

@@ -1,7 +1,7 @@
 // One named connection to an SQLite database.
 #pragma once
 
-#include "PlainSqlite.h"
+#include "calllog/PlainSqlite.h"
 
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>

@@ -1,6 +1,6 @@
-#include "ExamineFile.h"
+#include "calllog/ExamineFile.h"
 
-#include "repair/FileHeader.h"
+#include "calllog/repair/FileHeader.h"
 
 #include <QtCore/QFile>
 

@@ -1,8 +1,8 @@
 // Looks at the file of the call log before SQLite does.
 #pragma once
 
-#include "Finding.h"
-#include "StateDirectory.h"
+#include "calllog/Finding.h"
+#include "calllog/StateDirectory.h"
 
 namespace handset::calllog {
 

@@ -1,4 +1,4 @@
-#include "Finding.h"
+#include "calllog/Finding.h"
 
 #include <QtCore/QRegularExpression>
 

@@ -1,7 +1,7 @@
 // What is found in the place of the call log.
 #pragma once
 
-#include "Database.h"
+#include "calllog/Database.h"
 
 #include <QtCore/QString>
 

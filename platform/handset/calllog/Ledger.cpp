@@ -1,8 +1,8 @@
-#include "Ledger.h"
+#include "calllog/Ledger.h"
 
-#include "Finding.h"
-#include "Saturating.h"
-#include "Status.h"
+#include "calllog/Finding.h"
+#include "calllog/Saturating.h"
+#include "handset/Status.h"
 
 #include <algorithm>
 #include <array>

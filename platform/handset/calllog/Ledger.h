@@ -1,9 +1,9 @@
 // The one owner of what is known: running calls and sessions, their totals, what they cost and what that is taken from.
 #pragma once
 
-#include "Clock.h"
-#include "LedgerTables.h"
-#include "StateDirectory.h"
+#include "calllog/LedgerTables.h"
+#include "calllog/StateDirectory.h"
+#include "handset/Clock.h"
 
 #include <QtCore/QStringList>
 

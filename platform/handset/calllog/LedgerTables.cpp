@@ -1,6 +1,6 @@
-#include "LedgerTables.h"
+#include "calllog/LedgerTables.h"
 
-#include "Saturating.h"
+#include "calllog/Saturating.h"
 
 #include <algorithm>
 

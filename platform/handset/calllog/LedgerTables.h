@@ -1,10 +1,10 @@
 // The rows of calls and packet-data sessions, their totals and what is kept beside them: the SQL of the ledger.
 #pragma once
 
-#include "ChargingState.h"
-#include "Database.h"
-#include "Schema.h"
-#include "Totals.h"
+#include "calllog/Database.h"
+#include "calllog/Schema.h"
+#include "calllog/Totals.h"
+#include "charging/ChargingState.h"
 
 #include <QtCore/QList>
 

@@ -1,7 +1,7 @@
-#include "LogCheck.h"
+#include "calllog/LogCheck.h"
 
-#include "PlainSqlite.h"
-#include "Saturating.h"
+#include "calllog/PlainSqlite.h"
+#include "calllog/Saturating.h"
 
 #include <sqlite3.h>
 

@@ -1,8 +1,8 @@
 // Reads a whole call log through.
 #pragma once
 
-#include "Finding.h"
-#include "Totals.h"
+#include "calllog/Finding.h"
+#include "calllog/Totals.h"
 
 #include <array>
 #include <optional>

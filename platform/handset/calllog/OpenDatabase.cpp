@@ -1,8 +1,8 @@
-#include "OpenDatabase.h"
+#include "calllog/OpenDatabase.h"
 
-#include "LogCheck.h"
-#include "Schema.h"
-#include "SchemaCheck.h"
+#include "calllog/LogCheck.h"
+#include "calllog/Schema.h"
+#include "calllog/SchemaCheck.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QThread>

@@ -1,8 +1,8 @@
 // Opens one database as a call log.
 #pragma once
 
-#include "Finding.h"
-#include "repair/Progress.h"
+#include "calllog/Finding.h"
+#include "calllog/repair/Progress.h"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
-#include "OpenLedger.h"
+#include "calllog/OpenLedger.h"
 
-#include "CheckBeside.h"
-#include "ExamineFile.h"
-#include "OpenDatabase.h"
-#include "Status.h"
-#include "repair/Replacement.h"
+#include "calllog/CheckBeside.h"
+#include "calllog/ExamineFile.h"
+#include "calllog/OpenDatabase.h"
+#include "calllog/repair/Replacement.h"
+#include "handset/Status.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QStringList>

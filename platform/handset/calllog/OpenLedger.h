@@ -1,8 +1,8 @@
 // Opens the ledger of a state directory, whatever is found there.
 #pragma once
 
-#include "Ledger.h"
-#include "repair/Progress.h"
+#include "calllog/Ledger.h"
+#include "calllog/repair/Progress.h"
 
 #include <QtCore/QString>
 

@@ -1,7 +1,7 @@
-#include "PacketFigures.h"
+#include "calllog/PacketFigures.h"
 
-#include "Ledger.h"
-#include "Saturating.h"
+#include "calllog/Ledger.h"
+#include "calllog/Saturating.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,7 +1,7 @@
 // Packet data from the sessions of the ledger.
 #pragma once
 
-#include "PacketData.h"
+#include "handset/PacketData.h"
 
 #include <functional>
 

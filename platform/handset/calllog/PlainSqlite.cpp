@@ -1,4 +1,4 @@
-#include "PlainSqlite.h"
+#include "calllog/PlainSqlite.h"
 
 #include <QtCore/QFile>
 

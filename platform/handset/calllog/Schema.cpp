@@ -1,6 +1,6 @@
-#include "Schema.h"
+#include "calllog/Schema.h"
 
-#include "PlainSqlite.h"
+#include "calllog/PlainSqlite.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 // The tables of the call log and how an older database gets them.
 #pragma once
 
-#include "Database.h"
-#include "repair/Progress.h"
+#include "calllog/Database.h"
+#include "calllog/repair/Progress.h"
 
 #include <span>
 

@@ -1,7 +1,7 @@
-#include "SchemaCheck.h"
+#include "calllog/SchemaCheck.h"
 
-#include "PlainSqlite.h"
-#include "Schema.h"
+#include "calllog/PlainSqlite.h"
+#include "calllog/Schema.h"
 
 #include <sqlite3.h>
 

@@ -1,7 +1,7 @@
 // Whether a database has the tables of a call log and nothing else.
 #pragma once
 
-#include "Finding.h"
+#include "calllog/Finding.h"
 
 namespace handset::calllog {
 

@@ -1,4 +1,4 @@
-#include "StateDirectory.h"
+#include "calllog/StateDirectory.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>

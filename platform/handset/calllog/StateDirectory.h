@@ -1,7 +1,7 @@
 // The directory that keeps a telephone's state between starts.
 #pragma once
 
-#include "repair/Progress.h"
+#include "calllog/repair/Progress.h"
 
 #include <QtCore/QString>
 

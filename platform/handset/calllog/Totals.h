@@ -1,7 +1,7 @@
 // The running totals that the call log keeps.
 #pragma once
 
-#include "Call.h"
+#include "handset/Call.h"
 
 #include <QtCore/QtGlobal>
 

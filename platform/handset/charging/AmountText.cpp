@@ -1,7 +1,7 @@
-#include "AmountText.h"
+#include "charging/AmountText.h"
 
-#include "ChargeUnits.h"
-#include "DecimalText.h"
+#include "charging/ChargeUnits.h"
+#include "charging/DecimalText.h"
 
 #include <limits>
 

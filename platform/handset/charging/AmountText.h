@@ -1,8 +1,8 @@
 // What a number of units costs, as the telephone's own decimal text, and back.
 #pragma once
 
-#include "AdviceOfCharge.h"
-#include "UnitPrice.h"
+#include "charging/UnitPrice.h"
+#include "handset/AdviceOfCharge.h"
 
 #include <QtCore/QByteArray>
 

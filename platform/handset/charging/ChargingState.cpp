@@ -1,6 +1,6 @@
-#include "ChargingState.h"
+#include "charging/ChargingState.h"
 
-#include "SimImage.h"
+#include "charging/SimImage.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QDate>

@@ -1,10 +1,10 @@
 // What is charged by, and what changes when something is charged.
 #pragma once
 
-#include "Call.h"
-#include "Date.h"
-#include "SimCard.h"
-#include "Tariff.h"
+#include "charging/SimCard.h"
+#include "charging/Tariff.h"
+#include "handset/Call.h"
+#include "handset/Date.h"
 
 #include <array>
 #include <optional>

@@ -1,4 +1,4 @@
-#include "CodeHash.h"
+#include "charging/CodeHash.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QRandomGenerator>

@@ -1,4 +1,4 @@
-#include "DecimalText.h"
+#include "charging/DecimalText.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // Decimal numbers as text, exactly and in no language.
 #pragma once
 
-#include "Status.h"
-#include "Wide.h"
+#include "charging/Wide.h"
+#include "handset/Status.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QStringView>

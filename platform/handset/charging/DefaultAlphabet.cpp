@@ -1,4 +1,4 @@
-#include "DefaultAlphabet.h"
+#include "charging/DefaultAlphabet.h"
 
 #include <algorithm>
 #include <array>

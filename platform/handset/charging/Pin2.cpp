@@ -1,4 +1,4 @@
-#include "Pin2.h"
+#include "charging/Pin2.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // The SIM's second PIN (3GPP TS 51.011, 9.3).
 #pragma once
 
-#include "CodeHash.h"
-#include "SimSecurity.h"
+#include "charging/CodeHash.h"
+#include "handset/SimSecurity.h"
 
 namespace handset::charging {
 

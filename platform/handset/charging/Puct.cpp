@@ -1,6 +1,6 @@
-#include "Puct.h"
+#include "charging/Puct.h"
 
-#include "DefaultAlphabet.h"
+#include "charging/DefaultAlphabet.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 // The SIM file EF_PUCT: price per unit and currency table (3GPP TS 51.011, 10.3.11).
 #pragma once
 
-#include "UnitPrice.h"
+#include "charging/UnitPrice.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "SimCard.h"
+#include "charging/SimCard.h"
 
 namespace handset::charging {
 

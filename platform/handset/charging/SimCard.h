@@ -1,10 +1,10 @@
 // The simulated SIM card: the files of advice of charge, who may write them, and PIN2.
 #pragma once
 
-#include "AdviceOfCharge.h"
-#include "ChargeUnits.h"
-#include "Pin2.h"
-#include "Puct.h"
+#include "charging/ChargeUnits.h"
+#include "charging/Pin2.h"
+#include "charging/Puct.h"
+#include "handset/AdviceOfCharge.h"
 
 #include <memory>
 #include <optional>

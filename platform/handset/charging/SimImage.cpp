@@ -1,4 +1,4 @@
-#include "SimImage.h"
+#include "charging/SimImage.h"
 
 #include <QtCore/QCryptographicHash>
 

@@ -1,7 +1,7 @@
 // A SIM card as bytes to keep.
 #pragma once
 
-#include "SimCard.h"
+#include "charging/SimCard.h"
 
 namespace handset::charging {
 

@@ -1,6 +1,6 @@
-#include "Tariff.h"
+#include "charging/Tariff.h"
 
-#include "Wide.h"
+#include "charging/Wide.h"
 
 namespace handset::charging {
 

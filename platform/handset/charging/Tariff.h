@@ -1,7 +1,7 @@
 // From the time and the data of a call to charging units.
 #pragma once
 
-#include "ChargeUnits.h"
+#include "charging/ChargeUnits.h"
 
 #include <QtCore/QtGlobal>
 

@@ -1,6 +1,6 @@
-#include "UnitPrice.h"
+#include "charging/UnitPrice.h"
 
-#include "DecimalText.h"
+#include "charging/DecimalText.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // The price of a charging unit, as far as the SIM can hold it.
 #pragma once
 
-#include "Status.h"
+#include "handset/Status.h"
 
 #include <QtCore/QString>
 #include <QtCore/QStringView>

@@ -1,4 +1,4 @@
-#include "ReadyMadeHistory.h"
+#include "simulated/ReadyMadeHistory.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 // A dozen plausible calls, to have something to look at.
 #pragma once
 
-#include "Call.h"
+#include "handset/Call.h"
 
 #include <QtCore/QList>
 

@@ -1,7 +1,7 @@
-#include "SimAccess.h"
+#include "simulated/SimAccess.h"
 
-#include "AmountText.h"
-#include "Ledger.h"
+#include "calllog/Ledger.h"
+#include "charging/AmountText.h"
 
 namespace handset::simulated {
 

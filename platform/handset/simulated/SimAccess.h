@@ -1,9 +1,9 @@
 // The simulated SIM card: what the phone asks of it, and what who makes it and who carries it can do.
 #pragma once
 
-#include "AdviceOfCharge.h"
-#include "SimCard.h"
-#include "SimSecurity.h"
+#include "charging/SimCard.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/SimSecurity.h"
 
 namespace handset::calllog {
 class Ledger;

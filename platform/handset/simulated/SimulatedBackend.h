@@ -1,7 +1,7 @@
 // How the factory reaches the simulated telephone.
 #pragma once
 
-#include "Handset.h"
+#include "handset/Handset.h"
 
 namespace handset::simulated {
 

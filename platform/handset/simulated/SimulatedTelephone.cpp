@@ -1,10 +1,10 @@
-#include "SimulatedTelephone.h"
+#include "simulated/SimulatedTelephone.h"
 
-#include "CallFigures.h"
-#include "CheckBeside.h"
-#include "OpenLedger.h"
-#include "SimulatedBackend.h"
-#include "Status.h"
+#include "calllog/CallFigures.h"
+#include "calllog/CheckBeside.h"
+#include "calllog/OpenLedger.h"
+#include "handset/Status.h"
+#include "simulated/SimulatedBackend.h"
 
 #include <QtCore/QTimer>
 

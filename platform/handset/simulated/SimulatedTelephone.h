@@ -1,11 +1,11 @@
 // The simulated telephone: the embedded default behind the phone's libraries.
 #pragma once
 
-#include "Call.h"
-#include "Charging.h"
-#include "Handset.h"
-#include "PacketFigures.h"
-#include "SimAccess.h"
+#include "calllog/Charging.h"
+#include "calllog/PacketFigures.h"
+#include "handset/Call.h"
+#include "handset/Handset.h"
+#include "simulated/SimAccess.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>

@@ -1,4 +1,4 @@
-#include "BusAddress.h"
+#include "qt/qcop/BusAddress.h"
 
 #include <QtCore/QtGlobal>
 

@@ -1,6 +1,6 @@
-#include "BusProbe.h"
+#include "qt/qcop/BusProbe.h"
 
-#include "QCopConnection.h"
+#include "qt/qcop/QCopConnection.h"
 
 #include <QtCore/QtGlobal>
 

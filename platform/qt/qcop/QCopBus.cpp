@@ -1,6 +1,6 @@
-#include "QCopBus.h"
+#include "qt/qcop/QCopBus.h"
 
-#include "BusAddress.h"
+#include "qt/qcop/BusAddress.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QThread>

@@ -1,7 +1,7 @@
 // The channels' end of the session bus. Not a public header: the screens know QCopChannel only.
 #pragma once
 
-#include "QCopConnection.h"
+#include "qt/qcop/QCopConnection.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QObject>

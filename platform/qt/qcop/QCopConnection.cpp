@@ -1,4 +1,4 @@
-#include "QCopConnection.h"
+#include "qt/qcop/QCopConnection.h"
 
 #include <QtCore/QList>
 #include <QtCore/QSocketNotifier>

@@ -1,7 +1,7 @@
 // A connection to the session bus for channel messages, both ways. Not a public header.
 #pragma once
 
-#include "QCopWire.h"
+#include "qt/qcop/QCopWire.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QDeadlineTimer>

@@ -1,4 +1,4 @@
-#include "QCopSubscribers.h"
+#include "qt/qcop/QCopSubscribers.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>

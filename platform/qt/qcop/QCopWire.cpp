@@ -1,7 +1,7 @@
-#include "QCopWire.h"
+#include "qt/qcop/QCopWire.h"
 
-#include "LineLimit.h"
-#include "QCopSubscribers.h"
+#include "qt/qcop/LineLimit.h"
+#include "qt/qcop/QCopSubscribers.h"
 
 #include <dbus/dbus.h>
 

@@ -1,6 +1,6 @@
 // Sends a message on a channel, or shows what comes on one, from a shell.
-#include "QCopBus.h"
-#include "QCopChannel.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>

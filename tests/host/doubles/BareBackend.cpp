@@ -1,5 +1,5 @@
 // A telephone that has no role and keeps nothing, in the place of the simulated one.
-#include "SimulatedBackend.h"
+#include "simulated/SimulatedBackend.h"
 
 namespace {
 

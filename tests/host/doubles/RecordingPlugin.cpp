@@ -1,10 +1,10 @@
-#include "RecordingPlugin.h"
+#include "host/doubles/RecordingPlugin.h"
 
-#include "ZKbMainWidget.h"
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSoftKey.h"
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>

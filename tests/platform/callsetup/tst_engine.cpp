@@ -1,9 +1,9 @@
 // The call-setup engine: one operation of the telephone each, its status passed on, outputs written on success only.
-#include "PHONE_ENG_Setup.h"
-#include "PhoneTest.h"
+#include "callsetup/PHONE_ENG_Setup.h"
+#include "support/PhoneTest.h"
 
-#include "Handset.h"
-#include "Status.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
 
 #include <QtCore/QMetaMethod>
 #include <QtTest/QSignalSpy>

@@ -1,14 +1,14 @@
 // Every operation as something to call.
 #pragma once
 
-#include "AdviceOfCharge.h"
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "Operations.h"
-#include "PacketData.h"
-#include "Roles.h"
-#include "SimSecurity.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/Operations.h"
+#include "handset/PacketData.h"
+#include "handset/Roles.h"
+#include "handset/SimSecurity.h"
 
 #include <array>
 #include <tuple>

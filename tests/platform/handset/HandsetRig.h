@@ -1,9 +1,9 @@
 // How the contract test makes calls on a backend.
 #pragma once
 
-#include "Call.h"
-#include "Date.h"
-#include "Handset.h"
+#include "handset/Call.h"
+#include "handset/Date.h"
+#include "handset/Handset.h"
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>

@@ -1,11 +1,11 @@
-#include "HandsetTestKit.h"
+#include "handset/HandsetTestKit.h"
 
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "PacketData.h"
-#include "Schema.h"
-#include "Status.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

@@ -1,9 +1,9 @@
 // What the tests of the telephone share.
 #pragma once
 
-#include "Clock.h"
-#include "Handset.h"
-#include "SimulatedTelephone.h"
+#include "handset/Clock.h"
+#include "handset/Handset.h"
+#include "simulated/SimulatedTelephone.h"
 
 #include <QtCore/QList>
 #include <QtCore/QTemporaryDir>

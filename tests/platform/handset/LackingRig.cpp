@@ -1,6 +1,6 @@
 // A backend that has only the roles that every telephone has.
-#include "DecoratedHandset.h"
-#include "SimulatedRig.h"
+#include "handset/DecoratedHandset.h"
+#include "handset/SimulatedRig.h"
 
 namespace handset::test {
 

@@ -1,7 +1,7 @@
 // A clock that several processes of a test share, as they share the machine's.
 #pragma once
 
-#include "Clock.h"
+#include "handset/Clock.h"
 
 #include <QtCore/QFile>
 

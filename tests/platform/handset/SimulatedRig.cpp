@@ -1,4 +1,4 @@
-#include "SimulatedRig.h"
+#include "handset/SimulatedRig.h"
 
 std::unique_ptr<handset::test::HandsetRig> handset::test::makeRig()
 {

@@ -1,9 +1,9 @@
 // Makes calls on the simulated telephone, for the contract test.
 #pragma once
 
-#include "HandsetRig.h"
-#include "HandsetTestKit.h"
-#include "Status.h"
+#include "handset/HandsetRig.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
 
 namespace handset::test {
 

@@ -15,16 +15,16 @@
 //                                                the same with a packet-data session, which begins when the session
 //                                                bus is there to tell of it
 // A directory that cannot be opened as expected is a line "error ..." or "notice ..." and exit code 1.
-#include "AdviceOfCharge.h"
-#include "CallLog.h"
-#include "CallService.h"
-#include "Clock.h"
-#include "Handset.h"
-#include "SharedClock.h"
-#include "SimSecurity.h"
-#include "SimulatedTelephone.h"
-#include "Status.h"
-#include "qcop/QCopBus.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/Clock.h"
+#include "handset/Handset.h"
+#include "handset/SharedClock.h"
+#include "handset/SimSecurity.h"
+#include "handset/Status.h"
+#include "qt/qcop/QCopBus.h"
+#include "simulated/SimulatedTelephone.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>

@@ -1,13 +1,13 @@
 // The message that tells the screens of every process that the packet-data figures have changed.
-#include "CallLog.h"
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "PrivateBus.h"
-#include "QCopChannel.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
-#include "qcop/QCopBus.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
+#include "qcop/PrivateBus.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTimer>

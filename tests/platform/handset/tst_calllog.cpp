@@ -1,12 +1,12 @@
 // What the call log writes down.
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "HandsetTestKit.h"
-#include "OpenLedger.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/OpenLedger.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

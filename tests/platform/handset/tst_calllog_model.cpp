@@ -1,10 +1,10 @@
 // Thousands of random operations, each compared with what a list of everything that ever happened says.
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "HandsetTestKit.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <algorithm>
 #include <array>

@@ -1,12 +1,12 @@
 // What calls cost: the SIM's meter, the tariffs, the account, and the end of a call that nothing more may be charged
 // for.
-#include "AdviceOfCharge.h"
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "HandsetTestKit.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>

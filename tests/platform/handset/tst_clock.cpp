@@ -1,6 +1,6 @@
 // The machine's clocks and the one that stands still.
-#include "HandsetTestKit.h"
-#include "TestGroup.h"
+#include "handset/HandsetTestKit.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDateTime>
 

@@ -1,14 +1,14 @@
 // What every backend must do alike, written against the interfaces alone: times of calls and packet data.
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "DecoratedHandset.h"
-#include "EachOperation.h"
-#include "HandsetRig.h"
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/DecoratedHandset.h"
+#include "handset/EachOperation.h"
+#include "handset/HandsetRig.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <functional>
 

@@ -1,12 +1,12 @@
 // What every backend must do alike, written against the interfaces alone: costs, advice of charge and the SIM's PINs.
-#include "AdviceOfCharge.h"
-#include "CallLog.h"
-#include "CallService.h"
-#include "HandsetRig.h"
-#include "HandsetTestKit.h"
-#include "SimSecurity.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/HandsetRig.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/SimSecurity.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <functional>
 

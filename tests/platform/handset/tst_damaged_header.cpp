@@ -1,11 +1,11 @@
 // Whatever a byte of the log's header says, no call is lost: the tables tell that it is a call log of ours, too.
-#include "CallLog.h"
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "Sample.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
+#include "support/Sample.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 

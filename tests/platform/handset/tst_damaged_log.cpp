@@ -1,15 +1,15 @@
 // Whatever stands in the place of the call log: a clear message, the old file kept, no crash, nothing readable lost.
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "FullDisk.h"
-#include "HandsetTestKit.h"
-#include "LogCheck.h"
-#include "PlainSqlite.h"
-#include "Sample.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/LogCheck.h"
+#include "calllog/PlainSqlite.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/FullDisk.h"
+#include "support/Sample.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>

@@ -1,10 +1,10 @@
 // What is left of the packet-data sessions of a damaged log.
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "Sample.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
+#include "support/Sample.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 

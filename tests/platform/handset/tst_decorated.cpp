@@ -1,7 +1,7 @@
 // A telephone in front of another: what its hooks see, and what goes on to the telephone behind.
-#include "DecoratedHandset.h"
-#include "EachOperation.h"
-#include "TestGroup.h"
+#include "handset/DecoratedHandset.h"
+#include "handset/EachOperation.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QStringList>
 #include <QtTest/QTest>

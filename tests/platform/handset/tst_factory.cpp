@@ -1,9 +1,9 @@
 // Opening a telephone by name and installing it for the phone's libraries.
-#include "DataCalls.h"
-#include "HandsetTestKit.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>

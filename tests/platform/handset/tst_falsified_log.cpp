@@ -1,11 +1,11 @@
 // A call log that somebody has changed: it is told, nothing of it runs, and the telephone works.
-#include "CallLog.h"
-#include "CallService.h"
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "SimSecurity.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/SimSecurity.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QStorageInfo>

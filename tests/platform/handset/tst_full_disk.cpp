@@ -1,13 +1,13 @@
 // What a full disk does to calls and sessions: they end, and nothing of them is lost.
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "FullDisk.h"
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
+#include "support/FullDisk.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QTimer>

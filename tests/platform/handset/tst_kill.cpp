@@ -1,8 +1,8 @@
 // A process that makes calls or has packet-data sessions is killed at any moment, hundreds of times: nothing that was
 // finished may be lost, and of a running session no more than what followed its last checkpoint.
-#include "HandsetTestKit.h"
-#include "Schema.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/HandsetTestKit.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QElapsedTimer>

@@ -1,15 +1,15 @@
 // One ledger, several processes: one records, any of them asks, resets and sets.
-#include "AdviceOfCharge.h"
-#include "CallLog.h"
-#include "CallService.h"
-#include "HandsetTestKit.h"
-#include "OtherProcess.h"
-#include "PacketData.h"
-#include "Schema.h"
-#include "SharedClock.h"
-#include "SimSecurity.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/OtherProcess.h"
+#include "handset/PacketData.h"
+#include "handset/SharedClock.h"
+#include "handset/SimSecurity.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QHash>

@@ -1,9 +1,9 @@
 // The call log is opened while the system's calls fail, one after the other: no finished call is lost, what was put aside
 // is whole, the error or the notice says what happened, and the next start finds everything right.
-#include "HandsetTestKit.h"
-#include "Status.h"
-#include "SystemFaults.h"
-#include "TestGroup.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
+#include "support/faults/SystemFaults.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>

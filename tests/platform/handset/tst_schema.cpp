@@ -1,9 +1,9 @@
 // The tables of the call log, and the way there from older versions.
-#include "CallLog.h"
-#include "HandsetTestKit.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/Schema.h"
+#include "handset/CallLog.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 

@@ -1,10 +1,10 @@
 // The packet-data sessions of the simulated telephone: what is counted, told and written down.
-#include "HandsetTestKit.h"
-#include "PacketData.h"
-#include "PacketFigures.h"
-#include "Schema.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "calllog/PacketFigures.h"
+#include "calllog/Schema.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>

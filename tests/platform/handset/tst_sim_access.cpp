@@ -1,9 +1,9 @@
 // The SIM behind the simulated telephone: what may be read, who may write, and PIN2.
-#include "AdviceOfCharge.h"
-#include "HandsetTestKit.h"
-#include "SimSecurity.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/AdviceOfCharge.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/SimSecurity.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

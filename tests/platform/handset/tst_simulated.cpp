@@ -1,11 +1,11 @@
 // The line that is driven by hand.
-#include "CallLog.h"
-#include "CallService.h"
-#include "DataCalls.h"
-#include "HandsetTestKit.h"
-#include "ReadyMadeHistory.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/CallLog.h"
+#include "handset/CallService.h"
+#include "handset/DataCalls.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/Status.h"
+#include "simulated/ReadyMadeHistory.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>

@@ -1,9 +1,9 @@
 // What opening the telephone does not do.
-#include "CodeHash.h"
-#include "HandsetTestKit.h"
-#include "SimSecurity.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "charging/CodeHash.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/SimSecurity.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <dlfcn.h>
 

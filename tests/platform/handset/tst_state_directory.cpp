@@ -1,8 +1,8 @@
 // Directories that cannot be used, and directories that somebody else uses.
-#include "HandsetTestKit.h"
-#include "OtherProcess.h"
-#include "Status.h"
-#include "TestGroup.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/OtherProcess.h"
+#include "handset/Status.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 

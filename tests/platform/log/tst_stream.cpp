@@ -1,6 +1,6 @@
 // The trace stream: where it goes, and that a place which cannot be had changes nothing.
-#include "TestGroup.h"
-#include "aplog.h"
+#include "log/aplog.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>

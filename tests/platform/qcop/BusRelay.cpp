@@ -1,4 +1,4 @@
-#include "BusRelay.h"
+#include "qcop/BusRelay.h"
 
 #include <array>
 #include <poll.h>

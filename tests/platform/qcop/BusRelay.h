@@ -1,7 +1,7 @@
 // A way to the bus on which a word can be held back.
 #pragma once
 
-#include "BusSocket.h"
+#include "qcop/BusSocket.h"
 
 #include <QtCore/QTemporaryDir>
 

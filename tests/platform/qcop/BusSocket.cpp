@@ -1,4 +1,4 @@
-#include "BusSocket.h"
+#include "qcop/BusSocket.h"
 
 #include <QtCore/QFile>
 

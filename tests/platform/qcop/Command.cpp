@@ -1,6 +1,6 @@
-#include "Command.h"
+#include "qcop/Command.h"
 
-#include "PrivateBus.h"
+#include "qcop/PrivateBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>

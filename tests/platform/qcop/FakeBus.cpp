@@ -1,4 +1,4 @@
-#include "FakeBus.h"
+#include "qcop/FakeBus.h"
 
 #include <sys/socket.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 // Something at a bus address that is no bus.
 #pragma once
 
-#include "BusSocket.h"
+#include "qcop/BusSocket.h"
 
 #include <QtCore/QTemporaryDir>
 

@@ -1,7 +1,7 @@
-#include "Peer.h"
+#include "qcop/Peer.h"
 
-#include "PeerPattern.h"
-#include "PrivateBus.h"
+#include "qcop/PeerPattern.h"
+#include "qcop/PrivateBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QProcess>

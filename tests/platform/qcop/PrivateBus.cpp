@@ -1,6 +1,6 @@
-#include "PrivateBus.h"
+#include "qcop/PrivateBus.h"
 
-#include "BusSocket.h"
+#include "qcop/BusSocket.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>

@@ -1,5 +1,5 @@
-#include "PrivateBus.h"
-#include "QCopRig.h"
+#include "qcop/PrivateBus.h"
+#include "qcop/QCopRig.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "QCopRig.h"
+#include "qcop/QCopRig.h"
 
 #include <QtCore/QByteArray>
 

@@ -1,9 +1,9 @@
 // A process with channels of its own, led over its standard input: a command a line, an answer "= ..." to each, and
 // "got ID MESSAGE DATA" for each message in between. Names and bytes are in hexadecimal digits.
-#include "PeerPattern.h"
+#include "qcop/PeerPattern.h"
 
-#include "QCopChannel.h"
-#include "qcop/QCopBus.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>

@@ -1,9 +1,9 @@
 // A session bus that is not there, that does not answer, that dies and comes back.
-#include "BusRelay.h"
-#include "FakeBus.h"
-#include "Peer.h"
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "qcop/BusRelay.h"
+#include "qcop/FakeBus.h"
+#include "qcop/Peer.h"
+#include "qcop/PrivateBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QRegularExpression>

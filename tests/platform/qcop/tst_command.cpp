@@ -1,8 +1,8 @@
 // kavqcop, as a shell calls it.
-#include "Command.h"
-#include "Peer.h"
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "qcop/Command.h"
+#include "qcop/Peer.h"
+#include "qcop/PrivateBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QIODevice>

@@ -1,8 +1,8 @@
 // What a channel promises within one process, the same with a session bus and without one.
-#include "QCopChannel.h"
-#include "QCopRig.h"
-#include "TestGroup.h"
-#include "qcop/QCopBus.h"
+#include "qcop/QCopRig.h"
+#include "qt/QCopChannel.h"
+#include "qt/qcop/QCopBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QEventLoop>
 #include <QtCore/QRegularExpression>

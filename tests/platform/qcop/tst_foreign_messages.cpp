@@ -1,8 +1,8 @@
 // What other programs see of a channel on the bus, and what they can do to it.
-#include "LineLimit.h"
-#include "Peer.h"
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "qcop/Peer.h"
+#include "qcop/PrivateBus.h"
+#include "qt/qcop/LineLimit.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QVariant>

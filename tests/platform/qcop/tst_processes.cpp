@@ -1,7 +1,7 @@
 // Messages between processes on one session bus.
-#include "Peer.h"
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "qcop/Peer.h"
+#include "qcop/PrivateBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>

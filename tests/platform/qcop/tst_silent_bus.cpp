@@ -1,10 +1,10 @@
 // A bus that falls silent, wherever in its conversation with a process it has got to.
-#include "BusRelay.h"
-#include "Command.h"
-#include "FakeBus.h"
-#include "Peer.h"
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "qcop/BusRelay.h"
+#include "qcop/Command.h"
+#include "qcop/FakeBus.h"
+#include "qcop/Peer.h"
+#include "qcop/PrivateBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryFile>

@@ -1,6 +1,6 @@
 // A library with channels goes out of use before the application ends, as with a plug-in that is unloaded.
-#include "PrivateBus.h"
-#include "TestGroup.h"
+#include "qcop/PrivateBus.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QLibrary>
 #include <QtCore/QRegularExpression>

@@ -1,6 +1,6 @@
 // className(), which the embedded edition has and the installed Qt lacks.
-#include "TestGroup.h"
-#include "classname.h"
+#include "qt/classname.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>

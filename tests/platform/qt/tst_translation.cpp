@@ -1,6 +1,6 @@
 // Texts by resource key, with an English default.
-#include "TestGroup.h"
-#include "translation.h"
+#include "qt/translation.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>

@@ -1,5 +1,5 @@
-#include "PinDigits.h"
-#include "TestGroup.h"
+#include "security/PinDigits.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
 #include <QtTest/QTest>

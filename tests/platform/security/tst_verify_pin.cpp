@@ -1,10 +1,10 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "DecoratedHandset.h"
-#include "PinEntryDlg.h"
-#include "SETUP_SECURITY_Util.h"
-#include "TestGroup.h"
-#include "ZApplication.h"
+#include "handset/DecoratedHandset.h"
+#include "security/PinEntryDlg.h"
+#include "security/SETUP_SECURITY_Util.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPoint>

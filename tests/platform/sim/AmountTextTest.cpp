@@ -1,8 +1,8 @@
 // Costs and limits as text.
-#include "AmountText.h"
-#include "ChargeUnits.h"
-#include "LongHand.h"
-#include "TestGroup.h"
+#include "charging/AmountText.h"
+#include "charging/ChargeUnits.h"
+#include "sim/LongHand.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QLocale>
 #include <QtCore/QRandomGenerator>

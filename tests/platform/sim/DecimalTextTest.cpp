@@ -1,7 +1,7 @@
 // Decimal numbers as text.
-#include "DecimalText.h"
-#include "LongHand.h"
-#include "TestGroup.h"
+#include "charging/DecimalText.h"
+#include "sim/LongHand.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>

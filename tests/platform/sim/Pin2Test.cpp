@@ -1,6 +1,6 @@
 // PIN2: tries, PUK, and what is kept of the digits.
-#include "Pin2.h"
-#include "TestGroup.h"
+#include "charging/Pin2.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>

@@ -1,6 +1,6 @@
 // The files of the simulated SIM card and who may write them.
-#include "SimCard.h"
-#include "TestGroup.h"
+#include "charging/SimCard.h"
+#include "support/TestGroup.h"
 
 #include <QtTest/QTest>
 

@@ -1,6 +1,6 @@
 // The card as bytes: what survives, and what is made of bytes that are no card.
-#include "SimImage.h"
-#include "TestGroup.h"
+#include "charging/SimImage.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QCryptographicHash>
 #include <QtCore/QRandomGenerator>

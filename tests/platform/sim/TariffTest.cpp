@@ -1,6 +1,6 @@
 // From time and data to units.
-#include "Tariff.h"
-#include "TestGroup.h"
+#include "charging/Tariff.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>

@@ -1,8 +1,8 @@
 // The price per unit, and the file that holds it.
-#include "LongHand.h"
-#include "Puct.h"
-#include "Sample.h"
-#include "TestGroup.h"
+#include "charging/Puct.h"
+#include "sim/LongHand.h"
+#include "support/Sample.h"
+#include "support/TestGroup.h"
 
 #include <QtCore/QRandomGenerator>
 #include <QtTest/QTest>

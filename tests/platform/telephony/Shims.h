@@ -1,8 +1,8 @@
 // The C functions as a table: what each asks of the telephone.
 #pragma once
 
-#include "tapi.h"
-#include "util.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 #include <array>
 #include <cstring>

@@ -1,9 +1,9 @@
 // The phone's message client over a scripted telephone.
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
-#include "Handset.h"
-#include "PHONE_MsgClient.h"
-#include "Status.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
+#include "message/PHONE_MsgClient.h"
 
 #include <QtCore/QPointer>
 

@@ -1,14 +1,14 @@
 // The C functions and the message client over calls that are really made.
 #include <QtTest/QTest>
 
-#include "Clock.h"
-#include "Handset.h"
-#include "PHONE_MsgClient.h"
-#include "SimulatedTelephone.h"
-#include "Status.h"
-#include "TestGroup.h"
-#include "tapi.h"
-#include "util.h"
+#include "handset/Clock.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
+#include "message/PHONE_MsgClient.h"
+#include "simulated/SimulatedTelephone.h"
+#include "support/TestGroup.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 using namespace handset;
 

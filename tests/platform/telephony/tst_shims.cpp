@@ -1,10 +1,10 @@
 // What all C functions have in common: one operation of the telephone each, its status passed on, outputs written
 // on success only.
-#include "PhoneTest.h"
-#include "Shims.h"
+#include "support/PhoneTest.h"
+#include "telephony/Shims.h"
 
-#include "Handset.h"
-#include "Status.h"
+#include "handset/Handset.h"
+#include "handset/Status.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,9 +1,9 @@
 // What the C functions hand over, up to the ends of every range.
-#include "PhoneTest.h"
+#include "support/PhoneTest.h"
 
-#include "Status.h"
-#include "tapi.h"
-#include "util.h"
+#include "handset/Status.h"
+#include "telephony/tapi.h"
+#include "telephony/util.h"
 
 #include <QtCore/QtEndian>
 

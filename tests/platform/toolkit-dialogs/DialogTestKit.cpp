@@ -1,7 +1,7 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "ZApplication.h"
-#include "ZSkinService.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtCore/QRect>
 #include <QtGui/QImage>

@@ -1,9 +1,9 @@
 // What the tests of the dialogs share.
 #pragma once
 
-#include "ToolkitTestKit.h"
-#include "ZListBoxItem.h"
-#include "ZPopup.h"
+#include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZListBoxItem.h"
+#include "toolkit/ZPopup.h"
 
 #include <QtCore/QRect>
 #include <QtCore/QStringList>

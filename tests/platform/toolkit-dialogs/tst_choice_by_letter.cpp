@@ -1,8 +1,8 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZApplication.h"
-#include "ZSingleSelectDlg.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZSingleSelectDlg.h"
 
 #include <QtWidgets/QApplication>
 

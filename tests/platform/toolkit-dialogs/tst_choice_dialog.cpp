@@ -1,10 +1,10 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZApplication.h"
-#include "ZMultiLineEdit.h"
-#include "ZSingleCaptureDlg.h"
-#include "ZSingleSelectDlg.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZSingleCaptureDlg.h"
+#include "toolkit/ZSingleSelectDlg.h"
 
 #include <QtCore/QPoint>
 #include <QtCore/QPointer>

@@ -1,9 +1,9 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZApplication.h"
-#include "ZMultiLineEdit.h"
-#include "ZSingleCaptureDlg.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZSingleCaptureDlg.h"
 
 #include <QtCore/QPoint>
 #include <QtCore/QPointer>

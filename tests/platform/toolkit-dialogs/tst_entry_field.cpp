@@ -1,7 +1,7 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZMultiLineEdit.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZMultiLineEdit.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QMimeData>

@@ -1,11 +1,11 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZApplication.h"
-#include "ZKeypadInput.h"
-#include "ZMultiLineEdit.h"
-#include "ZMultiTap.h"
-#include "ZSingleCaptureDlg.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKeypadInput.h"
+#include "toolkit/ZMultiLineEdit.h"
+#include "toolkit/ZMultiTap.h"
+#include "toolkit/ZSingleCaptureDlg.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QRegularExpression>

@@ -1,7 +1,7 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZLabel.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZLabel.h"
 
 #include <QtGui/QAccessible>
 #include <QtGui/QColor>

@@ -1,8 +1,8 @@
-#include "DialogTestKit.h"
+#include "toolkit-dialogs/DialogTestKit.h"
 
-#include "TestGroup.h"
-#include "ZApplication.h"
-#include "ZNoticeDlg.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZNoticeDlg.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QRect>

@@ -1,4 +1,4 @@
-#include "ToolkitTestKit.h"
+#include "toolkit/ToolkitTestKit.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QPoint>

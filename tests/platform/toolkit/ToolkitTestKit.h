@@ -1,11 +1,11 @@
 // What the tests of the toolkit share: a screen as the phone builds it, and eyes for what it looks like.
 #pragma once
 
-#include "ZKbMainWidget.h"
-#include "ZListBox.h"
-#include "ZMessageDlg.h"
-#include "ZSettingItem.h"
-#include "ZSoftKey.h"
+#include "toolkit/ZKbMainWidget.h"
+#include "toolkit/ZListBox.h"
+#include "toolkit/ZMessageDlg.h"
+#include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSoftKey.h"
 
 #include <QtCore/QPoint>
 #include <QtGui/QColor>

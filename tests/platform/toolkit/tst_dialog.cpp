@@ -1,8 +1,8 @@
 // Dialogs over a screen: captions, answers, what they keep away from the screen, how they come and go.
-#include "TestGroup.h"
-#include "ToolkitTestKit.h"
-#include "ZApplication.h"
-#include "ZSkinService.h"
+#include "support/TestGroup.h"
+#include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtCore/QPoint>
 #include <QtCore/QPointF>

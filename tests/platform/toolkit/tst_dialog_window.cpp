@@ -1,7 +1,7 @@
 // Dialogs without a parent: windows of their own over the phone's display.
-#include "TestGroup.h"
-#include "ToolkitTestKit.h"
-#include "ZApplication.h"
+#include "support/TestGroup.h"
+#include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZApplication.h"
 
 #include <QtCore/QPoint>
 #include <QtCore/QPointer>

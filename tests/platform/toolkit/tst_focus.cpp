@@ -1,8 +1,8 @@
 // Who gets the keys: screens over screens, and the keypad of a host.
-#include "TestGroup.h"
-#include "ToolkitTestKit.h"
-#include "ZApplication.h"
-#include "ZKeys.h"
+#include "support/TestGroup.h"
+#include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZApplication.h"
+#include "toolkit/ZKeys.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QPointer>

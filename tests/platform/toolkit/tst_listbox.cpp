@@ -1,7 +1,7 @@
 // The list: rows, ownership, the focus bar, keys and pointer, what is reported.
-#include "TestGroup.h"
-#include "ToolkitTestKit.h"
-#include "ZListBoxItem.h"
+#include "support/TestGroup.h"
+#include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZListBoxItem.h"
 
 #include <QtCore/QAbstractItemModel>
 #include <QtCore/QModelIndex>

@@ -1,7 +1,7 @@
 // What the rows of a list look like.
-#include "FrameRecorder.h"
-#include "TestGroup.h"
-#include "ToolkitTestKit.h"
+#include "support/FrameRecorder.h"
+#include "support/TestGroup.h"
+#include "toolkit/ToolkitTestKit.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QPoint>

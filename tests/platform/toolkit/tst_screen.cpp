@@ -1,7 +1,7 @@
 // The frame of a screen: places, title, keys, showing and closing.
-#include "TestGroup.h"
-#include "ToolkitTestKit.h"
-#include "ZKeys.h"
+#include "support/TestGroup.h"
+#include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZKeys.h"
 
 #include <QtCore/QPoint>
 #include <QtCore/QPointer>

@@ -1,4 +1,4 @@
-#include "SystemFaults.h"
+#include "support/faults/SystemFaults.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "FileHeader.h"
+#include "calllog/repair/FileHeader.h"
 
 #include <QtCore/QtEndian>
 

@@ -1,7 +1,7 @@
-#include "LogCopy.h"
+#include "calllog/repair/LogCopy.h"
 
-#include "FileHeader.h"
-#include "Schema.h"
+#include "calllog/Schema.h"
+#include "calllog/repair/FileHeader.h"
 
 #include <QtCore/QFile>
 

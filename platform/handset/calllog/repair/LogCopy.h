@@ -1,8 +1,8 @@
 // The copy that a call log which cannot be used is read from, so that it is kept as it was found.
 #pragma once
 
-#include "Finding.h"
-#include "StateDirectory.h"
+#include "calllog/Finding.h"
+#include "calllog/StateDirectory.h"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
-#include "Replacement.h"
+#include "calllog/repair/Replacement.h"
 
-#include "LedgerTables.h"
-#include "LogCopy.h"
-#include "OpenDatabase.h"
-#include "PlainSqlite.h"
-#include "Salvage.h"
+#include "calllog/LedgerTables.h"
+#include "calllog/OpenDatabase.h"
+#include "calllog/PlainSqlite.h"
+#include "calllog/repair/LogCopy.h"
+#include "calllog/repair/Salvage.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QVariant>

@@ -1,9 +1,9 @@
 // Puts a new call log in the place of one that cannot be used.
 #pragma once
 
-#include "Finding.h"
-#include "Progress.h"
-#include "StateDirectory.h"
+#include "calllog/Finding.h"
+#include "calllog/StateDirectory.h"
+#include "calllog/repair/Progress.h"
 
 namespace handset::calllog {
 

@@ -1,4 +1,4 @@
-#include "RowSalvage.h"
+#include "calllog/repair/RowSalvage.h"
 
 #include <QtCore/QByteArrayList>
 

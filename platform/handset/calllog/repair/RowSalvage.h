@@ -1,8 +1,8 @@
 // Copies the rows of a table that can still be read.
 #pragma once
 
-#include "Finding.h"
-#include "Progress.h"
+#include "calllog/Finding.h"
+#include "calllog/repair/Progress.h"
 
 #include <span>
 

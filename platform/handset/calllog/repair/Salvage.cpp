@@ -1,10 +1,10 @@
-#include "Salvage.h"
+#include "calllog/repair/Salvage.h"
 
-#include "LedgerTables.h"
-#include "LogCheck.h"
-#include "PacketData.h"
-#include "RowSalvage.h"
-#include "TablesOnly.h"
+#include "calllog/LedgerTables.h"
+#include "calllog/LogCheck.h"
+#include "calllog/repair/RowSalvage.h"
+#include "calllog/repair/TablesOnly.h"
+#include "handset/PacketData.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 // Reads what can still be read of a damaged call log.
 #pragma once
 
-#include "Finding.h"
-#include "Progress.h"
+#include "calllog/Finding.h"
+#include "calllog/repair/Progress.h"
 
 namespace handset::calllog {
 

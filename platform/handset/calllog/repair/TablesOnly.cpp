@@ -1,4 +1,4 @@
-#include "TablesOnly.h"
+#include "calllog/repair/TablesOnly.h"
 
 namespace handset::calllog {
 

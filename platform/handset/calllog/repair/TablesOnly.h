@@ -1,7 +1,7 @@
 // What may be read of a database that somebody else may have changed.
 #pragma once
 
-#include "Database.h"
+#include "calllog/Database.h"
 
 namespace handset::calllog {
 
