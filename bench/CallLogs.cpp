@@ -49,10 +49,10 @@ Line openLine(const QString &directory)
     settings.stateDirectory = directory;
     settings.clock = line.clock;
     const handset::Opened opened = handset::open(settings);
-    line.telephone = std::dynamic_pointer_cast<handset::simulated::SimulatedTelephone>(opened.handset);
-    line.error = line.telephone ? opened.notice : opened.error;
+    line.handset = std::dynamic_pointer_cast<handset::simulated::SimulatedHandset>(opened.handset);
+    line.error = line.handset ? opened.notice : opened.error;
     if (!line.error.isEmpty())
-        line.telephone.reset();
+        line.handset.reset();
     return line;
 }
 
@@ -68,7 +68,7 @@ void showProgress(int done, int calls)
         std::fputc('\n', stderr);
 }
 
-QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
+QString fill(handset::simulated::SimulatedHandset &handset, int calls)
 {
     for (int next = 0; next < calls;) {
         QList<PastCall> batch;
@@ -76,7 +76,7 @@ QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
         batch.reserve(end - next);
         while (next < end)
             batch.append(callAt(next++));
-        if (telephone.addHistory(batch) != 0)
+        if (handset.addHistory(batch) != 0)
             return QStringLiteral("The calls could not be written.");
         showProgress(next, calls);
     }
@@ -86,7 +86,7 @@ QString fill(handset::simulated::SimulatedTelephone &telephone, int calls)
 QString write(const QString &path, int calls)
 {
     Line line = openLine(path);
-    return line.telephone ? fill(*line.telephone, calls) : line.error;
+    return line.handset ? fill(*line.handset, calls) : line.error;
 }
 
 // Under another name until it is whole.
@@ -201,13 +201,13 @@ int recordAndCrash(const QString &directory)
     constexpr int calls = 50; // which the write-ahead log still holds
     constexpr qint64 callMs = 60'000;
     const Line line = openLine(directory);
-    int result = line.telephone ? 0 : 1;
+    int result = line.handset ? 0 : 1;
     for (int i = 0; i <= calls && result == 0; ++i) {
-        result = line.telephone->dial(QStringLiteral("+4930555010"), handset::CallKind::Voice);
-        result = result == 0 ? line.telephone->remoteAnswer() : result;
+        result = line.handset->dial(QStringLiteral("+4930555010"), handset::CallKind::Voice);
+        result = result == 0 ? line.handset->remoteAnswer() : result;
         line.clock->advance(callMs);
-        result = result == 0 ? line.telephone->checkpoint() : result;
-        result = result == 0 && i < calls ? line.telephone->hangUp() : result;
+        result = result == 0 ? line.handset->checkpoint() : result;
+        result = result == 0 && i < calls ? line.handset->hangUp() : result;
     }
     if (result == 0)
         ::kill(::getpid(), SIGKILL);

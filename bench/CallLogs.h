@@ -2,7 +2,7 @@
 #pragma once
 
 #include "handset/Clock.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QString>
@@ -15,21 +15,21 @@ namespace bench {
 inline constexpr auto logName = "calllog.db";
 
 // Calls.
-inline constexpr int usualLog = 1'000'000;  ///< of someone who has had the telephone for decades
+inline constexpr int usualLog = 1'000'000;  ///< of someone who has had the handset for decades
 inline constexpr int largeLog = 10'000'000; ///< built only when it is asked for, and not kept
 
-/// The simulated telephone on a log of its own, with a clock that stands still.
+/// The simulated handset on a log of its own, with a clock that stands still.
 struct Line {
     std::shared_ptr<const QTemporaryDir> directory; ///< goes with the last that uses it
-    std::shared_ptr<handset::simulated::SimulatedTelephone> telephone;
+    std::shared_ptr<handset::simulated::SimulatedHandset> handset;
     std::shared_ptr<handset::ManualClock> clock;
-    QString error; ///< then there is no telephone
+    QString error; ///< then there is no handset
 
     /// The log's file.
     QString file() const { return directory->filePath(QLatin1StringView(logName)); }
 };
 
-/// Logs are built once and kept in the directory; one that is older than the telephone's library is built again.
+/// Logs are built once and kept in the directory; one that is older than the handset's library is built again.
 class CallLogs
 {
 public:
@@ -37,13 +37,13 @@ public:
         : directory(path)
     {}
 
-    /// How the telephone that wrote a log has ended.
+    /// How the handset that wrote a log has ended.
     enum class After {
         Closing,
         Crash ///< killed with a call connected and calls in the write-ahead log
     };
 
-    /// Builds the log of `calls` calls where it is missing; beyond a million, whole millions. Answers what went wrong.
+    /// Builds the log of `calls` calls where it is missing; beyond a million, whole millions. Returns what went wrong.
     QString prepare(int calls) const;
     QString prepareCrashed(int calls) const;
     /// Removes the logs of `calls` calls.
@@ -53,10 +53,10 @@ public:
     std::shared_ptr<const QTemporaryDir> copy(int calls, After after = After::Closing) const;
     bool copyTo(const QTemporaryDir &where, int calls, After after = After::Closing) const;
 
-    /// A telephone on a copy. With `keep` the same copy serves every call of this; it goes on to hold what is recorded.
+    /// A handset on a copy. With `keep` the same copy serves every call of this; it goes on to hold what is recorded.
     Line open(int calls, bool keep);
 
-    /// The telephone on the log in `where`.
+    /// The handset on the log in `where`.
     static Line openIn(const std::shared_ptr<const QTemporaryDir> &where);
 
 private:

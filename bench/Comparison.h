@@ -60,7 +60,7 @@ struct Comparison {
     int counted = 9;                ///< iterations that are counted in instructions
     bool countsInstructions = true; ///< false where another process does the work
     bool countsOneThread = false;   ///< leaves out what other threads of the process do meanwhile
-    /// Makes what the row needs and is kept from run to run. Answers what went wrong.
+    /// Makes what the row needs and is kept from run to run. Returns what went wrong.
     std::function<QString()> prepare = {};
 };
 

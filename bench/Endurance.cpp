@@ -1,6 +1,6 @@
 #include "bench/Endurance.h"
 
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 #include "bench/ScreenTable.h"
 #include "bench/Stage.h"
 
@@ -59,7 +59,7 @@ void openAndDestroy(const ScreenEntry &entry, Stage &stage, int times)
 
 std::vector<Endured> endure(const std::string &filter, int cycles)
 {
-    useFixedTelephone();
+    useFixedHandset();
     memory(); // the first reading takes memory itself
     std::vector<Endured> all;
     for (const ScreenEntry &entry : screenTable()) {

@@ -1,4 +1,4 @@
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 
 #include "handset/DecoratedHandset.h"
 #include "log/aplog.h"
@@ -81,7 +81,7 @@ QByteArray amount(int firstCents)
     return QByteArray::number(cents / 100) + '.' + QByteArray::number(cents % 100).rightJustified(2, '0');
 }
 
-class FixedTelephone final : public handset::DecoratedHandset<FixedTelephone>
+class FixedHandset final : public handset::DecoratedHandset<FixedHandset>
 {
 public:
     template <typename... Arguments>
@@ -165,11 +165,11 @@ void changeFigures()
     ++changes();
 }
 
-void useFixedTelephone()
+void useFixedHandset()
 {
     changes() = 0;
     nameFirstSession(QByteArrayLiteral("internet"));
-    handset::install(std::make_shared<FixedTelephone>());
+    handset::install(std::make_shared<FixedHandset>());
     if (!libaplog_to_module_ptr)
         libaplog_open("/dev/null");
 }

@@ -8,9 +8,9 @@ namespace bench {
 
 namespace {
 
-constexpr int cardBytes = 150; // of the telephone's, too
+constexpr int cardBytes = 150; // of the handset's, too
 
-// The telephone's tables with its constraints, put so that they cost least: IN would build a table of its own each time.
+// The handset's tables with its constraints, put so that they cost least: IN would build a table of its own each time.
 constexpr auto schema =
     "PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL; PRAGMA foreign_keys = ON; PRAGMA cell_size_check = ON;"
     "CREATE TABLE calls ("
@@ -56,12 +56,12 @@ void LeanLog::Finalize::operator()(sqlite3_stmt *statement) const
     sqlite3_finalize(statement);
 }
 
-LeanLog::LeanLog(const QString &file, const QString &telephoneLog)
+LeanLog::LeanLog(const QString &file, const QString &handsetLog)
     : card(cardBytes, '\0')
 {
     sqlite3_open_v2(QFile::encodeName(file).constData(), &database,
                     SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
-    if (!run(schema) || !attach(telephoneLog) || !run(copyAll) || !run("DETACH theirs"))
+    if (!run(schema) || !attach(handsetLog) || !run(copyAll) || !run("DETACH theirs"))
         return;
     beginTransaction = prepare("BEGIN");
     commit = prepare("COMMIT");
@@ -90,9 +90,9 @@ bool LeanLog::record(const handset::PastCall &call)
     return begin(call) && finish(call);
 }
 
-QString LeanLog::difference(const QString &telephoneLog)
+QString LeanLog::difference(const QString &handsetLog)
 {
-    if (!attach(telephoneLog))
+    if (!attach(handsetLog))
         return problem;
     qint64 missing = 0;
     for (const QByteArray &sql : {numberOfMissing("main", "theirs"), numberOfMissing("theirs", "main")}) {
@@ -154,10 +154,10 @@ bool LeanLog::finish(const handset::PastCall &call)
            add(addCost, call.units, 2) && step(putCard) && sqlite3_changes(database) == 1 && step(commit);
 }
 
-bool LeanLog::attach(const QString &telephoneLog)
+bool LeanLog::attach(const QString &handsetLog)
 {
     const Statement statement = prepare("ATTACH ?1 AS theirs");
-    const QByteArray file = QFile::encodeName(telephoneLog);
+    const QByteArray file = QFile::encodeName(handsetLog);
     sqlite3_bind_text(statement.get(), 1, file.constData(), -1, SQLITE_STATIC);
     if (statement && step(statement))
         return true;

@@ -32,7 +32,7 @@ public:
     std::string error;
 };
 
-// Answers the name that it is run by.
+// Returns the name that it is run by.
 std::string registerSide(const Side &side, benchmark::IterationCount iterations)
 {
     static int count = 0;

@@ -27,7 +27,7 @@ std::vector<Side> sidesOf(const Comparison &comparison);
 Measured measure(const Comparison &comparison, int repetitions);
 
 /// Runs a side so that callgrind, under which this process runs, counts `iterations` of it after some to warm up.
-/// Answers what went wrong.
+/// Returns what went wrong.
 std::string runCounted(const Side &side, int iterations);
 
 } // namespace bench

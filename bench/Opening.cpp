@@ -1,7 +1,7 @@
 #include "bench/Opening.h"
 
 #include "bench/Counted.h"
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 #include "bench/Stage.h"
 
 #include <QtCore/QSet>
@@ -44,7 +44,7 @@ const char *faultOf(Opening &opening, Stage &stage)
 std::function<void(benchmark::State &)> openingSide(MakeOpening make)
 {
     return [make](benchmark::State &state) {
-        useFixedTelephone();
+        useFixedHandset();
         Stage stage;
         const std::unique_ptr<Opening> opening = make(&stage);
         stage.paint();

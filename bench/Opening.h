@@ -27,7 +27,7 @@ public:
 /// Everything happens inside `display`.
 using MakeOpening = std::function<std::unique_ptr<Opening>(QWidget *display)>;
 
-/// Measures opening up to the end of the first paint, with the telephone whose figures cost nothing. They are others
+/// Measures opening up to the end of the first paint, with the handset whose figures cost nothing. They are others
 /// every time, as a user finds them. Closing is not measured.
 std::function<void(benchmark::State &)> openingSide(MakeOpening make);
 

@@ -20,7 +20,7 @@ struct Options {
     QString crashIn; ///< the log in which it records and crashes; likewise empty
 };
 
-/// Answers --help, --version and what is wrong by itself, and ends the process.
+/// Returns --help, --version and what is wrong by itself, and ends the process.
 Options readOptions();
 
 } // namespace bench

@@ -32,7 +32,7 @@ struct ScreenEntry {
     const char *name;
     QWidget *(*create)(QWidget *display); ///< through the plug-in's exported function, where there is one
     void (*destroy)(QWidget *screen);     ///< likewise
-    /// The same texts for the hand-made screen, with the figures asked from the same telephone in the same way.
+    /// The same texts for the hand-made screen, with the figures asked from the same handset in the same way.
     ScreenTexts (*texts)();
     /// Makes what the screen is meant to leave behind when it is destroyed; null where that is nothing.
     QObject *(*leftBehind)() = nullptr;

@@ -69,7 +69,7 @@ int countOneSide(const bench::Options &options)
     return error.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-// What a row needs is made before anything is measured. Answers what went wrong.
+// What a row needs is made before anything is measured. Returns what went wrong.
 QString prepare(const std::vector<bench::Comparison> &comparisons)
 {
     for (const bench::Comparison &comparison : comparisons) {

@@ -7,7 +7,7 @@ enum ExitCode : int {
     ExitSuccess = 0,
     ExitExpectationFailed = 1, ///< a tour saw something else than its script expects
     ExitBadCommandLine = 2,
-    ExitNoTelephone = 3,   ///< the state directory cannot be used, or the backend is not known
+    ExitNoHandset = 3,     ///< the state directory cannot be used, or the backend is not known
     ExitNoTrace = 4,       ///< the trace file cannot be opened
     ExitNoPlugin = 5,      ///< the plug-in or another library, or a function of it, is missing
     ExitBadScript = 6,     ///< a tour's script cannot be read or says something unknown

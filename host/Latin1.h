@@ -1,4 +1,4 @@
-// Texts for what of the telephone speaks Latin-1.
+// Texts for what of the handset speaks Latin-1.
 #pragma once
 
 #include <QtCore/QByteArray>

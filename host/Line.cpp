@@ -10,7 +10,7 @@ namespace host {
 using handset::CallKind;
 using Card = handset::charging::SimCard;
 using Charging = handset::simulated::Charging;
-using LineState = Line::Telephone::LineState;
+using LineState = Line::SimulatedHandset::LineState;
 
 namespace {
 
@@ -84,10 +84,10 @@ QString clockText(qint64 seconds)
 
 Line::Line(std::shared_ptr<handset::Handset> opened)
     : owner(std::move(opened))
-    , simulated(dynamic_cast<Telephone *>(owner.get()))
+    , simulated(dynamic_cast<SimulatedHandset *>(owner.get()))
 {
     if (simulated)
-        connect(simulated, &Telephone::changed, this, &Line::changed);
+        connect(simulated, &SimulatedHandset::changed, this, &Line::changed);
 }
 
 void Line::setNumber(const QString &number)

@@ -1,7 +1,7 @@
-// The telephone's line as the panel and the keypad drive it.
+// The telephone line as the panel and the keypad drive it.
 #pragma once
 
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
@@ -16,18 +16,18 @@ class Line : public QObject
     Q_OBJECT
 
 public:
-    using Telephone = handset::simulated::SimulatedTelephone;
+    using SimulatedHandset = handset::simulated::SimulatedHandset;
 
     enum class Action { Dial, DialData, RemoteAnswer, Ring, Answer, HangUp };
 
     static constexpr int longestNumber = 80;
 
-    /// `handset` need not be a simulated telephone: then the line cannot be driven.
+    /// `handset` need not be a simulated handset: then the line cannot be driven.
     explicit Line(std::shared_ptr<handset::Handset> handset);
 
     handset::Handset &handset() const { return *owner; }
-    /// Null when the telephone behind is another than the simulated one.
-    Telephone *telephone() const { return simulated; }
+    /// Null when the handset behind is another than the simulated one.
+    SimulatedHandset *simulatedHandset() const { return simulated; }
 
     /// The number that the next call is from or to.
     QString number() const { return nextNumber; }
@@ -49,11 +49,11 @@ public:
 
     /// What is going on, for a person: "Connected 00:01:05, voice call, 5551234".
     QString describeState() const;
-    /// That the end of what may be charged is near, or that the telephone has ended the last call for it; else empty.
+    /// That the end of what may be charged is near, or that the handset has ended the last call for it; else empty.
     QString chargeNotice() const;
     /// That the end of a call or a session is not in the call log yet; else empty.
     QString recordNotice() const;
-    /// What the telephone has told while it runs (handset::Settings::tell), a sentence a line; else empty.
+    /// What the handset has told while it runs (handset::Settings::tell), a sentence a line; else empty.
     QString toldNotice() const { return told.join(QLatin1Char('\n')); }
     void addNotice(const QString &notice);
     /// Why the last operation failed; empty when it did not.
@@ -69,7 +69,7 @@ private:
     void finish(int status);
 
     std::shared_ptr<handset::Handset> owner;
-    Telephone *simulated;
+    SimulatedHandset *simulated;
     QString nextNumber = QStringLiteral("5550123");
     bool typing = false;
     QStringList told;

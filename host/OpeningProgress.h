@@ -1,4 +1,4 @@
-// How far the opening of the telephone is, in the place of the panel, which comes after it.
+// How far the opening of the handset is, in the place of the panel, which comes after it.
 #pragma once
 
 #include <QtWidgets/QGroupBox>

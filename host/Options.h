@@ -31,7 +31,7 @@ struct CommandLine {
 };
 
 /// Reads `arguments`, the first of which is the program's name. Needs an application object, asks nothing of the
-/// telephone.
+/// handset.
 CommandLine parseCommandLine(const QStringList &arguments);
 
 } // namespace host

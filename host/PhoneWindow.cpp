@@ -25,8 +25,8 @@ constexpr int deskMargin = 24;
 
 } // namespace
 
-PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenTelephone open)
-    : openTelephone(std::move(open))
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
+    : openHandset(std::move(open))
     , row(new QHBoxLayout(this))
     , body(new PhoneBody(this))
     , menu(new MenuScreen(body->display()))
@@ -41,8 +41,8 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenTelephone open)
     menu->takeFocus();
 }
 
-PhoneWindow::PhoneWindow(const ScreenLibrary &library, const Telephone &telephone)
-    : PhoneWindow(library, [telephone] { return telephone; })
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset)
+    : PhoneWindow(library, [handset] { return handset; })
 {}
 
 PhoneWindow::~PhoneWindow()
@@ -80,7 +80,7 @@ void PhoneWindow::listen(handset::Settings &settings)
             other(step, percent);
         showProgress(step, percent);
     };
-    // The telephone may outlive the window.
+    // The handset may outlive the window.
     settings.tell = [shown = QPointer<PhoneWindow>(this),
                      other = std::move(settings.tell)](const QString &notice) {
         if (other)
@@ -91,7 +91,7 @@ void PhoneWindow::listen(handset::Settings &settings)
 }
 
 // The window system asks of an exposed or uncovered window to be painted, and of every window whether it still answers.
-// What comes in finds no telephone yet: complete() answers false. What the user does waits until there is one.
+// What comes in finds no handset yet: complete() returns false. What the user does waits until there is one.
 void PhoneWindow::showProgress(const QString &step, int percent)
 {
     if (panel)
@@ -108,29 +108,29 @@ void PhoneWindow::showProgress(const QString &step, int percent)
 
 void PhoneWindow::paintEvent(QPaintEvent *)
 {
-    if (openTelephone)
+    if (openHandset)
         QTimer::singleShot(0, this, [this] { return isVisible() && complete(); });
 }
 
 bool PhoneWindow::complete()
 {
-    if (!openTelephone)
+    if (!openHandset)
         return panel != nullptr;
-    const std::optional<Telephone> telephone = std::exchange(openTelephone, nullptr)();
-    if (!telephone) {
+    const std::optional<OpenedHandset> handset = std::exchange(openHandset, nullptr)();
+    if (!handset) {
         close();
         return false;
     }
-    line = std::make_unique<Line>(telephone->handset);
-    panelSetup.stateDirectory = telephone->stateDirectory;
-    panelSetup.notice = telephone->notice;
-    panelSetup.faults = telephone->faults;
-    connectTelephone();
+    line = std::make_unique<Line>(handset->handset);
+    panelSetup.stateDirectory = handset->stateDirectory;
+    panelSetup.notice = handset->notice;
+    panelSetup.faults = handset->faults;
+    connectHandset();
     makePanel();
     return true;
 }
 
-void PhoneWindow::connectTelephone()
+void PhoneWindow::connectHandset()
 {
     connect(menu, &MenuScreen::clearKeyClicked, line.get(), &Line::takeBackDigit);
     connect(body->keypad(), &Keypad::callPressed, line.get(), &Line::pressCallKey);

@@ -27,30 +27,30 @@ class PhoneWindow : public QWidget
     Q_OBJECT
 
 public:
-    struct Telephone {
+    struct OpenedHandset {
         std::shared_ptr<handset::Handset> handset; ///< what the panel drives
         QString stateDirectory;                    ///< empty in memory
         QString notice;                            ///< of its opening
         Faults *faults = nullptr;                  ///< of what is installed in front of it, as in Panel::Setup
     };
-    /// Opens the telephone and installs it; nothing where that failed.
-    using OpenTelephone = std::function<std::optional<Telephone>()>;
+    /// Opens the handset and installs it; nothing where that failed.
+    using OpenHandset = std::function<std::optional<OpenedHandset>()>;
 
     /// `library` outlives the window. `open` is called once, by complete(); the library is loaded after it.
-    PhoneWindow(const ScreenLibrary &library, OpenTelephone open);
-    /// With a telephone that is open already.
-    PhoneWindow(const ScreenLibrary &library, const Telephone &telephone);
+    PhoneWindow(const ScreenLibrary &library, OpenHandset open);
+    /// With a handset that is open already.
+    PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset);
     /// Gives back an open screen. Not before: a closed window's screen may still wait for a dialog that blocks it,
     /// and is destroyed once the event loop has ended.
     ~PhoneWindow() override;
 
-    /// Has the window show what a telephone that is opened with `settings` tells, beside whoever listens already: how far
+    /// Has the window show what a handset that is opened with `settings` tells, beside whoever listens already: how far
     /// its opening is, in the panel's place, and then its notices, in the panel. `settings.progress` is for what the
     /// window opens; each call paints, and handles what is to be handled except what the user does.
     void listen(handset::Settings &settings);
 
-    /// Opens the telephone and makes the panel now, which otherwise follows the window's first paint: the phone is
-    /// seen that much sooner. False when the telephone cannot be opened, and the window is closed then; and while it is
+    /// Opens the handset and makes the panel now, which otherwise follows the window's first paint: the phone is
+    /// seen that much sooner. False when the handset cannot be opened, and the window is closed then; and while it is
     /// being opened.
     bool complete();
 
@@ -67,12 +67,12 @@ protected:
 private:
     void layOut();
     void showProgress(const QString &step, int percent);
-    void connectTelephone();
+    void connectHandset();
     void makePanel();
     void putBeside(QWidget *widget, Qt::Alignment alignment = {});
 
-    OpenTelephone openTelephone; ///< until it is called
-    std::unique_ptr<Line> line;  ///< until complete() null, as the panel
+    OpenHandset openHandset;    ///< until it is called
+    std::unique_ptr<Line> line; ///< until complete() null, as the panel
     QHBoxLayout *row;
     Panel::Setup panelSetup;
     PhoneBody *body;

@@ -8,7 +8,7 @@ namespace host {
 
 namespace {
 
-// Null for a telephone that answers a number of its own.
+// Null for a handset that answers a number of its own.
 const char *reason(int status, const StatusMeaning &meaning)
 {
     switch (status) {

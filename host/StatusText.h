@@ -1,4 +1,4 @@
-// Why the telephone did not do something, for a person.
+// Why the handset did not do something, for a person.
 #pragma once
 
 #include <QtCore/QString>

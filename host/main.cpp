@@ -163,7 +163,7 @@ int runTour(const Options &options, const EndSignals &endSignals)
 
 // --- the window
 
-handset::Settings telephoneSettings(const Options &options, PhoneWindow &window, const EndSignals &endSignals)
+handset::Settings handsetSettings(const Options &options, PhoneWindow &window, const EndSignals &endSignals)
 {
     handset::Settings settings;
     settings.backend = options.backend;
@@ -177,18 +177,18 @@ handset::Settings telephoneSettings(const Options &options, PhoneWindow &window,
     return settings;
 }
 
-// Nothing and the exit code where that fails. Loads the screens, too, which want the telephone. `findings` are sentences
+// Nothing and the exit code where that fails. Loads the screens, too, which want the handset. `findings` are sentences
 // that the window is to show, too.
-std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, const QStringList &findings,
-                                                    ScreenLibrary &library, PhoneWindow &window,
-                                                    const EndSignals &endSignals, int &code)
+std::optional<PhoneWindow::OpenedHandset> openHandset(const Options &options, const QStringList &findings,
+                                                      ScreenLibrary &library, PhoneWindow &window,
+                                                      const EndSignals &endSignals, int &code)
 {
     code = loadScreens(library, options.plugin);
     if (code != ExitSuccess)
         return {};
-    const handset::Opened opened = handset::open(telephoneSettings(options, window, endSignals));
+    const handset::Opened opened = handset::open(handsetSettings(options, window, endSignals));
     if (!opened.handset) {
-        code = complain(endSignals.haveCome() ? ExitSuccess : ExitNoTelephone, opened.error);
+        code = complain(endSignals.haveCome() ? ExitSuccess : ExitNoHandset, opened.error);
         return {};
     }
     if (!opened.notice.isEmpty())
@@ -199,7 +199,7 @@ std::optional<PhoneWindow::Telephone> openTelephone(const Options &options, cons
         return {};
     const auto installed = std::make_shared<FaultyHandset>(opened.handset);
     handset::install(installed);
-    return PhoneWindow::Telephone{opened.handset, options.stateDirectory, notice, &installed->faults()};
+    return PhoneWindow::OpenedHandset{opened.handset, options.stateDirectory, notice, &installed->faults()};
 }
 
 int photographWindow(PhoneWindow &window, const QString &file)
@@ -215,15 +215,15 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
     ScreenLibrary library;
     int openingCode = ExitSuccess;
     PhoneWindow window(library,
-                       [&] { return openTelephone(options, findings, library, window, endSignals, openingCode); });
+                       [&] { return openHandset(options, findings, library, window, endSignals, openingCode); });
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open
     });
     window.choosePage(options.page);
     window.show();
-    const bool needsTelephone = !options.screen.isEmpty() || !options.photo.isEmpty();
-    if (needsTelephone && !window.complete())
+    const bool needsHandset = !options.screen.isEmpty() || !options.photo.isEmpty();
+    if (needsHandset && !window.complete())
         return openingCode;
     if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
         return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));
@@ -242,7 +242,7 @@ int runWindow(const Options &options, const QStringList &findings, const EndSign
 
 int run(const Options &options, const QStringList &findings)
 {
-    const EndSignals endSignals; // outlives the telephone, whose call is to be written
+    const EndSignals endSignals; // outlives the handset, whose call is to be written
     Catalogue catalogue;
     if (const int code = loadTranslation(catalogue, options.translation))
         return code;

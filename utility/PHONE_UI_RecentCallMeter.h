@@ -8,8 +8,8 @@
 
 struct TAPI_CallTime;
 
-/// Turns the telephone's counters into texts that are ready to show, and passes resets on. Every getter asks the
-/// telephone afresh; a failed query gives a neutral text, never an error. Each screen makes an instance of its own
+/// Turns the handset's counters into texts that are ready to show, and passes resets on. Every getter asks the
+/// handset afresh; a failed query gives a neutral text, never an error. Each screen makes an instance of its own
 /// and deletes it. GUI thread only.
 class PHONE_UI_RecentCallMeter : public QObject
 {
@@ -32,10 +32,10 @@ public:
     void resetDialedCallsTimer();
     void resetAnsweredCallsTimer();
     void resetAllCallsTimer();
-    /// Zeroes all counters of the telephone's call log in one operation; a failure is traced.
+    /// Zeroes all counters of the handset's call log in one operation; a failure is traced.
     void resetAll();
 
-    /// Amounts as the telephone's own text, without a unit; "0.00" when the query fails.
+    /// Amounts as the handset's own text, without a unit; "0.00" when the query fails.
     QString getCreditAvailable();
     /// year:month:day without padding; "2000/00/00" when the query fails.
     QString getExpirationDate();
@@ -50,7 +50,7 @@ public:
     void resetDialedCallCosts();
     void resetAnsweredCallCosts();
 
-    /// Ask the telephone once and keep the texts for the accessors below; a failed query leaves the defaults
+    /// Ask the handset once and keep the texts for the accessors below; a failed query leaves the defaults
     /// ("00:00:00", "0 B", a null access point name), never the figures of an earlier one.
     void getRDT();
     void getADT();

@@ -194,7 +194,7 @@ void PHONE_UI_RecentCallTimesView::refreshAfterReset()
         rewriteRow(row);
 }
 
-// The telephone would reset the total in the middle of a data call; the user is told to wait instead.
+// The handset would reset the total in the middle of a data call; the user is told to wait instead.
 void PHONE_UI_RecentCallTimesView::resetDataCallTimer()
 {
     quint8 status = unknownDataCallStatus;

@@ -23,7 +23,7 @@ inline constexpr int traceLevel = 3;        // every trace of the plug-in is wri
     va_end(arguments);
 }
 
-/// The short form, around every telephony call: runs `call` between two such lines and answers its result.
+/// The short form, around every telephony call: runs `call` between two such lines and returns its result.
 template <typename Call>
 static int tracedCall(const char *source, const char *method, int line, Call call)
 {

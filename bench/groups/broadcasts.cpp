@@ -1,6 +1,6 @@
 // From a broadcast to the repainted list of Data Volumes, and how many broadcasts a second come through.
 #include "bench/Counted.h"
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 #include "bench/Groups.h"
 #include "bench/PlainSignal.h"
 #include "bench/Stage.h"
@@ -104,7 +104,7 @@ class Shown
 public:
     Shown()
     {
-        useFixedTelephone();
+        useFixedHandset();
         screen = std::make_unique<PHONE_UI_RecentCallDataVolumesView>(&stage, nullptr);
         screen->show();
         stage.paint();
@@ -295,7 +295,7 @@ bool sendPlain()
 template <bool (*send)(), bool (*isHandled)()>
 void sendMany(benchmark::State &state)
 {
-    useFixedTelephone();
+    useFixedHandset();
     if (!QCopBus::instance()->waitFor(std::chrono::milliseconds(patienceMs)) || !send() || !isHandled())
         return state.SkipWithError("there is no bus");
     bool isSent = true;

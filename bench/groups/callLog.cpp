@@ -61,16 +61,16 @@ static_assert(figures.size() == 6);
 // A call as it is made: two transactions, both on the disk when they are over.
 int recordCall(const Line &line)
 {
-    int result = line.telephone->dial(QLatin1StringView(number), handset::CallKind::Voice);
+    int result = line.handset->dial(QLatin1StringView(number), handset::CallKind::Voice);
     if (result == 0)
-        result = line.telephone->remoteAnswer();
+        result = line.handset->remoteAnswer();
     line.clock->advance(callMs);
-    return result == 0 ? line.telephone->hangUp() : result;
+    return result == 0 ? line.handset->hangUp() : result;
 }
 
 void query(benchmark::State &state, const Line &line, int (*ask)())
 {
-    handset::install(line.telephone);
+    handset::install(line.handset);
     int failures = ask();
     for (auto _ : state) {
         const Counted counted;
@@ -105,21 +105,21 @@ PastCall leanCall(qint64 startWallMs)
             callUnits};
 }
 
-// Records the same calls in both logs. Answers what is not the same then.
+// Records the same calls in both logs. Returns what is not the same then.
 QString compare(LeanLog &lean, Line &line)
 {
     for (int i = 0; i < warmUpCalls; ++i) {
         if (recordCall(line) != 0 || !lean.record(leanCall(line.clock->wallMs() - callMs)))
             return QStringLiteral("a call was not recorded");
     }
-    line.telephone.reset();
+    line.handset.reset();
     return lean.difference(line.file());
 }
 
 void recordLean(benchmark::State &state, CallLogs &logs)
 {
     Line line = logs.open(few, false);
-    if (!line.telephone)
+    if (!line.handset)
         return state.SkipWithError(qUtf8Printable(line.error));
     LeanLog lean(line.directory->filePath(QStringLiteral("lean.db")), line.file());
     const QString fault = lean.error().isEmpty() ? compare(lean, line) : lean.error();
@@ -145,7 +145,7 @@ Side side(const Logs &logs, int calls, Work work)
     return {calls == many ? "1,000,000 calls" : "100 calls", [logs, calls, work](benchmark::State &state) {
                 // What is recorded makes the small log another one, and nothing of the large one.
                 const Line line = logs->open(calls, calls == many);
-                if (line.telephone)
+                if (line.handset)
                     work(state, line);
                 else
                     state.SkipWithError(qUtf8Printable(line.error));

@@ -35,7 +35,7 @@ Program with(Program program, const char *name, const QString &value)
     return program;
 }
 
-// Answers what went wrong.
+// Returns what went wrong.
 QString run(const Program &program)
 {
     QProcess process;
@@ -73,7 +73,7 @@ Side side(const char *label, const Program &program)
             program};
 }
 
-// The state of a telephone that has been used.
+// The state of a handset that has been used.
 QString prepareState(const CallLogs &logs, const QTemporaryDir &state, const Program &host)
 {
     if (QString error = logs.prepare(usedCalls); !error.isEmpty())
@@ -83,7 +83,7 @@ QString prepareState(const CallLogs &logs, const QTemporaryDir &state, const Pro
 
 Comparison starting(const char *name, const QString &until, const CallLogs &logs)
 {
-    // Each row's own, as one telephone at a time has it.
+    // Each row's own, as one handset at a time has it.
     const auto state = std::make_shared<QTemporaryDir>();
     Program host = untilFirstPaint(QStringLiteral("kavrecentcalls"), {QStringLiteral("--state"), state->path()});
     host = with(with(host, "KAVBENCH_PART", QStringLiteral("host::PhoneBody")), "KAVBENCH_UNTIL", until);

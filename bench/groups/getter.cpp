@@ -1,6 +1,6 @@
 // A call time as text: the meter's getter beside what Qt and the C library offer for the same figures.
 #include "bench/Counted.h"
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 #include "bench/Groups.h"
 #include "log/aplog.h"
 #include "telephony/tapi.h"
@@ -75,7 +75,7 @@ using Text = QString (*)();
 Side side(const char *label, Text text)
 {
     return {label, [text](benchmark::State &state) {
-                useFixedTelephone();
+                useFixedHandset();
                 if (text() != QStringLiteral("05:03:07"))
                     state.SkipWithError("it gives another text");
                 for (auto _ : state) {

@@ -2,7 +2,7 @@
 // one.
 #include "bench/CallLogs.h"
 #include "bench/Counted.h"
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 #include "bench/Groups.h"
 #include "bench/Stage.h"
 #include "handset/Handset.h"
@@ -30,7 +30,7 @@ struct FirstScreen {
     bool open(const std::shared_ptr<const QTemporaryDir> &log, Stage &stage)
     {
         line = CallLogs::openIn(log);
-        handset::install(line.telephone);
+        handset::install(line.handset);
         view = std::make_unique<PHONE_UI_RecentCallTimesView>(&stage, nullptr);
         view->show();
         return stage.paint();
@@ -54,7 +54,7 @@ struct FirstScreen {
 Side side(const std::string &label, const CallLogs &logs, int calls, After after)
 {
     return {label, [=](benchmark::State &state) {
-                useFixedTelephone(); // which opens the traces
+                useFixedHandset(); // which opens the traces
                 Stage stage;
                 for (auto _ : state) {
                     state.PauseTiming();
@@ -69,7 +69,7 @@ Side side(const std::string &label, const CallLogs &logs, int calls, After after
                         isThere = screen.open(where, stage);
                     }
                     state.PauseTiming();
-                    isThere = isThere && screen.line.telephone && screen.lifetime() != QStringLiteral("00:00:00");
+                    isThere = isThere && screen.line.handset && screen.lifetime() != QStringLiteral("00:00:00");
                     screen.close();
                     where.reset(); // removing it takes longer than what is measured
                     stage.paint();

@@ -1,7 +1,7 @@
 // Opening a screen beside the same texts in a list view with a delegate, and painted on an image.
 #include "bench/BarePainting.h"
 #include "bench/Counted.h"
-#include "bench/FixedTelephone.h"
+#include "bench/FixedHandset.h"
 #include "bench/Groups.h"
 #include "bench/ListScreen.h"
 #include "bench/Opening.h"
@@ -73,7 +73,7 @@ Side side(const char *label, const ScreenEntry &entry)
 Side bareLimit(const ScreenEntry &entry)
 {
     return {"bare limit: texts on an image", [&entry](benchmark::State &state) {
-                useFixedTelephone();
+                useFixedHandset();
                 BarePainting painting;
                 for (auto _ : state) {
                     changeFigures();

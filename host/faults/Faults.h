@@ -1,4 +1,4 @@
-// Which operations of the telephone fail.
+// Which operations of the handset fail.
 #pragma once
 
 #include "handset/Operations.h"

@@ -1,4 +1,4 @@
-// A telephone some of whose operations fail, in front of another.
+// A handset some of whose operations fail, in front of another.
 #pragma once
 
 #include "handset/DecoratedHandset.h"
@@ -6,9 +6,9 @@
 
 namespace host {
 
-/// What the phone's libraries talk to, so that it can be seen what they do when the telephone does not answer. An
-/// operation that fails answers its code, does not reach the telephone behind and writes no output; all others are
-/// the telephone's. A role that the telephone has not is null here too.
+/// What the phone's libraries talk to, so that it can be seen what they do when the handset does not answer. An
+/// operation that fails returns its code, does not reach the handset behind and writes no output; all others are
+/// the handset's. A role that the handset has not is null here too.
 class FaultyHandset final : public handset::DecoratedHandset<FaultyHandset>
 {
 public:

@@ -22,25 +22,25 @@ constexpr StatusMeaning accountMeaning{
     QT_TRANSLATE_NOOP("host::StatusText", "not possible now"),
     QT_TRANSLATE_NOOP("host::StatusText", "not allowed")};
 
-QString creditText(Handset &telephone)
+QString creditText(Handset &handset)
 {
     QByteArray text;
-    handset::CallService *service = telephone.callService();
+    handset::CallService *service = handset.callService();
     if (!service || service->remainingCredit(text) != handset::Success)
         return AccountSection::tr("Nothing has been paid in.");
-    return AccountSection::tr("Credit: %1").arg(withUnit(QString::fromLatin1(text), telephone));
+    return AccountSection::tr("Credit: %1").arg(withUnit(QString::fromLatin1(text), handset));
 }
 
-QString depositText(Handset &telephone)
+QString depositText(Handset &handset)
 {
     QByteArray text;
     handset::Date day;
-    handset::CallLog *log = telephone.callLog();
+    handset::CallLog *log = handset.callLog();
     if (!log || log->lastDeposit(text) != handset::Success || log->depositExpirationDate(day) != handset::Success)
         return {};
     const QString until = QDate(day.year, day.month, day.day).toString(Qt::ISODate);
     return AccountSection::tr("Last deposit: %1, good until %2")
-        .arg(withUnit(QString::fromLatin1(text), telephone), until);
+        .arg(withUnit(QString::fromLatin1(text), handset), until);
 }
 
 } // namespace
@@ -87,13 +87,13 @@ void AccountSection::topUp()
     const QDate day = expires->date();
     const handset::Date until{static_cast<quint16>(day.year()), static_cast<quint8>(day.month()),
                               static_cast<quint8>(day.day())};
-    tell(failure, refusalText(line.telephone()->charging().topUp(amount->text(), until), accountMeaning));
+    tell(failure, refusalText(line.simulatedHandset()->charging().topUp(amount->text(), until), accountMeaning));
     refresh();
 }
 
 void AccountSection::refresh()
 {
-    setEnabled(line.telephone() != nullptr);
+    setEnabled(line.simulatedHandset() != nullptr);
     credit->setText(creditText(line.handset()));
     tell(deposit, depositText(line.handset()));
 }

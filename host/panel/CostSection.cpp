@@ -30,22 +30,22 @@ void showText(QLineEdit *entry, const QString &text)
     entry->setText(text);
 }
 
-QString lastCallCost(Handset &telephone)
+QString lastCallCost(Handset &handset)
 {
     QByteArray text;
-    handset::CallService *service = telephone.callService();
+    handset::CallService *service = handset.callService();
     const bool isTold = service && service->lastCallCost(text) == handset::Success;
-    return isTold ? withUnit(QString::fromLatin1(text), telephone) : CostSection::tr("not available");
+    return isTold ? withUnit(QString::fromLatin1(text), handset) : CostSection::tr("not available");
 }
 
 } // namespace
 
-QString withUnit(const QString &amount, Handset &telephone)
+QString withUnit(const QString &amount, Handset &handset)
 {
     quint8 type = 0;
     QString price;
     QString currency;
-    AdviceOfCharge *advice = telephone.adviceOfCharge();
+    AdviceOfCharge *advice = handset.adviceOfCharge();
     const bool isCurrency = advice && advice->chargeType(type) == handset::Success &&
                             type == AdviceOfCharge::InCurrency &&
                             advice->priceAndCurrency(price, currency) == handset::Success;
@@ -116,19 +116,19 @@ void CostSection::setPrice()
 
 void CostSection::refresh()
 {
-    Handset &telephone = line.handset();
-    setEnabled(telephone.adviceOfCharge() != nullptr);
+    Handset &handset = line.handset();
+    setEnabled(handset.adviceOfCharge() != nullptr);
     if (isEnabled())
-        showSettings(telephone);
-    const Line::Telephone *simulated = line.telephone();
-    const bool running = simulated && simulated->lineState() == Line::Telephone::LineState::Connected;
+        showSettings(handset);
+    const Line::SimulatedHandset *simulated = line.simulatedHandset();
+    const bool running = simulated && simulated->lineState() == Line::SimulatedHandset::LineState::Connected;
     callLabel->setText(running ? tr("This call") : tr("Last call"));
-    callCost->setText(lastCallCost(telephone));
+    callCost->setText(lastCallCost(handset));
 }
 
-void CostSection::showSettings(Handset &telephone)
+void CostSection::showSettings(Handset &handset)
 {
-    AdviceOfCharge &advice = *telephone.adviceOfCharge();
+    AdviceOfCharge &advice = *handset.adviceOfCharge();
     quint8 chargeType = AdviceOfCharge::InUnits;
     QString unitPrice;
     QString code;
@@ -138,20 +138,20 @@ void CostSection::showSettings(Handset &telephone)
         showText(price, unitPrice);
         showText(currency, code);
     }
-    limit->setText(limitText(telephone));
+    limit->setText(limitText(handset));
 }
 
-QString CostSection::limitText(Handset &telephone) const
+QString CostSection::limitText(Handset &handset) const
 {
     QString maximum;
     bool isOn = false;
-    if (telephone.adviceOfCharge()->meterMaximum(maximum, isOn) != handset::Success)
+    if (handset.adviceOfCharge()->meterMaximum(maximum, isOn) != handset::Success)
         return tr("not available");
     if (!isOn)
         return tr("off");
-    const Line::Telephone *simulated = line.telephone();
-    const auto left = simulated ? line.telephone()->simCard().card().unitsLeft() : std::nullopt;
-    const QString text = withUnit(maximum, telephone);
+    const Line::SimulatedHandset *simulated = line.simulatedHandset();
+    const auto left = simulated ? line.simulatedHandset()->simCard().card().unitsLeft() : std::nullopt;
+    const QString text = withUnit(maximum, handset);
     return left ? tr("%1; units left: %2").arg(text).arg(*left) : text;
 }
 

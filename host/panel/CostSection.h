@@ -24,8 +24,8 @@ private:
     void addPrice(QGridLayout *grid, int row);
     void setType(int type);
     void setPrice();
-    void showSettings(handset::Handset &telephone);
-    QString limitText(handset::Handset &telephone) const;
+    void showSettings(handset::Handset &handset);
+    QString limitText(handset::Handset &handset) const;
 
     Line &line;
     QComboBox *type;
@@ -37,7 +37,7 @@ private:
     QLabel *failure;
 };
 
-/// `amount` and the unit that `telephone` shows behind it: "12.50 EUR", "3.00 units".
-QString withUnit(const QString &amount, handset::Handset &telephone);
+/// `amount` and the unit that `handset` shows behind it: "12.50 EUR", "3.00 units".
+QString withUnit(const QString &amount, handset::Handset &handset);
 
 } // namespace host

@@ -30,9 +30,9 @@ QString breakableAtColons(QString name)
 
 } // namespace
 
-FailuresSection::FailuresSection(Faults &telephoneFaults)
+FailuresSection::FailuresSection(Faults &handsetFaults)
     : PanelSection(tr("Failures"))
-    , faults(telephoneFaults)
+    , faults(handsetFaults)
     , operation(makeChoice("operation", tr("Operation"), {}))
     , code(new QSpinBox)
     , addButton(makeButton(tr("Let it &fail"), tr("From now on the operation only answers the code")))

@@ -1,4 +1,4 @@
-// Which of the telephone's operations fail.
+// Which of the handset's operations fail.
 #pragma once
 
 #include "host/faults/Faults.h"
@@ -16,7 +16,7 @@ class FailuresSection : public PanelSection
     Q_OBJECT
 
 public:
-    /// `faults`, which outlive this, are those of the telephone that the phone's libraries talk to.
+    /// `faults`, which outlive this, are those of the handset that the phone's libraries talk to.
     explicit FailuresSection(Faults &faults);
     void refresh() override;
 

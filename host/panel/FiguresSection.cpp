@@ -17,7 +17,7 @@ namespace {
 
 using handset::CallTime;
 using handset::Handset;
-using Figure = std::optional<qint64>; // whole seconds; nothing where the telephone has none
+using Figure = std::optional<qint64>; // whole seconds; nothing where the handset has none
 
 Figure secondsOf(int status, const CallTime &time)
 {
@@ -27,23 +27,23 @@ Figure secondsOf(int status, const CallTime &time)
 }
 
 template <int (handset::CallLog::*query)(CallTime &)>
-Figure fromCallLog(Handset &telephone)
+Figure fromCallLog(Handset &handset)
 {
     CallTime time;
-    handset::CallLog *log = telephone.callLog();
+    handset::CallLog *log = handset.callLog();
     return log ? secondsOf((log->*query)(time), time) : Figure();
 }
 
-Figure allCalls(Handset &telephone)
+Figure allCalls(Handset &handset)
 {
     CallTime time;
-    handset::CallService *service = telephone.callService();
+    handset::CallService *service = handset.callService();
     return service ? secondsOf(service->totalCallTime(time), time) : Figure();
 }
 
-Figure dataCalls(Handset &telephone)
+Figure dataCalls(Handset &handset)
 {
-    handset::DataCalls *calls = telephone.dataCalls();
+    handset::DataCalls *calls = handset.dataCalls();
     quint32 seconds = 0;
     if (!calls || calls->refreshTotals() != 0 || calls->totalDuration(seconds) != 0)
         return {};
@@ -52,7 +52,7 @@ Figure dataCalls(Handset &telephone)
 
 struct FigureRow {
     const char *label;
-    Figure (*query)(Handset &telephone);
+    Figure (*query)(Handset &handset);
 };
 
 constexpr std::array<FigureRow, 6> figures{{
@@ -99,7 +99,7 @@ void FiguresSection::refresh()
         const Figure seconds = figures[index].query(line.handset());
         values[index]->setText(seconds ? clockText(*seconds) : tr("not available"));
     }
-    addHistory->setEnabled(line.telephone() != nullptr);
+    addHistory->setEnabled(line.simulatedHandset() != nullptr);
 }
 
 } // namespace host

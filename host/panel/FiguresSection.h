@@ -1,4 +1,4 @@
-// The call timers as the telephone has them.
+// The call timers as the handset has them.
 #pragma once
 
 #include "host/Line.h"

@@ -120,7 +120,7 @@ void LineSection::refresh()
         buttons[index]->setEnabled(line.permits(buttonPlans[index].action));
     if (number->text() != line.number())
         number->setText(line.number());
-    number->setEnabled(line.telephone() != nullptr);
+    number->setEnabled(line.simulatedHandset() != nullptr);
 }
 
 } // namespace host

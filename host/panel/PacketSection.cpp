@@ -134,14 +134,14 @@ void PacketSection::addFigures(QGridLayout *grid, int row)
 void PacketSection::start()
 {
     const std::optional<QByteArray> name = latin1Of(apn->text());
-    told(name ? line.telephone()->packets().startSession(*name, static_cast<quint32>(sent->value()),
-                                                         static_cast<quint32>(received->value()))
+    told(name ? line.simulatedHandset()->packets().startSession(*name, static_cast<quint32>(sent->value()),
+                                                                static_cast<quint32>(received->value()))
               : int{handset::InvalidArgument});
 }
 
 void PacketSection::stop()
 {
-    told(line.telephone()->packets().stopSession());
+    told(line.simulatedHandset()->packets().stopSession());
 }
 
 void PacketSection::told(int status)
@@ -153,10 +153,10 @@ void PacketSection::told(int status)
 void PacketSection::refresh()
 {
     PacketData *packets = line.handset().packetData();
-    setEnabled(line.telephone() && packets);
+    setEnabled(line.simulatedHandset() && packets);
     if (!isEnabled())
         return;
-    const bool running = line.telephone()->packets().isSessionRunning();
+    const bool running = line.simulatedHandset()->packets().isSessionRunning();
     startButton->setEnabled(!running);
     stopButton->setEnabled(running);
     handset::DataSessions sessions;

@@ -129,9 +129,9 @@ void Panel::refresh()
 {
     for (PanelSection *section : std::as_const(sections))
         section->refresh();
-    const Line::Telephone *telephone = line.telephone();
-    const bool counting = telephone && (telephone->lineState() == Line::Telephone::LineState::Connected ||
-                                        line.telephone()->packets().isSessionRunning());
+    const Line::SimulatedHandset *handset = line.simulatedHandset();
+    const bool counting = handset && (handset->lineState() == Line::SimulatedHandset::LineState::Connected ||
+                                      line.simulatedHandset()->packets().isSessionRunning());
     if (counting && !tick.isActive())
         tick.start(tickMs);
     else if (!counting)

@@ -1,4 +1,4 @@
-// What stands beside the phone: the controls of the simulation and the telephone's figures.
+// What stands beside the phone: the controls of the simulation and the handset's figures.
 #pragma once
 
 #include "host/Line.h"
@@ -21,17 +21,17 @@ class PanelSection;
 /// What the command line calls the pages, in their order.
 inline constexpr std::array<const char *, 5> pageNames{"calls", "charging", "sim", "data", "failures"};
 
-/// The line, and under it a page for each side of the telephone: a column of sections, each a class of its own. A new
-/// role of the telephone is a new section. A page is made when it is shown for the first time.
+/// The line, and under it a page for each side of the handset: a column of sections, each a class of its own. A new
+/// role of the handset is a new section. A page is made when it is shown for the first time.
 class Panel : public QScrollArea
 {
     Q_OBJECT
 
 public:
     struct Setup {
-        QString stateDirectory;   ///< empty for a telephone in memory
+        QString stateDirectory;   ///< empty for a handset in memory
         QString notice;           ///< what the user should know of its opening, or empty
-        Faults *faults = nullptr; ///< of the telephone that the phone's libraries talk to; null: it has none
+        Faults *faults = nullptr; ///< of the handset that the phone's libraries talk to; null: it has none
         int page = 0;             ///< shown first, as by choosePage()
     };
 
@@ -53,7 +53,7 @@ protected:
 private:
     using MakeSections = std::function<QList<PanelSection *>()>;
 
-    /// A side of the telephone: one a tab.
+    /// A side of the handset: one a tab.
     struct Page {
         MakeSections makeSections;
         QWidget *widget = nullptr; ///< until it is shown

@@ -115,13 +115,13 @@ void Pin2Section::say(const QString &text)
 
 void Pin2Section::setOn(bool on)
 {
-    say(refusalText(line.telephone()->simCard().setPin2Enabled(on), pin2Meaning));
+    say(refusalText(line.simulatedHandset()->simCard().setPin2Enabled(on), pin2Meaning));
     refresh();
 }
 
 void Pin2Section::powerCycle()
 {
-    say(refusalText(line.telephone()->simCard().powerCycle(), pin2Meaning));
+    say(refusalText(line.simulatedHandset()->simCard().powerCycle(), pin2Meaning));
     refresh();
 }
 
@@ -145,7 +145,7 @@ void Pin2Section::enter()
 void Pin2Section::unblock()
 {
     bool accepted = false;
-    const int status = line.telephone()->simCard().unblockPin2(puk->digits(), newPin->digits(), accepted);
+    const int status = line.simulatedHandset()->simCard().unblockPin2(puk->digits(), newPin->digits(), accepted);
     puk->forget();
     newPin->forget();
     if (status != 0)
@@ -157,10 +157,10 @@ void Pin2Section::unblock()
 
 void Pin2Section::refresh()
 {
-    setEnabled(line.telephone() != nullptr);
+    setEnabled(line.simulatedHandset() != nullptr);
     if (!isEnabled())
         return;
-    const Pin2 pin2 = line.telephone()->simCard().card().pin2();
+    const Pin2 pin2 = line.simulatedHandset()->simCard().card().pin2();
     state->setText(stateText(pin2) + u'\n' + triesText(pin2));
     Quietly(isOn)->setChecked(pin2.isEnabled());
 }

@@ -120,16 +120,17 @@ SimFilesSection::SimFilesSection(Line &drivenLine)
 void SimFilesSection::setRule(std::size_t row, int choice)
 {
     const quint8 rule = rules[static_cast<std::size_t>(choice)].rule;
-    tell(failure, refusalText(line.telephone()->simCard().setUpdateRule(files[row].file, rule), simFileMeaning));
+    tell(failure,
+         refusalText(line.simulatedHandset()->simCard().setUpdateRule(files[row].file, rule), simFileMeaning));
     refresh();
 }
 
 void SimFilesSection::refresh()
 {
-    setEnabled(line.telephone() != nullptr);
+    setEnabled(line.simulatedHandset() != nullptr);
     if (!isEnabled())
         return;
-    const Card &card = line.telephone()->simCard().card();
+    const Card &card = line.simulatedHandset()->simCard().card();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         quint8 rule = AdviceOfCharge::FreeUpdate;
         rows[i].content->setText(files[i].text(card));

@@ -1,4 +1,4 @@
-// Where the telephone keeps its state.
+// Where the handset keeps its state.
 #pragma once
 
 #include "host/panel/PanelSection.h"
@@ -12,7 +12,7 @@ class StateSection : public PanelSection
 public:
     /// The arguments as in Panel.
     StateSection(const QString &stateDirectory, const QString &notice);
-    void refresh() override {} // decided when the telephone was opened
+    void refresh() override {} // decided when the handset was opened
 };
 
 } // namespace host

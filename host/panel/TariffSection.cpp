@@ -119,7 +119,7 @@ void TariffSection::setFree(const Column &column, bool free)
 
 void TariffSection::setElements(const Column &column)
 {
-    Tariff tariff = line.telephone()->charging().tariff(column.direction);
+    Tariff tariff = line.simulatedHandset()->charging().tariff(column.direction);
     tariff.unitsPerInterval = tenths(column.units);
     tariff.interval = tenths(column.interval);
     tariff.unitsAtStart = tenths(column.start);
@@ -128,14 +128,14 @@ void TariffSection::setElements(const Column &column)
 
 void TariffSection::set(const Column &column, const Tariff &tariff)
 {
-    const int status = line.telephone()->charging().setTariff(column.direction, tariff);
+    const int status = line.simulatedHandset()->charging().setTariff(column.direction, tariff);
     tell(failure, refusalText(status, tariffMeaning));
     refresh();
 }
 
 void TariffSection::refresh()
 {
-    setEnabled(line.telephone() != nullptr);
+    setEnabled(line.simulatedHandset() != nullptr);
     if (!isEnabled())
         return;
     for (const Column &column : columns)
@@ -144,7 +144,7 @@ void TariffSection::refresh()
 
 void TariffSection::show(const Column &column)
 {
-    const Tariff tariff = line.telephone()->charging().tariff(column.direction);
+    const Tariff tariff = line.simulatedHandset()->charging().tariff(column.direction);
     const bool free = isFree(tariff);
     Quietly(column.free)->setChecked(free);
     const auto showTenths = [free](QDoubleSpinBox *box, quint16 tenths) {

@@ -13,11 +13,11 @@ class Photographs
 public:
     explicit Photographs(const QString &directory);
 
-    /// Makes the directory. Answers why it cannot be had, a null text on success.
+    /// Makes the directory. Returns why it cannot be had, a null text on success.
     QString prepare() const;
 
     /// Writes `image` under a running number and `name`, unless the same picture has been written already. `file`
-    /// gets the name of the file that shows it. Answers why it could not be written, a null text on success.
+    /// gets the name of the file that shows it. Returns why it could not be written, a null text on success.
     QString takeNumbered(const QImage &image, const QString &name, QString &file);
     /// Writes `image` as `name`.png in any case.
     QString takeNamed(const QImage &image, const QString &name, QString &file);

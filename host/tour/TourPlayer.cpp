@@ -21,8 +21,8 @@
 namespace host::tour {
 
 using handset::CallDirection;
-using Telephone = handset::simulated::SimulatedTelephone;
-using LineState = Telephone::LineState;
+using handset::simulated::SimulatedHandset;
+using LineState = SimulatedHandset::LineState;
 
 namespace {
 
@@ -235,24 +235,24 @@ int TourPlayer::finish()
     return failures ? ExitExpectationFailed : ExitSuccess;
 }
 
-// --- the telephone
+// --- the handset
 
 void TourPlayer::perform(const SetState &action)
 {
-    openTelephone(action.kind == SetState::Kept ? options.stateDirectory : QString());
+    openHandset(action.kind == SetState::Kept ? options.stateDirectory : QString());
     if (!owner)
         return;
-    if (action.kind == SetState::ReadyMade && telephone)
-        checkStatus(telephone->addHistory(handset::simulated::readyMadeHistory(clock->wallMs())));
+    if (action.kind == SetState::ReadyMade && handset)
+        checkStatus(handset->addHistory(handset::simulated::readyMadeHistory(clock->wallMs())));
     freshDisplay();
 }
 
-// The telephone before it must be gone first: it may hold the same directory.
-void TourPlayer::openTelephone(const QString &directory)
+// The handset before it must be gone first: it may hold the same directory.
+void TourPlayer::openHandset(const QString &directory)
 {
     screens.close();
     handset::install(nullptr);
-    telephone = nullptr;
+    handset = nullptr;
     installed.reset();
     owner.reset();
     handset::Settings settings{options.backend, directory, clock};
@@ -263,11 +263,11 @@ void TourPlayer::openTelephone(const QString &directory)
     if (!opened.handset) {
         if (isAskedToEnd())
             return interrupt();
-        stop(ExitNoTelephone, opened.error);
+        stop(ExitNoHandset, opened.error);
         return;
     }
     owner = opened.handset;
-    telephone = dynamic_cast<handset::simulated::SimulatedTelephone *>(owner.get());
+    handset = dynamic_cast<handset::simulated::SimulatedHandset *>(owner.get());
     installed = std::make_shared<FaultyHandset>(owner);
     handset::install(installed);
 }
@@ -284,7 +284,7 @@ void TourPlayer::freshDisplay()
 template <typename Call>
 void TourPlayer::drive(Call call)
 {
-    checkStatus(telephone ? call(*telephone) : static_cast<int>(handset::NotAvailable));
+    checkStatus(handset ? call(*handset) : static_cast<int>(handset::NotAvailable));
 }
 
 template <typename Call>
@@ -296,56 +296,56 @@ void TourPlayer::adviseOfCharge(Call call)
 
 void TourPlayer::perform(const MakeCall &action)
 {
-    if (!telephone) {
+    if (!handset) {
         checkStatus(handset::NotAvailable);
         return;
     }
     const bool dialed = action.direction == CallDirection::Dialed;
-    checkStatus(dialed ? telephone->dial(action.number, action.kind) : telephone->ring(action.number));
-    checkStatus(dialed ? telephone->remoteAnswer() : telephone->answer());
+    checkStatus(dialed ? handset->dial(action.number, action.kind) : handset->ring(action.number));
+    checkStatus(dialed ? handset->remoteAnswer() : handset->answer());
     perform(MoveClock{action.durationMs});
-    if (telephone->lineState() != LineState::Idle) // else the telephone has ended it
-        checkStatus(telephone->hangUp());
+    if (handset->lineState() != LineState::Idle) // else the handset has ended it
+        checkStatus(handset->hangUp());
 }
 
 void TourPlayer::perform(const Dial &action)
 {
-    drive([&](Telephone &driven) { return driven.dial(action.number, action.kind); });
+    drive([&](SimulatedHandset &driven) { return driven.dial(action.number, action.kind); });
 }
 
 void TourPlayer::perform(const Ring &action)
 {
-    drive([&](Telephone &driven) { return driven.ring(action.number); });
+    drive([&](SimulatedHandset &driven) { return driven.ring(action.number); });
 }
 
 void TourPlayer::perform(const Answer &)
 {
-    drive([](Telephone &driven) {
+    drive([](SimulatedHandset &driven) {
         return driven.lineState() == LineState::Dialing ? driven.remoteAnswer() : driven.answer();
     });
 }
 
 void TourPlayer::perform(const HangUp &)
 {
-    drive([](Telephone &driven) { return driven.hangUp(); });
+    drive([](SimulatedHandset &driven) { return driven.hangUp(); });
 }
 
-// The telephone's own timers know nothing of the tour's clock.
+// The handset's own timers know nothing of the tour's clock.
 void TourPlayer::perform(const MoveClock &action)
 {
     clock->advance(action.ms);
-    if (telephone)
-        checkStatus(telephone->checkpoint());
+    if (handset)
+        checkStatus(handset->checkpoint());
 }
 
 void TourPlayer::perform(const SetTariff &action)
 {
-    drive([&](Telephone &driven) { return driven.charging().setTariff(action.direction, action.tariff); });
+    drive([&](SimulatedHandset &driven) { return driven.charging().setTariff(action.direction, action.tariff); });
 }
 
 void TourPlayer::perform(const TopUp &action)
 {
-    drive([&](Telephone &driven) { return driven.charging().topUp(action.amount, action.expires); });
+    drive([&](SimulatedHandset &driven) { return driven.charging().topUp(action.amount, action.expires); });
 }
 
 void TourPlayer::perform(const SetChargeType &action)
@@ -369,12 +369,12 @@ void TourPlayer::perform(const SetLimit &action)
 
 void TourPlayer::perform(const SetRule &action)
 {
-    drive([&](Telephone &driven) { return driven.simCard().setUpdateRule(action.file, action.rule); });
+    drive([&](SimulatedHandset &driven) { return driven.simCard().setUpdateRule(action.file, action.rule); });
 }
 
 void TourPlayer::perform(const SetPin2 &action)
 {
-    drive([&](Telephone &driven) {
+    drive([&](SimulatedHandset &driven) {
         return action.kind == SetPin2::Forgotten ? driven.simCard().powerCycle()
                                                  : driven.simCard().setPin2Enabled(action.kind == SetPin2::On);
     });
@@ -390,14 +390,14 @@ void TourPlayer::perform(const Fail &action)
 
 void TourPlayer::perform(const StartSession &action)
 {
-    drive([&](Telephone &driven) {
+    drive([&](SimulatedHandset &driven) {
         return driven.packets().startSession(action.apn, action.sentPerSecond, action.receivedPerSecond);
     });
 }
 
 void TourPlayer::perform(const StopSession &)
 {
-    drive([](Telephone &driven) { return driven.packets().stopSession(); });
+    drive([](SimulatedHandset &driven) { return driven.packets().stopSession(); });
 }
 
 void TourPlayer::perform(const Broadcast &)
@@ -430,8 +430,8 @@ void TourPlayer::perform(const Open &action)
 ScreenText TourPlayer::read() const
 {
     ScreenText text = readScreen();
-    if (telephone)
-        text.facts.append({QStringLiteral("line"), -1, {lineWord(telephone->lineState())}});
+    if (handset)
+        text.facts.append({QStringLiteral("line"), -1, {lineWord(handset->lineState())}});
     return text;
 }
 

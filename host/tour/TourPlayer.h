@@ -8,7 +8,7 @@
 #include "host/phone/Display.h"
 #include "host/tour/Photographs.h"
 #include "host/tour/TourScript.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 #include <QtCore/QEventLoop>
 
@@ -32,12 +32,12 @@ class TourPlayer : public QObject
 
 public:
     /// `library` is loaded; the streams and it outlive the player.
-    /// `isAskedToEnd` says whether interrupt() is about to be called, so that a long opening of a telephone is given up.
+    /// `isAskedToEnd` says whether interrupt() is about to be called, so that a long opening of a handset is given up.
     TourPlayer(const ScreenLibrary &library, const Options &options, QTextStream &output, QTextStream &errors,
                std::function<bool()> isAskedToEnd);
     ~TourPlayer() override;
 
-    /// Plays `script`, which has no mistakes, and answers an ExitCode.
+    /// Plays `script`, which has no mistakes, and returns an ExitCode.
     int play(const Script &script);
 
     /// Ends the tour before its next step, as at its end: screens are closed, a running call is ended and written.
@@ -87,7 +87,7 @@ private:
     void drive(Call call);
     template <typename Call>
     void adviseOfCharge(Call call);
-    void openTelephone(const QString &directory);
+    void openHandset(const QString &directory);
     void freshDisplay();
     void look();
     void photographWhatIsMet();
@@ -108,7 +108,7 @@ private:
     std::shared_ptr<handset::ManualClock> clock;
     std::shared_ptr<handset::Handset> owner;
     std::shared_ptr<FaultyHandset> installed; // in front of it
-    handset::simulated::SimulatedTelephone *telephone = nullptr;
+    handset::simulated::SimulatedHandset *handset = nullptr;
     Display display;
     std::unique_ptr<MenuScreen> menu;
     ScreenHost screens;

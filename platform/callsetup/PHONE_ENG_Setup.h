@@ -6,9 +6,9 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-/// The SIM's advice-of-charge settings. Every operation answers 0 on success, otherwise a number of
-/// handset/Status.h or the backend's own; without a telephone, or with one that has no advice of charge, that is
-/// NotAvailable (2). Outputs are written only on success. A write answers InvalidArgument (1) for what the telephone
+/// The SIM's advice-of-charge settings. Every operation returns 0 on success, otherwise a number of
+/// handset/Status.h or the backend's own; without a handset, or with one that has no advice of charge, that is
+/// NotAvailable (2). Outputs are written only on success. A write returns InvalidArgument (1) for what the handset
 /// cannot take, StorageFailed (3) where it could not be kept, and NotAllowed (6) where the SIM refuses: its file may be
 /// updated by nobody, or PIN2 has not been entered. GUI thread only.
 class PHONE_ENG_Setup : public QObject
@@ -46,9 +46,9 @@ public slots:
     void updateCFFlag();
 
 signals:
-    /// A setting could not be stored: a write is about to answer StorageFailed (3).
+    /// A setting could not be stored: a write is about to return StorageFailed (3).
     void flashFull();
-    /// The SIM refused a setting: a write is about to answer NotAllowed (6). (Spelled as the phone spells it.)
+    /// The SIM refused a setting: a write is about to return NotAllowed (6). (Spelled as the phone spells it.)
     void sigSetupOpertionNotAllowed();
     /// Sent on by updateCFFlag().
     void updateCallForwardingFlag();

@@ -36,7 +36,7 @@ public:
     virtual int setMeterMaximum(const QString &maximum) = 0;
     /// Switches the limit off.
     virtual int disableMeterMaximum() = 0;
-    /// How costs are counted (ChargeType): the phone's own setting, no file of the SIM. InUnits on a new telephone.
+    /// How costs are counted (ChargeType): the phone's own setting, no file of the SIM. InUnits on a new handset.
     virtual int chargeType(quint8 &type) = 0;
     /// InvalidArgument for a number that is no ChargeType.
     virtual int setChargeType(quint8 type) = 0;

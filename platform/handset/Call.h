@@ -1,4 +1,4 @@
-// A call as the telephone records it.
+// A call as the handset records it.
 #pragma once
 
 #include <QtCore/QString>

@@ -38,7 +38,7 @@ public:
 
     /// The day until which the last deposit is good.
     virtual int depositExpirationDate(Date &date) = 0;
-    /// The last deposit and the accumulated costs since their resets, as the telephone's own decimal texts (Latin-1,
+    /// The last deposit and the accumulated costs since their resets, as the handset's own decimal texts (Latin-1,
     /// without a unit), the running call included. NotAvailable for the deposit and its day where nothing has ever been
     /// paid in.
     virtual int lastDeposit(QByteArray &text) = 0;

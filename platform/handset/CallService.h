@@ -20,7 +20,7 @@ public:
     /// Zeroes the time of all calls and nothing else.
     virtual int resetCallTime() = 0;
 
-    /// The prepaid credit left, as the telephone's own decimal text (Latin-1, without a unit); what a running call has
+    /// The prepaid credit left, as the handset's own decimal text (Latin-1, without a unit); what a running call has
     /// cost so far is taken off. NotAvailable where nothing has ever been paid in.
     virtual int remainingCredit(QByteArray &text) = 0;
     /// The cost of the last call that was connected, likewise, the running one included.

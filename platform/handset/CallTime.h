@@ -1,4 +1,4 @@
-// A duration as the telephone reports it.
+// A duration as the handset reports it.
 #pragma once
 
 #include <QtCore/QtGlobal>
@@ -8,7 +8,7 @@
 namespace handset {
 
 struct CallTime {
-    quint32 hours = 0;  ///< 0 to 4294967295, where the time stops at 59 min 59 s
+    quint32 hours = 0;  ///< 0 to 4294967295, where the time saturates at 59 min 59 s
     quint8 minutes = 0; ///< 0 to 59
     quint8 seconds = 0; ///< 0 to 59
 

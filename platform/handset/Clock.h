@@ -1,4 +1,4 @@
-// The two clocks of the telephone.
+// The two clocks of the handset.
 #pragma once
 
 #include <QtCore/QByteArray>

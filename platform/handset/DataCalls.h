@@ -26,7 +26,7 @@ public:
     /// The time of all data calls since the last reset, in whole seconds, the running one included; 0 to 4294967295,
     /// where it stops.
     virtual int totalDuration(quint32 &seconds) = 0;
-    /// The status byte: a CallStatus, or whatever else the telephone has, 0 to 255; Idle after a start. A voice call
+    /// The status byte: a CallStatus, or whatever else the handset has, 0 to 255; Idle after a start. A voice call
     /// leaves it alone.
     virtual int callStatus(quint8 &status) = 0;
     /// Zeroes the total and nothing else; of a running data call the rest counts.

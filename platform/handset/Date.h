@@ -1,4 +1,4 @@
-// A day as the telephone reports it.
+// A day as the handset reports it.
 #pragma once
 
 #include <QtCore/QtGlobal>

@@ -1,4 +1,4 @@
-// A telephone in front of another, or of none, with a hook before and after each of its operations.
+// A handset in front of another, or of none, with a hook before and after each of its operations.
 #pragma once
 
 #include "handset/AdviceOfCharge.h"
@@ -16,14 +16,14 @@
 namespace handset {
 
 /// To be inherited as DecoratedHandset<Hooks> by the class `Hooks`, which has its own of the two public hooks below, or
-/// overloads of them for the arguments that it looks at. Everything that no hook answers is the other telephone's, and
+/// overloads of them for the arguments that it looks at. Everything that no hook answers is the other handset's, and
 /// NotAvailable where there is none.
 template <typename Hooks>
 class DecoratedHandset : public Handset
 {
 public:
-    explicit DecoratedHandset(std::shared_ptr<Handset> telephone = nullptr)
-        : behind(std::move(telephone))
+    explicit DecoratedHandset(std::shared_ptr<Handset> handset = nullptr)
+        : behind(std::move(handset))
     {}
     Q_DISABLE_COPY_MOVE(DecoratedHandset)
 
@@ -39,7 +39,7 @@ public:
     void after(int /*operation*/, int /*status*/, const Arguments &.../*arguments*/)
     {}
 
-    /// From now on this telephone has not the role of that name ("CallLog").
+    /// From now on this handset has not the role of that name ("CallLog").
     void takeAway(const QString &role)
     {
         const auto take = [&](const char *name, auto &mine) { mine.isTaken |= role == QLatin1StringView(name); };
@@ -51,7 +51,7 @@ public:
         take("SimSecurity", sim);
     }
 
-    /// Null where the role was taken away, and where the other telephone has it not. Without another all are there.
+    /// Null where the role was taken away, and where the other handset has it not. Without another all are there.
     CallService *callService() override { return available(service); }
     CallLog *callLog() override { return available(log); }
     DataCalls *dataCalls() override { return available(data); }

@@ -45,13 +45,13 @@ Installation &installation()
     return *instance;
 }
 
-// The telephone has a timer and a database connection, which must go before the application object does.
+// The handset has a timer and a database connection, which must go before the application object does.
 void releaseWithApplication()
 {
     installation() = {};
 }
 
-// Screens read the installed telephone: what happens to another is none of their business.
+// Screens read the installed handset: what happens to another is none of their business.
 void setBroadcasting(const std::shared_ptr<Handset> &handset, const std::function<void()> &update,
                      const std::function<void()> &change)
 {
@@ -77,7 +77,7 @@ void decide(std::shared_ptr<Handset> handset)
             releaseWithApplication();
         });
     }
-    // The previous telephone goes last: its end must find the new one installed.
+    // The previous handset goes last: its end must find the new one installed.
     const auto previous = std::exchange(installation().handset, std::move(handset));
     installation().decided = true;
     setBroadcasting(previous, nullptr, nullptr);
@@ -116,7 +116,7 @@ Opened open(const Settings &settings)
         const QString error = QStringLiteral("There is no telephone named \"%1\"; those there are: %2.");
         return {nullptr, error.arg(settings.backend, backendNames().join(QStringLiteral(", "))), {}};
     }
-    // Made here for every backend: whoever opens a telephone keeps more there than a backend does.
+    // Made here for every backend: whoever opens a handset keeps more there than a backend does.
     if (QString error;
         !settings.stateDirectory.isEmpty() && !calllog::StateDirectory::make(settings.stateDirectory, error))
         return {nullptr, error, {}};

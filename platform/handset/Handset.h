@@ -1,4 +1,4 @@
-// The telephone behind the phone's libraries, and the one place where its backend is chosen.
+// The handset behind the phone's libraries, and the one place where its backend is chosen.
 #pragma once
 
 #include <QtCore/QString>
@@ -17,8 +17,8 @@ class DataCalls;
 class PacketData;
 class SimSecurity;
 
-/// A telephone: its roles, each an interface of its own. A role that the backend has not is null; the shims answer
-/// NotAvailable for it. The roles belong to the telephone.
+/// A handset: its roles, each an interface of its own. A role that the backend has not is null; the shims return
+/// NotAvailable for it. The roles belong to the handset.
 class Handset
 {
 public:
@@ -27,7 +27,7 @@ public:
     virtual CallService *callService() = 0;
     virtual CallLog *callLog() = 0;
     virtual DataCalls *dataCalls() = 0;
-    // Not every telephone has these: one that says nothing of them has them not, on purpose.
+    // Not every handset has these: one that says nothing of them has them not, on purpose.
     virtual AdviceOfCharge *adviceOfCharge() { return nullptr; }
     virtual PacketData *packetData() { return nullptr; }
     virtual SimSecurity *simSecurity() { return nullptr; }
@@ -45,8 +45,8 @@ struct Settings {
     /// Directory that keeps the state between starts, made when missing; empty keeps it in memory only.
     QString stateDirectory;
     std::shared_ptr<Clock> clock = {}; ///< null is the machine's clocks
-    /// Is told what the user should know that is found only while the telephone runs: one sentence. From the event loop
-    /// of the GUI thread, as long as the telephone lives; null for nobody.
+    /// Is told what the user should know that is found only while the handset runs: one sentence. From the event loop
+    /// of the GUI thread, as long as the handset lives; null for nobody.
     std::function<void(const QString &notice)> tell = {};
     /// Is told how far a step of open() is that takes long, as reading a big damaged call log does: what is done, part of
     /// a sentence, and 0 to 100 percent; one step after another. Null for nobody.
@@ -57,7 +57,7 @@ struct Settings {
 };
 
 struct Opened {
-    std::shared_ptr<Handset> handset; ///< null when the telephone could not be opened
+    std::shared_ptr<Handset> handset; ///< null when the handset could not be opened
     QString error;                    ///< then: one sentence that says why, for the user
     QString notice;                   ///< what the user should know although it opened; empty for nothing
 };
@@ -65,20 +65,20 @@ struct Opened {
 /// The names that Settings::backend may have.
 QStringList backendNames();
 
-/// Opens a telephone. Never throws; a backend name that is not known, a state directory that cannot be used, and a
+/// Opens a handset. Never throws; a backend name that is not known, a state directory that cannot be used, and a
 /// state that has to be made, migrated or replaced while another process uses it, are errors.
 Opened open(const Settings &settings);
 
-/// Where the default telephone keeps its state: a directory of the user's own data directory.
+/// Where the default handset keeps its state: a directory of the user's own data directory.
 QString defaultStateDirectory();
 
-/// Makes `handset` the one that the phone's libraries talk to; null for none. Whoever opens a telephone for the
-/// process, and a test with a telephone of its own, calls this before anything else uses the phone's libraries.
+/// Makes `handset` the one that the phone's libraries talk to; null for none. Whoever opens a handset for the
+/// process, and a test with a handset of its own, calls this before anything else uses the phone's libraries.
 void install(std::shared_ptr<Handset> handset);
 
-/// The installed telephone. A process that never called install() gets the default one, the simulated telephone on
+/// The installed handset. A process that never called install() gets the default one, the simulated handset on
 /// defaultStateDirectory(), opened on the first call; where that fails the answer is null from then on, and the
-/// reason is a warning. GUI thread only, like every operation of the telephone.
+/// reason is a warning. GUI thread only, like every operation of the handset.
 std::shared_ptr<Handset> current();
 
 } // namespace handset

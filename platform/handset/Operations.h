@@ -1,4 +1,4 @@
-// The one list of what a telephone can be asked, and the one vocabulary for it.
+// The one list of what a handset can be asked, and the one vocabulary for it.
 #pragma once
 
 #include <array>

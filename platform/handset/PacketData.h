@@ -17,7 +17,7 @@ struct DataSession {
     static constexpr qsizetype longestApn = 101;
 
     quint8 id = 0;         ///< 1 to 255; 0 is an empty slot
-    quint32 bytesSent = 0; ///< stops at 4294967295, as bytesReceived does
+    quint32 bytesSent = 0; ///< saturates at 4294967295, as bytesReceived does
     quint32 bytesReceived = 0;
     CallTime duration;
     QByteArray apn; ///< access point name, Latin-1, at most longestApn characters
@@ -49,8 +49,8 @@ public:
     virtual int resetTotalBytes() = 0;
 
     /// `listener` is called when a session has begun, when one has ended, and at most once a second while the figures
-    /// of one change; it is copied, takes the place of the one before, and must not end the telephone. Null for nobody.
-    /// A telephone that cannot tell never calls it.
+    /// of one change; it is copied, takes the place of the one before, and must not end the handset. Null for nobody.
+    /// A handset that cannot tell never calls it.
     virtual void setUpdateListener(const std::function<void()> &listener) = 0;
 };
 

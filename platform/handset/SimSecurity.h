@@ -9,7 +9,7 @@ namespace handset {
 
 /// The SIM's PINs (3GPP TS 51.011, 9.3): PIN2 has 4 to 8 digits and three tries, then it is blocked until PUK2 is
 /// entered; the count survives power-off, that it has been entered does not. Of PIN1 nothing but the status is known
-/// here: all else answers NotAvailable for it, and InvalidArgument for a number that is no Pin.
+/// here: all else returns NotAvailable for it, and InvalidArgument for a number that is no Pin.
 class SimSecurity
 {
 public:

@@ -5,8 +5,8 @@
 
 #include <QtCore/QObject>
 
-/// Asks the telephone about data calls. Every operation answers 0 on success, otherwise a number of
-/// handset/Status.h or the backend's own; without a telephone that is NotAvailable (2). GUI thread only.
+/// Asks the handset about data calls. Every operation returns 0 on success, otherwise a number of
+/// handset/Status.h or the backend's own; without a handset that is NotAvailable (2). GUI thread only.
 class PHONE_MsgClient : public QObject
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     explicit PHONE_MsgClient(QObject *parent, const char *name = nullptr);
     ~PHONE_MsgClient() override;
 
-    /// Brings the telephone's data-call total up to date with a running call; UTIL_GetTotalDuration() tells it.
+    /// Brings the handset's data-call total up to date with a running call; UTIL_GetTotalDuration() reports it.
     int getTotalByteAndConnectedDuration();
     /// Zeroes the data-call total when `confirmed`; false asks for nothing and succeeds.
     int resetTotalDuration(bool confirmed);

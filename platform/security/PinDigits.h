@@ -19,7 +19,7 @@ public:
     ~PinDigits() { clear(); }
     Q_DISABLE_COPY_MOVE(PinDigits)
 
-    /// `digit` is '0' to '9'. Answers false when there are eight already.
+    /// `digit` is '0' to '9'. Returns false when there are eight already.
     bool append(char digit);
     void removeLast();
     void clear();

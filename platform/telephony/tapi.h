@@ -1,6 +1,6 @@
-/* The phone's telephony API. Every function answers an int: 0 is success, anything else failure (the numbers of
+/* The phone's telephony API. Every function returns an int: 0 is success, anything else failure (the numbers of
  * handset/Status.h, or the backend's own). Outputs are written only on success; a null pointer is answered with
- * InvalidArgument (1), and a function with no telephone behind it with NotAvailable (2). GUI thread only. */
+ * InvalidArgument (1), and a function with no handset behind it with NotAvailable (2). GUI thread only. */
 #pragma once
 
 #include <stddef.h>
@@ -12,7 +12,7 @@ extern "C" {
 
 /** A duration in whole seconds, the fraction cut off. The caller owns the record and zeroes it before a query. */
 typedef struct TAPI_CallTime {
-    uint32_t hours;  /**< 0 to 4294967295, where the time stops at 59 min 59 s */
+    uint32_t hours;  /**< 0 to 4294967295, where the time saturates at 59 min 59 s */
     uint8_t minutes; /**< 0 to 59 */
     uint8_t seconds; /**< 0 to 59 */
 } TAPI_CallTime;
@@ -49,8 +49,8 @@ typedef struct TAPI_Date {
 /** Sizes of the buffers that the amount queries fill, in bytes, the terminating NUL included. */
 enum { TAPI_CREDIT_TEXT_SIZE = 100, TAPI_AMOUNT_TEXT_SIZE = 50 };
 
-/* Amounts are the telephone's own decimal text, Latin-1, NUL-terminated, without a unit; whether they count units or
- * currency PHONE_ENG_Setup::getChargeType() tells. A text that does not fit the buffer is answered with TextTooLong
+/* Amounts are the handset's own decimal text, Latin-1, NUL-terminated, without a unit; whether they count units or
+ * currency PHONE_ENG_Setup::getChargeType() reports. A text that does not fit the buffer is answered with TextTooLong
  * (5) and the buffer stays as it was. The caller owns the buffer and zeroes it before a query. */
 
 /** The prepaid credit left; `text` has TAPI_CREDIT_TEXT_SIZE bytes. NotAvailable (2) where nothing has ever been paid

@@ -12,7 +12,7 @@ extern "C" {
 int UTIL_GetTotalDuration(uint32_t *seconds);
 
 /** The data-call status byte: 0 none, 1 being set up, 2 released, 3 connected. Any other byte is passed on as the
- * telephone has it. */
+ * handset has it. */
 int UTIL_GetDataCallStaus(uint8_t *status);
 
 #ifdef __cplusplus

@@ -26,7 +26,7 @@ public:
     /// top. Null when neither is visible. It need not have the desktop's focus.
     static QWidget *keyTarget();
     /// Presses and releases `qtKey` (a Qt::Key, see ZKeys.h) on keyTarget(), as an on-screen keypad does. The
-    /// target may be deleted by the press; the release is then dropped. Answers false when there is no target.
+    /// target may be deleted by the press; the release is then dropped. Returns false when there is no target.
     static bool pressKey(int qtKey);
 
     /// Says what is typed in `field`, a text field of any class, in place of what was said before. The methods and

@@ -43,7 +43,7 @@ public:
     /// the screen is resized. `create` makes it where there is none yet; without, that is null.
     QWidget *getContentWidget(bool create);
 
-    /// Closes the screen; with `alsoDelete` it is deleted later, through the event loop. Answers whether it closed.
+    /// Closes the screen; with `alsoDelete` it is deleted later, through the event loop. Returns whether it closed.
     virtual bool close(bool alsoDelete);
     using QWidget::close;
 

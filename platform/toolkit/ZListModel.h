@@ -23,7 +23,7 @@ public:
 
     void insert(int row, ZListItem *item);
     void remove(int row);
-    /// Takes out every row and answers them.
+    /// Takes out every row and returns them.
     QList<ZListItem *> takeAll();
     void rowChanged(int row);
 

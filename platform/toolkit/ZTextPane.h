@@ -15,7 +15,7 @@ public:
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
 
-    /// Scrolls on the up, down, page, home and end keys; answers false for other keys, and when all of the text is
+    /// Scrolls on the up, down, page, home and end keys; returns false for other keys, and when all of the text is
     /// on show.
     bool scrollByKey(int qtKey);
 

@@ -5,7 +5,7 @@
 #include "handset/Clock.h"
 #include "handset/DataCalls.h"
 #include "handset/Handset.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QProcess>
@@ -75,9 +75,9 @@ void WindowTest::init()
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     state = std::make_unique<QTemporaryDir>();
     QVERIFY(state->isValid());
-    const std::shared_ptr<Handset> telephone = reopenState();
-    QVERIFY(telephone);
-    auto *simulation = dynamic_cast<simulated::SimulatedTelephone *>(telephone.get());
+    const std::shared_ptr<Handset> handset = reopenState();
+    QVERIFY(handset);
+    auto *simulation = dynamic_cast<simulated::SimulatedHandset *>(handset.get());
     QVERIFY(simulation);
     QCOMPARE(simulation->addHistory(history), 0);
 }
@@ -218,11 +218,11 @@ void WindowTest::keysLeadFromTheMenuThroughAResetAndOutAgain()
     verifyDisplay(QStringLiteral("menu"));
     leave();
 
-    const std::shared_ptr<Handset> telephone = reopenState();
+    const std::shared_ptr<Handset> handset = reopenState();
     CallTime time;
-    QCOMPARE(telephone->callLog()->dialedCallsTime(time), 0);
+    QCOMPARE(handset->callLog()->dialedCallsTime(time), 0);
     QVERIFY(time == CallTime());
-    QCOMPARE(telephone->callLog()->lifetimeCallsTime(time), 0);
+    QCOMPARE(handset->callLog()->lifetimeCallsTime(time), 0);
     QVERIFY(time == CallTime::fromSeconds(65 + 3725 + 36000));
     if (isMakingReferences())
         QSKIP("references were written, nothing was compared");
@@ -281,16 +281,16 @@ void WindowTest::aSignalEndsTheWindowWithItsCallWritten()
     QCOMPARE(host->exitStatus(), QProcess::NormalExit);
     QCOMPARE(host->exitCode(), 0);
 
-    const std::shared_ptr<Handset> telephone = reopenState();
-    QVERIFY(telephone);
+    const std::shared_ptr<Handset> handset = reopenState();
+    QVERIFY(handset);
     quint32 total = 0;
-    QCOMPARE(telephone->dataCalls()->totalDuration(total), 0);
+    QCOMPARE(handset->dataCalls()->totalDuration(total), 0);
     QVERIFY(total >= before);
     CallTime last;
-    QCOMPARE(telephone->callLog()->lastCallTime(last), 0);
+    QCOMPARE(handset->callLog()->lastCallTime(last), 0);
     QVERIFY(last == CallTime::fromSeconds(total - 36'000)); // its row
     CallTime lifetime;
-    QCOMPARE(telephone->callLog()->lifetimeCallsTime(lifetime), 0);
+    QCOMPARE(handset->callLog()->lifetimeCallsTime(lifetime), 0);
     QVERIFY(lifetime == CallTime::fromSeconds(65 + 3725 + total));
 }
 

@@ -3,7 +3,7 @@
 #include "handset/Clock.h"
 #include "handset/Handset.h"
 #include "host/HostProcess.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QDir>
@@ -37,9 +37,9 @@ private slots:
     void aReplacementLibraryThatLacksAFunctionIsToldAtTheStart();
     void anUnusableStateDirectoryIsSaid();
     void aDamagedCallLogIsSaidAndKeptAside();
-    void aWindowWhoseTelephoneCannotBeOpenedEndsLikewise_data();
-    void aWindowWhoseTelephoneCannotBeOpenedEndsLikewise();
-    void aTelephoneThatKeepsNothingFindsItsStateDirectoryMade();
+    void aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data();
+    void aWindowWhoseHandsetCannotBeOpenedEndsLikewise();
+    void aHandsetThatKeepsNothingFindsItsStateDirectoryMade();
     void aSecondStartOnTheSameStateIsShownAndRecordsNothing();
     void anUnknownBackendIsSaid();
     void theTraceIsAppendedToItsFile();
@@ -88,7 +88,7 @@ QString CommandLineTest::contents(const QString &name) const
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("(no file)");
 }
 
-// A line that the meter writes before and after each question to the telephone.
+// A line that the meter writes before and after each question to the handset.
 static bool hasMeterTrace(const QString &text)
 {
     static const QRegularExpression line(
@@ -271,7 +271,7 @@ void CommandLineTest::aDamagedCallLogIsSaidAndKeptAside()
     QCOMPARE(contents("state/calllog-kept-1.db"), QString::fromLatin1(damaged));
 }
 
-void CommandLineTest::aWindowWhoseTelephoneCannotBeOpenedEndsLikewise_data()
+void CommandLineTest::aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
@@ -283,7 +283,7 @@ void CommandLineTest::aWindowWhoseTelephoneCannotBeOpenedEndsLikewise_data()
 }
 
 // The window is there by then, and its event loop runs.
-void CommandLineTest::aWindowWhoseTelephoneCannotBeOpenedEndsLikewise()
+void CommandLineTest::aWindowWhoseHandsetCannotBeOpenedEndsLikewise()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, code);
@@ -293,7 +293,7 @@ void CommandLineTest::aWindowWhoseTelephoneCannotBeOpenedEndsLikewise()
     QVERIFY2(result.errors.contains(named), qPrintable(result.errors));
 }
 
-void CommandLineTest::aTelephoneThatKeepsNothingFindsItsStateDirectoryMade()
+void CommandLineTest::aHandsetThatKeepsNothingFindsItsStateDirectoryMade()
 {
     environment.insert("LD_PRELOAD", KAV_DOUBLES "/libbarebackend.so");
     const HostResult result = showCallTimes({"--state", path("new/state")});
@@ -310,7 +310,7 @@ void CommandLineTest::aSecondStartOnTheSameStateIsShownAndRecordsNothing()
     const auto clock = std::make_shared<handset::ManualClock>();
     const handset::Opened first = handset::open({"simulated", path("state"), clock});
     QVERIFY2(first.handset, qPrintable(first.error));
-    auto &phone = dynamic_cast<handset::simulated::SimulatedTelephone &>(*first.handset);
+    auto &phone = dynamic_cast<handset::simulated::SimulatedHandset &>(*first.handset);
     QCOMPARE(phone.dial("1", handset::CallKind::Voice), 0);
     QCOMPARE(phone.remoteAnswer(), 0);
     clock->advance(65'000);

@@ -2,7 +2,7 @@
 #include "handset/Handset.h"
 #include "host/HostProcess.h"
 #include "qcop/FakeBus.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QDir>
@@ -27,7 +27,7 @@ void makeLongLog(const QString &directory)
     handset::Settings settings;
     settings.stateDirectory = directory;
     const auto opened = handset::open(settings);
-    auto *made = dynamic_cast<handset::simulated::SimulatedTelephone *>(opened.handset.get());
+    auto *made = dynamic_cast<handset::simulated::SimulatedHandset *>(opened.handset.get());
     QVERIFY2(made, qPrintable(opened.error));
     const handset::simulated::PastCall call{handset::CallKind::Voice, handset::CallDirection::Dialed, "5550123", 0,
                                             1000};
@@ -135,7 +135,7 @@ void EndsTest::start(QProcess &process, const QStringList &arguments) const
     process.start(QStringLiteral(KAV_HOST_PROGRAM), arguments);
 }
 
-// The window is open when its screen has asked the telephone.
+// The window is open when its screen has asked the handset.
 void EndsTest::aSignalClosesTheWindowAndTheCallLogInOrder()
 {
     QFETCH(int, signal);

@@ -1,4 +1,4 @@
-// Operations of the telephone that fail on demand, as the phone's libraries see them.
+// Operations of the handset that fail on demand, as the phone's libraries see them.
 
 #include "callsetup/PHONE_ENG_Setup.h"
 #include "handset/AdviceOfCharge.h"
@@ -70,10 +70,10 @@ PHONE_ENG_Setup &engine()
     return *PHONE_ENG_Setup::instance();
 }
 
-/// How an operation is asked for, and what a scripted telephone is told to answer and then answers.
+/// How an operation is asked for, and what a scripted handset is told to answer and then answers.
 struct Asked {
     const char *name;
-    int (*ask)(Handset &telephone, Value &value);
+    int (*ask)(Handset &handset, Value &value);
     void (*script)(Script &script, const char *operation);
     const char *answer; ///< null: the operation has no output
 };
@@ -184,17 +184,17 @@ int pinStatus(Handset &, Value &value)
     return answer;
 }
 // The PIN entry waits for a person; what it asks is asked here in its place.
-int triesLeft(Handset &telephone, Value &value)
+int triesLeft(Handset &handset, Value &value)
 {
     int tries = 99;
-    const int status = telephone.simSecurity()->triesLeft(1, tries);
+    const int status = handset.simSecurity()->triesLeft(1, tries);
     value = tries == 99 ? Value(untouched) : QString::number(tries);
     return status;
 }
-int verifyPin(Handset &telephone, Value &value)
+int verifyPin(Handset &handset, Value &value)
 {
     bool accepted = false;
-    const int status = telephone.simSecurity()->verifyPin(1, "1234", accepted);
+    const int status = handset.simSecurity()->verifyPin(1, "1234", accepted);
     value = accepted ? Value("accepted") : Value(untouched);
     return status;
 }
@@ -274,9 +274,9 @@ private slots:
     void oneThatFailsAnswersItsCodeAndTheOthersWork();
     void allCanFailAtOnceAndWorkAgain();
     void aCodeIsAnyNumberButNothing();
-    void argumentsReachTheTelephone();
-    void aRoleThatTheTelephoneLacksStaysAway();
-    void whatIsToldToTheTelephoneAndByItGoesThrough();
+    void argumentsReachTheHandset();
+    void aRoleThatTheHandsetLacksStaysAway();
+    void whatIsToldToTheHandsetAndByItGoesThrough();
 
 private:
     QString ask(const Asked &asked, int expectedCode);
@@ -300,7 +300,7 @@ void FaultsTest::cleanup()
     handset::install(nullptr);
 }
 
-// What is not as it should be; empty when the operation answers `expectedCode` as it has to.
+// What is not as it should be; empty when the operation returns `expectedCode` as it has to.
 QString FaultsTest::ask(const Asked &asked, int expectedCode)
 {
     Journal::shared().clear();
@@ -368,7 +368,7 @@ void FaultsTest::aCodeIsAnyNumberButNothing()
     }
 }
 
-void FaultsTest::argumentsReachTheTelephone()
+void FaultsTest::argumentsReachTheHandset()
 {
     Journal::shared().clear();
     QCOMPARE(engine().setMeterMax("77.5"), 0);
@@ -383,7 +383,7 @@ void FaultsTest::argumentsReachTheTelephone()
     QCOMPARE(Journal::shared().take(), expected);
 }
 
-void FaultsTest::aRoleThatTheTelephoneLacksStaysAway()
+void FaultsTest::aRoleThatTheHandsetLacksStaysAway()
 {
     QVERIFY(installed->callService() && installed->callLog() && installed->dataCalls() &&
             installed->adviceOfCharge() && installed->packetData() && installed->simSecurity());
@@ -395,7 +395,7 @@ void FaultsTest::aRoleThatTheTelephoneLacksStaysAway()
     QCOMPARE(TAPI_LOG_ResetAll(), int{handset::NotAvailable});
 }
 
-void FaultsTest::whatIsToldToTheTelephoneAndByItGoesThrough()
+void FaultsTest::whatIsToldToTheHandsetAndByItGoesThrough()
 {
     auto opened = handset::open({});
     QVERIFY2(opened.handset, qPrintable(opened.error));

@@ -1,4 +1,4 @@
-// The panel: what its controls do to the simulated telephone, and what it shows of it.
+// The panel: what its controls do to the simulated handset, and what it shows of it.
 
 #include "handset/AdviceOfCharge.h"
 #include "handset/CallLog.h"
@@ -14,7 +14,7 @@
 #include "host/panel/CodeField.h"
 #include "host/panel/Panel.h"
 #include "host/phone/PhoneKey.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 #include "support/FullDisk.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
@@ -46,7 +46,7 @@ using handset::AdviceOfCharge;
 using handset::CallDirection;
 using handset::CallKind;
 using handset::charging::Tariff;
-using handset::simulated::SimulatedTelephone;
+using handset::simulated::SimulatedHandset;
 
 namespace {
 
@@ -62,7 +62,7 @@ Tariff tariffOf(quint16 units, quint16 interval, quint16 start)
     return tariff;
 }
 
-// A telephone that is not the simulated one and has no role at all.
+// A handset that is not the simulated one and has no role at all.
 class BareHandset : public handset::Handset
 {
 public:
@@ -210,14 +210,14 @@ private slots:
     void aCatalogueTranslatesTheLineAndTheEndOfCharging();
     void aCatalogueTranslatesThatAnEndIsNotWritten();
     void aCatalogueTranslatesTheNamesOfTheKeys();
-    void anotherTelephoneThanTheSimulatedHasNothingToSet();
+    void anotherHandsetThanTheSimulatedHasNothingToSet();
 
 private:
     QStringList texts() const;
     QString untranslated() const;
-    void openWindow(const std::shared_ptr<handset::Handset> &telephone);
+    void openWindow(const std::shared_ptr<handset::Handset> &handset);
     void openEachTabOnce();
-    void openTelephoneIn(const QString &stateDirectory);
+    void openHandsetIn(const QString &stateDirectory);
     static void expectSizeHintWarning();
     template <typename Control>
     Control *control(const char *name) const
@@ -239,8 +239,8 @@ private:
     QString title() const;
     void connectCall() const;
     void pass(qint64 ms) const;
-    handset::simulated::Charging &charging() const { return telephone->charging(); }
-    handset::charging::SimCard card() const { return telephone->simCard().card(); }
+    handset::simulated::Charging &charging() const { return handset->charging(); }
+    handset::charging::SimCard card() const { return handset->simCard().card(); }
     handset::charging::Pin2 pin2() const { return card().pin2(); }
     bool enterPin2(const QByteArray &digits) const;
 
@@ -248,7 +248,7 @@ private:
     std::shared_ptr<handset::ManualClock> clock;
     std::shared_ptr<handset::Handset> owner;
     std::shared_ptr<FaultyHandset> installed;
-    SimulatedTelephone *telephone = nullptr;
+    SimulatedHandset *handset = nullptr;
     std::unique_ptr<PhoneWindow> window;
 };
 
@@ -262,16 +262,16 @@ void PanelTest::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     clock = std::make_shared<handset::ManualClock>(1000000);
-    openTelephoneIn({});
+    openHandsetIn({});
 }
 
-void PanelTest::openTelephoneIn(const QString &stateDirectory)
+void PanelTest::openHandsetIn(const QString &stateDirectory)
 {
     const handset::Opened opened = handset::open({"simulated", stateDirectory, clock});
     QVERIFY2(opened.handset, qPrintable(opened.error));
     owner = opened.handset;
-    telephone = dynamic_cast<SimulatedTelephone *>(owner.get());
-    QVERIFY(telephone);
+    handset = dynamic_cast<SimulatedHandset *>(owner.get());
+    QVERIFY(handset);
     openWindow(owner);
 }
 
@@ -283,12 +283,13 @@ void PanelTest::cleanup()
     owner.reset();
 }
 
-void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &handset)
+void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &behind)
 {
     window.reset();
-    installed = std::make_shared<FaultyHandset>(handset);
+    installed = std::make_shared<FaultyHandset>(behind);
     handset::install(installed);
-    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{handset, {}, {}, &installed->faults()});
+    window =
+        std::make_unique<PhoneWindow>(library, PhoneWindow::OpenedHandset{behind, {}, {}, &installed->faults()});
     expectSizeHintWarning();
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get(), 60'000));
@@ -376,16 +377,16 @@ QString PanelTest::title() const
 
 void PanelTest::connectCall() const
 {
-    QCOMPARE(telephone->dial("5550123", CallKind::Voice), 0);
-    QCOMPARE(telephone->remoteAnswer(), 0);
+    QCOMPARE(handset->dial("5550123", CallKind::Voice), 0);
+    QCOMPARE(handset->remoteAnswer(), 0);
 }
 
-// Lets time pass, and the timers notice: the telephone's, and the panel's that shows what it finds.
+// Lets time pass, and the timers notice: the handset's, and the panel's that shows what it finds.
 void PanelTest::pass(qint64 ms) const
 {
     clock->advance(ms);
     for (const QObject *whole :
-         {static_cast<const QObject *>(telephone), static_cast<const QObject *>(window->findChild<Panel *>())}) {
+         {static_cast<const QObject *>(handset), static_cast<const QObject *>(window->findChild<Panel *>())}) {
         auto *timer = whole->findChild<QTimer *>({}, Qt::FindDirectChildrenOnly);
         if (timer && timer->isActive())
             QMetaObject::invokeMethod(timer, "timeout");
@@ -444,7 +445,7 @@ static QStringList madeSections(const PhoneWindow &window)
 
 void PanelTest::aTabIsMadeWhenItIsFirstOpened()
 {
-    PhoneWindow fresh(library, PhoneWindow::Telephone{owner, {}, {}});
+    PhoneWindow fresh(library, PhoneWindow::OpenedHandset{owner, {}, {}});
     fresh.complete();
     QCOMPARE(madeSections(fresh), (QStringList{"Line", "Call timers", "State"}));
     fresh.choosePage(3);
@@ -460,7 +461,7 @@ void PanelTest::aTabIsMadeWhenItIsFirstOpened()
 
 void PanelTest::theTabThatIsAskedForIsTheFirstToBeMade()
 {
-    PhoneWindow fresh(library, PhoneWindow::Telephone{owner, {}, {}});
+    PhoneWindow fresh(library, PhoneWindow::OpenedHandset{owner, {}, {}});
     const QSize usual = fresh.sizeHint();
     fresh.choosePage(1);
     QCOMPARE(madeSections(fresh), QStringList());
@@ -537,7 +538,7 @@ void PanelTest::whatIsBeingTypedIsNotTakenAway()
     enter("price", "9.9");
     control<QWidget>("tariff dialed interval")->setFocus();
     enter("tariff dialed interval", "42");
-    QCOMPARE(telephone->ring({}), 0); // every change is shown
+    QCOMPARE(handset->ring({}), 0); // every change is shown
     QCOMPARE(control<QDoubleSpinBox>("tariff dialed interval")->text(), "42 s");
     QCOMPARE(control<QLineEdit>("price")->text(), "9.9");
     QCOMPARE(charging().tariff(CallDirection::Dialed).interval, quint16{100});
@@ -585,11 +586,11 @@ void PanelTest::aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten()
     click("Set price");
     QCOMPARE(label("cost failure"), "Not done: no price, or a currency of more than three characters.");
     QVERIFY(control<QLabel>("cost failure")->isVisible());
-    QCOMPARE(telephone->simCard().setUpdateRule(AdviceOfCharge::PuctFile, AdviceOfCharge::NoUpdate), 0);
+    QCOMPARE(handset->simCard().setUpdateRule(AdviceOfCharge::PuctFile, AdviceOfCharge::NoUpdate), 0);
     enter("price", "1");
     click("Set price");
     QCOMPARE(label("cost failure"), "Not done: the SIM card refuses.");
-    QCOMPARE(telephone->simCard().setUpdateRule(AdviceOfCharge::PuctFile, AdviceOfCharge::FreeUpdate), 0);
+    QCOMPARE(handset->simCard().setUpdateRule(AdviceOfCharge::PuctFile, AdviceOfCharge::FreeUpdate), 0);
     click("Set price");
     QVERIFY(!control<QLabel>("cost failure")->isVisible());
 }
@@ -647,7 +648,7 @@ void PanelTest::theCallCostsGoOnBySecond()
     pass(30000);
     QTRY_COMPARE_WITH_TIMEOUT(label("call cost"), "3.00 units", 60'000);
     QTRY_COMPARE_WITH_TIMEOUT(label("credit"), "Credit: 47.00 units", 60'000);
-    QCOMPARE(telephone->hangUp(), 0);
+    QCOMPARE(handset->hangUp(), 0);
     QCOMPARE(label("call cost"), "3.00 units");
 }
 
@@ -657,7 +658,7 @@ void PanelTest::theEndOfTheCreditLimitIsAnnouncedAndTold()
     QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
     connectCall();
     clock->advance(29999);
-    QCOMPARE(telephone->checkpoint(), 0);
+    QCOMPARE(handset->checkpoint(), 0);
     QVERIFY(!control<QLabel>("charge notice")->isVisible());
     pass(1);
     QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"), "The credit limit is reached in 30 s.", 60'000);
@@ -668,7 +669,7 @@ void PanelTest::theEndOfTheCreditLimitIsAnnouncedAndTold()
     QTRY_COMPARE_WITH_TIMEOUT(label("charge notice"),
                               "The telephone has ended the call: the credit limit is reached.", 60'000);
     QCOMPARE(label("line state"), "Idle");
-    QCOMPARE(telephone->ring({}), 0); // answered calls are free
+    QCOMPARE(handset->ring({}), 0); // answered calls are free
     QVERIFY(!control<QLabel>("charge notice")->isVisible());
 }
 
@@ -689,10 +690,10 @@ void PanelTest::aCallThatMayNotBeginIsExplained()
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("1"), 0);
     connectCall();
     clock->advance(10000);
-    QCOMPARE(telephone->checkpoint(), 0);
+    QCOMPARE(handset->checkpoint(), 0);
     click("Dial");
     QCOMPARE(label("line failure"), "Not done: not allowed now: nothing more may be charged.");
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
 }
 
 // --- the SIM card
@@ -700,7 +701,7 @@ void PanelTest::aCallThatMayNotBeginIsExplained()
 void PanelTest::anEndThatCannotBeWrittenIsToldUntilItIs()
 {
     const QTemporaryDir state;
-    openTelephoneIn(state.filePath(QStringLiteral("state")));
+    openHandsetIn(state.filePath(QStringLiteral("state")));
     connectCall();
     QVERIFY(!control<QLabel>("record notice")->isVisible());
     {
@@ -716,7 +717,7 @@ void PanelTest::anEndThatCannotBeWrittenIsToldUntilItIs()
         showTab("Data");
         QVERIFY(control<QLabel>("record notice")->isVisible());
     }
-    QCOMPARE(telephone->checkpoint(), 0);
+    QCOMPARE(handset->checkpoint(), 0);
     QVERIFY(!control<QLabel>("record notice")->isVisible());
 }
 
@@ -733,11 +734,11 @@ void PanelTest::theFilesOfTheSimAreShownLive()
     QCOMPARE(label("EF_ACMmax content"), "01 02 03  =  66051 units");
     connectCall();
     pass(30000);
-    QCOMPARE(telephone->checkpoint(), 0);
+    QCOMPARE(handset->checkpoint(), 0);
     QTRY_VERIFY2(label("EF_ACM content").startsWith("00 00 03  =  3 units  (newest)\n" + nothing),
                  qPrintable(label("EF_ACM content")));
     pass(2540000);
-    QCOMPARE(telephone->checkpoint(), 0);
+    QCOMPARE(handset->checkpoint(), 0);
     QTRY_VERIFY2(label("EF_ACM content").startsWith("00 01 01  =  257 units  (newest)\n00 00 03  =  3 units\n"),
                  qPrintable(label("EF_ACM content")));
 }
@@ -768,9 +769,9 @@ void PanelTest::anUpdateRuleIsSetAndShown()
     QCOMPARE(rule(), int{AdviceOfCharge::NoUpdate});
     choose(choice, 0);
     QCOMPARE(rule(), int{AdviceOfCharge::FreeUpdate});
-    QCOMPARE(telephone->simCard().setUpdateRule(number, AdviceOfCharge::NoUpdate), 0);
+    QCOMPARE(handset->simCard().setUpdateRule(number, AdviceOfCharge::NoUpdate), 0);
     QCOMPARE(control<QComboBox>(choice)->currentIndex(), 2);
-    QCOMPARE(telephone->simCard().setUpdateRule(number, 17), 0); // no rule: anybody may
+    QCOMPARE(handset->simCard().setUpdateRule(number, 17), 0); // no rule: anybody may
     QCOMPARE(control<QComboBox>(choice)->currentIndex(), 0);
     QCOMPARE(rule(), 17);
     for (const char *other : {"EF_ACM", "EF_ACMmax", "EF_PUCT"})
@@ -786,7 +787,7 @@ void PanelTest::pin2IsSwitchedOffAndOn()
     QVERIFY(label("pin2 state").startsWith("Off: nobody is asked for it."));
     clickBox("pin2 on");
     QVERIFY(pin2().isEnabled());
-    QCOMPARE(telephone->simCard().setPin2Enabled(false), 0);
+    QCOMPARE(handset->simCard().setPin2Enabled(false), 0);
     QVERIFY(!control<QCheckBox>("pin2 on")->isChecked());
 }
 
@@ -802,7 +803,7 @@ void PanelTest::theStateOfPin2IsShownLive()
     QCOMPARE(label("pin2 state"), "Blocked: only PUK2 helps.\nTries left: PIN2 0, PUK2 10.");
     bool accepted = false;
     for (int i = 0; i < 10; ++i)
-        QCOMPARE(telephone->simCard().unblockPin2("00000000", "1234", accepted), 0);
+        QCOMPARE(handset->simCard().unblockPin2("00000000", "1234", accepted), 0);
     QCOMPARE(label("pin2 state"), "Blocked for good.\nTries left: PIN2 0, PUK2 0.");
 }
 
@@ -873,7 +874,7 @@ void PanelTest::pin2IsUnblockedByItsPuk()
     click("Unblock");
     QCOMPARE(label("pin2 outcome"), "The new PIN2 counts.");
     QVERIFY(label("pin2 state").startsWith("On, and entered.\nTries left: PIN2 3"));
-    QCOMPARE(telephone->simCard().powerCycle(), 0);
+    QCOMPARE(handset->simCard().powerCycle(), 0);
     QVERIFY(enterPin2("87654321"));
 }
 
@@ -970,11 +971,11 @@ void PanelTest::aSessionIsStartedAndStopped()
     enter("sent rate", "100");
     enter("received rate", "2000");
     click("Start session");
-    QVERIFY(telephone->packets().isSessionRunning());
+    QVERIFY(handset->packets().isSessionRunning());
     QVERIFY(!button("Start session")->isEnabled());
     clock->advance(10000);
     click("Stop session");
-    QVERIFY(!telephone->packets().isSessionRunning());
+    QVERIFY(!handset->packets().isSessionRunning());
     QVERIFY(button("Start session")->isEnabled());
     handset::DataSessions sessions;
     QCOMPARE(owner->packetData()->sessions(sessions), 0);
@@ -985,7 +986,7 @@ void PanelTest::aSessionIsStartedAndStopped()
 
 void PanelTest::aRunningSessionGoesOnBySecond()
 {
-    QCOMPARE(telephone->packets().startSession("internet", 10, 30), 0);
+    QCOMPARE(handset->packets().startSession("internet", 10, 30), 0);
     pass(61000);
     QTRY_VERIFY2(label("session 1").endsWith("00:01:01\n610 B sent, 1830 B received"),
                  qPrintable(label("session 1")));
@@ -997,9 +998,9 @@ void PanelTest::slotsAndTotalsAreShown()
     QCOMPARE(label("session 1"), "empty");
     QCOMPARE(label("packet total"), "00:00:00, 0 B\n0 B sent, 0 B received");
     for (const char *apn : {"one", "two", "three", "four"}) {
-        QCOMPARE(telephone->packets().startSession(apn, 1, 2), 0);
+        QCOMPARE(handset->packets().startSession(apn, 1, 2), 0);
         clock->advance(5000);
-        QCOMPARE(telephone->packets().stopSession(), 0);
+        QCOMPARE(handset->packets().stopSession(), 0);
     }
     handset::DataSessions sessions;
     QCOMPARE(owner->packetData()->sessions(sessions), 0);
@@ -1029,11 +1030,11 @@ void PanelTest::anAccessPointNameThatIsNoneIsTold()
     control<QLineEdit>("apn")->setText(name);
     click("Start session");
     QCOMPARE(label("packet failure"), "Not done: an access point name has 1 to 101 Latin-1 characters.");
-    QVERIFY(!telephone->packets().isSessionRunning());
+    QVERIFY(!handset->packets().isSessionRunning());
     control<QLineEdit>("apn")->setText(name.first(name.isEmpty() ? 0 : 4) + "x");
     click("Start session");
     QVERIFY(!control<QLabel>("packet failure")->isVisible());
-    QVERIFY(telephone->packets().isSessionRunning());
+    QVERIFY(handset->packets().isSessionRunning());
 }
 
 void PanelTest::anUpdateIsSentByHand()
@@ -1041,7 +1042,7 @@ void PanelTest::anUpdateIsSentByHand()
     QVERIFY(window->openScreen(3));
     auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
     QVERIFY(list);
-    QCOMPARE(telephone->packets().startSession("internet", 1, 1), 0);
+    QCOMPARE(handset->packets().startSession("internet", 1, 1), 0);
     QTRY_COMPARE_WITH_TIMEOUT(list->item(1)->title(), "internet", 60'000);
     installed->faults().set(handset::operationIndex("PacketData::sessions"), 3);
     showTab("Data");
@@ -1075,7 +1076,7 @@ void PanelTest::operationsFailAndWorkAgain()
     QCOMPARE(failing(), QStringList{"CallLog::lastCallTime: 17"});
     QCOMPARE(faults.code(dataCalls), 0);
     faults.set(dataCalls, 9); // from elsewhere
-    QCOMPARE(telephone->ring({}), 0);
+    QCOMPARE(handset->ring({}), 0);
     QCOMPARE(failing().size(), 2);
     click("Remove all");
     QCOMPARE(failing(), QStringList());
@@ -1096,7 +1097,7 @@ void PanelTest::aFailureIsSeenOnThePhone()
     QCOMPARE(list->item(0)->value(), "00:00:00");
     QCOMPARE(list->item(1)->value(), "01:11:35");
     showTab("Calls");
-    QCOMPARE(label("figure Last call"), "00:04:26"); // the panel asks the telephone itself
+    QCOMPARE(label("figure Last call"), "00:04:26"); // the panel asks the handset itself
 }
 
 void PanelTest::zeroIsNoCode()
@@ -1110,7 +1111,7 @@ void PanelTest::zeroIsNoCode()
 
 void PanelTest::withoutFaultsThereIsNoPageForThem()
 {
-    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{owner, {}, {}});
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::OpenedHandset{owner, {}, {}});
     window->complete();
     openEachTabOnce();
     QVERIFY(!window->findChild<QListWidget *>("failing"));
@@ -1224,9 +1225,9 @@ void PanelTest::nothingIsCutOffInANarrowPanel()
     QFETCH(QByteArray, tab);
     QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("409500000", "WWW"), 0);
     QCOMPARE(owner->adviceOfCharge()->setChargeType(AdviceOfCharge::InCurrency), 0);
-    QCOMPARE(telephone->packets().startSession(QByteArray(101, 'w'), 4000000, 4000000), 0);
+    QCOMPARE(handset->packets().startSession(QByteArray(101, 'w'), 4000000, 4000000), 0);
     clock->advance(3600000);
-    QCOMPARE(telephone->packets().stopSession(), 0);
+    QCOMPARE(handset->packets().stopSession(), 0);
     Line line(owner);
     Panel panel(line, {QStringLiteral("/home/somebody/.local/share/kavcallmeter"), {}, &installed->faults()});
     panel.resize(340, 400); // so that there is a scroll bar, too
@@ -1273,13 +1274,13 @@ void PanelTest::aCatalogueTranslatesAllThatThePanelSays()
     openWindow(owner);
     QCOMPARE(untranslated(), QString());
     QVERIFY(texts().filter(MarkingCatalogue::begin).size() > 150);
-    QCOMPARE(telephone->packets().startSession("1", 1, 1), 0);
+    QCOMPARE(handset->packets().startSession("1", 1, 1), 0);
     QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("3"), 0);
     QCOMPARE(untranslated(), QString());
-    QCOMPARE(telephone->simCard().setPin2Enabled(false), 0);
+    QCOMPARE(handset->simCard().setPin2Enabled(false), 0);
     QCOMPARE(untranslated(), QString());
-    QCOMPARE(telephone->simCard().setPin2Enabled(true), 0);
+    QCOMPARE(handset->simCard().setPin2Enabled(true), 0);
     QVERIFY(enterPin2("1234"));
     QCOMPARE(untranslated(), QString());
     for (int i = 0; i < 3; ++i)
@@ -1309,13 +1310,13 @@ void PanelTest::aCatalogueTranslatesTheLineAndTheEndOfCharging()
     const auto isSaid = [this](const char *name, const char *text) {
         return label(name).contains(QLatin1StringView(text)) && untranslated().isEmpty();
     };
-    QCOMPARE(telephone->ring({}), 0);
+    QCOMPARE(handset->ring({}), 0);
     QVERIFY(isSaid("line state", "number withheld"));
-    QCOMPARE(telephone->hangUp(), 0);
+    QCOMPARE(handset->hangUp(), 0);
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("3"), 0);
-    QCOMPARE(telephone->dial("5550123", CallKind::Data), 0);
+    QCOMPARE(handset->dial("5550123", CallKind::Data), 0);
     QVERIFY(isSaid("line state", "data call"));
-    QCOMPARE(telephone->remoteAnswer(), 0);
+    QCOMPARE(handset->remoteAnswer(), 0);
     QVERIFY(isSaid("line state", "Connected 00:00:00"));
     pass(1000);
     QTRY_VERIFY_WITH_TIMEOUT(isSaid("charge notice", "The credit limit is reached in"), 60'000);
@@ -1334,12 +1335,12 @@ void PanelTest::aCatalogueTranslatesThatAnEndIsNotWritten()
 {
     const MarkingCatalogue catalogue;
     const QTemporaryDir state;
-    openTelephoneIn(state.filePath(QStringLiteral("state")));
-    QCOMPARE(telephone->ring({}), 0);
+    openHandsetIn(state.filePath(QStringLiteral("state")));
+    QCOMPARE(handset->ring({}), 0);
     {
         const support::FullDisk full(0);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^The call log failed: ")));
-        QCOMPARE(telephone->hangUp(), 0);
+        QCOMPARE(handset->hangUp(), 0);
     }
     QVERIFY(label("record notice").contains(QStringLiteral("cannot be written")));
     QCOMPARE(untranslated(), QString());
@@ -1357,7 +1358,7 @@ void PanelTest::aCatalogueTranslatesTheNamesOfTheKeys()
     }
 }
 
-void PanelTest::anotherTelephoneThanTheSimulatedHasNothingToSet()
+void PanelTest::anotherHandsetThanTheSimulatedHasNothingToSet()
 {
     openWindow(std::make_shared<BareHandset>());
     for (const char *name : {"tariff dialed units", "price", "top-up amount", "EF_ACM", "pin2 on", "pin2", "puk2"})

@@ -39,8 +39,8 @@ private slots:
     void tracesAreDroppedUnlessAskedFor();
     void callsAreChargedAsTheScriptSays();
     void theClockEndsACallThatReachesItsLimit();
-    void whatTheTelephoneRefusesIsTold_data();
-    void whatTheTelephoneRefusesIsTold();
+    void whatTheHandsetRefusesIsTold_data();
+    void whatTheHandsetRefusesIsTold();
     void aTextIsTypedIntoAnEntryField();
     void rulesAndPin2GuardTheSetup();
     void operationsFailUntilTheyWorkAgain();
@@ -422,7 +422,7 @@ void TourTest::theClockEndsACallThatReachesItsLimit()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::whatTheTelephoneRefusesIsTold_data()
+void TourTest::whatTheHandsetRefusesIsTold_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<int>("status");
@@ -435,7 +435,7 @@ void TourTest::whatTheTelephoneRefusesIsTold_data()
     QTest::newRow("the end of no session") << QByteArray("\nsession stop\n") << 4;
 }
 
-void TourTest::whatTheTelephoneRefusesIsTold()
+void TourTest::whatTheHandsetRefusesIsTold()
 {
     QFETCH(QByteArray, script);
     QFETCH(int, status);

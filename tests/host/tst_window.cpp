@@ -12,7 +12,7 @@
 #include "host/panel/Panel.h"
 #include "host/phone/Keypad.h"
 #include "host/phone/PhoneKey.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZKbMainWidget.h"
@@ -34,13 +34,13 @@
 #include <QtWidgets/QPushButton>
 
 using namespace host;
-using handset::simulated::SimulatedTelephone;
+using handset::simulated::SimulatedHandset;
 
 namespace {
 
 constexpr int patienceMs = 60'000;
 
-// A telephone that is not the simulated one and has no role at all.
+// A handset that is not the simulated one and has no role at all.
 class BareHandset : public handset::Handset
 {
 public:
@@ -59,14 +59,14 @@ private slots:
     void initTestCase();
     void init();
     void cleanup();
-    void thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade();
-    void aScreenThatIsOpenedBeforeThatWaitsForTheTelephone();
-    void aTelephoneThatCannotBeOpenedClosesTheWindow();
+    void thePhoneIsPaintedBeforeTheHandsetIsOpenedAndThePanelMade();
+    void aScreenThatIsOpenedBeforeThatWaitsForTheHandset();
+    void aHandsetThatCannotBeOpenedClosesTheWindow();
     void howFarTheOpeningIsIsPaintedInThePanelsPlace();
     void anEventInALongOpeningDoesNotBeginAnother();
     void aWindowThatIsClosedInALongOpeningEndsWell();
     void aWindowThatIsNotPaintedYetShowsALongOpening();
-    void whoListensAlreadyStillHearsTheTelephone();
+    void whoListensAlreadyStillHearsTheHandset();
     void damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace();
     void theMenuHasTheKeysAtTheStart();
     void keypadKeysDriveTheScreensAndLeaveTheFocus();
@@ -84,14 +84,14 @@ private slots:
     void theReadyMadeHistoryIsAdded();
     void aRefusedOperationIsToldAndForgotten();
     void stateDirectoryAndNoticeAreShown();
-    void anotherTelephoneThanTheSimulatedIsSaid();
+    void anotherHandsetThanTheSimulatedIsSaid();
     void everyControlHasANameAndATabStop();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft();
     void theKeypadLooksTheSameRightToLeft();
 
 private:
-    void openWindow(const std::shared_ptr<handset::Handset> &telephone, const QString &directory = {},
+    void openWindow(const std::shared_ptr<handset::Handset> &handset, const QString &directory = {},
                     const QString &notice = {});
     void makeWindow(std::function<void()> whileOpening);
     void tellProgress(int percent);
@@ -110,7 +110,7 @@ private:
     ScreenLibrary library;
     std::shared_ptr<handset::ManualClock> clock;
     std::shared_ptr<handset::Handset> owner;
-    SimulatedTelephone *telephone = nullptr;
+    SimulatedHandset *handset = nullptr;
     std::unique_ptr<PhoneWindow> window;
 };
 
@@ -127,8 +127,8 @@ void WindowTest::init()
     const handset::Opened opened = handset::open({"simulated", {}, clock});
     QVERIFY2(opened.handset, qPrintable(opened.error));
     owner = opened.handset;
-    telephone = dynamic_cast<SimulatedTelephone *>(owner.get());
-    QVERIFY(telephone);
+    handset = dynamic_cast<SimulatedHandset *>(owner.get());
+    QVERIFY(handset);
     openWindow(owner);
 }
 
@@ -139,12 +139,12 @@ void WindowTest::cleanup()
     owner.reset();
 }
 
-void WindowTest::openWindow(const std::shared_ptr<handset::Handset> &handset, const QString &directory,
+void WindowTest::openWindow(const std::shared_ptr<handset::Handset> &behind, const QString &directory,
                             const QString &notice)
 {
     window.reset();
-    handset::install(handset);
-    window = std::make_unique<PhoneWindow>(library, PhoneWindow::Telephone{handset, directory, notice});
+    handset::install(behind);
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::OpenedHandset{behind, directory, notice});
     showWindow();
 }
 
@@ -223,13 +223,13 @@ private:
 
 } // namespace
 
-void WindowTest::thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade()
+void WindowTest::thePhoneIsPaintedBeforeTheHandsetIsOpenedAndThePanelMade()
 {
     QStringList paintedBefore;
     const PaintWatch *watching = nullptr;
     window = std::make_unique<PhoneWindow>(library, [&] {
         paintedBefore = watching->withoutPanel;
-        return PhoneWindow::Telephone{owner, {}, {}};
+        return PhoneWindow::OpenedHandset{owner, {}, {}};
     });
     const PaintWatch watch(window.get());
     watching = &watch;
@@ -243,12 +243,12 @@ void WindowTest::thePhoneIsPaintedBeforeTheTelephoneIsOpenedAndThePanelMade()
     QVERIFY(button("Dial")->isVisible());
 }
 
-void WindowTest::aScreenThatIsOpenedBeforeThatWaitsForTheTelephone()
+void WindowTest::aScreenThatIsOpenedBeforeThatWaitsForTheHandset()
 {
     int opened = 0;
     window = std::make_unique<PhoneWindow>(library, [&] {
         ++opened;
-        return PhoneWindow::Telephone{owner, {}, {}};
+        return PhoneWindow::OpenedHandset{owner, {}, {}};
     });
     QVERIFY(window->openScreen(0));
     QCOMPARE(opened, 1);
@@ -257,10 +257,10 @@ void WindowTest::aScreenThatIsOpenedBeforeThatWaitsForTheTelephone()
     QCOMPARE(opened, 1);
 }
 
-void WindowTest::aTelephoneThatCannotBeOpenedClosesTheWindow()
+void WindowTest::aHandsetThatCannotBeOpenedClosesTheWindow()
 {
     int tried = 0;
-    window = std::make_unique<PhoneWindow>(library, [&]() -> std::optional<PhoneWindow::Telephone> {
+    window = std::make_unique<PhoneWindow>(library, [&]() -> std::optional<PhoneWindow::OpenedHandset> {
         ++tried;
         return {};
     });
@@ -272,16 +272,16 @@ void WindowTest::aTelephoneThatCannotBeOpenedClosesTheWindow()
     QCOMPARE(tried, 1);
 }
 
-// One that opens a telephone that has been opened long before.
+// One that opens a handset that has been opened long before.
 void WindowTest::makeWindow(std::function<void()> whileOpening)
 {
     window = std::make_unique<PhoneWindow>(library, [this, whileOpening] {
         whileOpening();
-        return PhoneWindow::Telephone{owner, {}, {}};
+        return PhoneWindow::OpenedHandset{owner, {}, {}};
     });
 }
 
-// As a telephone that is being opened does.
+// As a handset that is being opened does.
 void WindowTest::tellProgress(int percent)
 {
     handset::Settings settings;
@@ -372,7 +372,7 @@ void WindowTest::aWindowThatIsNotPaintedYetShowsALongOpening()
     QVERIFY(isPainted);
 }
 
-void WindowTest::whoListensAlreadyStillHearsTheTelephone()
+void WindowTest::whoListensAlreadyStillHearsTheHandset()
 {
     QStringList heard;
     handset::Settings settings;
@@ -393,7 +393,7 @@ static void makeDamagedLog(const QString &directory)
     handset::Settings settings;
     settings.stateDirectory = directory;
     const auto opened = handset::open(settings);
-    auto *made = dynamic_cast<SimulatedTelephone *>(opened.handset.get());
+    auto *made = dynamic_cast<SimulatedHandset *>(opened.handset.get());
     QVERIFY2(made, qPrintable(opened.error));
     QList<handset::simulated::PastCall> calls;
     for (int i = 0; i < 60'000; ++i)
@@ -427,7 +427,7 @@ void WindowTest::damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace(
                 steps << label("opening step");
         };
         const auto opened = handset::open(settings);
-        return PhoneWindow::Telephone{opened.handset, state.path(), opened.notice};
+        return PhoneWindow::OpenedHandset{opened.handset, state.path(), opened.notice};
     };
     window = std::make_unique<PhoneWindow>(library, open);
     showWindow();
@@ -537,7 +537,7 @@ void WindowTest::aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst()
     auto *recorded = reinterpret_cast<RecordedCalls *>(QLibrary::resolve(plugin, "recordedCalls"));
     QVERIFY(recorded);
     QStringList &calls = *recorded();
-    window = std::make_unique<PhoneWindow>(recording, PhoneWindow::Telephone{owner, {}, {}});
+    window = std::make_unique<PhoneWindow>(recording, PhoneWindow::OpenedHandset{owner, {}, {}});
     showWindow();
     QVERIFY(window->openScreen(0));
     calls.clear();
@@ -585,16 +585,16 @@ void WindowTest::aWithheldNumberCanRing()
 void WindowTest::theColouredKeysAnswerDialAndHangUp()
 {
     clickKey("Call");
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Dialing);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Dialing);
     clickKey("Call"); // nothing to answer, and the line is taken
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Dialing);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Dialing);
     clickKey("Hang up");
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
     click("Incoming call");
     clickKey("Call");
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Connected);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Connected);
     clickKey("Hang up");
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
     clickKey("Hang up");
     QCOMPARE(label("line failure"), "");
 }
@@ -605,7 +605,7 @@ void WindowTest::digitsOfTheKeypadMakeUpTheNumber()
         clickKey(key);
     QCOMPARE(window->findChild<QLineEdit *>()->text(), "*100#");
     clickKey("Call");
-    QCOMPARE(telephone->number(), "*100#");
+    QCOMPARE(handset->number(), "*100#");
     clickKey("Hang up");
     clickKey("Clear"); // a number that was dialed is no longer being typed
     QCOMPARE(window->findChild<QLineEdit *>()->text(), "*100#");
@@ -671,7 +671,7 @@ void WindowTest::aRefusedOperationIsToldAndForgotten()
     click("Dial");
     QCOMPARE(label("line failure"), "Not done: the number is not one that can be dialed.");
     QVERIFY(window->findChild<QLabel *>("line failure")->isVisible());
-    QCOMPARE(telephone->lineState(), SimulatedTelephone::LineState::Idle);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
     line->setText("123");
     click("Dial");
     QCOMPARE(label("line failure"), "");
@@ -688,7 +688,7 @@ void WindowTest::stateDirectoryAndNoticeAreShown()
     QCOMPARE(label("notice"), "The old file is kept aside.");
 }
 
-void WindowTest::anotherTelephoneThanTheSimulatedIsSaid()
+void WindowTest::anotherHandsetThanTheSimulatedIsSaid()
 {
     openWindow(std::make_shared<BareHandset>());
     QCOMPARE(label("line state"), "This telephone cannot be driven from here.");

@@ -1,4 +1,4 @@
-// What happened in a test, in one order: telephone operations, toolkit calls, translations.
+// What happened in a test, in one order: handset operations, toolkit calls, translations.
 #pragma once
 
 #include <QtCore/QHash>

@@ -12,7 +12,7 @@
 
 #include <memory>
 
-/// Before each test function: an empty journal, a scripted telephone of its own, traces caught, and a failure for
+/// Before each test function: an empty journal, a scripted handset of its own, traces caught, and a failure for
 /// any warning. Inherit, and override init() only to call it first.
 class PhoneTest : public QObject
 {

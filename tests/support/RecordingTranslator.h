@@ -5,7 +5,7 @@
 #include <QtCore/QList>
 #include <QtCore/QTranslator>
 
-/// Installed in the application while it lives. Answers what add() put in, and null for the rest, as a catalogue
+/// Installed in the application while it lives. Returns what add() put in, and null for the rest, as a catalogue
 /// without an entry does.
 class RecordingTranslator : public QTranslator
 {

@@ -1,4 +1,4 @@
-// What the operations of a scripted telephone answer, as data.
+// What the operations of a scripted handset answer, as data.
 #pragma once
 
 #include "handset/Operations.h"

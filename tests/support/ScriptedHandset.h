@@ -1,4 +1,4 @@
-// A telephone that does what a test scripts, and records what it is asked.
+// A handset that does what a test scripts, and records what it is asked.
 #pragma once
 
 #include "support/Script.h"
@@ -19,7 +19,7 @@ public:
     Script script;
 };
 
-/// Makes a scripted telephone the one that the phone's libraries talk to, for as long as it lives.
+/// Makes a scripted handset the one that the phone's libraries talk to, for as long as it lives.
 class InstalledHandset
 {
 public:

@@ -22,7 +22,7 @@ private slots:
     void aFailingOperationWritesNoOutputs();
     void anEffectRunsBeforeTheAnswer();
     void aRoleThatIsTakenAwayIsNull();
-    void theInstalledTelephoneIsTheScriptedOne();
+    void theInstalledHandsetIsTheScriptedOne();
     void capturedTracesAreComparedWithoutLineNumbers();
     void theTraceStreamComesBackAfterACapture();
     void theTranslatorTellsAnEmptyTextFromAMissingOne();
@@ -137,7 +137,7 @@ void TestFixtures::aRoleThatIsTakenAwayIsNull()
     QVERIFY((*handset)->callService());
 }
 
-void TestFixtures::theInstalledTelephoneIsTheScriptedOne()
+void TestFixtures::theInstalledHandsetIsTheScriptedOne()
 {
     QCOMPARE(handset::current().get(), handset->operator->());
     handset.reset();

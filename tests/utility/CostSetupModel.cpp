@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <charconv>
 
-using Mood = TelephoneMood;
+using Mood = HandsetMood;
 
 namespace {
 
@@ -92,8 +92,8 @@ QString codeOf(const QString &name)
 
 } // namespace
 
-CostSetupModel::CostSetupModel(ExpectedTelephone &expected)
-    : telephone(expected)
+CostSetupModel::CostSetupModel(ExpectedHandset &expected)
+    : handset(expected)
 {
     ruleOfCosts = ruleOf(61);
     ruleOfLimit = ruleOf(59);
@@ -105,24 +105,24 @@ CostSetupModel::CostSetupModel(ExpectedTelephone &expected)
     disable(6, 8, ruleOfPrice);
     refresh();
     if ((ruleOfLimit == 6 && rows[5].isEnabled) || (ruleOfPrice == 6 && rows[7].isEnabled))
-        telephone.happened("a row that must not be updated comes back enabled");
+        handset.happened("a row that must not be updated comes back enabled");
 }
 
-// --- the telephone
+// --- the handset
 
 int CostSetupModel::call(const char *operation, const QString &arguments)
 {
     const QString name = QString::fromLatin1(operation);
-    telephone.calls.append(arguments.isNull() ? name : name + QLatin1Char('(') + arguments + QLatin1Char(')'));
-    const int status = telephone.mood.statusOf(operation);
+    handset.calls.append(arguments.isNull() ? name : name + QLatin1Char('(') + arguments + QLatin1Char(')'));
+    const int status = handset.mood.statusOf(operation);
     if (status != 0)
-        telephone.happened(QByteArray(operation).append(" fails").constData());
+        handset.happened(QByteArray(operation).append(" fails").constData());
     return status;
 }
 
 quint8 CostSetupModel::ruleOf(int file)
 {
-    return call("AdviceOfCharge::updateRule", QString::number(file)) == 0 ? telephone.mood.rules.value(file) : 0;
+    return call("AdviceOfCharge::updateRule", QString::number(file)) == 0 ? handset.mood.rules.value(file) : 0;
 }
 
 void CostSetupModel::disable(int first, int last, quint8 rule)
@@ -135,11 +135,11 @@ QString CostSetupModel::askUnit()
 {
     if (call("AdviceOfCharge::chargeType") != 0)
         return QString();
-    if (telephone.stored.chargeType == 0)
+    if (handset.stored.chargeType == 0)
         return QStringLiteral("units");
-    if (telephone.stored.chargeType != 1 || call("AdviceOfCharge::priceAndCurrency") != 0)
+    if (handset.stored.chargeType != 1 || call("AdviceOfCharge::priceAndCurrency") != 0)
         return QString();
-    return telephone.stored.currency;
+    return handset.stored.currency;
 }
 
 void CostSetupModel::refresh()
@@ -147,18 +147,18 @@ void CostSetupModel::refresh()
     const QString behind = QLatin1Char(' ') + askUnit();
     if (call("AdviceOfCharge::meterMaximum") != 0)
         return;
-    edited.limit = telephone.stored.limit;
-    edited.limitIsOn = telephone.stored.limitIsOn;
+    edited.limit = handset.stored.limit;
+    edited.limitIsOn = handset.stored.limitIsOn;
     showLimit();
     rows[5].value = edited.limit + behind;
     if (call("AdviceOfCharge::chargeType") != 0)
         return;
-    edited.chargeType = telephone.stored.chargeType;
+    edited.chargeType = handset.stored.chargeType;
     showChargeType();
     if (call("AdviceOfCharge::priceAndCurrency") != 0)
         return;
-    edited.price = telephone.stored.price;
-    edited.currency = telephone.stored.currency;
+    edited.price = handset.stored.price;
+    edited.currency = handset.stored.currency;
     if (edited.chargeType != 1)
         rows[7].value = QStringLiteral("units");
     else if (!edited.currency.isEmpty())
@@ -184,15 +184,15 @@ bool CostSetupModel::writeLimit()
 {
     if (changes.limit) {
         if (changes.limitIsOn && !edited.limitIsOn)
-            telephone.happened("a new limit drops the switched-off one");
+            handset.happened("a new limit drops the switched-off one");
         if (call("AdviceOfCharge::setMeterMaximum", edited.limit) != 0)
             return false;
-        telephone.stored.limit = edited.limit;
-        telephone.stored.limitIsOn = true;
+        handset.stored.limit = edited.limit;
+        handset.stored.limitIsOn = true;
     } else if (changes.limitIsOn && !edited.limitIsOn) {
         if (call("AdviceOfCharge::disableMeterMaximum") != 0)
             return false;
-        telephone.stored.limitIsOn = false;
+        handset.stored.limitIsOn = false;
     }
     return true;
 }
@@ -204,13 +204,13 @@ void CostSetupModel::write()
     if (changes.chargeType) {
         if (call("AdviceOfCharge::setChargeType", QString::number(edited.chargeType)) != 0)
             return;
-        telephone.stored.chargeType = edited.chargeType;
+        handset.stored.chargeType = edited.chargeType;
     }
     if (changes.price || changes.currency) {
         if (call("AdviceOfCharge::setPriceAndCurrency", edited.price + QLatin1String(", ") + edited.currency) != 0)
             return;
-        telephone.stored.price = edited.price;
-        telephone.stored.currency = edited.currency;
+        handset.stored.price = edited.price;
+        handset.stored.currency = edited.currency;
     }
     changes = {};
 }
@@ -261,7 +261,7 @@ void CostSetupModel::pressOnChoice(Popup &popup, int key)
         popup.isVisible = false;
         choose(popup);
     } else if (isRight(key)) {
-        telephone.happened("a choice is cancelled");
+        handset.happened("a choice is cancelled");
         closeCurrent();
     }
 }
@@ -273,11 +273,11 @@ void CostSetupModel::pressOnEntry(Popup &popup, int key)
     if (isLeft(key)) {
         save(popup);
     } else if (isRight(key) && popup.editor == CustomEntry) {
-        telephone.happened("Cancel in the custom code leads back to the list");
+        handset.happened("Cancel in the custom code leads back to the list");
         popup.isVisible = false;
         openEditor(List, "Currency Type");
     } else if (isRight(key)) {
-        telephone.happened("an entry is cancelled");
+        handset.happened("an entry is cancelled");
         closeCurrent();
     } else if (key == Qt::Key_NumberSign) {
         popup.text.chop(1);
@@ -326,7 +326,7 @@ void CostSetupModel::tap(Popup &popup, int key)
 void CostSetupModel::goBack()
 {
     if (changes.any())
-        telephone.happened("Back with edits to write");
+        handset.happened("Back with edits to write");
     isSaved = true;
     write();
     ++closings;
@@ -334,11 +334,11 @@ void CostSetupModel::goBack()
 
 void CostSetupModel::destroy()
 {
-    telephone.happened(isSaved ? "the screen goes after Back" : "the screen goes without Back");
+    handset.happened(isSaved ? "the screen goes after Back" : "the screen goes without Back");
     if (!isSaved && changes.any())
-        telephone.happened("the screen goes with edits to write");
+        handset.happened("the screen goes with edits to write");
     if (!timers.isEmpty())
-        telephone.happened("the screen goes before its timer");
+        handset.happened("the screen goes before its timer");
     if (!isSaved)
         write();
 }
@@ -346,7 +346,7 @@ void CostSetupModel::destroy()
 void CostSetupModel::select(int row)
 {
     if (!rows[size_t(row)].isEnabled) {
-        telephone.happened("a disabled row is selected");
+        handset.happened("a disabled row is selected");
         return;
     }
     if (!mayOpen(row))
@@ -374,34 +374,34 @@ void CostSetupModel::select(int row)
 
 bool CostSetupModel::mayOpen(int row)
 {
-    telephone.calls.append(QStringLiteral("SimSecurity::pinStatus(1)"));
+    handset.calls.append(QStringLiteral("SimSecurity::pinStatus(1)"));
     lastIndex = row;
     const quint8 rule = row < 4 ? ruleOfCosts : row < 6 ? ruleOfLimit : ruleOfPrice;
-    const bool isEntered = telephone.mood.statusOf("SimSecurity::pinStatus") == 0 && telephone.mood.pinStatus == 3;
+    const bool isEntered = handset.mood.statusOf("SimSecurity::pinStatus") == 0 && handset.mood.pinStatus == 3;
     if (rule != 4 || isEntered)
         return true;
     const bool accepted = pinIsAccepted();
-    telephone.happened(accepted ? "PIN2 is accepted" : "PIN2 is not accepted");
+    handset.happened(accepted ? "PIN2 is accepted" : "PIN2 is not accepted");
     return accepted;
 }
 
 bool CostSetupModel::pinIsAccepted()
 {
-    const PinAnswer &answer = telephone.nextPin;
+    const PinAnswer &answer = handset.nextPin;
     advance(answer.waits);
     if (answer.isScripted) {
-        telephone.calls.append(QStringLiteral("SETUP_SECURITY_Util::verifyPin(1, 1)"));
+        handset.calls.append(QStringLiteral("SETUP_SECURITY_Util::verifyPin(1, 1)"));
         return answer.result != 0 && answer.error == 0;
     }
     for (const QByteArray &digits : answer.attempts) {
-        telephone.calls.append(QStringLiteral("SimSecurity::pinStatus(1)"));
-        if (telephone.mood.statusOf("SimSecurity::pinStatus") != 0)
+        handset.calls.append(QStringLiteral("SimSecurity::pinStatus(1)"));
+        if (handset.mood.statusOf("SimSecurity::pinStatus") != 0)
             return false;
-        telephone.calls.append(QStringLiteral("SimSecurity::triesLeft(1)"));
-        if (telephone.mood.pinStatus == 2 || telephone.mood.triesLeft == 0 || digits.isEmpty())
+        handset.calls.append(QStringLiteral("SimSecurity::triesLeft(1)"));
+        if (handset.mood.pinStatus == 2 || handset.mood.triesLeft == 0 || digits.isEmpty())
             return false;
-        telephone.calls.append(QStringLiteral("SimSecurity::verifyPin(1, %1)").arg(QString::fromLatin1(digits)));
-        if (telephone.mood.statusOf("SimSecurity::verifyPin") != 0)
+        handset.calls.append(QStringLiteral("SimSecurity::verifyPin(1, %1)").arg(QString::fromLatin1(digits)));
+        if (handset.mood.statusOf("SimSecurity::verifyPin") != 0)
             return false;
         if (digits == "1234")
             return true;
@@ -411,8 +411,8 @@ bool CostSetupModel::pinIsAccepted()
 
 void CostSetupModel::reset(int row)
 {
-    telephone.happened("costs are reset");
-    telephone.calls.append(QString::fromLatin1(resetFacts[row].operation));
+    handset.happened("costs are reset");
+    handset.calls.append(QString::fromLatin1(resetFacts[row].operation));
     open({.kind = Kind::Notice, .header = QStringLiteral("Reset Calls"), .text = resetFacts[row].message});
     timers.append(noticeTime);
 }
@@ -428,7 +428,7 @@ CostSetupModel::Popup *CostSetupModel::visible()
 CostSetupModel::Popup *CostSetupModel::open(Popup popup)
 {
     if (current)
-        telephone.happened("a popup is left behind");
+        handset.happened("a popup is left behind");
     current = popups.emplace_back(std::make_unique<Popup>(std::move(popup))).get();
     return current;
 }
@@ -458,12 +458,12 @@ void CostSetupModel::advance(int milliseconds)
     while (!timers.isEmpty() && timers.first() <= 0) {
         timers.removeFirst();
         if (!current)
-            telephone.happened("the timer finds nothing to close");
+            handset.happened("the timer finds nothing to close");
         else if (current->kind != Kind::Notice)
-            telephone.happened(current->isVisible ? "the timer closes an open editor"
-                                                  : "the timer takes away a hidden editor");
+            handset.happened(current->isVisible ? "the timer closes an open editor"
+                                                : "the timer takes away a hidden editor");
         else
-            telephone.happened("the timer closes a notice");
+            handset.happened("the timer closes a notice");
         closeCurrent();
     }
 }
@@ -484,7 +484,7 @@ QStringList CostSetupModel::choices(int editor)
 void CostSetupModel::choose(const Popup &popup)
 {
     if (popup.editor == LimitChoice) {
-        telephone.happened(popup.row == 0 ? "the limit is switched on" : "the limit is switched off");
+        handset.happened(popup.row == 0 ? "the limit is switched on" : "the limit is switched off");
         edited.limitIsOn = popup.row == 0;
         changes.limitIsOn = true;
         showLimit();
@@ -495,15 +495,15 @@ void CostSetupModel::choose(const Popup &popup)
         return;
     }
     if (popup.editor == CurrencyChoice) {
-        telephone.happened("the currency is switched");
+        handset.happened("the currency is switched");
         edited.chargeType = popup.row == 0 ? 1 : 0;
         changes.chargeType = true;
         showChargeType();
     } else {
         const QString name = choices(List).at(popup.row);
-        telephone.happened("a currency is chosen");
+        handset.happened("a currency is chosen");
         if (name.endsWith(QLatin1Char(' ')))
-            telephone.happened("a currency whose name ends in a blank is chosen");
+            handset.happened("a currency whose name ends in a blank is chosen");
         edited.currency = codeOf(name);
         changes.currency = true;
     }
@@ -514,24 +514,24 @@ void CostSetupModel::choose(const Popup &popup)
 void CostSetupModel::save(const Popup &popup)
 {
     if (popup.text.isEmpty()) {
-        telephone.happened("an empty entry is shown again");
+        handset.happened("an empty entry is shown again");
         return;
     }
     const bool isSmall = isBelowAThousandth(popup.text);
     const QString entry = isSmall ? QStringLiteral("0.000") : popup.text;
     const int editor = popup.editor;
     if (isSmall)
-        telephone.happened("a small number becomes 0.000");
+        handset.happened("a small number becomes 0.000");
     if (editor == LimitEntry) {
-        telephone.happened("a limit is saved");
+        handset.happened("a limit is saved");
         edited.limit = entry;
         changes.limit = true;
     } else if (editor == PriceEntry) {
-        telephone.happened("a price is saved");
+        handset.happened("a price is saved");
         edited.price = entry;
         changes.price = true;
     } else {
-        telephone.happened("a custom code is saved");
+        handset.happened("a custom code is saved");
         edited.currency = entry;
         changes.currency = true;
     }

@@ -24,8 +24,8 @@ struct ChargeSettings {
     QString currency;
 };
 
-/// How the telephone answers now. A status of 0 is success.
-struct TelephoneMood {
+/// How the handset answers now. A status of 0 is success.
+struct HandsetMood {
     std::array<int, handset::operationNames.size()> status = {};
     int &statusOf(std::string_view operation)
     {
@@ -46,10 +46,10 @@ struct PinAnswer {
     int waits = 0; ///< milliseconds that pass while it is asked
 };
 
-/// The telephone as the model takes it to be, and the calls that it is to have got.
-struct ExpectedTelephone {
+/// The handset as the model takes it to be, and the calls that it is to have got.
+struct ExpectedHandset {
     ChargeSettings stored;
-    TelephoneMood mood;
+    HandsetMood mood;
     PinAnswer nextPin;
     QStringList calls;
     QMap<QString, int> counts; ///< how often something worth mentioning happened
@@ -91,7 +91,7 @@ public:
     };
 
     /// The screen is made.
-    explicit CostSetupModel(ExpectedTelephone &telephone);
+    explicit CostSetupModel(ExpectedHandset &handset);
 
     /// `key` (a Qt::Key) is pressed and released.
     void press(int key);
@@ -148,7 +148,7 @@ private:
     void closeCurrent();
     void goBack();
 
-    ExpectedTelephone &telephone;
+    ExpectedHandset &handset;
     quint8 ruleOfCosts = 0;
     quint8 ruleOfLimit = 0;
     quint8 ruleOfPrice = 0;

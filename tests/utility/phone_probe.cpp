@@ -1,5 +1,5 @@
 // A host as small as can be, for tests that need a process of its own: loads the plug-in, opens Call Times over a
-// scripted telephone, prints what is on the screen.
+// scripted handset, prints what is on the screen.
 //
 //   phone_probe rows|untraced [LIBRARY]
 //

@@ -36,7 +36,7 @@ namespace {
 struct RowFacts {
     const char *title;
     const char *titleKey;
-    const char *value; // with the unit "EUR", as init() scripts the telephone
+    const char *value; // with the unit "EUR", as init() scripts the handset
     const char *operation;
     const char *header;
     const char *headerKey;

@@ -1,4 +1,4 @@
-// Thousands of random keys on the Call Costs screen, over a telephone that answers at random, beside a model that says
+// Thousands of random keys on the Call Costs screen, over a handset that answers at random, beside a model that says
 // what a person must see.
 #include "utility/PHONE_UI_RecentCallCostsView.h"
 
@@ -41,8 +41,8 @@ constexpr const char *messages[figureCount] = {
     "The cost of all your calls is %1"};
 constexpr const char *currencies[] = {"EUR", "GBP", "ATS", "gbp", "", "PYK"};
 
-// What the telephone has, and how it answers now.
-struct Telephone {
+// What the handset has, and how it answers now.
+struct HandsetState {
     std::array<QByteArray, figureCount> amounts; // the date's place is not used
     Date date{2006, 3, 9};
     std::array<bool, figureCount> fails{};
@@ -86,53 +86,53 @@ private slots:
     void everyKeyDoesWhatThePersonExpects();
 
 private:
-    void changeTelephone(QRandomGenerator &random);
-    void scriptTelephone();
+    void changeHandset(QRandomGenerator &random);
+    void scriptHandset();
     QString valueNow(size_t row) const;
     void readAllInModel();
     void pressInModel(PhoneKey key, int currentRow);
     void compareWithScreen(const CallCosts &screen);
 
-    Telephone telephone;
+    HandsetState handset;
     Person person;
 };
 
-void TestCallCostsWalk::changeTelephone(QRandomGenerator &random)
+void TestCallCostsWalk::changeHandset(QRandomGenerator &random)
 {
     const auto row = size_t(random.bounded(figureCount));
-    telephone.amounts[row] = QByteArray::number(random.bounded(1000)) + (random.bounded(2) ? ".50" : "");
-    telephone.date = {quint16(random.bounded(65536)), quint8(random.bounded(256)), quint8(random.bounded(256))};
-    telephone.fails[row] = random.bounded(4) == 0;
-    telephone.chargeType = quint8(random.bounded(3));
-    telephone.typeFails = random.bounded(8) == 0;
-    telephone.currency = QString::fromLatin1(currencies[random.bounded(int(std::size(currencies)))]);
-    telephone.currencyFails = random.bounded(8) == 0;
-    scriptTelephone();
+    handset.amounts[row] = QByteArray::number(random.bounded(1000)) + (random.bounded(2) ? ".50" : "");
+    handset.date = {quint16(random.bounded(65536)), quint8(random.bounded(256)), quint8(random.bounded(256))};
+    handset.fails[row] = random.bounded(4) == 0;
+    handset.chargeType = quint8(random.bounded(3));
+    handset.typeFails = random.bounded(8) == 0;
+    handset.currency = QString::fromLatin1(currencies[random.bounded(int(std::size(currencies)))]);
+    handset.currencyFails = random.bounded(8) == 0;
+    scriptHandset();
 }
 
-void TestCallCostsWalk::scriptTelephone()
+void TestCallCostsWalk::scriptHandset()
 {
     for (size_t row = 0; row < figureCount; ++row) {
         if (row == dateRow)
-            script().answer(operations[row], telephone.date);
+            script().answer(operations[row], handset.date);
         else
-            script().answer(operations[row], telephone.amounts[row]);
-        script().fail(operations[row], telephone.fails[row] ? -3 : 0);
+            script().answer(operations[row], handset.amounts[row]);
+        script().fail(operations[row], handset.fails[row] ? -3 : 0);
     }
-    script().answer("AdviceOfCharge::chargeType", telephone.chargeType);
-    script().fail("AdviceOfCharge::chargeType", telephone.typeFails ? 1 : 0);
-    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), telephone.currency);
-    script().fail("AdviceOfCharge::priceAndCurrency", telephone.currencyFails ? 2 : 0);
+    script().answer("AdviceOfCharge::chargeType", handset.chargeType);
+    script().fail("AdviceOfCharge::chargeType", handset.typeFails ? 1 : 0);
+    script().answer("AdviceOfCharge::priceAndCurrency", QString("0.10"), handset.currency);
+    script().fail("AdviceOfCharge::priceAndCurrency", handset.currencyFails ? 2 : 0);
 }
 
 QString TestCallCostsWalk::valueNow(size_t row) const
 {
-    return row == dateRow ? telephone.figure(row) : telephone.figure(row) + QLatin1Char(' ') + person.unit;
+    return row == dateRow ? handset.figure(row) : handset.figure(row) + QLatin1Char(' ') + person.unit;
 }
 
 void TestCallCostsWalk::readAllInModel()
 {
-    person.unit = telephone.unit();
+    person.unit = handset.unit();
     for (size_t row = 0; row < figureCount; ++row)
         person.values[row] = valueNow(row);
 }
@@ -181,10 +181,10 @@ void TestCallCostsWalk::everyKeyDoesWhatThePersonExpects()
 {
     QFETCH(const quint32, seed);
     QRandomGenerator random(seed);
-    telephone = {};
+    handset = {};
     person = {};
-    telephone.amounts.fill("1.00");
-    scriptTelephone();
+    handset.amounts.fill("1.00");
+    scriptHandset();
     const CallCosts screen("callCost");
     screen->show();
     const QSignalSpy closed(screen.get(), "2closeWidget()");
@@ -193,7 +193,7 @@ void TestCallCostsWalk::everyKeyDoesWhatThePersonExpects()
     int setups = 0;
     for (int i = 0; i < keyCount; ++i) {
         if (random.bounded(4) == 0)
-            changeTelephone(random);
+            changeHandset(random);
         PhoneKey key = keys[random.bounded(int(std::size(keys)))];
         if (person.inSetup && (key == PhoneKey::Select || key == PhoneKey::LeftSoftkey))
             key = PhoneKey::Down;

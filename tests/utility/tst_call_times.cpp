@@ -35,7 +35,7 @@ const QString zero = QStringLiteral("00:00:00");
 
 struct RowFacts {
     const char *title;
-    const char *value;    // as TestCallTimes::init() scripts the telephone
+    const char *value;    // as TestCallTimes::init() scripts the handset
     const char *query;    // null: the data-call total, read once for all rows
     const char *reset;    // null: choosing the row does nothing
     const char *question; // null likewise
@@ -136,15 +136,15 @@ private slots:
     void theQuestionIsGoneAfterAnAnswer_data();
     void theQuestionIsGoneAfterAnAnswer();
     void aSecondQuestionBeforeTheFirstAnswerDoesNoHarm();
-    void aFailedResetShowsWhatTheTelephoneStillHas_data();
-    void aFailedResetShowsWhatTheTelephoneStillHas();
+    void aFailedResetShowsWhatTheHandsetStillHas_data();
+    void aFailedResetShowsWhatTheHandsetStillHas();
     void titlesAreNeverRewritten();
 
     void theDataCallStatusDecides_data();
     void theDataCallStatusDecides();
     void aFailedStatusQueryDoesNothing();
-    void theDataRowIsZeroThoughTheTelephoneRefuses();
-    void anAllCallsResetShowsTheDataTimeThatTheTelephoneHas();
+    void theDataRowIsZeroThoughTheHandsetRefuses();
+    void anAllCallsResetShowsTheDataTimeThatTheHandsetHas();
     void aResetDoesNotForgetTheSecondsRead();
 
     void theRefusalIsANoticeOfItsOwn();
@@ -159,7 +159,7 @@ private slots:
     void oneFailingOperationSpoilsItsOwnRowOnly();
     void allOperationsFailingLeaveZeroesAndAWayOut_data();
     void allOperationsFailingLeaveZeroesAndAWayOut();
-    void aTelephoneWithoutRolesLeavesZeroes();
+    void aHandsetWithoutRolesLeavesZeroes();
     void twoScreensDoNotDisturbEachOther();
 
 private:
@@ -526,7 +526,7 @@ void TestCallTimes::aSecondQuestionBeforeTheFirstAnswerDoesNoHarm()
     QVERIFY(!first);
 }
 
-void TestCallTimes::aFailedResetShowsWhatTheTelephoneStillHas_data()
+void TestCallTimes::aFailedResetShowsWhatTheHandsetStillHas_data()
 {
     QTest::addColumn<int>("row");
     QTest::addColumn<int>("code");
@@ -536,7 +536,7 @@ void TestCallTimes::aFailedResetShowsWhatTheTelephoneStillHas_data()
     }
 }
 
-void TestCallTimes::aFailedResetShowsWhatTheTelephoneStillHas()
+void TestCallTimes::aFailedResetShowsWhatTheHandsetStillHas()
 {
     QFETCH(const int, row);
     QFETCH(const int, code);
@@ -613,7 +613,7 @@ void TestCallTimes::aFailedStatusQueryDoesNothing()
     }
 }
 
-void TestCallTimes::theDataRowIsZeroThoughTheTelephoneRefuses()
+void TestCallTimes::theDataRowIsZeroThoughTheHandsetRefuses()
 {
     script().fail("DataCalls::resetTotalDuration", 3);
     open();
@@ -622,7 +622,7 @@ void TestCallTimes::theDataRowIsZeroThoughTheTelephoneRefuses()
     QCOMPARE(value(dataRow), zero);
 }
 
-void TestCallTimes::anAllCallsResetShowsTheDataTimeThatTheTelephoneHas()
+void TestCallTimes::anAllCallsResetShowsTheDataTimeThatTheHandsetHas()
 {
     script().fail("DataCalls::resetTotalDuration", 3);
     open();
@@ -806,7 +806,7 @@ void TestCallTimes::allOperationsFailingLeaveZeroesAndAWayOut()
     QCOMPARE(closed.count(), 2);
 }
 
-void TestCallTimes::aTelephoneWithoutRolesLeavesZeroes()
+void TestCallTimes::aHandsetWithoutRolesLeavesZeroes()
 {
     (*handset)->takeAway("CallLog");
     (*handset)->takeAway("CallService");

@@ -1,6 +1,6 @@
 // The meter's calls of the telephony functions for costs, answered by this program in the place of the phone's library.
 //
-// The program exports functions of the same names, which the dynamic linker finds first. What no telephone behind the
+// The program exports functions of the same names, which the dynamic linker finds first. What no handset behind the
 // library can do, they do: look at what is to be filled, write into it though they fail, write nothing, or write
 // beyond the end of a text.
 #include "utility/PHONE_UI_RecentCallMeter.h"

@@ -1552,7 +1552,7 @@ void TestCostSetup::destroyingTriesAFailedWriteOnceMore()
     script().succeed("AdviceOfCharge::setMeterMaximum");
     journal.clear();
     view.reset();
-    // The refresh behind the failed write has read the telephone's own limit over the new one.
+    // The refresh behind the failed write has read the handset's own limit over the new one.
     QCOMPARE(journal.lines(), QStringList("AdviceOfCharge::setMeterMaximum(100)"));
 }
 

@@ -1,4 +1,4 @@
-// What the Call-Cost Setup screen asks of the toolkit and the telephone, call by call, with the exact arguments
+// What the Call-Cost Setup screen asks of the toolkit and the handset, call by call, with the exact arguments
 // and in the exact order; and what it does when an object cannot be made.
 #include "callsetup/PHONE_ENG_Setup.h"
 #include "utility/ListedCurrencies.h"

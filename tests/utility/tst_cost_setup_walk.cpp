@@ -1,5 +1,5 @@
-// Thousands of random keys on the Call-Cost Setup screen, over a telephone that fails and changes at random. A
-// model says what a person must see, what the telephone must be asked, and what it must have in the end.
+// Thousands of random keys on the Call-Cost Setup screen, over a handset that fails and changes at random. A
+// model says what a person must see, what the handset must be asked, and what it must have in the end.
 #include "utility/CostSetupModel.h"
 #include "utility/PHONE_UI_RecentCallCostSetupView.h"
 #include "utility/PHONE_UI_RecentCallCostsView.h"
@@ -30,7 +30,7 @@
 
 using View = PHONE_UI_RecentCallCostSetupView;
 using Host = HostedScreen<PHONE_UI_RecentCallCostsView>;
-using Mood = TelephoneMood;
+using Mood = HandsetMood;
 
 KAV_EXPOSE(CurIndex, &View::curIndex);
 KAV_EXPOSE(CurCallSetType, &View::curCallSetType);
@@ -53,16 +53,16 @@ constexpr int keyCount = 25000; // a seed
 constexpr int setupRow = 7;     // of the Call Costs screen
 constexpr qsizetype longestNumber = 12;
 
-// --- the telephone
+// --- the handset
 
-/// In its moods, with what it stores. Calls, which the walk does not look at, are a scripted telephone's.
-class MoodyTelephone final : public handset::DecoratedHandset<MoodyTelephone>
+/// In its moods, with what it stores. Calls, which the walk does not look at, are a scripted handset's.
+class MoodyHandset final : public handset::DecoratedHandset<MoodyHandset>
 {
 public:
-    MoodyTelephone(const Mood &telephoneMood, const std::shared_ptr<ScriptedHandset> &calls)
+    MoodyHandset(const Mood &handsetMood, const std::shared_ptr<ScriptedHandset> &calls)
         : DecoratedHandset(calls)
         , script(calls->script)
-        , mood(telephoneMood)
+        , mood(handsetMood)
     {
         takeAway(QStringLiteral("DataCalls"));
         takeAway(QStringLiteral("PacketData"));
@@ -325,8 +325,8 @@ private:
     void compareMembers();
     void tellTrail() const;
 
-    ExpectedTelephone expected;
-    std::shared_ptr<MoodyTelephone> telephone;
+    ExpectedHandset expected;
+    std::shared_ptr<MoodyHandset> handset;
     std::unique_ptr<CostSetupModel> model;
     std::unique_ptr<Host> host;
     std::unique_ptr<View> alone;
@@ -348,9 +348,9 @@ void TestCostSetupWalk::init()
     traces.reset(); // nobody reads them here
     ScreenClock::restart();
     expected = {};
-    telephone = std::make_shared<MoodyTelephone>(expected.mood, std::make_shared<ScriptedHandset>());
-    telephone->whenPinIsAsked = [this] { pinWasAsked(); };
-    handset::install(telephone);
+    handset = std::make_shared<MoodyHandset>(expected.mood, std::make_shared<ScriptedHandset>());
+    handset->whenPinIsAsked = [this] { pinWasAsked(); };
+    handset::install(handset);
     trail.clear();
     keys = 0;
 }
@@ -410,7 +410,7 @@ void TestCostSetupWalk::destroyScreen()
     leaveBehind(false);
     COMPARE_LINES(journal.take(), expected.calls);
     expected.calls.clear();
-    QCOMPARE(told(telephone->stored), told(expected.stored));
+    QCOMPARE(told(handset->stored), told(expected.stored));
     QVERIFY(ScreenClock::pending().isEmpty());
 }
 
@@ -504,7 +504,7 @@ void TestCostSetupWalk::pressKey(int key)
         leaveBehind(true);
         COMPARE_LINES(journal.take(), expected.calls);
         expected.calls.clear();
-        QCOMPARE(told(telephone->stored), told(expected.stored));
+        QCOMPARE(told(handset->stored), told(expected.stored));
         if (random.bounded(3) == 0)
             host.reset();
         open();
@@ -531,7 +531,7 @@ void TestCostSetupWalk::changeMood()
     mood.statusOf("SimSecurity::verifyPin") = random.bounded(8) == 0 ? oneOf(random, codes) : 0;
     mood.triesLeft = random.bounded(10) == 0 ? 0 : 3;
     for (const char *reset : resets)
-        telephone->script.fail(reset, random.bounded(3) == 0 ? oneOf(random, codes) : 0);
+        handset->script.fail(reset, random.bounded(3) == 0 ? oneOf(random, codes) : 0);
     did(QStringLiteral("another mood"));
 }
 
@@ -546,7 +546,7 @@ void TestCostSetupWalk::changeStored()
     stored.chargeType = oneOf(random, types);
     stored.price = QString::number(random.bounded(100)) + QLatin1String(".5");
     stored.currency = QString::fromLatin1(oneOf(random, currencies));
-    telephone->stored = stored;
+    handset->stored = stored;
     did(QStringLiteral("other settings"));
 }
 
@@ -632,7 +632,7 @@ void TestCostSetupWalk::compare()
         return;
     COMPARE_LINES(journal.take(), expected.calls);
     expected.calls.clear();
-    QCOMPARE(told(telephone->stored), told(expected.stored));
+    QCOMPARE(told(handset->stored), told(expected.stored));
     QCOMPARE(int(closed->count()), model->closings);
     QList<ScreenClock::Timer> timers;
     for (const int left : std::as_const(model->timers))

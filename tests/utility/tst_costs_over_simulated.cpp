@@ -12,7 +12,7 @@
 #include "handset/Clock.h"
 #include "handset/Handset.h"
 #include "handset/Status.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 using namespace handset;
 using ZKeys::PhoneKey;
@@ -44,7 +44,7 @@ private slots:
     void init();
     void cleanup();
 
-    void aNewTelephoneHasFallbacksForItsAccountAndZeroCosts();
+    void aNewHandsetHasFallbacksForItsAccountAndZeroCosts();
     void everyFigureFollowsFromTheCallsAndTheDeposit();
     void afterTheSetupAmountsAreInTheNewCurrency();
     void aResetZeroesItsOwnCostAlone();
@@ -53,7 +53,7 @@ private:
     bool payAndCall();
 
     std::shared_ptr<ManualClock> clock;
-    simulated::SimulatedTelephone *phone = nullptr;
+    simulated::SimulatedHandset *phone = nullptr;
 };
 
 void TestCostsOverSimulated::init()
@@ -64,7 +64,7 @@ void TestCostsOverSimulated::init()
     settings.clock = clock;
     const Opened opened = open(settings);
     QVERIFY2(opened.handset, qPrintable(opened.error));
-    phone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
+    phone = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());
     QVERIFY(phone);
     install(opened.handset);
 }
@@ -95,7 +95,7 @@ bool TestCostsOverSimulated::payAndCall()
     return phone->hangUp() == Success;
 }
 
-void TestCostsOverSimulated::aNewTelephoneHasFallbacksForItsAccountAndZeroCosts()
+void TestCostsOverSimulated::aNewHandsetHasFallbacksForItsAccountAndZeroCosts()
 {
     QByteArray credit;
     QVERIFY(phone->callService()->remainingCredit(credit) != Success);

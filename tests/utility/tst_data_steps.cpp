@@ -1,4 +1,4 @@
-// What the screens of the data sessions ask of the toolkit and the telephone, call by call, with the exact arguments
+// What the screens of the data sessions ask of the toolkit and the handset, call by call, with the exact arguments
 // and in the exact order.
 #include "utility/PHONE_UI_RecentCallDataTimesView.h"
 #include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"

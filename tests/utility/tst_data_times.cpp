@@ -83,7 +83,7 @@ private slots:
     void theResetIsAskedForWhateverGoesOn();
     void noToTheResetChangesNothing();
     void yesResetsAsksAgainAndRewritesFourRows();
-    void aFailedResetShowsWhatTheTelephoneStillHas();
+    void aFailedResetShowsWhatTheHandsetStillHas();
     void aSecondDialogReplacesTheFirstWithoutDeletingIt();
     void failedQueriesShowDefaults();
     void aQueryThatFailsAloneTakesOnlyItsOwnFiguresAway_data();
@@ -338,7 +338,7 @@ void TestDataTimes::yesResetsAsksAgainAndRewritesFourRows()
     QCOMPARE(PhoneScreen::shownRows(screen()), expected);
 }
 
-void TestDataTimes::aFailedResetShowsWhatTheTelephoneStillHas()
+void TestDataTimes::aFailedResetShowsWhatTheHandsetStillHas()
 {
     open();
     script().fail("PacketData::resetTotalDuration", 3);

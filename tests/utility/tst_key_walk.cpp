@@ -1,4 +1,4 @@
-// Thousands of random keys on the Call Times screen, over a telephone that answers at random, beside a model that
+// Thousands of random keys on the Call Times screen, over a handset that answers at random, beside a model that
 // says what a person must see.
 #include "utility/PHONE_UI_RecentCallTimesView.h"
 
@@ -51,8 +51,8 @@ QString asText(quint32 seconds)
     return QString::asprintf("%02u:%02u:%02u", seconds / 3600, seconds / 60 % 60, seconds % 60);
 }
 
-// What the telephone has, in seconds, and how it answers now.
-struct Telephone {
+// What the handset has, in seconds, and how it answers now.
+struct HandsetState {
     std::array<quint32, rowCount> figures{}; // below 100 hours, where both ways of showing a time agree
     std::array<bool, rowCount> queryFails{};
     std::array<bool, rowCount> resetFails{};
@@ -81,46 +81,46 @@ private slots:
     void everyKeyDoesWhatThePersonExpects();
 
 private:
-    void changeTelephone(QRandomGenerator &random);
-    void scriptTelephone();
+    void changeHandset(QRandomGenerator &random);
+    void scriptHandset();
     void pressInModel(PhoneKey key, int currentRow);
     void answerInModel(bool yes);
     void resetInModel(int row);
     void compareWithScreen(const CallTimes &screen);
 
-    Telephone telephone;
+    HandsetState handset;
     Person person;
 };
 
-void TestKeyWalk::changeTelephone(QRandomGenerator &random)
+void TestKeyWalk::changeHandset(QRandomGenerator &random)
 {
     const auto row = size_t(random.bounded(rowCount));
-    telephone.figures[row] = random.bounded(100u * 3600u);
-    telephone.queryFails[row] = random.bounded(5) == 0;
-    telephone.resetFails[row] = random.bounded(5) == 0;
-    telephone.status = quint8(random.bounded(6));
-    telephone.statusFails = random.bounded(10) == 0;
-    scriptTelephone();
+    handset.figures[row] = random.bounded(100u * 3600u);
+    handset.queryFails[row] = random.bounded(5) == 0;
+    handset.resetFails[row] = random.bounded(5) == 0;
+    handset.status = quint8(random.bounded(6));
+    handset.statusFails = random.bounded(10) == 0;
+    scriptHandset();
 }
 
-void TestKeyWalk::scriptTelephone()
+void TestKeyWalk::scriptHandset()
 {
-    script().answer("DataCalls::totalDuration", telephone.figures[dataRow]);
-    script().fail("DataCalls::totalDuration", telephone.queryFails[dataRow] ? 3 : 0);
-    script().answer("DataCalls::callStatus", telephone.status);
-    script().fail("DataCalls::callStatus", telephone.statusFails ? -1 : 0);
+    script().answer("DataCalls::totalDuration", handset.figures[dataRow]);
+    script().fail("DataCalls::totalDuration", handset.queryFails[dataRow] ? 3 : 0);
+    script().answer("DataCalls::callStatus", handset.status);
+    script().fail("DataCalls::callStatus", handset.statusFails ? -1 : 0);
     for (size_t row = 0; row < rowCount; ++row) {
         if (queries[row]) {
-            script().answer(queries[row], CallTime::fromSeconds(telephone.figures[row]));
-            script().fail(queries[row], telephone.queryFails[row] ? 1 : 0);
+            script().answer(queries[row], CallTime::fromSeconds(handset.figures[row]));
+            script().fail(queries[row], handset.queryFails[row] ? 1 : 0);
         }
         if (resets[row]) {
-            script().fail(resets[row], telephone.resetFails[row] ? 7 : 0);
+            script().fail(resets[row], handset.resetFails[row] ? 7 : 0);
             script().whenCalled(resets[row], [this, row] {
-                if (telephone.resetFails[row])
+                if (handset.resetFails[row])
                     return;
-                telephone.figures[row] = 0;
-                scriptTelephone();
+                handset.figures[row] = 0;
+                scriptHandset();
             });
         }
     }
@@ -129,13 +129,13 @@ void TestKeyWalk::scriptTelephone()
 void TestKeyWalk::resetInModel(int row)
 {
     if (row == dataRow) {
-        const bool allowed = !telephone.statusFails && (telephone.status == 0 || telephone.status == 2);
+        const bool allowed = !handset.statusFails && (handset.status == 0 || handset.status == 2);
         if (allowed)
             person.values[dataRow] = asText(0);
-        person.noticed = !telephone.statusFails && (telephone.status == 1 || telephone.status == 3);
+        person.noticed = !handset.statusFails && (handset.status == 1 || handset.status == 3);
         return;
     }
-    Telephone after = telephone;
+    HandsetState after = handset;
     if (!after.resetFails[size_t(row)])
         after.figures[size_t(row)] = 0;
     for (int i = 0; i < rowCount; ++i) {
@@ -195,19 +195,19 @@ void TestKeyWalk::everyKeyDoesWhatThePersonExpects()
 {
     QFETCH(const quint32, seed);
     QRandomGenerator random(seed);
-    telephone = {};
+    handset = {};
     person = {};
-    for (quint32 &figure : telephone.figures)
+    for (quint32 &figure : handset.figures)
         figure = random.bounded(100u * 3600u);
-    scriptTelephone();
+    scriptHandset();
     const CallTimes screen("callTime");
     screen->show();
     const QSignalSpy closed(screen.get(), "2closeWidget()");
     for (int row = 0; row < rowCount; ++row)
-        person.values[size_t(row)] = telephone.answer(row);
+        person.values[size_t(row)] = handset.answer(row);
     for (int i = 0; i < keyCount; ++i) {
         if (random.bounded(4) == 0)
-            changeTelephone(random);
+            changeHandset(random);
         const PhoneKey key = keys[random.bounded(int(std::size(keys)))];
         pressInModel(key, PhoneScreen::list(screen.get())->currentItem());
         PhoneScreen::press(key);

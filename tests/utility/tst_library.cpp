@@ -209,7 +209,7 @@ private slots:
     void everyLibraryHasItsOwnName();
     void thePluginNeedsThePhonesLibrariesByTheirNames_data();
     void thePluginNeedsThePhonesLibrariesByTheirNames();
-    void thePluginDoesNotNeedTheTelephoneBehind();
+    void thePluginDoesNotNeedTheHandsetBehind();
     void otherLibrariesMayTakeThePlaceOfEverySymbol_data();
     void otherLibrariesMayTakeThePlaceOfEverySymbol();
     void theDynamicLinkerBindsWhatIsCalled_data();
@@ -387,7 +387,7 @@ void TestLibrary::thePluginNeedsThePhonesLibrariesByTheirNames()
     QVERIFY2(needed.contains(name), qPrintable(needed.join('\n')));
 }
 
-void TestLibrary::thePluginDoesNotNeedTheTelephoneBehind()
+void TestLibrary::thePluginDoesNotNeedTheHandsetBehind()
 {
     const QStringList needed = dynamicEntries(builtFile("libkavcallmeter.so.1"), "NEEDED");
     QCOMPARE(needed.filter("handset"), QStringList());

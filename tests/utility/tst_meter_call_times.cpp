@@ -1,4 +1,4 @@
-// The meter's call times and resets, over a scripted telephone.
+// The meter's call times and resets, over a scripted handset.
 #include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include "support/PhoneTest.h"
@@ -85,7 +85,7 @@ private slots:
     void aTimeIsShownAs_data();
     void aTimeIsShownAs();
     void aMissingRoleGivesZeroes();
-    void aMissingTelephoneGivesZeroes();
+    void aMissingHandsetGivesZeroes();
 
     void aPaddedTimeIsTraced_data();
     void aPaddedTimeIsTraced();
@@ -265,7 +265,7 @@ void TestMeterCallTimes::aMissingRoleGivesZeroes()
         QCOMPARE((meter.get()->*getter.get)(), QString("00:00:00"));
 }
 
-void TestMeterCallTimes::aMissingTelephoneGivesZeroes()
+void TestMeterCallTimes::aMissingHandsetGivesZeroes()
 {
     handset.reset();
     for (const Getter &getter : getters)

@@ -1,4 +1,4 @@
-// The meter's costs, credit and expiry date, over a scripted telephone.
+// The meter's costs, credit and expiry date, over a scripted handset.
 #include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include "support/PhoneTest.h"
@@ -74,8 +74,8 @@ class TestMeterCosts : public PhoneTest
 private slots:
     void everyAmountAsksItsOwnFigureOnceBetweenItsTraces_data() { addAmountRows(); }
     void everyAmountAsksItsOwnFigureOnceBetweenItsTraces();
-    void anAmountIsShownAsTheTelephoneWroteIt_data();
-    void anAmountIsShownAsTheTelephoneWroteIt();
+    void anAmountIsShownAsTheHandsetWroteIt_data();
+    void anAmountIsShownAsTheHandsetWroteIt();
     void aFailedAmountIsZeroWithTwoDecimalsAndUntraced_data() { addAmountRows(); }
     void aFailedAmountIsZeroWithTwoDecimalsAndUntraced();
     void theLongestTextIsReadWholeAndALongerOneFails_data() { addAmountRows(); }
@@ -88,7 +88,7 @@ private slots:
     void aResetAsksForItselfAndTracesOnlyItsCall();
     void aFailedResetTracesItsMessageAndTheCode_data() { addResetRows(); }
     void aFailedResetTracesItsMessageAndTheCode();
-    void withoutATelephoneEveryFigureIsItsFallback();
+    void withoutAHandsetEveryFigureIsItsFallback();
 
 private:
     Meter meter;
@@ -107,7 +107,7 @@ void TestMeterCosts::everyAmountAsksItsOwnFigureOnceBetweenItsTraces()
     QCOMPARE(traces->take(), callTrace(amounts[index].name));
 }
 
-void TestMeterCosts::anAmountIsShownAsTheTelephoneWroteIt_data()
+void TestMeterCosts::anAmountIsShownAsTheHandsetWroteIt_data()
 {
     QTest::addColumn<QByteArray>("written");
     QTest::addColumn<QString>("shown");
@@ -120,7 +120,7 @@ void TestMeterCosts::anAmountIsShownAsTheTelephoneWroteIt_data()
     QTest::newRow("an empty text is empty, not zero") << QByteArray("") << "";
 }
 
-void TestMeterCosts::anAmountIsShownAsTheTelephoneWroteIt()
+void TestMeterCosts::anAmountIsShownAsTheHandsetWroteIt()
 {
     QFETCH(const QByteArray, written);
     QFETCH(const QString, shown);
@@ -222,7 +222,7 @@ void TestMeterCosts::aFailedResetTracesItsMessageAndTheCode()
     }
 }
 
-void TestMeterCosts::withoutATelephoneEveryFigureIsItsFallback()
+void TestMeterCosts::withoutAHandsetEveryFigureIsItsFallback()
 {
     handset::install(nullptr);
     for (const Amount &amount : amounts)

@@ -1,4 +1,4 @@
-// The meter's data sessions: refreshes, what they keep, resets, over a scripted telephone.
+// The meter's data sessions: refreshes, what they keep, resets, over a scripted handset.
 #include "utility/PHONE_UI_RecentCallMeter.h"
 
 #include "support/PhoneTest.h"

@@ -1,6 +1,6 @@
 // The plug-in's calls of the telephony functions, answered by this program in the place of the phone's library.
 //
-// The program exports functions of the same names, which the dynamic linker finds first. What no telephone behind the
+// The program exports functions of the same names, which the dynamic linker finds first. What no handset behind the
 // library can do, they do: look at the record before it is filled, and write into it though they fail.
 #include "utility/PHONE_UI_RecentCallTimesView.h"
 
@@ -125,7 +125,7 @@ void TestTelephonyEntryPoints::init()
 void TestTelephonyEntryPoints::everyFigureIsAskedOnceOfItsOwnFunction()
 {
     const CallTimes screen("callTime");
-    // The refresh goes through the message client to the scripted telephone.
+    // The refresh goes through the message client to the scripted handset.
     COMPARE_LINES(
         journal.lines(),
         QStringList({"DataCalls::refreshTotals", "UTIL_GetTotalDuration(0)", "TAPI_LOG_GetLastCallTime(zeroed)",

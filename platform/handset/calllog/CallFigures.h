@@ -44,7 +44,7 @@ public:
     int callStatus(quint8 &value) override;
     int resetTotalDuration() override { return ledger.reset({Total::DataTime}); }
 
-    /// What callStatus() answers.
+    /// What callStatus() returns.
     void setCallStatus(CallStatus status) { dataStatus = status; }
 
 private:

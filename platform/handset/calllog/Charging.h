@@ -11,7 +11,7 @@ namespace handset::calllog {
 
 class Ledger;
 
-/// Operations answer a status of handset/Status.h; one that fails has changed nothing. What is set is kept in the
+/// Operations return a status of handset/Status.h; one that fails has changed nothing. What is set is kept in the
 /// ledger; what cannot be read is nothing.
 class Charging
 {
@@ -40,7 +40,7 @@ public:
     /// at Account::greatestCredit. InvalidArgument for what is no amount of at least one unit and at most 24 bits of
     /// them, and for a day that is none.
     int topUp(const QString &amount, const Date &expires);
-    /// Nothing until something has been paid in: then the telephone is not a prepaid one.
+    /// Nothing until something has been paid in: then the handset is not a prepaid one.
     std::optional<charging::Account> account() const;
 
     /// As ChargingState::unitsLeft(), now.

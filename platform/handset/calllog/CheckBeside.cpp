@@ -37,7 +37,7 @@ QByteArray identity(const QString &path)
            QByteArray::number(status.stx_btime.tv_nsec) + '\n';
 }
 
-// Answers 0 or an errno. (The database itself must not be opened here: closing it would drop SQLite's locks.)
+// Returns 0 or an errno. (The database itself must not be opened here: closing it would drop SQLite's locks.)
 int mark(const QString &path)
 {
     const QByteArray name = QFile::encodeName(path + QLatin1String(markSuffix));

@@ -33,7 +33,7 @@ struct RepeatedWrite {
 };
 
 /// Opens on construction, closes and forgets the connection on destruction. Every statement prepared on it must be
-/// gone by then. Every operation that answers false has left its reason in lastError().
+/// gone by then. Every operation that returns false has left its reason in lastError().
 class Database
 {
 public:
@@ -93,7 +93,7 @@ public:
     /// By the statement that was run last.
     int changedRows() const;
 
-    /// What an operation of the call log answers (handset/Status.h): StorageFailed, with a warning that says why, unless
+    /// What an operation of the call log returns (handset/Status.h): StorageFailed, with a warning that says why, unless
     /// it has succeeded.
     int status(bool succeeded) const;
     /// The same, with the warning only for the first failure.
@@ -101,7 +101,7 @@ public:
     /// Warns of a row that somebody has removed while its call or session was running; `owner` is which of them.
     static void warnOfMissingRow(const char *owner);
 
-    /// Runs `work` in a transaction: all of it is in the database when this answers true, none of it otherwise; so
+    /// Runs `work` in a transaction: all of it is in the database when this returns true, none of it otherwise; so
     /// where somebody has removed or renamed the file, which would take with it whatever is written.
     template <typename Work>
     bool inTransaction(Work work)

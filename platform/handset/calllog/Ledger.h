@@ -17,7 +17,7 @@ namespace handset::calllog {
 struct Traces;
 
 /// All of it stands in the database, so that any process may ask and change it; see "The ledger" in docs/handset.md.
-/// Operations answer a number of handset/Status.h; a failed one has changed nothing. What an operation costs does not
+/// Operations return a number of handset/Status.h; a failed one has changed nothing. What an operation costs does not
 /// depend on how many calls and sessions there are.
 ///
 /// One call and one session at a time, which the process that records begins and ends: RecordedElsewhere in any other.
@@ -54,9 +54,9 @@ public:
     /// The call has been connected now; its duration and units are not used. InvalidArgument for one of no known kind or
     /// direction, WrongState while another is connected, NotAllowed as above.
     int beginCall(const PastCall &call);
-    /// The connected call has ended now; WrongState without one. It is over whatever else this answers.
+    /// The connected call has ended now; WrongState without one. It is over whatever else this returns.
     int endCall();
-    /// A call has ended that was never connected. InvalidArgument as above; it is over whatever else this answers.
+    /// A call has ended that was never connected. InvalidArgument as above; it is over whatever else this returns.
     int addUnconnected(const PastCall &call);
     /// Adds calls that are over, in their order, counted and charged as if they had been made. The last connected one
     /// becomes the last call unless a call is connected now. InvalidArgument as above.
@@ -85,12 +85,12 @@ public:
     /// What `look` answers of the running call, and of what calls are charged by and charged to, with what is due on the
     /// running one.
     int ask(const std::function<int(const Standing &now)> &look);
-    /// The same to look at: as of a new telephone when it cannot be read.
+    /// The same to look at: as of a new handset when it cannot be read.
     Standing standing();
 
     // --- what is changed
 
-    /// Changes the state that it is given, or answers why not.
+    /// Changes the state that it is given, or returns why not.
     using Change = std::function<int(charging::ChargingState &state)>;
     /// Writes how far the running call is and what has become due on it, and then what `change` makes of the state; then
     /// `zeroed` totals of calls are 0. All of that in one transaction.

@@ -76,7 +76,7 @@ inline constexpr auto keptChargingName = "charging";
 /// Kept from the first start on that has written the charging record with its check, which it then always has.
 inline constexpr auto keptChecked = "checked";
 
-/// Each operation is one statement. What answers a bool is false when that fails or a row is missing; the database has
+/// Each operation is one statement. What returns a bool is false when that fails or a row is missing; the database has
 /// the reason. What writes belongs into a transaction of the caller.
 class LedgerTables
 {
@@ -87,7 +87,7 @@ public:
     {}
 
     bool read(Standing &standing);
-    /// What of the state is another than before. Answers without writing where nothing is.
+    /// What of the state is another than before. Returns without writing where nothing is.
     bool putState(const charging::ChargingState &before, const charging::ChargingState &after);
 
     /// A call that is over, or begins to run; `id` is the new row's.

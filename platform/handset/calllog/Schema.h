@@ -8,7 +8,7 @@
 
 namespace handset::calllog {
 
-/// Marks the database as a call log of this telephone ("KAVl").
+/// Marks the database as a call log of this handset ("KAVl").
 inline constexpr qint64 applicationId = 0x4b41566c;
 
 /// The steps from one schema version to the next: statements that are run in one transaction.
@@ -30,7 +30,7 @@ enum class CallState {
     Running = 0,      ///< connected; the duration is that of the last checkpoint
     Finished = 1,     ///< was connected and ended
     NotConnected = 2, ///< ended before it was connected
-    Interrupted = 3   ///< was running when the telephone stopped; the duration is that of the last checkpoint
+    Interrupted = 3   ///< was running when the handset stopped; the duration is that of the last checkpoint
 };
 
 } // namespace handset::calllog

@@ -1,4 +1,4 @@
-// The directory that keeps a telephone's state between starts.
+// The directory that keeps a handset's state between starts.
 #pragma once
 
 #include "calllog/repair/Progress.h"
@@ -13,7 +13,7 @@ namespace handset::calllog {
 
 /// Two locks stand in it, and the kernel drops both with the process, however that ends. Every process that has the
 /// directory open shares the first; who needs the files for itself takes it alone. The second says who records. One
-/// telephone of a process at a time: what a second one opens and closes would drop SQLite's own locks of the first.
+/// handset of a process at a time: what a second one opens and closes would drop SQLite's own locks of the first.
 class StateDirectory
 {
 public:
@@ -23,7 +23,7 @@ public:
     /// Makes the directory and shares it with others. Null when it cannot be used; `error` then says why, in one
     /// sentence.
     static std::unique_ptr<StateDirectory> open(const QString &path, QString &error);
-    /// Takes the directory alone, also against who records. Waits so long for the others; answers an empty text, or part
+    /// Takes the directory alone, also against who records. Waits so long for the others; returns an empty text, or part
     /// of a sentence that says who has it. It is shared then as before.
     QString takeAlone(int milliseconds);
     /// Shares it again. This goes on to record when nobody else does.
@@ -69,7 +69,7 @@ public:
 
     /// 0 for a name that is in use, ENOENT for one that is not; any other errno when that cannot be told.
     int find(const QString &name) const;
-    /// Makes what SQLite left beside `name` readable and writable for its user alone. Answers what is wrong with the
+    /// Makes what SQLite left beside `name` readable and writable for its user alone. Returns what is wrong with the
     /// one that is not and cannot be made so, or is no regular file, part of a sentence that names it; empty when there
     /// is none.
     QString mendRights(const QString &name) const;

@@ -1,4 +1,4 @@
-// What a number of units costs, as the telephone's own decimal text, and back.
+// What a number of units costs, as the handset's own decimal text, and back.
 #pragma once
 
 #include "charging/UnitPrice.h"

@@ -22,7 +22,7 @@ struct Account {
     friend bool operator==(const Account &, const Account &) = default;
 };
 
-/// 3GPP TS 22.101, 10.1.1: the numbers that every telephone knows. A call that is dialed to one costs nothing.
+/// 3GPP TS 22.101, 10.1.1: the numbers that every handset knows. A call that is dialed to one costs nothing.
 inline constexpr std::array emergencyNumbers{"112", "911"};
 
 /// A value: copies are states of their own.

@@ -21,7 +21,7 @@ struct Pin2Record {
 };
 
 /// PIN2, its PUK and their tries. Digits are used and not kept; the buffer is the caller's to wipe. A try counts
-/// in what record() answers as soon as the operation returns: store that before telling the outcome, or switching
+/// in what record() returns as soon as the operation returns: store that before telling the outcome, or switching
 /// off in between gives the try back.
 class Pin2
 {

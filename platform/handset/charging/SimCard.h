@@ -27,7 +27,7 @@ struct SimFiles {
     friend bool operator==(const SimFiles &, const SimFiles &) = default;
 };
 
-/// A value: copies are cards of their own. Updates answer NotAllowed where the file's rule is NoUpdate, or is
+/// A value: copies are cards of their own. Updates return NotAllowed where the file's rule is NoUpdate, or is
 /// UpdateUnderPin2 and PIN2 stands in between; what fails has changed nothing. Arguments are looked at first.
 class SimCard
 {

@@ -11,7 +11,7 @@ class Ledger;
 
 namespace handset::simulated {
 
-/// Operations answer a status of handset/Status.h; one that fails has changed nothing. What is set is kept in the
+/// Operations return a status of handset/Status.h; one that fails has changed nothing. What is set is kept in the
 /// ledger.
 class SimAccess final : public AdviceOfCharge, public SimSecurity
 {

@@ -50,7 +50,7 @@ public:
 
     bool waitUntilReady(QDeadlineTimer deadline);
 
-    /// Queues a message of at most what QCopBus::isSendable() tells. False where nobody is logged in.
+    /// Queues a message of at most what QCopBus::isSendable() returns. False where nobody is logged in.
     bool send(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 
     /// Waits until the bus has handled all that was sent. False when it has taken nothing for as long as `patience`.

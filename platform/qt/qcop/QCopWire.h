@@ -18,7 +18,7 @@ using Message = std::unique_ptr<DBusMessage, Unref>;
 /// message shall leave a trace.
 inline constexpr char matchRule[] = "type='signal',interface='org.kav.QCop'";
 
-/// A channel message, of at most what QCopBus::isSendable() tells. Null when there is no memory for it.
+/// A channel message, of at most what QCopBus::isSendable() returns. Null when there is no memory for it.
 Message make(const QByteArray &channel, const QByteArray &message, const QByteArray &data);
 
 /// Delivers a channel message to the subscribers in this process. Another message under the interface, or a call to the

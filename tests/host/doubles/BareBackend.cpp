@@ -1,4 +1,4 @@
-// A telephone that has no role and keeps nothing, in the place of the simulated one.
+// A handset that has no role and keeps nothing, in the place of the simulated one.
 #include "simulated/SimulatedBackend.h"
 
 namespace {

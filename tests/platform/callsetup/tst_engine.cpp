@@ -1,4 +1,4 @@
-// The call-setup engine: one operation of the telephone each, its status passed on, outputs written on success only.
+// The call-setup engine: one operation of the handset each, its status passed on, outputs written on success only.
 #include "callsetup/PHONE_ENG_Setup.h"
 #include "support/PhoneTest.h"
 
@@ -65,15 +65,15 @@ class TestEngine : public PhoneTest
 private slots:
     void thereIsOneEngine();
     void itsMetaObjectIsThePhones();
-    void anOperationAsksTheTelephoneOnce_data() { everyOperation(); }
-    void anOperationAsksTheTelephoneOnce();
-    void whatTheTelephoneAnswersIsPassedOn();
+    void anOperationAsksTheHandsetOnce_data() { everyOperation(); }
+    void anOperationAsksTheHandsetOnce();
+    void whatTheHandsetAnswersIsPassedOn();
     void aFailedOperationPassesItsCodeOnAndWritesNothing_data() { everyOperation(); }
     void aFailedOperationPassesItsCodeOnAndWritesNothing();
     void withoutTheRoleNothingIsAvailable_data() { everyOperation(); }
     void withoutTheRoleNothingIsAvailable();
-    void withoutATelephoneNothingIsAvailable_data() { everyOperation(); }
-    void withoutATelephoneNothingIsAvailable();
+    void withoutAHandsetNothingIsAvailable_data() { everyOperation(); }
+    void withoutAHandsetNothingIsAvailable();
     void aWriteThatCannotBeStoredIsSignalled_data() { everyOperation(); }
     void aWriteThatCannotBeStoredIsSignalled();
     void aWriteThatTheSimRefusesIsSignalled_data() { everyOperation(); }
@@ -118,7 +118,7 @@ void TestEngine::itsMetaObjectIsThePhones()
                           QStringLiteral("updateCallForwardingFlag()"), QStringLiteral("updateCFFlag()")}));
 }
 
-void TestEngine::anOperationAsksTheTelephoneOnce()
+void TestEngine::anOperationAsksTheHandsetOnce()
 {
     KAV_FETCH_OPERATION;
     Outputs outputs;
@@ -126,7 +126,7 @@ void TestEngine::anOperationAsksTheTelephoneOnce()
     QCOMPARE(journal.lines(), QStringList{QString::fromLatin1(operation.asked)});
 }
 
-void TestEngine::whatTheTelephoneAnswersIsPassedOn()
+void TestEngine::whatTheHandsetAnswersIsPassedOn()
 {
     script().answer("AdviceOfCharge::updateRule", quint8{4});
     script().answer("AdviceOfCharge::meterMaximum", QStringLiteral("120.00"), false);
@@ -171,7 +171,7 @@ void TestEngine::withoutTheRoleNothingIsAvailable()
     QVERIFY(journal.lines().isEmpty());
 }
 
-void TestEngine::withoutATelephoneNothingIsAvailable()
+void TestEngine::withoutAHandsetNothingIsAvailable()
 {
     KAV_FETCH_OPERATION;
     handset::install(nullptr);

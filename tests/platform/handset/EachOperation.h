@@ -41,7 +41,7 @@ int askOf(int (Role::*operation)(Parameters...))
 }
 
 #define KAV_ASK(role, operation, ...) +[] { return askOf(&role::operation); },
-/// Asks the installed telephone, as the phone's libraries do, with empty arguments; in the order of operationNames.
+/// Asks the installed handset, as the phone's libraries do, with empty arguments; in the order of operationNames.
 inline constexpr std::array<int (*)(), operationNames.size()> askEach{KAV_HANDSET_OPERATIONS(KAV_ASK)};
 #undef KAV_ASK
 

@@ -18,7 +18,7 @@ class HandsetRig
 public:
     virtual ~HandsetRig() = default;
 
-    /// Opens the telephone, for the first time or once more after close(); false when that fails.
+    /// Opens the handset, for the first time or once more after close(); false when that fails.
     virtual bool open() = 0;
     virtual void close() = 0;
     virtual Handset &handset() = 0;

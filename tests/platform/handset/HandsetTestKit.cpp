@@ -128,17 +128,17 @@ Phone::Phone(const QString &stateDirectory, std::shared_ptr<ManualClock> shared,
     settings.tell = std::move(tell);
     settings.progress = [this](const QString &step, int percent) { progress << qMakePair(step, percent); };
     opened = open(settings);
-    telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
+    simulation = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());
 }
 
 bool Phone::dial(CallKind kind, const QString &number)
 {
-    return telephone->dial(number, kind) == Success && telephone->remoteAnswer() == Success;
+    return simulation->dial(number, kind) == Success && simulation->remoteAnswer() == Success;
 }
 
 bool Phone::answer(const QString &number)
 {
-    return telephone->ring(number) == Success && telephone->answer() == Success;
+    return simulation->ring(number) == Success && simulation->answer() == Success;
 }
 
 bool Phone::dialed(qint64 ms, CallKind kind, const QString &number)
@@ -146,7 +146,7 @@ bool Phone::dialed(qint64 ms, CallKind kind, const QString &number)
     if (!dial(kind, number))
         return false;
     clock->advance(ms);
-    return telephone->hangUp() == Success;
+    return simulation->hangUp() == Success;
 }
 
 bool Phone::answered(qint64 ms, const QString &number)
@@ -154,20 +154,20 @@ bool Phone::answered(qint64 ms, const QString &number)
     if (!answer(number))
         return false;
     clock->advance(ms);
-    return telephone->hangUp() == Success;
+    return simulation->hangUp() == Success;
 }
 
 bool Phone::session(qint64 ms, const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond)
 {
-    if (telephone->packets().startSession(apn, sentPerSecond, receivedPerSecond) != Success)
+    if (simulation->packets().startSession(apn, sentPerSecond, receivedPerSecond) != Success)
         return false;
     clock->advance(ms);
-    return telephone->packets().stopSession() == Success;
+    return simulation->packets().stopSession() == Success;
 }
 
 void Phone::close()
 {
-    telephone = nullptr;
+    simulation = nullptr;
     opened = {};
 }
 

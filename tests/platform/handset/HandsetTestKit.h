@@ -1,9 +1,9 @@
-// What the tests of the telephone share.
+// What the tests of the handset share.
 #pragma once
 
 #include "handset/Clock.h"
 #include "handset/Handset.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 #include <QtCore/QList>
 #include <QtCore/QTemporaryDir>
@@ -35,7 +35,7 @@ char *toString(const SixFigures &figures);
 /// A failed query is a failed test.
 SixFigures figuresOf(Handset &handset);
 
-/// What the telephone tells of its packet-data sessions, "id apn seconds sent received" for each used slot, from the
+/// What the handset tells of its packet-data sessions, "id apn seconds sent received" for each used slot, from the
 /// first on. A failed query, and an unused slot that is not empty, are failed tests.
 QStringList sessionsOf(Handset &handset);
 /// Of all sessions: "seconds sent received total".
@@ -75,7 +75,7 @@ private:
     QTemporaryDir temporary;
 };
 
-/// Opens the simulated telephone and drives it.
+/// Opens the simulated handset and drives it.
 class Phone
 {
 public:
@@ -83,8 +83,8 @@ public:
     explicit Phone(const QString &stateDirectory = {}, std::shared_ptr<ManualClock> shared = nullptr,
                    std::function<void(const QString &)> tell = {});
 
-    explicit operator bool() const { return telephone; }
-    simulated::SimulatedTelephone *operator->() const { return telephone; }
+    explicit operator bool() const { return simulation; }
+    simulated::SimulatedHandset *operator->() const { return simulation; }
     Handset &handset() const { return *opened.handset; }
     SixFigures figures() const { return figuresOf(*opened.handset); }
     CallLog &log() const { return *opened.handset->callLog(); }
@@ -112,7 +112,7 @@ public:
     Opened opened;
 
 private:
-    simulated::SimulatedTelephone *telephone = nullptr;
+    simulated::SimulatedHandset *simulation = nullptr;
 };
 
 /// Looks into a database file through a connection of its own.

@@ -1,4 +1,4 @@
-// A backend that has only the roles that every telephone has.
+// A backend that has only the roles that every handset has.
 #include "handset/DecoratedHandset.h"
 #include "handset/SimulatedRig.h"
 

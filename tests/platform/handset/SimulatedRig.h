@@ -1,4 +1,4 @@
-// Makes calls on the simulated telephone, for the contract test.
+// Makes calls on the simulated handset, for the contract test.
 #pragma once
 
 #include "handset/HandsetRig.h"

@@ -9,7 +9,7 @@
 //   handset_other_process hold DIRECTORY [USER]  says "holding", and does what the lines say that it reads (Obedience)
 //                                                until its input ends; as the user with that number, or says "not
 //                                                permitted"
-//   handset_other_process leave DIRECTORY        installs the telephone, makes a call of 9 s, and leaves main()
+//   handset_other_process leave DIRECTORY        installs the handset, makes a call of 9 s, and leaves main()
 //                                                with the call still on the line
 //   handset_other_process leave-session DIRECTORY
 //                                                the same with a packet-data session, which begins when the session
@@ -24,7 +24,7 @@
 #include "handset/SimSecurity.h"
 #include "handset/Status.h"
 #include "qt/qcop/QCopBus.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>
@@ -58,8 +58,8 @@ bool report(const QByteArray &what, qint64 duration)
 class Caller
 {
 public:
-    Caller(simulated::SimulatedTelephone &telephone, ManualClock &manual, unsigned seed)
-        : phone(telephone)
+    Caller(simulated::SimulatedHandset &handset, ManualClock &manual, unsigned seed)
+        : phone(handset)
         , clock(manual)
         , random(seed)
     {}
@@ -88,12 +88,12 @@ public:
 private:
     int pick(int count) { return ::pick(random, count); }
 
-    simulated::SimulatedTelephone &phone;
+    simulated::SimulatedHandset &phone;
     ManualClock &clock;
     std::mt19937 random;
 };
 
-int makeCalls(simulated::SimulatedTelephone &phone, ManualClock &clock, unsigned seed)
+int makeCalls(simulated::SimulatedHandset &phone, ManualClock &clock, unsigned seed)
 {
     if (!phone.charging().account() &&
         phone.charging().topUp(QStringLiteral("16000000"), {2030, 1, 1}) != Success) {
@@ -109,7 +109,7 @@ int makeCalls(simulated::SimulatedTelephone &phone, ManualClock &clock, unsigned
 }
 
 // The rates are in the access point's name, so that the reader can tell what a duration comes to.
-bool makeSession(simulated::SimulatedTelephone &phone, ManualClock &clock, std::mt19937 &random, unsigned number)
+bool makeSession(simulated::SimulatedHandset &phone, ManualClock &clock, std::mt19937 &random, unsigned number)
 {
     const int sent = pick(random, 1'000'000);
     const int received = pick(random, 1'000'000);
@@ -132,7 +132,7 @@ bool makeSession(simulated::SimulatedTelephone &phone, ManualClock &clock, std::
     return phone.packets().stopSession() == Success && report('=' + apn, duration);
 }
 
-int makeSessions(simulated::SimulatedTelephone &phone, ManualClock &clock, unsigned seed)
+int makeSessions(simulated::SimulatedHandset &phone, ManualClock &clock, unsigned seed)
 {
     std::mt19937 random(seed);
     for (unsigned count = 0; makeSession(phone, clock, random, seed * 10000 + count); ++count) {
@@ -142,7 +142,7 @@ int makeSessions(simulated::SimulatedTelephone &phone, ManualClock &clock, unsig
 }
 
 // Calls are over when they are reported: nothing is owed.
-bool makeSharedCall(simulated::SimulatedTelephone &phone, test::SharedClock &clock, std::mt19937 &random,
+bool makeSharedCall(simulated::SimulatedHandset &phone, test::SharedClock &clock, std::mt19937 &random,
                     unsigned number)
 {
     const QString text = QString::number(number);
@@ -171,7 +171,7 @@ bool isAnswer(int status)
     return status == Success || status == StorageFailed;
 }
 
-int share(Handset &handset, simulated::SimulatedTelephone &phone, test::SharedClock &clock, unsigned seed)
+int share(Handset &handset, simulated::SimulatedHandset &phone, test::SharedClock &clock, unsigned seed)
 {
     std::mt19937 random(seed);
     CallTime time;
@@ -210,7 +210,7 @@ int share(Handset &handset, simulated::SimulatedTelephone &phone, test::SharedCl
 class Obedience
 {
 public:
-    Obedience(Handset &handset, simulated::SimulatedTelephone &driven, ManualClock &moved)
+    Obedience(Handset &handset, simulated::SimulatedHandset &driven, ManualClock &moved)
         : roles(handset)
         , phone(driven)
         , clock(moved)
@@ -310,12 +310,12 @@ private:
     }
 
     Handset &roles;
-    simulated::SimulatedTelephone &phone;
+    simulated::SimulatedHandset &phone;
     ManualClock &clock;
 };
 
 // With an event loop of its own, as a window has it, until there is nothing more to read.
-int hold(Handset &handset, simulated::SimulatedTelephone &phone, ManualClock &clock)
+int hold(Handset &handset, simulated::SimulatedHandset &phone, ManualClock &clock)
 {
     Obedience obedience(handset, phone, clock);
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
@@ -345,7 +345,7 @@ bool become(uid_t user)
     return leavesGroups && ::setresuid(user, user, user) == 0;
 }
 
-int leave(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock &clock)
+int leave(const Opened opened, simulated::SimulatedHandset &phone, ManualClock &clock)
 {
     install(opened.handset);
     if (phone.dial(QStringLiteral("9"), CallKind::Voice) != Success || phone.remoteAnswer() != Success)
@@ -354,7 +354,7 @@ int leave(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock
     return 0;
 }
 
-int leaveSession(const Opened opened, simulated::SimulatedTelephone &phone, ManualClock &clock)
+int leaveSession(const Opened opened, simulated::SimulatedHandset &phone, ManualClock &clock)
 {
     using namespace std::chrono_literals;
     if (!QCopBus::instance()->waitFor(60s))
@@ -383,7 +383,7 @@ int main(int argc, char **argv)
     settings.stateDirectory = arguments.value(2);
     settings.clock = isShared ? std::shared_ptr<Clock>(shared) : clock;
     Opened opened = open(settings);
-    auto *phone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
+    auto *phone = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());
     if (!phone || !opened.notice.isEmpty()) {
         std::printf("%s %s\n", phone ? "notice" : "error", qUtf8Printable(phone ? opened.notice : opened.error));
         return 1;

@@ -21,7 +21,7 @@ using namespace handset::test;
 
 namespace {
 
-/// A telephone that has no packet data.
+/// A handset that has no packet data.
 class PlainHandset final : public Handset
 {
 public:
@@ -30,7 +30,7 @@ public:
     DataCalls *dataCalls() override { return nullptr; }
 };
 
-/// Counts the updates, and looks at the telephone when one comes.
+/// Counts the updates, and looks at the handset when one comes.
 class Screen
 {
 public:
@@ -74,8 +74,8 @@ private slots:
     void howeverTheTicksComeItIsToldAtMostOnceASecond();
     void aClockThatStandsStillHasNothingToTell();
     void aRunningSessionIsToldWithoutAnyonesHelp();
-    void onlyTheInstalledTelephoneTells();
-    void aTelephoneWithoutPacketDataCanBeInstalled();
+    void onlyTheInstalledHandsetTells();
+    void aHandsetWithoutPacketDataCanBeInstalled();
     void anotherProcessIsToldUpToTheEndOfTheApplication();
     void whatIsChangedHereIsAnnouncedOnce();
     void whatAnotherProcessChangesIsSignalledHere();
@@ -206,14 +206,14 @@ void TestBroadcast::aRunningSessionIsToldWithoutAnyonesHelp()
     install(opened.handset);
     QCopChannel channel("/KAV/phone");
     const QSignalSpy spy(&channel, &QCopChannel::received);
-    auto &packets = dynamic_cast<simulated::SimulatedTelephone &>(*opened.handset).packets();
+    auto &packets = dynamic_cast<simulated::SimulatedHandset &>(*opened.handset).packets();
     QCOMPARE(packets.startSession("x", 1, 1), int(Success));
     QTRY_VERIFY_WITH_TIMEOUT(spy.count() >= 4, 60'000);
     QVERIFY(sessionsOf(*opened.handset).first().section(QLatin1Char(' '), 2, 2).toInt() >= 3);
     QCOMPARE(packets.stopSession(), int(Success));
 }
 
-void TestBroadcast::onlyTheInstalledTelephoneTells()
+void TestBroadcast::onlyTheInstalledHandsetTells()
 {
     Phone first;
     Phone other;
@@ -250,7 +250,7 @@ void TestBroadcast::onlyTheInstalledTelephoneTells()
     QCOMPARE(screen.updates(), 0);
 }
 
-void TestBroadcast::aTelephoneWithoutPacketDataCanBeInstalled()
+void TestBroadcast::aHandsetWithoutPacketDataCanBeInstalled()
 {
     const Phone phone;
     install(std::make_shared<PlainHandset>());
@@ -309,7 +309,7 @@ void TestBroadcast::whatAnotherProcessChangesIsSignalledHere()
 {
     const Phone phone;
     install(phone.opened.handset);
-    QSignalSpy spy(phone.operator->(), &simulated::SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &simulated::SimulatedHandset::changed);
     const auto tellAs = [](const QByteArray &process) {
         QCopChannel::send("/KAV/handset", "/KAV/handset/Changed", process);
     };

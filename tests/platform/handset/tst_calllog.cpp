@@ -62,15 +62,15 @@ private slots:
     void aCheckpointWritesRowAndTotals();
     void aQueryWritesNothing();
     void aCrashLosesOnlyWhatFollowedTheLastCheckpoint();
-    void theEndOfTheTelephoneEndsTheCall();
-    void theEndOfTheTelephoneLogsACallThatWasNotConnected_data();
-    void theEndOfTheTelephoneLogsACallThatWasNotConnected();
+    void theEndOfTheHandsetEndsTheCall();
+    void theEndOfTheHandsetLogsACallThatWasNotConnected_data();
+    void theEndOfTheHandsetLogsACallThatWasNotConnected();
     void totalsAreKeptApartFromTheRows();
     void theDatabaseIsSetUpForSafety();
     void filesAndDirectoriesAreForTheUserAlone();
     void aFileThatOthersCouldReadIsClosedToThem();
     void memoryOnlyLeavesNoTrace();
-    void twoTelephonesInMemoryKnowNothingOfEachOther();
+    void twoHandsetsInMemoryKnowNothingOfEachOther();
     void aDirectoryWithOddCharactersIsUsedAsItIs_data();
     void aDirectoryWithOddCharactersIsUsedAsItIs();
     void aRelativeDirectoryStaysTheSameWhenTheProcessMoves();
@@ -166,18 +166,18 @@ void TestCallLog::aMonotonicClockThatGoesBackTakesNothingAway()
     Settings settings;
     settings.clock = clock;
     const Opened opened = open(settings);
-    auto *telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
-    QCOMPARE(telephone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
-    QCOMPARE(telephone->remoteAnswer(), int(Success));
+    auto *handset = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());
+    QCOMPARE(handset->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
+    QCOMPARE(handset->remoteAnswer(), int(Success));
     clock->monotonic = 110 * second;
     QCOMPARE(figuresOf(*opened.handset).last, quint64{10});
     clock->monotonic = 50 * second;
     QCOMPARE(figuresOf(*opened.handset).last, quint64{10});
-    QCOMPARE(telephone->checkpoint(), int(Success));
+    QCOMPARE(handset->checkpoint(), int(Success));
     clock->monotonic = std::numeric_limits<qint64>::min();
-    QCOMPARE(telephone->connectedMs(), 10 * second);
+    QCOMPARE(handset->connectedMs(), 10 * second);
     clock->monotonic += 5 * second;
-    QCOMPARE(telephone->hangUp(), int(Success));
+    QCOMPARE(handset->hangUp(), int(Success));
     QCOMPARE(figuresOf(*opened.handset), (SixFigures{15, 15, 0, 0, 15, 15}));
 }
 
@@ -245,7 +245,7 @@ void TestCallLog::aCrashLosesOnlyWhatFollowedTheLastCheckpoint()
         QVERIFY(restarted);
         QVERIFY(restarted.opened.notice.isEmpty());
         QCOMPARE(restarted.figures(), (SixFigures{20, 120, 0, 0, 120, 120}));
-        QCOMPARE(restarted->lineState(), simulated::SimulatedTelephone::LineState::Idle);
+        QCOMPARE(restarted->lineState(), simulated::SimulatedHandset::LineState::Idle);
     }
     const QList<LoggedCall> calls = LogFile(state.sibling(QStringLiteral("crashed/calllog.db"))).calls();
     QCOMPARE(calls.size(), 2);
@@ -253,7 +253,7 @@ void TestCallLog::aCrashLosesOnlyWhatFollowedTheLastCheckpoint()
     QCOMPARE(calls[1].state, int(CallState::Interrupted));
 }
 
-void TestCallLog::theEndOfTheTelephoneEndsTheCall()
+void TestCallLog::theEndOfTheHandsetEndsTheCall()
 {
     const StateDir state;
     {
@@ -268,14 +268,14 @@ void TestCallLog::theEndOfTheTelephoneEndsTheCall()
     QCOMPARE(Phone(state.path()).figures(), (SixFigures{12, 0, 0, 12, 12, 12}));
 }
 
-void TestCallLog::theEndOfTheTelephoneLogsACallThatWasNotConnected_data()
+void TestCallLog::theEndOfTheHandsetLogsACallThatWasNotConnected_data()
 {
     QTest::addColumn<bool>("incoming");
     QTest::newRow("a dialing one") << false;
     QTest::newRow("a ringing one") << true;
 }
 
-void TestCallLog::theEndOfTheTelephoneLogsACallThatWasNotConnected()
+void TestCallLog::theEndOfTheHandsetLogsACallThatWasNotConnected()
 {
     QFETCH(bool, incoming);
     const StateDir state;
@@ -353,7 +353,7 @@ void TestCallLog::memoryOnlyLeavesNoTrace()
     QCOMPARE(Phone().figures(), SixFigures());
 }
 
-void TestCallLog::twoTelephonesInMemoryKnowNothingOfEachOther()
+void TestCallLog::twoHandsetsInMemoryKnowNothingOfEachOther()
 {
     Phone one;
     Phone other;
@@ -421,7 +421,7 @@ void TestCallLog::aWriteThatFailsChangesNothing()
     const QRegularExpression warning(QStringLiteral("^The call log failed: "));
     QTest::ignoreMessage(QtWarningMsg, warning);
     QCOMPARE(phone->remoteAnswer(), int(StorageFailed));
-    QCOMPARE(phone->lineState(), simulated::SimulatedTelephone::LineState::Dialing);
+    QCOMPARE(phone->lineState(), simulated::SimulatedHandset::LineState::Dialing);
     QTest::ignoreMessage(QtWarningMsg, warning);
     QCOMPARE(phone.log().resetDialedCallsTime(), int(StorageFailed));
     QCOMPARE(phone.figures(), (SixFigures{50, 50, 0, 0, 50, 50}));
@@ -432,7 +432,7 @@ void TestCallLog::aWriteThatFailsChangesNothing()
     QVERIFY(other.run(QStringLiteral("BEGIN IMMEDIATE")));
     QTest::ignoreMessage(QtWarningMsg, warning);
     QCOMPARE(phone->checkpoint(), int(StorageFailed));
-    QCOMPARE(phone->lineState(), simulated::SimulatedTelephone::LineState::Connected);
+    QCOMPARE(phone->lineState(), simulated::SimulatedHandset::LineState::Connected);
     QVERIFY(other.run(QStringLiteral("COMMIT")));
     phone.clock->advance(second);
     QCOMPARE(phone->hangUp(), int(Success));

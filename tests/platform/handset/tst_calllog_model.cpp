@@ -91,7 +91,7 @@ private:
     int events = 0;
 };
 
-/// The telephone and the model, driven alike.
+/// The handset and the model, driven alike.
 class Walk
 {
 public:
@@ -135,7 +135,7 @@ public:
     QString lastStep() const { return did; }
 
 private:
-    using LineState = simulated::SimulatedTelephone::LineState;
+    using LineState = simulated::SimulatedHandset::LineState;
 
     int pick(int count) { return std::uniform_int_distribution<int>(0, count - 1)(random); }
 

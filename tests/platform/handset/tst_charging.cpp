@@ -16,7 +16,7 @@
 
 using namespace handset;
 using namespace handset::test;
-using LineState = simulated::SimulatedTelephone::LineState;
+using LineState = simulated::SimulatedHandset::LineState;
 using StopReason = simulated::Charging::StopReason;
 using simulated::Account;
 
@@ -88,7 +88,7 @@ class TestCharging : public QObject
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
-    void aNewTelephoneHasChargedNothing();
+    void aNewHandsetHasChargedNothing();
     void aDialedCallCostsAUnitForEveryCompleteInterval_data();
     void aDialedCallCostsAUnitForEveryCompleteInterval();
     void aCallCostsForItsOwnFigures_data();
@@ -156,7 +156,7 @@ private slots:
     void everyChangeIsSignalledOnce();
 };
 
-void TestCharging::aNewTelephoneHasChargedNothing()
+void TestCharging::aNewHandsetHasChargedNothing()
 {
     const Phone phone;
     QCOMPARE(costsOf(phone), FourCosts());
@@ -504,7 +504,7 @@ void TestCharging::aFreeCallGoesOnBeyondTheMaximum()
 void TestCharging::anEmergencyCallGoesOnBeyondTheMaximumAndCostsNothing_data()
 {
     QTest::addColumn<QString>("number");
-    for (const char *number : simulated::SimulatedTelephone::emergencyNumbers)
+    for (const char *number : simulated::SimulatedHandset::emergencyNumbers)
         QTest::newRow(number) << QString::fromLatin1(number);
 }
 
@@ -555,7 +555,7 @@ void TestCharging::aLowerMaximumEndsTheRunningCall()
     QVERIFY(makeExpensive(phone));
     QVERIFY(phone.dial());
     phone.clock->advance(8500);
-    QSignalSpy spy(phone.operator->(), &simulated::SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &simulated::SimulatedHandset::changed);
     QCOMPARE(advice(phone).setMeterMaximum(QStringLiteral("5")), int(Success));
     QCOMPARE(phone->lineState(), LineState::Idle);
     QCOMPARE(phone->charging().stopReason(), StopReason::LimitReached);
@@ -928,7 +928,7 @@ void TestCharging::aFailedWriteChangesNoSetting()
         QVERIFY(file.run(QStringLiteral("CREATE TRIGGER full_%1 BEFORE %1 ON kept BEGIN"
                                         " SELECT RAISE(ABORT, 'full'); END")
                              .arg(QLatin1String(change))));
-    QSignalSpy spy(phone.operator->(), &simulated::SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &simulated::SimulatedHandset::changed);
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("The call log failed: full")));
     QCOMPARE(operation(phone), int(StorageFailed));
     QCOMPARE(phone->simCard().card().files(), filesBefore);
@@ -1197,7 +1197,7 @@ void TestCharging::aDamagedLogKeepsCostsAndCard()
 void TestCharging::everyChangeIsSignalledOnce()
 {
     Phone phone;
-    QSignalSpy spy(phone.operator->(), &simulated::SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &simulated::SimulatedHandset::changed);
     int expected = 0;
     const auto signalledAfter = [&](int status) { return status == Success && spy.count() == ++expected; };
     QVERIFY(signalledAfter(advice(phone).setMeterMaximum(QStringLiteral("7"))));

@@ -63,11 +63,11 @@ private slots:
         rig.reset();
     }
 
-    void aNewTelephoneHasTheRolesOfItsBackend();
+    void aNewHandsetHasTheRolesOfItsBackend();
     void anOperationOfAnAbsentRoleIsNotAvailable_data();
     void anOperationOfAnAbsentRoleIsNotAvailable();
-    void aNewTelephoneHasNoTime();
-    void aNewTelephoneHasHadNoSession();
+    void aNewHandsetHasNoTime();
+    void aNewHandsetHasHadNoSession();
     void aCallCountsForItsOwnFigure_data();
     void aCallCountsForItsOwnFigure();
     void figuresAreCutToWholeSecondsOnlyWhenTheyAreAsked();
@@ -144,7 +144,7 @@ quint8 TestContract::status()
     return value;
 }
 
-void TestContract::aNewTelephoneHasTheRolesOfItsBackend()
+void TestContract::aNewHandsetHasTheRolesOfItsBackend()
 {
     Handset &handset = rig->handset();
     QVERIFY(handset.callLog());
@@ -169,21 +169,21 @@ void TestContract::anOperationOfAnAbsentRoleIsNotAvailable()
     QFETCH(int, operation);
     const auto index = static_cast<std::size_t>(operation);
     const QString role = QString::fromLatin1(operationNames[index]).section(QStringLiteral("::"), 0, 0);
-    const auto telephone =
+    const auto handset =
         std::make_shared<WithoutRoles>(std::shared_ptr<Handset>(std::shared_ptr<void>(), &rig->handset()));
-    install(telephone);
+    install(handset);
     if (!rig->lackingRoles().contains(role))
-        telephone->takeAway(role);
+        handset->takeAway(role);
     QCOMPARE(askEach[index](), int(NotAvailable));
 }
 
-void TestContract::aNewTelephoneHasNoTime()
+void TestContract::aNewHandsetHasNoTime()
 {
     QCOMPARE(figures(), SixFigures());
     QCOMPARE(status(), quint8(DataCalls::Idle));
 }
 
-void TestContract::aNewTelephoneHasHadNoSession()
+void TestContract::aNewHandsetHasHadNoSession()
 {
     KAV_NEED_PACKET_DATA();
     QCOMPARE(sessions(), QStringList());

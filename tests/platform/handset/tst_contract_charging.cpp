@@ -143,10 +143,10 @@ private slots:
     void init();
     void cleanup() { rig.reset(); }
 
-    void aNewTelephoneHasNoCosts();
-    void aNewTelephoneKnowsNothingOfACredit();
-    void aNewTelephoneHasNoLimitAndNoPrice();
-    void aNewTelephoneAsksForPin2();
+    void aNewHandsetHasNoCosts();
+    void aNewHandsetKnowsNothingOfACredit();
+    void aNewHandsetHasNoLimitAndNoPrice();
+    void aNewHandsetAsksForPin2();
 
     void aCallCostsForItsOwnFigures_data();
     void aCallCostsForItsOwnFigures();
@@ -306,14 +306,14 @@ bool TestContractCharging::enterWrongPin2()
     return security().verifyPin(SimSecurity::Pin2, digits, accepted) == Success && !accepted;
 }
 
-// --- a new telephone
+// --- a new handset
 
-void TestContractCharging::aNewTelephoneHasNoCosts()
+void TestContractCharging::aNewHandsetHasNoCosts()
 {
     QCOMPARE(costs(), FourCosts());
 }
 
-void TestContractCharging::aNewTelephoneKnowsNothingOfACredit()
+void TestContractCharging::aNewHandsetKnowsNothingOfACredit()
 {
     QByteArray text = "as it was";
     Date date = someDay;
@@ -324,14 +324,14 @@ void TestContractCharging::aNewTelephoneKnowsNothingOfACredit()
     QCOMPARE(date, someDay);
 }
 
-void TestContractCharging::aNewTelephoneHasNoLimitAndNoPrice()
+void TestContractCharging::aNewHandsetHasNoLimitAndNoPrice()
 {
     QCOMPARE(chargeType(), int(AdviceOfCharge::InUnits));
     QCOMPARE(limit(), (Limit{0, false}));
     QCOMPARE(price(), (Price{0, QString()}));
 }
 
-void TestContractCharging::aNewTelephoneAsksForPin2()
+void TestContractCharging::aNewHandsetAsksForPin2()
 {
     QCOMPARE(pin2Status(), quint32{SimSecurity::EntryNeeded});
     QCOMPARE(pin2Tries(), 3);

@@ -143,7 +143,7 @@ private slots:
     void aMarkOfAnotherLogIsNoDamage_data();
     void aMarkOfAnotherLogIsNoDamage();
     void aPipeInThePlaceOfTheMarkIsNotWaitedFor();
-    void aTelephoneThatEndsDoesNotWaitForTheReading();
+    void aHandsetThatEndsDoesNotWaitForTheReading();
     void aSalvagedLogIsNoLargerThanTheOneBefore_data();
     void aSalvagedLogIsNoLargerThanTheOneBefore();
 
@@ -162,7 +162,7 @@ void TestDamagedLog::initTestCase()
     QCOMPARE(sample.calls.size(), wholeCalls + 5);
 }
 
-/// Opens what is in the directory: whatever it is, there must be a telephone that works, a sound log with nothing in it
+/// Opens what is in the directory: whatever it is, there must be a handset that works, a sound log with nothing in it
 /// but what was recorded, and a notice if anything was amiss.
 void TestDamagedLog::openAndCheck(const StateDir &state, bool mayBeQuiet)
 {
@@ -786,7 +786,7 @@ void TestDamagedLog::noTableOfABigLogLocksItForGood_data()
         QTest::newRow(name) << QString::fromLatin1(name);
 }
 
-// What opening needs of it, or the telephone after that.
+// What opening needs of it, or the handset after that.
 void TestDamagedLog::noTableOfABigLogLocksItForGood()
 {
     QFETCH(QString, name);
@@ -946,11 +946,11 @@ void TestDamagedLog::aPipeInThePlaceOfTheMarkIsNotWaitedFor()
     QCOMPARE(phone.opened.error, QString());
 }
 
-void TestDamagedLog::aTelephoneThatEndsDoesNotWaitForTheReading()
+void TestDamagedLog::aHandsetThatEndsDoesNotWaitForTheReading()
 {
     const StateDir state;
     QCOMPARE(Phone(state.path())->addHistory(manyCalls(20'000)), int(Success));
-    // With the reading at any point; the last connection, which works the write-ahead log in, is the telephone's own.
+    // With the reading at any point; the last connection, which works the write-ahead log in, is the handset's own.
     for (int start = 0; start < 50; ++start) {
         QVERIFY(Phone(state.path()).dialed(second));
         QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")});

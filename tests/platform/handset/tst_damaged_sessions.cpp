@@ -57,7 +57,7 @@ private slots:
     void aLogWithWrongTablesIsReplaced();
     void theNoticeSaysWhatWasCounted_data();
     void theNoticeSaysWhatWasCounted();
-    void sessionsThatNoTelephoneWroteAreLeftOut();
+    void sessionsThatNoHandsetWroteAreLeftOut();
     void totalsAreCountedUpToTheirEnd();
     void aSessionThatWasRunningIsInterrupted();
     void aDamagedLogOfTheFirstVersionHasNoSessions();
@@ -91,7 +91,7 @@ void TestDamagedSessions::initTestCase()
     QVERIFY(totals != sumsOf(rows));
 }
 
-/// Whatever is in the directory: there must be a telephone that works, a notice, and a sound log with nothing in it but
+/// Whatever is in the directory: there must be a handset that works, a notice, and a sound log with nothing in it but
 /// what was recorded.
 bool TestDamagedSessions::openAndCheck(const StateDir &state, qsizetype &kept)
 {
@@ -235,7 +235,7 @@ void TestDamagedSessions::theNoticeSaysWhatWasCounted()
     QCOMPARE(phone.sessionTotals(), hasSession ? QStringLiteral("4 0 0 0") : QStringLiteral("0 0 0 0"));
 }
 
-void TestDamagedSessions::sessionsThatNoTelephoneWroteAreLeftOut()
+void TestDamagedSessions::sessionsThatNoHandsetWroteAreLeftOut()
 {
     const StateDir state;
     {

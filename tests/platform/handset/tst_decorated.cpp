@@ -1,4 +1,4 @@
-// A telephone in front of another: what its hooks see, and what goes on to the telephone behind.
+// A handset in front of another: what its hooks see, and what goes on to the handset behind.
 #include "handset/DecoratedHandset.h"
 #include "handset/EachOperation.h"
 #include "support/TestGroup.h"
@@ -15,8 +15,8 @@ namespace {
 class Noting final : public DecoratedHandset<Noting>
 {
 public:
-    Noting(const char *noteName, QStringList &allNotes, std::shared_ptr<Handset> telephone = nullptr)
-        : DecoratedHandset(std::move(telephone))
+    Noting(const char *noteName, QStringList &allNotes, std::shared_ptr<Handset> handset = nullptr)
+        : DecoratedHandset(std::move(handset))
         , name(QString::fromLatin1(noteName))
         , notes(allNotes)
     {}
@@ -75,21 +75,21 @@ class TestDecorated : public QObject
 private slots:
     void cleanup() { install(nullptr); }
 
-    void anOperationPassesBothHooksAndGoesOnToTheTelephoneBehind_data();
-    void anOperationPassesBothHooksAndGoesOnToTheTelephoneBehind();
+    void anOperationPassesBothHooksAndGoesOnToTheHandsetBehind_data();
+    void anOperationPassesBothHooksAndGoesOnToTheHandsetBehind();
     void hooksSeeTheArgumentsAndWhatWasWritten();
-    void aRoleIsAbsentWhereItWasTakenAwayOrTheTelephoneBehindHasItNot();
+    void aRoleIsAbsentWhereItWasTakenAwayOrTheHandsetBehindHasItNot();
     void listenersAndNewsFromElsewhereGoThrough();
 };
 
-void TestDecorated::anOperationPassesBothHooksAndGoesOnToTheTelephoneBehind_data()
+void TestDecorated::anOperationPassesBothHooksAndGoesOnToTheHandsetBehind_data()
 {
     QTest::addColumn<int>("operation");
     for (int i = 0; i < operationIndex("SimSecurity::verifyPin"); ++i) // of which the hooks note more
         QTest::newRow(operationNames[static_cast<std::size_t>(i)]) << i;
 }
 
-void TestDecorated::anOperationPassesBothHooksAndGoesOnToTheTelephoneBehind()
+void TestDecorated::anOperationPassesBothHooksAndGoesOnToTheHandsetBehind()
 {
     QFETCH(int, operation);
     const auto ask = askEach[static_cast<std::size_t>(operation)];
@@ -126,7 +126,7 @@ void TestDecorated::hooksSeeTheArgumentsAndWhatWasWritten()
                                  "behind after verifyPin: 0 1", "front after verifyPin: 0 1"}));
 }
 
-void TestDecorated::aRoleIsAbsentWhereItWasTakenAwayOrTheTelephoneBehindHasItNot()
+void TestDecorated::aRoleIsAbsentWhereItWasTakenAwayOrTheHandsetBehindHasItNot()
 {
     const auto behind = std::make_shared<Front>();
     Front front(behind);

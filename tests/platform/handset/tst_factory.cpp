@@ -1,4 +1,4 @@
-// Opening a telephone by name and installing it for the phone's libraries.
+// Opening a handset by name and installing it for the phone's libraries.
 #include "calllog/Schema.h"
 #include "handset/DataCalls.h"
 #include "handset/HandsetTestKit.h"
@@ -21,17 +21,17 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
     // These three need a process in which nothing was installed yet: they come first.
-    void aDefaultThatCannotBeOpenedIsAWarningAndNoTelephone();
-    void noTelephoneAtTheFirstCallIsNoneFromThenOn();
+    void aDefaultThatCannotBeOpenedIsAWarningAndNoHandset();
+    void noHandsetAtTheFirstCallIsNoneFromThenOn();
     void installReplacesWhatCurrentDecided();
 
-    void theSimulatedTelephoneIsTheDefault();
+    void theSimulatedHandsetIsTheDefault();
     void aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre();
     void withoutAClockItIsTheMachines();
-    void installingNullLeavesNoTelephone();
-    void theInstalledTelephoneLivesAsLongAsItIsUsed();
+    void installingNullLeavesNoHandset();
+    void theInstalledHandsetLivesAsLongAsItIsUsed();
     void theDefaultStateIsBelowTheUsersDataDirectory();
-    void theInstalledTelephoneIsClosedWithTheApplication();
+    void theInstalledHandsetIsClosedWithTheApplication();
 
 private:
     QTemporaryDir home;
@@ -45,7 +45,7 @@ void TestFactory::initTestCase()
     qputenv("XDG_DATA_HOME", inTheWay.fileName().toLocal8Bit());
 }
 
-void TestFactory::aDefaultThatCannotBeOpenedIsAWarningAndNoTelephone()
+void TestFactory::aDefaultThatCannotBeOpenedIsAWarningAndNoHandset()
 {
     QTest::ignoreMessage(
         QtWarningMsg, QRegularExpression(QStringLiteral("^The state directory \".*/data/kavcallmeter\" cannot be "
@@ -53,7 +53,7 @@ void TestFactory::aDefaultThatCannotBeOpenedIsAWarningAndNoTelephone()
     QVERIFY(!current());
 }
 
-void TestFactory::noTelephoneAtTheFirstCallIsNoneFromThenOn()
+void TestFactory::noHandsetAtTheFirstCallIsNoneFromThenOn()
 {
     QVERIFY(QFile::remove(home.filePath(QStringLiteral("data"))));
     QVERIFY(!current()); // and no second warning
@@ -68,7 +68,7 @@ void TestFactory::installReplacesWhatCurrentDecided()
     install(nullptr);
 }
 
-void TestFactory::theSimulatedTelephoneIsTheDefault()
+void TestFactory::theSimulatedHandsetIsTheDefault()
 {
     QVERIFY(backendNames().contains(QStringLiteral("simulated")));
     QCOMPARE(Settings().backend, QStringLiteral("simulated"));
@@ -76,7 +76,7 @@ void TestFactory::theSimulatedTelephoneIsTheDefault()
     QVERIFY(opened.handset);
     QVERIFY(opened.error.isNull());
     QVERIFY(opened.notice.isNull());
-    QVERIFY(dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get()));
+    QVERIFY(dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get()));
 }
 
 void TestFactory::aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre()
@@ -93,14 +93,14 @@ void TestFactory::aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre()
 void TestFactory::withoutAClockItIsTheMachines()
 {
     const Opened opened = open({});
-    auto *telephone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
-    QVERIFY(telephone);
-    QCOMPARE(telephone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
-    QCOMPARE(telephone->remoteAnswer(), int(Success));
-    QTRY_VERIFY_WITH_TIMEOUT(telephone->connectedMs() > 0, 60'000);
+    auto *handset = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());
+    QVERIFY(handset);
+    QCOMPARE(handset->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
+    QCOMPARE(handset->remoteAnswer(), int(Success));
+    QTRY_VERIFY_WITH_TIMEOUT(handset->connectedMs() > 0, 60'000);
 }
 
-void TestFactory::installingNullLeavesNoTelephone()
+void TestFactory::installingNullLeavesNoHandset()
 {
     install(open({}).handset);
     QVERIFY(current());
@@ -108,7 +108,7 @@ void TestFactory::installingNullLeavesNoTelephone()
     QVERIFY(!current());
 }
 
-void TestFactory::theInstalledTelephoneLivesAsLongAsItIsUsed()
+void TestFactory::theInstalledHandsetLivesAsLongAsItIsUsed()
 {
     install(open({}).handset);
     const std::shared_ptr<Handset> held = current();
@@ -128,7 +128,7 @@ void TestFactory::theDefaultStateIsBelowTheUsersDataDirectory()
     QCOMPARE(defaultStateDirectory(), home.filePath(QStringLiteral("elsewhere/kavcallmeter")));
 }
 
-void TestFactory::theInstalledTelephoneIsClosedWithTheApplication()
+void TestFactory::theInstalledHandsetIsClosedWithTheApplication()
 {
     const StateDir state;
     const int exitCode =

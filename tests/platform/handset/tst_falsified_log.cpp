@@ -1,4 +1,4 @@
-// A call log that somebody has changed: it is told, nothing of it runs, and the telephone works.
+// A call log that somebody has changed: it is told, nothing of it runs, and the handset works.
 #include "handset/CallLog.h"
 #include "handset/CallService.h"
 #include "handset/HandsetTestKit.h"

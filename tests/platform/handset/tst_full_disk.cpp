@@ -18,9 +18,9 @@
 using namespace handset;
 using namespace handset::test;
 using calllog::CallState;
-using simulated::SimulatedTelephone;
+using simulated::SimulatedHandset;
 using support::FullDisk;
-using LineState = SimulatedTelephone::LineState;
+using LineState = SimulatedHandset::LineState;
 
 namespace {
 
@@ -74,14 +74,14 @@ private slots:
     void aDataCallEndsAndItsTotalIsTold();
     void aCallThatWasNotConnectedEndsAndIsWrittenWhenThereIsRoom_data();
     void aCallThatWasNotConnectedEndsAndIsWrittenWhenThereIsRoom();
-    void aCallThatTheTelephoneStopsEndsAndIsWrittenWhenThereIsRoom();
+    void aCallThatTheHandsetStopsEndsAndIsWrittenWhenThereIsRoom();
     void aSessionEndsAndIsWrittenWhenThereIsRoom();
     void whatIsOwedIsWrittenWithoutAnybodyAsking();
     void whatIsOwedIsWrittenBeforeTheNextCallBegins();
     void whatIsOwedIsWrittenBeforeTheNextSessionBegins();
-    void whatIsOwedIsWrittenAtTheEndOfTheTelephone();
+    void whatIsOwedIsWrittenAtTheEndOfTheHandset();
     void thatAnEndIsNotWrittenIsSaidOnceAndOnceThatItIs();
-    void thatAnEndIsLostIsSaidWhenTheTelephoneEnds();
+    void thatAnEndIsLostIsSaidWhenTheHandsetEnds();
     void nothingIsWrittenToALogThatIsNoLongerThere_data();
     void nothingIsWrittenToALogThatIsNoLongerThere();
     void theNextCallIsNotConnectedAndCanBeEnded();
@@ -99,7 +99,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
     QVERIFY(phone.dialed(50 * second));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     {
         const FullDisk full(0);
         expectFailure();
@@ -190,7 +190,7 @@ void TestFullDisk::aCallThatWasNotConnectedEndsAndIsWrittenWhenThereIsRoom()
     QCOMPARE(phone.figures(), (SixFigures{4, 4, 0, 0, 4, 4}));
 }
 
-void TestFullDisk::aCallThatTheTelephoneStopsEndsAndIsWrittenWhenThereIsRoom()
+void TestFullDisk::aCallThatTheHandsetStopsEndsAndIsWrittenWhenThereIsRoom()
 {
     const StateDir state;
     Phone phone(state.path());
@@ -225,7 +225,7 @@ void TestFullDisk::aSessionEndsAndIsWrittenWhenThereIsRoom()
     const QStringList sessions{QStringLiteral("2 y 5 15 20"), QStringLiteral("1 x 50 50 100")};
     int updates = 0;
     phone.packets().setUpdateListener([&] { ++updates; });
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     {
         const FullDisk full(0);
         expectFailure();
@@ -257,7 +257,7 @@ void TestFullDisk::whatIsOwedIsWrittenWithoutAnybodyAsking()
     Phone phone(state.path());
     QVERIFY(phone.dial());
     QTimer *const timer = phone->findChild<QTimer *>();
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     {
         const FullDisk full(0);
         expectFailure();
@@ -308,7 +308,7 @@ void TestFullDisk::whatIsOwedIsWrittenBeforeTheNextSessionBegins()
     QCOMPARE(phone.sessionTotals(), QStringLiteral("32 32 32 64"));
 }
 
-void TestFullDisk::whatIsOwedIsWrittenAtTheEndOfTheTelephone()
+void TestFullDisk::whatIsOwedIsWrittenAtTheEndOfTheHandset()
 {
     const StateDir state;
     {
@@ -359,7 +359,7 @@ void TestFullDisk::thatAnEndIsNotWrittenIsSaidOnceAndOnceThatItIs()
     }
 }
 
-void TestFullDisk::thatAnEndIsLostIsSaidWhenTheTelephoneEnds()
+void TestFullDisk::thatAnEndIsLostIsSaidWhenTheHandsetEnds()
 {
     const StateDir state;
     auto phone = std::make_unique<Phone>(state.path());

@@ -178,7 +178,7 @@ void TestLedger::theLineIsSeenEverywhere()
     const StateDir state;
     Two two(state);
     QVERIFY(two);
-    using LineState = simulated::SimulatedTelephone::LineState;
+    using LineState = simulated::SimulatedHandset::LineState;
     QCOMPARE(two.phone->lineState(), LineState::Idle);
     QVERIFY(two.phone->number().isNull());
     QVERIFY(two.dial());
@@ -444,7 +444,7 @@ void TestLedger::theRecorderPassesOnWithoutAnybodyAsking()
     auto *const timer = two.phone->findChild<QTimer *>();
     QVERIFY(timer->isActive());
     QVERIFY(timer->interval() <= 500);
-    QSignalSpy spy(two.phone.operator->(), &simulated::SimulatedTelephone::changed);
+    QSignalSpy spy(two.phone.operator->(), &simulated::SimulatedHandset::changed);
     two.recorder->kill();
     QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 1, 60'000);
     QVERIFY(!timer->isActive());

@@ -152,7 +152,7 @@ private slots:
     void aNoticeIsToldByTheNextStartWhenItsOwnFails();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed_data();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
-    void aTelephoneThatEndsStopsTheReadingOfTheFile();
+    void aHandsetThatEndsStopsTheReadingOfTheFile();
 
 private:
     void fail(const Surroundings &files, const Fault &fault, const Moment &moment);
@@ -401,13 +401,13 @@ void TestLogFaults::aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed()
     QVERIFY(failed > 0);
 }
 
-void TestLogFaults::aTelephoneThatEndsStopsTheReadingOfTheFile()
+void TestLogFaults::aHandsetThatEndsStopsTheReadingOfTheFile()
 {
     const StateDir state;
     QCOMPARE(Phone(state.path())->addHistory(manyCalls(40'000)), int(Success));
     const long pages = QFileInfo(state.database()).size() / pageSize;
     long fewest = pages;
-    // A busy machine may let the reading come to its end before the telephone does.
+    // A busy machine may let the reading come to its end before the handset does.
     for (int attempt = 0; attempt < 20 && fewest >= pages / 2; ++attempt) {
         kavFaultsArm(qPrintable(state.path()), "pread", 0, 0, false);
         QVERIFY(Phone(state.path()));

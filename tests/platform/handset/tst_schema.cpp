@@ -76,7 +76,7 @@ private slots:
     void aSmallLogOfTheFirstVersionSaysNothingOfItsSteps();
     void aStepThatFailsLeavesTheVersionBeforeItWhole();
     void aStepThatFailedIsDoneByTheNextStart();
-    void theTelephoneTakesOverADatabaseWithoutTables();
+    void theHandsetTakesOverADatabaseWithoutTables();
     void rowsThatMakeNoSenseAreRefusedByTheTables_data();
     void rowsThatMakeNoSenseAreRefusedByTheTables();
 };
@@ -204,7 +204,7 @@ void TestSchema::aStepThatFailedIsDoneByTheNextStart()
     QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT rate FROM calls")), QVariant(2));
 }
 
-void TestSchema::theTelephoneTakesOverADatabaseWithoutTables()
+void TestSchema::theHandsetTakesOverADatabaseWithoutTables()
 {
     const StateDir state;
     QVERIFY(QDir().mkpath(state.path()));

@@ -1,4 +1,4 @@
-// The packet-data sessions of the simulated telephone: what is counted, told and written down.
+// The packet-data sessions of the simulated handset: what is counted, told and written down.
 #include "calllog/PacketFigures.h"
 #include "calllog/Schema.h"
 #include "handset/HandsetTestKit.h"
@@ -16,7 +16,7 @@ using namespace handset;
 using namespace handset::test;
 using calllog::CallState;
 using calllog::PacketFigures;
-using simulated::SimulatedTelephone;
+using simulated::SimulatedHandset;
 
 namespace {
 
@@ -71,7 +71,7 @@ private slots:
     void aCheckpointWritesRowAndTotals();
     void aQueryWritesNothing();
     void aCrashLosesOnlyWhatFollowedTheLastCheckpoint();
-    void theEndOfTheTelephoneEndsTheSession();
+    void theEndOfTheHandsetEndsTheSession();
     void theTimerRunsWithACallOrASession();
     void theCheckpointComesByItselfWithinFiveTicks();
     void aSecondCallDoesNotPutTheCheckpointOff();
@@ -299,7 +299,7 @@ void TestSessions::aMonotonicClockThatGoesBackTakesNothingAway()
     Settings settings;
     settings.clock = clock;
     const Opened opened = open(settings);
-    auto &packets = dynamic_cast<SimulatedTelephone &>(*opened.handset).packets();
+    auto &packets = dynamic_cast<SimulatedHandset &>(*opened.handset).packets();
     const auto figuresAt = [&](qint64 monotonic) {
         clock->monotonic = monotonic;
         return sessionsOf(*opened.handset).join(QLatin1Char('|')) + QLatin1Char('|') +
@@ -396,7 +396,7 @@ void TestSessions::aCrashLosesOnlyWhatFollowedTheLastCheckpoint()
              row(2, "running", 3000, 30, 30, CallState::Interrupted));
 }
 
-void TestSessions::theEndOfTheTelephoneEndsTheSession()
+void TestSessions::theEndOfTheHandsetEndsTheSession()
 {
     const StateDir state;
     {
@@ -464,7 +464,7 @@ void TestSessions::aSecondCallDoesNotPutTheCheckpointOff()
 void TestSessions::whatChangesIsSignalledOnce()
 {
     Phone phone;
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     int expected = 0;
     const auto signalledAfter = [&](int status) { return status == Success && spy.count() == ++expected; };
     QVERIFY(signalledAfter(phone->packets().startSession("x", 1, 1)));
@@ -477,7 +477,7 @@ void TestSessions::whatChangesIsSignalledOnce()
 void TestSessions::whatDoesNotHappenIsNotSignalled()
 {
     Phone phone;
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     QCOMPARE(phone->packets().stopSession(), int(WrongState));
     QCOMPARE(phone->packets().startSession("", 1, 1), int(InvalidArgument));
     QCOMPARE(phone->checkpoint(), int(Success));
@@ -506,7 +506,7 @@ void TestSessions::aWriteThatFailsChangesNothing()
 
     QCOMPARE(packets.startSession("y", 1, 1), int(Success));
     phone.clock->advance(5 * second);
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     QVERIFY(other.run(QStringLiteral("BEGIN IMMEDIATE")));
     for (const auto &write : {std::function([&] { return phone->checkpoint(); }),
                               std::function([&] { return phone.packets().resetTotalBytes(); }),

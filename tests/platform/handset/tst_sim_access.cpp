@@ -1,4 +1,4 @@
-// The SIM behind the simulated telephone: what may be read, who may write, and PIN2.
+// The SIM behind the simulated handset: what may be read, who may write, and PIN2.
 #include "handset/AdviceOfCharge.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/SimSecurity.h"
@@ -62,7 +62,7 @@ Limit limitOf(const Phone &phone)
     return advice(phone).meterMaximum(limit.text, limit.enabled) == Success ? limit : Limit();
 }
 
-// Every byte that the telephone has written, in whatever file.
+// Every byte that the handset has written, in whatever file.
 QByteArray everythingIn(const StateDir &state)
 {
     QByteArray all;

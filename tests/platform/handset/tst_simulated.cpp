@@ -14,8 +14,8 @@
 
 using namespace handset;
 using namespace handset::test;
-using simulated::SimulatedTelephone;
-using LineState = SimulatedTelephone::LineState;
+using simulated::SimulatedHandset;
+using LineState = SimulatedHandset::LineState;
 
 namespace {
 
@@ -95,7 +95,7 @@ constexpr quint64 longestTime = quint64{4'294'967'295} * 3600 + 59 * 60 + 59;
 
 } // namespace
 
-class TestSimulatedTelephone : public QObject
+class TestSimulatedHandset : public QObject
 {
     Q_OBJECT
 
@@ -123,14 +123,14 @@ private slots:
     void theCheckpointComesByItselfWithinTenSeconds();
 };
 
-void TestSimulatedTelephone::theLineGoesFromStateToState_data()
+void TestSimulatedHandset::theLineGoesFromStateToState_data()
 {
     QTest::addColumn<int>("step");
     for (int i = 0; i < static_cast<int>(std::size(steps)); ++i)
         QTest::newRow(steps[i].name) << i;
 }
 
-void TestSimulatedTelephone::theLineGoesFromStateToState()
+void TestSimulatedHandset::theLineGoesFromStateToState()
 {
     QFETCH(int, step);
     const Step &row = steps[step];
@@ -144,7 +144,7 @@ void TestSimulatedTelephone::theLineGoesFromStateToState()
         QCOMPARE(phone->number(), numberBefore);
 }
 
-void TestSimulatedTelephone::aNumberIsWhatCanBeDialed_data()
+void TestSimulatedHandset::aNumberIsWhatCanBeDialed_data()
 {
     QTest::addColumn<QString>("number");
     QTest::addColumn<bool>("valid");
@@ -160,7 +160,7 @@ void TestSimulatedTelephone::aNumberIsWhatCanBeDialed_data()
     QTest::newRow("a zero character") << QString(QChar(0)) << false;
 }
 
-void TestSimulatedTelephone::aNumberIsWhatCanBeDialed()
+void TestSimulatedHandset::aNumberIsWhatCanBeDialed()
 {
     QFETCH(QString, number);
     QFETCH(bool, valid);
@@ -172,7 +172,7 @@ void TestSimulatedTelephone::aNumberIsWhatCanBeDialed()
     QCOMPARE(phone->ring(number), int(valid || number.isEmpty() ? Success : InvalidArgument));
 }
 
-void TestSimulatedTelephone::aKindOfCallThatIsNoneIsNotDialed()
+void TestSimulatedHandset::aKindOfCallThatIsNoneIsNotDialed()
 {
     const StateDir state;
     Phone phone(state.path());
@@ -184,7 +184,7 @@ void TestSimulatedTelephone::aKindOfCallThatIsNoneIsNotDialed()
     QCOMPARE(phone.figures(), (SixFigures{1, 1, 0, 0, 1, 1}));
 }
 
-void TestSimulatedTelephone::aDirectionThatIsNoneHasNoTariff()
+void TestSimulatedHandset::aDirectionThatIsNoneHasNoTariff()
 {
     Phone phone;
     charging::Tariff dear;
@@ -197,7 +197,7 @@ void TestSimulatedTelephone::aDirectionThatIsNoneHasNoTariff()
     QVERIFY(phone->charging().tariff(CallDirection::Answered) == charging::Tariff());
 }
 
-void TestSimulatedTelephone::aCallerMayWithholdTheNumber()
+void TestSimulatedHandset::aCallerMayWithholdTheNumber()
 {
     const StateDir state;
     Phone phone(state.path());
@@ -209,7 +209,7 @@ void TestSimulatedTelephone::aCallerMayWithholdTheNumber()
     QCOMPARE(calls[0].number, QStringLiteral(""));
 }
 
-void TestSimulatedTelephone::anIdleLineHasNoCall()
+void TestSimulatedHandset::anIdleLineHasNoCall()
 {
     Phone phone;
     QVERIFY(phone.dial(CallKind::Data, QStringLiteral("0191")));
@@ -221,7 +221,7 @@ void TestSimulatedTelephone::anIdleLineHasNoCall()
     QCOMPARE(phone->connectedMs(), qint64{0});
 }
 
-void TestSimulatedTelephone::aConnectedLineSaysHowLong()
+void TestSimulatedHandset::aConnectedLineSaysHowLong()
 {
     Phone phone;
     QCOMPARE(phone->ring(QStringLiteral("5")), int(Success));
@@ -237,10 +237,10 @@ void TestSimulatedTelephone::aConnectedLineSaysHowLong()
     QCOMPARE(phone->connectedMs(), qint64{1235});
 }
 
-void TestSimulatedTelephone::whatChangesIsSignalledOnce()
+void TestSimulatedHandset::whatChangesIsSignalledOnce()
 {
     Phone phone;
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     int expected = 0;
     const auto signalledAfter = [&](int status) { return status == Success && spy.count() == ++expected; };
     QVERIFY(signalledAfter(phone->dial(QStringLiteral("1"), CallKind::Voice)));
@@ -257,10 +257,10 @@ void TestSimulatedTelephone::whatChangesIsSignalledOnce()
     QVERIFY(signalledAfter(phone->addHistory(simulated::readyMadeHistory(0))));
 }
 
-void TestSimulatedTelephone::whatDoesNotHappenIsNotSignalled()
+void TestSimulatedHandset::whatDoesNotHappenIsNotSignalled()
 {
     Phone phone;
-    QSignalSpy spy(phone.operator->(), &SimulatedTelephone::changed);
+    QSignalSpy spy(phone.operator->(), &SimulatedHandset::changed);
     QCOMPARE(phone->hangUp(), int(WrongState));
     QCOMPARE(phone->answer(), int(WrongState));
     QCOMPARE(phone->remoteAnswer(), int(WrongState));
@@ -271,7 +271,7 @@ void TestSimulatedTelephone::whatDoesNotHappenIsNotSignalled()
     QCOMPARE(spy.count(), 0);
 }
 
-void TestSimulatedTelephone::historyCountsAsIfItHadBeenMade()
+void TestSimulatedHandset::historyCountsAsIfItHadBeenMade()
 {
     Phone phone;
     QVERIFY(phone.dialed(100 * second));
@@ -287,7 +287,7 @@ void TestSimulatedTelephone::historyCountsAsIfItHadBeenMade()
     QCOMPARE(phone.figures(), (SixFigures{30, 110, 30, 22, 162, 162}));
 }
 
-void TestSimulatedTelephone::historyDuringACallLeavesTheLastCallAlone()
+void TestSimulatedHandset::historyDuringACallLeavesTheLastCallAlone()
 {
     Phone phone;
     QVERIFY(phone.dial());
@@ -299,7 +299,7 @@ void TestSimulatedTelephone::historyDuringACallLeavesTheLastCallAlone()
     QCOMPARE(phone.figures(), (SixFigures{7, 7, 30, 0, 37, 37}));
 }
 
-void TestSimulatedTelephone::historyWithOneBadCallIsRefusedAsAWhole_data()
+void TestSimulatedHandset::historyWithOneBadCallIsRefusedAsAWhole_data()
 {
     constexpr auto none = 2;
     QTest::addColumn<PastCall>("bad");
@@ -322,7 +322,7 @@ void TestSimulatedTelephone::historyWithOneBadCallIsRefusedAsAWhole_data()
     QTest::newRow("a direction that is none") << call;
 }
 
-void TestSimulatedTelephone::historyWithOneBadCallIsRefusedAsAWhole()
+void TestSimulatedHandset::historyWithOneBadCallIsRefusedAsAWhole()
 {
     QFETCH(PastCall, bad);
     Phone phone;
@@ -331,7 +331,7 @@ void TestSimulatedTelephone::historyWithOneBadCallIsRefusedAsAWhole()
     QCOMPARE(phone.figures(), SixFigures());
 }
 
-void TestSimulatedTelephone::theReadyMadeHistoryIsADozenCallsInThePast()
+void TestSimulatedHandset::theReadyMadeHistoryIsADozenCallsInThePast()
 {
     constexpr qint64 now = 1'900'000'000'000;
     const QList<PastCall> history = simulated::readyMadeHistory(now);
@@ -348,7 +348,7 @@ void TestSimulatedTelephone::theReadyMadeHistoryIsADozenCallsInThePast()
     QCOMPARE(phone.figures(), (SixFigures{266, 4295, 1557, 5267, 11119, 11119}));
 }
 
-void TestSimulatedTelephone::figuresStopAtTheirEndInsteadOfWrapping()
+void TestSimulatedHandset::figuresStopAtTheirEndInsteadOfWrapping()
 {
     Phone phone;
     const PastCall voice{CallKind::Voice, CallDirection::Dialed, {}, 0, maximum};
@@ -365,7 +365,7 @@ void TestSimulatedTelephone::figuresStopAtTheirEndInsteadOfWrapping()
     QCOMPARE(phone.figures(), (SixFigures{3600, most, 0, mostOfData, most, most}));
 }
 
-void TestSimulatedTelephone::aCallLongerThanAnyClockStopsAtTheEnd()
+void TestSimulatedHandset::aCallLongerThanAnyClockStopsAtTheEnd()
 {
     const StateDir state;
     Phone phone(state.path(), std::make_shared<ManualClock>(0));
@@ -382,7 +382,7 @@ void TestSimulatedTelephone::aCallLongerThanAnyClockStopsAtTheEnd()
     QCOMPARE(LogFile(state.database()).calls().value(0).durationMs, maximum);
 }
 
-void TestSimulatedTelephone::theCheckpointComesByItselfWithinTenSeconds()
+void TestSimulatedHandset::theCheckpointComesByItselfWithinTenSeconds()
 {
     const StateDir state;
     Phone phone(state.path());
@@ -404,5 +404,5 @@ void TestSimulatedTelephone::theCheckpointComesByItselfWithinTenSeconds()
     QVERIFY(!timer->isActive());
 }
 
-KAV_TEST_GROUP(TestSimulatedTelephone, QCoreApplication);
+KAV_TEST_GROUP(TestSimulatedHandset, QCoreApplication);
 #include "tst_simulated.moc"

@@ -1,4 +1,4 @@
-// What opening the telephone does not do.
+// What opening the handset does not do.
 #include "charging/CodeHash.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/SimSecurity.h"
@@ -16,7 +16,7 @@ int derivedHashes = 0;
 
 } // namespace
 
-// In front of the telephone's own, which does the work: each takes milliseconds.
+// In front of the handset's own, which does the work: each takes milliseconds.
 charging::CodeHash charging::CodeHash::of(QByteArrayView digits)
 {
     using Derive = CodeHash (*)(QByteArrayView);

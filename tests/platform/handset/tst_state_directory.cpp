@@ -48,7 +48,7 @@ private slots:
     void aLockThatIsSomethingElseIsAnError();
     void aLinkToADirectoryIsFollowed();
     void aSecondProcessMovesNothingAside();
-    void aSecondTelephoneOfThisProcessIsRefusedToo();
+    void aSecondHandsetOfThisProcessIsRefusedToo();
     void aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain();
     void removingTheLockFilesMakesNoSecondRecorder();
 };
@@ -363,7 +363,7 @@ void TestStateDirectory::aSecondProcessMovesNothingAside()
     QCOMPARE(readFile(state.database()), QByteArray(5000, 'g'));
 }
 
-void TestStateDirectory::aSecondTelephoneOfThisProcessIsRefusedToo()
+void TestStateDirectory::aSecondHandsetOfThisProcessIsRefusedToo()
 {
     const StateDir state;
     const Phone phone(state.path());

@@ -21,8 +21,8 @@ using namespace ToolkitTestKit;
 
 namespace {
 
-/// A telephone of nothing but a SIM.
-class Telephone : public handset::DecoratedHandset<Telephone>
+/// A handset of nothing but a SIM.
+class SimOnlyHandset : public handset::DecoratedHandset<SimOnlyHandset>
 {
 public:
     struct {
@@ -196,19 +196,19 @@ private slots:
     void theEntryEndsWithTheApplication();
     void nobodyIsAskedOverAHiddenScreen();
     void withoutAScreenTheEntryLiesOverTheDisplay();
-    void anotherTelephoneInstalledMeanwhileIsTheOneAsked();
+    void anotherHandsetInstalledMeanwhileIsTheOneAsked();
     void theEntryCanBeOpenedByAKeyPress();
 
 private:
-    std::shared_ptr<Telephone> telephone;
+    std::shared_ptr<SimOnlyHandset> handset;
     std::unique_ptr<TestScreen> screen;
 };
 
 void VerifyPinTest::init()
 {
     noWarnings();
-    telephone = std::make_shared<Telephone>();
-    handset::install(telephone);
+    handset = std::make_shared<SimOnlyHandset>();
+    handset::install(handset);
     screen = std::make_unique<TestScreen>();
     screen->addRows(3);
     screen->show();
@@ -218,7 +218,7 @@ void VerifyPinTest::cleanup()
 {
     screen.reset();
     handset::install(nullptr);
-    telephone.reset();
+    handset.reset();
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
@@ -231,8 +231,8 @@ void VerifyPinTest::theRightPinIsAccepted()
     QVERIFY(answer.isAccepted());
     QCOMPARE(answer.pin, SETUP_SECURITY_PIN2);
     QCOMPARE(text, QStringLiteral("Enter PIN2|Tries left: 3"));
-    QCOMPARE(telephone->sim.presented, QList<QByteArray>{"4711"});
-    QCOMPARE(telephone->sim.pins, QList<int>(3, 1));
+    QCOMPARE(handset->sim.presented, QList<QByteArray>{"4711"});
+    QCOMPARE(handset->sim.pins, QList<int>(3, 1));
     QCOMPARE(ZApplication::keyTarget(), screen->list);
 }
 
@@ -263,12 +263,12 @@ void VerifyPinTest::aWrongPinIsSaidAndAskedAgainWithTheNewCount()
     QCOMPARE(texts, QStringList({QStringLiteral("Enter PIN2|Tries left: 3"),
                                  QStringLiteral("Enter PIN2|Wrong PIN2. Tries left: 2"),
                                  QStringLiteral("Enter PIN2|Wrong PIN2. Tries left: 1")}));
-    QCOMPARE(telephone->sim.presented, QList<QByteArray>({"0000", "00001111", "4711"}));
+    QCOMPARE(handset->sim.presented, QList<QByteArray>({"0000", "00001111", "4711"}));
 }
 
 void VerifyPinTest::theThirdWrongPinBlocksAndThatIsSaid()
 {
-    telephone->sim.tries = 1;
+    handset->sim.tries = 1;
     QString text;
     User user({keys("0000"), key(Qt::Key_Select), [&] { text = shownText(); }, key(Qt::Key_Context1)});
     const Result answer = verify(screen.get());
@@ -276,25 +276,25 @@ void VerifyPinTest::theThirdWrongPinBlocksAndThatIsSaid()
     QCOMPARE(answer.result, 0);
     QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_BLOCKED);
     QCOMPARE(text, QStringLiteral("PIN2|PIN2 is blocked. Only PUK2 can unblock it."));
-    QCOMPARE(telephone->sim.presented.size(), 1);
+    QCOMPARE(handset->sim.presented.size(), 1);
     QVERIFY(!shownPopup());
 }
 
 void VerifyPinTest::aBlockedPinIsNotAskedFor()
 {
-    telephone->sim.tries = 0;
+    handset->sim.tries = 0;
     QString text;
     User user({[&] { text = shownText(); }, key(Qt::Key_Clear)});
     const Result answer = verify(screen.get());
     QCOMPARE(answer.result, 0);
     QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_BLOCKED);
     QCOMPARE(text, QStringLiteral("PIN2|PIN2 is blocked. Only PUK2 can unblock it."));
-    QVERIFY(telephone->sim.presented.isEmpty());
+    QVERIFY(handset->sim.presented.isEmpty());
 }
 
 void VerifyPinTest::aSimThatCannotBeAskedIsSaid_data()
 {
-    QTest::addColumn<bool>("hasTelephone");
+    QTest::addColumn<bool>("hasHandset");
     QTest::addColumn<bool>("hasSim");
     QTest::addColumn<int>("pinStatus");
     QTest::addColumn<int>("verifyPin");
@@ -308,15 +308,15 @@ void VerifyPinTest::aSimThatCannotBeAskedIsSaid_data()
 
 void VerifyPinTest::aSimThatCannotBeAskedIsSaid()
 {
-    QFETCH(bool, hasTelephone);
+    QFETCH(bool, hasHandset);
     QFETCH(bool, hasSim);
     QFETCH(int, pinStatus);
     QFETCH(int, verifyPin);
     if (!hasSim)
-        telephone->takeAway("SimSecurity");
-    telephone->sim.statusOfPinStatus = pinStatus;
-    telephone->sim.statusOfVerifyPin = verifyPin;
-    if (!hasTelephone)
+        handset->takeAway("SimSecurity");
+    handset->sim.statusOfPinStatus = pinStatus;
+    handset->sim.statusOfVerifyPin = verifyPin;
+    if (!hasHandset)
         handset::install(nullptr);
     QString text;
     QList<std::function<void()>> steps = {[&] { text = shownText(); }, key(Qt::Key_Select)};
@@ -332,7 +332,7 @@ void VerifyPinTest::aSimThatCannotBeAskedIsSaid()
 
 void VerifyPinTest::aPinThatTheSimRefusesToLookAtIsBlocked()
 {
-    telephone->sim.statusOfVerifyPin = handset::NotAllowed;
+    handset->sim.statusOfVerifyPin = handset::NotAllowed;
     User user({keys("4711"), key(Qt::Key_Select), key(Qt::Key_Select)});
     const Result answer = verify(screen.get());
     QCOMPARE(answer.result, 0);
@@ -341,7 +341,7 @@ void VerifyPinTest::aPinThatTheSimRefusesToLookAtIsBlocked()
 
 void VerifyPinTest::aSimThatDoesNotTellTheTriesIsAskedAllTheSame()
 {
-    telephone->sim.statusOfTriesLeft = handset::NotAvailable;
+    handset->sim.statusOfTriesLeft = handset::NotAvailable;
     QStringList texts;
     const auto look = [&] { texts << shownText(); };
     User user({look, keys("0000"), key(Qt::Key_Select), look, keys("4711"), key(Qt::Key_Select)});
@@ -375,8 +375,8 @@ void VerifyPinTest::theUserCanGiveUp()
     QVERIFY(user.isDone());
     QCOMPARE(answer.result, 0);
     QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
-    QVERIFY(telephone->sim.presented.isEmpty());
-    QCOMPARE(telephone->sim.tries, 3);
+    QVERIFY(handset->sim.presented.isEmpty());
+    QCOMPARE(handset->sim.tries, 3);
 }
 
 void VerifyPinTest::theBackspaceKeyTakesBackDigitsAndThenGivesUp()
@@ -410,12 +410,12 @@ void VerifyPinTest::fewerThanFourDigitsDoNotConfirm()
                key(Qt::Key_Select)});
     QVERIFY(verify(screen.get()).isAccepted());
     QVERIFY(!wasEnabled);
-    QCOMPARE(telephone->sim.presented.size(), 1);
+    QCOMPARE(handset->sim.presented.size(), 1);
 }
 
 void VerifyPinTest::moreThanEightDigitsAreNotTaken()
 {
-    telephone->sim.code = "12345678";
+    handset->sim.code = "12345678";
     User user({keys("1234567899"), key(Qt::Key_Select)});
     QVERIFY(verify(screen.get()).isAccepted());
 }
@@ -473,8 +473,8 @@ void VerifyPinTest::theDigitsAreOverwrittenOnceTheSimHasSeenThem()
 {
     int looks = 0;
     bool anyDigit = false;
-    telephone->sim.whenTriesAreAsked = [&] {
-        const char *place = telephone->sim.lastSeenAt; // in the entry, which is still there
+    handset->sim.whenTriesAreAsked = [&] {
+        const char *place = handset->sim.lastSeenAt; // in the entry, which is still there
         for (int i = 0; place && i < 8; ++i, ++looks)
             anyDigit = anyDigit || place[i] != 0;
     };
@@ -519,7 +519,7 @@ void VerifyPinTest::theOtherPinIsAskedForByItsName()
     QVERIFY(answer.isAccepted());
     QCOMPARE(answer.pin, SETUP_SECURITY_PIN1);
     QCOMPARE(text, QStringLiteral("Enter PIN1|Tries left: 3"));
-    QCOMPARE(telephone->sim.pins, QList<int>(3, 0));
+    QCOMPARE(handset->sim.pins, QList<int>(3, 0));
 }
 
 void VerifyPinTest::aNumberThatIsNoPinFails()
@@ -528,7 +528,7 @@ void VerifyPinTest::aNumberThatIsNoPinFails()
     const Result answer = verify(screen.get(), static_cast<SETUP_SECURITY_PINTYPE_E>(7));
     QCOMPARE(answer.result, 0);
     QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_FAILED);
-    QVERIFY(telephone->sim.pins.isEmpty());
+    QVERIFY(handset->sim.pins.isEmpty());
 }
 
 void VerifyPinTest::aSecondCallIsRefusedWhileTheFirstIsOpen()
@@ -566,14 +566,14 @@ void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes()
         QVERIFY(user.isDone());
         QCOMPARE(answer.result, 0);
         QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
-        QVERIFY(telephone->sim.presented.isEmpty());
+        QVERIFY(handset->sim.presented.isEmpty());
         QVERIFY(!shownPopup());
     }
 }
 
 void VerifyPinTest::aMessageEndsWhenItsScreenGoes()
 {
-    telephone->sim.tries = 0;
+    handset->sim.tries = 0;
     User user({[&] { screen.reset(); }});
     QCOMPARE(verify(screen.get()).error, SETUP_SECURITY_VERIFY_BLOCKED);
     QVERIFY(user.isDone());
@@ -616,15 +616,15 @@ void VerifyPinTest::withoutAScreenTheEntryLiesOverTheDisplay()
     QVERIFY(user.isDone());
 }
 
-void VerifyPinTest::anotherTelephoneInstalledMeanwhileIsTheOneAsked()
+void VerifyPinTest::anotherHandsetInstalledMeanwhileIsTheOneAsked()
 {
-    const auto other = std::make_shared<Telephone>();
+    const auto other = std::make_shared<SimOnlyHandset>();
     other->sim.code = "1234";
-    const std::weak_ptr<Telephone> first = telephone;
+    const std::weak_ptr<SimOnlyHandset> first = handset;
     User user({keys("1234"),
                [&] {
                    handset::install(other);
-                   telephone.reset();
+                   handset.reset();
                },
                key(Qt::Key_Select)});
     QVERIFY(verify(screen.get()).isAccepted());

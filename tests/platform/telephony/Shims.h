@@ -1,4 +1,4 @@
-// The C functions as a table: what each asks of the telephone.
+// The C functions as a table: what each asks of the handset.
 #pragma once
 
 #include "telephony/tapi.h"
@@ -12,7 +12,7 @@ using Output = std::array<unsigned char, sizeof(TAPI_GPRS_SessionInfo)>;
 
 struct ShimQuery {
     const char *name;
-    const char *operation;     ///< of the scripted telephone
+    const char *operation;     ///< of the scripted handset
     int (*call)(void *output); ///< null is a null pointer
 };
 

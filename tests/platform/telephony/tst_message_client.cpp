@@ -1,4 +1,4 @@
-// The phone's message client over a scripted telephone.
+// The phone's message client over a scripted handset.
 #include "support/PhoneTest.h"
 
 #include "handset/Handset.h"
@@ -16,11 +16,11 @@ class TestMessageClient : public PhoneTest
     Q_OBJECT
 
 private slots:
-    void refreshingAsksTheTelephoneOnce();
+    void refreshingAsksTheHandsetOnce();
     void aConfirmedResetIsPassedOn();
     void anUnconfirmedResetAsksForNothing();
     void codesArePassedOn();
-    void withoutATelephoneNothingIsAvailable();
+    void withoutAHandsetNothingIsAvailable();
     void withoutDataCallsNothingIsAvailable();
     void itHasTheNameItIsGivenOrNone();
     void itIsItsParentsAndNobodysWithoutOne();
@@ -28,7 +28,7 @@ private slots:
     void itSaysItsClass();
 };
 
-void TestMessageClient::refreshingAsksTheTelephoneOnce()
+void TestMessageClient::refreshingAsksTheHandsetOnce()
 {
     PHONE_MsgClient client(nullptr);
     QCOMPARE(client.getTotalByteAndConnectedDuration(), int(handset::Success));
@@ -60,7 +60,7 @@ void TestMessageClient::codesArePassedOn()
     }
 }
 
-void TestMessageClient::withoutATelephoneNothingIsAvailable()
+void TestMessageClient::withoutAHandsetNothingIsAvailable()
 {
     PHONE_MsgClient client(nullptr);
     handset::install(nullptr);

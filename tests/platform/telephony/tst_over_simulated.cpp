@@ -5,7 +5,7 @@
 #include "handset/Handset.h"
 #include "handset/Status.h"
 #include "message/PHONE_MsgClient.h"
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 #include "telephony/tapi.h"
 #include "telephony/util.h"
@@ -61,7 +61,7 @@ private:
     bool answeredCall(qint64 ms);
 
     std::shared_ptr<ManualClock> clock;
-    simulated::SimulatedTelephone *phone = nullptr;
+    simulated::SimulatedHandset *phone = nullptr;
 };
 
 void TestOverSimulated::init()
@@ -72,7 +72,7 @@ void TestOverSimulated::init()
     settings.clock = clock;
     const Opened opened = open(settings);
     QVERIFY2(opened.handset, qPrintable(opened.error));
-    phone = dynamic_cast<simulated::SimulatedTelephone *>(opened.handset.get());
+    phone = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());
     QVERIFY(phone);
     install(opened.handset);
 }

@@ -1,4 +1,4 @@
-// What all C functions have in common: one operation of the telephone each, its status passed on, outputs written
+// What all C functions have in common: one operation of the handset each, its status passed on, outputs written
 // on success only.
 #include "support/PhoneTest.h"
 #include "telephony/Shims.h"
@@ -44,15 +44,15 @@ private slots:
     void aFailedQueryPassesItsCodeOnAndWritesNothing();
     void aFailedCommandPassesItsCodeOn_data() { everyCommand(); }
     void aFailedCommandPassesItsCodeOn();
-    void aNullPointerIsRefusedWithoutAskingTheTelephone_data() { everyQuery(); }
-    void aNullPointerIsRefusedWithoutAskingTheTelephone();
+    void aNullPointerIsRefusedWithoutAskingTheHandset_data() { everyQuery(); }
+    void aNullPointerIsRefusedWithoutAskingTheHandset();
     void eachOfThreeNullPointersIsRefused();
     void withoutTheRoleAQueryIsNotAvailable_data() { everyQuery(); }
     void withoutTheRoleAQueryIsNotAvailable();
     void withoutTheRoleACommandIsNotAvailable_data() { everyCommand(); }
     void withoutTheRoleACommandIsNotAvailable();
-    void withoutATelephoneNothingIsAvailable();
-    void aTelephoneThatIsReplacedDuringAQueryLivesUntilItHasAnswered();
+    void withoutAHandsetNothingIsAvailable();
+    void aHandsetThatIsReplacedDuringAQueryLivesUntilItHasAnswered();
 
 private:
     static void everyQuery();
@@ -115,7 +115,7 @@ void TestShims::aFailedCommandPassesItsCodeOn()
     }
 }
 
-void TestShims::aNullPointerIsRefusedWithoutAskingTheTelephone()
+void TestShims::aNullPointerIsRefusedWithoutAskingTheHandset()
 {
     QFETCH(const int, index);
     QCOMPARE(shimQueries[static_cast<std::size_t>(index)].call(nullptr), int(handset::InvalidArgument));
@@ -156,7 +156,7 @@ void TestShims::withoutTheRoleACommandIsNotAvailable()
     QCOMPARE(journal.lines(), QStringList());
 }
 
-void TestShims::withoutATelephoneNothingIsAvailable()
+void TestShims::withoutAHandsetNothingIsAvailable()
 {
     handset::install(nullptr);
     for (const ShimQuery &query : shimQueries) {
@@ -168,7 +168,7 @@ void TestShims::withoutATelephoneNothingIsAvailable()
         QCOMPARE(command.call(), int(handset::NotAvailable));
 }
 
-void TestShims::aTelephoneThatIsReplacedDuringAQueryLivesUntilItHasAnswered()
+void TestShims::aHandsetThatIsReplacedDuringAQueryLivesUntilItHasAnswered()
 {
     auto shortLived = std::make_shared<ScriptedHandset>();
     const std::weak_ptr<ScriptedHandset> watched = shortLived;

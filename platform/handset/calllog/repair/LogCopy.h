@@ -30,7 +30,7 @@ public:
     LogCopy(const LogCopy &) = delete;
     LogCopy &operator=(const LogCopy &) = delete;
 
-    /// Answers `verdict`, or Damaged for a log that is foreign or newer by its header alone: its tables say that it is
+    /// Returns `verdict`, or Damaged for a log that is foreign or newer by its header alone: its tables say that it is
     /// ours. Blocked when that cannot be found out. Makes the copy where it takes one.
     Finding look(Verdict verdict);
     /// Makes the copy, unless it is there. Blocked when it cannot be made, or there is no room for a new log beside it; what is wrong with its header is put right.

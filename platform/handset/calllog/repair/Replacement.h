@@ -10,7 +10,7 @@ namespace handset::calllog {
 /// For every verdict but Usable and Blocked. What is there is kept under a new name, and what can be read of a damaged
 /// log goes into the new one, with a notice. What is foreign or newer only by its header is taken for damaged. Nothing
 /// has changed when no new log can be made. Whenever this is interrupted, finishReplacement() makes up for it on the next
-/// start. Answers why there is no new log, part of a sentence; an empty text when there is one.
+/// start. Returns why there is no new log, part of a sentence; an empty text when there is one.
 QString replace(StateDirectory &directory, Verdict verdict, const ProgressListener &progress);
 
 /// Whether an interrupted replacement has left files.

@@ -1,4 +1,4 @@
-// A telephone whose figures cost nothing to ask and do not change by themselves.
+// A handset whose figures cost nothing to ask and do not change by themselves.
 #pragma once
 
 #include "handset/CallTime.h"
@@ -7,12 +7,12 @@
 
 namespace bench {
 
-/// What the fixed telephone answers for the dialed calls at first.
+/// What the fixed handset answers for the dialed calls at first.
 inline constexpr handset::CallTime fixedTime{5, 3, 7};
 
-/// Makes it the telephone that the phone's libraries talk to, and gives the trace stream a place where nothing is
+/// Makes it the handset that the phone's libraries talk to, and gives the trace stream a place where nothing is
 /// kept.
-void useFixedTelephone();
+void useFixedHandset();
 
 /// From now on all its figures are others, about as long as those before. Settings and the date of expiration stay.
 void changeFigures();

@@ -1,4 +1,4 @@
-#include "simulated/SimulatedTelephone.h"
+#include "simulated/SimulatedHandset.h"
 
 #include "calllog/CallFigures.h"
 #include "calllog/CheckBeside.h"
@@ -14,7 +14,7 @@ namespace handset::simulated {
 
 using calllog::Ledger;
 using calllog::PacketFigures;
-using LineState = SimulatedTelephone::LineState;
+using LineState = SimulatedHandset::LineState;
 
 namespace {
 
@@ -74,17 +74,17 @@ Opened open(const Settings &settings)
     calllog::OpenedLedger opened = openLedger(settings);
     if (!opened.ledger)
         return {nullptr, opened.error, {}};
-    auto telephone = std::make_shared<SimulatedTelephone>(std::move(opened.ledger), settings.clock);
+    auto handset = std::make_shared<SimulatedHandset>(std::move(opened.ledger), settings.clock);
     if (!opened.unread.isEmpty())
-        telephone->checkBeside(opened.unread, settings.tell);
-    return {telephone, {}, opened.notice};
+        handset->checkBeside(opened.unread, settings.tell);
+    return {handset, {}, opened.notice};
 }
 
-/// What the telephone is made of.
-class SimulatedTelephone::Innards
+/// What the handset is made of.
+class SimulatedHandset::Innards
 {
 public:
-    Innards(SimulatedTelephone &telephone, std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clocks);
+    Innards(SimulatedHandset &handset, std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clocks);
     ~Innards();
 
     int begin(LineState begun, const PastCall &begunCall);
@@ -117,7 +117,7 @@ private:
     int stopCall();
     void setDataCallStatus(DataCalls::CallStatus status);
 
-    SimulatedTelephone &owner;
+    SimulatedHandset &owner;
     std::shared_ptr<Clock> clock;
     QTimer
         *timer; ///< runs while a call is connected, a session runs, something is owed, or another process records
@@ -127,21 +127,21 @@ private:
     bool toldOwing = false;      ///< with the last changed()
 };
 
-SimulatedTelephone::Innards::Innards(SimulatedTelephone &telephone, std::unique_ptr<Ledger> opened,
-                                     std::shared_ptr<Clock> clocks)
+SimulatedHandset::Innards::Innards(SimulatedHandset &handset, std::unique_ptr<Ledger> opened,
+                                   std::shared_ptr<Clock> clocks)
     : ledger(std::move(opened))
-    , owner(telephone)
+    , owner(handset)
     , clock(std::move(clocks))
-    , timer(new QTimer(&telephone))
+    , timer(new QTimer(&handset))
 {
     ledger->setChangeListener([this] { figuresChanged(); });
     timer->setInterval(tickMs);
     timer->setTimerType(Qt::PreciseTimer);
-    QObject::connect(timer, &QTimer::timeout, &telephone, [this] { tick(); });
+    QObject::connect(timer, &QTimer::timeout, &handset, [this] { tick(); });
     runTimer();
 }
 
-SimulatedTelephone::Innards::~Innards()
+SimulatedHandset::Innards::~Innards()
 {
     ledger->setChangeListener({});
     check.reset();
@@ -149,7 +149,7 @@ SimulatedTelephone::Innards::~Innards()
         endCall();
 }
 
-int SimulatedTelephone::Innards::begin(LineState begun, const PastCall &begunCall)
+int SimulatedHandset::Innards::begin(LineState begun, const PastCall &begunCall)
 {
     if (!ledger->record())
         return ledger->whyNotRecording();
@@ -169,7 +169,7 @@ int SimulatedTelephone::Innards::begin(LineState begun, const PastCall &begunCal
     return Success;
 }
 
-int SimulatedTelephone::Innards::connectCall(LineState from)
+int SimulatedHandset::Innards::connectCall(LineState from)
 {
     if (state != from)
         return ledger->record() ? int{WrongState} : ledger->whyNotRecording();
@@ -182,7 +182,7 @@ int SimulatedTelephone::Innards::connectCall(LineState from)
 }
 
 // The line is idle at once, whether the end can be written now or not.
-int SimulatedTelephone::Innards::endCall()
+int SimulatedHandset::Innards::endCall()
 {
     const int status = state == LineState::Connected ? ledger->endCall() : ledger->addUnconnected(call);
     setDataCallStatus(DataCalls::Released);
@@ -191,7 +191,7 @@ int SimulatedTelephone::Innards::endCall()
     return status;
 }
 
-int SimulatedTelephone::Innards::checkpoint()
+int SimulatedHandset::Innards::checkpoint()
 {
     ticksToCheckpoint = ticksPerCheckpoint;
     const int ofSession = ledger->checkpointSession();
@@ -202,7 +202,7 @@ int SimulatedTelephone::Innards::checkpoint()
     return status;
 }
 
-void SimulatedTelephone::Innards::runTimer()
+void SimulatedHandset::Innards::runTimer()
 {
     if (records != ledger->record()) {
         records = !records;
@@ -216,14 +216,14 @@ void SimulatedTelephone::Innards::runTimer()
     }
 }
 
-bool SimulatedTelephone::Innards::isUnitDue() const
+bool SimulatedHandset::Innards::isUnitDue() const
 {
     return state == LineState::Connected && ledger->dueUnits() > 0;
 }
 
 // Every unit is on the disk within a second of falling due, and the time, and what is owed, every few seconds: so is what
 // could not be written, as the attempt may hold up whoever uses the screens.
-void SimulatedTelephone::Innards::tick()
+void SimulatedHandset::Innards::tick()
 {
     if (!records) {
         if (ledger->record())
@@ -243,7 +243,7 @@ void SimulatedTelephone::Innards::tick()
 }
 
 // A setting, too, can be what ends a call: a lower limit.
-void SimulatedTelephone::Innards::figuresChanged()
+void SimulatedHandset::Innards::figuresChanged()
 {
     if (isTimeUp())
         stopCall();
@@ -252,7 +252,7 @@ void SimulatedTelephone::Innards::figuresChanged()
 }
 
 // The same, made by another process.
-void SimulatedTelephone::Innards::changedElsewhere()
+void SimulatedHandset::Innards::changedElsewhere()
 {
     if (isTimeUp())
         stopCall();
@@ -260,28 +260,28 @@ void SimulatedTelephone::Innards::changedElsewhere()
         tellHere();
 }
 
-void SimulatedTelephone::Innards::tellChange()
+void SimulatedHandset::Innards::tellChange()
 {
     tellHere();
     if (onChange)
         onChange();
 }
 
-void SimulatedTelephone::Innards::tellHere()
+void SimulatedHandset::Innards::tellHere()
 {
     runTimer();
     toldOwing = owesRecord();
     emit owner.changed();
 }
 
-void SimulatedTelephone::Innards::tellWhatIsOwed()
+void SimulatedHandset::Innards::tellWhatIsOwed()
 {
     if (owesRecord() != toldOwing)
         tellHere();
 }
 
 // The network ends the call by itself.
-int SimulatedTelephone::Innards::stopCall()
+int SimulatedHandset::Innards::stopCall()
 {
     const int status = endCall();
     charges.callStopped();
@@ -290,66 +290,66 @@ int SimulatedTelephone::Innards::stopCall()
 }
 
 // A voice call leaves the data-call status alone.
-void SimulatedTelephone::Innards::setDataCallStatus(DataCalls::CallStatus status)
+void SimulatedHandset::Innards::setDataCallStatus(DataCalls::CallStatus status)
 {
     if (call.kind == CallKind::Data)
         figures.setCallStatus(status);
 }
 
-SimulatedTelephone::SimulatedTelephone(std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clock)
+SimulatedHandset::SimulatedHandset(std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clock)
     : innards(std::make_unique<Innards>(*this, std::move(opened), std::move(clock)))
 {}
 
-SimulatedTelephone::~SimulatedTelephone() = default;
+SimulatedHandset::~SimulatedHandset() = default;
 
-CallService *SimulatedTelephone::callService()
+CallService *SimulatedHandset::callService()
 {
     return &innards->figures;
 }
 
-CallLog *SimulatedTelephone::callLog()
+CallLog *SimulatedHandset::callLog()
 {
     return &innards->figures;
 }
 
-DataCalls *SimulatedTelephone::dataCalls()
+DataCalls *SimulatedHandset::dataCalls()
 {
     return &innards->figures;
 }
 
-AdviceOfCharge *SimulatedTelephone::adviceOfCharge()
+AdviceOfCharge *SimulatedHandset::adviceOfCharge()
 {
     return &innards->sim;
 }
 
-PacketData *SimulatedTelephone::packetData()
+PacketData *SimulatedHandset::packetData()
 {
     return &innards->packets;
 }
 
-SimSecurity *SimulatedTelephone::simSecurity()
+SimSecurity *SimulatedHandset::simSecurity()
 {
     return &innards->sim;
 }
 
-void SimulatedTelephone::setChangeListener(const std::function<void()> &listener)
+void SimulatedHandset::setChangeListener(const std::function<void()> &listener)
 {
     innards->onChange = listener;
 }
 
-void SimulatedTelephone::changedElsewhere()
+void SimulatedHandset::changedElsewhere()
 {
     innards->changedElsewhere();
 }
 
-int SimulatedTelephone::dial(const QString &number, CallKind kind)
+int SimulatedHandset::dial(const QString &number, CallKind kind)
 {
     if (!isNumber(number) || !isKnown(kind))
         return InvalidArgument;
     return innards->begin(LineState::Dialing, {kind, CallDirection::Dialed, number});
 }
 
-int SimulatedTelephone::ring(const QString &number)
+int SimulatedHandset::ring(const QString &number)
 {
     if (!isShownNumber(number))
         return InvalidArgument;
@@ -358,17 +358,17 @@ int SimulatedTelephone::ring(const QString &number)
     return innards->begin(LineState::Ringing, {CallKind::Voice, CallDirection::Answered, shown});
 }
 
-int SimulatedTelephone::remoteAnswer()
+int SimulatedHandset::remoteAnswer()
 {
     return innards->connectCall(LineState::Dialing);
 }
 
-int SimulatedTelephone::answer()
+int SimulatedHandset::answer()
 {
     return innards->connectCall(LineState::Ringing);
 }
 
-int SimulatedTelephone::hangUp()
+int SimulatedHandset::hangUp()
 {
     if (innards->state == LineState::Idle)
         return isRecording() ? int{WrongState} : innards->ledger->whyNotRecording();
@@ -377,7 +377,7 @@ int SimulatedTelephone::hangUp()
     return Success;
 }
 
-int SimulatedTelephone::addHistory(const QList<PastCall> &calls)
+int SimulatedHandset::addHistory(const QList<PastCall> &calls)
 {
     if (!std::all_of(calls.begin(), calls.end(), isPlausible))
         return InvalidArgument;
@@ -387,29 +387,29 @@ int SimulatedTelephone::addHistory(const QList<PastCall> &calls)
     return status;
 }
 
-int SimulatedTelephone::checkpoint()
+int SimulatedHandset::checkpoint()
 {
     return innards->checkpoint();
 }
 
-bool SimulatedTelephone::owesRecord() const
+bool SimulatedHandset::owesRecord() const
 {
     return innards->owesRecord();
 }
 
-bool SimulatedTelephone::isRecording() const
+bool SimulatedHandset::isRecording() const
 {
     return innards->ledger->record();
 }
 
-LineState SimulatedTelephone::lineState() const
+LineState SimulatedHandset::lineState() const
 {
     if (isRecording())
         return innards->state;
     return innards->ledger->standing().call ? LineState::Connected : LineState::Idle;
 }
 
-CallKind SimulatedTelephone::callKind() const
+CallKind SimulatedHandset::callKind() const
 {
     if (isRecording())
         return innards->call.kind;
@@ -417,7 +417,7 @@ CallKind SimulatedTelephone::callKind() const
     return call ? call->kind : CallKind::Voice;
 }
 
-QString SimulatedTelephone::number() const
+QString SimulatedHandset::number() const
 {
     if (isRecording())
         return innards->call.number;
@@ -425,28 +425,28 @@ QString SimulatedTelephone::number() const
     return call ? call->number : QString();
 }
 
-qint64 SimulatedTelephone::connectedMs() const
+qint64 SimulatedHandset::connectedMs() const
 {
     const auto call = innards->ledger->standing().call;
     return call ? call->ms : 0;
 }
 
-Charging &SimulatedTelephone::charging()
+Charging &SimulatedHandset::charging()
 {
     return innards->charges;
 }
 
-SimAccess &SimulatedTelephone::simCard()
+SimAccess &SimulatedHandset::simCard()
 {
     return innards->sim;
 }
 
-PacketFigures &SimulatedTelephone::packets()
+PacketFigures &SimulatedHandset::packets()
 {
     return innards->packets;
 }
 
-void SimulatedTelephone::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
+void SimulatedHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
 {
     innards->check = std::make_unique<calllog::CheckBeside>(innards->ledger->connection(), file, tell);
 }

@@ -1,4 +1,4 @@
-// The simulated telephone: the embedded default behind the phone's libraries.
+// The simulated handset: the embedded default behind the phone's libraries.
 #pragma once
 
 #include "calllog/Charging.h"
@@ -26,16 +26,16 @@ using handset::CallDirection;
 using handset::CallKind;
 using handset::PastCall;
 
-/// A line that is driven by hand over the ledger: one call at a time. Every operation answers a status of
+/// A line that is driven by hand over the ledger: one call at a time. Every operation returns a status of
 /// handset/Status.h; WrongState when the line is not in the state that the operation needs, RecordedElsewhere when
 /// another process records, StorageFailed when the call log could not be written. An operation that fails has changed
-/// nothing. The end of the telephone ends the call on the line and the packet-data session; neither knows of the other.
+/// nothing. The end of the handset ends the call on the line and the packet-data session; neither knows of the other.
 ///
 /// A call and a session can always be ended. An end that cannot be written is owed to the call log: owesRecord().
 ///
 /// A connected call is charged as it goes on. Where nothing more may be charged (Charging::unitsLeft() is 0) the
-/// telephone ends a charged call and lets no other begin. Calls to emergencyNumbers cost nothing and always go on.
-class SimulatedTelephone final : public QObject, public Handset
+/// handset ends a charged call and lets no other begin. Calls to emergencyNumbers cost nothing and always go on.
+class SimulatedHandset final : public QObject, public Handset
 {
     Q_OBJECT
 
@@ -49,8 +49,8 @@ public:
     Q_ENUM(LineState)
 
     /// The ledger is open; `clock` is not null.
-    SimulatedTelephone(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clock);
-    ~SimulatedTelephone() override;
+    SimulatedHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clock);
+    ~SimulatedHandset() override;
 
     static constexpr auto emergencyNumbers = charging::emergencyNumbers;
 
@@ -82,7 +82,7 @@ public:
     int addHistory(const QList<PastCall> &calls);
     /// Writes the time that the connected call has lasted so far and what it has cost, and what the running
     /// packet-data session has counted, so that a crash loses no more than what follows, and what is owed; ends a call
-    /// whose time is up. The telephone does this by itself every few seconds, and whenever a unit is due; success with
+    /// whose time is up. The handset does this by itself every few seconds, and whenever a unit is due; success with
     /// none of them.
     int checkpoint();
     /// Whether the end of a call or a packet-data session could not be written to the call log yet. It is kept in
@@ -98,7 +98,7 @@ public:
     QString number() const;     ///< of the call on the line; null when idle
     qint64 connectedMs() const; ///< how long the call on the line is connected, by the clock; else 0
 
-    /// The network's tariffs and the account; the SIM card; packet data. They belong to the telephone.
+    /// The network's tariffs and the account; the SIM card; packet data. They belong to the handset.
     Charging &charging();
     SimAccess &simCard();
     calllog::PacketFigures &packets();
@@ -107,7 +107,7 @@ public:
     void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
 
 signals:
-    /// The line state, a figure that a query answers, or owesRecord() has changed.
+    /// The line state, a figure that a query returns, or owesRecord() has changed.
     void changed();
 
 private:
