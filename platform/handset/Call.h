@@ -41,6 +41,7 @@ struct PastCall {
     qint64 startWallMs = 0; ///< since 1970-01-01 00:00 UTC: when it was dialed or began to ring
     qint64 durationMs = 0;  ///< connected time, 0 or more; 0 is a call that was never connected
     qint64 units = 0;       ///< charged, 0 or more
+    bool isLate = false;    ///< it had gone on before it was counted, nobody knows how long
 };
 
 } // namespace handset

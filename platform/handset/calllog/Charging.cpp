@@ -53,13 +53,13 @@ std::optional<quint32> Charging::unitsLeft() const
 
 quint64 Charging::runningUnits() const
 {
-    const std::optional<RunningCall> call = ledger.standing().call;
+    const std::optional<RunningCall> call = ledger.standing().call();
     return call ? call->units : 0;
 }
 
 std::optional<qint64> Charging::msLeft() const
 {
-    const std::optional<RunningCall> call = ledger.standing().call;
+    const std::optional<RunningCall> call = ledger.standing().call();
     if (!call || !call->mostMs)
         return std::nullopt;
     return std::max<qint64>(*call->mostMs - call->ms, 0);

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
+#include <vector>
 
 namespace handset::calllog {
 
@@ -28,19 +30,22 @@ struct Advance {
     quint32 units = 0;
 };
 
-// Brings the running call to a moment, with what is charged for it.
-Advance advance(Standing &standing, const Moment &to)
+// Brings a running call to a moment, with what is charged for it.
+Advance advance(RunningCall &call, charging::ChargingState &state, const Moment &to)
 {
-    if (!standing.call)
-        return {};
-    RunningCall &call = *standing.call;
     const qint64 passed = call.passedUntil(to);
     const quint32 due = call.dueAfter(passed);
     call.ms = saturatingSum(call.ms, passed);
     call.units += due;
     call.written.goOnUntil(to);
-    standing.state.charge(due);
+    state.charge(due);
     return {passed, due};
+}
+
+template <typename Rows>
+auto rowOf(Rows &rows, qint64 id)
+{
+    return std::find_if(rows.begin(), rows.end(), [id](const auto &row) { return row.id == id; });
 }
 
 /// A kept value that is looked at before anything else is done.
@@ -90,10 +95,8 @@ bool findUnusedName(LedgerTables &tables, const QString &name, QString &unused)
 struct Ledger::Entry {
     charging::ChargingState before;
     Standing now;
-    Advance passed;
-    bool begins = false; ///< the call
-    bool isOver = false;
-    bool isRowGone = false;
+    std::vector<Advance> passed; ///< by the calls
+    QList<qint64> gone;          ///< calls whose rows somebody has removed
     std::initializer_list<Total> zeroed = {};
 };
 
@@ -108,14 +111,18 @@ Ledger::Ledger(std::unique_ptr<Database> opened, std::unique_ptr<StateDirectory>
 Ledger::~Ledger()
 {
     callEnd = sessionEnd = {}; // what cannot be written now is lost, and that is told
-    if (isConnected())
-        endCall();
-    else
-        writeOwedCall();
-    if (isSessionRunning())
-        endSession();
-    else
-        writeOwedSession();
+    const auto endAll = [this](auto &own) {
+        for (auto &one : own)
+            if (!one.ended)
+                end(own, one.row.id);
+    };
+    endAll(ownCalls);
+    writeOwedCall();
+    const bool endsSession = isSessionRunning();
+    endAll(ownSessions);
+    writeOwedSession();
+    if (endsSession)
+        changed(Success);
 }
 
 int Ledger::changed(int status) const
@@ -131,7 +138,7 @@ int Ledger::find(Traces &traces)
 {
     for (const TotalPlace &place : costPlaces) {
         qint64 units = 0;
-        if (!tables.totalAt(place.total, callsNow(), units))
+        if (!tables.totalAt(place.total, momentsOf(ownCalls), units))
             return database->status(false);
         traces.costs = traces.costs || units > 0;
     }
@@ -208,12 +215,53 @@ bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
 
 // Who does not record what runs cannot know that it still does, unless that has been written lately: the recorder may
 // have ended it and not be able to write that, and where there is none nothing runs.
-Moment Ledger::nowFor(bool isOwn) const
+template <typename Row>
+Moments Ledger::momentsOf(const QList<Own<Row>> &own) const
 {
-    Moment moment{clock->monotonicMs(), clock->boot()};
-    if (!isOwn)
-        moment.reachMs = directory && directory->isRecording() ? 0 : 2 * checkpointIntervalMs;
-    return moment;
+    Moments moments{{clock->monotonicMs(), clock->boot()}, {}};
+    if (own.isEmpty())
+        moments.now.reachMs = directory && directory->isRecording() ? 0 : 2 * checkpointIntervalMs;
+    for (const Own<Row> &one : own)
+        if (one.ended)
+            moments.ends.append({one.row.id, *one.ended});
+    return moments;
+}
+
+// Now; false where none runs with that id.
+template <typename Row>
+bool Ledger::end(QList<Own<Row>> &own, qint64 id)
+{
+    const auto ends =
+        std::find_if(own.begin(), own.end(), [id](const Own<Row> &one) { return one.row.id == id && !one.ended; });
+    if (ends == own.end())
+        return false;
+    ends->ended = momentsOf(own).now;
+    return true;
+}
+
+// Rows that somebody has removed: what has ended counts all the same, and at an end what has not ended waits for its own.
+template <typename Row>
+bool Ledger::takeOwn(const QList<Own<Row>> &own, QList<Row> &rows, QList<qint64> &gone, bool isEnd)
+{
+    for (const Own<Row> &one : own) {
+        if (rowOf(rows, one.row.id) != rows.end())
+            continue;
+        if (!one.ended && !isEnd)
+            return database->missesRow();
+        if (one.ended) {
+            rows.append(one.row);
+            gone.append(one.row.id);
+        }
+    }
+    return true;
+}
+
+template <typename Row>
+void Ledger::refresh(QList<Own<Row>> &own, const QList<Row> &written)
+{
+    for (Own<Row> &one : own)
+        if (const auto row = rowOf(written, one.row.id); row != written.end())
+            one.row = *row;
 }
 
 int Ledger::whyNotRecording() const
@@ -244,63 +292,70 @@ void Ledger::noticeIsTold()
 
 // --- transactions
 
-// With `end` it writes the end of the call.
 template <typename Work>
 int Ledger::transact(Work work, RepeatedWrite *end)
 {
-    int refused = Success;
     Entry entry;
+    return transact(entry, work, end);
+}
+
+// With `end` it writes the ends that are owed.
+template <typename Work>
+int Ledger::transact(Entry &entry, Work work, RepeatedWrite *end)
+{
+    int refused = Success;
     const bool done = database->inTransaction([&] {
-        if (!tables.read(entry.now))
+        if (!tables.read(entry.now) || !takeOwn(ownCalls, entry.now.calls, entry.gone, end != nullptr))
             return false;
-        entry.isOver = end != nullptr;
-        entry.isRowGone = ownCall && (!entry.now.call || entry.now.call->id != ownCall->id);
-        if (entry.isRowGone && !entry.isOver)
-            return database->missesRow();
-        if (entry.isRowGone)
-            entry.now.call = ownCall;
         entry.before = entry.now.state;
-        entry.passed = advance(entry.now, callsNow());
+        const Moments moments = momentsOf(ownCalls);
+        for (RunningCall &call : entry.now.calls)
+            entry.passed.push_back(advance(call, entry.now.state, moments.of(call.id)));
         refused = work(entry);
         return refused == Success && write(entry);
     });
     if (refused != Success)
         return refused;
-    if (done && (ownCall || entry.begins))
-        ownCall = entry.now.call;
-    if (done && entry.isRowGone)
+    if (done)
+        refresh(ownCalls, entry.now.calls);
+    if (done && !entry.gone.isEmpty())
         Database::warnOfMissingRow("call");
     return end ? database->status(done, *end) : database->status(done);
 }
 
 bool Ledger::write(Entry &entry)
 {
-    if (entry.now.call) {
-        RunningCall &call = *entry.now.call;
-        call.mostMs = entry.now.state.longestMs(call.tariff, call.units);
-        const CallState state = entry.isOver ? CallState::Finished : CallState::Running;
-        const auto &[ms, units] = entry.passed;
-        const bool done =
-            call.id == 0 ? tables.insert(call) && tables.put(Total::LastTime, 0) && tables.put(Total::LastCost, 0)
-                         : (entry.isRowGone || tables.update(call, state)) &&
-                               tables.addTime(call.kind, call.direction, ms, true) &&
-                               tables.addCost(call.kind, call.direction, units, true);
-        if (!done)
+    for (qsizetype i = 0; i < entry.now.calls.size(); ++i)
+        if (!writeCall(entry.now.calls[i], entry, static_cast<std::size_t>(i)))
             return false;
-    }
     return tables.putState(entry.before, entry.now.state) &&
            std::all_of(entry.zeroed.begin(), entry.zeroed.end(),
                        [&](Total total) { return tables.put(total, 0); });
 }
 
+bool Ledger::writeCall(RunningCall &call, const Entry &entry, std::size_t index)
+{
+    call.mostMs =
+        call.charge == Charge::Limited ? entry.now.state.longestMs(call.tariff, call.units) : std::nullopt;
+    const auto &[ms, units] = entry.passed[index];
+    const auto isOver = [&](const Own<RunningCall> &one) { return one.row.id == call.id && one.ended; };
+    const CallState state =
+        std::any_of(ownCalls.begin(), ownCalls.end(), isOver) ? CallState::Finished : CallState::Running;
+    if (call.id == 0)
+        return tables.insert(call) && tables.put(Total::LastTime, 0) && tables.put(Total::LastCost, 0) &&
+               (ms == 0 || tables.addTime(call.kind, call.direction, ms, true));
+    return (entry.gone.contains(call.id) || tables.update(call, state)) &&
+           tables.addTime(call.kind, call.direction, ms, call.isLast) &&
+           tables.addCost(call.kind, call.direction, units, call.isLast);
+}
+
 // In the order of the calls. What has been written is no longer owed, whatever becomes of the rest.
 int Ledger::writeOwedCall()
 {
-    if (callEnded) {
+    if (isAnyOver(ownCalls)) {
         if (const int status = transact([](Entry &) { return int{Success}; }, &callEnd))
             return status;
-        callEnded.reset();
-        ownCall.reset();
+        ownCalls.removeIf([](const Own<RunningCall> &one) { return one.ended.has_value(); });
     }
     if (unconnected.isEmpty())
         return Success;
@@ -324,33 +379,67 @@ int Ledger::permits(const PastCall &call)
         [&](const Standing &now) { return now.state.permits(now.state.tariffOf(call)) ? Success : NotAllowed; });
 }
 
-int Ledger::beginCall(const PastCall &begun)
+int Ledger::beginCall(const PastCall &begun, qint64 &id, Charge charge)
 {
-    if (!isRecordable(begun))
+    if (!isRecordable(begun) || begun.durationMs < 0)
         return InvalidArgument;
     if (!record())
         return whyNotRecording();
-    if (isConnected())
-        return WrongState;
+    if (const int status = writeOwedCall())
+        return status;
+    RunningCall call;
+    call.kind = begun.kind;
+    call.direction = begun.direction;
+    call.number = begun.number;
+    call.startWallMs = begun.startWallMs;
+    call.ms = begun.durationMs;
+    call.charge = charge;
+    call.isLate = begun.isLate;
+    Entry entry;
+    const int status = transact(
+        entry,
+        [&](Entry &) {
+            call.tariff = entry.now.state.tariffOf(begun);
+            if (charge == Charge::Limited && !entry.now.state.permits(call.tariff))
+                return int{NotAllowed};
+            for (RunningCall &other : entry.now.calls)
+                other.isLast = false;
+            call.written.until = Moment{clock->monotonicMs(), clock->boot()};
+            entry.now.calls.append(call);
+            entry.passed.push_back({call.ms, 0});
+            return int{Success};
+        },
+        nullptr);
+    if (status == Success) {
+        ownCalls.append({entry.now.calls.constLast()});
+        id = entry.now.calls.constLast().id;
+    }
+    return status;
+}
+
+int Ledger::endCall(qint64 id)
+{
+    return end(ownCalls, id) ? writeOwedCall() : int{WrongState};
+}
+
+int Ledger::setUnits(qint64 id, quint32 units)
+{
     if (const int status = writeOwedCall())
         return status;
     return transact([&](Entry &entry) {
-        const charging::Tariff tariff = entry.now.state.tariffOf(begun);
-        if (!entry.now.state.permits(tariff))
-            return int{NotAllowed};
-        entry.begins = true;
-        entry.now.call = RunningCall{0, begun.kind, begun.direction, begun.number, begun.startWallMs,
-                                     0, 0,          {nowFor(true)},  {},           tariff};
+        const auto call = rowOf(entry.now.calls, id);
+        if (call == entry.now.calls.end() || call->charge != Charge::Measured)
+            return int{WrongState};
+        const quint32 more = std::max(units, call->units) - call->units;
+        call->units += more;
+        entry.passed[static_cast<std::size_t>(call - entry.now.calls.begin())].units += more;
         return int{Success};
     });
 }
 
-int Ledger::endCall()
+int Ledger::interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms)
 {
-    if (!isConnected())
-        return WrongState;
-    callEnded = callsNow();
-    return writeOwedCall();
+    return database->status(tables.interrupted(call, sinceWallMs, ms));
 }
 
 int Ledger::addUnconnected(const PastCall &call)
@@ -390,7 +479,7 @@ bool Ledger::putHistory(const QList<PastCall> &calls, Entry &entry)
         if (!tables.addTime(sum.kind, sum.direction, sum.ms, false) ||
             !tables.addCost(sum.kind, sum.direction, sum.units, false))
             return false;
-    return entry.now.call || last.durationMs == 0 ||
+    return !entry.now.calls.isEmpty() || last.durationMs == 0 ||
            (tables.put(Total::LastTime, last.durationMs) && tables.put(Total::LastCost, last.units));
 }
 
@@ -403,73 +492,97 @@ int Ledger::addHistory(const QList<PastCall> &calls)
     return transact([&](Entry &entry) { return database->status(putHistory(calls, entry)); });
 }
 
-// --- the session
+// --- sessions
 
-int Ledger::beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond)
+int Ledger::beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond, qint64 &id,
+                         const SessionAmounts &before)
 {
+    if (before.ms < 0 || before.sent < 0 || before.received < 0)
+        return InvalidArgument;
     if (!record())
         return whyNotRecording();
-    if (isSessionRunning())
-        return WrongState;
     if (const int status = writeOwedSession())
         return status;
-    SessionRow session{0, apn, {}, true, {nowFor(true)}, sentPerSecond, receivedPerSecond};
-    const bool done = database->inTransaction([&] { return tables.insert(session, clock->wallMs()); });
-    if (done)
-        ownSession = session;
+    SessionRow session{
+        0, apn, before, true, {Moment{clock->monotonicMs(), clock->boot()}}, sentPerSecond, receivedPerSecond};
+    const bool done = database->inTransaction([&] {
+        const bool isNew = before.ms == 0 && before.sent == 0 && before.received == 0;
+        return tables.insert(session, clock->wallMs() - before.ms) && (isNew || tables.addToSessions(before));
+    });
+    if (done) {
+        ownSessions.append({session});
+        id = session.id;
+    }
     return changed(database->status(done));
 }
 
-int Ledger::endSession()
+int Ledger::endSession(qint64 id)
 {
-    if (!isSessionRunning())
+    if (!end(ownSessions, id))
         return WrongState;
-    sessionEnded = sessionsNow();
     const int status = writeOwedSession();
     changed(Success);
     return status;
 }
 
-// Brings the row to now; with `end` it writes the end of the session.
-int Ledger::transactSession(std::initializer_list<Total> zeroed, RepeatedWrite *end)
+int Ledger::addBytes(qint64 id, qint64 sent, qint64 received)
 {
-    std::optional<SessionRow> session;
-    bool isRowGone = false;
+    const auto counts = [id](const Own<SessionRow> &one) { return one.row.id == id && !one.ended; };
+    if (std::none_of(ownSessions.begin(), ownSessions.end(), counts))
+        return WrongState;
+    if (const int status = writeOwedSession())
+        return status;
+    return transactSessions({}, nullptr, id, {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)});
+}
+
+int Ledger::interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts)
+{
+    return database->status(tables.interrupted(apn, sinceWallMs, amounts));
+}
+
+// Brings the rows to now, the one with that id by some bytes more; with `end` it writes the ends that are owed.
+int Ledger::transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end, qint64 id,
+                             const SessionAmounts &more)
+{
+    QList<SessionRow> sessions;
+    QList<qint64> gone;
     const bool done = database->inTransaction([&] {
-        if (!tables.running(session))
+        if (!tables.running(sessions) || !takeOwn(ownSessions, sessions, gone, end != nullptr))
             return false;
-        isRowGone = ownSession && (!session || session->id != ownSession->id);
-        if (isRowGone && !end)
-            return database->missesRow();
-        if (isRowGone)
-            session = ownSession;
-        if (session) {
-            const SessionAmounts before = session->amounts;
-            const Moment to = sessionsNow();
-            session->amounts = session->amountsAt(to);
-            session->written.goOnUntil(to);
-            const auto &[ms, sent, received] = session->amounts;
-            if (!(isRowGone || tables.update(*session, end ? CallState::Finished : CallState::Running)) ||
+        const Moments moments = momentsOf(ownSessions);
+        for (SessionRow &session : sessions) {
+            const SessionAmounts before = session.amounts;
+            session.amounts = session.amountsAt(moments.of(session.id));
+            if (session.id == id) {
+                session.amounts.sent = saturatingSum(session.amounts.sent, more.sent);
+                session.amounts.received = saturatingSum(session.amounts.received, more.received);
+            }
+            session.written.goOnUntil(moments.of(session.id));
+            const auto isOver = [&](const Own<SessionRow> &one) { return one.row.id == session.id && one.ended; };
+            const CallState state = std::any_of(ownSessions.begin(), ownSessions.end(), isOver)
+                                        ? CallState::Finished
+                                        : CallState::Running;
+            const auto &[ms, sent, received] = session.amounts;
+            if (!(gone.contains(session.id) || tables.update(session, state)) ||
                 !tables.addToSessions({ms - before.ms, sent - before.sent, received - before.received}))
                 return false;
         }
         return std::all_of(zeroed.begin(), zeroed.end(), [&](Total total) { return tables.put(total, 0); });
     });
-    if (done && ownSession)
-        ownSession = session;
-    if (done && isRowGone)
+    if (done)
+        refresh(ownSessions, sessions);
+    if (done && !gone.isEmpty())
         Database::warnOfMissingRow("packet-data session");
     return end ? database->status(done, *end) : database->status(done);
 }
 
 int Ledger::writeOwedSession()
 {
-    if (!sessionEnded)
+    if (!owesSession())
         return Success;
-    if (const int status = transactSession({}, &sessionEnd))
+    if (const int status = transactSessions({}, &sessionEnd))
         return status;
-    sessionEnded.reset();
-    ownSession.reset();
+    ownSessions.removeIf([](const Own<SessionRow> &one) { return one.ended.has_value(); });
     return Success;
 }
 
@@ -477,21 +590,21 @@ int Ledger::resetSessions(std::initializer_list<Total> zeroed)
 {
     if (const int status = writeOwedSession())
         return status;
-    return changed(transactSession(zeroed));
+    return changed(transactSessions(zeroed));
 }
 
 int Ledger::checkpointSession()
 {
     if (const int status = writeOwedSession())
         return status;
-    return isSessionRunning() ? transactSession({}) : int{Success};
+    return isSessionRunning() ? transactSessions({}) : int{Success};
 }
 
 // --- what is asked
 
 int Ledger::figure(Total total, qint64 &value)
 {
-    return database->status(tables.totalAt(total, callsNow(), value));
+    return database->status(tables.totalAt(total, momentsOf(ownCalls), value));
 }
 
 int Ledger::card(charging::SimCard &card)
@@ -499,8 +612,9 @@ int Ledger::card(charging::SimCard &card)
     Standing written;
     if (!tables.read(written))
         return database->status(false);
-    if (callEnded)
-        advance(written, *callEnded);
+    for (const auto &[id, end] : momentsOf(ownCalls).ends)
+        if (const auto call = rowOf(written.calls, id); call != written.calls.end())
+            advance(*call, written.state, end);
     card = written.state.card;
     return Success;
 }
@@ -508,21 +622,28 @@ int Ledger::card(charging::SimCard &card)
 quint32 Ledger::dueUnits()
 {
     Standing standing;
-    return tables.read(standing) ? advance(standing, callsNow()).units : 0;
+    if (!tables.read(standing))
+        return 0;
+    const Moments moments = momentsOf(ownCalls);
+    return std::accumulate(standing.calls.begin(), standing.calls.end(), quint32{0},
+                           [&](quint32 sum, RunningCall &call) {
+                               return sum + advance(call, standing.state, moments.of(call.id)).units;
+                           });
 }
 
 int Ledger::sessions(int most, QList<SessionRow> &sessions)
 {
     if (!tables.recent(most, sessions))
         return database->status(false);
+    const Moments moments = momentsOf(ownSessions);
     for (SessionRow &session : sessions)
-        session.amounts = session.amountsAt(sessionsNow());
+        session.amounts = session.amountsAt(moments.of(session.id));
     return Success;
 }
 
 int Ledger::sessionTotals(SessionAmounts &amounts)
 {
-    return database->status(tables.sessionTotalsAt(sessionsNow(), amounts));
+    return database->status(tables.sessionTotalsAt(momentsOf(ownSessions), amounts));
 }
 
 int Ledger::ask(const std::function<int(const Standing &now)> &look)
@@ -530,9 +651,11 @@ int Ledger::ask(const std::function<int(const Standing &now)> &look)
     Standing standing;
     if (!tables.read(standing))
         return database->status(false);
-    advance(standing, callsNow());
-    if (callEnded)
-        standing.call.reset();
+    const Moments moments = momentsOf(ownCalls);
+    for (RunningCall &call : standing.calls)
+        advance(call, standing.state, moments.of(call.id));
+    for (const auto &ended : moments.ends)
+        standing.calls.removeIf([&](const RunningCall &call) { return call.id == ended.first; });
     return look(standing);
 }
 

@@ -7,6 +7,7 @@
 
 #include <QtCore/QStringList>
 
+#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <memory>
@@ -20,10 +21,10 @@ struct Traces;
 /// Operations return a number of handset/Status.h; a failed one has changed nothing. What an operation costs does not
 /// depend on how many calls and sessions there are.
 ///
-/// One call and one session at a time, which the process that records begins and ends: RecordedElsewhere in any other.
-/// Both can always be ended. An end that cannot be written is owed: the moment is kept here, every figure of this
-/// process counts up to it, and it is written before anything else is; a row that somebody has removed will not come
-/// back, and the totals count it all the same. The end of this ends both.
+/// Calls and sessions, any number of them at once, are begun and ended by the process that records, by the id of their
+/// row: RecordedElsewhere in any other. They can always be ended. An end that cannot be written is owed: the moment is
+/// kept here, every figure of this process counts up to it, and it is written before anything else is; a row that
+/// somebody has removed will not come back, and the totals count it all the same. The end of this ends them all.
 class Ledger
 {
 public:
@@ -51,39 +52,53 @@ public:
 
     /// Whether a call like this may begin: NotAllowed where it would be charged and nothing more may be.
     int permits(const PastCall &call);
-    /// The call has been connected now; its duration and units are not used. InvalidArgument for one of no known kind or
-    /// direction, WrongState while another is connected, NotAllowed as above.
-    int beginCall(const PastCall &call);
-    /// The connected call has ended now; WrongState without one. It is over whatever else this returns.
-    int endCall();
+    /// The call is connected now, and has been for its duration, which counts from now on; its units are not used. It is
+    /// the last call until another begins. `id` is its row's, more than 0. InvalidArgument for one of no known kind or
+    /// direction, NotAllowed as above where the charge is limited.
+    int beginCall(const PastCall &call, qint64 &id, Charge charge = Charge::Limited);
+    /// The call with that id has ended now; WrongState where none runs. It is over whatever else this returns.
+    int endCall(qint64 id);
+    /// A call whose charge is measured has cost so many units since its beginning; fewer than before change nothing.
+    /// WrongState where none runs with that id.
+    int setUnits(qint64 id, quint32 units);
+    /// How much of calls like this one, begun at `sinceWallMs` or later, is counted although their recorder ended before
+    /// they did, in ms.
+    int interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms);
     /// A call has ended that was never connected. InvalidArgument as above; it is over whatever else this returns.
     int addUnconnected(const PastCall &call);
     /// Adds calls that are over, in their order, counted and charged as if they had been made. The last connected one
     /// becomes the last call unless a call is connected now. InvalidArgument as above.
     int addHistory(const QList<PastCall> &calls);
-    bool isConnected() const { return ownCall && !callEnded; }
-    bool owesCall() const { return callEnded || !unconnected.isEmpty(); }
+    bool isConnected() const { return isAnyRunning(ownCalls); }
+    bool owesCall() const { return isAnyOver(ownCalls) || !unconnected.isEmpty(); }
 
-    // --- the packet-data session
+    // --- packet-data sessions
 
-    int beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond);
-    int endSession();
-    bool isSessionRunning() const { return ownSession && !sessionEnded; }
-    bool owesSession() const { return sessionEnded.has_value(); }
+    /// A session begins now that has come to `before` already, and counts the given bytes each second, each way.
+    int beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond, qint64 &id,
+                     const SessionAmounts &before = {});
+    /// As endCall().
+    int endSession(qint64 id);
+    /// That many bytes more have gone each way, 0 or more; as setUnits().
+    int addBytes(qint64 id, qint64 sent, qint64 received);
+    /// As interrupted() of calls.
+    int interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts);
+    bool isSessionRunning() const { return isAnyRunning(ownSessions); }
+    bool owesSession() const { return isAnyOver(ownSessions); }
 
     // --- what is asked: up to now
 
     /// Of calls: milliseconds or units.
     int figure(Total total, qint64 &value);
-    /// The card with what has been charged: what is due on the running call comes with its next checkpoint.
+    /// The card with what has been charged: what is due on running calls comes with their next checkpoint.
     int card(charging::SimCard &card);
-    /// What has become due on the running call and is not written yet; 0 without one.
+    /// What has become due on running calls and is not written yet; 0 without one.
     quint32 dueUnits();
     /// The `most` sessions that began last, the newest first.
     int sessions(int most, QList<SessionRow> &sessions);
     int sessionTotals(SessionAmounts &amounts);
-    /// What `look` answers of the running call, and of what calls are charged by and charged to, with what is due on the
-    /// running one.
+    /// What `look` answers of the running calls, and of what calls are charged by and charged to, with what is due on
+    /// the running ones.
     int ask(const std::function<int(const Standing &now)> &look);
     /// The same to look at: as of a new handset when it cannot be read.
     Standing standing();
@@ -92,7 +107,7 @@ public:
 
     /// Changes the state that it is given, or returns why not.
     using Change = std::function<int(charging::ChargingState &state)>;
-    /// Writes how far the running call is and what has become due on it, and then what `change` makes of the state; then
+    /// Writes how far running calls are and what has become due on them, and then what `change` makes of the state; then
     /// `zeroed` totals of calls are 0. All of that in one transaction.
     int edit(const Change &change, std::initializer_list<Total> zeroed = {});
     /// Zeroes totals of calls.
@@ -101,7 +116,7 @@ public:
     int resetSessions(std::initializer_list<Total> zeroed);
     /// Changes what the card keeps beside its files, and writes nothing else.
     int editCard(const std::function<int(charging::SimCard &card)> &change);
-    /// Writes what is owed, and how far the running call is and what it costs; success with none of them.
+    /// Writes what is owed, and how far the running calls are and what they cost; success with none of them.
     int checkpoint();
     int checkpointSession();
 
@@ -116,14 +131,40 @@ public:
 private:
     struct Entry;
 
-    Moment nowFor(bool isOwn) const;
-    Moment callsNow() const { return callEnded ? *callEnded : nowFor(ownCall.has_value()); }
-    Moment sessionsNow() const { return sessionEnded ? *sessionEnded : nowFor(ownSession.has_value()); }
+    /// What this has begun, as it was written last: its row is what counts, as long as nobody removes that.
+    template <typename Row>
+    struct Own {
+        Row row;
+        std::optional<Moment> ended = {}; ///< and that is not written yet
+    };
+    template <typename Row>
+    static bool isAnyRunning(const QList<Own<Row>> &own)
+    {
+        return std::any_of(own.begin(), own.end(), [](const Own<Row> &one) { return !one.ended; });
+    }
+    template <typename Row>
+    static bool isAnyOver(const QList<Own<Row>> &own)
+    {
+        return std::any_of(own.begin(), own.end(), [](const Own<Row> &one) { return one.ended; });
+    }
+    template <typename Row>
+    Moments momentsOf(const QList<Own<Row>> &own) const;
+    template <typename Row>
+    bool end(QList<Own<Row>> &own, qint64 id);
+    template <typename Row>
+    bool takeOwn(const QList<Own<Row>> &own, QList<Row> &rows, QList<qint64> &gone, bool isEnd);
+    template <typename Row>
+    static void refresh(QList<Own<Row>> &own, const QList<Row> &written);
+
     template <typename Work>
     int transact(Work work, RepeatedWrite *end = nullptr);
+    template <typename Work>
+    int transact(Entry &entry, Work work, RepeatedWrite *end);
     bool write(Entry &entry);
+    bool writeCall(RunningCall &call, const Entry &entry, std::size_t index);
     bool putHistory(const QList<PastCall> &calls, Entry &entry);
-    int transactSession(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr);
+    int transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr, qint64 id = 0,
+                         const SessionAmounts &more = {});
     int writeOwedCall();
     int writeOwedSession();
     int find(Traces &traces);
@@ -137,13 +178,9 @@ private:
     LedgerTables tables;
     std::unique_ptr<Clock> clock;
     bool recording = false;
-    // What this has begun, as it was written last: its row is what counts, as long as nobody removes that.
-    std::optional<RunningCall> ownCall;
-    std::optional<SessionRow> ownSession;
-    // Ends that are not written yet.
-    std::optional<Moment> callEnded;
-    std::optional<Moment> sessionEnded;
-    QList<PastCall> unconnected;
+    QList<Own<RunningCall>> ownCalls;
+    QList<Own<SessionRow>> ownSessions;
+    QList<PastCall> unconnected; ///< that are not written yet
     RepeatedWrite callEnd;
     RepeatedWrite sessionEnd;
     std::function<void()> onChange;

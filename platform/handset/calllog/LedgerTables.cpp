@@ -10,21 +10,29 @@ namespace {
 
 // SQLite's own sum turns into a floating-point number beyond 2^63 - 1, which is the greater of the two.
 constexpr auto insertCallSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state,"
-                               " boot, written_ms, most_ms, tariff) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+                               " boot, written_ms, most_ms, tariff, charge, is_last, late)"
+                               " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
 constexpr auto updateCallSql = "UPDATE calls SET state = ?, duration_ms = ?, units = ?, boot = ?, written_ms = ?,"
-                               " most_ms = ?, tariff = ? WHERE id = ?";
+                               " most_ms = ?, tariff = ?, charge = ?, is_last = ? WHERE id = ?";
 constexpr auto standingSql =
     "SELECT (SELECT content FROM kept WHERE name = 'card'), (SELECT content FROM kept WHERE name = 'charging'),"
-    " id, kind, direction, number, started_ms, duration_ms, units, boot, written_ms, most_ms, tariff"
-    " FROM (SELECT 1) LEFT JOIN calls ON state = 0";
+    " id, kind, direction, number, started_ms, duration_ms, units, boot, written_ms, most_ms, tariff,"
+    " charge, is_last, late FROM (SELECT 1) LEFT JOIN calls ON state = 0";
 constexpr auto closeCallsSql =
-    "UPDATE calls SET state = 3, boot = NULL, written_ms = NULL, most_ms = NULL, tariff = NULL WHERE state = 0";
+    "UPDATE calls SET state = 3, boot = NULL, written_ms = NULL, most_ms = NULL, tariff = NULL, charge = NULL,"
+    " is_last = NULL WHERE state = 0";
+constexpr auto interruptedCallsSql =
+    "SELECT sum(min(duration_ms, 9007199254740991)) FROM calls"
+    " WHERE state = 3 AND started_ms >= ? AND kind = ? AND direction = ? AND number = ?";
 constexpr auto closeSessionsSql = "UPDATE sessions SET state = 3, boot = NULL, written_ms = NULL,"
                                   " sent_per_s = NULL, received_per_s = NULL WHERE state = 0";
 
 constexpr auto insertSessionSql =
     "INSERT INTO sessions (apn, started_ms, duration_ms, sent, received, state, boot, written_ms, sent_per_s,"
-    " received_per_s) VALUES (?, ?, 0, 0, 0, 0, ?, ?, ?, ?)";
+    " received_per_s) VALUES (?, ?, ?, ?, ?, 0, ?, ?, ?, ?)";
+constexpr auto interruptedSessionsSql =
+    "SELECT sum(min(duration_ms, 9007199254740991)), sum(min(sent, 9007199254740991)),"
+    " sum(min(received, 9007199254740991)) FROM sessions WHERE state = 3 AND started_ms >= ? AND apn = ?";
 constexpr auto updateSessionSql =
     "UPDATE sessions SET state = ?, duration_ms = ?, sent = ?, received = ?, boot = ?, written_ms = ?,"
     " sent_per_s = ?, received_per_s = ? WHERE id = ?";
@@ -47,11 +55,12 @@ constexpr auto addCostsSql = "UPDATE costs SET units = min(9223372036854775807, 
 constexpr auto addSessionsSql =
     "UPDATE session_totals SET value = min(9223372036854775807, value + CASE counter WHEN 'duration' THEN ?"
     " WHEN 'sent' THEN ? ELSE ? END)";
-constexpr auto totalTimeSql = "SELECT ms, kind, direction, duration_ms, boot, written_ms, most_ms FROM totals"
-                              " LEFT JOIN calls ON state = 0 WHERE counter = ?";
-constexpr auto totalCostSql =
-    "SELECT costs.units, kind, direction, duration_ms, boot, written_ms, most_ms, calls.units, tariff FROM costs"
+constexpr auto totalTimeSql =
+    "SELECT ms, kind, direction, duration_ms, boot, written_ms, most_ms, is_last, id FROM totals"
     " LEFT JOIN calls ON state = 0 WHERE counter = ?";
+constexpr auto totalCostSql = "SELECT costs.units, kind, direction, duration_ms, boot, written_ms, most_ms, "
+                              "is_last, id, calls.units, tariff,"
+                              " charge FROM costs LEFT JOIN calls ON state = 0 WHERE counter = ?";
 constexpr auto putTimeSql = "UPDATE totals SET ms = ? WHERE counter = ?";
 constexpr auto putCostSql = "UPDATE costs SET units = ? WHERE counter = ?";
 constexpr auto putSessionsSql = "UPDATE session_totals SET value = ? WHERE counter = ?";
@@ -80,6 +89,12 @@ QString bootOf(const Written &written)
     return QString::fromLatin1(written.until->boot);
 }
 
+// A row that an earlier version has left runs alone.
+bool isLastAt(const PlainStatement &row, int column)
+{
+    return row.isNull(column) || row.number(column) != 0;
+}
+
 SessionRow sessionAt(const PlainStatement &row, int column)
 {
     return {row.number(column),
@@ -93,10 +108,10 @@ SessionRow sessionAt(const PlainStatement &row, int column)
 
 bool countsIn(Total total, const RunningCall &call)
 {
-    const bool isEveryCalls = total == Total::LastTime || total == Total::AllTime ||
-                              total == Total::LifetimeTime || total == Total::LastCost;
-    return isEveryCalls || total == ownTime(call.kind, call.direction) ||
-           total == ownCost(call.kind, call.direction);
+    if (total == Total::LastTime || total == Total::LastCost)
+        return call.isLast;
+    return total == Total::AllTime || total == Total::LifetimeTime ||
+           total == ownTime(call.kind, call.direction) || total == ownCost(call.kind, call.direction);
 }
 
 SessionAmounts sum(const SessionAmounts &a, const SessionAmounts &b)
@@ -105,6 +120,14 @@ SessionAmounts sum(const SessionAmounts &a, const SessionAmounts &b)
 }
 
 } // namespace
+
+const Moment &Moments::of(qint64 id) const
+{
+    for (const auto &[row, end] : ends)
+        if (row == id)
+            return end;
+    return now;
+}
 
 qint64 Written::passedUntil(const Moment &now) const
 {
@@ -127,6 +150,8 @@ qint64 RunningCall::passedUntil(const Moment &now) const
 
 quint32 RunningCall::dueAfter(qint64 more) const
 {
+    if (charge == Charge::Measured)
+        return 0;
     const quint32 cost = tariff.units(charging::CallLeg{saturatingSum(ms, more), 0});
     return cost - std::min(cost, units);
 }
@@ -171,8 +196,8 @@ bool LedgerTables::read(Standing &standing)
         return false;
     PlainStatement &row = database.statement(standingSql);
     bool isRight = readState(standing.state, row.bytes(0), row.bytes(1));
-    standing.call.reset();
-    if (isRight && !row.isNull(2)) {
+    standing.calls.clear();
+    for (bool more = !row.isNull(2); isRight && more; more = row.next()) {
         RunningCall call{row.number(2),
                          static_cast<CallKind>(row.number(3)),
                          static_cast<CallDirection>(row.number(4)),
@@ -182,11 +207,17 @@ bool LedgerTables::read(Standing &standing)
                          static_cast<quint32>(row.number(8)),
                          writtenAt(row, 9),
                          numberOrNothing(row, 11),
-                         {}};
+                         {},
+                         static_cast<Charge>(row.number(13)),
+                         isLastAt(row, 14),
+                         row.number(15) != 0};
         isRight = readTariff(row, 12, call);
-        standing.call = call;
+        standing.calls.append(call);
     }
+    isRight = isRight && (row.error() == 0 || database.fail());
     row.finish();
+    std::sort(standing.calls.begin(), standing.calls.end(),
+              [](const RunningCall &a, const RunningCall &b) { return a.id < b.id; });
     return isRight;
 }
 
@@ -215,7 +246,7 @@ bool LedgerTables::insert(const PastCall &call, CallState state)
 {
     return database.run(insertCallSql, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
                         call.startWallMs, call.durationMs, call.units, static_cast<int>(state), nothing, nothing,
-                        nothing, nothing);
+                        nothing, nothing, nothing, nothing, int{call.isLate});
 }
 
 bool LedgerTables::insert(RunningCall &call)
@@ -223,7 +254,8 @@ bool LedgerTables::insert(RunningCall &call)
     const bool done =
         database.run(insertCallSql, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
                      call.startWallMs, call.ms, qint64{call.units}, static_cast<int>(CallState::Running),
-                     bootOf(call.written), call.written.until->ms, call.mostMs, tariffRecord(call.tariff));
+                     bootOf(call.written), call.written.until->ms, call.mostMs, tariffRecord(call.tariff),
+                     static_cast<int>(call.charge), int{call.isLast}, int{call.isLate});
     if (done)
         call.id = database.lastInsertId();
     return done;
@@ -234,9 +266,10 @@ bool LedgerTables::update(const RunningCall &call, CallState state)
     const int number = static_cast<int>(state);
     return state == CallState::Running
                ? database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, bootOf(call.written),
-                                call.written.until->ms, call.mostMs, tariffRecord(call.tariff), call.id)
+                                call.written.until->ms, call.mostMs, tariffRecord(call.tariff),
+                                static_cast<int>(call.charge), int{call.isLast}, call.id)
                : database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, nothing, nothing, nothing,
-                                nothing, call.id);
+                                nothing, nothing, nothing, call.id);
 }
 
 bool LedgerTables::closeInterrupted()
@@ -246,9 +279,10 @@ bool LedgerTables::closeInterrupted()
 
 bool LedgerTables::insert(SessionRow &session, qint64 startWallMs)
 {
-    const bool done =
-        database.run(insertSessionSql, QString::fromLatin1(session.apn), startWallMs, bootOf(session.written),
-                     session.written.until->ms, session.sentPerSecond, session.receivedPerSecond);
+    const auto &[ms, sent, received] = session.amounts;
+    const bool done = database.run(insertSessionSql, QString::fromLatin1(session.apn), startWallMs, ms, sent,
+                                   received, bootOf(session.written), session.written.until->ms,
+                                   session.sentPerSecond, session.receivedPerSecond);
     if (done)
         session.id = database.lastInsertId();
     return done;
@@ -266,26 +300,49 @@ bool LedgerTables::update(const SessionRow &session, CallState state)
                                 nothing, session.id);
 }
 
-bool LedgerTables::running(std::optional<SessionRow> &session)
+bool LedgerTables::running(QList<SessionRow> &sessions)
 {
-    PlainStatement &row = database.statement(runningSessionSql);
-    const bool done = database.run(runningSessionSql);
-    session = done && row.hasRow() ? std::optional(sessionAt(row, 0)) : std::nullopt;
-    row.finish();
-    return done;
+    return list(sessions, runningSessionSql);
 }
 
 bool LedgerTables::recent(int most, QList<SessionRow> &sessions)
 {
+    return list(sessions, recentSql, most);
+}
+
+template <typename... Values>
+bool LedgerTables::list(QList<SessionRow> &sessions, const char *select, const Values &...values)
+{
     sessions.clear();
-    if (!database.run(recentSql, most))
+    if (!database.run(select, values...))
         return false;
-    PlainStatement &row = database.statement(recentSql);
+    PlainStatement &row = database.statement(select);
     for (bool more = row.hasRow(); more; more = row.next())
         sessions.append(sessionAt(row, 0));
     const bool done = row.error() == 0 || database.fail();
     row.finish();
     return done;
+}
+
+bool LedgerTables::interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms)
+{
+    if (!database.runForRow(interruptedCallsSql, sinceWallMs, static_cast<int>(call.kind),
+                            static_cast<int>(call.direction), call.number))
+        return false;
+    PlainStatement &row = database.statement(interruptedCallsSql);
+    ms = row.number(0);
+    row.finish();
+    return true;
+}
+
+bool LedgerTables::interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts)
+{
+    if (!database.runForRow(interruptedSessionsSql, sinceWallMs, QString::fromLatin1(apn)))
+        return false;
+    PlainStatement &row = database.statement(interruptedSessionsSql);
+    amounts = {row.number(0), row.number(1), row.number(2)};
+    row.finish();
+    return true;
 }
 
 bool LedgerTables::addTime(CallKind kind, CallDirection direction, qint64 ms, bool isLast)
@@ -312,57 +369,63 @@ bool LedgerTables::addToSessions(const SessionAmounts &more)
 }
 
 // `row` is that of totalTimeSql or totalCostSql, and has a running call.
-bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Moment &now, qint64 &value)
+bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Moments &moments, qint64 &value)
 {
     RunningCall call;
     call.kind = static_cast<CallKind>(row.number(1));
     call.direction = static_cast<CallDirection>(row.number(2));
+    call.isLast = isLastAt(row, 7);
     if (!countsIn(total, call))
         return true;
     call.ms = row.number(3);
     call.written = writtenAt(row, 4);
     call.mostMs = numberOrNothing(row, 6);
-    const qint64 passed = call.passedUntil(now);
+    const qint64 passed = call.passedUntil(moments.of(row.number(8)));
     if (total < Total::LastCost) {
         value = saturatingSum(value, passed);
         return true;
     }
-    call.units = static_cast<quint32>(row.number(7));
-    if (!readTariff(row, 8, call))
+    call.units = static_cast<quint32>(row.number(9));
+    call.charge = static_cast<Charge>(row.number(11));
+    if (!readTariff(row, 10, call))
         return false;
     value = saturatingSum(value, call.dueAfter(passed));
     return true;
 }
 
-bool LedgerTables::totalAt(Total total, const Moment &now, qint64 &value)
+bool LedgerTables::totalAt(Total total, const Moments &moments, qint64 &value)
 {
     const char *const select = total < Total::LastCost ? totalTimeSql : totalCostSql;
     if (!database.runForRow(select, placeOf(total).key))
         return false;
     PlainStatement &row = database.statement(select);
     qint64 read = row.number(0);
-    const bool isRight = row.isNull(1) || addRunning(row, total, now, read);
+    bool isRight = true;
+    for (bool more = !row.isNull(1); isRight && more; more = row.next())
+        isRight = addRunning(row, total, moments, read);
+    isRight = isRight && (row.error() == 0 || database.fail());
     row.finish();
     if (isRight)
         value = read;
     return isRight;
 }
 
-bool LedgerTables::sessionTotalsAt(const Moment &now, SessionAmounts &amounts)
+bool LedgerTables::sessionTotalsAt(const Moments &moments, SessionAmounts &amounts)
 {
     if (!database.runForRow(sessionTotalsSql))
         return false;
     PlainStatement &row = database.statement(sessionTotalsSql);
     const bool isWhole = !row.isNull(0) && !row.isNull(1) && !row.isNull(2);
     amounts = {row.number(0), row.number(1), row.number(2)};
-    const SessionRow session = sessionAt(row, 3);
-    if (session.isRunning) {
-        const SessionAmounts all = session.amountsAt(now);
+    for (bool more = !row.isNull(3); more; more = row.next()) {
+        const SessionRow session = sessionAt(row, 3);
+        const SessionAmounts all = session.amountsAt(moments.of(session.id));
         const SessionAmounts &written = session.amounts;
         amounts = sum(amounts, {all.ms - written.ms, all.sent - written.sent, all.received - written.received});
     }
+    const bool isRead = row.error() == 0 || database.fail();
     row.finish();
-    return isWhole || database.missesRow();
+    return isRead && (isWhole || database.missesRow());
 }
 
 bool LedgerTables::put(Total total, qint64 value)

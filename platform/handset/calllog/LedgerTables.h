@@ -10,6 +10,7 @@
 
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace handset::calllog {
 
@@ -19,6 +20,14 @@ struct Moment {
     QByteArray boot; ///< as Clock::boot()
     /// How far beyond what is written it is known, in ms, that what runs has gone on until then; 0 to 2^63 - 1.
     qint64 reachMs = std::numeric_limits<qint64>::max();
+};
+
+/// A moment for every row: now, and of what has ended and is not written yet, when that was.
+struct Moments {
+    Moment now;
+    QList<std::pair<qint64, Moment>> ends; ///< by the row's id
+
+    const Moment &of(qint64 id) const;
 };
 
 /// How far a running row is written.
@@ -31,7 +40,14 @@ struct Written {
     void goOnUntil(const Moment &now);
 };
 
-/// The row of the call that runs.
+/// How a running call is charged; the numbers are in the database.
+enum class Charge {
+    Limited = 0,   ///< by the tariff, until nothing more may be charged: then the handset ends it
+    Unlimited = 1, ///< by the tariff, as long as it lasts
+    Measured = 2   ///< by somebody else, who says what it has cost; not from the card and the account kept here
+};
+
+/// The row of a call that runs.
 struct RunningCall {
     qint64 id = 0; ///< 0 until it has a row
     CallKind kind = CallKind::Voice;
@@ -43,6 +59,9 @@ struct RunningCall {
     Written written;
     std::optional<qint64> mostMs; ///< that it can last before nothing more may be charged
     charging::Tariff tariff;
+    Charge charge = Charge::Limited;
+    bool isLast = true; ///< none has been connected since
+    bool isLate = false;
 
     /// How long it has lasted at that moment, beyond `ms`.
     qint64 passedUntil(const Moment &now) const;
@@ -64,10 +83,16 @@ struct SessionRow {
     SessionAmounts amountsAt(const Moment &now) const;
 };
 
-/// What is charged by and charged to, with the running call, of one moment.
+/// What is charged by and charged to, with the running calls, of one moment.
 struct Standing {
     charging::ChargingState state;
-    std::optional<RunningCall> call;
+    QList<RunningCall> calls; ///< in the order in which they were connected
+
+    /// The one that was connected last; nothing without one.
+    std::optional<RunningCall> call() const
+    {
+        return calls.isEmpty() ? std::nullopt : std::optional(calls.last());
+    }
 };
 
 /// What is kept under a name, whole: the card, the account.
@@ -100,7 +125,10 @@ public:
 
     bool insert(SessionRow &session, qint64 startWallMs);
     bool update(const SessionRow &session, CallState state);
-    bool running(std::optional<SessionRow> &session);
+    bool running(QList<SessionRow> &sessions);
+    /// What rows like that one, begun at `sinceWallMs` or later, have counted of a call or session that was interrupted.
+    bool interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms);
+    bool interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts);
     /// The `most` sessions that began last, the newest first.
     bool recent(int most, QList<SessionRow> &sessions);
 
@@ -108,10 +136,10 @@ public:
     bool addTime(CallKind kind, CallDirection direction, qint64 ms, bool isLast);
     bool addCost(CallKind kind, CallDirection direction, qint64 units, bool isLast);
     bool addToSessions(const SessionAmounts &more);
-    /// A total of calls at a moment, the running call included where it counts there.
-    bool totalAt(Total total, const Moment &now, qint64 &value);
+    /// A total of calls at a moment, the running calls included where they count there.
+    bool totalAt(Total total, const Moments &moments, qint64 &value);
     /// Those of the sessions, likewise.
-    bool sessionTotalsAt(const Moment &now, SessionAmounts &amounts);
+    bool sessionTotalsAt(const Moments &moments, SessionAmounts &amounts);
     bool put(Total total, qint64 value);
 
     /// Null when nothing is kept under that name.
@@ -119,8 +147,10 @@ public:
     bool put(const QString &name, const QByteArray &content);
 
 private:
+    template <typename... Values>
+    bool list(QList<SessionRow> &sessions, const char *select, const Values &...values);
     bool readTariff(const PlainStatement &row, int column, RunningCall &call);
-    bool addRunning(const PlainStatement &row, Total total, const Moment &now, qint64 &value);
+    bool addRunning(const PlainStatement &row, Total total, const Moments &moments, qint64 &value);
     bool readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging);
 
     Database &database;

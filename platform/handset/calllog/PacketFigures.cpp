@@ -95,7 +95,9 @@ int PacketFigures::startSession(const QByteArray &apn, quint32 sentPerSecond, qu
 {
     if (!isApn(apn))
         return InvalidArgument;
-    if (const int status = ledger.beginSession(apn, sentPerSecond, receivedPerSecond))
+    if (isSessionRunning())
+        return WrongState;
+    if (const int status = ledger.beginSession(apn, sentPerSecond, receivedPerSecond, sessionId))
         return status;
     toldMs = 0;
     tellUpdate();
@@ -104,7 +106,7 @@ int PacketFigures::startSession(const QByteArray &apn, quint32 sentPerSecond, qu
 
 int PacketFigures::stopSession()
 {
-    const int status = ledger.endSession();
+    const int status = ledger.endSession(sessionId);
     if (status == WrongState)
         return status;
     tellUpdate();

@@ -48,7 +48,8 @@ private:
     void tellUpdate() const;
 
     Ledger &ledger;
-    qint64 toldMs = 0; ///< of the running session, to the update listener
+    qint64 sessionId = 0; ///< the id of the one that was begun last
+    qint64 toldMs = 0;    ///< of it, to the update listener
     std::function<void()> onUpdate;
 };
 

@@ -103,7 +103,8 @@ public:
     SimAccess sim{*ledger};
     PacketFigures packets{*ledger};
     LineState state = LineState::Idle;
-    PastCall call; ///< on the line
+    PastCall call;     ///< on the line
+    qint64 callId = 0; ///< once it is connected
     std::function<void()> onChange;
     std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 
@@ -173,7 +174,7 @@ int SimulatedHandset::Innards::connectCall(LineState from)
 {
     if (state != from)
         return ledger->record() ? int{WrongState} : ledger->whyNotRecording();
-    if (const int status = ledger->beginCall(call))
+    if (const int status = ledger->beginCall(call, callId))
         return status;
     state = LineState::Connected;
     setDataCallStatus(DataCalls::Connected);
@@ -184,7 +185,7 @@ int SimulatedHandset::Innards::connectCall(LineState from)
 // The line is idle at once, whether the end can be written now or not.
 int SimulatedHandset::Innards::endCall()
 {
-    const int status = state == LineState::Connected ? ledger->endCall() : ledger->addUnconnected(call);
+    const int status = state == LineState::Connected ? ledger->endCall(callId) : ledger->addUnconnected(call);
     setDataCallStatus(DataCalls::Released);
     state = LineState::Idle;
     call = {};
@@ -406,14 +407,14 @@ LineState SimulatedHandset::lineState() const
 {
     if (isRecording())
         return innards->state;
-    return innards->ledger->standing().call ? LineState::Connected : LineState::Idle;
+    return innards->ledger->standing().call() ? LineState::Connected : LineState::Idle;
 }
 
 CallKind SimulatedHandset::callKind() const
 {
     if (isRecording())
         return innards->call.kind;
-    const auto call = innards->ledger->standing().call;
+    const auto call = innards->ledger->standing().call();
     return call ? call->kind : CallKind::Voice;
 }
 
@@ -421,13 +422,13 @@ QString SimulatedHandset::number() const
 {
     if (isRecording())
         return innards->call.number;
-    const auto call = innards->ledger->standing().call;
+    const auto call = innards->ledger->standing().call();
     return call ? call->number : QString();
 }
 
 qint64 SimulatedHandset::connectedMs() const
 {
-    const auto call = innards->ledger->standing().call;
+    const auto call = innards->ledger->standing().call();
     return call ? call->ms : 0;
 }
 

@@ -455,12 +455,13 @@ void TestCallLog::aCallOfNoKindIsNotRecorded()
 {
     QFETCH(PastCall, call);
     const auto ledger = calllog::openLedger({}, std::make_shared<ManualClock>()).ledger;
-    QCOMPARE(ledger->beginCall(call), int(InvalidArgument));
+    qint64 id = 0;
+    QCOMPARE(ledger->beginCall(call, id), int(InvalidArgument));
     QVERIFY(!ledger->isConnected());
     QCOMPARE(ledger->addUnconnected(call), int(InvalidArgument));
     QVERIFY(!ledger->owesCall());
     QCOMPARE(ledger->addHistory({{}, call}), int(InvalidArgument));
-    QCOMPARE(ledger->beginCall({}), int(Success));
+    QCOMPARE(ledger->beginCall({}, id), int(Success));
 }
 
 void TestCallLog::whatIsMissingWhenItIsWrittenIsAFailure_data()

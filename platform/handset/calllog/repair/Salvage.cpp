@@ -20,12 +20,13 @@ bool hasApn(const PlainStatement &session)
            std::all_of(apn.begin(), apn.end(), [](QChar c) { return c.unicode() >= 1 && c.unicode() <= 0xff; });
 }
 
-// A log of the first version has no units, and no sessions.
+// A log of an earlier version has not all of them, and that of the first no sessions.
 constexpr std::array callColumns{
     SalvagedColumn{"id", "integer"},         SalvagedColumn{"kind", "integer"},
     SalvagedColumn{"direction", "integer"},  SalvagedColumn{"number", "text"},
     SalvagedColumn{"started_ms", "integer"}, SalvagedColumn{"duration_ms", "integer"},
     SalvagedColumn{"state", "integer"},      SalvagedColumn{"units", "integer"},
+    SalvagedColumn{"late", "integer"},
 };
 constexpr std::array sessionColumns{
     SalvagedColumn{"id", "integer"},         SalvagedColumn{"apn", "text"},
