@@ -2,10 +2,10 @@
 #include "e2e/AccessibilityRegistry.h"
 #include "e2e/OwnServer.h"
 #include "e2e/Picture.h"
-#include "qcop/BusRelay.h"
-#include "qcop/Command.h"
-#include "qcop/FakeBus.h"
-#include "qcop/PrivateBus.h"
+#include "qt/qcop/BusRelay.h"
+#include "qt/qcop/Command.h"
+#include "qt/qcop/FakeBus.h"
+#include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QFile>
@@ -78,7 +78,7 @@ qsizetype namesOn(const QString &bus)
 
 } // namespace
 
-class SilentBusesTest : public QObject
+class TestSilentBuses : public QObject
 {
     Q_OBJECT
 
@@ -107,7 +107,7 @@ private:
     std::unique_ptr<QProcess> host;
 };
 
-void SilentBusesTest::init()
+void TestSilentBuses::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     folder = std::make_unique<QTemporaryDir>();
@@ -117,7 +117,7 @@ void SilentBusesTest::init()
     announce({});
 }
 
-void SilentBusesTest::cleanup()
+void TestSilentBuses::cleanup()
 {
     if (host && host->state() != QProcess::NotRunning) {
         host->kill();
@@ -126,7 +126,7 @@ void SilentBusesTest::cleanup()
     host.reset();
 }
 
-void SilentBusesTest::start(const QStringList &arguments)
+void TestSilentBuses::start(const QStringList &arguments)
 {
     host = std::make_unique<QProcess>();
     host->setProcessEnvironment(environment);
@@ -136,7 +136,7 @@ void SilentBusesTest::start(const QStringList &arguments)
 }
 
 // The window is there, and the menu painted in it.
-void SilentBusesTest::verifyWindow()
+void TestSilentBuses::verifyWindow()
 {
     QVERIFY(runTool({"search", "--sync", "--onlyvisible", "--name", "^Recent Calls$", "windowmove", "0", "0"}));
     const QImage menu(QStringLiteral(KAV_REFERENCES "/menu.png"));
@@ -144,7 +144,7 @@ void SilentBusesTest::verifyWindow()
     QVERIFY(QTest::qWaitFor([&] { return difference(photograph(), menu).isSmall(); }, patience));
 }
 
-void SilentBusesTest::verifyEnd(const char *notice)
+void TestSilentBuses::verifyEnd(const char *notice)
 {
     QCOMPARE(::kill(static_cast<pid_t>(host->processId()), SIGTERM), 0);
     QVERIFY(host->waitForFinished(patience));
@@ -154,7 +154,7 @@ void SilentBusesTest::verifyEnd(const char *notice)
     QVERIFY2(errors.count("does not answer") == (*notice ? 1 : 0) && errors.contains(notice), errors.constData());
 }
 
-void SilentBusesTest::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd_data()
+void TestSilentBuses::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd_data()
 {
     QTest::addColumn<FakeBus::Manner>("manner");
     QTest::addColumn<Door>("door");
@@ -171,7 +171,7 @@ void SilentBusesTest::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd_data()
     }
 }
 
-void SilentBusesTest::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd()
+void TestSilentBuses::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd()
 {
     QFETCH(FakeBus::Manner, manner);
     QFETCH(Door, door);
@@ -185,7 +185,7 @@ void SilentBusesTest::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd()
     verifyEnd(sessionNotice);
 }
 
-void SilentBusesTest::aHaltedSessionBusHoldsUpNoWindowAndIsUsedWhenItGoesOn()
+void TestSilentBuses::aHaltedSessionBusHoldsUpNoWindowAndIsUsedWhenItGoesOn()
 {
     PrivateBus bus;
     QVERIFY(bus.isRunning());
@@ -206,7 +206,7 @@ void SilentBusesTest::aHaltedSessionBusHoldsUpNoWindowAndIsUsedWhenItGoesOn()
     verifyEnd(sessionNotice);
 }
 
-void SilentBusesTest::theSilentBusOfAUsersSessionHoldsUpNothing()
+void TestSilentBuses::theSilentBusOfAUsersSessionHoldsUpNothing()
 {
     const FakeBus bus(FakeBus::Silent);
     environment.remove(sessionVariable);
@@ -217,7 +217,7 @@ void SilentBusesTest::theSilentBusOfAUsersSessionHoldsUpNothing()
     verifyEnd(sessionNotice);
 }
 
-void SilentBusesTest::aSecretThatNobodyTellsHoldsUpNothing()
+void TestSilentBuses::aSecretThatNobodyTellsHoldsUpNothing()
 {
     const FakeBus port(FakeBus::Silent, Door::Network);
     const QString secret = folder->filePath("secret");
@@ -228,7 +228,7 @@ void SilentBusesTest::aSecretThatNobodyTellsHoldsUpNothing()
     verifyEnd(sessionNotice);
 }
 
-void SilentBusesTest::noProgramIsWaitedForToGetToASessionBus()
+void TestSilentBuses::noProgramIsWaitedForToGetToASessionBus()
 {
     environment.insert(sessionVariable, "unixexec:path=/bin/sleep,argv1=1000");
     start();
@@ -236,7 +236,7 @@ void SilentBusesTest::noProgramIsWaitedForToGetToASessionBus()
     verifyEnd("");
 }
 
-void SilentBusesTest::aPhotographIsTakenBesideASilentSessionBus()
+void TestSilentBuses::aPhotographIsTakenBesideASilentSessionBus()
 {
     const FakeBus bus(FakeBus::Silent);
     environment.insert(sessionVariable, bus.address());
@@ -247,7 +247,7 @@ void SilentBusesTest::aPhotographIsTakenBesideASilentSessionBus()
     QVERIFY(!QImage(file).isNull());
 }
 
-void SilentBusesTest::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd_data()
+void TestSilentBuses::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd_data()
 {
     QTest::addColumn<bool>("isSessionThere");
     QTest::addColumn<QString>("whoTells");
@@ -258,7 +258,7 @@ void SilentBusesTest::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd_da
     QTest::newRow("not told by the one who should") << true << "nobody";
 }
 
-void SilentBusesTest::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd()
+void TestSilentBuses::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd()
 {
     QFETCH(bool, isSessionThere);
     QFETCH(QString, whoTells);
@@ -281,7 +281,7 @@ void SilentBusesTest::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd()
     verifyEnd(accessibilityNotice);
 }
 
-void SilentBusesTest::busesThatAnswerAreLeftToQt_data()
+void TestSilentBuses::busesThatAnswerAreLeftToQt_data()
 {
     QTest::addColumn<QString>("whoTells");
     QTest::newRow("announced on the display") << "display";
@@ -289,7 +289,7 @@ void SilentBusesTest::busesThatAnswerAreLeftToQt_data()
 }
 
 // Qt is on both of them as long as the window is there.
-void SilentBusesTest::busesThatAnswerAreLeftToQt()
+void TestSilentBuses::busesThatAnswerAreLeftToQt()
 {
     QFETCH(QString, whoTells);
     const PrivateBus session;
@@ -310,6 +310,6 @@ void SilentBusesTest::busesThatAnswerAreLeftToQt()
     verifyEnd("");
 }
 
-KAV_TEST_GROUP(SilentBusesTest, ApplicationOnItsOwnServer);
+KAV_TEST_GROUP(TestSilentBuses, ApplicationOnItsOwnServer);
 
 #include "tst_silent_buses.moc"

@@ -26,7 +26,7 @@ QString referenceDirectory()
 
 } // namespace
 
-class TourPicturesTest : public QObject
+class TestTourPictures : public QObject
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ private:
     QTemporaryDir photographs;
 };
 
-void TourPicturesTest::initTestCase()
+void TestTourPictures::initTestCase()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     QVERIFY(photographs.isValid());
@@ -60,20 +60,20 @@ void TourPicturesTest::initTestCase()
         QVERIFY(QFile::copy(photographs.filePath(name), referenceDirectory() + QLatin1Char('/') + name));
 }
 
-void TourPicturesTest::theTourShowsEveryKeptScreenAndNoOther()
+void TestTourPictures::theTourShowsEveryKeptScreenAndNoOther()
 {
     QVERIFY(!picturesIn(photographs.path()).isEmpty());
     QCOMPARE(picturesIn(photographs.path()), picturesIn(referenceDirectory()));
 }
 
-void TourPicturesTest::aScreenLooksAsItWasKept_data()
+void TestTourPictures::aScreenLooksAsItWasKept_data()
 {
     QTest::addColumn<QString>("name");
     for (const QString &name : picturesIn(referenceDirectory()))
         QTest::newRow(qPrintable(name)) << name;
 }
 
-void TourPicturesTest::aScreenLooksAsItWasKept()
+void TestTourPictures::aScreenLooksAsItWasKept()
 {
     QFETCH(QString, name);
     const QImage reference(referenceDirectory() + QLatin1Char('/') + name);
@@ -90,5 +90,5 @@ void TourPicturesTest::aScreenLooksAsItWasKept()
                          .arg(kept)));
 }
 
-KAV_TEST_GROUP(TourPicturesTest, QCoreApplication);
+KAV_TEST_GROUP(TestTourPictures, QCoreApplication);
 #include "tst_tour_pictures.moc"

@@ -41,7 +41,7 @@ bool isMakingReferences()
 
 } // namespace
 
-class WindowTest : public QObject
+class TestWindow : public QObject
 {
     Q_OBJECT
 
@@ -70,7 +70,7 @@ private:
     QImage lastReference;
 };
 
-void WindowTest::init()
+void TestWindow::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     state = std::make_unique<QTemporaryDir>();
@@ -82,7 +82,7 @@ void WindowTest::init()
     QCOMPARE(simulation->addHistory(history), 0);
 }
 
-void WindowTest::cleanup()
+void TestWindow::cleanup()
 {
     if (host && host->state() != QProcess::NotRunning) {
         host->kill();
@@ -92,7 +92,7 @@ void WindowTest::cleanup()
     state.reset();
 }
 
-std::shared_ptr<Handset> WindowTest::reopenState()
+std::shared_ptr<Handset> TestWindow::reopenState()
 {
     Settings settings;
     settings.stateDirectory = state->path();
@@ -102,7 +102,7 @@ std::shared_ptr<Handset> WindowTest::reopenState()
     return opened.handset;
 }
 
-void WindowTest::start()
+void TestWindow::start()
 {
     host = std::make_unique<QProcess>();
     host->setProcessChannelMode(QProcess::ForwardedChannels);
@@ -114,7 +114,7 @@ void WindowTest::start()
              QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("windowfocus"), QStringLiteral("--sync")});
 }
 
-void WindowTest::xdotool(const QStringList &arguments)
+void TestWindow::xdotool(const QStringList &arguments)
 {
     QProcess tool;
     tool.setProcessChannelMode(QProcess::ForwardedChannels);
@@ -123,13 +123,13 @@ void WindowTest::xdotool(const QStringList &arguments)
     QCOMPARE(tool.exitCode(), 0);
 }
 
-void WindowTest::press(const char *keys)
+void TestWindow::press(const char *keys)
 {
     xdotool(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("30")} +
             QString::fromLatin1(keys).split(QLatin1Char(' ')));
 }
 
-QImage WindowTest::photograph() const
+QImage TestWindow::photograph() const
 {
     return QGuiApplication::primaryScreen()
         ->grabWindow(0, displayRect.x(), displayRect.y(), displayRect.width(), displayRect.height())
@@ -138,7 +138,7 @@ QImage WindowTest::photograph() const
 }
 
 // For making references: two photographs in a row, a moment apart, that are the same and not the last reference.
-QImage WindowTest::settledPhotograph()
+QImage TestWindow::settledPhotograph()
 {
     QImage settled;
     const bool isQuiet = QTest::qWaitFor(
@@ -153,7 +153,7 @@ QImage WindowTest::settledPhotograph()
     return isQuiet ? settled : QImage();
 }
 
-void WindowTest::verifyDisplay(const QString &name)
+void TestWindow::verifyDisplay(const QString &name)
 {
     const QString path = QStringLiteral(KAV_REFERENCES "/%1.png").arg(name);
     if (isMakingReferences()) {
@@ -181,7 +181,7 @@ void WindowTest::verifyDisplay(const QString &name)
                          .arg(kept)));
 }
 
-void WindowTest::leave()
+void TestWindow::leave()
 {
     press("F2");
     QVERIFY(host->waitForFinished(patience));
@@ -189,7 +189,7 @@ void WindowTest::leave()
     QCOMPARE(host->exitCode(), 0);
 }
 
-void WindowTest::oneWrongDigitIsNotTakenForTheReference()
+void TestWindow::oneWrongDigitIsNotTakenForTheReference()
 {
     const QImage reference = QImage(QStringLiteral(KAV_REFERENCES "/call-times.png"));
     QVERIFY(difference(reference, reference).isSmall());
@@ -204,7 +204,7 @@ void WindowTest::oneWrongDigitIsNotTakenForTheReference()
     QVERIFY(!difference(altered, reference).isSmall());
 }
 
-void WindowTest::keysLeadFromTheMenuThroughAResetAndOutAgain()
+void TestWindow::keysLeadFromTheMenuThroughAResetAndOutAgain()
 {
     start();
     verifyDisplay(QStringLiteral("menu"));
@@ -228,7 +228,7 @@ void WindowTest::keysLeadFromTheMenuThroughAResetAndOutAgain()
         QSKIP("references were written, nothing was compared");
 }
 
-void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey()
+void TestWindow::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey()
 {
     start();
     verifyDisplay(QStringLiteral("menu"));
@@ -252,7 +252,7 @@ void WindowTest::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey(
         QSKIP("references were written, nothing was compared");
 }
 
-void WindowTest::aSignalEndsTheWindowWithItsCallWritten_data()
+void TestWindow::aSignalEndsTheWindowWithItsCallWritten_data()
 {
     QTest::addColumn<int>("signal");
     QTest::newRow("SIGTERM") << SIGTERM;
@@ -260,7 +260,7 @@ void WindowTest::aSignalEndsTheWindowWithItsCallWritten_data()
     QTest::newRow("SIGHUP") << SIGHUP;
 }
 
-void WindowTest::aSignalEndsTheWindowWithItsCallWritten()
+void TestWindow::aSignalEndsTheWindowWithItsCallWritten()
 {
     QFETCH(int, signal);
     start();
@@ -294,7 +294,7 @@ void WindowTest::aSignalEndsTheWindowWithItsCallWritten()
     QVERIFY(lifetime == CallTime::fromSeconds(65 + 3725 + total));
 }
 
-void WindowTest::theQuestionWhetherTheDisplayAnswersEndsNoServer()
+void TestWindow::theQuestionWhetherTheDisplayAnswersEndsNoServer()
 {
     const XServer server(XServer::LastClientGoes::Ends);
     QVERIFY2(!server.display().isEmpty(), qPrintable(server.error()));
@@ -312,6 +312,6 @@ void WindowTest::theQuestionWhetherTheDisplayAnswersEndsNoServer()
     QCOMPARE(program.exitCode(), 0);
 }
 
-KAV_TEST_GROUP(WindowTest, ApplicationOnItsOwnServer);
+KAV_TEST_GROUP(TestWindow, ApplicationOnItsOwnServer);
 
 #include "tst_window.moc"

@@ -99,7 +99,7 @@ HostResult photographWith(const QString &catalogue, const QTemporaryDir &home)
 
 } // namespace
 
-class CatalogueTest : public QObject
+class TestCatalogue : public QObject
 {
     Q_OBJECT
 
@@ -119,13 +119,13 @@ private slots:
     void theProgramSaysThatACatalogueHasNoTexts();
 };
 
-void CatalogueTest::whatLreleaseMakesIsWhole()
+void TestCatalogue::whatLreleaseMakesIsWhole()
 {
     QVERIFY(!wholeCatalogue().isEmpty());
     QCOMPARE(host::findDamage(wholeCatalogue()), QString());
 }
 
-void CatalogueTest::damageIsFound_data()
+void TestCatalogue::damageIsFound_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const QByteArray whole = wholeCatalogue();
@@ -169,30 +169,30 @@ void CatalogueTest::damageIsFound_data()
     QTest::newRow("other catalogues to be loaded") << whole + section(0x96, QByteArray("\0\0\0\x06\0o\0n\0e", 10));
 }
 
-void CatalogueTest::damageIsFound()
+void TestCatalogue::damageIsFound()
 {
     QFETCH(QByteArray, bytes);
     QVERIFY(!host::findDamage(bytes).isEmpty());
 }
 
-void CatalogueTest::aTableOfContextsThatIsWholeIsTaken()
+void TestCatalogue::aTableOfContextsThatIsWholeIsTaken()
 {
     const QByteArray contexts("\0\x02\0\0\0\x01\0\0\x02zz\0", 12);
     QCOMPARE(host::findDamage(wholeCatalogue() + section(0x2f, contexts)), QString());
 }
 
-void CatalogueTest::aTextThatTwoHashesShareIsTaken()
+void TestCatalogue::aTextThatTwoHashesShareIsTaken()
 {
     const QByteArray hashes = number(1) + number(0) + number(2) + number(0);
     QCOMPARE(host::findDamage(magic() + section(0x42, hashes) + section(0x69, "\x01")), QString());
 }
 
-void CatalogueTest::anUnknownSectionIsPassedOver()
+void TestCatalogue::anUnknownSectionIsPassedOver()
 {
     QCOMPARE(host::findDamage(wholeCatalogue() + section(0x11, "later")), QString());
 }
 
-void CatalogueTest::whatIsCutOffAnywhereIsFoundOrHarmless()
+void TestCatalogue::whatIsCutOffAnywhereIsFoundOrHarmless()
 {
     const QByteArray whole = wholeCatalogue();
     for (qsizetype size = 0; size < whole.size(); ++size) {
@@ -206,7 +206,7 @@ void CatalogueTest::whatIsCutOffAnywhereIsFoundOrHarmless()
     QVERIFY(!host::findDamage(whole.chopped(1)).isEmpty());
 }
 
-void CatalogueTest::whatIsChangedAnywhereIsFoundOrHarmless_data()
+void TestCatalogue::whatIsChangedAnywhereIsFoundOrHarmless_data()
 {
     QTest::addColumn<int>("value");
     QTest::newRow("to 0") << 0x00;
@@ -216,7 +216,7 @@ void CatalogueTest::whatIsChangedAnywhereIsFoundOrHarmless_data()
 }
 
 // The sanitizers see a step outside; without them a crash does.
-void CatalogueTest::whatIsChangedAnywhereIsFoundOrHarmless()
+void TestCatalogue::whatIsChangedAnywhereIsFoundOrHarmless()
 {
     QFETCH(int, value);
     const QByteArray whole = wholeCatalogue();
@@ -235,7 +235,7 @@ void CatalogueTest::whatIsChangedAnywhereIsFoundOrHarmless()
     QVERIFY(found > magicSize / 2);
 }
 
-void CatalogueTest::theProgramRefusesADamagedCatalogue_data()
+void TestCatalogue::theProgramRefusesADamagedCatalogue_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("with translations of a length below zero") << [] {
@@ -251,7 +251,7 @@ void CatalogueTest::theProgramRefusesADamagedCatalogue_data()
     QTest::newRow("with an empty table of contexts") << wholeCatalogue() + section(0x2f, QByteArray(2, '\0'));
 }
 
-void CatalogueTest::theProgramRefusesADamagedCatalogue()
+void TestCatalogue::theProgramRefusesADamagedCatalogue()
 {
     QFETCH(QByteArray, bytes);
     const QTemporaryDir home;
@@ -264,7 +264,7 @@ void CatalogueTest::theProgramRefusesADamagedCatalogue()
              qPrintable(result.errors));
 }
 
-void CatalogueTest::theProgramRefusesACatalogueOfGigabytes()
+void TestCatalogue::theProgramRefusesACatalogueOfGigabytes()
 {
     const QTemporaryDir home;
     QFile file(home.filePath(QStringLiteral("large.qm")));
@@ -275,7 +275,7 @@ void CatalogueTest::theProgramRefusesACatalogueOfGigabytes()
     QVERIFY2(result.errors.contains(QStringLiteral("it is larger than 64 MiB")), qPrintable(result.errors));
 }
 
-void CatalogueTest::theProgramSaysThatACatalogueHasNoTexts()
+void TestCatalogue::theProgramSaysThatACatalogueHasNoTexts()
 {
     const QTemporaryDir home;
     QFile file(home.filePath(QStringLiteral("empty.qm")));
@@ -287,5 +287,5 @@ void CatalogueTest::theProgramSaysThatACatalogueHasNoTexts()
              qPrintable(result.errors));
 }
 
-KAV_TEST_GROUP(CatalogueTest, QCoreApplication);
+KAV_TEST_GROUP(TestCatalogue, QCoreApplication);
 #include "tst_catalogue.moc"

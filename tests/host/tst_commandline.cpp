@@ -17,7 +17,7 @@
 // Far beyond the numbers that servers take.
 static const QString deadDisplay = QStringLiteral(":59999");
 
-class CommandLineTest : public QObject
+class TestCommandLine : public QObject
 {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ private:
     QProcessEnvironment environment;
 };
 
-void CommandLineTest::init()
+void TestCommandLine::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     home = std::make_unique<QTemporaryDir>();
@@ -77,12 +77,12 @@ void CommandLineTest::init()
     environment = hostEnvironment(home->path());
 }
 
-HostResult CommandLineTest::showCallTimes(const QStringList &more) const
+HostResult TestCommandLine::showCallTimes(const QStringList &more) const
 {
     return run(QStringList{"--screen", "callTime", "--photo", path("window.png")} + more);
 }
 
-QString CommandLineTest::contents(const QString &name) const
+QString TestCommandLine::contents(const QString &name) const
 {
     QFile file(path(name));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QStringLiteral("(no file)");
@@ -97,7 +97,7 @@ static bool hasMeterTrace(const QString &text)
     return line.match(text).hasMatch();
 }
 
-void CommandLineTest::helpAndVersionAreAnswered_data()
+void TestCommandLine::helpAndVersionAreAnswered_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("text");
@@ -108,7 +108,7 @@ void CommandLineTest::helpAndVersionAreAnswered_data()
     QTest::newRow("version") << QStringList{"--version"} << "kavrecentcalls 1.";
 }
 
-void CommandLineTest::helpAndVersionAreAnswered()
+void TestCommandLine::helpAndVersionAreAnswered()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, text);
@@ -119,7 +119,7 @@ void CommandLineTest::helpAndVersionAreAnswered()
     QCOMPARE(result.errors, QString());
 }
 
-void CommandLineTest::aWrongCommandLineIsRefusedWithCode2_data()
+void TestCommandLine::aWrongCommandLineIsRefusedWithCode2_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("text");
@@ -136,7 +136,7 @@ void CommandLineTest::aWrongCommandLineIsRefusedWithCode2_data()
     QTest::newRow("a window's photograph on a tour") << QStringList{"--tour", "t", "--photo", "x"} << "'photo'";
 }
 
-void CommandLineTest::aWrongCommandLineIsRefusedWithCode2()
+void TestCommandLine::aWrongCommandLineIsRefusedWithCode2()
 {
     QFETCH(QStringList, arguments);
     QFETCH(QString, text);
@@ -146,7 +146,7 @@ void CommandLineTest::aWrongCommandLineIsRefusedWithCode2()
     QCOMPARE(result.output, QString());
 }
 
-void CommandLineTest::aNameThatIsNotUtf8IsRefused_data()
+void TestCommandLine::aNameThatIsNotUtf8IsRefused_data()
 {
     QTest::addColumn<QByteArray>("option");
     QTest::addColumn<QString>("others");
@@ -158,7 +158,7 @@ void CommandLineTest::aNameThatIsNotUtf8IsRefused_data()
 }
 
 // A shell makes the byte, as QProcess takes texts.
-void CommandLineTest::aNameThatIsNotUtf8IsRefused()
+void TestCommandLine::aNameThatIsNotUtf8IsRefused()
 {
     QFETCH(QByteArray, option);
     QFETCH(QString, others);
@@ -173,7 +173,7 @@ void CommandLineTest::aNameThatIsNotUtf8IsRefused()
     QCOMPARE(shell.exitCode(), 2);
 }
 
-void CommandLineTest::aPluginThatCannotServeIsNamed_data()
+void TestCommandLine::aPluginThatCannotServeIsNamed_data()
 {
     QTest::addColumn<QString>("plugin");
     QTest::addColumn<QString>("missing");
@@ -188,7 +188,7 @@ void CommandLineTest::aPluginThatCannotServeIsNamed_data()
                                          << "no function \"destroy_callTime\"";
 }
 
-void CommandLineTest::aPluginThatCannotServeIsNamed()
+void TestCommandLine::aPluginThatCannotServeIsNamed()
 {
     QFETCH(QString, plugin);
     QFETCH(QString, missing);
@@ -200,14 +200,14 @@ void CommandLineTest::aPluginThatCannotServeIsNamed()
     }
 }
 
-void CommandLineTest::aPluginWithoutAScreenIsSaid()
+void TestCommandLine::aPluginWithoutAScreenIsSaid()
 {
     const HostResult result = showCallTimes({"--state", "none", "--plugin", KAV_DOUBLES "/libnull.so"});
     QCOMPARE(result.code, 5);
     QVERIFY2(result.errors.contains("gives no screen \"callTime\""), qPrintable(result.errors));
 }
 
-void CommandLineTest::anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin()
+void TestCommandLine::anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin()
 {
     environment.insert("LD_LIBRARY_PATH", KAV_DOUBLES "/replacement");
     environment.insert("KAV_RECORD", path("record"));
@@ -216,7 +216,7 @@ void CommandLineTest::anotherLibraryOfTheSameNameTakesThePlaceOfThePlugin()
     QVERIFY2(contents("record").startsWith("create callTime"), qPrintable(contents("record")));
 }
 
-void CommandLineTest::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data()
+void TestCommandLine::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data()
 {
     QTest::addColumn<QString>("folder");
     QTest::addColumn<QString>("missing");
@@ -235,7 +235,7 @@ void CommandLineTest::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data
                                                        << "SETUP_SECURITY_Util";
 }
 
-void CommandLineTest::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart()
+void TestCommandLine::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart()
 {
     QFETCH(QString, folder);
     QFETCH(QString, missing);
@@ -247,7 +247,7 @@ void CommandLineTest::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart()
     QVERIFY2(told.match(result.errors).hasMatch(), qPrintable(result.errors));
 }
 
-void CommandLineTest::anUnusableStateDirectoryIsSaid()
+void TestCommandLine::anUnusableStateDirectoryIsSaid()
 {
     QFile file(path("file"));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -257,7 +257,7 @@ void CommandLineTest::anUnusableStateDirectoryIsSaid()
     QVERIFY2(result.errors.contains(directory), qPrintable(result.errors));
 }
 
-void CommandLineTest::aDamagedCallLogIsSaidAndKeptAside()
+void TestCommandLine::aDamagedCallLogIsSaidAndKeptAside()
 {
     const QByteArray damaged("this has never been a database");
     QVERIFY(QDir().mkpath(path("state")));
@@ -271,7 +271,7 @@ void CommandLineTest::aDamagedCallLogIsSaidAndKeptAside()
     QCOMPARE(contents("state/calllog-kept-1.db"), QString::fromLatin1(damaged));
 }
 
-void CommandLineTest::aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data()
+void TestCommandLine::aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
@@ -283,7 +283,7 @@ void CommandLineTest::aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data()
 }
 
 // The window is there by then, and its event loop runs.
-void CommandLineTest::aWindowWhoseHandsetCannotBeOpenedEndsLikewise()
+void TestCommandLine::aWindowWhoseHandsetCannotBeOpenedEndsLikewise()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, code);
@@ -293,7 +293,7 @@ void CommandLineTest::aWindowWhoseHandsetCannotBeOpenedEndsLikewise()
     QVERIFY2(result.errors.contains(named), qPrintable(result.errors));
 }
 
-void CommandLineTest::aHandsetThatKeepsNothingFindsItsStateDirectoryMade()
+void TestCommandLine::aHandsetThatKeepsNothingFindsItsStateDirectoryMade()
 {
     environment.insert("LD_PRELOAD", KAV_DOUBLES "/libbarebackend.so");
     const HostResult result = showCallTimes({"--state", path("new/state")});
@@ -305,7 +305,7 @@ void CommandLineTest::aHandsetThatKeepsNothingFindsItsStateDirectoryMade()
         QCOMPARE(QFile::permissions(path(directory)), userAlone);
 }
 
-void CommandLineTest::aSecondStartOnTheSameStateIsShownAndRecordsNothing()
+void TestCommandLine::aSecondStartOnTheSameStateIsShownAndRecordsNothing()
 {
     const auto clock = std::make_shared<handset::ManualClock>();
     const handset::Opened first = handset::open({"simulated", path("state"), clock});
@@ -322,14 +322,14 @@ void CommandLineTest::aSecondStartOnTheSameStateIsShownAndRecordsNothing()
     QCOMPARE(phone.hangUp(), 0);
 }
 
-void CommandLineTest::anUnknownBackendIsSaid()
+void TestCommandLine::anUnknownBackendIsSaid()
 {
     const HostResult result = showCallTimes({"--state", "none", "--backend", "pigeon"});
     QCOMPARE(result.code, 3);
     QVERIFY2(result.errors.contains("pigeon"), qPrintable(result.errors));
 }
 
-void CommandLineTest::theTraceIsAppendedToItsFile()
+void TestCommandLine::theTraceIsAppendedToItsFile()
 {
     const QStringList arguments{"--state", "none", "--trace", path("trace")};
     QCOMPARE(showCallTimes(arguments).code, 0);
@@ -339,20 +339,20 @@ void CommandLineTest::theTraceIsAppendedToItsFile()
     QCOMPARE(contents("trace"), once + once);
 }
 
-void CommandLineTest::theTraceGoesToStandardOutputWhenAskedTo()
+void TestCommandLine::theTraceGoesToStandardOutputWhenAskedTo()
 {
     const HostResult result = showCallTimes({"--state", "none", "--trace", "-"});
     QCOMPARE(result.code, 0);
     QVERIFY2(hasMeterTrace(result.output), qPrintable(result.output));
 }
 
-void CommandLineTest::theTraceIsKeptBesideTheStateByDefault()
+void TestCommandLine::theTraceIsKeptBesideTheStateByDefault()
 {
     QCOMPARE(showCallTimes({"--state", path("state")}).code, 0);
     QVERIFY(hasMeterTrace(contents("state/trace.log")));
 }
 
-void CommandLineTest::theTraceIsDroppedWhereTheStateIsInMemory()
+void TestCommandLine::theTraceIsDroppedWhereTheStateIsInMemory()
 {
     const HostResult result = showCallTimes({"--state", "none"});
     QCOMPARE(result.code, 0);
@@ -360,7 +360,7 @@ void CommandLineTest::theTraceIsDroppedWhereTheStateIsInMemory()
     QVERIFY(!QFile::exists(path("data/kavcallmeter/trace.log")));
 }
 
-void CommandLineTest::aTraceFileThatCannotBeOpenedIsSaid()
+void TestCommandLine::aTraceFileThatCannotBeOpenedIsSaid()
 {
     const QString file = path("missing/trace");
     const HostResult result = showCallTimes({"--state", "none", "--trace", file});
@@ -368,7 +368,7 @@ void CommandLineTest::aTraceFileThatCannotBeOpenedIsSaid()
     QVERIFY2(result.errors.contains(file), qPrintable(result.errors));
 }
 
-void CommandLineTest::aCatalogueTranslatesMenuAndScreens()
+void TestCommandLine::aCatalogueTranslatesMenuAndScreens()
 {
     QFile script(path("short.tour"));
     QVERIFY(script.open(QIODevice::WriteOnly));
@@ -385,7 +385,7 @@ void CommandLineTest::aCatalogueTranslatesMenuAndScreens()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid_data()
+void TestCommandLine::aCatalogueThatCannotBeLoadedIsSaid_data()
 {
     QTest::addColumn<QString>("file");
     QTest::newRow("there is none") << "/nowhere/texts.qm";
@@ -393,7 +393,7 @@ void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid_data()
     QTest::newRow("it is a directory") << QDir::tempPath();
 }
 
-void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid()
+void TestCommandLine::aCatalogueThatCannotBeLoadedIsSaid()
 {
     QFETCH(QString, file);
     const HostResult result = showCallTimes({"--state", "none", "--translation", file});
@@ -401,7 +401,7 @@ void CommandLineTest::aCatalogueThatCannotBeLoadedIsSaid()
     QVERIFY2(result.errors.contains(file), qPrintable(result.errors));
 }
 
-void CommandLineTest::withoutADisplayTheWindowIsRefused()
+void TestCommandLine::withoutADisplayTheWindowIsRefused()
 {
     environment.remove("QT_QPA_PLATFORM");
     const HostResult result = run({"--state", "none"});
@@ -409,7 +409,7 @@ void CommandLineTest::withoutADisplayTheWindowIsRefused()
     QVERIFY2(result.errors.contains("--tour"), qPrintable(result.errors));
 }
 
-void CommandLineTest::aDisplayThatCannotBeReachedIsNamed_data()
+void TestCommandLine::aDisplayThatCannotBeReachedIsNamed_data()
 {
     QTest::addColumn<QString>("display");
     QTest::newRow("no server listens there") << deadDisplay;
@@ -417,7 +417,7 @@ void CommandLineTest::aDisplayThatCannotBeReachedIsNamed_data()
     QTest::newRow("no display's name") << "nonsense";
 }
 
-void CommandLineTest::aDisplayThatCannotBeReachedIsNamed()
+void TestCommandLine::aDisplayThatCannotBeReachedIsNamed()
 {
     QFETCH(QString, display);
     environment.remove("QT_QPA_PLATFORM");
@@ -430,7 +430,7 @@ void CommandLineTest::aDisplayThatCannotBeReachedIsNamed()
         QString("kavrecentcalls: The display \"%1\" cannot be reached; --tour DIR needs none.\n").arg(display));
 }
 
-void CommandLineTest::aDisplayThatCannotBeReachedDoesNotHinderAPhotograph()
+void TestCommandLine::aDisplayThatCannotBeReachedDoesNotHinderAPhotograph()
 {
     environment.remove("QT_QPA_PLATFORM");
     environment.insert("DISPLAY", deadDisplay);
@@ -439,7 +439,7 @@ void CommandLineTest::aDisplayThatCannotBeReachedDoesNotHinderAPhotograph()
     QVERIFY(!QImage(path("window.png")).isNull());
 }
 
-void CommandLineTest::theWindowIsPhotographed()
+void TestCommandLine::theWindowIsPhotographed()
 {
     environment.remove("QT_QPA_PLATFORM");
     QCOMPARE(showCallTimes({"--state", "none"}).code, 0);
@@ -448,7 +448,7 @@ void CommandLineTest::theWindowIsPhotographed()
     QVERIFY(photograph.height() > 600);
 }
 
-void CommandLineTest::thePageOfThePanelIsChosen()
+void TestCommandLine::thePageOfThePanelIsChosen()
 {
     QList<QImage> pictures;
     for (const char *page : {"calls", "charging", "sim", "data", "failures"}) {
@@ -463,12 +463,12 @@ void CommandLineTest::thePageOfThePanelIsChosen()
     QCOMPARE(QImage(path("window.png")), pictures.first());
 }
 
-void CommandLineTest::aPhotographThatCannotBeWrittenIsSaid()
+void TestCommandLine::aPhotographThatCannotBeWrittenIsSaid()
 {
     const HostResult result = run({"--state", "none", "--photo", path("missing/window.png")});
     QCOMPARE(result.code, 7);
     QVERIFY2(result.errors.contains("missing/window.png"), qPrintable(result.errors));
 }
 
-KAV_TEST_GROUP(CommandLineTest, QCoreApplication);
+KAV_TEST_GROUP(TestCommandLine, QCoreApplication);
 #include "tst_commandline.moc"

@@ -16,7 +16,7 @@
 
 using namespace host;
 
-class ContractTest : public QObject
+class TestContract : public QObject
 {
     Q_OBJECT
 
@@ -43,7 +43,7 @@ private:
     std::unique_ptr<ScreenHost> screens;
 };
 
-void ContractTest::initTestCase()
+void TestContract::initTestCase()
 {
     const QString plugin = QStringLiteral(KAV_DOUBLES "/librecording.so");
     const QString problem = library.load(plugin);
@@ -53,7 +53,7 @@ void ContractTest::initTestCase()
     calls = recorded();
 }
 
-void ContractTest::init()
+void TestContract::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     screens.reset();
@@ -63,7 +63,7 @@ void ContractTest::init()
     calls->clear();
 }
 
-void ContractTest::aScreenIsMadeInTheDisplayAndShown()
+void TestContract::aScreenIsMadeInTheDisplayAndShown()
 {
     QVERIFY(screens->open(0));
     QCOMPARE(*calls, (QStringList{"create callTime in a parent", "show"}));
@@ -72,7 +72,7 @@ void ContractTest::aScreenIsMadeInTheDisplayAndShown()
     QCOMPARE(screens->screen()->geometry(), QRect(0, 0, 240, 320));
 }
 
-void ContractTest::theScreenIsDestroyedOnceAndAfterItsSignal()
+void TestContract::theScreenIsDestroyedOnceAndAfterItsSignal()
 {
     QSignalSpy closed(screens.get(), &ScreenHost::closed);
     QVERIFY(screens->open(0));
@@ -84,7 +84,7 @@ void ContractTest::theScreenIsDestroyedOnceAndAfterItsSignal()
     QVERIFY(!screens->screen());
 }
 
-void ContractTest::aSecondSignalOfALeavingScreenChangesNothing()
+void TestContract::aSecondSignalOfALeavingScreenChangesNothing()
 {
     QSignalSpy closed(screens.get(), &ScreenHost::closed);
     QVERIFY(screens->open(0));
@@ -96,7 +96,7 @@ void ContractTest::aSecondSignalOfALeavingScreenChangesNothing()
     QCOMPARE(closed.size(), 1);
 }
 
-void ContractTest::aSecondSignalDoesNotReachTheNextScreen()
+void TestContract::aSecondSignalDoesNotReachTheNextScreen()
 {
     connect(screens.get(), &ScreenHost::closed, screens.get(), [this] { screens->open(0); });
     QVERIFY(screens->open(0));
@@ -108,14 +108,14 @@ void ContractTest::aSecondSignalDoesNotReachTheNextScreen()
     screens->disconnect();
 }
 
-void ContractTest::onlyOneScreenIsOpenAtATime()
+void TestContract::onlyOneScreenIsOpenAtATime()
 {
     QVERIFY(screens->open(0));
     QVERIFY(!screens->open(0));
     QCOMPARE(calls->count("create callTime in a parent"), 1);
 }
 
-void ContractTest::closingGivesTheScreenBackAtOnce()
+void TestContract::closingGivesTheScreenBackAtOnce()
 {
     QVERIFY(screens->open(0));
     screens->close();
@@ -124,7 +124,7 @@ void ContractTest::closingGivesTheScreenBackAtOnce()
     QCOMPARE(calls->count("destroy callTime"), 1);
 }
 
-void ContractTest::theEndOfTheHostGivesTheScreenBack()
+void TestContract::theEndOfTheHostGivesTheScreenBack()
 {
     QVERIFY(screens->open(0));
     press(Qt::Key_Context2); // and the signal is still under way
@@ -133,7 +133,7 @@ void ContractTest::theEndOfTheHostGivesTheScreenBack()
     QCOMPARE(calls->mid(2), (QStringList{"emit", "emitted", "destroy callTime", "deleted"}));
 }
 
-void ContractTest::aScreenThatIsGoneIsNotDestroyed()
+void TestContract::aScreenThatIsGoneIsNotDestroyed()
 {
     QVERIFY(screens->open(0));
     delete screens->screen();
@@ -141,14 +141,14 @@ void ContractTest::aScreenThatIsGoneIsNotDestroyed()
     QCOMPARE(calls->mid(2), QStringList{"deleted"});
 }
 
-void ContractTest::anIndexOutsideTheTableOpensNothing()
+void TestContract::anIndexOutsideTheTableOpensNothing()
 {
     QVERIFY(!screens->open(-1));
     QVERIFY(!screens->open(static_cast<int>(screenTable.size())));
     QCOMPARE(*calls, QStringList());
 }
 
-void ContractTest::theNextScreenOpensWhenOneHasClosed()
+void TestContract::theNextScreenOpensWhenOneHasClosed()
 {
     for (int time = 1; time <= 3; ++time) {
         QVERIFY(screens->open(0));
@@ -159,5 +159,5 @@ void ContractTest::theNextScreenOpensWhenOneHasClosed()
     QCOMPARE(calls->count("deleted while emitting"), 0);
 }
 
-KAV_TEST_GROUP(ContractTest, QApplication);
+KAV_TEST_GROUP(TestContract, QApplication);
 #include "tst_contract.moc"

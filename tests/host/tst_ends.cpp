@@ -1,7 +1,7 @@
 // How the program ends when it is asked to from outside, and when nobody reads what it prints.
 #include "handset/Handset.h"
 #include "host/HostProcess.h"
-#include "qcop/FakeBus.h"
+#include "qt/qcop/FakeBus.h"
 #include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 
@@ -64,7 +64,7 @@ private:
 
 } // namespace
 
-class EndsTest : public QObject
+class TestEnds : public QObject
 {
     Q_OBJECT
 
@@ -100,14 +100,14 @@ private:
     std::unique_ptr<QTemporaryDir> home;
 };
 
-void EndsTest::init()
+void TestEnds::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     home = std::make_unique<QTemporaryDir>();
     QVERIFY(home->isValid());
 }
 
-void EndsTest::everySignal()
+void TestEnds::everySignal()
 {
     QTest::addColumn<int>("signal");
     QTest::newRow("SIGTERM") << SIGTERM;
@@ -115,13 +115,13 @@ void EndsTest::everySignal()
     QTest::newRow("SIGHUP") << SIGHUP;
 }
 
-QByteArray EndsTest::contents(const char *name) const
+QByteArray TestEnds::contents(const char *name) const
 {
     QFile file(path(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString EndsTest::write(const char *name, const QByteArray &text) const
+QString TestEnds::write(const char *name, const QByteArray &text) const
 {
     QFile file(path(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size())
@@ -129,14 +129,14 @@ QString EndsTest::write(const char *name, const QByteArray &text) const
     return file.fileName();
 }
 
-void EndsTest::start(QProcess &process, const QStringList &arguments) const
+void TestEnds::start(QProcess &process, const QStringList &arguments) const
 {
     process.setProcessEnvironment(hostEnvironment(home->path()));
     process.start(QStringLiteral(KAV_HOST_PROGRAM), arguments);
 }
 
 // The window is open when its screen has asked the handset.
-void EndsTest::aSignalClosesTheWindowAndTheCallLogInOrder()
+void TestEnds::aSignalClosesTheWindowAndTheCallLogInOrder()
 {
     QFETCH(int, signal);
     QProcess process;
@@ -152,7 +152,7 @@ void EndsTest::aSignalClosesTheWindowAndTheCallLogInOrder()
 
 // With a call of 65 seconds that goes on. The tour has more to print than a pipe holds, which is read no further: the
 // signal finds it before its end, however late it comes.
-void EndsTest::aSignalEndsATourWithTheRunningCallWritten()
+void TestEnds::aSignalEndsATourWithTheRunningCallWritten()
 {
     QFETCH(int, signal);
     const QString script = write("long.tour", "state kept\ndial 5550123\nanswer\nclock +65s\n" +
@@ -176,7 +176,7 @@ void EndsTest::aSignalEndsATourWithTheRunningCallWritten()
 }
 
 // What the program says of the salvage finds a pipe that is full, so that the signal comes before the end of it.
-void EndsTest::aSignalInASalvageLeavesItToTheNextStart()
+void TestEnds::aSignalInASalvageLeavesItToTheNextStart()
 {
     QFETCH(int, signal);
     makeLongLog(path("state"));
@@ -200,7 +200,7 @@ void EndsTest::aSignalInASalvageLeavesItToTheNextStart()
     QVERIFY(!QFile::exists(path("state/calllog-kept-1.db")));
 }
 
-void EndsTest::aSignalThatTheShellIgnoredStaysIgnored()
+void TestEnds::aSignalThatTheShellIgnoredStaysIgnored()
 {
     QProcess process;
     process.setProcessEnvironment(hostEnvironment(home->path()));
@@ -214,7 +214,7 @@ void EndsTest::aSignalThatTheShellIgnoredStaysIgnored()
     QCOMPARE(process.exitCode(), 0);
 }
 
-void EndsTest::aReaderThatGoesIsAnErrorAndNoDeath_data()
+void TestEnds::aReaderThatGoesIsAnErrorAndNoDeath_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("code");
@@ -225,7 +225,7 @@ void EndsTest::aReaderThatGoesIsAnErrorAndNoDeath_data()
         << 0;
 }
 
-void EndsTest::aReaderThatGoesIsAnErrorAndNoDeath()
+void TestEnds::aReaderThatGoesIsAnErrorAndNoDeath()
 {
     QFETCH(QStringList, arguments);
     QFETCH(int, code);
@@ -248,7 +248,7 @@ void EndsTest::aReaderThatGoesIsAnErrorAndNoDeath()
 }
 
 // What is opened first would get the number of the standard output, and the tour be printed into the call log.
-void EndsTest::aClosedOutputIsAnErrorAndGetsIntoNoFile()
+void TestEnds::aClosedOutputIsAnErrorAndGetsIntoNoFile()
 {
     const QString script = write("short.tour", "state kept\nopen callTime\n");
     QProcess process;
@@ -266,7 +266,7 @@ void EndsTest::aClosedOutputIsAnErrorAndGetsIntoNoFile()
     QVERIFY(!trace.readAll().contains("expectations"));
 }
 
-void EndsTest::aScriptOfTooManyStepsIsRefused_data()
+void TestEnds::aScriptOfTooManyStepsIsRefused_data()
 {
     QTest::addColumn<QByteArray>("text");
     QTest::addColumn<QString>("mistake");
@@ -280,7 +280,7 @@ void EndsTest::aScriptOfTooManyStepsIsRefused_data()
                                    << "too.tour:20001: a script has no more";
 }
 
-void EndsTest::aScriptOfTooManyStepsIsRefused()
+void TestEnds::aScriptOfTooManyStepsIsRefused()
 {
     QFETCH(QByteArray, text);
     QFETCH(QString, mistake);
@@ -291,7 +291,7 @@ void EndsTest::aScriptOfTooManyStepsIsRefused()
     QVERIFY(!QFile::exists(path("tour")));
 }
 
-void EndsTest::aScriptOfGigabytesIsRefused()
+void TestEnds::aScriptOfGigabytesIsRefused()
 {
     const QString script = write("large.tour", {});
     QVERIFY(QFile::resize(script, qint64{40} * 1024 * 1024 * 1024)); // takes no room
@@ -300,14 +300,14 @@ void EndsTest::aScriptOfGigabytesIsRefused()
     QVERIFY2(result.errors.contains("it is larger than 4 MiB"), qPrintable(result.errors));
 }
 
-void EndsTest::aSilentSessionBusIsToldAndHoldsUpNothing_data()
+void TestEnds::aSilentSessionBusIsToldAndHoldsUpNothing_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::newRow("a tour") << QStringList{"--tour", "TOUR", "--script", "SCRIPT"};
     QTest::newRow("a window") << QStringList{"--state", "none", "--photo", "TOUR/window.png"};
 }
 
-void EndsTest::aSilentSessionBusIsToldAndHoldsUpNothing()
+void TestEnds::aSilentSessionBusIsToldAndHoldsUpNothing()
 {
     QFETCH(QStringList, arguments);
     QVERIFY(QDir(home->path()).mkpath("tour"));
@@ -322,5 +322,5 @@ void EndsTest::aSilentSessionBusIsToldAndHoldsUpNothing()
              qPrintable(result.errors));
 }
 
-KAV_TEST_GROUP(EndsTest, QCoreApplication);
+KAV_TEST_GROUP(TestEnds, QCoreApplication);
 #include "tst_ends.moc"

@@ -262,7 +262,7 @@ static_assert(everyOperation.size() == operationNames.size());
 
 } // namespace
 
-class FaultsTest : public QObject
+class TestFaults : public QObject
 {
     Q_OBJECT
 
@@ -285,7 +285,7 @@ private:
     std::shared_ptr<FaultyHandset> installed;
 };
 
-void FaultsTest::init()
+void TestFaults::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     behind = std::make_shared<ScriptedHandset>();
@@ -295,13 +295,13 @@ void FaultsTest::init()
         asked.script(behind->script, asked.name);
 }
 
-void FaultsTest::cleanup()
+void TestFaults::cleanup()
 {
     handset::install(nullptr);
 }
 
 // What is not as it should be; empty when the operation returns `expectedCode` as it has to.
-QString FaultsTest::ask(const Asked &asked, int expectedCode)
+QString TestFaults::ask(const Asked &asked, int expectedCode)
 {
     Journal::shared().clear();
     Value value = untouched;
@@ -316,7 +316,7 @@ QString FaultsTest::ask(const Asked &asked, int expectedCode)
         .arg(value, reached ? "reaches" : "does not reach");
 }
 
-void FaultsTest::theTableNamesEveryOperationOnce()
+void TestFaults::theTableNamesEveryOperationOnce()
 {
     for (std::size_t index = 0; index < everyOperation.size(); ++index) {
         QCOMPARE(operationNames[index],
@@ -328,14 +328,14 @@ void FaultsTest::theTableNamesEveryOperationOnce()
     QCOMPARE(operationIndex(""), -1);
 }
 
-void FaultsTest::oneThatFailsAnswersItsCodeAndTheOthersWork_data()
+void TestFaults::oneThatFailsAnswersItsCodeAndTheOthersWork_data()
 {
     QTest::addColumn<int>("failing");
     for (std::size_t index = 0; index < everyOperation.size(); ++index)
         QTest::newRow(everyOperation[index].name) << static_cast<int>(index);
 }
 
-void FaultsTest::oneThatFailsAnswersItsCodeAndTheOthersWork()
+void TestFaults::oneThatFailsAnswersItsCodeAndTheOthersWork()
 {
     QFETCH(int, failing);
     const int code = 1000 + failing;
@@ -347,7 +347,7 @@ void FaultsTest::oneThatFailsAnswersItsCodeAndTheOthersWork()
     QCOMPARE(ask(broken, 0), QString());
 }
 
-void FaultsTest::allCanFailAtOnceAndWorkAgain()
+void TestFaults::allCanFailAtOnceAndWorkAgain()
 {
     for (std::size_t index = 0; index < operationNames.size(); ++index)
         installed->faults().set(static_cast<int>(index), 4711);
@@ -358,7 +358,7 @@ void FaultsTest::allCanFailAtOnceAndWorkAgain()
         QCOMPARE(ask(asked, 0), QString());
 }
 
-void FaultsTest::aCodeIsAnyNumberButNothing()
+void TestFaults::aCodeIsAnyNumberButNothing()
 {
     const int operation = operationIndex("CallLog::resetAll");
     for (const int code : {-1, 1, INT_MIN, INT_MAX}) {
@@ -368,7 +368,7 @@ void FaultsTest::aCodeIsAnyNumberButNothing()
     }
 }
 
-void FaultsTest::argumentsReachTheHandset()
+void TestFaults::argumentsReachTheHandset()
 {
     Journal::shared().clear();
     QCOMPARE(engine().setMeterMax("77.5"), 0);
@@ -383,7 +383,7 @@ void FaultsTest::argumentsReachTheHandset()
     QCOMPARE(Journal::shared().take(), expected);
 }
 
-void FaultsTest::aRoleThatTheHandsetLacksStaysAway()
+void TestFaults::aRoleThatTheHandsetLacksStaysAway()
 {
     QVERIFY(installed->callService() && installed->callLog() && installed->dataCalls() &&
             installed->adviceOfCharge() && installed->packetData() && installed->simSecurity());
@@ -395,7 +395,7 @@ void FaultsTest::aRoleThatTheHandsetLacksStaysAway()
     QCOMPARE(TAPI_LOG_ResetAll(), int{handset::NotAvailable});
 }
 
-void FaultsTest::whatIsToldToTheHandsetAndByItGoesThrough()
+void TestFaults::whatIsToldToTheHandsetAndByItGoesThrough()
 {
     auto opened = handset::open({});
     QVERIFY2(opened.handset, qPrintable(opened.error));
@@ -414,5 +414,5 @@ void FaultsTest::whatIsToldToTheHandsetAndByItGoesThrough()
     QCOMPARE(changes, 1);
 }
 
-KAV_TEST_GROUP(FaultsTest, QCoreApplication);
+KAV_TEST_GROUP(TestFaults, QCoreApplication);
 #include "tst_faults.moc"

@@ -145,7 +145,7 @@ QStringList textsOf(const QWidget *widget)
 
 } // namespace
 
-class PanelTest : public QObject
+class TestPanel : public QObject
 {
     Q_OBJECT
 
@@ -252,20 +252,20 @@ private:
     std::unique_ptr<PhoneWindow> window;
 };
 
-void PanelTest::initTestCase()
+void TestPanel::initTestCase()
 {
     const QString problem = library.load("libkavcallmeter.so.1");
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 }
 
-void PanelTest::init()
+void TestPanel::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     clock = std::make_shared<handset::ManualClock>(1000000);
     openHandsetIn({});
 }
 
-void PanelTest::openHandsetIn(const QString &stateDirectory)
+void TestPanel::openHandsetIn(const QString &stateDirectory)
 {
     const handset::Opened opened = handset::open({"simulated", stateDirectory, clock});
     QVERIFY2(opened.handset, qPrintable(opened.error));
@@ -275,7 +275,7 @@ void PanelTest::openHandsetIn(const QString &stateDirectory)
     openWindow(owner);
 }
 
-void PanelTest::cleanup()
+void TestPanel::cleanup()
 {
     window.reset();
     handset::install(nullptr);
@@ -283,7 +283,7 @@ void PanelTest::cleanup()
     owner.reset();
 }
 
-void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &behind)
+void TestPanel::openWindow(const std::shared_ptr<handset::Handset> &behind)
 {
     window.reset();
     installed = std::make_shared<FaultyHandset>(behind);
@@ -298,20 +298,20 @@ void PanelTest::openWindow(const std::shared_ptr<handset::Handset> &behind)
 }
 
 // Which makes its controls.
-void PanelTest::openEachTabOnce()
+void TestPanel::openEachTabOnce()
 {
     for (int page = static_cast<int>(pageNames.size()) - 1; page >= 0; --page)
         window->choosePage(page);
 }
 
 // Qt's offscreen platform warns of every window that has a least size.
-void PanelTest::expectSizeHintWarning()
+void TestPanel::expectSizeHintWarning()
 {
     if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
 }
 
-QPushButton *PanelTest::buttonCalled(const QString &text) const
+QPushButton *TestPanel::buttonCalled(const QString &text) const
 {
     const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
     for (QPushButton *candidate : buttons) {
@@ -321,14 +321,14 @@ QPushButton *PanelTest::buttonCalled(const QString &text) const
     qFatal("there is no button \"%s\"", qPrintable(text));
 }
 
-void PanelTest::clickBox(const char *name) const
+void TestPanel::clickBox(const char *name) const
 {
     auto *box = control<QCheckBox>(name);
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
 }
 
 // By the keyboard, as its list would cover the window.
-void PanelTest::choose(const char *name, int index) const
+void TestPanel::choose(const char *name, int index) const
 {
     auto *choice = control<QComboBox>(name);
     choice->setFocus();
@@ -338,7 +338,7 @@ void PanelTest::choose(const char *name, int index) const
     QCOMPARE(choice->currentIndex(), index);
 }
 
-void PanelTest::enter(const char *name, const QString &text) const
+void TestPanel::enter(const char *name, const QString &text) const
 {
     auto *field = control<QWidget>(name);
     field->setFocus();
@@ -346,7 +346,7 @@ void PanelTest::enter(const char *name, const QString &text) const
     QTest::keyClicks(field, text);
 }
 
-void PanelTest::showTab(const char *title) const
+void TestPanel::showTab(const char *title) const
 {
     auto *tabs = window->findChild<QTabBar *>();
     for (int index = 0; index < tabs->count(); ++index) {
@@ -356,7 +356,7 @@ void PanelTest::showTab(const char *title) const
     QCOMPARE(tabs->tabText(tabs->currentIndex()).remove(u'&'), QString(title));
 }
 
-QStringList PanelTest::failing() const
+QStringList TestPanel::failing() const
 {
     QStringList lines;
     const auto *list = control<QListWidget>("failing");
@@ -366,7 +366,7 @@ QStringList PanelTest::failing() const
 }
 
 // Of the screen that has the keys.
-QString PanelTest::title() const
+QString TestPanel::title() const
 {
     QWidget *widget = ZApplication::keyTarget();
     while (widget && !qobject_cast<ZKbMainWidget *>(widget))
@@ -375,14 +375,14 @@ QString PanelTest::title() const
     return screen ? screen->mainWidgetTitle() : QStringLiteral("(none)");
 }
 
-void PanelTest::connectCall() const
+void TestPanel::connectCall() const
 {
     QCOMPARE(handset->dial("5550123", CallKind::Voice), 0);
     QCOMPARE(handset->remoteAnswer(), 0);
 }
 
 // Lets time pass, and the timers notice: the handset's, and the panel's that shows what it finds.
-void PanelTest::pass(qint64 ms) const
+void TestPanel::pass(qint64 ms) const
 {
     clock->advance(ms);
     for (const QObject *whole :
@@ -393,13 +393,13 @@ void PanelTest::pass(qint64 ms) const
     }
 }
 
-bool PanelTest::enterPin2(const QByteArray &digits) const
+bool TestPanel::enterPin2(const QByteArray &digits) const
 {
     bool accepted = false;
     return owner->simSecurity()->verifyPin(1, digits, accepted) == handset::Success && accepted;
 }
 
-void PanelTest::eachTabShowsItsSections()
+void TestPanel::eachTabShowsItsSections()
 {
     const auto shown = [this] {
         QStringList titles;
@@ -443,7 +443,7 @@ static QStringList madeSections(const PhoneWindow &window)
     return titles;
 }
 
-void PanelTest::aTabIsMadeWhenItIsFirstOpened()
+void TestPanel::aTabIsMadeWhenItIsFirstOpened()
 {
     PhoneWindow fresh(library, PhoneWindow::OpenedHandset{owner, {}, {}});
     fresh.complete();
@@ -459,7 +459,7 @@ void PanelTest::aTabIsMadeWhenItIsFirstOpened()
     QCOMPARE(name->text(), "kept");
 }
 
-void PanelTest::theTabThatIsAskedForIsTheFirstToBeMade()
+void TestPanel::theTabThatIsAskedForIsTheFirstToBeMade()
 {
     PhoneWindow fresh(library, PhoneWindow::OpenedHandset{owner, {}, {}});
     const QSize usual = fresh.sizeHint();
@@ -471,7 +471,7 @@ void PanelTest::theTabThatIsAskedForIsTheFirstToBeMade()
     QCOMPARE(fresh.sizeHint(), usual);
 }
 
-void PanelTest::aTariffIsSetByItsNumbers_data()
+void TestPanel::aTariffIsSetByItsNumbers_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("isDialed");
@@ -479,7 +479,7 @@ void PanelTest::aTariffIsSetByItsNumbers_data()
     QTest::newRow("answered calls") << "answered" << false;
 }
 
-void PanelTest::aTariffIsSetByItsNumbers()
+void TestPanel::aTariffIsSetByItsNumbers()
 {
     QFETCH(QString, name);
     QFETCH(bool, isDialed);
@@ -505,7 +505,7 @@ void PanelTest::aTariffIsSetByItsNumbers()
     QCOMPARE(label("tariff failure"), "");
 }
 
-void PanelTest::aTariffIsSetFreeAndBack()
+void TestPanel::aTariffIsSetFreeAndBack()
 {
     showTab("Charging");
     clickBox("tariff dialed free");
@@ -519,7 +519,7 @@ void PanelTest::aTariffIsSetFreeAndBack()
     QCOMPARE(charging().tariff(CallDirection::Dialed), tariffOf(10, 100, 0));
 }
 
-void PanelTest::aTariffThatChangesElsewhereIsShown()
+void TestPanel::aTariffThatChangesElsewhereIsShown()
 {
     QCOMPARE(charging().setTariff(CallDirection::Answered, tariffOf(15, 605, 3)), 0);
     QCOMPARE(control<QDoubleSpinBox>("tariff answered units")->value(), 1.5);
@@ -531,7 +531,7 @@ void PanelTest::aTariffThatChangesElsewhereIsShown()
     QVERIFY(control<QCheckBox>("tariff answered free")->isChecked());
 }
 
-void PanelTest::whatIsBeingTypedIsNotTakenAway()
+void TestPanel::whatIsBeingTypedIsNotTakenAway()
 {
     showTab("Charging");
     enter("tariff dialed units", "37");
@@ -544,7 +544,7 @@ void PanelTest::whatIsBeingTypedIsNotTakenAway()
     QCOMPARE(charging().tariff(CallDirection::Dialed).interval, quint16{100});
 }
 
-void PanelTest::theChargeTypeIsSetAndShown()
+void TestPanel::theChargeTypeIsSetAndShown()
 {
     showTab("Charging");
     quint8 type = 99;
@@ -558,7 +558,7 @@ void PanelTest::theChargeTypeIsSetAndShown()
     QCOMPARE(control<QComboBox>("charge type")->currentIndex(), 1);
 }
 
-void PanelTest::priceAndCurrencyAreSetAndShownAsTheSimKeepsThem()
+void TestPanel::priceAndCurrencyAreSetAndShownAsTheSimKeepsThem()
 {
     showTab("Charging");
     QString price;
@@ -579,7 +579,7 @@ void PanelTest::priceAndCurrencyAreSetAndShownAsTheSimKeepsThem()
     QCOMPARE(control<QLineEdit>("currency")->text(), "USD");
 }
 
-void PanelTest::aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten()
+void TestPanel::aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten()
 {
     showTab("Charging");
     enter("price", "much");
@@ -595,7 +595,7 @@ void PanelTest::aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten()
     QVERIFY(!control<QLabel>("cost failure")->isVisible());
 }
 
-void PanelTest::theCreditLimitIsShown()
+void TestPanel::theCreditLimitIsShown()
 {
     QCOMPARE(label("credit limit"), "off");
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("120"), 0);
@@ -607,7 +607,7 @@ void PanelTest::theCreditLimitIsShown()
     QCOMPARE(label("credit limit"), "off");
 }
 
-void PanelTest::theAccountIsToppedUp()
+void TestPanel::theAccountIsToppedUp()
 {
     showTab("Charging");
     QCOMPARE(label("credit"), "Nothing has been paid in.");
@@ -625,7 +625,7 @@ void PanelTest::theAccountIsToppedUp()
     QCOMPARE(label("deposit"), "Last deposit: 7.00 units, good until 2007-03-09");
 }
 
-void PanelTest::anAmountThatIsNoneIsTold()
+void TestPanel::anAmountThatIsNoneIsTold()
 {
     showTab("Charging");
     for (const char *amount : {"", "much", "0", "99999999"}) {
@@ -640,7 +640,7 @@ void PanelTest::anAmountThatIsNoneIsTold()
     QVERIFY(!control<QLabel>("account failure")->isVisible());
 }
 
-void PanelTest::theCallCostsGoOnBySecond()
+void TestPanel::theCallCostsGoOnBySecond()
 {
     QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
     connectCall();
@@ -652,7 +652,7 @@ void PanelTest::theCallCostsGoOnBySecond()
     QCOMPARE(label("call cost"), "3.00 units");
 }
 
-void PanelTest::theEndOfTheCreditLimitIsAnnouncedAndTold()
+void TestPanel::theEndOfTheCreditLimitIsAnnouncedAndTold()
 {
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("6"), 0);
     QCOMPARE(charging().topUp("50", {2007, 3, 9}), 0);
@@ -673,7 +673,7 @@ void PanelTest::theEndOfTheCreditLimitIsAnnouncedAndTold()
     QVERIFY(!control<QLabel>("charge notice")->isVisible());
 }
 
-void PanelTest::theEndOfTheCreditIsAnnouncedAndTold()
+void TestPanel::theEndOfTheCreditIsAnnouncedAndTold()
 {
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("60"), 0);
     QCOMPARE(charging().topUp("3", {2007, 3, 9}), 0);
@@ -685,7 +685,7 @@ void PanelTest::theEndOfTheCreditIsAnnouncedAndTold()
                               60'000);
 }
 
-void PanelTest::aCallThatMayNotBeginIsExplained()
+void TestPanel::aCallThatMayNotBeginIsExplained()
 {
     QCOMPARE(owner->adviceOfCharge()->setMeterMaximum("1"), 0);
     connectCall();
@@ -698,7 +698,7 @@ void PanelTest::aCallThatMayNotBeginIsExplained()
 
 // --- the SIM card
 
-void PanelTest::anEndThatCannotBeWrittenIsToldUntilItIs()
+void TestPanel::anEndThatCannotBeWrittenIsToldUntilItIs()
 {
     const QTemporaryDir state;
     openHandsetIn(state.filePath(QStringLiteral("state")));
@@ -721,7 +721,7 @@ void PanelTest::anEndThatCannotBeWrittenIsToldUntilItIs()
     QVERIFY(!control<QLabel>("record notice")->isVisible());
 }
 
-void PanelTest::theFilesOfTheSimAreShownLive()
+void TestPanel::theFilesOfTheSimAreShownLive()
 {
     const QString nothing = "00 00 00  =  0 units";
     QCOMPARE(label("EF_ACM content"),
@@ -743,7 +743,7 @@ void PanelTest::theFilesOfTheSimAreShownLive()
                  qPrintable(label("EF_ACM content")));
 }
 
-void PanelTest::anUpdateRuleIsSetAndShown_data()
+void TestPanel::anUpdateRuleIsSetAndShown_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<int>("file");
@@ -752,7 +752,7 @@ void PanelTest::anUpdateRuleIsSetAndShown_data()
     QTest::newRow("the price") << "EF_PUCT" << int{AdviceOfCharge::PuctFile};
 }
 
-void PanelTest::anUpdateRuleIsSetAndShown()
+void TestPanel::anUpdateRuleIsSetAndShown()
 {
     QFETCH(QString, name);
     QFETCH(int, file);
@@ -778,7 +778,7 @@ void PanelTest::anUpdateRuleIsSetAndShown()
         QCOMPARE(control<QComboBox>(other)->currentIndex(), 0);
 }
 
-void PanelTest::pin2IsSwitchedOffAndOn()
+void TestPanel::pin2IsSwitchedOffAndOn()
 {
     showTab("SIM");
     QVERIFY(control<QCheckBox>("pin2 on")->isChecked());
@@ -791,7 +791,7 @@ void PanelTest::pin2IsSwitchedOffAndOn()
     QVERIFY(!control<QCheckBox>("pin2 on")->isChecked());
 }
 
-void PanelTest::theStateOfPin2IsShownLive()
+void TestPanel::theStateOfPin2IsShownLive()
 {
     QCOMPARE(label("pin2 state"), "On, not entered.\nTries left: PIN2 3, PUK2 10.");
     QVERIFY(!enterPin2("9999"));
@@ -807,7 +807,7 @@ void PanelTest::theStateOfPin2IsShownLive()
     QCOMPARE(label("pin2 state"), "Blocked for good.\nTries left: PIN2 0, PUK2 0.");
 }
 
-void PanelTest::pin2IsEntered()
+void TestPanel::pin2IsEntered()
 {
     showTab("SIM");
     enter("pin2", "1234");
@@ -824,7 +824,7 @@ void PanelTest::pin2IsEntered()
     QCOMPARE(title(), "Recent Calls");
 }
 
-void PanelTest::aWrongPin2IsToldAndCountedUntilItIsBlocked()
+void TestPanel::aWrongPin2IsToldAndCountedUntilItIsBlocked()
 {
     showTab("SIM");
     QVERIFY(enterPin2("1234"));
@@ -843,7 +843,7 @@ void PanelTest::aWrongPin2IsToldAndCountedUntilItIsBlocked()
     QVERIFY(!pin2().isVerified());
 }
 
-void PanelTest::aPin2ThatIsNoneIsToldAndCostsNoTry()
+void TestPanel::aPin2ThatIsNoneIsToldAndCostsNoTry()
 {
     showTab("SIM");
     for (const char *digits : {"", "123"}) {
@@ -854,7 +854,7 @@ void PanelTest::aPin2ThatIsNoneIsToldAndCostsNoTry()
     QCOMPARE(pin2().triesLeft(), 3);
 }
 
-void PanelTest::aPowerCycleForgetsThatPin2WasEntered()
+void TestPanel::aPowerCycleForgetsThatPin2WasEntered()
 {
     QVERIFY(enterPin2("1234"));
     QVERIFY(pin2().isVerified());
@@ -864,7 +864,7 @@ void PanelTest::aPowerCycleForgetsThatPin2WasEntered()
     QVERIFY(label("pin2 state").startsWith("On, not entered."));
 }
 
-void PanelTest::pin2IsUnblockedByItsPuk()
+void TestPanel::pin2IsUnblockedByItsPuk()
 {
     for (int i = 0; i < 3; ++i)
         QVERIFY(!enterPin2("9999"));
@@ -878,7 +878,7 @@ void PanelTest::pin2IsUnblockedByItsPuk()
     QVERIFY(enterPin2("87654321"));
 }
 
-void PanelTest::aWrongPukIsToldAndCounted()
+void TestPanel::aWrongPukIsToldAndCounted()
 {
     showTab("SIM");
     enter("puk2", "00000000");
@@ -889,7 +889,7 @@ void PanelTest::aWrongPukIsToldAndCounted()
     QVERIFY(enterPin2(rightPin.toByteArray()));
 }
 
-void PanelTest::codesThatAreNoneAreTold_data()
+void TestPanel::codesThatAreNoneAreTold_data()
 {
     QTest::addColumn<QString>("puk");
     QTest::addColumn<QString>("pin");
@@ -901,7 +901,7 @@ void PanelTest::codesThatAreNoneAreTold_data()
                                            << "123";
 }
 
-void PanelTest::codesThatAreNoneAreTold()
+void TestPanel::codesThatAreNoneAreTold()
 {
     QFETCH(QString, puk);
     QFETCH(QString, pin);
@@ -913,7 +913,7 @@ void PanelTest::codesThatAreNoneAreTold()
     QCOMPARE(pin2().pukTriesLeft(), 10);
 }
 
-void PanelTest::aCodeIsMaskedAndForgotten()
+void TestPanel::aCodeIsMaskedAndForgotten()
 {
     showTab("SIM");
     auto *puk = control<CodeField>("puk2");
@@ -942,7 +942,7 @@ void PanelTest::aCodeIsMaskedAndForgotten()
     }
 }
 
-void PanelTest::aCodeFieldTakesDigitsAlone()
+void TestPanel::aCodeFieldTakesDigitsAlone()
 {
     showTab("SIM");
     auto *field = control<CodeField>("puk2");
@@ -963,7 +963,7 @@ void PanelTest::aCodeFieldTakesDigitsAlone()
 
 // --- packet data
 
-void PanelTest::aSessionIsStartedAndStopped()
+void TestPanel::aSessionIsStartedAndStopped()
 {
     showTab("Data");
     QVERIFY(!button("Stop session")->isEnabled());
@@ -984,7 +984,7 @@ void PanelTest::aSessionIsStartedAndStopped()
     QCOMPARE(sessions.records[0].bytesReceived, quint32{20000});
 }
 
-void PanelTest::aRunningSessionGoesOnBySecond()
+void TestPanel::aRunningSessionGoesOnBySecond()
 {
     QCOMPARE(handset->packets().startSession("internet", 10, 30), 0);
     pass(61000);
@@ -993,7 +993,7 @@ void PanelTest::aRunningSessionGoesOnBySecond()
     QCOMPARE(label("packet total"), "00:01:01, 2440 B\n610 B sent, 1830 B received");
 }
 
-void PanelTest::slotsAndTotalsAreShown()
+void TestPanel::slotsAndTotalsAreShown()
 {
     QCOMPARE(label("session 1"), "empty");
     QCOMPARE(label("packet total"), "00:00:00, 0 B\n0 B sent, 0 B received");
@@ -1016,14 +1016,14 @@ void PanelTest::slotsAndTotalsAreShown()
     QCOMPARE(label("packet total"), "00:00:20, 0 B\n0 B sent, 0 B received");
 }
 
-void PanelTest::anAccessPointNameThatIsNoneIsTold_data()
+void TestPanel::anAccessPointNameThatIsNoneIsTold_data()
 {
     QTest::addColumn<QString>("name");
     QTest::newRow("empty") << "";
     QTest::newRow("a character beyond Latin-1") << QString::fromUtf8("caf\xc3\xa9\xe2\x82\xac");
 }
 
-void PanelTest::anAccessPointNameThatIsNoneIsTold()
+void TestPanel::anAccessPointNameThatIsNoneIsTold()
 {
     QFETCH(QString, name);
     showTab("Data");
@@ -1037,7 +1037,7 @@ void PanelTest::anAccessPointNameThatIsNoneIsTold()
     QVERIFY(handset->packets().isSessionRunning());
 }
 
-void PanelTest::anUpdateIsSentByHand()
+void TestPanel::anUpdateIsSentByHand()
 {
     QVERIFY(window->openScreen(3));
     auto *list = qobject_cast<ZListBox *>(ZApplication::keyTarget());
@@ -1052,7 +1052,7 @@ void PanelTest::anUpdateIsSentByHand()
 
 // --- failures
 
-void PanelTest::operationsFailAndWorkAgain()
+void TestPanel::operationsFailAndWorkAgain()
 {
     showTab("Failures");
     Faults &faults = installed->faults();
@@ -1085,7 +1085,7 @@ void PanelTest::operationsFailAndWorkAgain()
     QVERIFY(!button("Remove all")->isEnabled());
 }
 
-void PanelTest::aFailureIsSeenOnThePhone()
+void TestPanel::aFailureIsSeenOnThePhone()
 {
     click("Add a ready-made history");
     showTab("Failures");
@@ -1100,7 +1100,7 @@ void PanelTest::aFailureIsSeenOnThePhone()
     QCOMPARE(label("figure Last call"), "00:04:26"); // the panel asks the handset itself
 }
 
-void PanelTest::zeroIsNoCode()
+void TestPanel::zeroIsNoCode()
 {
     showTab("Failures");
     enter("failure code", "0");
@@ -1109,7 +1109,7 @@ void PanelTest::zeroIsNoCode()
     QVERIFY(button("Let it fail")->isEnabled());
 }
 
-void PanelTest::withoutFaultsThereIsNoPageForThem()
+void TestPanel::withoutFaultsThereIsNoPageForThem()
 {
     window = std::make_unique<PhoneWindow>(library, PhoneWindow::OpenedHandset{owner, {}, {}});
     window->complete();
@@ -1120,7 +1120,7 @@ void PanelTest::withoutFaultsThereIsNoPageForThem()
 
 // --- all of them
 
-void PanelTest::clicksLeaveTheFocusWithThePhone()
+void TestPanel::clicksLeaveTheFocusWithThePhone()
 {
     QWidget *phone = window->focusWidget();
     QVERIFY(qobject_cast<ZListBox *>(phone));
@@ -1145,7 +1145,7 @@ void PanelTest::clicksLeaveTheFocusWithThePhone()
         QVERIFY2(!(choice->focusPolicy() & Qt::ClickFocus), qPrintable(choice->objectName()));
 }
 
-void PanelTest::everyControlHasANameAndAReachableTabStop()
+void TestPanel::everyControlHasANameAndAReachableTabStop()
 {
     int controls = 0;
     const QList<QWidget *> widgets = window->findChild<Panel *>()->findChildren<QWidget *>();
@@ -1170,7 +1170,7 @@ void PanelTest::everyControlHasANameAndAReachableTabStop()
     QVERIFY(controls >= 35);
 }
 
-void PanelTest::keysTypedIntoFieldsStayThere_data()
+void TestPanel::keysTypedIntoFieldsStayThere_data()
 {
     QTest::addColumn<QByteArray>("tab");
     QTest::addColumn<QByteArray>("name");
@@ -1182,7 +1182,7 @@ void PanelTest::keysTypedIntoFieldsStayThere_data()
     QTest::newRow("code") << QByteArray("Failures") << QByteArray("failure code");
 }
 
-void PanelTest::keysTypedIntoFieldsStayThere()
+void TestPanel::keysTypedIntoFieldsStayThere()
 {
     QFETCH(QByteArray, tab);
     QFETCH(QByteArray, name);
@@ -1198,7 +1198,7 @@ void PanelTest::keysTypedIntoFieldsStayThere()
     QCOMPARE(title(), "Call Times");
 }
 
-void PanelTest::theWheelTurnsThePanelAndNoNumber()
+void TestPanel::theWheelTurnsThePanelAndNoNumber()
 {
     showTab("Charging");
     auto *units = control<QDoubleSpinBox>("tariff dialed units");
@@ -1213,14 +1213,14 @@ void PanelTest::theWheelTurnsThePanelAndNoNumber()
     QCOMPARE(type->currentIndex(), 0);
 }
 
-void PanelTest::nothingIsCutOffInANarrowPanel_data()
+void TestPanel::nothingIsCutOffInANarrowPanel_data()
 {
     QTest::addColumn<QByteArray>("tab");
     for (const char *tab : {"Calls", "Charging", "SIM", "Data", "Failures"})
         QTest::newRow(tab) << QByteArray(tab);
 }
 
-void PanelTest::nothingIsCutOffInANarrowPanel()
+void TestPanel::nothingIsCutOffInANarrowPanel()
 {
     QFETCH(QByteArray, tab);
     QCOMPARE(owner->adviceOfCharge()->setPriceAndCurrency("409500000", "WWW"), 0);
@@ -1252,7 +1252,7 @@ void PanelTest::nothingIsCutOffInANarrowPanel()
 }
 
 // All that the panel's pages say.
-QStringList PanelTest::texts() const
+QStringList TestPanel::texts() const
 {
     QStringList texts;
     const QList<QWidget *> widgets = window->findChild<Panel *>()->findChildren<QWidget *>();
@@ -1261,14 +1261,14 @@ QStringList PanelTest::texts() const
     return texts;
 }
 
-QString PanelTest::untranslated() const
+QString TestPanel::untranslated() const
 {
     QStringList found = texts();
     found.removeIf([](const QString &text) { return isTranslated(text); });
     return found.join(u'|');
 }
 
-void PanelTest::aCatalogueTranslatesAllThatThePanelSays()
+void TestPanel::aCatalogueTranslatesAllThatThePanelSays()
 {
     const MarkingCatalogue catalogue;
     openWindow(owner);
@@ -1288,7 +1288,7 @@ void PanelTest::aCatalogueTranslatesAllThatThePanelSays()
     QCOMPARE(untranslated(), QString());
 }
 
-void PanelTest::aCatalogueTranslatesWhatIsRefused()
+void TestPanel::aCatalogueTranslatesWhatIsRefused()
 {
     const MarkingCatalogue catalogue;
     openWindow(owner);
@@ -1303,7 +1303,7 @@ void PanelTest::aCatalogueTranslatesWhatIsRefused()
     QCOMPARE(untranslated(), QString());
 }
 
-void PanelTest::aCatalogueTranslatesTheLineAndTheEndOfCharging()
+void TestPanel::aCatalogueTranslatesTheLineAndTheEndOfCharging()
 {
     const MarkingCatalogue catalogue;
     openWindow(owner);
@@ -1331,7 +1331,7 @@ void PanelTest::aCatalogueTranslatesTheLineAndTheEndOfCharging()
     QTRY_VERIFY_WITH_TIMEOUT(isSaid("charge notice", "has ended the call: the credit is used up"), 60'000);
 }
 
-void PanelTest::aCatalogueTranslatesThatAnEndIsNotWritten()
+void TestPanel::aCatalogueTranslatesThatAnEndIsNotWritten()
 {
     const MarkingCatalogue catalogue;
     const QTemporaryDir state;
@@ -1346,7 +1346,7 @@ void PanelTest::aCatalogueTranslatesThatAnEndIsNotWritten()
     QCOMPARE(untranslated(), QString());
 }
 
-void PanelTest::aCatalogueTranslatesTheNamesOfTheKeys()
+void TestPanel::aCatalogueTranslatesTheNamesOfTheKeys()
 {
     const MarkingCatalogue catalogue;
     openWindow(owner);
@@ -1358,7 +1358,7 @@ void PanelTest::aCatalogueTranslatesTheNamesOfTheKeys()
     }
 }
 
-void PanelTest::anotherHandsetThanTheSimulatedHasNothingToSet()
+void TestPanel::anotherHandsetThanTheSimulatedHasNothingToSet()
 {
     openWindow(std::make_shared<BareHandset>());
     for (const char *name : {"tariff dialed units", "price", "top-up amount", "EF_ACM", "pin2 on", "pin2", "puk2"})
@@ -1368,5 +1368,5 @@ void PanelTest::anotherHandsetThanTheSimulatedHasNothingToSet()
     QCOMPARE(label("charge notice"), "");
 }
 
-KAV_TEST_GROUP(PanelTest, QApplication);
+KAV_TEST_GROUP(TestPanel, QApplication);
 #include "tst_panel.moc"

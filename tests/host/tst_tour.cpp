@@ -12,7 +12,7 @@
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
-class TourTest : public QObject
+class TestTour : public QObject
 {
     Q_OBJECT
 
@@ -59,7 +59,7 @@ private:
     QProcessEnvironment environment;
 };
 
-void TourTest::init()
+void TestTour::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     home = std::make_unique<QTemporaryDir>();
@@ -68,27 +68,27 @@ void TourTest::init()
     environment.remove("QT_QPA_PLATFORM"); // the tour sees to that itself
 }
 
-void TourTest::writeFile(const QString &name, const QByteArray &text) const
+void TestTour::writeFile(const QString &name, const QByteArray &text) const
 {
     QFile file(path(name));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write(text);
 }
 
-QStringList TourTest::recorded() const
+QStringList TestTour::recorded() const
 {
     QFile file(path("record"));
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)
                                           : QStringList();
 }
 
-HostResult TourTest::play(const QByteArray &script, const QStringList &more)
+HostResult TestTour::play(const QByteArray &script, const QStringList &more)
 {
     writeFile("a.tour", script);
     return runHost(QStringList{"--tour", path("tour"), "--script", path("a.tour")} + more, environment);
 }
 
-void TourTest::theShippedTourMeetsItsExpectations()
+void TestTour::theShippedTourMeetsItsExpectations()
 {
     const HostResult result = runHost({"--tour", path("tour")}, environment);
     QVERIFY2(result.code == 0, qPrintable(result.errors));
@@ -140,7 +140,7 @@ void TourTest::theShippedTourMeetsItsExpectations()
         QVERIFY2(photographs.contains(QString(name) + ".png"), name);
 }
 
-void TourTest::theShippedTourComesOutTheSameEveryTime()
+void TestTour::theShippedTourComesOutTheSameEveryTime()
 {
     const HostResult first = runHost({"--tour", path("tour")}, environment);
     environment.insert("TZ", "Pacific/Auckland");
@@ -156,7 +156,7 @@ void TourTest::theShippedTourComesOutTheSameEveryTime()
         QVERIFY2(photograph(name) == QImage(path("again/" + name)), qPrintable(name));
 }
 
-void TourTest::screensAndDialogsArePrintedAsText()
+void TestTour::screensAndDialogsArePrintedAsText()
 {
     const HostResult result = play("state empty\n"
                                    "call dialed voice 65s\n"
@@ -182,7 +182,7 @@ void TourTest::screensAndDialogsArePrintedAsText()
     QVERIFY2(result.output.contains(dialog), qPrintable(result.output));
 }
 
-void TourTest::whatIsMetIsPhotographedWithoutBeingAskedFor()
+void TestTour::whatIsMetIsPhotographedWithoutBeingAskedFor()
 {
     QCOMPARE(play("open callTime\npress down select right clear\n").code, 0);
     // The screen is met three times; coming back from the dialog the focus bar is elsewhere.
@@ -202,7 +202,7 @@ static int differences(const QImage &one, const QImage &other)
     return count;
 }
 
-void TourTest::aDialogWithoutAParentIsOnThePhotograph()
+void TestTour::aDialogWithoutAParentIsOnThePhotograph()
 {
     const HostResult result = play("dial 123 data\n"
                                    "open callTime\n"
@@ -219,7 +219,7 @@ void TourTest::aDialogWithoutAParentIsOnThePhotograph()
     QCOMPARE(photograph("with.png").pixel(120, 20), photograph("without.png").pixel(120, 20));
 }
 
-void TourTest::aFailedExpectationTellsItsLine_data()
+void TestTour::aFailedExpectationTellsItsLine_data()
 {
     QTest::addColumn<QByteArray>("expectation");
     QTest::addColumn<QString>("seen");
@@ -240,7 +240,7 @@ void TourTest::aFailedExpectationTellsItsLine_data()
     QTest::newRow("a trailing blank too many") << QByteArray("title \"Call Times \"") << "title Call Times";
 }
 
-void TourTest::aFailedExpectationTellsItsLine()
+void TestTour::aFailedExpectationTellsItsLine()
 {
     QFETCH(QByteArray, expectation);
     QFETCH(QString, seen);
@@ -252,7 +252,7 @@ void TourTest::aFailedExpectationTellsItsLine()
     QVERIFY2(result.output.contains("0 of 1 expectations met"), qPrintable(result.output));
 }
 
-void TourTest::theTourGoesOnAfterAFailedExpectation()
+void TestTour::theTourGoesOnAfterAFailedExpectation()
 {
     const HostResult result = play("expect title Nothing\n"
                                    "hangup\n"
@@ -266,7 +266,7 @@ void TourTest::theTourGoesOnAfterAFailedExpectation()
     QVERIFY(!photograph("last.png").isNull());
 }
 
-void TourTest::mistakesInTheScriptAreAllTold()
+void TestTour::mistakesInTheScriptAreAllTold()
 {
     const HostResult result = play("state empty\nfly away\npress sideways\nphoto ../outside\n");
     QCOMPARE(result.code, 6);
@@ -277,14 +277,14 @@ void TourTest::mistakesInTheScriptAreAllTold()
     QVERIFY(!QDir(path("tour")).exists());
 }
 
-void TourTest::aScriptThatCannotBeReadIsSaid_data()
+void TestTour::aScriptThatCannotBeReadIsSaid_data()
 {
     QTest::addColumn<QString>("script");
     QTest::newRow("there is none") << "/nowhere/a.tour";
     QTest::newRow("it is a directory") << QDir::tempPath();
 }
 
-void TourTest::aScriptThatCannotBeReadIsSaid()
+void TestTour::aScriptThatCannotBeReadIsSaid()
 {
     QFETCH(QString, script);
     const HostResult result = runHost({"--tour", path("tour"), "--script", script}, environment);
@@ -292,7 +292,7 @@ void TourTest::aScriptThatCannotBeReadIsSaid()
     QVERIFY2(result.errors.contains('"' + script + "\" cannot be read"), qPrintable(result.errors));
 }
 
-void TourTest::aDirectoryThatCannotBeMadeIsSaid()
+void TestTour::aDirectoryThatCannotBeMadeIsSaid()
 {
     writeFile("file", {});
     const HostResult result = runHost({"--tour", path("file/tour")}, environment);
@@ -301,7 +301,7 @@ void TourTest::aDirectoryThatCannotBeMadeIsSaid()
     QVERIFY2(result.errors.startsWith("kavrecentcalls: "), qPrintable(result.errors)); // no line of the script's
 }
 
-void TourTest::aTextThatCannotBeWrittenIsSaid()
+void TestTour::aTextThatCannotBeWrittenIsSaid()
 {
     const QFileInfo full("/dev/full");
     if (!full.exists() || full.isFile())
@@ -313,7 +313,7 @@ void TourTest::aTextThatCannotBeWrittenIsSaid()
     QCOMPARE(result.code, 7);
 }
 
-void TourTest::aPhotographThatCannotBeWrittenEndsTheTour()
+void TestTour::aPhotographThatCannotBeWrittenEndsTheTour()
 {
     QVERIFY(QDir().mkpath(path("tour/taken.png"))); // a directory in its place
     const HostResult result = play("photo taken\nopen callTime\n");
@@ -323,7 +323,7 @@ void TourTest::aPhotographThatCannotBeWrittenEndsTheTour()
     QVERIFY(!result.output.contains("open callTime"));
 }
 
-void TourTest::theTourTouchesNoStateThatIsNotNamed()
+void TestTour::theTourTouchesNoStateThatIsNotNamed()
 {
     QCOMPARE(play("state ready-made\ncall dialed voice 1s\nstate empty\nopen callTime\nexpect row 4 All Calls | "
                   "00:00:00\n")
@@ -332,7 +332,7 @@ void TourTest::theTourTouchesNoStateThatIsNotNamed()
     QVERIFY(!QDir(path("data")).exists());
 }
 
-void TourTest::aKeptStateNeedsItsDirectory()
+void TestTour::aKeptStateNeedsItsDirectory()
 {
     for (const QStringList &more : {QStringList{}, QStringList{"--state", "none"}}) {
         const HostResult result = play("call dialed voice 65s\nstate kept\n", more);
@@ -343,7 +343,7 @@ void TourTest::aKeptStateNeedsItsDirectory()
     }
 }
 
-void TourTest::aKeptStateIsThereAtTheNextStart()
+void TestTour::aKeptStateIsThereAtTheNextStart()
 {
     const QStringList kept{"--state", path("state")};
     QCOMPARE(play("state kept\ncall answered voice 2m5s\ncall dialed data 1h\n", kept).code, 0);
@@ -364,7 +364,7 @@ void TourTest::aKeptStateIsThereAtTheNextStart()
     QVERIFY2(next.code == 0, qPrintable(next.errors));
 }
 
-void TourTest::anUnusableKeptStateIsSaid()
+void TestTour::anUnusableKeptStateIsSaid()
 {
     writeFile("file", {});
     const HostResult result = play("\nstate kept\n", {"--state", path("file/state")});
@@ -373,13 +373,13 @@ void TourTest::anUnusableKeptStateIsSaid()
     QVERIFY2(result.errors.contains(path("file/state")), qPrintable(result.errors));
 }
 
-void TourTest::tracesAreDroppedUnlessAskedFor()
+void TestTour::tracesAreDroppedUnlessAskedFor()
 {
     QVERIFY(!play("open callTime\n").output.contains("utility/"));
     QVERIFY(play("open callTime\n", {"--trace", "-"}).output.contains("utility/PHONE_UI_RecentCallMeter"));
 }
 
-void TourTest::callsAreChargedAsTheScriptSays()
+void TestTour::callsAreChargedAsTheScriptSays()
 {
     const HostResult result = play("price 0.23 EUR\n"
                                    "chargetype currency\n"
@@ -404,7 +404,7 @@ void TourTest::callsAreChargedAsTheScriptSays()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::theClockEndsACallThatReachesItsLimit()
+void TestTour::theClockEndsACallThatReachesItsLimit()
 {
     const HostResult result = play("limit 3\n"
                                    "dial 5550123\n"
@@ -422,7 +422,7 @@ void TourTest::theClockEndsACallThatReachesItsLimit()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::whatTheHandsetRefusesIsTold_data()
+void TestTour::whatTheHandsetRefusesIsTold_data()
 {
     QTest::addColumn<QByteArray>("script");
     QTest::addColumn<int>("status");
@@ -435,7 +435,7 @@ void TourTest::whatTheHandsetRefusesIsTold_data()
     QTest::newRow("the end of no session") << QByteArray("\nsession stop\n") << 4;
 }
 
-void TourTest::whatTheHandsetRefusesIsTold()
+void TestTour::whatTheHandsetRefusesIsTold()
 {
     QFETCH(QByteArray, script);
     QFETCH(int, status);
@@ -446,7 +446,7 @@ void TourTest::whatTheHandsetRefusesIsTold()
              qPrintable(result.errors));
 }
 
-void TourTest::aTextIsTypedIntoAnEntryField()
+void TestTour::aTextIsTypedIntoAnEntryField()
 {
     const HostResult result = play("limit 5\n"
                                    "open callCost\n"
@@ -458,7 +458,7 @@ void TourTest::aTextIsTypedIntoAnEntryField()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::rulesAndPin2GuardTheSetup()
+void TestTour::rulesAndPin2GuardTheSetup()
 {
     const HostResult result = play("rule acmmax pin2\n"
                                    "rule acm never\n"
@@ -488,7 +488,7 @@ void TourTest::rulesAndPin2GuardTheSetup()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::operationsFailUntilTheyWorkAgain()
+void TestTour::operationsFailUntilTheyWorkAgain()
 {
     const HostResult result = play("call dialed voice 65s\n"
                                    "fail CallLog::lastCallTime 3\n"
@@ -512,7 +512,7 @@ void TourTest::operationsFailUntilTheyWorkAgain()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::aSessionCountsAndABroadcastIsHeard()
+void TestTour::aSessionCountsAndABroadcastIsHeard()
 {
     const HostResult result = play("open dataVolume\n"
                                    "expect row 1 GPRS Data Session 1\n"
@@ -531,7 +531,7 @@ void TourTest::aSessionCountsAndABroadcastIsHeard()
     QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
-void TourTest::aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps()
+void TestTour::aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps()
 {
     environment.insert("KAV_RECORD", path("record"));
     const HostResult result = play("open callTime\n"
@@ -562,7 +562,7 @@ void TourTest::aDialogThatBlocksItsScreenIsAnsweredByTheNextSteps()
     QCOMPARE(recorded(), expected);
 }
 
-void TourTest::aDialogThatBlocksGivesUpBeforeItsScreenGoes()
+void TestTour::aDialogThatBlocksGivesUpBeforeItsScreenGoes()
 {
     environment.insert("KAV_RECORD", path("record"));
     const HostResult result = play("open callTime\n"
@@ -582,5 +582,5 @@ void TourTest::aDialogThatBlocksGivesUpBeforeItsScreenGoes()
     QCOMPARE(calls, once + once + once);
 }
 
-KAV_TEST_GROUP(TourTest, QCoreApplication);
+KAV_TEST_GROUP(TestTour, QCoreApplication);
 #include "tst_tour.moc"

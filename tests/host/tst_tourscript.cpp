@@ -9,7 +9,7 @@
 
 using namespace host::tour;
 
-class TourScriptTest : public QObject
+class TestTourScript : public QObject
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ static T onlyAction(const QString &line)
     return std::get<T>(script.steps[0].action);
 }
 
-void TourScriptTest::commentsAndBlankLinesAreSkippedAndLinesCounted()
+void TestTourScript::commentsAndBlankLinesAreSkippedAndLinesCounted()
 {
     const Script script = parseScript("a.tour", "# first\r\n\r\n  state empty  \r\n\t# third\n\tshow\n");
     QCOMPARE(script.mistakes, QStringList());
@@ -59,7 +59,7 @@ void TourScriptTest::commentsAndBlankLinesAreSkippedAndLinesCounted()
     QCOMPARE(script.place(5), "a.tour:5");
 }
 
-void TourScriptTest::durations_data()
+void TestTourScript::durations_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<qint64>("ms");
@@ -80,14 +80,14 @@ void TourScriptTest::durations_data()
     QTest::newRow("something behind") << "5s!" << qint64{-1};
 }
 
-void TourScriptTest::durations()
+void TestTourScript::durations()
 {
     QFETCH(QString, text);
     QFETCH(qint64, ms);
     QCOMPARE(parseDuration(text), ms);
 }
 
-void TourScriptTest::keys_data()
+void TestTourScript::keys_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QList<Key>>("keys");
@@ -116,14 +116,14 @@ void TourScriptTest::keys_data()
         << QString::fromUtf8("press \"\xc3\xa4\"") << QList<Key>{{Qt::Key_Adiaeresis, QString(QChar(0xe4))}};
 }
 
-void TourScriptTest::keys()
+void TestTourScript::keys()
 {
     QFETCH(QString, line);
     QFETCH(QList<Key>, keys);
     QCOMPARE(onlyAction<Press>(line).keys, keys);
 }
 
-void TourScriptTest::calls()
+void TestTourScript::calls()
 {
     const auto call = onlyAction<MakeCall>("call answered voice 1m5s +4930555010");
     QCOMPARE(call.direction, handset::CallDirection::Answered);
@@ -137,7 +137,7 @@ void TourScriptTest::calls()
     QCOMPARE(onlyAction<MoveClock>("clock +65s").ms, qint64{65000});
 }
 
-void TourScriptTest::tariffs_data()
+void TestTourScript::tariffs_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<bool>("isDialed");
@@ -150,7 +150,7 @@ void TourScriptTest::tariffs_data()
                                   << QList<int>{8191, 8191, 8191};
 }
 
-void TourScriptTest::tariffs()
+void TestTourScript::tariffs()
 {
     QFETCH(QString, line);
     QFETCH(bool, isDialed);
@@ -164,7 +164,7 @@ void TourScriptTest::tariffs()
     QCOMPARE(set.tariff, expected);
 }
 
-void TourScriptTest::chargingAndTheSimCard()
+void TestTourScript::chargingAndTheSimCard()
 {
     const auto topUp = onlyAction<TopUp>("topup 20.00 2007-03-09");
     QCOMPARE(topUp.amount, "20.00");
@@ -187,7 +187,7 @@ void TourScriptTest::chargingAndTheSimCard()
     QCOMPARE(onlyAction<SetPin2>("pin2 forgotten").kind, SetPin2::Forgotten);
 }
 
-void TourScriptTest::failuresAndPacketData()
+void TestTourScript::failuresAndPacketData()
 {
     const auto fail = onlyAction<Fail>("fail AdviceOfCharge::meterMaximum -3");
     QCOMPARE(fail.operation, handset::operationIndex("AdviceOfCharge::meterMaximum"));
@@ -203,7 +203,7 @@ void TourScriptTest::failuresAndPacketData()
     onlyAction<Broadcast>("broadcast");
 }
 
-void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem_data()
+void TestTourScript::expectedTextsAreReadAsThePhoneShowsThem_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("word");
@@ -235,7 +235,7 @@ void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem_data()
                                     << "disabled" << 5 << QStringList{};
 }
 
-void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem()
+void TestTourScript::expectedTextsAreReadAsThePhoneShowsThem()
 {
     QFETCH(QString, line);
     QFETCH(QString, word);
@@ -248,7 +248,7 @@ void TourScriptTest::expectedTextsAreReadAsThePhoneShowsThem()
     QVERIFY(!expect.absent);
 }
 
-void TourScriptTest::whatIsPrintedCanBeExpected_data()
+void TestTourScript::whatIsPrintedCanBeExpected_data()
 {
     QTest::addColumn<QStringList>("cells");
     QTest::newRow("plain") << QStringList{"Dialed Calls", "00:01:05"};
@@ -263,14 +263,14 @@ void TourScriptTest::whatIsPrintedCanBeExpected_data()
                                                                            "che")};
 }
 
-void TourScriptTest::whatIsPrintedCanBeExpected()
+void TestTourScript::whatIsPrintedCanBeExpected()
 {
     QFETCH(QStringList, cells);
     const Fact fact{"row", 3, cells};
     QCOMPARE(onlyAction<Expect>("expect " + fact.line()).fact, fact);
 }
 
-void TourScriptTest::mistakes_data()
+void TestTourScript::mistakes_data()
 {
     QTest::addColumn<QString>("line");
     QTest::newRow("an unknown word") << "fly";
@@ -343,7 +343,7 @@ void TourScriptTest::mistakes_data()
     QTest::newRow("a hidden photograph") << "photo .x";
 }
 
-void TourScriptTest::aMistakeInALineOfMegabytesIsShort_data()
+void TestTourScript::aMistakeInALineOfMegabytesIsShort_data()
 {
     QTest::addColumn<QString>("line");
     const QString much(4'000'000, u'x');
@@ -353,7 +353,7 @@ void TourScriptTest::aMistakeInALineOfMegabytesIsShort_data()
     QTest::newRow("an unknown operation") << "fail " + much + " 3";
 }
 
-void TourScriptTest::aMistakeInALineOfMegabytesIsShort()
+void TestTourScript::aMistakeInALineOfMegabytesIsShort()
 {
     QFETCH(QString, line);
     const Script script = parseScript(QStringLiteral("a.tour"), line);
@@ -362,7 +362,7 @@ void TourScriptTest::aMistakeInALineOfMegabytesIsShort()
     QVERIFY(script.mistakes[0].contains(" ... "));
 }
 
-void TourScriptTest::mistakes()
+void TestTourScript::mistakes()
 {
     QFETCH(QString, line);
     const Script script = parseScript("a.tour", "show\n" + line + "\nshow\n");
@@ -371,5 +371,5 @@ void TourScriptTest::mistakes()
     QCOMPARE(script.steps.size(), 2);
 }
 
-KAV_TEST_GROUP(TourScriptTest, QCoreApplication);
+KAV_TEST_GROUP(TestTourScript, QCoreApplication);
 #include "tst_tourscript.moc"

@@ -51,7 +51,7 @@ public:
 
 } // namespace
 
-class WindowTest : public QObject
+class TestWindow : public QObject
 {
     Q_OBJECT
 
@@ -114,13 +114,13 @@ private:
     std::unique_ptr<PhoneWindow> window;
 };
 
-void WindowTest::initTestCase()
+void TestWindow::initTestCase()
 {
     const QString problem = library.load("libkavcallmeter.so.1");
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
 }
 
-void WindowTest::init()
+void TestWindow::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
     clock = std::make_shared<handset::ManualClock>(1000000);
@@ -132,14 +132,14 @@ void WindowTest::init()
     openWindow(owner);
 }
 
-void WindowTest::cleanup()
+void TestWindow::cleanup()
 {
     window.reset();
     handset::install(nullptr);
     owner.reset();
 }
 
-void WindowTest::openWindow(const std::shared_ptr<handset::Handset> &behind, const QString &directory,
+void TestWindow::openWindow(const std::shared_ptr<handset::Handset> &behind, const QString &directory,
                             const QString &notice)
 {
     window.reset();
@@ -149,13 +149,13 @@ void WindowTest::openWindow(const std::shared_ptr<handset::Handset> &behind, con
 }
 
 // Qt's offscreen platform warns of every window that has a least size.
-void WindowTest::expectSizeHintWarning()
+void TestWindow::expectSizeHintWarning()
 {
     if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
         QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
 }
 
-void WindowTest::showWindow()
+void TestWindow::showWindow()
 {
     expectSizeHintWarning();
     window->show();
@@ -163,7 +163,7 @@ void WindowTest::showWindow()
     window->complete();
 }
 
-QPushButton *WindowTest::button(const char *text) const
+QPushButton *TestWindow::button(const char *text) const
 {
     const QList<QPushButton *> buttons = window->findChildren<QPushButton *>();
     for (QPushButton *candidate : buttons) {
@@ -173,7 +173,7 @@ QPushButton *WindowTest::button(const char *text) const
     qFatal("there is no button \"%s\"", text);
 }
 
-QStringList WindowTest::enabledButtons() const
+QStringList TestWindow::enabledButtons() const
 {
     QStringList texts;
     for (const char *text :
@@ -185,7 +185,7 @@ QStringList WindowTest::enabledButtons() const
 }
 
 // Of the screen that has the keys.
-QString WindowTest::title() const
+QString TestWindow::title() const
 {
     QWidget *widget = ZApplication::keyTarget();
     while (widget && !qobject_cast<ZKbMainWidget *>(widget))
@@ -223,7 +223,7 @@ private:
 
 } // namespace
 
-void WindowTest::thePhoneIsPaintedBeforeTheHandsetIsOpenedAndThePanelMade()
+void TestWindow::thePhoneIsPaintedBeforeTheHandsetIsOpenedAndThePanelMade()
 {
     QStringList paintedBefore;
     const PaintWatch *watching = nullptr;
@@ -243,7 +243,7 @@ void WindowTest::thePhoneIsPaintedBeforeTheHandsetIsOpenedAndThePanelMade()
     QVERIFY(button("Dial")->isVisible());
 }
 
-void WindowTest::aScreenThatIsOpenedBeforeThatWaitsForTheHandset()
+void TestWindow::aScreenThatIsOpenedBeforeThatWaitsForTheHandset()
 {
     int opened = 0;
     window = std::make_unique<PhoneWindow>(library, [&] {
@@ -257,7 +257,7 @@ void WindowTest::aScreenThatIsOpenedBeforeThatWaitsForTheHandset()
     QCOMPARE(opened, 1);
 }
 
-void WindowTest::aHandsetThatCannotBeOpenedClosesTheWindow()
+void TestWindow::aHandsetThatCannotBeOpenedClosesTheWindow()
 {
     int tried = 0;
     window = std::make_unique<PhoneWindow>(library, [&]() -> std::optional<PhoneWindow::OpenedHandset> {
@@ -273,7 +273,7 @@ void WindowTest::aHandsetThatCannotBeOpenedClosesTheWindow()
 }
 
 // One that opens a handset that has been opened long before.
-void WindowTest::makeWindow(std::function<void()> whileOpening)
+void TestWindow::makeWindow(std::function<void()> whileOpening)
 {
     window = std::make_unique<PhoneWindow>(library, [this, whileOpening] {
         whileOpening();
@@ -282,14 +282,14 @@ void WindowTest::makeWindow(std::function<void()> whileOpening)
 }
 
 // As a handset that is being opened does.
-void WindowTest::tellProgress(int percent)
+void TestWindow::tellProgress(int percent)
 {
     handset::Settings settings;
     window->listen(settings);
     settings.progress(QStringLiteral("Reading the damaged call log"), percent);
 }
 
-void WindowTest::howFarTheOpeningIsIsPaintedInThePanelsPlace()
+void TestWindow::howFarTheOpeningIsIsPaintedInThePanelsPlace()
 {
     QStringList shown;
     QSize duringOpening;
@@ -321,7 +321,7 @@ void WindowTest::howFarTheOpeningIsIsPaintedInThePanelsPlace()
     QVERIFY(button("Dial")->isVisible());
 }
 
-void WindowTest::anEventInALongOpeningDoesNotBeginAnother()
+void TestWindow::anEventInALongOpeningDoesNotBeginAnother()
 {
     int opened = 0;
     QList<bool> screenCame;
@@ -339,7 +339,7 @@ void WindowTest::anEventInALongOpeningDoesNotBeginAnother()
 }
 
 // As by a signal that ends the program.
-void WindowTest::aWindowThatIsClosedInALongOpeningEndsWell()
+void TestWindow::aWindowThatIsClosedInALongOpeningEndsWell()
 {
     bool closed = false;
     makeWindow([&] {
@@ -355,7 +355,7 @@ void WindowTest::aWindowThatIsClosedInALongOpeningEndsWell()
     QVERIFY(!window->isVisible());
 }
 
-void WindowTest::aWindowThatIsNotPaintedYetShowsALongOpening()
+void TestWindow::aWindowThatIsNotPaintedYetShowsALongOpening()
 {
     bool isPainted = false;
     const PaintWatch *watching = nullptr;
@@ -372,7 +372,7 @@ void WindowTest::aWindowThatIsNotPaintedYetShowsALongOpening()
     QVERIFY(isPainted);
 }
 
-void WindowTest::whoListensAlreadyStillHearsTheHandset()
+void TestWindow::whoListensAlreadyStillHearsTheHandset()
 {
     QStringList heard;
     handset::Settings settings;
@@ -411,7 +411,7 @@ static void zeroAPage(const QString &fileName)
     QCOMPARE(file.write(QByteArray(pageSize, '\0')), pageSize);
 }
 
-void WindowTest::damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace()
+void TestWindow::damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace()
 {
     const QTemporaryDir state;
     makeDamagedLog(state.path());
@@ -447,13 +447,13 @@ void WindowTest::damageThatIsFoundBesideStandsInThePanelAndItsSalvageInItsPlace(
     window.reset();
 }
 
-void WindowTest::theMenuHasTheKeysAtTheStart()
+void TestWindow::theMenuHasTheKeysAtTheStart()
 {
     QCOMPARE(title(), "Recent Calls");
     QVERIFY(qobject_cast<ZListBox *>(window->focusWidget()));
 }
 
-void WindowTest::keypadKeysDriveTheScreensAndLeaveTheFocus()
+void TestWindow::keypadKeysDriveTheScreensAndLeaveTheFocus()
 {
     window->findChild<QLineEdit *>()->setFocus();
     clickKey("Select");
@@ -477,7 +477,7 @@ void WindowTest::keypadKeysDriveTheScreensAndLeaveTheFocus()
         QCOMPARE(key->focusPolicy(), Qt::NoFocus);
 }
 
-void WindowTest::theDesktopKeyboardDrivesTheScreens()
+void TestWindow::theDesktopKeyboardDrivesTheScreens()
 {
     QTest::keyClick(window->windowHandle(), Qt::Key_Return);
     QCOMPARE(title(), "Call Times");
@@ -489,7 +489,7 @@ void WindowTest::theDesktopKeyboardDrivesTheScreens()
     QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
 }
 
-void WindowTest::softkeysWorkWhileThePanelHasTheFocus()
+void TestWindow::softkeysWorkWhileThePanelHasTheFocus()
 {
     QWidget *dial = button("Dial");
     dial->setFocus();
@@ -500,7 +500,7 @@ void WindowTest::softkeysWorkWhileThePanelHasTheFocus()
     QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
 }
 
-void WindowTest::theMenuHasTheKeysAgainAfterAScreen()
+void TestWindow::theMenuHasTheKeysAgainAfterAScreen()
 {
     QVERIFY(window->openScreen(0));
     clickKey("Clear");
@@ -509,7 +509,7 @@ void WindowTest::theMenuHasTheKeysAgainAfterAScreen()
     QCOMPARE(window->focusWidget(), ZApplication::keyTarget());
 }
 
-void WindowTest::exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot()
+void TestWindow::exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot()
 {
     clickKey("Clear");
     QCoreApplication::processEvents();
@@ -518,7 +518,7 @@ void WindowTest::exitOnTheMenuClosesTheWindowAndTheClearKeyDoesNot()
     QTRY_VERIFY_WITH_TIMEOUT(!window->isVisible(), patienceMs);
 }
 
-void WindowTest::theEndOfTheWindowGivesTheScreenBack()
+void TestWindow::theEndOfTheWindowGivesTheScreenBack()
 {
     QVERIFY(window->openScreen(0));
     const QPointer<QWidget> screen = window->findChild<ZKbMainWidget *>("callTime");
@@ -529,7 +529,7 @@ void WindowTest::theEndOfTheWindowGivesTheScreenBack()
     QVERIFY(!screen);
 }
 
-void WindowTest::aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst()
+void TestWindow::aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst()
 {
     const QString plugin = QStringLiteral(KAV_DOUBLES "/librecording.so");
     ScreenLibrary recording;
@@ -549,7 +549,7 @@ void WindowTest::aWindowClosedOverADialogThatBlocksLetsTheScreenGoOnFirst()
     QCOMPARE(calls, (QStringList{"ask", "given up", "destroy callTime", "deleted"}));
 }
 
-void WindowTest::buttonsAreEnabledAsTheLinePermits()
+void TestWindow::buttonsAreEnabledAsTheLinePermits()
 {
     const QStringList idle{"Dial", "Dial data call", "Incoming call"};
     QCOMPARE(enabledButtons(), idle);
@@ -574,7 +574,7 @@ void WindowTest::buttonsAreEnabledAsTheLinePermits()
     QCOMPARE(label("line state"), "Idle");
 }
 
-void WindowTest::aWithheldNumberCanRing()
+void TestWindow::aWithheldNumberCanRing()
 {
     window->findChild<QLineEdit *>()->clear();
     QCOMPARE(enabledButtons(), QStringList{"Incoming call"});
@@ -582,7 +582,7 @@ void WindowTest::aWithheldNumberCanRing()
     QCOMPARE(label("line state"), "Ringing, voice call, number withheld");
 }
 
-void WindowTest::theColouredKeysAnswerDialAndHangUp()
+void TestWindow::theColouredKeysAnswerDialAndHangUp()
 {
     clickKey("Call");
     QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Dialing);
@@ -599,7 +599,7 @@ void WindowTest::theColouredKeysAnswerDialAndHangUp()
     QCOMPARE(label("line failure"), "");
 }
 
-void WindowTest::digitsOfTheKeypadMakeUpTheNumber()
+void TestWindow::digitsOfTheKeypadMakeUpTheNumber()
 {
     for (const char *key : {"Star", "1", "0", "0", "Hash"})
         clickKey(key);
@@ -632,7 +632,7 @@ void WindowTest::digitsOfTheKeypadMakeUpTheNumber()
     QCOMPARE(window->findChild<QLineEdit *>()->text(), "9");
 }
 
-void WindowTest::theRunningTimeAndTheFiguresGoOnBySecond()
+void TestWindow::theRunningTimeAndTheFiguresGoOnBySecond()
 {
     click("Incoming call");
     click("Answer");
@@ -651,7 +651,7 @@ void WindowTest::theRunningTimeAndTheFiguresGoOnBySecond()
     QCOMPARE(label("figure All calls"), "01:01:10");
 }
 
-void WindowTest::theReadyMadeHistoryIsAdded()
+void TestWindow::theReadyMadeHistoryIsAdded()
 {
     click("Add a ready-made history");
     QCOMPARE(label("figure Last call"), "00:04:26");
@@ -663,7 +663,7 @@ void WindowTest::theReadyMadeHistoryIsAdded()
     QCOMPARE(list->item(4)->value(), "06:10:38");
 }
 
-void WindowTest::aRefusedOperationIsToldAndForgotten()
+void TestWindow::aRefusedOperationIsToldAndForgotten()
 {
     auto *line = window->findChild<QLineEdit *>();
     // What the validator lets nobody type.
@@ -678,7 +678,7 @@ void WindowTest::aRefusedOperationIsToldAndForgotten()
     QVERIFY(!window->findChild<QLabel *>("line failure")->isVisible());
 }
 
-void WindowTest::stateDirectoryAndNoticeAreShown()
+void TestWindow::stateDirectoryAndNoticeAreShown()
 {
     QCOMPARE(label("state directory"), "In memory; gone when the window closes.");
     QVERIFY(!window->findChild<QLabel *>("notice"));
@@ -688,7 +688,7 @@ void WindowTest::stateDirectoryAndNoticeAreShown()
     QCOMPARE(label("notice"), "The old file is kept aside.");
 }
 
-void WindowTest::anotherHandsetThanTheSimulatedIsSaid()
+void TestWindow::anotherHandsetThanTheSimulatedIsSaid()
 {
     openWindow(std::make_shared<BareHandset>());
     QCOMPARE(label("line state"), "This telephone cannot be driven from here.");
@@ -703,7 +703,7 @@ void WindowTest::anotherHandsetThanTheSimulatedIsSaid()
     QCOMPARE(title(), "Call Times");
 }
 
-void WindowTest::everyControlHasANameAndATabStop()
+void TestWindow::everyControlHasANameAndATabStop()
 {
     const QList<QAbstractButton *> buttons = window->findChildren<QAbstractButton *>();
     for (const QAbstractButton *control : buttons) {
@@ -744,7 +744,7 @@ static PhoneKey *keyUnder(const QWidget &window, int x)
     return std::abs(globalCentre(left) - x) < std::abs(globalCentre(right) - x) ? left : right;
 }
 
-void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft_data()
+void TestWindow::theKeyUnderACaptionAnswersItAlsoRightToLeft_data()
 {
     QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<QString>("caption");
@@ -755,7 +755,7 @@ void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft_data()
     QTest::newRow("right to left, Yes resets it") << Qt::RightToLeft << "Yes" << 0U;
 }
 
-void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft()
+void TestWindow::theKeyUnderACaptionAnswersItAlsoRightToLeft()
 {
     QFETCH(Qt::LayoutDirection, direction);
     QFETCH(QString, caption);
@@ -779,7 +779,7 @@ void WindowTest::theKeyUnderACaptionAnswersItAlsoRightToLeft()
     QCOMPARE(time, handset::CallTime::fromSeconds(secondsAfterwards));
 }
 
-void WindowTest::theKeypadLooksTheSameRightToLeft()
+void TestWindow::theKeypadLooksTheSameRightToLeft()
 {
     const QImage direct = window->findChild<Keypad *>()->grab().toImage();
     const auto back = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LeftToRight); });
@@ -788,5 +788,5 @@ void WindowTest::theKeypadLooksTheSameRightToLeft()
     QCOMPARE(window->findChild<Keypad *>()->grab().toImage(), direct);
 }
 
-KAV_TEST_GROUP(WindowTest, QApplication);
+KAV_TEST_GROUP(TestWindow, QApplication);
 #include "tst_window.moc"

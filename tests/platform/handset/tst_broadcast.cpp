@@ -4,8 +4,8 @@
 #include "handset/HandsetTestKit.h"
 #include "handset/PacketData.h"
 #include "handset/Status.h"
-#include "qcop/PrivateBus.h"
 #include "qt/QCopChannel.h"
+#include "qt/qcop/PrivateBus.h"
 #include "qt/qcop/QCopBus.h"
 #include "support/TestGroup.h"
 

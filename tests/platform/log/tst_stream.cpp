@@ -41,7 +41,7 @@ qsizetype openFiles()
 
 } // namespace
 
-class StreamTest : public QObject
+class TestStream : public QObject
 {
     Q_OBJECT
 
@@ -49,32 +49,32 @@ private slots:
     void init();
     void cleanup();
 
-    void nobody_gave_it_a_place_at_the_start();
-    void a_file_is_made_for_its_owner_only_and_appended_to();
-    void a_finished_line_is_in_the_file_at_once();
-    void a_name_outside_ascii_is_taken_as_it_is();
-    void opening_another_place_closes_the_file_before();
-    void a_place_that_cannot_be_had_leaves_the_stream_as_it_was_data();
-    void a_place_that_cannot_be_had_leaves_the_stream_as_it_was();
-    void a_dash_is_standard_output_and_is_never_closed();
-    void a_stream_that_someone_else_set_is_never_closed();
-    void closing_twice_is_harmless();
-    void the_file_is_not_handed_to_child_processes();
-    void a_thousand_openings_leave_no_file_open();
-    void a_symbolic_link_is_no_place_for_traces();
-    void a_fifo_that_nobody_reads_is_an_error_and_no_endless_wait();
-    void a_fifo_whose_reader_falls_behind_holds_nobody_up();
-    void a_file_that_others_could_read_is_the_owners_afterwards();
-    void a_file_of_another_user_is_not_written_to();
-    void a_file_grows_to_its_limit_and_begins_anew();
-    void only_one_old_file_is_kept();
-    void a_line_is_not_torn_where_the_file_begins_anew();
-    void a_file_that_was_full_when_it_was_opened_begins_anew();
-    void more_at_once_than_a_file_holds_is_spread();
-    void the_file_begins_anew_in_its_place_wherever_the_program_went();
-    void where_no_old_file_can_be_kept_the_limit_holds();
-    void a_file_that_another_program_put_aside_is_left_to_it();
-    void what_a_full_disk_did_not_take_is_lost_and_the_rest_is_not();
+    void nobodyGaveItAPlaceAtTheStart();
+    void aFileIsMadeForItsOwnerOnlyAndAppendedTo();
+    void aFinishedLineIsInTheFileAtOnce();
+    void aNameOutsideAsciiIsTakenAsItIs();
+    void openingAnotherPlaceClosesTheFileBefore();
+    void aPlaceThatCannotBeHadLeavesTheStreamAsItWas_data();
+    void aPlaceThatCannotBeHadLeavesTheStreamAsItWas();
+    void aDashIsStandardOutputAndIsNeverClosed();
+    void aStreamThatSomeoneElseSetIsNeverClosed();
+    void closingTwiceIsHarmless();
+    void theFileIsNotHandedToChildProcesses();
+    void aThousandOpeningsLeaveNoFileOpen();
+    void aSymbolicLinkIsNoPlaceForTraces();
+    void aFifoThatNobodyReadsIsAnErrorAndNoEndlessWait();
+    void aFifoWhoseReaderFallsBehindHoldsNobodyUp();
+    void aFileThatOthersCouldReadIsTheOwnersAfterwards();
+    void aFileOfAnotherUserIsNotWrittenTo();
+    void aFileGrowsToItsLimitAndBeginsAnew();
+    void onlyOneOldFileIsKept();
+    void aLineIsNotTornWhereTheFileBeginsAnew();
+    void aFileThatWasFullWhenItWasOpenedBeginsAnew();
+    void moreAtOnceThanAFileHoldsIsSpread();
+    void theFileBeginsAnewInItsPlaceWhereverTheProgramWent();
+    void whereNoOldFileCanBeKeptTheLimitHolds();
+    void aFileThatAnotherProgramPutAsideIsLeftToIt();
+    void whatAFullDiskDidNotTakeIsLostAndTheRestIsNot();
 
 private:
     // Of `bytes` altogether, in lines of 64 with their numbers.
@@ -86,25 +86,25 @@ private:
     std::unique_ptr<QTemporaryDir> directory;
 };
 
-void StreamTest::init()
+void TestStream::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
     directory = std::make_unique<QTemporaryDir>();
     QVERIFY(directory->isValid());
 }
 
-void StreamTest::cleanup()
+void TestStream::cleanup()
 {
     libaplog_close();
     libaplog_to_module_ptr = nullptr;
 }
 
-void StreamTest::nobody_gave_it_a_place_at_the_start()
+void TestStream::nobodyGaveItAPlaceAtTheStart()
 {
     QVERIFY(!libaplog_to_module_ptr);
 }
 
-void StreamTest::a_file_is_made_for_its_owner_only_and_appended_to()
+void TestStream::aFileIsMadeForItsOwnerOnlyAndAppendedTo()
 {
     QCOMPARE(open("trace"), 0);
     write("one\n");
@@ -119,7 +119,7 @@ void StreamTest::a_file_is_made_for_its_owner_only_and_appended_to()
     QCOMPARE(static_cast<int>(status.st_mode & 0777), 0600);
 }
 
-void StreamTest::a_finished_line_is_in_the_file_at_once()
+void TestStream::aFinishedLineIsInTheFileAtOnce()
 {
     QCOMPARE(open("trace"), 0);
     write("finished\nunfinished");
@@ -128,7 +128,7 @@ void StreamTest::a_finished_line_is_in_the_file_at_once()
     QCOMPARE(contentsOf(path("trace")), QByteArray("finished\nunfinished"));
 }
 
-void StreamTest::a_name_outside_ascii_is_taken_as_it_is()
+void TestStream::aNameOutsideAsciiIsTakenAsItIs()
 {
     QCOMPARE(open("tra\xc3\xa7"
                   "age \xe2\x82\xac"),
@@ -139,7 +139,7 @@ void StreamTest::a_name_outside_ascii_is_taken_as_it_is()
              QByteArray("x\n"));
 }
 
-void StreamTest::opening_another_place_closes_the_file_before()
+void TestStream::openingAnotherPlaceClosesTheFileBefore()
 {
     QCOMPARE(open("first"), 0);
     write("unfinished");
@@ -151,7 +151,7 @@ void StreamTest::opening_another_place_closes_the_file_before()
     QCOMPARE(contentsOf(path("second")), QByteArray("x\n"));
 }
 
-void StreamTest::a_place_that_cannot_be_had_leaves_the_stream_as_it_was_data()
+void TestStream::aPlaceThatCannotBeHadLeavesTheStreamAsItWas_data()
 {
     QTest::addColumn<QByteArray>("place");
     QTest::addColumn<int>("error");
@@ -163,7 +163,7 @@ void StreamTest::a_place_that_cannot_be_had_leaves_the_stream_as_it_was_data()
     QTest::newRow("a name that is too long") << QByteArray("/") + QByteArray(5'000, 'x') << ENAMETOOLONG;
 }
 
-void StreamTest::a_place_that_cannot_be_had_leaves_the_stream_as_it_was()
+void TestStream::aPlaceThatCannotBeHadLeavesTheStreamAsItWas()
 {
     QFETCH(QByteArray, place);
     QFETCH(int, error);
@@ -177,7 +177,7 @@ void StreamTest::a_place_that_cannot_be_had_leaves_the_stream_as_it_was()
     QCOMPARE(contentsOf(path("trace")), QByteArray("still here\n"));
 }
 
-void StreamTest::a_dash_is_standard_output_and_is_never_closed()
+void TestStream::aDashIsStandardOutputAndIsNeverClosed()
 {
     QCOMPARE(libaplog_open("-"), 0);
     QCOMPARE(libaplog_to_module_ptr, stdout);
@@ -187,7 +187,7 @@ void StreamTest::a_dash_is_standard_output_and_is_never_closed()
     QVERIFY(std::fflush(stdout) == 0);
 }
 
-void StreamTest::a_stream_that_someone_else_set_is_never_closed()
+void TestStream::aStreamThatSomeoneElseSetIsNeverClosed()
 {
     FILE *other = std::tmpfile();
     QVERIFY(other);
@@ -200,7 +200,7 @@ void StreamTest::a_stream_that_someone_else_set_is_never_closed()
     QCOMPARE(std::fclose(other), 0);
 }
 
-void StreamTest::closing_twice_is_harmless()
+void TestStream::closingTwiceIsHarmless()
 {
     libaplog_close();
     QCOMPARE(open("trace"), 0);
@@ -209,7 +209,7 @@ void StreamTest::closing_twice_is_harmless()
     QVERIFY(!libaplog_to_module_ptr);
 }
 
-void StreamTest::the_file_is_not_handed_to_child_processes()
+void TestStream::theFileIsNotHandedToChildProcesses()
 {
     QCOMPARE(open("trace"), 0);
     QProcess child;
@@ -220,7 +220,7 @@ void StreamTest::the_file_is_not_handed_to_child_processes()
     QVERIFY2(!itsFiles.contains(directory->path().toUtf8()), itsFiles.constData());
 }
 
-void StreamTest::a_thousand_openings_leave_no_file_open()
+void TestStream::aThousandOpeningsLeaveNoFileOpen()
 {
     const qsizetype before = openFiles();
     for (int i = 0; i < 1'000; ++i)
@@ -229,26 +229,26 @@ void StreamTest::a_thousand_openings_leave_no_file_open()
     QCOMPARE(openFiles(), before);
 }
 
-void StreamTest::writeLines(int bytes)
+void TestStream::writeLines(int bytes)
 {
     for (int line = 0; line < bytes / 64; ++line)
         std::fprintf(libaplog_to_module_ptr, "%-63d\n", line);
 }
 
-void StreamTest::a_symbolic_link_is_no_place_for_traces()
+void TestStream::aSymbolicLinkIsNoPlaceForTraces()
 {
     QVERIFY(QFile::link(path("elsewhere"), path("link")));
     QCOMPARE(open("link"), ELOOP);
     QVERIFY(!QFile::exists(path("elsewhere")));
 }
 
-void StreamTest::a_fifo_that_nobody_reads_is_an_error_and_no_endless_wait()
+void TestStream::aFifoThatNobodyReadsIsAnErrorAndNoEndlessWait()
 {
     QCOMPARE(::mkfifo(path("fifo").toUtf8().constData(), 0600), 0);
     QCOMPARE(open("fifo"), ENXIO);
 }
 
-void StreamTest::a_fifo_whose_reader_falls_behind_holds_nobody_up()
+void TestStream::aFifoWhoseReaderFallsBehindHoldsNobodyUp()
 {
     QCOMPARE(::mkfifo(path("fifo").toUtf8().constData(), 0600), 0);
     const int reader = ::open(path("fifo").toUtf8().constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -262,7 +262,7 @@ void StreamTest::a_fifo_whose_reader_falls_behind_holds_nobody_up()
     ::close(reader);
 }
 
-void StreamTest::a_file_that_others_could_read_is_the_owners_afterwards()
+void TestStream::aFileThatOthersCouldReadIsTheOwnersAfterwards()
 {
     QFile file(path("trace"));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -274,7 +274,7 @@ void StreamTest::a_file_that_others_could_read_is_the_owners_afterwards()
     QCOMPARE(static_cast<int>(status.st_mode & 0777), 0600);
 }
 
-void StreamTest::a_file_of_another_user_is_not_written_to()
+void TestStream::aFileOfAnotherUserIsNotWrittenTo()
 {
     QFile file(path("trace"));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -284,7 +284,7 @@ void StreamTest::a_file_of_another_user_is_not_written_to()
     QCOMPARE(open("trace"), EPERM);
 }
 
-void StreamTest::a_file_grows_to_its_limit_and_begins_anew()
+void TestStream::aFileGrowsToItsLimitAndBeginsAnew()
 {
     QCOMPARE(open("trace"), 0);
     writeLines(libaplog_largest_file);
@@ -298,7 +298,7 @@ void StreamTest::a_file_grows_to_its_limit_and_begins_anew()
     QCOMPARE(static_cast<int>(status.st_mode & 0777), 0600);
 }
 
-void StreamTest::only_one_old_file_is_kept()
+void TestStream::onlyOneOldFileIsKept()
 {
     QCOMPARE(open("trace"), 0);
     const qsizetype files = openFiles();
@@ -310,7 +310,7 @@ void StreamTest::only_one_old_file_is_kept()
     QCOMPARE(openFiles(), files);
 }
 
-void StreamTest::a_line_is_not_torn_where_the_file_begins_anew()
+void TestStream::aLineIsNotTornWhereTheFileBeginsAnew()
 {
     QCOMPARE(open("trace"), 0);
     const QByteArray line = QByteArray(999, 'x') + '\n';
@@ -321,7 +321,7 @@ void StreamTest::a_line_is_not_torn_where_the_file_begins_anew()
     QVERIFY(sizeOf("trace.1") <= libaplog_largest_file);
 }
 
-void StreamTest::a_file_that_was_full_when_it_was_opened_begins_anew()
+void TestStream::aFileThatWasFullWhenItWasOpenedBeginsAnew()
 {
     QFile file(path("trace"));
     QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(3LL * libaplog_largest_file));
@@ -332,7 +332,7 @@ void StreamTest::a_file_that_was_full_when_it_was_opened_begins_anew()
     QCOMPARE(sizeOf("trace.1"), 3LL * libaplog_largest_file);
 }
 
-void StreamTest::more_at_once_than_a_file_holds_is_spread()
+void TestStream::moreAtOnceThanAFileHoldsIsSpread()
 {
     QCOMPARE(open("trace"), 0);
     const QByteArray flood(2 * libaplog_largest_file + 10, 'x');
@@ -343,7 +343,7 @@ void StreamTest::more_at_once_than_a_file_holds_is_spread()
     QCOMPARE(sizeOf("trace"), 10);
 }
 
-void StreamTest::the_file_begins_anew_in_its_place_wherever_the_program_went()
+void TestStream::theFileBeginsAnewInItsPlaceWhereverTheProgramWent()
 {
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(directory->path()));
@@ -355,7 +355,7 @@ void StreamTest::the_file_begins_anew_in_its_place_wherever_the_program_went()
     QCOMPARE(sizeOf("trace.1"), libaplog_largest_file);
 }
 
-void StreamTest::where_no_old_file_can_be_kept_the_limit_holds()
+void TestStream::whereNoOldFileCanBeKeptTheLimitHolds()
 {
     QVERIFY(QDir(directory->path()).mkpath(QStringLiteral("trace.1/taken")));
     QCOMPARE(open("trace"), 0);
@@ -364,7 +364,7 @@ void StreamTest::where_no_old_file_can_be_kept_the_limit_holds()
     QCOMPARE(contentsOf(path("trace")), QByteArray("next\n"));
 }
 
-void StreamTest::a_file_that_another_program_put_aside_is_left_to_it()
+void TestStream::aFileThatAnotherProgramPutAsideIsLeftToIt()
 {
     QCOMPARE(open("trace"), 0);
     writeLines(libaplog_largest_file);
@@ -378,7 +378,7 @@ void StreamTest::a_file_that_another_program_put_aside_is_left_to_it()
 }
 
 // A limit on the size of files takes the place of the disk's end; it answers EFBIG.
-void StreamTest::what_a_full_disk_did_not_take_is_lost_and_the_rest_is_not()
+void TestStream::whatAFullDiskDidNotTakeIsLostAndTheRestIsNot()
 {
     QCOMPARE(open("trace"), 0);
     write("first\n");
@@ -395,5 +395,5 @@ void StreamTest::what_a_full_disk_did_not_take_is_lost_and_the_rest_is_not()
     QCOMPARE(contentsOf(path("trace")), QByteArray("first\ncu\nwhole\n"));
 }
 
-KAV_TEST_GROUP(StreamTest, QCoreApplication);
+KAV_TEST_GROUP(TestStream, QCoreApplication);
 #include "tst_stream.moc"

@@ -31,18 +31,18 @@ class Silent : public Derived
 
 } // namespace
 
-class ClassNameTest : public QObject
+class TestClassName : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
-    void it_names_the_most_derived_class_through_a_base();
-    void a_class_without_the_macro_has_its_bases_name();
+    void itNamesTheMostDerivedClassThroughABase();
+    void aClassWithoutTheMacroHasItsBasesName();
 };
 
-void ClassNameTest::it_names_the_most_derived_class_through_a_base()
+void TestClassName::itNamesTheMostDerivedClassThroughABase()
 {
     const Derived derived;
     const Base &base = derived;
@@ -52,12 +52,12 @@ void ClassNameTest::it_names_the_most_derived_class_through_a_base()
     QCOMPARE(derived.number(), 0);
 }
 
-void ClassNameTest::a_class_without_the_macro_has_its_bases_name()
+void TestClassName::aClassWithoutTheMacroHasItsBasesName()
 {
     const Silent silent;
     QCOMPARE(QByteArray(silent.className()).split(':').last(), QByteArray("Derived"));
     QCOMPARE(QByteArray(silent.metaObject()->className()).split(':').last(), QByteArray("Silent"));
 }
 
-KAV_TEST_GROUP(ClassNameTest, QCoreApplication);
+KAV_TEST_GROUP(TestClassName, QCoreApplication);
 #include "tst_classname.moc"

@@ -27,31 +27,31 @@ public:
 
 } // namespace
 
-class TranslationTest : public QObject
+class TestTranslation : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void without_a_catalogue_the_english_default_is_shown_data();
-    void without_a_catalogue_the_english_default_is_shown();
-    void the_catalogue_is_asked_with_context_key_and_english_default();
-    void a_text_of_the_catalogue_is_shown_accents_and_all();
-    void the_last_installed_catalogue_that_knows_the_key_wins();
-    void a_removed_catalogue_is_asked_no_more();
-    void the_class_name_is_the_context();
-    void null_arguments_are_not_asked_for();
-    void a_catalogue_file_is_honoured_data();
-    void a_catalogue_file_is_honoured();
+    void withoutACatalogueTheEnglishDefaultIsShown_data();
+    void withoutACatalogueTheEnglishDefaultIsShown();
+    void theCatalogueIsAskedWithContextKeyAndEnglishDefault();
+    void aTextOfTheCatalogueIsShownAccentsAndAll();
+    void theLastInstalledCatalogueThatKnowsTheKeyWins();
+    void aRemovedCatalogueIsAskedNoMore();
+    void theClassNameIsTheContext();
+    void nullArgumentsAreNotAskedFor();
+    void aCatalogueFileIsHonoured_data();
+    void aCatalogueFileIsHonoured();
 };
 
-void TranslationTest::init()
+void TestTranslation::init()
 {
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
 }
 
-void TranslationTest::without_a_catalogue_the_english_default_is_shown_data()
+void TestTranslation::withoutACatalogueTheEnglishDefaultIsShown_data()
 {
     QTest::addColumn<QByteArray>("english");
     QTest::addColumn<QString>("text");
@@ -63,14 +63,14 @@ void TranslationTest::without_a_catalogue_the_english_default_is_shown_data()
     QTest::newRow("with a place for a value") << QByteArray("%1 of %2") << QStringLiteral("%1 of %2");
 }
 
-void TranslationTest::without_a_catalogue_the_english_default_is_shown()
+void TestTranslation::withoutACatalogueTheEnglishDefaultIsShown()
 {
     QFETCH(QByteArray, english);
     QFETCH(QString, text);
     QCOMPARE(translated("TestView", "TXT_RID_KEY", english.constData()), text);
 }
 
-void TranslationTest::the_catalogue_is_asked_with_context_key_and_english_default()
+void TestTranslation::theCatalogueIsAskedWithContextKeyAndEnglishDefault()
 {
     Asked catalogue;
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
@@ -79,7 +79,7 @@ void TranslationTest::the_catalogue_is_asked_with_context_key_and_english_defaul
     QCOMPARE(catalogue.requests, QList<QByteArray>({"View|KEY|English", "View|KEY|caf\xc3\xa9"}));
 }
 
-void TranslationTest::a_text_of_the_catalogue_is_shown_accents_and_all()
+void TestTranslation::aTextOfTheCatalogueIsShownAccentsAndAll()
 {
     Asked catalogue;
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
@@ -88,7 +88,7 @@ void TranslationTest::a_text_of_the_catalogue_is_shown_accents_and_all()
     QCOMPARE(translated("View", "UNKNOWN", "Size"), QStringLiteral("Size"));
 }
 
-void TranslationTest::the_last_installed_catalogue_that_knows_the_key_wins()
+void TestTranslation::theLastInstalledCatalogueThatKnowsTheKeyWins()
 {
     struct Later : QTranslator {
         bool isEmpty() const override { return false; }
@@ -106,7 +106,7 @@ void TranslationTest::the_last_installed_catalogue_that_knows_the_key_wins()
                                                                    "e"));
 }
 
-void TranslationTest::a_removed_catalogue_is_asked_no_more()
+void TestTranslation::aRemovedCatalogueIsAskedNoMore()
 {
     Asked catalogue;
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
@@ -115,7 +115,7 @@ void TranslationTest::a_removed_catalogue_is_asked_no_more()
     QVERIFY(catalogue.requests.isEmpty());
 }
 
-void TranslationTest::the_class_name_is_the_context()
+void TestTranslation::theClassNameIsTheContext()
 {
     Asked catalogue;
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
@@ -123,7 +123,7 @@ void TranslationTest::the_class_name_is_the_context()
     QCOMPARE(catalogue.requests, QList<QByteArray>({"QTimer|KEY|English"}));
 }
 
-void TranslationTest::null_arguments_are_not_asked_for()
+void TestTranslation::nullArgumentsAreNotAskedFor()
 {
     Asked catalogue;
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
@@ -134,7 +134,7 @@ void TranslationTest::null_arguments_are_not_asked_for()
     QVERIFY(translated("View", "UNKNOWN", nullptr).isEmpty());
 }
 
-void TranslationTest::a_catalogue_file_is_honoured_data()
+void TestTranslation::aCatalogueFileIsHonoured_data()
 {
     QTest::addColumn<QByteArray>("context");
     QTest::addColumn<QByteArray>("key");
@@ -159,7 +159,7 @@ void TranslationTest::a_catalogue_file_is_honoured_data()
         << QByteArray("Other") << QByteArray("TXT_RID_SOFTKEY_YES") << QByteArray("Yes") << QStringLiteral("Yes");
 }
 
-void TranslationTest::a_catalogue_file_is_honoured()
+void TestTranslation::aCatalogueFileIsHonoured()
 {
     QFETCH(QByteArray, context);
     QFETCH(QByteArray, key);
@@ -171,5 +171,5 @@ void TranslationTest::a_catalogue_file_is_honoured()
     QCOMPARE(translated(context.constData(), key.constData(), english.constData()), text);
 }
 
-KAV_TEST_GROUP(TranslationTest, QCoreApplication);
+KAV_TEST_GROUP(TestTranslation, QCoreApplication);
 #include "tst_translation.moc"

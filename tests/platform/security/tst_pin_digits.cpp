@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <new>
 
-class PinDigitsTest : public QObject
+class TestPinDigits : public QObject
 {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ bool hasDigit(const char *begin, std::size_t size)
 
 } // namespace
 
-void PinDigitsTest::fourToEightDigitsAreAPin()
+void TestPinDigits::fourToEightDigitsAreAPin()
 {
     PinDigits digits;
     for (std::size_t count = 0; count <= 8; ++count) {
@@ -61,7 +61,7 @@ void PinDigitsTest::fourToEightDigitsAreAPin()
     QCOMPARE(digits.view(), QByteArray("77777777"));
 }
 
-void PinDigitsTest::theLastDigitIsTakenBackFirst()
+void TestPinDigits::theLastDigitIsTakenBackFirst()
 {
     PinDigits digits;
     digits.removeLast();
@@ -71,7 +71,7 @@ void PinDigitsTest::theLastDigitIsTakenBackFirst()
     QCOMPARE(digits.view(), QByteArray("129"));
 }
 
-void PinDigitsTest::aDigitTakenBackIsOverwritten()
+void TestPinDigits::aDigitTakenBackIsOverwritten()
 {
     PinDigits digits;
     append(digits, "1234");
@@ -81,7 +81,7 @@ void PinDigitsTest::aDigitTakenBackIsOverwritten()
     QVERIFY(hasDigit(place, 1));
 }
 
-void PinDigitsTest::clearedDigitsAreOverwritten()
+void TestPinDigits::clearedDigitsAreOverwritten()
 {
     PinDigits digits;
     append(digits, "12345678");
@@ -91,7 +91,7 @@ void PinDigitsTest::clearedDigitsAreOverwritten()
     QCOMPARE(digits.count(), std::size_t(0));
 }
 
-void PinDigitsTest::digitsAreOverwrittenWhenTheObjectGoes()
+void TestPinDigits::digitsAreOverwrittenWhenTheObjectGoes()
 {
     alignas(PinDigits) char place[sizeof(PinDigits)] = {};
     PinDigits *digits = makeAt(place);
@@ -100,13 +100,13 @@ void PinDigitsTest::digitsAreOverwrittenWhenTheObjectGoes()
     QVERIFY(!hasDigit(place, sizeof place));
 }
 
-void PinDigitsTest::theViewIsNoCopy()
+void TestPinDigits::theViewIsNoCopy()
 {
     PinDigits digits;
     append(digits, "1234");
     QCOMPARE(digits.view().constData(), digits.view().constData());
 }
 
-KAV_TEST_GROUP(PinDigitsTest, NoApplication);
+KAV_TEST_GROUP(TestPinDigits, NoApplication);
 
 #include "tst_pin_digits.moc"

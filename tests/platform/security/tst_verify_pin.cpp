@@ -1,4 +1,4 @@
-#include "toolkit-dialogs/DialogTestKit.h"
+#include "toolkit/DialogTestKit.h"
 
 #include "handset/DecoratedHandset.h"
 #include "security/PinEntryDlg.h"
@@ -156,7 +156,7 @@ void countMessages(QtMsgType, const QMessageLogContext &, const QString &)
 
 } // namespace
 
-class VerifyPinTest : public QObject
+class TestVerifyPin : public QObject
 {
     Q_OBJECT
 
@@ -201,20 +201,20 @@ private slots:
 
 private:
     std::shared_ptr<SimOnlyHandset> handset;
-    std::unique_ptr<TestScreen> screen;
+    std::unique_ptr<ListScreen> screen;
 };
 
-void VerifyPinTest::init()
+void TestVerifyPin::init()
 {
     noWarnings();
     handset = std::make_shared<SimOnlyHandset>();
     handset::install(handset);
-    screen = std::make_unique<TestScreen>();
+    screen = std::make_unique<ListScreen>();
     screen->addRows(3);
     screen->show();
 }
 
-void VerifyPinTest::cleanup()
+void TestVerifyPin::cleanup()
 {
     screen.reset();
     handset::install(nullptr);
@@ -222,7 +222,7 @@ void VerifyPinTest::cleanup()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-void VerifyPinTest::theRightPinIsAccepted()
+void TestVerifyPin::theRightPinIsAccepted()
 {
     QString text;
     User user({[&] { text = shownText(); }, keys("4711"), key(Qt::Key_Context1)});
@@ -236,7 +236,7 @@ void VerifyPinTest::theRightPinIsAccepted()
     QCOMPARE(ZApplication::keyTarget(), screen->list);
 }
 
-void VerifyPinTest::everyKeyThatConfirmsConfirms_data()
+void TestVerifyPin::everyKeyThatConfirmsConfirms_data()
 {
     QTest::addColumn<int>("confirm");
     QTest::newRow("the left softkey") << int(Qt::Key_Context1);
@@ -245,14 +245,14 @@ void VerifyPinTest::everyKeyThatConfirmsConfirms_data()
     QTest::newRow("the Enter key") << int(Qt::Key_Return);
 }
 
-void VerifyPinTest::everyKeyThatConfirmsConfirms()
+void TestVerifyPin::everyKeyThatConfirmsConfirms()
 {
     QFETCH(int, confirm);
     User user({keys("4711"), key(confirm)});
     QVERIFY(verify(screen.get()).isAccepted());
 }
 
-void VerifyPinTest::aWrongPinIsSaidAndAskedAgainWithTheNewCount()
+void TestVerifyPin::aWrongPinIsSaidAndAskedAgainWithTheNewCount()
 {
     QStringList texts;
     const auto look = [&] { texts << shownText(); };
@@ -266,7 +266,7 @@ void VerifyPinTest::aWrongPinIsSaidAndAskedAgainWithTheNewCount()
     QCOMPARE(handset->sim.presented, QList<QByteArray>({"0000", "00001111", "4711"}));
 }
 
-void VerifyPinTest::theThirdWrongPinBlocksAndThatIsSaid()
+void TestVerifyPin::theThirdWrongPinBlocksAndThatIsSaid()
 {
     handset->sim.tries = 1;
     QString text;
@@ -280,7 +280,7 @@ void VerifyPinTest::theThirdWrongPinBlocksAndThatIsSaid()
     QVERIFY(!shownPopup());
 }
 
-void VerifyPinTest::aBlockedPinIsNotAskedFor()
+void TestVerifyPin::aBlockedPinIsNotAskedFor()
 {
     handset->sim.tries = 0;
     QString text;
@@ -292,7 +292,7 @@ void VerifyPinTest::aBlockedPinIsNotAskedFor()
     QVERIFY(handset->sim.presented.isEmpty());
 }
 
-void VerifyPinTest::aSimThatCannotBeAskedIsSaid_data()
+void TestVerifyPin::aSimThatCannotBeAskedIsSaid_data()
 {
     QTest::addColumn<bool>("hasHandset");
     QTest::addColumn<bool>("hasSim");
@@ -306,7 +306,7 @@ void VerifyPinTest::aSimThatCannotBeAskedIsSaid_data()
     QTest::newRow("a SIM with a failure of its own") << true << true << 0 << 4242;
 }
 
-void VerifyPinTest::aSimThatCannotBeAskedIsSaid()
+void TestVerifyPin::aSimThatCannotBeAskedIsSaid()
 {
     QFETCH(bool, hasHandset);
     QFETCH(bool, hasSim);
@@ -330,7 +330,7 @@ void VerifyPinTest::aSimThatCannotBeAskedIsSaid()
     QCOMPARE(text, QStringLiteral("PIN2|The SIM card cannot be asked for PIN2."));
 }
 
-void VerifyPinTest::aPinThatTheSimRefusesToLookAtIsBlocked()
+void TestVerifyPin::aPinThatTheSimRefusesToLookAtIsBlocked()
 {
     handset->sim.statusOfVerifyPin = handset::NotAllowed;
     User user({keys("4711"), key(Qt::Key_Select), key(Qt::Key_Select)});
@@ -339,7 +339,7 @@ void VerifyPinTest::aPinThatTheSimRefusesToLookAtIsBlocked()
     QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_BLOCKED);
 }
 
-void VerifyPinTest::aSimThatDoesNotTellTheTriesIsAskedAllTheSame()
+void TestVerifyPin::aSimThatDoesNotTellTheTriesIsAskedAllTheSame()
 {
     handset->sim.statusOfTriesLeft = handset::NotAvailable;
     QStringList texts;
@@ -349,7 +349,7 @@ void VerifyPinTest::aSimThatDoesNotTellTheTriesIsAskedAllTheSame()
     QCOMPARE(texts, QStringList({QStringLiteral("Enter PIN2|"), QStringLiteral("Enter PIN2|Wrong PIN2")}));
 }
 
-void VerifyPinTest::theUserCanGiveUp_data()
+void TestVerifyPin::theUserCanGiveUp_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("last");
@@ -365,7 +365,7 @@ void VerifyPinTest::theUserCanGiveUp_data()
     QTest::newRow("by the Back key after digits") << "4711" << int(Qt::Key_Back);
 }
 
-void VerifyPinTest::theUserCanGiveUp()
+void TestVerifyPin::theUserCanGiveUp()
 {
     QFETCH(QString, typed);
     QFETCH(int, last);
@@ -379,7 +379,7 @@ void VerifyPinTest::theUserCanGiveUp()
     QCOMPARE(handset->sim.tries, 3);
 }
 
-void VerifyPinTest::theBackspaceKeyTakesBackDigitsAndThenGivesUp()
+void TestVerifyPin::theBackspaceKeyTakesBackDigitsAndThenGivesUp()
 {
     constexpr int back = Qt::Key_Backspace;
     {
@@ -396,13 +396,13 @@ void VerifyPinTest::theBackspaceKeyTakesBackDigitsAndThenGivesUp()
     QVERIFY(wasOpenWhenEmpty);
 }
 
-void VerifyPinTest::theHashKeyTakesBackAndNeverGivesUp()
+void TestVerifyPin::theHashKeyTakesBackAndNeverGivesUp()
 {
     User user({keys("47##########4712#1"), key(Qt::Key_Select)});
     QVERIFY(verify(screen.get()).isAccepted());
 }
 
-void VerifyPinTest::fewerThanFourDigitsDoNotConfirm()
+void TestVerifyPin::fewerThanFourDigitsDoNotConfirm()
 {
     bool wasEnabled = true;
     User user({keys("471"), key(Qt::Key_Select), key(Qt::Key_Context1),
@@ -413,21 +413,21 @@ void VerifyPinTest::fewerThanFourDigitsDoNotConfirm()
     QCOMPARE(handset->sim.presented.size(), 1);
 }
 
-void VerifyPinTest::moreThanEightDigitsAreNotTaken()
+void TestVerifyPin::moreThanEightDigitsAreNotTaken()
 {
     handset->sim.code = "12345678";
     User user({keys("1234567899"), key(Qt::Key_Select)});
     QVERIFY(verify(screen.get()).isAccepted());
 }
 
-void VerifyPinTest::aHeldKeyIsOneDigit()
+void TestVerifyPin::aHeldKeyIsOneDigit()
 {
     User user(
         {keys("4"), [] { press(ZApplication::keyTarget(), Qt::Key_4, true); }, keys("711"), key(Qt::Key_Select)});
     QVERIFY(verify(screen.get()).isAccepted());
 }
 
-void VerifyPinTest::otherKeysTypeNothing()
+void TestVerifyPin::otherKeysTypeNothing()
 {
     User user({keys("47"), keys("*"), key(Qt::Key_A), key(Qt::Key_Up), key(Qt::Key_Down), key(Qt::Key_Left),
                [] { QTest::keyClick(ZApplication::keyTarget(), Qt::Key_1, Qt::ControlModifier); },
@@ -436,7 +436,7 @@ void VerifyPinTest::otherKeysTypeNothing()
     QVERIFY(verify(screen.get()).isAccepted());
 }
 
-void VerifyPinTest::theEntryLooksTheSameWhateverTheDigits()
+void TestVerifyPin::theEntryLooksTheSameWhateverTheDigits()
 {
     QList<QImage> looks;
     const auto look = [&] { looks << screen->grab().toImage(); };
@@ -450,7 +450,7 @@ void VerifyPinTest::theEntryLooksTheSameWhateverTheDigits()
     QVERIFY2(looks.at(0) != looks.at(1), "the digits typed cannot be counted");
 }
 
-void VerifyPinTest::noTextAnywhereHasTheDigits()
+void TestVerifyPin::noTextAnywhereHasTheDigits()
 {
     QStringList texts;
     const auto read = [&] {
@@ -469,7 +469,7 @@ void VerifyPinTest::noTextAnywhereHasTheDigits()
     QVERIFY(texts.filter(QStringLiteral("7263")).isEmpty());
 }
 
-void VerifyPinTest::theDigitsAreOverwrittenOnceTheSimHasSeenThem()
+void TestVerifyPin::theDigitsAreOverwrittenOnceTheSimHasSeenThem()
 {
     int looks = 0;
     bool anyDigit = false;
@@ -484,7 +484,7 @@ void VerifyPinTest::theDigitsAreOverwrittenOnceTheSimHasSeenThem()
     QVERIFY(!anyDigit);
 }
 
-void VerifyPinTest::nothingIsWrittenToAnyLog()
+void TestVerifyPin::nothingIsWrittenToAnyLog()
 {
     messages = 0;
     const QtMessageHandler before = qInstallMessageHandler(countMessages);
@@ -495,7 +495,7 @@ void VerifyPinTest::nothingIsWrittenToAnyLog()
     QCOMPARE(messages, 0);
 }
 
-void VerifyPinTest::theEntryIsModalOverItsScreen()
+void TestVerifyPin::theEntryIsModalOverItsScreen()
 {
     int chosenRows = 0;
     connect(screen->list, &ZListBox::itemChosen, this, [&] { ++chosenRows; });
@@ -511,7 +511,7 @@ void VerifyPinTest::theEntryIsModalOverItsScreen()
     QCOMPARE(current, 0);
 }
 
-void VerifyPinTest::theOtherPinIsAskedForByItsName()
+void TestVerifyPin::theOtherPinIsAskedForByItsName()
 {
     QString text;
     User user({[&] { text = shownText(); }, keys("4711"), key(Qt::Key_Select)});
@@ -522,7 +522,7 @@ void VerifyPinTest::theOtherPinIsAskedForByItsName()
     QCOMPARE(handset->sim.pins, QList<int>(3, 0));
 }
 
-void VerifyPinTest::aNumberThatIsNoPinFails()
+void TestVerifyPin::aNumberThatIsNoPinFails()
 {
     QTest::ignoreMessage(QtWarningMsg, "SETUP_SECURITY_Util::verifyPin: there is no PIN 7");
     const Result answer = verify(screen.get(), static_cast<SETUP_SECURITY_PINTYPE_E>(7));
@@ -531,7 +531,7 @@ void VerifyPinTest::aNumberThatIsNoPinFails()
     QVERIFY(handset->sim.pins.isEmpty());
 }
 
-void VerifyPinTest::aSecondCallIsRefusedWhileTheFirstIsOpen()
+void TestVerifyPin::aSecondCallIsRefusedWhileTheFirstIsOpen()
 {
     Result second;
     User user({[&] { second = verify(screen.get()); }, keys("4711"), key(Qt::Key_Select)});
@@ -542,10 +542,10 @@ void VerifyPinTest::aSecondCallIsRefusedWhileTheFirstIsOpen()
     QVERIFY(verify(screen.get()).isAccepted());
 }
 
-using Deed = std::function<void(std::unique_ptr<TestScreen> &)>;
+using Deed = std::function<void(std::unique_ptr<ListScreen> &)>;
 Q_DECLARE_METATYPE(Deed)
 
-void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes_data()
+void TestVerifyPin::theEntryEndsWhenWhatIsAroundItGoes_data()
 {
     QTest::addColumn<Deed>("deed");
     QTest::newRow("the screen is destroyed") << Deed([](auto &parent) { parent.reset(); });
@@ -555,11 +555,11 @@ void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes_data()
     QTest::newRow("the entry is deleted by another") << Deed([](auto &) { delete shownPopup(); });
 }
 
-void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes()
+void TestVerifyPin::theEntryEndsWhenWhatIsAroundItGoes()
 {
     QFETCH(Deed, deed);
     for (const char *typed : {"", "47", "4711"}) {
-        screen = std::make_unique<TestScreen>();
+        screen = std::make_unique<ListScreen>();
         screen->show();
         User user({keys(typed), [&] { deed(screen); }});
         const Result answer = verify(screen.get());
@@ -571,7 +571,7 @@ void VerifyPinTest::theEntryEndsWhenWhatIsAroundItGoes()
     }
 }
 
-void VerifyPinTest::aMessageEndsWhenItsScreenGoes()
+void TestVerifyPin::aMessageEndsWhenItsScreenGoes()
 {
     handset->sim.tries = 0;
     User user({[&] { screen.reset(); }});
@@ -580,7 +580,7 @@ void VerifyPinTest::aMessageEndsWhenItsScreenGoes()
     QVERIFY(!shownPopup());
 }
 
-void VerifyPinTest::theEntryEndsWithTheApplication()
+void TestVerifyPin::theEntryEndsWithTheApplication()
 {
     Result answer;
     QTimer::singleShot(0, this, [&] { answer = verify(screen.get()); });
@@ -591,7 +591,7 @@ void VerifyPinTest::theEntryEndsWithTheApplication()
     QVERIFY(!shownPopup());
 }
 
-void VerifyPinTest::nobodyIsAskedOverAHiddenScreen()
+void TestVerifyPin::nobodyIsAskedOverAHiddenScreen()
 {
     screen->hide();
     const Result answer = verify(screen.get());
@@ -599,7 +599,7 @@ void VerifyPinTest::nobodyIsAskedOverAHiddenScreen()
     QCOMPARE(answer.error, SETUP_SECURITY_VERIFY_CANCELLED);
 }
 
-void VerifyPinTest::withoutAScreenTheEntryLiesOverTheDisplay()
+void TestVerifyPin::withoutAScreenTheEntryLiesOverTheDisplay()
 {
     bool isOverDisplay = false;
     {
@@ -616,7 +616,7 @@ void VerifyPinTest::withoutAScreenTheEntryLiesOverTheDisplay()
     QVERIFY(user.isDone());
 }
 
-void VerifyPinTest::anotherHandsetInstalledMeanwhileIsTheOneAsked()
+void TestVerifyPin::anotherHandsetInstalledMeanwhileIsTheOneAsked()
 {
     const auto other = std::make_shared<SimOnlyHandset>();
     other->sim.code = "1234";
@@ -633,7 +633,7 @@ void VerifyPinTest::anotherHandsetInstalledMeanwhileIsTheOneAsked()
 }
 
 // What the cost setup does: the entry blocks within the list's own signal, and the list goes on after it.
-void VerifyPinTest::theEntryCanBeOpenedByAKeyPress()
+void TestVerifyPin::theEntryCanBeOpenedByAKeyPress()
 {
     QList<bool> answers;
     connect(screen->list, &ZListBox::itemChosen, this, [&] { answers << verify(screen.get()).isAccepted(); });
@@ -650,6 +650,6 @@ void VerifyPinTest::theEntryCanBeOpenedByAKeyPress()
     QCOMPARE(answers, QList<bool>({true, false}));
 }
 
-KAV_TEST_GROUP(VerifyPinTest, QApplication);
+KAV_TEST_GROUP(TestVerifyPin, QApplication);
 
 #include "tst_verify_pin.moc"

@@ -10,7 +10,7 @@
 #include <QtGui/QWindow>
 #include <QtWidgets/QWidget>
 
-TestScreen::TestScreen(QWidget *parent)
+ListScreen::ListScreen(QWidget *parent)
     : ZKbMainWidget(parent, "test screen", 0)
     , bar(new ZSoftKey(QStringLiteral("CST_2A"), this, nullptr))
     , list(new ZListBox(QStringLiteral("%M"), getContentWidget(true), 0, ZSkinService::SettingListClass))
@@ -22,7 +22,7 @@ TestScreen::TestScreen(QWidget *parent)
     list->setGeometry(getContentWidget(true)->rect());
 }
 
-ZSettingItem *TestScreen::addRow(const QString &title, const QString &value)
+ZSettingItem *ListScreen::addRow(const QString &title, const QString &value)
 {
     auto *item = new ZSettingItem(list, QString());
     item->appendSubItem(0, title, false, ZSettingItem::TitleRegion);
@@ -32,7 +32,7 @@ ZSettingItem *TestScreen::addRow(const QString &title, const QString &value)
     return item;
 }
 
-ZSettingItem *TestScreen::addSeparator(const QString &title)
+ZSettingItem *ListScreen::addSeparator(const QString &title)
 {
     auto *item = new ZSettingItem(list, QStringLiteral("%P"));
     item->setSeparator(title, nullptr);
@@ -40,13 +40,13 @@ ZSettingItem *TestScreen::addSeparator(const QString &title)
     return item;
 }
 
-void TestScreen::addRows(int count)
+void ListScreen::addRows(int count)
 {
     for (int i = 0; i < count; ++i)
         addRow(QStringLiteral("Row %1").arg(i), QString::number(i));
 }
 
-QString TestScreen::titles() const
+QString ListScreen::titles() const
 {
     QStringList result;
     for (int row = 0; row < list->count(); ++row)

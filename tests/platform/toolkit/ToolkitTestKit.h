@@ -14,12 +14,12 @@
 #include <QtWidgets/QWidget>
 
 /// A screen with a softkey bar ("Options", "Back") and a list that fills its content area.
-class TestScreen : public ZKbMainWidget
+class ListScreen : public ZKbMainWidget
 {
     Q_OBJECT
 
 public:
-    explicit TestScreen(QWidget *parent = nullptr);
+    explicit ListScreen(QWidget *parent = nullptr);
 
     ZSettingItem *addRow(const QString &title, const QString &value = QString());
     ZSettingItem *addSeparator(const QString &title);

@@ -1,5 +1,6 @@
 // Dialogs over a screen: captions, answers, what they keep away from the screen, how they come and go.
 #include "support/TestGroup.h"
+#include "toolkit/DialogTestKit.h"
 #include "toolkit/ToolkitTestKit.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZSkinService.h"
@@ -23,6 +24,7 @@
 
 #include <algorithm>
 
+using namespace DialogTestKit;
 using namespace ToolkitTestKit;
 
 namespace {
@@ -51,20 +53,6 @@ QWidget *bodyOf(const ZPopup &dialog)
     return body == children.end() ? nullptr : *body;
 }
 
-// Which answers a dialog gave, in order.
-class Answers : public QObject
-{
-public:
-    explicit Answers(ZPopup *dialog)
-    {
-        connect(dialog, &ZPopup::leftSoftkeyClicked, this, [this] { given << QStringLiteral("left"); });
-        connect(dialog, &ZPopup::rightSoftkeyClicked, this, [this] { given << QStringLiteral("right"); });
-        connect(dialog, &ZPopup::signalCenterSelKeyPressed, this, [this] { given << QStringLiteral("select"); });
-    }
-
-    QStringList given;
-};
-
 class Catalogue : public QTranslator
 {
 public:
@@ -80,65 +68,65 @@ public:
 
 } // namespace
 
-class DialogTest : public QObject
+class TestDialog : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void each_type_has_its_captions();
-    void captions_come_from_the_catalogue();
-    void a_type_that_does_not_exist_is_an_information();
-    void captions_can_be_replaced();
-    void texts_can_be_read_back_and_are_spoken();
-    void keys_answer_as_they_say_data();
-    void keys_answer_as_they_say();
-    void the_pointer_answers_on_the_softkeys_that_have_a_caption();
-    void a_disabled_softkey_does_not_answer();
-    void a_key_that_is_held_since_before_does_not_answer();
-    void it_is_hidden_before_it_answers();
-    void whoever_answers_may_show_it_again();
-    void whoever_answers_may_delete_it_or_its_screen_data();
-    void whoever_answers_may_delete_it_or_its_screen();
-    void a_message_begins_where_reading_begins_data();
-    void a_message_begins_where_reading_begins();
-    void a_sentence_ends_where_its_own_words_end_data();
-    void a_sentence_ends_where_its_own_words_end();
-    void it_comes_only_when_it_is_shown();
-    void it_covers_its_screen_whole_and_follows_it();
-    void its_box_stays_inside_the_display_data();
-    void its_box_stays_inside_the_display();
-    void its_softkeys_lie_where_the_screen_has_its_own();
-    void a_modal_one_dims_the_screen();
-    void a_modal_one_keeps_keys_and_pointer_from_the_screen();
-    void a_modal_one_keeps_the_focus_when_the_list_below_asks_for_it();
-    void one_that_is_not_modal_lets_the_pointer_through();
-    void the_window_around_the_phone_goes_on_working();
-    void the_tab_key_goes_from_the_dialog_to_the_window_around_and_back();
-    void the_focus_goes_back_to_the_list();
-    void the_focus_goes_back_to_what_had_it_outside_the_phone();
-    void the_focus_stays_with_who_took_it_meanwhile();
-    void the_newest_dialog_gets_the_keys_in_whatever_order_they_go_data();
-    void the_newest_dialog_gets_the_keys_in_whatever_order_they_go();
-    void showing_it_again_brings_it_to_the_top();
-    void a_sub_screen_opened_over_a_dialog_gets_the_keys();
-    void it_answers_by_itself_after_its_time_data();
-    void it_answers_by_itself_after_its_time();
-    void one_that_is_gone_before_its_time_does_not_answer();
-    void a_long_message_scrolls_by_key_and_wheel();
-    void a_message_of_any_length_and_content_does_no_harm();
-    void it_goes_with_its_screen();
+    void eachTypeHasItsCaptions();
+    void captionsComeFromTheCatalogue();
+    void aTypeThatDoesNotExistIsAnInformation();
+    void captionsCanBeReplaced();
+    void textsCanBeReadBackAndAreSpoken();
+    void keysAnswerAsTheySay_data();
+    void keysAnswerAsTheySay();
+    void thePointerAnswersOnTheSoftkeysThatHaveACaption();
+    void aDisabledSoftkeyDoesNotAnswer();
+    void aKeyThatIsHeldSinceBeforeDoesNotAnswer();
+    void itIsHiddenBeforeItAnswers();
+    void whoeverAnswersMayShowItAgain();
+    void whoeverAnswersMayDeleteItOrItsScreen_data();
+    void whoeverAnswersMayDeleteItOrItsScreen();
+    void aMessageBeginsWhereReadingBegins_data();
+    void aMessageBeginsWhereReadingBegins();
+    void aSentenceEndsWhereItsOwnWordsEnd_data();
+    void aSentenceEndsWhereItsOwnWordsEnd();
+    void itComesOnlyWhenItIsShown();
+    void itCoversItsScreenWholeAndFollowsIt();
+    void itsBoxStaysInsideTheDisplay_data();
+    void itsBoxStaysInsideTheDisplay();
+    void itsSoftkeysLieWhereTheScreenHasItsOwn();
+    void aModalOneDimsTheScreen();
+    void aModalOneKeepsKeysAndPointerFromTheScreen();
+    void aModalOneKeepsTheFocusWhenTheListBelowAsksForIt();
+    void oneThatIsNotModalLetsThePointerThrough();
+    void theWindowAroundThePhoneGoesOnWorking();
+    void theTabKeyGoesFromTheDialogToTheWindowAroundAndBack();
+    void theFocusGoesBackToTheList();
+    void theFocusGoesBackToWhatHadItOutsideThePhone();
+    void theFocusStaysWithWhoTookItMeanwhile();
+    void theNewestDialogGetsTheKeysInWhateverOrderTheyGo_data();
+    void theNewestDialogGetsTheKeysInWhateverOrderTheyGo();
+    void showingItAgainBringsItToTheTop();
+    void aSubScreenOpenedOverADialogGetsTheKeys();
+    void itAnswersByItselfAfterItsTime_data();
+    void itAnswersByItselfAfterItsTime();
+    void oneThatIsGoneBeforeItsTimeDoesNotAnswer();
+    void aLongMessageScrollsByKeyAndWheel();
+    void aMessageOfAnyLengthAndContentDoesNoHarm();
+    void itGoesWithItsScreen();
 };
 
-void DialogTest::init()
+void TestDialog::init()
 {
     noWarnings();
 }
 
-void DialogTest::each_type_has_its_captions()
+void TestDialog::eachTypeHasItsCaptions()
 {
-    TestScreen screen;
+    ListScreen screen;
     const ZMessageDlg *question = newDialog(&screen, Question);
     const ZMessageDlg *information = newDialog(&screen, Information);
     QCOMPARE(static_cast<int>(question->type()), 1);
@@ -147,37 +135,37 @@ void DialogTest::each_type_has_its_captions()
     QCOMPARE(captions(*information), QStringLiteral("OK|"));
 }
 
-void DialogTest::captions_come_from_the_catalogue()
+void TestDialog::captionsComeFromTheCatalogue()
 {
     Catalogue catalogue;
     QVERIFY(QCoreApplication::installTranslator(&catalogue));
-    TestScreen screen;
+    ListScreen screen;
     QCOMPARE(captions(*newDialog(&screen, Question)), QString::fromLatin1("S\xed|No"));
     QCOMPARE(captions(*newDialog(&screen, Information)), QStringLiteral("Okay|"));
     QCoreApplication::removeTranslator(&catalogue);
 }
 
-void DialogTest::a_type_that_does_not_exist_is_an_information()
+void TestDialog::aTypeThatDoesNotExistIsAnInformation()
 {
-    TestScreen screen;
+    ListScreen screen;
     QTest::ignoreMessage(QtWarningMsg, "ZMessageDlg: there is no type 7");
     const ZMessageDlg *dialog = newDialog(&screen, static_cast<ZMessageDlg::MessageDlgType>(7));
     QCOMPARE(dialog->type(), Information);
     QCOMPARE(captions(*dialog), QStringLiteral("OK|"));
 }
 
-void DialogTest::captions_can_be_replaced()
+void TestDialog::captionsCanBeReplaced()
 {
-    TestScreen screen;
+    ListScreen screen;
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->setSoftkeyTextLeft(QStringLiteral("Save"));
     dialog->setSoftkeyTextRight(QStringLiteral("Cancel"));
     QCOMPARE(captions(*dialog), QStringLiteral("Save|Cancel"));
 }
 
-void DialogTest::texts_can_be_read_back_and_are_spoken()
+void TestDialog::textsCanBeReadBackAndAreSpoken()
 {
-    TestScreen screen;
+    ListScreen screen;
     const ZMessageDlg dialog(QStringLiteral("Reset Timer"), QStringLiteral("Would you?"), Question, 0, &screen,
                              "named", true, 0);
     QCOMPARE(dialog.header(), QStringLiteral("Reset Timer"));
@@ -188,7 +176,7 @@ void DialogTest::texts_can_be_read_back_and_are_spoken()
     QCOMPARE(dialog.parentWidget(), &screen);
 }
 
-void DialogTest::keys_answer_as_they_say_data()
+void TestDialog::keysAnswerAsTheySay_data()
 {
     QTest::addColumn<bool>("question");
     QTest::addColumn<int>("key");
@@ -210,12 +198,12 @@ void DialogTest::keys_answer_as_they_say_data()
     QTest::newRow("information, right softkey") << false << int(Qt::Key_Context2) << QString();
 }
 
-void DialogTest::keys_answer_as_they_say()
+void TestDialog::keysAnswerAsTheySay()
 {
     QFETCH(bool, question);
     QFETCH(int, key);
     QFETCH(QString, answer);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
     QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
@@ -232,9 +220,9 @@ void DialogTest::keys_answer_as_they_say()
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void DialogTest::the_pointer_answers_on_the_softkeys_that_have_a_caption()
+void TestDialog::thePointerAnswersOnTheSoftkeysThatHaveACaption()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     ZMessageDlg *dialog = newDialog(&screen, Question);
     const Answers answers(dialog);
@@ -251,9 +239,9 @@ void DialogTest::the_pointer_answers_on_the_softkeys_that_have_a_caption()
     QVERIFY(dialog->isVisible());
 }
 
-void DialogTest::a_disabled_softkey_does_not_answer()
+void TestDialog::aDisabledSoftkeyDoesNotAnswer()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     ZMessageDlg *dialog = newDialog(&screen, Question);
     const Answers answers(dialog);
@@ -266,9 +254,9 @@ void DialogTest::a_disabled_softkey_does_not_answer()
     QCOMPARE(answers.given, QStringList({QStringLiteral("right")}));
 }
 
-void DialogTest::a_key_that_is_held_since_before_does_not_answer()
+void TestDialog::aKeyThatIsHeldSinceBeforeDoesNotAnswer()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(1);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -282,9 +270,9 @@ void DialogTest::a_key_that_is_held_since_before_does_not_answer()
     QCOMPARE(answers.given, QStringList());
 }
 
-void DialogTest::it_is_hidden_before_it_answers()
+void TestDialog::itIsHiddenBeforeItAnswers()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -297,9 +285,9 @@ void DialogTest::it_is_hidden_before_it_answers()
     QCOMPARE(seen, QList<bool>({false, true}));
 }
 
-void DialogTest::whoever_answers_may_show_it_again()
+void TestDialog::whoeverAnswersMayShowItAgain()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
@@ -315,7 +303,7 @@ void DialogTest::whoever_answers_may_show_it_again()
     QVERIFY(!dialog->isVisible());
 }
 
-void DialogTest::whoever_answers_may_delete_it_or_its_screen_data()
+void TestDialog::whoeverAnswersMayDeleteItOrItsScreen_data()
 {
     QTest::addColumn<int>("by");
     QTest::addColumn<bool>("screenToo");
@@ -328,11 +316,11 @@ void DialogTest::whoever_answers_may_delete_it_or_its_screen_data()
     }
 }
 
-void DialogTest::whoever_answers_may_delete_it_or_its_screen()
+void TestDialog::whoeverAnswersMayDeleteItOrItsScreen()
 {
     QFETCH(int, by);
     QFETCH(bool, screenToo);
-    QPointer<TestScreen> screen = new TestScreen;
+    QPointer<ListScreen> screen = new ListScreen;
     screen->addRows(2);
     screen->show();
     QVERIFY(QTest::qWaitForWindowActive(screen, 60'000));
@@ -358,7 +346,7 @@ void DialogTest::whoever_answers_may_delete_it_or_its_screen()
     delete screen;
 }
 
-void DialogTest::a_message_begins_where_reading_begins_data()
+void TestDialog::aMessageBeginsWhereReadingBegins_data()
 {
     QTest::addColumn<QString>("message");
     QTest::addColumn<bool>("turnedLater");
@@ -368,11 +356,11 @@ void DialogTest::a_message_begins_where_reading_begins_data()
     QTest::newRow("the display is turned while it is shown") << "abc" << true;
 }
 
-void DialogTest::a_message_begins_where_reading_begins()
+void TestDialog::aMessageBeginsWhereReadingBegins()
 {
     QFETCH(QString, message);
     QFETCH(bool, turnedLater);
-    TestScreen screen;
+    ListScreen screen;
     screen.setLayoutDirection(turnedLater ? Qt::LeftToRight : Qt::RightToLeft);
     screen.show();
     ZMessageDlg dialog(QString(), message, Information, 0, &screen, nullptr, true, 0);
@@ -390,7 +378,7 @@ void DialogTest::a_message_begins_where_reading_begins()
     QVERIFY2(lastInk(looks(), background) < inside.width() / 2, "the message begins at the right");
 }
 
-void DialogTest::a_sentence_ends_where_its_own_words_end_data()
+void TestDialog::aSentenceEndsWhereItsOwnWordsEnd_data()
 {
     QTest::addColumn<QString>("words");
     QTest::addColumn<QChar>("mark"); // invisible, of the direction of the words
@@ -402,14 +390,14 @@ void DialogTest::a_sentence_ends_where_its_own_words_end_data()
         << hebrew + '?' << QChar(0x200f) << Qt::LeftToRight;
 }
 
-void DialogTest::a_sentence_ends_where_its_own_words_end()
+void TestDialog::aSentenceEndsWhereItsOwnWordsEnd()
 {
     QFETCH(QString, words);
     QFETCH(QChar, mark);
     QFETCH(Qt::LayoutDirection, around);
     QGuiApplication::setLayoutDirection(around);
     const auto asBefore = qScopeGuard([] { QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto); });
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     const auto look = [&screen](const QString &message) {
         ZMessageDlg dialog(QString(), message, Information, 0, &screen, nullptr, true, 0);
@@ -419,18 +407,18 @@ void DialogTest::a_sentence_ends_where_its_own_words_end()
     QVERIFY2(look(words) == look(mark + words + mark), "the question mark stands at the sentence's beginning");
 }
 
-void DialogTest::it_comes_only_when_it_is_shown()
+void TestDialog::itComesOnlyWhenItIsShown()
 {
-    TestScreen screen;
+    ListScreen screen;
     const ZMessageDlg *dialog = newDialog(&screen, Question);
     screen.show();
     QVERIFY(!dialog->isVisible());
     QVERIFY(ZApplication::keyTarget() != dialog);
 }
 
-void DialogTest::it_covers_its_screen_whole_and_follows_it()
+void TestDialog::itCoversItsScreenWholeAndFollowsIt()
 {
-    TestScreen screen;
+    ListScreen screen;
     ZMessageDlg *dialog = newDialog(&screen, Question);
     QCOMPARE(dialog->geometry(), screen.rect());
     screen.show();
@@ -441,7 +429,7 @@ void DialogTest::it_covers_its_screen_whole_and_follows_it()
     QCOMPARE(dialog->softKey()->geometry(), screen.bar->geometry());
 }
 
-void DialogTest::its_box_stays_inside_the_display_data()
+void TestDialog::itsBoxStaysInsideTheDisplay_data()
 {
     QTest::addColumn<QString>("header");
     QTest::addColumn<QString>("message");
@@ -454,11 +442,11 @@ void DialogTest::its_box_stays_inside_the_display_data()
     QTest::newRow("an endless header") << longText << QStringLiteral("Short");
 }
 
-void DialogTest::its_box_stays_inside_the_display()
+void TestDialog::itsBoxStaysInsideTheDisplay()
 {
     QFETCH(QString, header);
     QFETCH(QString, message);
-    TestScreen screen;
+    ListScreen screen;
     screen.setMainWidgetTitle(QString());
     screen.bar->hide();
     screen.show();
@@ -476,9 +464,9 @@ void DialogTest::its_box_stays_inside_the_display()
     QVERIFY(image.pixelColor(120, screen.bar->y() / 2) != dimmed || (header + message).isEmpty());
 }
 
-void DialogTest::its_softkeys_lie_where_the_screen_has_its_own()
+void TestDialog::itsSoftkeysLieWhereTheScreenHasItsOwn()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.bar->setText(ZSoftKey::LeftKey, QStringLiteral("Yes"), ZSoftKey::DefaultTextPriority);
     screen.bar->setText(ZSoftKey::RightKey, QStringLiteral("No"), ZSoftKey::DefaultTextPriority);
     screen.show();
@@ -488,9 +476,9 @@ void DialogTest::its_softkeys_lie_where_the_screen_has_its_own()
     QCOMPARE(screen.grab(screen.bar->geometry()).toImage(), before);
 }
 
-void DialogTest::a_modal_one_dims_the_screen()
+void TestDialog::aModalOneDimsTheScreen()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(1);
     screen.show();
     const int bright = qGray(screen.grab().toImage().pixel(3, 250));
@@ -501,9 +489,9 @@ void DialogTest::a_modal_one_dims_the_screen()
     QCOMPARE(qGray(screen.grab().toImage().pixel(3, 250)), bright);
 }
 
-void DialogTest::a_modal_one_keeps_keys_and_pointer_from_the_screen()
+void TestDialog::aModalOneKeepsKeysAndPointerFromTheScreen()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(30);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -523,9 +511,9 @@ void DialogTest::a_modal_one_keeps_keys_and_pointer_from_the_screen()
     QCOMPARE(screen.list->verticalScrollBar()->value(), 0);
 }
 
-void DialogTest::a_modal_one_keeps_the_focus_when_the_list_below_asks_for_it()
+void TestDialog::aModalOneKeepsTheFocusWhenTheListBelowAsksForIt()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -538,9 +526,9 @@ void DialogTest::a_modal_one_keeps_the_focus_when_the_list_below_asks_for_it()
     QVERIFY(screen.list->hasFocus());
 }
 
-void DialogTest::one_that_is_not_modal_lets_the_pointer_through()
+void TestDialog::oneThatIsNotModalLetsThePointerThrough()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(30);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -556,13 +544,13 @@ void DialogTest::one_that_is_not_modal_lets_the_pointer_through()
     QCOMPARE(answers.given, QStringList({QStringLiteral("left")}));
 }
 
-void DialogTest::the_window_around_the_phone_goes_on_working()
+void TestDialog::theWindowAroundThePhoneGoesOnWorking()
 {
     QWidget around;
     around.resize(500, 400);
     QPushButton button(&around);
     button.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
     around.show();
     screen.show();
@@ -580,13 +568,13 @@ void DialogTest::the_window_around_the_phone_goes_on_working()
     QVERIFY(!dialog->isVisible());
 }
 
-void DialogTest::the_tab_key_goes_from_the_dialog_to_the_window_around_and_back()
+void TestDialog::theTabKeyGoesFromTheDialogToTheWindowAroundAndBack()
 {
     QWidget around;
     around.resize(500, 400);
     QLineEdit before(&around);
     before.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
     QLineEdit after(&around);
     after.setGeometry(300, 40, 100, 30);
@@ -607,9 +595,9 @@ void DialogTest::the_tab_key_goes_from_the_dialog_to_the_window_around_and_back(
     QVERIFY(before.hasFocus() || after.hasFocus());
 }
 
-void DialogTest::the_focus_goes_back_to_the_list()
+void TestDialog::theFocusGoesBackToTheList()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -622,13 +610,13 @@ void DialogTest::the_focus_goes_back_to_the_list()
     QCOMPARE(screen.list->currentItem(), 1);
 }
 
-void DialogTest::the_focus_goes_back_to_what_had_it_outside_the_phone()
+void TestDialog::theFocusGoesBackToWhatHadItOutsideThePhone()
 {
     QWidget around;
     around.resize(500, 400);
     QLineEdit edit(&around);
     edit.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
     around.show();
     screen.show();
@@ -641,13 +629,13 @@ void DialogTest::the_focus_goes_back_to_what_had_it_outside_the_phone()
     QVERIFY(edit.hasFocus());
 }
 
-void DialogTest::the_focus_stays_with_who_took_it_meanwhile()
+void TestDialog::theFocusStaysWithWhoTookItMeanwhile()
 {
     QWidget around;
     around.resize(500, 400);
     QLineEdit edit(&around);
     edit.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
     around.show();
     screen.show();
@@ -659,7 +647,7 @@ void DialogTest::the_focus_stays_with_who_took_it_meanwhile()
     QVERIFY(edit.hasFocus());
 }
 
-void DialogTest::the_newest_dialog_gets_the_keys_in_whatever_order_they_go_data()
+void TestDialog::theNewestDialogGetsTheKeysInWhateverOrderTheyGo_data()
 {
     QTest::addColumn<QList<int>>("order");
     QList<int> order = {0, 1, 2};
@@ -668,10 +656,10 @@ void DialogTest::the_newest_dialog_gets_the_keys_in_whatever_order_they_go_data(
     } while (std::next_permutation(order.begin(), order.end()));
 }
 
-void DialogTest::the_newest_dialog_gets_the_keys_in_whatever_order_they_go()
+void TestDialog::theNewestDialogGetsTheKeysInWhateverOrderTheyGo()
 {
     QFETCH(QList<int>, order);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -691,9 +679,9 @@ void DialogTest::the_newest_dialog_gets_the_keys_in_whatever_order_they_go()
     QCOMPARE(ZApplication::keyTarget(), screen.list);
 }
 
-void DialogTest::showing_it_again_brings_it_to_the_top()
+void TestDialog::showingItAgainBringsItToTheTop()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *first = newDialog(&screen, Question);
@@ -706,15 +694,15 @@ void DialogTest::showing_it_again_brings_it_to_the_top()
     QVERIFY(first->isAncestorOf(screen.childAt(20, 310)));
 }
 
-void DialogTest::a_sub_screen_opened_over_a_dialog_gets_the_keys()
+void TestDialog::aSubScreenOpenedOverADialogGetsTheKeys()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
-    auto *sub = new TestScreen(&screen);
+    auto *sub = new ListScreen(&screen);
     sub->addRows(3);
     sub->show();
     QVERIFY(sub->list->hasFocus());
@@ -723,7 +711,7 @@ void DialogTest::a_sub_screen_opened_over_a_dialog_gets_the_keys()
     QVERIFY(dialog->hasFocus());
 }
 
-void DialogTest::it_answers_by_itself_after_its_time_data()
+void TestDialog::itAnswersByItselfAfterItsTime_data()
 {
     QTest::addColumn<bool>("question");
     QTest::addColumn<QString>("answer");
@@ -731,11 +719,11 @@ void DialogTest::it_answers_by_itself_after_its_time_data()
     QTest::newRow("an information with its left softkey") << false << QStringLiteral("left");
 }
 
-void DialogTest::it_answers_by_itself_after_its_time()
+void TestDialog::itAnswersByItselfAfterItsTime()
 {
     QFETCH(bool, question);
     QFETCH(QString, answer);
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     ZMessageDlg *dialog = newDialog(&screen, question ? Question : Information, true, 10);
     const Answers answers(dialog);
@@ -746,9 +734,9 @@ void DialogTest::it_answers_by_itself_after_its_time()
     QTRY_COMPARE_WITH_TIMEOUT(answers.given, QStringList({answer, answer}), 60'000);
 }
 
-void DialogTest::one_that_is_gone_before_its_time_does_not_answer()
+void TestDialog::oneThatIsGoneBeforeItsTimeDoesNotAnswer()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     ZMessageDlg *gone = newDialog(&screen, Question, true, 10);
     ZMessageDlg *never = newDialog(&screen, Question, true, -10);
@@ -765,9 +753,9 @@ void DialogTest::one_that_is_gone_before_its_time_does_not_answer()
     QCOMPARE(neverAnswers.given, QStringList());
 }
 
-void DialogTest::a_long_message_scrolls_by_key_and_wheel()
+void TestDialog::aLongMessageScrollsByKeyAndWheel()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
     QString text;
@@ -806,9 +794,9 @@ void DialogTest::a_long_message_scrolls_by_key_and_wheel()
     QCOMPARE(answers.given, QStringList({QStringLiteral("left")}));
 }
 
-void DialogTest::a_message_of_any_length_and_content_does_no_harm()
+void TestDialog::aMessageOfAnyLengthAndContentDoesNoHarm()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QString odd = QStringLiteral("\r\n\n\ta") + QChar(0) + QChar(0xdc00) + QChar(QChar::ParagraphSeparator);
     odd += QString(100'000, QLatin1Char('w'));
@@ -826,11 +814,11 @@ void DialogTest::a_message_of_any_length_and_content_does_no_harm()
     QVERIFY(!dialog.isVisible());
 }
 
-void DialogTest::it_goes_with_its_screen()
+void TestDialog::itGoesWithItsScreen()
 {
     QPointer<ZMessageDlg> dialog;
     {
-        TestScreen screen;
+        ListScreen screen;
         screen.show();
         dialog = newDialog(&screen, Question);
         dialog->show();
@@ -840,5 +828,5 @@ void DialogTest::it_goes_with_its_screen()
     QVERIFY(!ZApplication::keyTarget());
 }
 
-KAV_TEST_GROUP(DialogTest, QApplication);
+KAV_TEST_GROUP(TestDialog, QApplication);
 #include "tst_dialog.moc"

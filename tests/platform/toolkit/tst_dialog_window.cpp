@@ -44,41 +44,41 @@ struct Phone {
     QWidget around;
     QWidget frame{&around};
     QWidget display{&around};
-    TestScreen screen{&display};
+    ListScreen screen{&display};
 };
 
 } // namespace
 
-class DialogWindowTest : public QObject
+class TestDialogWindow : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void it_has_no_parent_and_keeps_none();
-    void it_lies_over_the_display();
-    void without_a_display_it_has_the_displays_size();
-    void it_moves_with_the_display_whatever_moves();
-    void it_hides_with_the_display_and_comes_back_with_it();
-    void one_that_was_dismissed_does_not_come_back();
-    void it_takes_the_keys_and_gives_them_back();
-    void showing_it_again_takes_the_keys_again();
-    void it_stays_over_the_confirmation_that_goes();
-    void it_survives_its_display();
-    void whoever_answers_may_delete_it_data();
-    void whoever_answers_may_delete_it();
-    void only_box_and_softkeys_are_painted();
-    void a_screen_that_deletes_it_in_its_destructor_leaves_nothing_behind();
-    void the_display_is_what_was_set_or_else_the_outermost_screen();
+    void itHasNoParentAndKeepsNone();
+    void itLiesOverTheDisplay();
+    void withoutADisplayItHasTheDisplaysSize();
+    void itMovesWithTheDisplayWhateverMoves();
+    void itHidesWithTheDisplayAndComesBackWithIt();
+    void oneThatWasDismissedDoesNotComeBack();
+    void itTakesTheKeysAndGivesThemBack();
+    void showingItAgainTakesTheKeysAgain();
+    void itStaysOverTheConfirmationThatGoes();
+    void itSurvivesItsDisplay();
+    void whoeverAnswersMayDeleteIt_data();
+    void whoeverAnswersMayDeleteIt();
+    void onlyBoxAndSoftkeysArePainted();
+    void aScreenThatDeletesItInItsDestructorLeavesNothingBehind();
+    void theDisplayIsWhatWasSetOrElseTheOutermostScreen();
 };
 
-void DialogWindowTest::init()
+void TestDialogWindow::init()
 {
     noWarnings();
 }
 
-void DialogWindowTest::it_has_no_parent_and_keeps_none()
+void TestDialogWindow::itHasNoParentAndKeepsNone()
 {
     const Phone phone;
     Notice notice;
@@ -90,7 +90,7 @@ void DialogWindowTest::it_has_no_parent_and_keeps_none()
     QVERIFY(!notice.parent());
 }
 
-void DialogWindowTest::it_lies_over_the_display()
+void TestDialogWindow::itLiesOverTheDisplay()
 {
     const Phone phone;
     Notice notice;
@@ -99,7 +99,7 @@ void DialogWindowTest::it_lies_over_the_display()
     QCOMPARE(notice.windowHandle()->transientParent(), phone.around.windowHandle());
 }
 
-void DialogWindowTest::without_a_display_it_has_the_displays_size()
+void TestDialogWindow::withoutADisplayItHasTheDisplaysSize()
 {
     QVERIFY(!ZApplication::display());
     Notice notice;
@@ -110,7 +110,7 @@ void DialogWindowTest::without_a_display_it_has_the_displays_size()
     QVERIFY(!notice.isVisible());
 }
 
-void DialogWindowTest::it_moves_with_the_display_whatever_moves()
+void TestDialogWindow::itMovesWithTheDisplayWhateverMoves()
 {
     Phone phone;
     Notice notice;
@@ -131,7 +131,7 @@ void DialogWindowTest::it_moves_with_the_display_whatever_moves()
     QCOMPARE(notice.geometry(), phone.displayOnDesktop());
 }
 
-void DialogWindowTest::it_hides_with_the_display_and_comes_back_with_it()
+void TestDialogWindow::itHidesWithTheDisplayAndComesBackWithIt()
 {
     Phone phone;
     Notice notice;
@@ -148,7 +148,7 @@ void DialogWindowTest::it_hides_with_the_display_and_comes_back_with_it()
     QCOMPARE(answered.count(), 0);
 }
 
-void DialogWindowTest::one_that_was_dismissed_does_not_come_back()
+void TestDialogWindow::oneThatWasDismissedDoesNotComeBack()
 {
     Phone phone;
     Notice notice;
@@ -164,7 +164,7 @@ void DialogWindowTest::one_that_was_dismissed_does_not_come_back()
     QVERIFY(!notice.isVisible());
 }
 
-void DialogWindowTest::it_takes_the_keys_and_gives_them_back()
+void TestDialogWindow::itTakesTheKeysAndGivesThemBack()
 {
     Phone phone;
     QVERIFY(QTest::qWaitForWindowActive(&phone.around, 60'000));
@@ -183,7 +183,7 @@ void DialogWindowTest::it_takes_the_keys_and_gives_them_back()
     QCOMPARE(phone.screen.list->currentItem(), 2);
 }
 
-void DialogWindowTest::showing_it_again_takes_the_keys_again()
+void TestDialogWindow::showingItAgainTakesTheKeysAgain()
 {
     Phone phone;
     Notice notice;
@@ -202,7 +202,7 @@ void DialogWindowTest::showing_it_again_takes_the_keys_again()
     QVERIFY(QTest::qWaitForWindowActive(&notice, 60'000));
 }
 
-void DialogWindowTest::it_stays_over_the_confirmation_that_goes()
+void TestDialogWindow::itStaysOverTheConfirmationThatGoes()
 {
     // As a refused reset does it: the notice comes up in the answer, then the question is deleted.
     Phone phone;
@@ -223,9 +223,9 @@ void DialogWindowTest::it_stays_over_the_confirmation_that_goes()
     QTRY_VERIFY_WITH_TIMEOUT(phone.screen.list->hasFocus(), 60'000);
 }
 
-void DialogWindowTest::it_survives_its_display()
+void TestDialogWindow::itSurvivesItsDisplay()
 {
-    auto *screen = new TestScreen;
+    auto *screen = new ListScreen;
     screen->show();
     Notice notice;
     notice.show();
@@ -238,7 +238,7 @@ void DialogWindowTest::it_survives_its_display()
     QVERIFY(!notice.isVisible());
 }
 
-void DialogWindowTest::whoever_answers_may_delete_it_data()
+void TestDialogWindow::whoeverAnswersMayDeleteIt_data()
 {
     QTest::addColumn<int>("by");
     QTest::newRow("by key") << 0;
@@ -247,7 +247,7 @@ void DialogWindowTest::whoever_answers_may_delete_it_data()
     QTest::newRow("by the timer") << 3;
 }
 
-void DialogWindowTest::whoever_answers_may_delete_it()
+void TestDialogWindow::whoeverAnswersMayDeleteIt()
 {
     QFETCH(int, by);
     const Phone phone;
@@ -265,7 +265,7 @@ void DialogWindowTest::whoever_answers_may_delete_it()
     settle();
 }
 
-void DialogWindowTest::only_box_and_softkeys_are_painted()
+void TestDialogWindow::onlyBoxAndSoftkeysArePainted()
 {
     const Phone phone;
     Notice notice;
@@ -279,9 +279,9 @@ void DialogWindowTest::only_box_and_softkeys_are_painted()
     QCOMPARE(image.pixelColor(120, 146).alpha(), 255);
 }
 
-void DialogWindowTest::a_screen_that_deletes_it_in_its_destructor_leaves_nothing_behind()
+void TestDialogWindow::aScreenThatDeletesItInItsDestructorLeavesNothingBehind()
 {
-    struct Owner : TestScreen {
+    struct Owner : ListScreen {
         Owner() { notice.show(); }
         Notice notice;
     };
@@ -294,17 +294,17 @@ void DialogWindowTest::a_screen_that_deletes_it_in_its_destructor_leaves_nothing
     QVERIFY(!ZApplication::pressKey(Qt::Key_Select));
 }
 
-void DialogWindowTest::the_display_is_what_was_set_or_else_the_outermost_screen()
+void TestDialogWindow::theDisplayIsWhatWasSetOrElseTheOutermostScreen()
 {
     QVERIFY(!ZApplication::display());
-    TestScreen screen;
+    ListScreen screen;
     QVERIFY(!ZApplication::display());
     screen.show();
     QCOMPARE(ZApplication::display(), &screen);
-    TestScreen sub(&screen);
+    ListScreen sub(&screen);
     sub.show();
     QCOMPARE(ZApplication::display(), &screen);
-    TestScreen later;
+    ListScreen later;
     later.show();
     QCOMPARE(ZApplication::display(), &later);
     later.hide();
@@ -317,5 +317,5 @@ void DialogWindowTest::the_display_is_what_was_set_or_else_the_outermost_screen(
     QCOMPARE(ZApplication::display(), &screen);
 }
 
-KAV_TEST_GROUP(DialogWindowTest, QApplication);
+KAV_TEST_GROUP(TestDialogWindow, QApplication);
 #include "tst_dialog_window.moc"

@@ -15,37 +15,37 @@
 
 using namespace ToolkitTestKit;
 
-class FocusTest : public QObject
+class TestFocus : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void every_key_stands_for_one_phone_key_only();
-    void a_key_press_without_a_phone_goes_nowhere();
-    void the_keypad_works_whoever_has_the_focus();
-    void the_keypad_presses_and_releases_once();
-    void a_key_may_delete_its_target();
-    void typed_keys_carry_their_text();
-    void a_sub_screen_takes_the_keys_and_gives_them_back_data();
-    void a_sub_screen_takes_the_keys_and_gives_them_back();
-    void a_sub_screen_keeps_the_focus_when_the_list_below_asks_for_it();
-    void a_screen_shown_with_its_sub_screen_leaves_the_keys_to_it();
-    void a_dialog_shown_with_its_screen_has_the_keys();
-    void the_last_focus_inside_a_screen_is_kept();
-    void screens_side_by_side_do_not_cover_each_other();
-    void the_tab_key_stays_when_there_is_nowhere_to_go();
-    void hidden_screens_do_not_take_the_focus_from_the_window_around();
-    void random_coming_and_going_leaves_the_keys_with_the_one_on_top();
+    void everyKeyStandsForOnePhoneKeyOnly();
+    void aKeyPressWithoutAPhoneGoesNowhere();
+    void theKeypadWorksWhoeverHasTheFocus();
+    void theKeypadPressesAndReleasesOnce();
+    void aKeyMayDeleteItsTarget();
+    void typedKeysCarryTheirText();
+    void aSubScreenTakesTheKeysAndGivesThemBack_data();
+    void aSubScreenTakesTheKeysAndGivesThemBack();
+    void aSubScreenKeepsTheFocusWhenTheListBelowAsksForIt();
+    void aScreenShownWithItsSubScreenLeavesTheKeysToIt();
+    void aDialogShownWithItsScreenHasTheKeys();
+    void theLastFocusInsideAScreenIsKept();
+    void screensSideBySideDoNotCoverEachOther();
+    void theTabKeyStaysWhenThereIsNowhereToGo();
+    void hiddenScreensDoNotTakeTheFocusFromTheWindowAround();
+    void randomComingAndGoingLeavesTheKeysWithTheOneOnTop();
 };
 
-void FocusTest::init()
+void TestFocus::init()
 {
     noWarnings();
 }
 
-void FocusTest::every_key_stands_for_one_phone_key_only()
+void TestFocus::everyKeyStandsForOnePhoneKeyOnly()
 {
     QSet<int> keys;
     for (const ZKeys::Binding &binding : ZKeys::bindings) {
@@ -57,21 +57,21 @@ void FocusTest::every_key_stands_for_one_phone_key_only()
     QCOMPARE(ZKeys::phoneKey(0), ZKeys::PhoneKey::None);
 }
 
-void FocusTest::a_key_press_without_a_phone_goes_nowhere()
+void TestFocus::aKeyPressWithoutAPhoneGoesNowhere()
 {
     QVERIFY(!ZApplication::keyTarget());
     QVERIFY(!ZApplication::pressKey(Qt::Key_Select));
-    TestScreen unshown;
+    ListScreen unshown;
     QVERIFY(!ZApplication::keyTarget());
 }
 
-void FocusTest::the_keypad_works_whoever_has_the_focus()
+void TestFocus::theKeypadWorksWhoeverHasTheFocus()
 {
     QWidget around;
     around.resize(500, 400);
     QLineEdit edit(&around);
     edit.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
     around.show();
     screen.show();
@@ -92,7 +92,7 @@ void FocusTest::the_keypad_works_whoever_has_the_focus()
     QCOMPARE(screen.list->currentItem(), 2);
 }
 
-void FocusTest::the_keypad_presses_and_releases_once()
+void TestFocus::theKeypadPressesAndReleasesOnce()
 {
     struct Watch : QObject {
         QList<QEvent::Type> seen;
@@ -103,7 +103,7 @@ void FocusTest::the_keypad_presses_and_releases_once()
             return false;
         }
     };
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     Watch watch;
     screen.list->installEventFilter(&watch);
@@ -111,18 +111,18 @@ void FocusTest::the_keypad_presses_and_releases_once()
     QCOMPARE(watch.seen, QList<QEvent::Type>({QEvent::KeyPress, QEvent::KeyRelease}));
 }
 
-void FocusTest::a_key_may_delete_its_target()
+void TestFocus::aKeyMayDeleteItsTarget()
 {
-    const QPointer<TestScreen> screen = new TestScreen;
+    const QPointer<ListScreen> screen = new ListScreen;
     screen->show();
     connect(screen, &ZKbMainWidget::clearKeyClicked, this, [&] { delete screen; });
     QVERIFY(ZApplication::pressKey(Qt::Key_Clear));
     QVERIFY(!screen);
 }
 
-void FocusTest::typed_keys_carry_their_text()
+void TestFocus::typedKeysCarryTheirText()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("Abc"));
     screen.addRow(QStringLiteral("Xyz"));
     screen.show();
@@ -130,7 +130,7 @@ void FocusTest::typed_keys_carry_their_text()
     QCOMPARE(screen.list->currentItem(), 1);
 }
 
-void FocusTest::a_sub_screen_takes_the_keys_and_gives_them_back_data()
+void TestFocus::aSubScreenTakesTheKeysAndGivesThemBack_data()
 {
     QTest::addColumn<int>("end");
     QTest::newRow("deleted") << 0;
@@ -138,15 +138,15 @@ void FocusTest::a_sub_screen_takes_the_keys_and_gives_them_back_data()
     QTest::newRow("hidden") << 2;
 }
 
-void FocusTest::a_sub_screen_takes_the_keys_and_gives_them_back()
+void TestFocus::aSubScreenTakesTheKeysAndGivesThemBack()
 {
     QFETCH(int, end);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
-    auto *sub = new TestScreen(&screen);
+    auto *sub = new ListScreen(&screen);
     sub->addRows(3);
     QSignalSpy subClear(sub, &ZKbMainWidget::clearKeyClicked);
     sub->show();
@@ -168,26 +168,26 @@ void FocusTest::a_sub_screen_takes_the_keys_and_gives_them_back()
     QCOMPARE(clear.count(), 1);
 }
 
-void FocusTest::a_sub_screen_keeps_the_focus_when_the_list_below_asks_for_it()
+void TestFocus::aSubScreenKeepsTheFocusWhenTheListBelowAsksForIt()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
-    TestScreen sub(&screen);
+    ListScreen sub(&screen);
     sub.addRows(3);
     sub.show();
     screen.list->setFocus();
     QVERIFY(sub.list->hasFocus());
 }
 
-void FocusTest::a_screen_shown_with_its_sub_screen_leaves_the_keys_to_it()
+void TestFocus::aScreenShownWithItsSubScreenLeavesTheKeysToIt()
 {
     QWidget around;
     around.resize(300, 400);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
-    TestScreen sub(&screen);
+    ListScreen sub(&screen);
     sub.addRows(3);
     around.show();
     screen.show();
@@ -201,11 +201,11 @@ void FocusTest::a_screen_shown_with_its_sub_screen_leaves_the_keys_to_it()
     QCOMPARE(around.focusWidget(), sub.list);
 }
 
-void FocusTest::a_dialog_shown_with_its_screen_has_the_keys()
+void TestFocus::aDialogShownWithItsScreenHasTheKeys()
 {
     QWidget around;
     around.resize(300, 400);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     ZMessageDlg dialog(QString(), QStringLiteral("?"), ZMessageDlg::QuestionDlg, 0, &screen, nullptr, true, 0);
     dialog.show();
     screen.show();
@@ -215,9 +215,9 @@ void FocusTest::a_dialog_shown_with_its_screen_has_the_keys()
     QVERIFY(dialog.hasFocus());
 }
 
-void FocusTest::the_last_focus_inside_a_screen_is_kept()
+void TestFocus::theLastFocusInsideAScreenIsKept()
 {
-    TestScreen screen;
+    ListScreen screen;
     QLineEdit edit(screen.getContentWidget(true));
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -231,12 +231,12 @@ void FocusTest::the_last_focus_inside_a_screen_is_kept()
     QCOMPARE(ZApplication::keyTarget(), &edit);
 }
 
-void FocusTest::screens_side_by_side_do_not_cover_each_other()
+void TestFocus::screensSideBySideDoNotCoverEachOther()
 {
     QWidget around;
     around.resize(600, 400);
-    TestScreen left(&around);
-    TestScreen right(&around);
+    ListScreen left(&around);
+    ListScreen right(&around);
     right.move(300, 0);
     around.show();
     left.show();
@@ -248,9 +248,9 @@ void FocusTest::screens_side_by_side_do_not_cover_each_other()
     QVERIFY(right.list->hasFocus());
 }
 
-void FocusTest::the_tab_key_stays_when_there_is_nowhere_to_go()
+void TestFocus::theTabKeyStaysWhenThereIsNowhereToGo()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -260,13 +260,13 @@ void FocusTest::the_tab_key_stays_when_there_is_nowhere_to_go()
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void FocusTest::hidden_screens_do_not_take_the_focus_from_the_window_around()
+void TestFocus::hiddenScreensDoNotTakeTheFocusFromTheWindowAround()
 {
     QWidget around;
     around.resize(600, 400);
     QLineEdit edit(&around);
     edit.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     around.show();
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
@@ -277,14 +277,14 @@ void FocusTest::hidden_screens_do_not_take_the_focus_from_the_window_around()
 
 // Screens in screens and dialogs on them, shown, hidden and deleted at random: whatever is then on top, as a person
 // sees it, has the keys.
-void FocusTest::random_coming_and_going_leaves_the_keys_with_the_one_on_top()
+void TestFocus::randomComingAndGoingLeavesTheKeysWithTheOneOnTop()
 {
     QWidget around;
     around.resize(300, 400);
     around.show();
     QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
     QRandomGenerator random(7);
-    TestScreen root(&around);
+    ListScreen root(&around);
     root.addRows(3);
     root.show();
     QList<QPointer<QWidget>> layers;
@@ -297,7 +297,7 @@ void FocusTest::random_coming_and_going_leaves_the_keys_with_the_one_on_top()
         QWidget *parent = qobject_cast<ZKbMainWidget *>(some) ? some : &root;
         const int deed = random.bounded(layers.size() < 8 ? 6 : 4);
         if (deed == 5) {
-            auto *sub = new TestScreen(parent);
+            auto *sub = new ListScreen(parent);
             sub->addRows(2);
             layers << sub;
             sub->show();
@@ -323,5 +323,5 @@ void FocusTest::random_coming_and_going_leaves_the_keys_with_the_one_on_top()
     }
 }
 
-KAV_TEST_GROUP(FocusTest, QApplication);
+KAV_TEST_GROUP(TestFocus, QApplication);
 #include "tst_focus.moc"

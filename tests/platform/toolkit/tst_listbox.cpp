@@ -71,7 +71,7 @@ qint64 nanosecondsOfThread()
 qint64 nanosecondsToFill(int count)
 {
     const qint64 begun = nanosecondsOfThread();
-    TestScreen screen;
+    ListScreen screen;
     for (int i = 0; i < count; ++i) {
         ZSettingItem *item = screen.addRow(QStringLiteral("Row"));
         if (screen.list->index(item) != i)
@@ -82,67 +82,67 @@ qint64 nanosecondsToFill(int count)
 
 } // namespace
 
-class ListBoxTest : public QObject
+class TestListBox : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void rows_are_kept_in_the_order_of_their_insertion();
-    void a_row_can_be_put_before_another_and_all_rows_know_their_place();
-    void an_index_that_is_not_there_gives_no_row();
-    void what_cannot_be_inserted_is_refused_with_a_warning();
-    void the_list_deletes_all_items_made_on_it_inserted_or_not();
-    void a_deleted_item_takes_its_row_along();
-    void an_item_that_outlives_its_list_knows_of_none();
-    void clear_deletes_the_rows_and_leaves_the_list_usable();
-    void a_list_filled_again_has_the_bar_where_it_was();
-    void a_shorter_list_filled_again_has_the_bar_on_its_first_row();
-    void a_list_filled_again_after_a_key_has_the_bar_on_its_first_row();
-    void a_list_filled_again_under_the_pointer_reports_the_choice();
-    void another_row_under_the_pointer_is_not_reported();
-    void sub_items_make_title_and_value();
-    void a_sub_item_that_has_no_place_is_refused_with_a_warning();
-    void plain_items_keep_their_texts_by_number();
-    void an_item_without_a_layout_of_its_own_has_the_lists();
-    void a_rewritten_value_is_reported_for_its_row_only();
-    void rewriting_the_same_text_is_reported_too();
-    void what_a_screen_reader_says_is_title_and_value();
-    void the_first_row_that_can_be_chosen_gets_the_focus_bar();
-    void setSelected_moves_and_takes_away_the_bar_and_ignores_bad_rows();
-    void up_and_down_pass_over_separators_and_go_on_at_the_other_end();
-    void a_held_key_stops_at_the_end();
-    void page_and_end_keys_move_the_bar_data();
-    void page_and_end_keys_move_the_bar();
-    void a_typed_letter_moves_to_the_next_row_that_begins_with_it();
-    void the_headings_over_a_row_come_into_view_with_it();
-    void keys_on_a_list_without_choosable_rows_are_harmless();
-    void the_bar_leaves_a_row_that_becomes_a_separator();
-    void choosing_is_reported_once_data();
-    void choosing_is_reported_once();
-    void a_held_select_key_chooses_once();
-    void a_disabled_row_is_reported_and_says_that_it_is_disabled();
-    void a_separator_is_never_reported();
-    void a_row_of_another_kind_is_reported_without_a_setting_item();
-    void a_pointer_released_on_another_row_chooses_nothing();
-    void only_the_main_button_chooses();
-    void whoever_hears_of_a_choice_may_do_anything_data();
-    void whoever_hears_of_a_choice_may_do_anything();
-    void a_list_rebuilt_in_the_first_report_does_not_report_the_new_row();
-    void texts_of_any_length_and_content_do_no_harm();
-    void the_cost_of_filling_grows_with_the_number_of_rows_only();
-    void random_insertions_and_deletions_agree_with_a_plain_list();
+    void rowsAreKeptInTheOrderOfTheirInsertion();
+    void aRowCanBePutBeforeAnotherAndAllRowsKnowTheirPlace();
+    void anIndexThatIsNotThereGivesNoRow();
+    void whatCannotBeInsertedIsRefusedWithAWarning();
+    void theListDeletesAllItemsMadeOnItInsertedOrNot();
+    void aDeletedItemTakesItsRowAlong();
+    void anItemThatOutlivesItsListKnowsOfNone();
+    void clearDeletesTheRowsAndLeavesTheListUsable();
+    void aListFilledAgainHasTheBarWhereItWas();
+    void aShorterListFilledAgainHasTheBarOnItsFirstRow();
+    void aListFilledAgainAfterAKeyHasTheBarOnItsFirstRow();
+    void aListFilledAgainUnderThePointerReportsTheChoice();
+    void anotherRowUnderThePointerIsNotReported();
+    void subItemsMakeTitleAndValue();
+    void aSubItemThatHasNoPlaceIsRefusedWithAWarning();
+    void plainItemsKeepTheirTextsByNumber();
+    void anItemWithoutALayoutOfItsOwnHasTheLists();
+    void aRewrittenValueIsReportedForItsRowOnly();
+    void rewritingTheSameTextIsReportedToo();
+    void whatAScreenReaderSaysIsTitleAndValue();
+    void theFirstRowThatCanBeChosenGetsTheFocusBar();
+    void setSelectedMovesAndTakesAwayTheBarAndIgnoresBadRows();
+    void upAndDownPassOverSeparatorsAndGoOnAtTheOtherEnd();
+    void aHeldKeyStopsAtTheEnd();
+    void pageAndEndKeysMoveTheBar_data();
+    void pageAndEndKeysMoveTheBar();
+    void aTypedLetterMovesToTheNextRowThatBeginsWithIt();
+    void theHeadingsOverARowComeIntoViewWithIt();
+    void keysOnAListWithoutChoosableRowsAreHarmless();
+    void theBarLeavesARowThatBecomesASeparator();
+    void choosingIsReportedOnce_data();
+    void choosingIsReportedOnce();
+    void aHeldSelectKeyChoosesOnce();
+    void aDisabledRowIsReportedAndSaysThatItIsDisabled();
+    void aSeparatorIsNeverReported();
+    void aRowOfAnotherKindIsReportedWithoutASettingItem();
+    void aPointerReleasedOnAnotherRowChoosesNothing();
+    void onlyTheMainButtonChooses();
+    void whoeverHearsOfAChoiceMayDoAnything_data();
+    void whoeverHearsOfAChoiceMayDoAnything();
+    void aListRebuiltInTheFirstReportDoesNotReportTheNewRow();
+    void textsOfAnyLengthAndContentDoNoHarm();
+    void theCostOfFillingGrowsWithTheNumberOfRowsOnly();
+    void randomInsertionsAndDeletionsAgreeWithAPlainList();
 };
 
-void ListBoxTest::init()
+void TestListBox::init()
 {
     noWarnings();
 }
 
-void ListBoxTest::rows_are_kept_in_the_order_of_their_insertion()
+void TestListBox::rowsAreKeptInTheOrderOfTheirInsertion()
 {
-    TestScreen screen;
+    ListScreen screen;
     ZSettingItem *a = screen.addRow(QStringLiteral("A"));
     ZSettingItem *b = screen.addRow(QStringLiteral("B"));
     QCOMPARE(screen.list->count(), 2);
@@ -153,9 +153,9 @@ void ListBoxTest::rows_are_kept_in_the_order_of_their_insertion()
     QCOMPARE(screen.list->model()->rowCount(), 2);
 }
 
-void ListBoxTest::a_row_can_be_put_before_another_and_all_rows_know_their_place()
+void TestListBox::aRowCanBePutBeforeAnotherAndAllRowsKnowTheirPlace()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     for (const int place : {0, 2, 4, 100, -5}) {
         auto *item = new ZSettingItem(screen.list, QString());
@@ -168,10 +168,10 @@ void ListBoxTest::a_row_can_be_put_before_another_and_all_rows_know_their_place(
     QVERIFY2(screen.list->isSelected(1), "the bar does not stay on its row");
 }
 
-void ListBoxTest::an_index_that_is_not_there_gives_no_row()
+void TestListBox::anIndexThatIsNotThereGivesNoRow()
 {
-    TestScreen screen;
-    TestScreen other;
+    ListScreen screen;
+    ListScreen other;
     screen.addRows(2);
     QVERIFY(!screen.list->item(-1));
     QVERIFY(!screen.list->item(2));
@@ -180,10 +180,10 @@ void ListBoxTest::an_index_that_is_not_there_gives_no_row()
     QCOMPARE(screen.list->index(new ZSettingItem(screen.list, QString())), -1);
 }
 
-void ListBoxTest::what_cannot_be_inserted_is_refused_with_a_warning()
+void TestListBox::whatCannotBeInsertedIsRefusedWithAWarning()
 {
-    TestScreen screen;
-    TestScreen other;
+    ListScreen screen;
+    ListScreen other;
     ZSettingItem *a = screen.addRow(QStringLiteral("A"));
     ZSettingItem ownerless(nullptr, QString());
     ownerless.appendSubItem(0, QStringLiteral("nobody's"), false, Title);
@@ -203,11 +203,11 @@ void ListBoxTest::what_cannot_be_inserted_is_refused_with_a_warning()
     QVERIFY(!ownerless.listBox());
 }
 
-void ListBoxTest::the_list_deletes_all_items_made_on_it_inserted_or_not()
+void TestListBox::theListDeletesAllItemsMadeOnItInsertedOrNot()
 {
     livingItems = 0;
     {
-        TestScreen screen;
+        ListScreen screen;
         for (int i = 0; i < 20; ++i) {
             auto *item = new CountedItem(screen.list);
             if (i % 2)
@@ -220,9 +220,9 @@ void ListBoxTest::the_list_deletes_all_items_made_on_it_inserted_or_not()
     QCOMPARE(livingItems, 0);
 }
 
-void ListBoxTest::a_deleted_item_takes_its_row_along()
+void TestListBox::aDeletedItemTakesItsRowAlong()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(4);
     screen.list->setSelected(1, true);
     ZListItem *gone = screen.list->item(1);
@@ -240,7 +240,7 @@ void ListBoxTest::a_deleted_item_takes_its_row_along()
     QCOMPARE(screen.list->count(), 0);
 }
 
-void ListBoxTest::an_item_that_outlives_its_list_knows_of_none()
+void TestListBox::anItemThatOutlivesItsListKnowsOfNone()
 {
     // An item's own destructor runs while the list goes.
     struct Asking : ZSettingItem {
@@ -257,15 +257,15 @@ void ListBoxTest::an_item_that_outlives_its_list_knows_of_none()
     };
     bool hadList = true;
     {
-        TestScreen screen;
+        ListScreen screen;
         screen.list->insertItem(new Asking(screen.list, &hadList), -1, true);
     }
     QVERIFY(!hadList);
 }
 
-void ListBoxTest::clear_deletes_the_rows_and_leaves_the_list_usable()
+void TestListBox::clearDeletesTheRowsAndLeavesTheListUsable()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(30);
     screen.show();
     screen.list->setSelected(25, true);
@@ -278,9 +278,9 @@ void ListBoxTest::clear_deletes_the_rows_and_leaves_the_list_usable()
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void ListBoxTest::a_list_filled_again_has_the_bar_where_it_was()
+void TestListBox::aListFilledAgainHasTheBarWhereItWas()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(30);
     screen.show();
     for (const int bar : {25, 0, 29}) {
@@ -292,9 +292,9 @@ void ListBoxTest::a_list_filled_again_has_the_bar_where_it_was()
     }
 }
 
-void ListBoxTest::a_shorter_list_filled_again_has_the_bar_on_its_first_row()
+void TestListBox::aShorterListFilledAgainHasTheBarOnItsFirstRow()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(30);
     screen.list->setSelected(3, true);
     screen.list->clear();
@@ -302,9 +302,9 @@ void ListBoxTest::a_shorter_list_filled_again_has_the_bar_on_its_first_row()
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void ListBoxTest::a_list_filled_again_after_a_key_has_the_bar_on_its_first_row()
+void TestListBox::aListFilledAgainAfterAKeyHasTheBarOnItsFirstRow()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(5);
     screen.show();
     screen.list->setSelected(3, true);
@@ -320,9 +320,9 @@ void ListBoxTest::a_list_filled_again_after_a_key_has_the_bar_on_its_first_row()
     QCOMPARE(screen.list->currentItem(), 1);
 }
 
-void ListBoxTest::a_list_filled_again_under_the_pointer_reports_the_choice()
+void TestListBox::aListFilledAgainUnderThePointerReportsTheChoice()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(5);
     screen.show();
     QSignalSpy spy(screen.list, SIGNAL(selected(ZSettingItem *)));
@@ -341,9 +341,9 @@ void ListBoxTest::a_list_filled_again_under_the_pointer_reports_the_choice()
     QCOMPARE(spy.count(), 1);
 }
 
-void ListBoxTest::another_row_under_the_pointer_is_not_reported()
+void TestListBox::anotherRowUnderThePointerIsNotReported()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(5);
     screen.show();
     QSignalSpy spy(screen.list, SIGNAL(selected(ZSettingItem *)));
@@ -356,9 +356,9 @@ void ListBoxTest::another_row_under_the_pointer_is_not_reported()
     QCOMPARE(spy.count(), 0);
 }
 
-void ListBoxTest::sub_items_make_title_and_value()
+void TestListBox::subItemsMakeTitleAndValue()
 {
-    TestScreen screen;
+    ListScreen screen;
     auto *item = new ZSettingItem(screen.list, QString());
     QVERIFY(item->title().isNull());
     QVERIFY(item->value().isNull());
@@ -376,9 +376,9 @@ void ListBoxTest::sub_items_make_title_and_value()
     QVERIFY(item->subItemText(-1).isNull());
 }
 
-void ListBoxTest::a_sub_item_that_has_no_place_is_refused_with_a_warning()
+void TestListBox::aSubItemThatHasNoPlaceIsRefusedWithAWarning()
 {
-    TestScreen screen;
+    ListScreen screen;
     ZSettingItem *item = screen.addRow(QStringLiteral("Title"), QStringLiteral("Value"));
     const auto refused = [] {
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("ZSettingItem::.*there is no")));
@@ -398,9 +398,9 @@ void ListBoxTest::a_sub_item_that_has_no_place_is_refused_with_a_warning()
     QCOMPARE(item->value(), QStringLiteral("Value"));
 }
 
-void ListBoxTest::plain_items_keep_their_texts_by_number()
+void TestListBox::plainItemsKeepTheirTextsByNumber()
 {
-    TestScreen screen;
+    ListScreen screen;
     auto *item = new ZListBoxItem(screen.list, QString());
     QPixmap icon(8, 8);
     item->appendSubItem(0, QString(), QString(), &icon, 50, ZListBoxItem::HighShowPriority);
@@ -419,9 +419,9 @@ void ListBoxTest::plain_items_keep_their_texts_by_number()
     QVERIFY(item->icon().isNull());
 }
 
-void ListBoxTest::an_item_without_a_layout_of_its_own_has_the_lists()
+void TestListBox::anItemWithoutALayoutOfItsOwnHasTheLists()
 {
-    TestScreen screen;
+    ListScreen screen;
     const ZSettingItem own(screen.list, QStringLiteral("%P"));
     const ZSettingItem none(screen.list, QString());
     QCOMPARE(own.type(), QStringLiteral("%P"));
@@ -432,9 +432,9 @@ void ListBoxTest::an_item_without_a_layout_of_its_own_has_the_lists()
     QCOMPARE(none.type(), QStringLiteral("%I%M"));
 }
 
-void ListBoxTest::a_rewritten_value_is_reported_for_its_row_only()
+void TestListBox::aRewrittenValueIsReportedForItsRowOnly()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(6);
     ChangedRows changed(screen.list->model());
     for (const int row : {3, 0, 5})
@@ -448,9 +448,9 @@ void ListBoxTest::a_rewritten_value_is_reported_for_its_row_only()
     QCOMPARE(changed.rows, QList<int>({2}));
 }
 
-void ListBoxTest::rewriting_the_same_text_is_reported_too()
+void TestListBox::rewritingTheSameTextIsReportedToo()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     ChangedRows changed(screen.list->model());
     auto *item = static_cast<ZSettingItem *>(screen.list->item(1));
@@ -458,9 +458,9 @@ void ListBoxTest::rewriting_the_same_text_is_reported_too()
     QCOMPARE(changed.rows, QList<int>({1}));
 }
 
-void ListBoxTest::what_a_screen_reader_says_is_title_and_value()
+void TestListBox::whatAScreenReaderSaysIsTitleAndValue()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("Last Call"), QStringLiteral("00:01:05"));
     screen.addRow(QStringLiteral("Call Cost Setup"));
     screen.addSeparator(QStringLiteral("All Data Sessions"));
@@ -477,9 +477,9 @@ void ListBoxTest::what_a_screen_reader_says_is_title_and_value()
     QCOMPARE(accessible->child(0)->text(QAccessible::Name), QStringLiteral("Last Call, 00:01:05"));
 }
 
-void ListBoxTest::the_first_row_that_can_be_chosen_gets_the_focus_bar()
+void TestListBox::theFirstRowThatCanBeChosenGetsTheFocusBar()
 {
-    TestScreen screen;
+    ListScreen screen;
     QCOMPARE(screen.list->currentItem(), -1);
     screen.addSeparator(QStringLiteral("Heading"));
     QCOMPARE(screen.list->currentItem(), -1);
@@ -494,9 +494,9 @@ void ListBoxTest::the_first_row_that_can_be_chosen_gets_the_focus_bar()
     QCOMPARE(screen.list->currentItem(), 1);
 }
 
-void ListBoxTest::setSelected_moves_and_takes_away_the_bar_and_ignores_bad_rows()
+void TestListBox::setSelectedMovesAndTakesAwayTheBarAndIgnoresBadRows()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.addSeparator(QStringLiteral("Heading"));
     screen.list->setSelected(2, true);
@@ -515,9 +515,9 @@ void ListBoxTest::setSelected_moves_and_takes_away_the_bar_and_ignores_bad_rows(
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void ListBoxTest::up_and_down_pass_over_separators_and_go_on_at_the_other_end()
+void TestListBox::upAndDownPassOverSeparatorsAndGoOnAtTheOtherEnd()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addSeparator(QStringLiteral("Heading"));
     screen.addSeparator(QStringLiteral("Heading"));
     screen.addRow(QStringLiteral("2"));
@@ -539,9 +539,9 @@ void ListBoxTest::up_and_down_pass_over_separators_and_go_on_at_the_other_end()
     QCOMPARE(way, QList<int>({2, 5, 4, 2}));
 }
 
-void ListBoxTest::a_held_key_stops_at_the_end()
+void TestListBox::aHeldKeyStopsAtTheEnd()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(5);
     press(screen.list, Qt::Key_Down);
     for (int i = 0; i < 20; ++i)
@@ -553,7 +553,7 @@ void ListBoxTest::a_held_key_stops_at_the_end()
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void ListBoxTest::page_and_end_keys_move_the_bar_data()
+void TestListBox::pageAndEndKeysMoveTheBar_data()
 {
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("key");
@@ -567,12 +567,12 @@ void ListBoxTest::page_and_end_keys_move_the_bar_data()
     QTest::newRow("end") << 20 << int(Qt::Key_End) << 38;
 }
 
-void ListBoxTest::page_and_end_keys_move_the_bar()
+void TestListBox::pageAndEndKeysMoveTheBar()
 {
     QFETCH(int, from);
     QFETCH(int, key);
     QFETCH(int, to);
-    TestScreen screen;
+    ListScreen screen;
     screen.addSeparator(QStringLiteral("First"));
     screen.addRows(38);
     screen.addSeparator(QStringLiteral("Last"));
@@ -584,9 +584,9 @@ void ListBoxTest::page_and_end_keys_move_the_bar()
     QVERIFY(screen.list->viewport()->rect().contains(seen));
 }
 
-void ListBoxTest::a_typed_letter_moves_to_the_next_row_that_begins_with_it()
+void TestListBox::aTypedLetterMovesToTheNextRowThatBeginsWithIt()
 {
-    TestScreen screen;
+    ListScreen screen;
     for (const char *title : {"Andorra", "Belgium", "Bhutan", "Chad"})
         screen.addRow(QLatin1String(title));
     screen.addSeparator(QStringLiteral("Denmark"));
@@ -603,9 +603,9 @@ void ListBoxTest::a_typed_letter_moves_to_the_next_row_that_begins_with_it()
     }
 }
 
-void ListBoxTest::the_headings_over_a_row_come_into_view_with_it()
+void TestListBox::theHeadingsOverARowComeIntoViewWithIt()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addSeparator(QStringLiteral("First"));
     screen.addSeparator(QStringLiteral("Second"));
     screen.addRows(30);
@@ -618,9 +618,9 @@ void ListBoxTest::the_headings_over_a_row_come_into_view_with_it()
     QCOMPARE(screen.list->verticalScrollBar()->value(), 0);
 }
 
-void ListBoxTest::keys_on_a_list_without_choosable_rows_are_harmless()
+void TestListBox::keysOnAListWithoutChoosableRowsAreHarmless()
 {
-    TestScreen screen;
+    ListScreen screen;
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
     screen.show();
     for (int round = 0; round < 2; ++round) {
@@ -633,9 +633,9 @@ void ListBoxTest::keys_on_a_list_without_choosable_rows_are_harmless()
     QCOMPARE(chosen.count(), 0);
 }
 
-void ListBoxTest::the_bar_leaves_a_row_that_becomes_a_separator()
+void TestListBox::theBarLeavesARowThatBecomesASeparator()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.list->setSelected(2, true);
     screen.list->item(2)->setSeparator(QStringLiteral("Heading"), nullptr);
@@ -645,7 +645,7 @@ void ListBoxTest::the_bar_leaves_a_row_that_becomes_a_separator()
     QCOMPARE(screen.list->currentItem(), -1);
 }
 
-void ListBoxTest::choosing_is_reported_once_data()
+void TestListBox::choosingIsReportedOnce_data()
 {
     QTest::addColumn<int>("key");
     QTest::newRow("by the select key") << int(Qt::Key_Select);
@@ -655,10 +655,10 @@ void ListBoxTest::choosing_is_reported_once_data()
     QTest::newRow("by the pointer") << 0;
 }
 
-void ListBoxTest::choosing_is_reported_once()
+void TestListBox::choosingIsReportedOnce()
 {
     QFETCH(int, key);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(4);
     screen.show();
     QList<int> selected;
@@ -678,9 +678,9 @@ void ListBoxTest::choosing_is_reported_once()
     QCOMPARE(screen.list->currentItem(), 2);
 }
 
-void ListBoxTest::a_held_select_key_chooses_once()
+void TestListBox::aHeldSelectKeyChoosesOnce()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
     press(screen.list, Qt::Key_Select);
@@ -689,9 +689,9 @@ void ListBoxTest::a_held_select_key_chooses_once()
     QCOMPARE(chosen.count(), 1);
 }
 
-void ListBoxTest::a_disabled_row_is_reported_and_says_that_it_is_disabled()
+void TestListBox::aDisabledRowIsReportedAndSaysThatItIsDisabled()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     screen.list->item(1)->setEnabled(false);
     QVERIFY(!screen.list->model()->index(1, 0).data(ZListBox::EnabledRole).toBool());
@@ -704,9 +704,9 @@ void ListBoxTest::a_disabled_row_is_reported_and_says_that_it_is_disabled()
     QCOMPARE(enabled, QList<bool>({false, true}));
 }
 
-void ListBoxTest::a_separator_is_never_reported()
+void TestListBox::aSeparatorIsNeverReported()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("A"));
     screen.addSeparator(QStringLiteral("Heading"));
     screen.show();
@@ -718,9 +718,9 @@ void ListBoxTest::a_separator_is_never_reported()
     QCOMPARE(screen.list->currentItem(), 0);
 }
 
-void ListBoxTest::a_row_of_another_kind_is_reported_without_a_setting_item()
+void TestListBox::aRowOfAnotherKindIsReportedWithoutASettingItem()
 {
-    TestScreen screen;
+    ListScreen screen;
     auto *item = new ZListBoxItem(screen.list, QString());
     item->appendSubItem(0, QStringLiteral("Custom"), QString(), nullptr, 50, ZListBoxItem::HighShowPriority);
     screen.list->insertItem(item, -1, true);
@@ -731,9 +731,9 @@ void ListBoxTest::a_row_of_another_kind_is_reported_without_a_setting_item()
     QCOMPARE(selected.count(), 0);
 }
 
-void ListBoxTest::a_pointer_released_on_another_row_chooses_nothing()
+void TestListBox::aPointerReleasedOnAnotherRowChoosesNothing()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(4);
     screen.show();
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
@@ -748,9 +748,9 @@ void ListBoxTest::a_pointer_released_on_another_row_chooses_nothing()
     QCOMPARE(chosen.count(), 0);
 }
 
-void ListBoxTest::only_the_main_button_chooses()
+void TestListBox::onlyTheMainButtonChooses()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(4);
     screen.show();
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
@@ -759,7 +759,7 @@ void ListBoxTest::only_the_main_button_chooses()
     QCOMPARE(chosen.count(), 0);
 }
 
-void ListBoxTest::whoever_hears_of_a_choice_may_do_anything_data()
+void TestListBox::whoeverHearsOfAChoiceMayDoAnything_data()
 {
     QTest::addColumn<int>("deed");
     QTest::addColumn<bool>("byKey");
@@ -771,11 +771,11 @@ void ListBoxTest::whoever_hears_of_a_choice_may_do_anything_data()
     }
 }
 
-void ListBoxTest::whoever_hears_of_a_choice_may_do_anything()
+void TestListBox::whoeverHearsOfAChoiceMayDoAnything()
 {
     QFETCH(int, deed);
     QFETCH(bool, byKey);
-    QPointer<TestScreen> screen = new TestScreen;
+    QPointer<ListScreen> screen = new ListScreen;
     screen->addRows(4);
     screen->show();
     QVERIFY(QTest::qWaitForWindowActive(screen, 60'000));
@@ -806,9 +806,9 @@ void ListBoxTest::whoever_hears_of_a_choice_may_do_anything()
     delete screen;
 }
 
-void ListBoxTest::a_list_rebuilt_in_the_first_report_does_not_report_the_new_row()
+void TestListBox::aListRebuiltInTheFirstReportDoesNotReportTheNewRow()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(1);
     QSignalSpy selected(screen.list, &ZListBox::selected);
     connect(screen.list, &ZListBox::itemChosen, this, [&] {
@@ -820,9 +820,9 @@ void ListBoxTest::a_list_rebuilt_in_the_first_report_does_not_report_the_new_row
     QCOMPARE(selected.count(), 0);
 }
 
-void ListBoxTest::texts_of_any_length_and_content_do_no_harm()
+void TestListBox::textsOfAnyLengthAndContentDoNoHarm()
 {
-    TestScreen screen;
+    ListScreen screen;
     const QString endless(100'000, QLatin1Char('W'));
     QString odd = QStringLiteral("a\nb\tc\r") + QChar(0) + QChar(QChar::ParagraphSeparator) + QChar(0xd800);
     for (int i = 0; i < 600; ++i)
@@ -843,7 +843,7 @@ void ListBoxTest::texts_of_any_length_and_content_do_no_harm()
                  QSize(240, ZSkinService::RowHeight));
 }
 
-void ListBoxTest::the_cost_of_filling_grows_with_the_number_of_rows_only()
+void TestListBox::theCostOfFillingGrowsWithTheNumberOfRowsOnly()
 {
     // The best of several, as other work empties the processor's caches: ten times the rows, a hundred times the work
     // if every row were looked for.
@@ -857,9 +857,9 @@ void ListBoxTest::the_cost_of_filling_grows_with_the_number_of_rows_only()
     QVERIFY2(many < 35 * few, qPrintable(QStringLiteral("%1 ns against %2 ns").arg(many).arg(few)));
 }
 
-void ListBoxTest::random_insertions_and_deletions_agree_with_a_plain_list()
+void TestListBox::randomInsertionsAndDeletionsAgreeWithAPlainList()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QRandomGenerator random(20'240);
     QList<ZListItem *> model;
@@ -886,5 +886,5 @@ void ListBoxTest::random_insertions_and_deletions_agree_with_a_plain_list()
     }
 }
 
-KAV_TEST_GROUP(ListBoxTest, QApplication);
+KAV_TEST_GROUP(TestListBox, QApplication);
 #include "tst_listbox.moc"

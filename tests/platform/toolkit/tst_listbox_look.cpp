@@ -29,7 +29,7 @@ QColor color(ZSkinService::ColorRole role)
     return ZSkinService::color(role);
 }
 
-void showSettled(TestScreen &screen)
+void showSettled(ListScreen &screen)
 {
     screen.show();
     QVERIFY(QTest::qWaitForWindowExposed(&screen, 60'000));
@@ -43,50 +43,50 @@ int widthOf(const QString &text)
 
 } // namespace
 
-class ListBoxLookTest : public QObject
+class TestListBoxLook : public QObject
 {
     Q_OBJECT
 
 private slots:
     void init();
 
-    void the_focus_bar_is_seen_on_its_row_and_nowhere_else();
-    void a_value_stands_at_the_right_edge();
-    void a_value_is_kept_whole_and_the_title_makes_room();
-    void a_value_that_needs_the_row_leaves_no_title();
-    void a_value_wider_than_the_row_is_elided();
-    void a_row_without_a_value_gives_its_title_the_whole_width();
-    void a_separator_is_seen_as_a_heading();
-    void a_disabled_row_is_greyed();
-    void a_marked_row_is_heavier();
-    void a_row_repaints_when_its_value_is_rewritten();
-    void no_frame_of_a_list_that_is_filled_again_is_without_its_rows_data();
-    void no_frame_of_a_list_that_is_filled_again_is_without_its_rows();
-    void a_list_that_is_filled_again_is_painted_once();
-    void a_list_that_was_filled_under_a_sub_screen_has_its_rows_when_that_goes();
-    void a_photograph_of_a_list_filled_just_now_has_its_rows();
-    void a_row_is_as_sharp_as_the_display_it_is_painted_on();
-    void a_title_that_was_cut_is_whole_again_where_it_fits();
-    void a_row_looks_the_same_however_often_it_is_painted_data();
-    void a_row_looks_the_same_however_often_it_is_painted();
-    void a_title_is_cut_for_the_value_that_it_has_now();
-    void two_rows_alike_but_for_one_thing_do_not_look_alike_data();
-    void two_rows_alike_but_for_one_thing_do_not_look_alike();
-    void the_scroll_bar_is_there_only_when_needed();
-    void the_scroll_bar_can_be_dragged_from_end_to_end();
-    void a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left();
-    void an_icon_stands_before_the_title_and_never_outgrows_its_row();
-    void the_look_does_not_depend_on_the_application_around();
+    void theFocusBarIsSeenOnItsRowAndNowhereElse();
+    void aValueStandsAtTheRightEdge();
+    void aValueIsKeptWholeAndTheTitleMakesRoom();
+    void aValueThatNeedsTheRowLeavesNoTitle();
+    void aValueWiderThanTheRowIsElided();
+    void aRowWithoutAValueGivesItsTitleTheWholeWidth();
+    void aSeparatorIsSeenAsAHeading();
+    void aDisabledRowIsGreyed();
+    void aMarkedRowIsHeavier();
+    void aRowRepaintsWhenItsValueIsRewritten();
+    void noFrameOfAListThatIsFilledAgainIsWithoutItsRows_data();
+    void noFrameOfAListThatIsFilledAgainIsWithoutItsRows();
+    void aListThatIsFilledAgainIsPaintedOnce();
+    void aListThatWasFilledUnderASubScreenHasItsRowsWhenThatGoes();
+    void aPhotographOfAListFilledJustNowHasItsRows();
+    void aRowIsAsSharpAsTheDisplayItIsPaintedOn();
+    void aTitleThatWasCutIsWholeAgainWhereItFits();
+    void aRowLooksTheSameHoweverOftenItIsPainted_data();
+    void aRowLooksTheSameHoweverOftenItIsPainted();
+    void aTitleIsCutForTheValueThatItHasNow();
+    void twoRowsAlikeButForOneThingDoNotLookAlike_data();
+    void twoRowsAlikeButForOneThingDoNotLookAlike();
+    void theScrollBarIsThereOnlyWhenNeeded();
+    void theScrollBarCanBeDraggedFromEndToEnd();
+    void aMirroredDisplayHasTheTitleOnTheRightAndTheValueOnTheLeft();
+    void anIconStandsBeforeTheTitleAndNeverOutgrowsItsRow();
+    void theLookDoesNotDependOnTheApplicationAround();
 };
 
-void ListBoxLookTest::init()
+void TestListBoxLook::init()
 {
     noWarnings();
 }
 
-void ListBoxLookTest::the_focus_bar_is_seen_on_its_row_and_nowhere_else()
+void TestListBoxLook::theFocusBarIsSeenOnItsRowAndNowhereElse()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(4);
     screen.list->setSelected(2, true);
     for (int row = 0; row < 4; ++row) {
@@ -95,9 +95,9 @@ void ListBoxLookTest::the_focus_bar_is_seen_on_its_row_and_nowhere_else()
     }
 }
 
-void ListBoxLookTest::a_value_stands_at_the_right_edge()
+void TestListBoxLook::aValueStandsAtTheRightEdge()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(QString(), QStringLiteral("00:01:05"));
     const QImage row = lookOfRow(screen.list, 1);
@@ -108,9 +108,9 @@ void ListBoxLookTest::a_value_stands_at_the_right_edge()
     QVERIFY(std::abs(left - (240 - margin - widthOf(QStringLiteral("00:01:05")))) < 4);
 }
 
-void ListBoxLookTest::a_value_is_kept_whole_and_the_title_makes_room()
+void TestListBoxLook::aValueIsKeptWholeAndTheTitleMakesRoom()
 {
-    TestScreen screen;
+    ListScreen screen;
     const QString value = QStringLiteral("1042:09:59");
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(QStringLiteral("T"), value);
@@ -125,9 +125,9 @@ void ListBoxLookTest::a_value_is_kept_whole_and_the_title_makes_room()
     QVERIFY2(lastInk(title, color(ZSkinService::ScreenColor)) > right.left() - 20, "the title wastes room");
 }
 
-void ListBoxLookTest::a_value_that_needs_the_row_leaves_no_title()
+void TestListBoxLook::aValueThatNeedsTheRowLeavesNoTitle()
 {
-    TestScreen screen;
+    ListScreen screen;
     QString value = QStringLiteral("9");
     while (widthOf(value + QLatin1Char('9')) < 240 - 2 * ZSkinService::RowMargin)
         value += QLatin1Char('9');
@@ -138,9 +138,9 @@ void ListBoxLookTest::a_value_that_needs_the_row_leaves_no_title()
     QVERIFY(firstInk(lookOfRow(screen.list, 2), color(ZSkinService::ScreenColor)) < 20);
 }
 
-void ListBoxLookTest::a_value_wider_than_the_row_is_elided()
+void TestListBoxLook::aValueWiderThanTheRowIsElided()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(endless, endless + endless);
     const QImage row = lookOfRow(screen.list, 1);
@@ -148,9 +148,9 @@ void ListBoxLookTest::a_value_wider_than_the_row_is_elided()
     QVERIFY(lastInk(row, color(ZSkinService::ScreenColor)) < 240 - ZSkinService::RowMargin);
 }
 
-void ListBoxLookTest::a_row_without_a_value_gives_its_title_the_whole_width()
+void TestListBoxLook::aRowWithoutAValueGivesItsTitleTheWholeWidth()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(endless);
     screen.addRow(endless, QString::fromLatin1(""));
@@ -160,18 +160,18 @@ void ListBoxLookTest::a_row_without_a_value_gives_its_title_the_whole_width()
     QCOMPARE(lookOfRow(screen.list, 2), row);
 }
 
-void ListBoxLookTest::a_separator_is_seen_as_a_heading()
+void TestListBoxLook::aSeparatorIsSeenAsAHeading()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addSeparator(QStringLiteral("Heading"));
     screen.addRow(QStringLiteral("bar"));
     QCOMPARE(lookOfRow(screen.list, 0).pixelColor(2, 4), color(ZSkinService::HeadingColor));
     QVERIFY(lastInk(lookOfRow(screen.list, 0), color(ZSkinService::HeadingColor)) > 40);
 }
 
-void ListBoxLookTest::a_disabled_row_is_greyed()
+void TestListBoxLook::aDisabledRowIsGreyed()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     ZSettingItem *row = screen.addRow(QStringLiteral("Adjust Credit Limit"), QStringLiteral("5"));
     const auto darkest = [&](int index) {
@@ -192,9 +192,9 @@ void ListBoxLookTest::a_disabled_row_is_greyed()
     QVERIFY(lookOfRow(screen.list, 1) != greyedUnderBar);
 }
 
-void ListBoxLookTest::a_marked_row_is_heavier()
+void TestListBoxLook::aMarkedRowIsHeavier()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     ZSettingItem *row = screen.addRow(QStringLiteral("Some title"));
     const QImage plain = lookOfRow(screen.list, 1);
@@ -203,7 +203,7 @@ void ListBoxLookTest::a_marked_row_is_heavier()
             lastInk(plain, color(ZSkinService::ScreenColor)));
 }
 
-void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
+void TestListBoxLook::aRowRepaintsWhenItsValueIsRewritten()
 {
     struct PaintWatch : QObject {
         QRegion painted;
@@ -214,7 +214,7 @@ void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
             return false;
         }
     };
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(6);
     screen.show();
     QVERIFY(QTest::qWaitForWindowExposed(&screen, 60'000));
@@ -226,7 +226,7 @@ void ListBoxLookTest::a_row_repaints_when_its_value_is_rewritten()
     QTRY_VERIFY_WITH_TIMEOUT(watch.painted.contains(middleOfRow(screen.list, 3)), 60'000);
 }
 
-void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_rows_data()
+void TestListBoxLook::noFrameOfAListThatIsFilledAgainIsWithoutItsRows_data()
 {
     QTest::addColumn<int>("count");
     QTest::newRow("one row") << 1;
@@ -234,10 +234,10 @@ void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_row
     QTest::newRow("a list that scrolls") << 30;
 }
 
-void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_rows()
+void TestListBoxLook::noFrameOfAListThatIsFilledAgainIsWithoutItsRows()
 {
     QFETCH(int, count);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(count);
     showSettled(screen);
     FrameRecorder recorder(&screen);
@@ -253,9 +253,9 @@ void ListBoxLookTest::no_frame_of_a_list_that_is_filled_again_is_without_its_row
         QCOMPARE(frame, whole);
 }
 
-void ListBoxLookTest::a_list_that_is_filled_again_is_painted_once()
+void TestListBoxLook::aListThatIsFilledAgainIsPaintedOnce()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(7);
     showSettled(screen);
     FrameRecorder recorder(&screen);
@@ -266,14 +266,14 @@ void ListBoxLookTest::a_list_that_is_filled_again_is_painted_once()
     QCOMPARE(recorder.frames.size(), 1);
 }
 
-void ListBoxLookTest::a_list_that_was_filled_under_a_sub_screen_has_its_rows_when_that_goes()
+void TestListBoxLook::aListThatWasFilledUnderASubScreenHasItsRowsWhenThatGoes()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(7);
     showSettled(screen);
     FrameRecorder recorder(&screen);
     const QImage whole = recorder.picture();
-    auto subScreen = std::make_unique<TestScreen>(&screen);
+    auto subScreen = std::make_unique<ListScreen>(&screen);
     subScreen->show();
     settle();
     QVERIFY(recorder.picture() != whole);
@@ -288,9 +288,9 @@ void ListBoxLookTest::a_list_that_was_filled_under_a_sub_screen_has_its_rows_whe
 }
 
 // It is taken at once, before the event loop gets to do anything.
-void ListBoxLookTest::a_photograph_of_a_list_filled_just_now_has_its_rows()
+void TestListBoxLook::aPhotographOfAListFilledJustNowHasItsRows()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(7);
     showSettled(screen);
     const QImage whole = screen.grab().toImage();
@@ -299,9 +299,9 @@ void ListBoxLookTest::a_photograph_of_a_list_filled_just_now_has_its_rows()
     QCOMPARE(screen.grab().toImage(), whole);
 }
 
-void ListBoxLookTest::a_row_is_as_sharp_as_the_display_it_is_painted_on()
+void TestListBoxLook::aRowIsAsSharpAsTheDisplayItIsPaintedOn()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(QStringLiteral("Sharp"), QStringLiteral("00:01:05"));
     showSettled(screen);
@@ -319,9 +319,9 @@ void ListBoxLookTest::a_row_is_as_sharp_as_the_display_it_is_painted_on()
     QCOMPARE(paintedAt(2), fine);
 }
 
-void ListBoxLookTest::a_title_that_was_cut_is_whole_again_where_it_fits()
+void TestListBoxLook::aTitleThatWasCutIsWholeAgainWhereItFits()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(QStringLiteral("A title for a wide row"));
     showSettled(screen);
@@ -338,7 +338,7 @@ void ListBoxLookTest::a_title_that_was_cut_is_whole_again_where_it_fits()
     QCOMPARE(lookOfRow(screen.list, 1), whole);
 }
 
-void ListBoxLookTest::a_row_looks_the_same_however_often_it_is_painted_data()
+void TestListBoxLook::aRowLooksTheSameHoweverOftenItIsPainted_data()
 {
     QTest::addColumn<QString>("title");
     QTest::addColumn<Qt::LayoutDirection>("direction");
@@ -348,11 +348,11 @@ void ListBoxLookTest::a_row_looks_the_same_however_often_it_is_painted_data()
     QTest::newRow("a mirrored title that is cut") << endless << Qt::RightToLeft;
 }
 
-void ListBoxLookTest::a_row_looks_the_same_however_often_it_is_painted()
+void TestListBoxLook::aRowLooksTheSameHoweverOftenItIsPainted()
 {
     QFETCH(QString, title);
     QFETCH(Qt::LayoutDirection, direction);
-    TestScreen screen;
+    ListScreen screen;
     screen.setLayoutDirection(direction);
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(title, QStringLiteral("00:04:%1").arg(direction)); // as no other row
@@ -362,9 +362,9 @@ void ListBoxLookTest::a_row_looks_the_same_however_often_it_is_painted()
         QCOMPARE(lookOfRow(screen.list, 1), first);
 }
 
-void ListBoxLookTest::a_title_is_cut_for_the_value_that_it_has_now()
+void TestListBoxLook::aTitleIsCutForTheValueThatItHasNow()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     ZSettingItem *item = screen.addRow(endless, QStringLiteral("1"));
     const QImage roomy = lookOfRow(screen.list, 1);
@@ -377,31 +377,31 @@ void ListBoxLookTest::a_title_is_cut_for_the_value_that_it_has_now()
     QCOMPARE(lookOfRow(screen.list, 1), roomy);
 }
 
-void ListBoxLookTest::two_rows_alike_but_for_one_thing_do_not_look_alike_data()
+void TestListBoxLook::twoRowsAlikeButForOneThingDoNotLookAlike_data()
 {
-    QTest::addColumn<std::function<void(TestScreen &)>>("change");
-    using Change = std::function<void(TestScreen &)>;
-    const auto row = [](TestScreen &screen) { return static_cast<ZSettingItem *>(screen.list->item(1)); };
-    QTest::newRow("the title") << Change([row](TestScreen &screen) {
+    QTest::addColumn<std::function<void(ListScreen &)>>("change");
+    using Change = std::function<void(ListScreen &)>;
+    const auto row = [](ListScreen &screen) { return static_cast<ZSettingItem *>(screen.list->item(1)); };
+    QTest::newRow("the title") << Change([row](ListScreen &screen) {
         row(screen)->setSubItem(0, 0, QStringLiteral("Titlf"), false, ZSettingItem::TitleRegion);
     });
-    QTest::newRow("the value") << Change([row](TestScreen &screen) {
+    QTest::newRow("the value") << Change([row](ListScreen &screen) {
         row(screen)->setSubItem(0, 1, QStringLiteral("8"), false, ZSettingItem::ValueRegion);
     });
-    QTest::newRow("emphasis") << Change([row](TestScreen &screen) {
+    QTest::newRow("emphasis") << Change([row](ListScreen &screen) {
         row(screen)->setSubItem(0, 1, QStringLiteral("7"), true, ZSettingItem::ValueRegion);
     });
-    QTest::newRow("disabled") << Change([row](TestScreen &screen) { row(screen)->setEnabled(false); });
-    QTest::newRow("the focus bar") << Change([](TestScreen &screen) { screen.list->setSelected(1, true); });
-    QTest::newRow("mirrored") << Change([](TestScreen &screen) { screen.setLayoutDirection(Qt::RightToLeft); });
+    QTest::newRow("disabled") << Change([row](ListScreen &screen) { row(screen)->setEnabled(false); });
+    QTest::newRow("the focus bar") << Change([](ListScreen &screen) { screen.list->setSelected(1, true); });
+    QTest::newRow("mirrored") << Change([](ListScreen &screen) { screen.setLayoutDirection(Qt::RightToLeft); });
     QTest::newRow("a heading") << Change(
-        [row](TestScreen &screen) { row(screen)->setSeparator(QStringLiteral("Title"), nullptr); });
+        [row](ListScreen &screen) { row(screen)->setSeparator(QStringLiteral("Title"), nullptr); });
 }
 
-void ListBoxLookTest::two_rows_alike_but_for_one_thing_do_not_look_alike()
+void TestListBoxLook::twoRowsAlikeButForOneThingDoNotLookAlike()
 {
-    QFETCH(std::function<void(TestScreen &)>, change);
-    TestScreen screen;
+    QFETCH(std::function<void(ListScreen &)>, change);
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(QStringLiteral("Title"), QStringLiteral("7"));
     const QImage before = lookOfRow(screen.list, 1);
@@ -410,9 +410,9 @@ void ListBoxLookTest::two_rows_alike_but_for_one_thing_do_not_look_alike()
     QVERIFY(lookOfRow(screen.list, 1) != before);
 }
 
-void ListBoxLookTest::the_scroll_bar_is_there_only_when_needed()
+void TestListBoxLook::theScrollBarIsThereOnlyWhenNeeded()
 {
-    TestScreen screen;
+    ListScreen screen;
     const int fitting = screen.list->height() / ZSkinService::RowHeight;
     screen.addRows(fitting);
     screen.show();
@@ -428,9 +428,9 @@ void ListBoxLookTest::the_scroll_bar_is_there_only_when_needed()
     QVERIFY(!screen.list->verticalScrollBar()->isVisible());
 }
 
-void ListBoxLookTest::the_scroll_bar_can_be_dragged_from_end_to_end()
+void TestListBoxLook::theScrollBarCanBeDraggedFromEndToEnd()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(100);
     screen.show();
     settle();
@@ -457,9 +457,9 @@ void ListBoxLookTest::the_scroll_bar_can_be_dragged_from_end_to_end()
     QCOMPARE(bar->value(), dragged);
 }
 
-void ListBoxLookTest::a_mirrored_display_has_the_title_on_the_right_and_the_value_on_the_left()
+void TestListBoxLook::aMirroredDisplayHasTheTitleOnTheRightAndTheValueOnTheLeft()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.setLayoutDirection(Qt::RightToLeft);
     screen.addRow(QStringLiteral("bar"));
     screen.addRow(QStringLiteral("Title"));
@@ -475,9 +475,9 @@ void ListBoxLookTest::a_mirrored_display_has_the_title_on_the_right_and_the_valu
     QVERIFY(lastInk(value.copy(0, 0, left + 40, value.height()), background) > left + 30);
 }
 
-void ListBoxLookTest::an_icon_stands_before_the_title_and_never_outgrows_its_row()
+void TestListBoxLook::anIconStandsBeforeTheTitleAndNeverOutgrowsItsRow()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRow(QStringLiteral("bar"));
     QPixmap huge(500, 500);
     huge.fill(Qt::red);
@@ -491,9 +491,9 @@ void ListBoxLookTest::an_icon_stands_before_the_title_and_never_outgrows_its_row
     QCOMPARE(row.height(), ZSkinService::RowHeight);
 }
 
-void ListBoxLookTest::the_look_does_not_depend_on_the_application_around()
+void TestListBoxLook::theLookDoesNotDependOnTheApplicationAround()
 {
-    TestScreen plain;
+    ListScreen plain;
     plain.addRows(3);
     const QImage expected = plain.grab().toImage();
     QWidget around;
@@ -502,12 +502,12 @@ void ListBoxLookTest::the_look_does_not_depend_on_the_application_around()
     QFont large = around.font();
     large.setPointSize(30);
     around.setFont(large);
-    TestScreen screen(&around);
+    ListScreen screen(&around);
     screen.addRows(3);
     around.show();
     screen.show();
     QCOMPARE(screen.grab().toImage(), expected);
 }
 
-KAV_TEST_GROUP(ListBoxLookTest, QApplication);
+KAV_TEST_GROUP(TestListBoxLook, QApplication);
 #include "tst_listbox_look.moc"

@@ -36,7 +36,7 @@ protected:
 
 } // namespace
 
-class ScreenTest : public QObject
+class TestScreen : public QObject
 {
     Q_OBJECT
 
@@ -46,45 +46,45 @@ public slots:
 private slots:
     void init();
 
-    void a_new_screen_has_the_displays_size_and_its_areas_do_not_overlap();
-    void the_name_is_the_object_name_and_may_be_null();
-    void it_says_its_class_name();
-    void the_content_widget_is_made_on_demand_and_only_once();
-    void what_fills_the_content_area_goes_on_filling_it();
-    void a_child_screen_covers_a_screen_and_stays_as_large();
-    void a_child_screen_is_not_shown_along_with_its_parent();
-    void the_title_is_kept_whole_whatever_the_display_shows();
-    void the_installed_bar_lies_at_the_foot_until_another_takes_its_place();
-    void a_bar_that_was_deleted_is_forgotten();
-    void a_softkey_key_clicks_the_bar_once_a_press_data();
-    void a_softkey_key_clicks_the_bar_once_a_press();
-    void the_clear_key_is_reported_once_a_press_data();
-    void the_clear_key_is_reported_once_a_press();
-    void keys_without_a_bar_are_harmless();
-    void no_key_and_no_click_reaches_what_the_screen_lies_in();
-    void showing_gives_the_keys_to_the_list();
-    void showing_again_brings_the_screen_back_up();
-    void a_click_on_the_title_gives_the_keys_back_to_the_list();
-    void close_without_the_flag_only_hides();
-    void close_with_the_flag_deletes_later();
-    void close_that_is_refused_does_not_delete();
-    void whoever_hears_of_the_clear_key_may_delete_the_screen_data();
-    void whoever_hears_of_the_clear_key_may_delete_the_screen();
-    void a_mirrored_display_has_the_title_on_the_right();
-    void opening_and_destroying_ten_thousand_screens_leaves_no_widget_behind();
+    void aNewScreenHasTheDisplaysSizeAndItsAreasDoNotOverlap();
+    void theNameIsTheObjectNameAndMayBeNull();
+    void itSaysItsClassName();
+    void theContentWidgetIsMadeOnDemandAndOnlyOnce();
+    void whatFillsTheContentAreaGoesOnFillingIt();
+    void aChildScreenCoversAScreenAndStaysAsLarge();
+    void aChildScreenIsNotShownAlongWithItsParent();
+    void theTitleIsKeptWholeWhateverTheDisplayShows();
+    void theInstalledBarLiesAtTheFootUntilAnotherTakesItsPlace();
+    void aBarThatWasDeletedIsForgotten();
+    void aSoftkeyKeyClicksTheBarOnceAPress_data();
+    void aSoftkeyKeyClicksTheBarOnceAPress();
+    void theClearKeyIsReportedOnceAPress_data();
+    void theClearKeyIsReportedOnceAPress();
+    void keysWithoutABarAreHarmless();
+    void noKeyAndNoClickReachesWhatTheScreenLiesIn();
+    void showingGivesTheKeysToTheList();
+    void showingAgainBringsTheScreenBackUp();
+    void aClickOnTheTitleGivesTheKeysBackToTheList();
+    void closeWithoutTheFlagOnlyHides();
+    void closeWithTheFlagDeletesLater();
+    void closeThatIsRefusedDoesNotDelete();
+    void whoeverHearsOfTheClearKeyMayDeleteTheScreen_data();
+    void whoeverHearsOfTheClearKeyMayDeleteTheScreen();
+    void aMirroredDisplayHasTheTitleOnTheRight();
+    void openingAndDestroyingTenThousandScreensLeavesNoWidgetBehind();
 
 private:
     QPointer<QWidget> victim;
 };
 
-void ScreenTest::init()
+void TestScreen::init()
 {
     noWarnings();
 }
 
-void ScreenTest::a_new_screen_has_the_displays_size_and_its_areas_do_not_overlap()
+void TestScreen::aNewScreenHasTheDisplaysSizeAndItsAreasDoNotOverlap()
 {
-    TestScreen screen;
+    ListScreen screen;
     QCOMPARE(screen.size(), QSize(240, 320));
     const QWidget *content = screen.getContentWidget(true);
     QCOMPARE(content->width(), 240);
@@ -95,7 +95,7 @@ void ScreenTest::a_new_screen_has_the_displays_size_and_its_areas_do_not_overlap
     QCOMPARE(content->height() % ZSkinService::RowHeight, 0);
 }
 
-void ScreenTest::the_name_is_the_object_name_and_may_be_null()
+void TestScreen::theNameIsTheObjectNameAndMayBeNull()
 {
     ZKbMainWidget named(nullptr, "caf\xe9", 0);
     QCOMPARE(named.objectName(), QString::fromLatin1("caf\xe9"));
@@ -103,7 +103,7 @@ void ScreenTest::the_name_is_the_object_name_and_may_be_null()
     QVERIFY(nameless.objectName().isEmpty());
 }
 
-void ScreenTest::it_says_its_class_name()
+void TestScreen::itSaysItsClassName()
 {
     ZKbMainWidget screen(nullptr, nullptr, 0);
     QCOMPARE(screen.className(), "ZKbMainWidget");
@@ -114,7 +114,7 @@ void ScreenTest::it_says_its_class_name()
     QCOMPARE(popup.className(), "ZMessageDlg");
 }
 
-void ScreenTest::the_content_widget_is_made_on_demand_and_only_once()
+void TestScreen::theContentWidgetIsMadeOnDemandAndOnlyOnce()
 {
     ZKbMainWidget screen(nullptr, nullptr, 0);
     QVERIFY(!screen.getContentWidget(false));
@@ -124,9 +124,9 @@ void ScreenTest::the_content_widget_is_made_on_demand_and_only_once()
     QCOMPARE(screen.getContentWidget(false), content);
 }
 
-void ScreenTest::what_fills_the_content_area_goes_on_filling_it()
+void TestScreen::whatFillsTheContentAreaGoesOnFillingIt()
 {
-    TestScreen screen;
+    ListScreen screen;
     QWidget *content = screen.getContentWidget(true);
     QWidget label(content);
     label.setGeometry(0, 10, 240, 20);
@@ -143,11 +143,11 @@ void ScreenTest::what_fills_the_content_area_goes_on_filling_it()
     QVERIFY(content->height() >= 0);
 }
 
-void ScreenTest::a_child_screen_covers_a_screen_and_stays_as_large()
+void TestScreen::aChildScreenCoversAScreenAndStaysAsLarge()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.resize(300, 400);
-    TestScreen sub(&screen);
+    ListScreen sub(&screen);
     QCOMPARE(sub.geometry(), QRect(0, 0, 300, 400));
     screen.show();
     sub.show();
@@ -156,23 +156,23 @@ void ScreenTest::a_child_screen_covers_a_screen_and_stays_as_large()
     QCOMPARE(sub.geometry(), QRect(0, 0, 260, 330));
     QWidget plain;
     plain.resize(800, 600);
-    const TestScreen embedded(&plain);
+    const ListScreen embedded(&plain);
     QCOMPARE(embedded.geometry(), QRect(0, 0, 240, 320));
 }
 
-void ScreenTest::a_child_screen_is_not_shown_along_with_its_parent()
+void TestScreen::aChildScreenIsNotShownAlongWithItsParent()
 {
     QWidget plain;
-    TestScreen screen(&plain);
+    ListScreen screen(&plain);
     plain.show();
     QVERIFY(!screen.isVisible());
     screen.show();
     QVERIFY(screen.isVisible());
 }
 
-void ScreenTest::the_title_is_kept_whole_whatever_the_display_shows()
+void TestScreen::theTitleIsKeptWholeWhateverTheDisplayShows()
 {
-    TestScreen screen;
+    ListScreen screen;
     const QString title = QString(100'000, QLatin1Char('m')) + QLatin1String("\nend") + QChar(0);
     screen.setMainWidgetTitle(title);
     QCOMPARE(screen.mainWidgetTitle(), title);
@@ -185,9 +185,9 @@ void ScreenTest::the_title_is_kept_whole_whatever_the_display_shows()
     QCOMPARE(lastInk(screen.grab(QRect(0, 0, 240, 20)).toImage(), background), -1);
 }
 
-void ScreenTest::the_installed_bar_lies_at_the_foot_until_another_takes_its_place()
+void TestScreen::theInstalledBarLiesAtTheFootUntilAnotherTakesItsPlace()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     auto *second = new ZSoftKey(QStringLiteral("CST_2A"), nullptr, nullptr);
     screen.setCSTWidget(second);
@@ -207,9 +207,9 @@ void ScreenTest::the_installed_bar_lies_at_the_foot_until_another_takes_its_plac
     QCOMPARE(later.count(), 1);
 }
 
-void ScreenTest::a_bar_that_was_deleted_is_forgotten()
+void TestScreen::aBarThatWasDeletedIsForgotten()
 {
-    TestScreen screen;
+    ListScreen screen;
     delete screen.cstWidget();
     QVERIFY(!screen.cstWidget());
     click(&screen, Qt::Key_Context1);
@@ -217,7 +217,7 @@ void ScreenTest::a_bar_that_was_deleted_is_forgotten()
     (void)screen.grab();
 }
 
-void ScreenTest::a_softkey_key_clicks_the_bar_once_a_press_data()
+void TestScreen::aSoftkeyKeyClicksTheBarOnceAPress_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<bool>("left");
@@ -227,11 +227,11 @@ void ScreenTest::a_softkey_key_clicks_the_bar_once_a_press_data()
     QTest::newRow("right softkey on a keyboard") << int(Qt::Key_F2) << false;
 }
 
-void ScreenTest::a_softkey_key_clicks_the_bar_once_a_press()
+void TestScreen::aSoftkeyKeyClicksTheBarOnceAPress()
 {
     QFETCH(int, key);
     QFETCH(bool, left);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     QSignalSpy leftSpy(screen.bar, &ZSoftKey::leftClicked);
     QSignalSpy rightSpy(screen.bar, &ZSoftKey::rightClicked);
@@ -244,7 +244,7 @@ void ScreenTest::a_softkey_key_clicks_the_bar_once_a_press()
     QCOMPARE(clear.count(), 0);
 }
 
-void ScreenTest::the_clear_key_is_reported_once_a_press_data()
+void TestScreen::theClearKeyIsReportedOnceAPress_data()
 {
     QTest::addColumn<int>("key");
     QTest::newRow("clear") << int(Qt::Key_Clear);
@@ -253,10 +253,10 @@ void ScreenTest::the_clear_key_is_reported_once_a_press_data()
     QTest::newRow("back") << int(Qt::Key_Back);
 }
 
-void ScreenTest::the_clear_key_is_reported_once_a_press()
+void TestScreen::theClearKeyIsReportedOnceAPress()
 {
     QFETCH(int, key);
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(2);
     QSignalSpy clear(&screen, &ZKbMainWidget::clearKeyClicked);
     QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
@@ -270,7 +270,7 @@ void ScreenTest::the_clear_key_is_reported_once_a_press()
     QCOMPARE(left.count() + right.count(), 0);
 }
 
-void ScreenTest::keys_without_a_bar_are_harmless()
+void TestScreen::keysWithoutABarAreHarmless()
 {
     ZKbMainWidget screen(nullptr, nullptr, 0);
     QVERIFY(!screen.cstWidget());
@@ -285,11 +285,11 @@ void ScreenTest::keys_without_a_bar_are_harmless()
     QVERIFY(screen.children().isEmpty());
 }
 
-void ScreenTest::no_key_and_no_click_reaches_what_the_screen_lies_in()
+void TestScreen::noKeyAndNoClickReachesWhatTheScreenLiesIn()
 {
     Listener outer;
     outer.resize(240, 320);
-    TestScreen screen(&outer);
+    ListScreen screen(&outer);
     screen.addRow(QStringLiteral("One"));
     outer.show();
     screen.show();
@@ -304,7 +304,7 @@ void ScreenTest::no_key_and_no_click_reaches_what_the_screen_lies_in()
     QCOMPARE(outer.heard, 0);
 }
 
-void ScreenTest::showing_gives_the_keys_to_the_list()
+void TestScreen::showingGivesTheKeysToTheList()
 {
     QWidget plain;
     plain.resize(500, 400);
@@ -313,7 +313,7 @@ void ScreenTest::showing_gives_the_keys_to_the_list()
     plain.show();
     QVERIFY(QTest::qWaitForWindowActive(&plain, 60'000));
     edit.setFocus();
-    TestScreen screen(&plain);
+    ListScreen screen(&plain);
     screen.addRows(3);
     screen.show();
     QVERIFY(screen.list->hasFocus());
@@ -321,12 +321,12 @@ void ScreenTest::showing_gives_the_keys_to_the_list()
     QCOMPARE(screen.list->currentItem(), 1);
 }
 
-void ScreenTest::showing_again_brings_the_screen_back_up()
+void TestScreen::showingAgainBringsTheScreenBackUp()
 {
     QWidget plain;
     plain.resize(240, 320);
-    TestScreen first(&plain);
-    TestScreen second(&plain);
+    ListScreen first(&plain);
+    ListScreen second(&plain);
     plain.show();
     QVERIFY(QTest::qWaitForWindowActive(&plain, 60'000));
     first.show();
@@ -338,13 +338,13 @@ void ScreenTest::showing_again_brings_the_screen_back_up()
     QVERIFY(first.isAncestorOf(plain.childAt(120, 160)));
 }
 
-void ScreenTest::a_click_on_the_title_gives_the_keys_back_to_the_list()
+void TestScreen::aClickOnTheTitleGivesTheKeysBackToTheList()
 {
     QWidget plain;
     plain.resize(500, 400);
     QLineEdit edit(&plain);
     edit.setGeometry(300, 0, 100, 30);
-    TestScreen screen(&plain);
+    ListScreen screen(&plain);
     plain.show();
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&plain, 60'000));
@@ -354,9 +354,9 @@ void ScreenTest::a_click_on_the_title_gives_the_keys_back_to_the_list()
     QVERIFY(screen.list->hasFocus());
 }
 
-void ScreenTest::close_without_the_flag_only_hides()
+void TestScreen::closeWithoutTheFlagOnlyHides()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     ZKbMainWidget *base = &screen;
     QVERIFY(base->close(false));
@@ -366,9 +366,9 @@ void ScreenTest::close_without_the_flag_only_hides()
     QVERIFY(screen.isVisible());
 }
 
-void ScreenTest::close_with_the_flag_deletes_later()
+void TestScreen::closeWithTheFlagDeletesLater()
 {
-    QPointer<ZKbMainWidget> screen = new TestScreen;
+    QPointer<ZKbMainWidget> screen = new ListScreen;
     screen->show();
     QVERIFY(screen->close(true));
     QVERIFY(screen);
@@ -376,9 +376,9 @@ void ScreenTest::close_with_the_flag_deletes_later()
     QVERIFY(!screen);
 }
 
-void ScreenTest::close_that_is_refused_does_not_delete()
+void TestScreen::closeThatIsRefusedDoesNotDelete()
 {
-    struct Stubborn : TestScreen {
+    struct Stubborn : ListScreen {
         void closeEvent(QCloseEvent *event) override { event->ignore(); }
     };
     QPointer<ZKbMainWidget> screen = new Stubborn;
@@ -390,21 +390,21 @@ void ScreenTest::close_that_is_refused_does_not_delete()
     delete screen;
 }
 
-void ScreenTest::whoever_hears_of_the_clear_key_may_delete_the_screen_data()
+void TestScreen::whoeverHearsOfTheClearKeyMayDeleteTheScreen_data()
 {
     QTest::addColumn<bool>("embedded");
     QTest::newRow("a window of its own") << false;
     QTest::newRow("inside another window") << true;
 }
 
-void ScreenTest::whoever_hears_of_the_clear_key_may_delete_the_screen()
+void TestScreen::whoeverHearsOfTheClearKeyMayDeleteTheScreen()
 {
     QFETCH(bool, embedded);
     QWidget plain;
     plain.resize(300, 400);
     if (embedded)
         plain.show();
-    auto *screen = new TestScreen(embedded ? &plain : nullptr);
+    auto *screen = new ListScreen(embedded ? &plain : nullptr);
     victim = screen;
     screen->addRows(3);
     screen->show();
@@ -416,23 +416,23 @@ void ScreenTest::whoever_hears_of_the_clear_key_may_delete_the_screen()
     QVERIFY(!victim);
 }
 
-void ScreenTest::a_mirrored_display_has_the_title_on_the_right()
+void TestScreen::aMirroredDisplayHasTheTitleOnTheRight()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.setLayoutDirection(Qt::RightToLeft);
     screen.setMainWidgetTitle(QStringLiteral("Abc"));
     const QImage strip = screen.grab(QRect(0, 0, 240, 20)).toImage();
     QVERIFY(firstInk(strip, ZSkinService::color(ZSkinService::TitleBarColor)) > 180);
 }
 
-void ScreenTest::opening_and_destroying_ten_thousand_screens_leaves_no_widget_behind()
+void TestScreen::openingAndDestroyingTenThousandScreensLeavesNoWidgetBehind()
 {
     QWidget plain;
     plain.resize(240, 320);
     plain.show();
     const auto before = QApplication::allWidgets().size();
     for (int i = 0; i < 10'000; ++i) {
-        TestScreen screen(&plain);
+        ListScreen screen(&plain);
         screen.addRow(QStringLiteral("Row"), QStringLiteral("1"));
         screen.show();
     }
@@ -440,5 +440,5 @@ void ScreenTest::opening_and_destroying_ten_thousand_screens_leaves_no_widget_be
     QVERIFY(plain.children().isEmpty());
 }
 
-KAV_TEST_GROUP(ScreenTest, QApplication);
+KAV_TEST_GROUP(TestScreen, QApplication);
 #include "tst_screen.moc"

@@ -31,7 +31,7 @@ QStringList spoken(const ZSoftKey &bar)
 
 } // namespace
 
-class SoftKeyTest : public QObject
+class TestSoftKey : public QObject
 {
     Q_OBJECT
 
@@ -42,38 +42,38 @@ public slots:
 private slots:
     void init();
 
-    void captions_can_be_read_whole_by_program_and_screen_reader();
-    void a_caption_of_any_length_and_content_is_shown_on_one_line();
-    void the_text_of_the_highest_priority_is_shown_until_it_is_withdrawn();
-    void each_key_answers_to_the_pointer_on_its_own_half();
-    void the_keys_stay_where_they_are_in_every_reading_direction();
-    void a_pointer_released_beside_the_bar_does_not_count();
-    void a_key_without_a_caption_still_answers();
-    void a_key_reports_to_a_slot_or_to_a_signal_given_as_text();
-    void a_new_connection_replaces_the_earlier_one();
-    void null_disconnects();
-    void a_member_that_is_not_there_is_refused_and_the_key_keeps_its_connection_data();
-    void a_member_that_is_not_there_is_refused_and_the_key_keeps_its_connection();
-    void a_key_that_does_not_exist_is_refused_with_a_warning();
-    void a_disabled_key_answers_to_nothing_and_looks_disabled();
-    void an_unknown_layout_is_taken_as_the_two_key_one();
-    void the_softkeys_of_another_target_are_served();
-    void clicking_does_not_move_the_focus();
-    void whoever_answers_may_delete_the_bars_owner_data();
-    void whoever_answers_may_delete_the_bars_owner();
+    void captionsCanBeReadWholeByProgramAndScreenReader();
+    void aCaptionOfAnyLengthAndContentIsShownOnOneLine();
+    void theTextOfTheHighestPriorityIsShownUntilItIsWithdrawn();
+    void eachKeyAnswersToThePointerOnItsOwnHalf();
+    void theKeysStayWhereTheyAreInEveryReadingDirection();
+    void aPointerReleasedBesideTheBarDoesNotCount();
+    void aKeyWithoutACaptionStillAnswers();
+    void aKeyReportsToASlotOrToASignalGivenAsText();
+    void aNewConnectionReplacesTheEarlierOne();
+    void nullDisconnects();
+    void aMemberThatIsNotThereIsRefusedAndTheKeyKeepsItsConnection_data();
+    void aMemberThatIsNotThereIsRefusedAndTheKeyKeepsItsConnection();
+    void aKeyThatDoesNotExistIsRefusedWithAWarning();
+    void aDisabledKeyAnswersToNothingAndLooksDisabled();
+    void anUnknownLayoutIsTakenAsTheTwoKeyOne();
+    void theSoftkeysOfAnotherTargetAreServed();
+    void clickingDoesNotMoveTheFocus();
+    void whoeverAnswersMayDeleteTheBarsOwner_data();
+    void whoeverAnswersMayDeleteTheBarsOwner();
 
 private:
     int answers = 0;
     QPointer<QWidget> owner;
 };
 
-void SoftKeyTest::init()
+void TestSoftKey::init()
 {
     noWarnings();
     answers = 0;
 }
 
-void SoftKeyTest::captions_can_be_read_whole_by_program_and_screen_reader()
+void TestSoftKey::captionsCanBeReadWholeByProgramAndScreenReader()
 {
     ZSoftKey bar(QStringLiteral("CST_2A"), nullptr, nullptr);
     QCOMPARE(spoken(bar), QStringList({QString(), QString()}));
@@ -84,9 +84,9 @@ void SoftKeyTest::captions_can_be_read_whole_by_program_and_screen_reader()
     QCOMPARE(spoken(bar), QStringList({bar.text(ZSoftKey::LeftKey), bar.text(ZSoftKey::RightKey)}));
 }
 
-void SoftKeyTest::a_caption_of_any_length_and_content_is_shown_on_one_line()
+void TestSoftKey::aCaptionOfAnyLengthAndContentIsShownOnOneLine()
 {
-    TestScreen screen;
+    ListScreen screen;
     const QString endless = QString(100'000, QLatin1Char('w')) + QLatin1Char('\n') + QChar(0);
     screen.bar->setText(ZSoftKey::LeftKey, endless, Priority);
     screen.bar->setText(ZSoftKey::RightKey, QString(), Priority);
@@ -97,7 +97,7 @@ void SoftKeyTest::a_caption_of_any_length_and_content_is_shown_on_one_line()
     QVERIFY2(lastInk(image, background) < image.width() / 2, "the left caption runs into the right half");
 }
 
-void SoftKeyTest::the_text_of_the_highest_priority_is_shown_until_it_is_withdrawn()
+void TestSoftKey::theTextOfTheHighestPriorityIsShownUntilItIsWithdrawn()
 {
     ZSoftKey bar(QStringLiteral("CST_2A"), nullptr, nullptr);
     const auto high = static_cast<ZSoftKey::TEXT_PRIORITY>(1);
@@ -108,9 +108,9 @@ void SoftKeyTest::the_text_of_the_highest_priority_is_shown_until_it_is_withdraw
     QCOMPARE(bar.text(ZSoftKey::LeftKey), QStringLiteral("plain"));
 }
 
-void SoftKeyTest::each_key_answers_to_the_pointer_on_its_own_half()
+void TestSoftKey::eachKeyAnswersToThePointerOnItsOwnHalf()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
     QSignalSpy right(screen.bar, &ZSoftKey::rightClicked);
@@ -123,9 +123,9 @@ void SoftKeyTest::each_key_answers_to_the_pointer_on_its_own_half()
 }
 
 // They stand over keys of the phone, which do not move either.
-void SoftKeyTest::the_keys_stay_where_they_are_in_every_reading_direction()
+void TestSoftKey::theKeysStayWhereTheyAreInEveryReadingDirection()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     const QImage before = screen.bar->grab().toImage();
     screen.setLayoutDirection(Qt::RightToLeft);
@@ -137,9 +137,9 @@ void SoftKeyTest::the_keys_stay_where_they_are_in_every_reading_direction()
     QCOMPARE(left.size(), 1);
 }
 
-void SoftKeyTest::a_pointer_released_beside_the_bar_does_not_count()
+void TestSoftKey::aPointerReleasedBesideTheBarDoesNotCount()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     QSignalSpy right(screen.bar, &ZSoftKey::rightClicked);
     QTest::mousePress(screen.windowHandle(), Qt::LeftButton, {}, QPoint(220, 310));
@@ -147,19 +147,19 @@ void SoftKeyTest::a_pointer_released_beside_the_bar_does_not_count()
     QCOMPARE(right.count(), 0);
 }
 
-void SoftKeyTest::a_key_without_a_caption_still_answers()
+void TestSoftKey::aKeyWithoutACaptionStillAnswers()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.bar->setText(ZSoftKey::LeftKey, QString(), Priority);
     QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
     click(&screen, Qt::Key_Context1);
     QCOMPARE(left.count(), 1);
 }
 
-void SoftKeyTest::a_key_reports_to_a_slot_or_to_a_signal_given_as_text()
+void TestSoftKey::aKeyReportsToASlotOrToASignalGivenAsText()
 {
-    TestScreen screen;
-    QSignalSpy closing(&screen, &TestScreen::closeWidget);
+    ListScreen screen;
+    QSignalSpy closing(&screen, &ListScreen::closeWidget);
     screen.bar->setClickedSlot(ZSoftKey::RightKey, &screen, "2closeWidget()");
     screen.bar->setClickedSlot(ZSoftKey::LeftKey, this, SLOT(answer()));
     click(&screen, Qt::Key_Context2);
@@ -170,10 +170,10 @@ void SoftKeyTest::a_key_reports_to_a_slot_or_to_a_signal_given_as_text()
     QCOMPARE(answers, 1);
 }
 
-void SoftKeyTest::a_new_connection_replaces_the_earlier_one()
+void TestSoftKey::aNewConnectionReplacesTheEarlierOne()
 {
-    TestScreen screen;
-    QSignalSpy closing(&screen, &TestScreen::closeWidget);
+    ListScreen screen;
+    QSignalSpy closing(&screen, &ListScreen::closeWidget);
     screen.bar->setClickedSlot(ZSoftKey::RightKey, this, "1answer()");
     screen.bar->setClickedSlot(ZSoftKey::RightKey, &screen, "2closeWidget()");
     screen.bar->click(ZSoftKey::RightKey);
@@ -184,9 +184,9 @@ void SoftKeyTest::a_new_connection_replaces_the_earlier_one()
     QCOMPARE(closing.count(), 2);
 }
 
-void SoftKeyTest::null_disconnects()
+void TestSoftKey::nullDisconnects()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.bar->setClickedSlot(ZSoftKey::LeftKey, this, "1answer()");
     screen.bar->setClickedSlot(ZSoftKey::LeftKey, nullptr, nullptr);
     screen.bar->click(ZSoftKey::LeftKey);
@@ -196,7 +196,7 @@ void SoftKeyTest::null_disconnects()
     QCOMPARE(answers, 0);
 }
 
-void SoftKeyTest::a_member_that_is_not_there_is_refused_and_the_key_keeps_its_connection_data()
+void TestSoftKey::aMemberThatIsNotThereIsRefusedAndTheKeyKeepsItsConnection_data()
 {
     QTest::addColumn<QByteArray>("member");
     QTest::newRow("no such slot") << QByteArray("1noSuchSlot()");
@@ -208,10 +208,10 @@ void SoftKeyTest::a_member_that_is_not_there_is_refused_and_the_key_keeps_its_co
     QTest::newRow("a member that wants an argument") << QByteArray("2objectNameChanged(QString)");
 }
 
-void SoftKeyTest::a_member_that_is_not_there_is_refused_and_the_key_keeps_its_connection()
+void TestSoftKey::aMemberThatIsNotThereIsRefusedAndTheKeyKeepsItsConnection()
 {
     QFETCH(QByteArray, member);
-    TestScreen screen;
+    ListScreen screen;
     screen.bar->setClickedSlot(ZSoftKey::RightKey, this, "1answer()");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("ZSoftKey::setClickedSlot: ")));
     screen.bar->setClickedSlot(ZSoftKey::RightKey, this, member.constData());
@@ -219,7 +219,7 @@ void SoftKeyTest::a_member_that_is_not_there_is_refused_and_the_key_keeps_its_co
     QCOMPARE(answers, 1);
 }
 
-void SoftKeyTest::a_key_that_does_not_exist_is_refused_with_a_warning()
+void TestSoftKey::aKeyThatDoesNotExistIsRefusedWithAWarning()
 {
     ZSoftKey bar(QStringLiteral("CST_2A"), nullptr, nullptr);
     QSignalSpy left(&bar, &ZSoftKey::leftClicked);
@@ -240,9 +240,9 @@ void SoftKeyTest::a_key_that_does_not_exist_is_refused_with_a_warning()
     QCOMPARE(left.count() + right.count() + answers, 0);
 }
 
-void SoftKeyTest::a_disabled_key_answers_to_nothing_and_looks_disabled()
+void TestSoftKey::aDisabledKeyAnswersToNothingAndLooksDisabled()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.show();
     const QImage before = screen.bar->grab().toImage();
     QSignalSpy left(screen.bar, &ZSoftKey::leftClicked);
@@ -259,14 +259,14 @@ void SoftKeyTest::a_disabled_key_answers_to_nothing_and_looks_disabled()
     QCOMPARE(left.count(), 1);
 }
 
-void SoftKeyTest::an_unknown_layout_is_taken_as_the_two_key_one()
+void TestSoftKey::anUnknownLayoutIsTakenAsTheTwoKeyOne()
 {
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("unknown layout \"CST_3B\"")));
     ZSoftKey bar(QStringLiteral("CST_3B"), nullptr, nullptr);
     QCOMPARE(spoken(bar).size(), 2);
 }
 
-void SoftKeyTest::the_softkeys_of_another_target_are_served()
+void TestSoftKey::theSoftkeysOfAnotherTargetAreServed()
 {
     QWidget target;
     auto *bar = new ZSoftKey(QStringLiteral("CST_2A"), nullptr, &target);
@@ -282,9 +282,9 @@ void SoftKeyTest::the_softkeys_of_another_target_are_served()
     press(&target, Qt::Key_Context1);
 }
 
-void SoftKeyTest::clicking_does_not_move_the_focus()
+void TestSoftKey::clickingDoesNotMoveTheFocus()
 {
-    TestScreen screen;
+    ListScreen screen;
     screen.addRows(3);
     screen.show();
     QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
@@ -293,7 +293,7 @@ void SoftKeyTest::clicking_does_not_move_the_focus()
     QVERIFY(screen.list->hasFocus());
 }
 
-void SoftKeyTest::whoever_answers_may_delete_the_bars_owner_data()
+void TestSoftKey::whoeverAnswersMayDeleteTheBarsOwner_data()
 {
     QTest::addColumn<int>("by");
     QTest::newRow("by key") << 0;
@@ -301,10 +301,10 @@ void SoftKeyTest::whoever_answers_may_delete_the_bars_owner_data()
     QTest::newRow("by the pointer") << 2;
 }
 
-void SoftKeyTest::whoever_answers_may_delete_the_bars_owner()
+void TestSoftKey::whoeverAnswersMayDeleteTheBarsOwner()
 {
     QFETCH(int, by);
-    auto *screen = new TestScreen;
+    auto *screen = new ListScreen;
     owner = screen;
     screen->addRows(3);
     screen->bar->setClickedSlot(ZSoftKey::RightKey, this, "1deleteOwner()");
@@ -320,5 +320,5 @@ void SoftKeyTest::whoever_answers_may_delete_the_bars_owner()
     QVERIFY(!owner);
 }
 
-KAV_TEST_GROUP(SoftKeyTest, QApplication);
+KAV_TEST_GROUP(TestSoftKey, QApplication);
 #include "tst_softkey.moc"
