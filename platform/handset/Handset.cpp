@@ -1,6 +1,7 @@
 #include "handset/Handset.h"
 
 #include "calllog/StateDirectory.h"
+#include "handset/Backend.h"
 #include "handset/CallLog.h"
 #include "handset/CallService.h"
 #include "handset/Clock.h"
@@ -10,8 +11,11 @@
 #include "simulated/SimulatedBackend.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QStandardPaths>
+
+#include <dlfcn.h>
 
 #include <algorithm>
 #include <array>
@@ -24,14 +28,42 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcHandset, "kav.handset")
 
+/// One that others do without: what it needs is loaded with it alone.
 struct Backend {
     const char *name;
-    Opened (*open)(const Settings &settings); ///< is given a clock
+    Opened (*open)(const Settings &settings); ///< is given a clock; null for one in a library
+    const char *library;
 };
 
 constexpr std::array backends{
-    Backend{"simulated", &simulated::open},
+    Backend{"simulated", &simulated::open, nullptr},
 };
+
+Opened cannotBeUsed(const QString &library, const QString &reason)
+{
+    return {nullptr, QStringLiteral("The telephone \"%1\" cannot be used: %2.").arg(library, reason), {}};
+}
+
+// `library` is looked for beside this library where it is no path. It stays loaded, as what it has opened may outlive
+// every moment at which it could be unloaded.
+Opened openFrom(const QString &library, const Settings &settings)
+{
+    void *const handle = ::dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    if (!handle)
+        return cannotBeUsed(library, QString::fromLocal8Bit(::dlerror()));
+    const auto version = reinterpret_cast<int (*)()>(::dlsym(handle, "kavHandsetInterfaceVersion"));
+    const auto open = reinterpret_cast<OpenBackend>(::dlsym(handle, "kavOpenHandset"));
+    if (!version || !open)
+        return cannotBeUsed(library, QStringLiteral("it has no handset"));
+    if (version() != interfaceVersion) {
+        const QString other =
+            QStringLiteral("it was built for version %1 of the interface, and this is version %2");
+        return cannotBeUsed(library, other.arg(version()).arg(interfaceVersion));
+    }
+    Opened opened;
+    open(settings, opened);
+    return opened;
+}
 
 /// What the phone's libraries talk to.
 struct Installation {
@@ -112,7 +144,8 @@ Opened open(const Settings &settings)
 {
     const auto named = [&](const Backend &backend) { return settings.backend == QLatin1String(backend.name); };
     const auto *const backend = std::find_if(backends.begin(), backends.end(), named);
-    if (backend == backends.end()) {
+    const bool isPath = settings.backend.contains(QLatin1Char('/'));
+    if (backend == backends.end() && !isPath) {
         const QString error = QStringLiteral("There is no telephone named \"%1\"; those there are: %2.");
         return {nullptr, error.arg(settings.backend, backendNames().join(QStringLiteral(", "))), {}};
     }
@@ -123,7 +156,9 @@ Opened open(const Settings &settings)
     Settings complete = settings;
     if (!complete.clock)
         complete.clock = std::make_shared<SystemClock>();
-    return backend->open(complete);
+    if (isPath)
+        return openFrom(settings.backend, complete);
+    return backend->open ? backend->open(complete) : openFrom(QString::fromLatin1(backend->library), complete);
 }
 
 QString defaultStateDirectory()

@@ -41,7 +41,8 @@ public:
 };
 
 struct Settings {
-    QString backend = QStringLiteral("simulated"); ///< one of backendNames()
+    /// One of backendNames(), or the path of a library that has a backend (handset/Backend.h): with a slash in it.
+    QString backend = QStringLiteral("simulated");
     /// Directory that keeps the state between starts, made when missing; empty keeps it in memory only.
     QString stateDirectory;
     std::shared_ptr<Clock> clock = {}; ///< null is the machine's clocks
@@ -65,7 +66,7 @@ struct Opened {
 /// The names that Settings::backend may have.
 QStringList backendNames();
 
-/// Opens a handset. Never throws; a backend name that is not known, a state directory that cannot be used, and a
+/// Opens a handset. Never throws; a backend name that is not known, a library that has no backend, a state directory that cannot be used, and a
 /// state that has to be made, migrated or replaced while another process uses it, are errors.
 Opened open(const Settings &settings);
 

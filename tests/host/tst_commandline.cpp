@@ -295,8 +295,8 @@ void TestCommandLine::aWindowWhoseHandsetCannotBeOpenedEndsLikewise()
 
 void TestCommandLine::aHandsetThatKeepsNothingFindsItsStateDirectoryMade()
 {
-    environment.insert("LD_PRELOAD", KAV_DOUBLES "/libbarebackend.so");
-    const HostResult result = showCallTimes({"--state", path("new/state")});
+    const HostResult result =
+        showCallTimes({"--state", path("new/state"), "--backend", KAV_DOUBLES "/libbarebackend.so"});
     QVERIFY2(result.code == 0, qPrintable(result.errors));
     QVERIFY(hasMeterTrace(contents("new/state/trace.log")));
     constexpr QFile::Permissions userAlone = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |

@@ -1,5 +1,5 @@
-// A handset that has no role and keeps nothing, in the place of the simulated one.
-#include "simulated/SimulatedBackend.h"
+// A handset that has no role and keeps nothing, in a library of its own.
+#include "handset/Backend.h"
 
 namespace {
 
@@ -11,9 +11,13 @@ public:
     handset::DataCalls *dataCalls() override { return nullptr; }
 };
 
+handset::Opened openBare(const handset::Settings &settings)
+{
+    if (settings.clock)
+        return {std::make_shared<BareHandset>(), {}, {}};
+    return {nullptr, QStringLiteral("There is no clock."), {}};
+}
+
 } // namespace
 
-Q_DECL_EXPORT handset::Opened handset::simulated::open(const Settings &)
-{
-    return {std::make_shared<BareHandset>(), {}, {}};
-}
+KAV_HANDSET_BACKEND(openBare)

@@ -1,5 +1,6 @@
 // Opening a handset by name and installing it for the phone's libraries.
 #include "calllog/Schema.h"
+#include "handset/CallService.h"
 #include "handset/DataCalls.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/Status.h"
@@ -27,6 +28,9 @@ private slots:
 
     void theSimulatedHandsetIsTheDefault();
     void aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre();
+    void aBackendInALibraryIsOpenedByItsPath();
+    void aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt_data();
+    void aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt();
     void withoutAClockItIsTheMachines();
     void installingNullLeavesNoHandset();
     void theInstalledHandsetLivesAsLongAsItIsUsed();
@@ -88,6 +92,44 @@ void TestFactory::aBackendThatIsNotKnownIsAnErrorThatNamesThoseThereAre()
     QCOMPARE(opened.error, QStringLiteral("There is no telephone named \"tin can\"; those there are: %1.")
                                .arg(backendNames().join(QStringLiteral(", "))));
     QVERIFY(opened.notice.isEmpty());
+}
+
+void TestFactory::aBackendInALibraryIsOpenedByItsPath()
+{
+    Settings settings;
+    settings.backend = QStringLiteral(KAV_BACKENDS "/libonlytotaltime.so");
+    const Opened opened = open(settings);
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    CallTime time;
+    QCOMPARE(opened.handset->callService()->totalCallTime(time), int(Success));
+    QCOMPARE(time.hours, 42u);
+    QCOMPARE(opened.notice, QStringLiteral("simulated is another"));
+}
+
+void TestFactory::aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt_data()
+{
+    QTest::addColumn<QString>("library");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("there is no such file") << QStringLiteral("/none/such.so") << QStringLiteral("No such file");
+    QTest::newRow("it is no library") << QStringLiteral(KAV_BACKENDS "/CMakeLists.txt") << QStringLiteral(": ");
+    QTest::newRow("a library without a handset")
+        << QStringLiteral(KAV_BACKENDS "/libnohandset.so") << QStringLiteral("it has no handset");
+    QTest::newRow("one that was built for another version")
+        << QStringLiteral(KAV_BACKENDS "/libotherversion.so")
+        << QStringLiteral("it was built for version 0 of the interface, and this is version 1");
+}
+
+void TestFactory::aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt()
+{
+    QFETCH(QString, library);
+    QFETCH(QString, reason);
+    Settings settings;
+    settings.backend = library;
+    const Opened opened = open(settings);
+    QVERIFY(!opened.handset);
+    QVERIFY2(opened.error.startsWith(QStringLiteral("The telephone \"%1\" cannot be used: ").arg(library)),
+             qPrintable(opened.error));
+    QVERIFY2(opened.error.contains(reason), qPrintable(opened.error));
 }
 
 void TestFactory::withoutAClockItIsTheMachines()

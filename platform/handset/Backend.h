@@ -1,0 +1,26 @@
+// What a backend in a library of its own exports, so that the factory can open it by name or by its file's path.
+#pragma once
+
+#include "handset/Handset.h"
+
+namespace handset {
+
+/// Changes with every change of the interfaces in this folder: a library that was built for others is not used.
+inline constexpr int interfaceVersion = 1;
+
+/// Opens a handset, as handset::open(); the clock is not null. Throws nothing.
+using OpenBackend = void (*)(const Settings &settings, Opened &opened);
+
+} // namespace handset
+
+/// To stand once in a backend's library, outside every namespace: `open` is an
+/// `handset::Opened open(const handset::Settings &)`.
+#define KAV_HANDSET_BACKEND(open)                                                                                 \
+    extern "C" Q_DECL_EXPORT int kavHandsetInterfaceVersion()                                                     \
+    {                                                                                                             \
+        return handset::interfaceVersion;                                                                         \
+    }                                                                                                             \
+    extern "C" Q_DECL_EXPORT void kavOpenHandset(const handset::Settings &settings, handset::Opened &opened)      \
+    {                                                                                                             \
+        opened = open(settings);                                                                                  \
+    }

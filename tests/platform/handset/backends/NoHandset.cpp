@@ -1,0 +1,5 @@
+// A library that has no handset.
+int nothingToSpeakOf()
+{
+    return 0;
+}
