@@ -1,11 +1,9 @@
 // A second process for the tests.
-//   handset_other_process calls DIRECTORY SEED   makes calls until it is killed; a line for each finished one
-//   handset_other_process sessions DIRECTORY SEED
-//                                                has packet-data sessions until it is killed; a line for each
-//                                                checkpoint, and one that begins with '=' for each end
 //   handset_other_process share DIRECTORY SEED CLOCK
-//                                                makes calls while it records, asks, resets and sets while another does,
-//                                                by the clock in that file; a line for each finished call
+//                                                makes calls and packet-data sessions while it records, asks, resets and
+//                                                sets while another does, by the clock in that file, until it is
+//                                                killed; a line for each that is finished, and one that begins with
+//                                                '~' for each checkpoint
 //   handset_other_process hold DIRECTORY [USER]  says "holding", and does what the lines say that it reads (Obedience)
 //                                                until its input ends; as the user with that number, or says "not
 //                                                permitted"
@@ -55,102 +53,23 @@ bool report(const QByteArray &what, qint64 duration)
     return ::write(STDOUT_FILENO, line.constData(), static_cast<std::size_t>(line.size())) == line.size();
 }
 
-class Caller
+// Nothing is owed when it returns.
+bool isOver(simulated::SimulatedHandset &phone, int status)
 {
-public:
-    Caller(simulated::SimulatedHandset &handset, ManualClock &manual, unsigned seed)
-        : phone(handset)
-        , clock(manual)
-        , random(seed)
-    {}
-
-    bool makeCall(unsigned number)
-    {
-        const QString text = QString::number(number);
-        const int kind = pick(3);
-        if ((kind == 0 ? phone.ring(text) : phone.dial(text, kind == 1 ? CallKind::Voice : CallKind::Data)) !=
-            Success)
-            return false;
-        if (pick(5) == 0) // nobody answers
-            return phone.hangUp() == Success && report(text.toLatin1(), 0);
-        if ((kind == 0 ? phone.answer() : phone.remoteAnswer()) != Success)
-            return false;
-        for (int parts = pick(4); parts > 0; --parts) {
-            clock.advance(pick(100000));
-            if (phone.checkpoint() != Success)
-                return false;
-        }
-        clock.advance(pick(100000));
-        const qint64 duration = phone.connectedMs();
-        return phone.hangUp() == Success && report(text.toLatin1(), duration);
+    while (phone.owesRecord() && phone.checkpoint() != Success) {
     }
-
-private:
-    int pick(int count) { return ::pick(random, count); }
-
-    simulated::SimulatedHandset &phone;
-    ManualClock &clock;
-    std::mt19937 random;
-};
-
-int makeCalls(simulated::SimulatedHandset &phone, ManualClock &clock, unsigned seed)
-{
-    if (!phone.charging().account() &&
-        phone.charging().topUp(QStringLiteral("16000000"), {2030, 1, 1}) != Success) {
-        std::printf("error a deposit failed\n");
-        return 1;
-    }
-    Caller caller(phone, clock, seed);
-    // The seed comes first in the number, so that no two processes of a test use the same one.
-    for (unsigned count = 0; caller.makeCall(seed * 10000 + count); ++count) {
-    }
-    std::printf("error a call failed\n");
-    return 1;
+    return status == Success;
 }
 
-// The rates are in the access point's name, so that the reader can tell what a duration comes to.
-bool makeSession(simulated::SimulatedHandset &phone, ManualClock &clock, std::mt19937 &random, unsigned number)
-{
-    const int sent = pick(random, 1'000'000);
-    const int received = pick(random, 1'000'000);
-    const QByteArray apn =
-        QByteArray::number(number) + '-' + QByteArray::number(sent) + '-' + QByteArray::number(received);
-    if (phone.packets().startSession(apn, static_cast<quint32>(sent), static_cast<quint32>(received)) != Success)
-        return false;
-    qint64 duration = 0;
-    const auto pass = [&] {
-        const int ms = pick(random, 5000);
-        clock.advance(ms);
-        duration += ms;
-    };
-    for (int parts = pick(random, 6); parts > 0; --parts) {
-        pass();
-        if (phone.checkpoint() != Success || !report(apn, duration))
-            return false;
-    }
-    pass();
-    return phone.packets().stopSession() == Success && report('=' + apn, duration);
-}
-
-int makeSessions(simulated::SimulatedHandset &phone, ManualClock &clock, unsigned seed)
-{
-    std::mt19937 random(seed);
-    for (unsigned count = 0; makeSession(phone, clock, random, seed * 10000 + count); ++count) {
-    }
-    std::printf("error a session failed\n");
-    return 1;
-}
-
-// Calls are over when they are reported: nothing is owed.
-bool makeSharedCall(simulated::SimulatedHandset &phone, test::SharedClock &clock, std::mt19937 &random,
-                    unsigned number)
+bool makeCall(simulated::SimulatedHandset &phone, test::SharedClock &clock, std::mt19937 &random, unsigned number)
 {
     const QString text = QString::number(number);
     const bool isDialed = pick(random, 2) == 0;
     const int begun =
         isDialed ? phone.dial(text, pick(random, 3) == 0 ? CallKind::Data : CallKind::Voice) : phone.ring(text);
-    if (begun != Success || (isDialed ? phone.remoteAnswer() : phone.answer()) != Success)
-        return phone.hangUp() == Success;
+    const bool nobodyAnswers = pick(random, 5) == 0;
+    if (begun != Success || nobodyAnswers || (isDialed ? phone.remoteAnswer() : phone.answer()) != Success)
+        return isOver(phone, phone.hangUp()) && (!nobodyAnswers || begun != Success || report(text.toLatin1(), 0));
     for (int parts = pick(random, 5); parts > 0; --parts) {
         clock.advance(pick(random, 5000));
         if (phone.checkpoint() == Success)
@@ -158,11 +77,32 @@ bool makeSharedCall(simulated::SimulatedHandset &phone, test::SharedClock &clock
     }
     clock.advance(pick(random, 5000));
     const qint64 duration = phone.connectedMs();
-    if (phone.hangUp() != Success)
-        return false;
-    while (phone.owesRecord() && phone.checkpoint() != Success) {
+    return isOver(phone, phone.hangUp()) && report(text.toLatin1(), duration);
+}
+
+// The rates are in the access point's name, so that the reader can tell what a duration comes to.
+bool makeSession(simulated::SimulatedHandset &phone, test::SharedClock &clock, std::mt19937 &random,
+                 unsigned number)
+{
+    const int sent = pick(random, 1'000'000);
+    const int received = pick(random, 1'000'000);
+    const QByteArray apn =
+        QByteArray::number(number) + '-' + QByteArray::number(sent) + '-' + QByteArray::number(received);
+    if (phone.packets().startSession(apn, static_cast<quint32>(sent), static_cast<quint32>(received)) != Success)
+        return true; // the log is in use
+    qint64 duration = 0;
+    const auto pass = [&] {
+        const int ms = pick(random, 5000);
+        clock.advance(ms);
+        duration += ms;
+    };
+    for (int parts = pick(random, 5); parts > 0; --parts) {
+        pass();
+        if (phone.checkpoint() == Success)
+            report('~' + apn, duration);
     }
-    return report(text.toLatin1(), duration);
+    pass();
+    return isOver(phone, phone.packets().stopSession()) && report(apn, duration);
 }
 
 // A log that is in use may be busy for a second: that is no failure.
@@ -180,7 +120,12 @@ int share(Handset &handset, simulated::SimulatedHandset &phone, test::SharedCloc
         // Others want to write, too: SQLite gives up after a second.
         ::usleep(static_cast<useconds_t>(pick(random, 5000)));
         if (phone.isRecording()) {
-            if (!makeSharedCall(phone, clock, random, seed * 10000 + count))
+            // The seed comes first in the number, so that no two processes of a test use the same one.
+            const unsigned number = seed * 10000 + count;
+            const bool isPaid = phone.charging().account() ||
+                                phone.charging().topUp(QStringLiteral("16000000"), {2030, 1, 1}) == Success;
+            const auto make = pick(random, 3) == 0 ? makeSession : makeCall;
+            if (isPaid && !make(phone, clock, random, number))
                 return 1;
             continue;
         }
@@ -394,9 +339,5 @@ int main(int argc, char **argv)
         return hold(*opened.handset, *phone, *clock);
     if (arguments.value(1) == QLatin1String("leave"))
         return leave(std::exchange(opened, {}), *phone, *clock);
-    if (arguments.value(1) == QLatin1String("leave-session"))
-        return leaveSession(std::exchange(opened, {}), *phone, *clock);
-    if (arguments.value(1) == QLatin1String("sessions"))
-        return makeSessions(*phone, *clock, arguments.value(3).toUInt());
-    return makeCalls(*phone, *clock, arguments.value(3).toUInt());
+    return leaveSession(std::exchange(opened, {}), *phone, *clock);
 }

@@ -11,15 +11,11 @@
 #include "handset/Status.h"
 #include "support/TestGroup.h"
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QHash>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 #include <QtTest/QSignalSpy>
 
 #include <memory>
-#include <random>
-#include <vector>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -137,8 +133,6 @@ private slots:
     void anOlderLogIsMigratedWhileAReaderWaits_data();
     void anOlderLogIsMigratedWhileAReaderWaits();
     void whoHasAnOlderLogOpenIsNamed();
-
-    void aRecorderKilledAtAnyMomentLosesNothing();
 };
 
 void TestLedger::theRunningCallIsCountedUpToNowEverywhere()
@@ -577,139 +571,6 @@ void TestLedger::whoHasAnOlderLogOpenIsNamed()
         phone.opened.error.contains(QStringLiteral("it was written by an earlier version, and it is in use by "
                                                    "handset_other_p (process ")),
         qPrintable(phone.opened.error));
-}
-
-// --- a recorder that is killed while others ask, reset and set
-
-namespace {
-
-constexpr int workers = 4;
-
-/// What the workers said: durations by number; with a '~' in front at a checkpoint.
-using Reported = QHash<QString, qint64>;
-
-std::unique_ptr<QProcess> startWorker(const StateDir &state, unsigned seed)
-{
-    auto process = std::make_unique<QProcess>();
-    process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process->start(
-        QCoreApplication::applicationDirPath() + QStringLiteral("/handset_other_process"),
-        {QStringLiteral("share"), state.path(), QString::number(seed), state.sibling(QStringLiteral("clock"))});
-    return process;
-}
-
-void collect(QProcess &process, QByteArray &unread, Reported &reported)
-{
-    unread += process.readAllStandardOutput();
-    for (qsizetype end = unread.indexOf('\n'); end >= 0; end = unread.indexOf('\n')) {
-        const QByteArray line = unread.first(end);
-        const QList<QByteArray> words = line.split(' ');
-        unread.remove(0, end + 1);
-        bool isDuration = false;
-        const qint64 duration = words.value(1).toLongLong(&isDuration);
-        QVERIFY2(isDuration && words.size() == 2, line.constData());
-        reported.insert(QString::fromLatin1(words[0]), duration);
-    }
-}
-
-qint64 number(const LogFile &file, const char *select)
-{
-    return file.value(QString::fromLatin1(select)).toLongLong();
-}
-
-// Of one moment, while the others go on.
-void checkLog(const StateDir &state, const Reported &reported)
-{
-    const LogFile file(state.database());
-    QVERIFY(file.run(QStringLiteral("BEGIN")));
-    QHash<QString, LoggedCall> found;
-    for (const LoggedCall &call : file.calls())
-        found.insert(call.number, call);
-    for (auto call = reported.cbegin(); call != reported.cend(); ++call) {
-        const bool isCheckpoint = call.key().startsWith(QLatin1Char('~'));
-        const LoggedCall row = found.value(isCheckpoint ? call.key().sliced(1) : call.key());
-        QVERIFY2(row.id != 0, qPrintable(call.key()));
-        if (isCheckpoint) {
-            QVERIFY2(row.durationMs >= call.value(), qPrintable(call.key()));
-            QVERIFY(row.state != int(CallState::Interrupted) || row.durationMs < call.value() + 5000);
-        } else {
-            QCOMPARE(row.durationMs, call.value());
-            QCOMPARE(row.state, int(CallState::Finished));
-        }
-    }
-    QVERIFY(number(file, "SELECT count(*) FROM calls WHERE state = 0") <= 1);
-    const qint64 all = number(file, "SELECT sum(duration_ms) FROM calls");
-    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'lifetime'"), all);
-    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'all'"), all);
-    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'answered'"),
-             number(file, "SELECT coalesce(sum(duration_ms), 0) FROM calls WHERE kind = 0 AND direction = 1"));
-    QCOMPARE(number(file, "SELECT ms FROM totals WHERE counter = 'data'"),
-             number(file, "SELECT coalesce(sum(duration_ms), 0) FROM calls WHERE kind = 1"));
-    QVERIFY(number(file, "SELECT ms FROM totals WHERE counter = 'dialed'") <=
-            number(file, "SELECT coalesce(sum(duration_ms), 0) FROM calls WHERE kind = 0 AND direction = 0"));
-    QCOMPARE(number(file, "SELECT count(*) FROM calls WHERE units <> iif(direction = 0, duration_ms / 10000, 0)"),
-             0);
-    const QByteArray card =
-        file.value(QStringLiteral("SELECT content FROM kept WHERE name = 'card'")).toByteArray();
-    if (card != "new")
-        QCOMPARE(card.mid(5, 3).toHex().toLongLong(nullptr, 16), number(file, "SELECT sum(units) FROM calls"));
-    QVERIFY(file.run(QStringLiteral("COMMIT")));
-}
-
-} // namespace
-
-// A few dozen times; KAV_KILLS says how often.
-void TestLedger::aRecorderKilledAtAnyMomentLosesNothing()
-{
-    const int given = qEnvironmentVariableIntValue("KAV_KILLS");
-    const int kills = given > 0 ? given : 30;
-    std::mt19937 random(7);
-    const StateDir state(StateDir::OnDisk);
-    std::vector<std::unique_ptr<QProcess>> processes(workers);
-    std::vector<QByteArray> unread(workers);
-    Reported reported;
-    unsigned seed = 0;
-    for (auto &process : processes)
-        process = startWorker(state, ++seed);
-    std::size_t recorder = 0;
-    for (int kill = 0; kill < kills; ++kill) {
-        // Whoever says something next records.
-        const qsizetype enough = reported.size() + 1 + static_cast<qsizetype>(random() % 8);
-        QElapsedTimer waited;
-        waited.start();
-        while (reported.size() < enough && waited.elapsed() < 60000) {
-            for (std::size_t i = 0; i < processes.size(); ++i) {
-                processes[i]->waitForReadyRead(1);
-                const qsizetype before = reported.size();
-                collect(*processes[i], unread[i], reported);
-                recorder = reported.size() > before ? i : recorder;
-                QVERIFY(!QTest::currentTestFailed());
-                QVERIFY(processes[i]->state() != QProcess::NotRunning);
-            }
-        }
-        QVERIFY(reported.size() >= enough);
-        processes[recorder]->kill();
-        QVERIFY(processes[recorder]->waitForFinished(60'000));
-        collect(*processes[recorder], unread[recorder], reported);
-        unread[recorder].clear();
-        checkLog(state, reported);
-        if (QTest::currentTestFailed())
-            qInfo("at kill %d", kill);
-        QVERIFY(!QTest::currentTestFailed());
-        processes[recorder] = startWorker(state, ++seed);
-    }
-    for (auto &process : processes) {
-        process->kill();
-        process->waitForFinished(60'000);
-    }
-    QCOMPARE(LogFile(state.database()).value(QStringLiteral("PRAGMA integrity_check")),
-             QVariant(QStringLiteral("ok")));
-    Phone phone(state.path());
-    QCOMPARE(phone.opened.notice, QString());
-    QVERIFY(phone->isRecording());
-    QVERIFY(phone.dialed(3 * second));
-    QCOMPARE(phone.figures().last, quint64{3});
-    qInfo("%d kills, %d calls and checkpoints reported, none lost", kills, static_cast<int>(reported.size()));
 }
 
 KAV_TEST_GROUP(TestLedger, QCoreApplication);
