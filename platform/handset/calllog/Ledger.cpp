@@ -600,6 +600,14 @@ int Ledger::checkpointSession()
     return isSessionRunning() ? transactSessions({}) : int{Success};
 }
 
+void Ledger::letGo()
+{
+    checkpoint();
+    checkpointSession();
+    ownCalls.removeIf([](const Own<RunningCall> &one) { return !one.ended; });
+    ownSessions.removeIf([](const Own<SessionRow> &one) { return !one.ended; });
+}
+
 // --- what is asked
 
 int Ledger::figure(Total total, qint64 &value)

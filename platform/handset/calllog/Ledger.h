@@ -120,6 +120,9 @@ public:
     int checkpoint();
     int checkpointSession();
 
+    /// Writes how far running calls and sessions are, and leaves them to the next recorder, which finds them interrupted.
+    void letGo();
+
     /// For who looks at the file beside.
     Database &connection() { return *database; }
     /// What the call log had to tell of its opening; else the next start tells it again.

@@ -44,9 +44,12 @@ public:
     /// Tells the update listener when the running session has gone on for a second since it was told last.
     void tick();
 
-private:
+    /// The figures of a session that somebody else counts have changed: tells the update listener.
     void tellUpdate() const;
+    /// Whether there is one to tell.
+    bool isListenedTo() const { return static_cast<bool>(onUpdate); }
 
+private:
     Ledger &ledger;
     qint64 sessionId = 0; ///< the id of the one that was begun last
     qint64 toldMs = 0;    ///< of it, to the update listener

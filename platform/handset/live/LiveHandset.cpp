@@ -1,0 +1,140 @@
+#include "live/LiveHandset.h"
+
+#include "calllog/Saturating.h"
+
+#include <QtCore/QTimer>
+
+namespace handset::live {
+
+int OwnCharging::chargeType(quint8 &type)
+{
+    return ledger.ask([&](const calllog::Standing &now) {
+        type = now.state.chargeType;
+        return int{Success};
+    });
+}
+
+int OwnCharging::setChargeType(quint8 type)
+{
+    // Without a price of the SIM there is no currency to count in.
+    if (type != InUnits)
+        return type == InCurrency ? NotAvailable : InvalidArgument;
+    return ledger.edit([&](charging::ChargingState &state) {
+        state.chargeType = type;
+        return int{Success};
+    });
+}
+
+LiveHandset::LiveHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
+                         std::unique_ptr<Modem> behind, InterfaceCounters interfaces)
+    : ledger(std::move(opened))
+    , clock(std::move(clocks))
+    , source(std::move(behind))
+    , callRecorder(*ledger, *clock, calllog::Charge::Unlimited)
+    , sessionRecorder(*ledger, *clock, std::move(interfaces))
+    , timer(new QTimer(this))
+{
+    ledger->record();
+    ledger->setChangeListener([this] {
+        tellHere();
+        tellElsewhere();
+    });
+    timer->setTimerType(Qt::PreciseTimer);
+    connect(timer, &QTimer::timeout, this, [this] { tick(); });
+    connect(source.get(), &Modem::callReported, this,
+            [this](const ReportedCall &call) { callsMoved(callRecorder.report(call)); });
+    connect(source.get(), &Modem::callGone, this,
+            [this](const QString &id) { callsMoved(callRecorder.gone(id)); });
+    connect(source.get(), &Modem::sessionReported, this,
+            [this](const ReportedSession &session) { sessionsMoved(sessionRecorder.report(session)); });
+    connect(source.get(), &Modem::sessionGone, this,
+            [this](const QString &id) { sessionsMoved(sessionRecorder.gone(id)); });
+    connect(source.get(), &Modem::lost, this, [this] {
+        callsMoved(callRecorder.allGone());
+        sessionsMoved(sessionRecorder.allGone());
+    });
+    connect(source.get(), &Modem::stateChanged, this, [this] { tellHere(); });
+    source->start();
+    runTimer();
+}
+
+LiveHandset::~LiveHandset()
+{
+    ledger->setChangeListener({});
+    callRecorder.retry();
+    sessionRecorder.count();
+    ledger->letGo();
+}
+
+bool LiveHandset::owesRecord() const
+{
+    return ledger->owesCall() || ledger->owesSession() || callRecorder.owes();
+}
+
+void LiveHandset::changedElsewhere()
+{
+    tellHere();
+}
+
+// The ledger tells of resets and sessions by itself, and not of calls.
+void LiveHandset::callsMoved(bool begunOrEnded)
+{
+    tellHere();
+    if (begunOrEnded)
+        tellElsewhere();
+}
+
+void LiveHandset::sessionsMoved(bool begunOrEnded)
+{
+    tellHere();
+    if (begunOrEnded)
+        packets.tellUpdate();
+}
+
+void LiveHandset::tellElsewhere()
+{
+    if (onChange && ledger->record())
+        onChange();
+}
+
+void LiveHandset::tellHere()
+{
+    runTimer();
+    emit changed();
+}
+
+// While nothing runs, nothing wakes up.
+void LiveHandset::runTimer()
+{
+    const bool recorded = records;
+    records = ledger->record();
+    if (records && !callRecorder.isBusy() && !sessionRecorder.isBusy() && !owesRecord()) {
+        timer->stop();
+    } else if (!timer->isActive() || recorded != records) {
+        writtenAtMs = clock->monotonicMs();
+        const bool isShown = packets.isListenedTo() || receivers(SIGNAL(changed())) > 0;
+        timer->start(isShown || !records ? shownIntervalMs : calllog::Ledger::checkpointIntervalMs);
+    }
+}
+
+void LiveHandset::tick()
+{
+    const bool recorded = records;
+    const bool owed = owesRecord();
+    runTimer();
+    const bool isTimeToWrite =
+        calllog::elapsed(writtenAtMs, clock->monotonicMs()) >= calllog::Ledger::checkpointIntervalMs;
+    if (records && (!recorded || isTimeToWrite)) {
+        writtenAtMs = clock->monotonicMs();
+        callRecorder.retry();
+        sessionRecorder.count();
+        ledger->checkpoint();
+        ledger->checkpointSession();
+    }
+    if (sessionRecorder.isBusy())
+        packets.tellUpdate();
+    if (recorded != records || owed != owesRecord())
+        tellHere();
+}
+
+} // namespace handset::live

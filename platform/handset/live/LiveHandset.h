@@ -1,0 +1,85 @@
+// A handset whose calls and data connections are those of a modem.
+#pragma once
+
+#include "calllog/CallFigures.h"
+#include "calllog/Charging.h"
+#include "calllog/PacketFigures.h"
+#include "handset/Handset.h"
+#include "live/CallRecorder.h"
+#include "live/OwnCharging.h"
+#include "live/SessionRecorder.h"
+
+#include <QtCore/QObject>
+
+#include <memory>
+
+class QTimer;
+
+namespace handset::live {
+
+/// Figures, resets, tariffs and the account come from the ledger; the modem is never asked for one, so nothing waits for
+/// it. Calls and connections are recorded by the process that records the state directory; in every other one this
+/// shows them and reads. A call that is on at the end of this is not ended, but what it has counted is written: whoever
+/// records next goes on.
+class LiveHandset : public QObject, public Handset
+{
+    Q_OBJECT
+
+public:
+    /// Who shows the figures is told of them this often while something runs, and whoever waits for the end of another
+    /// recorder looks as often.
+    static constexpr int shownIntervalMs = 1000;
+
+    LiveHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
+                std::unique_ptr<Modem> behind, InterfaceCounters interfaces = InterfaceCounters());
+    ~LiveHandset() override;
+
+    CallService *callService() override { return &figures; }
+    CallLog *callLog() override { return &figures; }
+    /// Modems report no circuit-switched data calls: there is no figure to show.
+    DataCalls *dataCalls() override { return nullptr; }
+    AdviceOfCharge *adviceOfCharge() override { return &ownCharging; }
+    PacketData *packetData() override { return &packets; }
+    void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
+    void changedElsewhere() override;
+
+    Modem &modem() { return *source; }
+    const CallRecorder &calls() const { return callRecorder; }
+    const SessionRecorder &sessions() const { return sessionRecorder; }
+    /// The own tariff and the prepaid account.
+    calllog::Charging &charging() { return charges; }
+    bool isRecording() const { return ledger->record(); }
+    /// An end, or a whole call, is still to be written.
+    bool owesRecord() const;
+
+signals:
+    /// Calls, connections, owesRecord() or isRecording() have changed, or a figure otherwise than by the passing of time.
+    void changed();
+
+protected:
+    calllog::Ledger &books() { return *ledger; }
+
+private:
+    void tick();
+    void callsMoved(bool begunOrEnded);
+    void sessionsMoved(bool begunOrEnded);
+    void tellElsewhere();
+    void tellHere();
+    void runTimer();
+
+    std::unique_ptr<calllog::Ledger> ledger;
+    std::shared_ptr<Clock> clock;
+    std::unique_ptr<Modem> source;
+    calllog::CallFigures figures{*ledger};
+    calllog::PacketFigures packets{*ledger};
+    calllog::Charging charges{*ledger};
+    OwnCharging ownCharging{*ledger};
+    CallRecorder callRecorder;
+    SessionRecorder sessionRecorder;
+    QTimer *timer;
+    qint64 writtenAtMs = 0; ///< of the boot clock: the last checkpoint
+    bool records = true;    ///< as of the last runTimer()
+    std::function<void()> onChange;
+};
+
+} // namespace handset::live

@@ -1,0 +1,60 @@
+// Data connections that a daemon reports, recorded in the ledger.
+#pragma once
+
+#include "calllog/Ledger.h"
+#include "live/InterfaceCounters.h"
+#include "live/Modem.h"
+
+#include <QtCore/QHash>
+
+namespace handset::live {
+
+/// Bytes are those that the daemon counts, or else those of the kernel's interface. A counter that begins anew adds what
+/// it comes to from then on; nothing is ever taken off.
+class SessionRecorder
+{
+public:
+    /// Both outlive this.
+    SessionRecorder(calllog::Ledger &owner, const Clock &clocks,
+                    InterfaceCounters interfaces = InterfaceCounters())
+        : ledger(owner)
+        , clock(clocks)
+        , counters(std::move(interfaces))
+    {}
+
+    /// True when a session has begun or ended with it.
+    bool report(const ReportedSession &session);
+    bool gone(const QString &id);
+    bool allGone();
+    /// Reads the counters of what runs, and writes what is new; a session that another process has recorded until now
+    /// goes on here. To be called now and then as long as isBusy(). True when bytes have been added.
+    bool count();
+
+    bool isBusy() const { return !sessions.isEmpty(); }
+    /// Those that are there now, in no order.
+    QList<ReportedSession> reported() const;
+
+private:
+    struct Followed {
+        ReportedSession session;
+        qint64 seenAtMs = 0; ///< of the boot clock
+        qint64 startWallMs = 0;
+        std::optional<Bytes> read; ///< the last reading of its counter
+        Bytes unwritten;           ///< read, and not in the row yet
+        qint64 row = 0;
+        bool mayBeKnown = false; ///< as of a call
+    };
+
+    std::optional<Bytes> readingOf(const Followed &followed) const;
+    void read(Followed &followed) const;
+    void begin(Followed &followed);
+    bool write(Followed &followed);
+    void finish(Followed &followed);
+
+    calllog::Ledger &ledger;
+    const Clock &clock;
+    const InterfaceCounters counters;
+    QHash<QString, Followed> sessions;
+};
+
+} // namespace handset::live

@@ -1,0 +1,531 @@
+// What a daemon reports, as the ledger has it afterwards.
+#include "calllog/OpenLedger.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/live/ScriptedModem.h"
+#include "live/LiveHandset.h"
+#include "support/FullDisk.h"
+#include "support/TestGroup.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QTimer>
+#include <QtTest/QTest>
+
+using namespace handset;
+using namespace handset::test;
+using live::Bytes;
+using live::CallPhase;
+using live::ReportedCall;
+using live::ReportedSession;
+
+namespace {
+
+/// A live handset over a scripted modem, with network interfaces that are files.
+class Desk
+{
+public:
+    explicit Desk(std::shared_ptr<ManualClock> shared = nullptr)
+        : clock(shared ? std::move(shared) : std::make_shared<ManualClock>(qint64{1'800'000'000'000}))
+    {
+        open();
+    }
+
+    void open()
+    {
+        close();
+        calllog::OpenedLedger opened = calllog::openLedger(state.path(), clock);
+        QVERIFY2(opened.ledger, qPrintable(opened.error));
+        auto scripted = std::make_unique<ScriptedModem>();
+        modem = scripted.get();
+        phone = std::make_unique<live::LiveHandset>(std::move(opened.ledger), clock, std::move(scripted),
+                                                    live::InterfaceCounters(interfaces.path()));
+    }
+    void close() { phone.reset(); }
+
+    void call(const QString &id, CallPhase phase, const QString &number = QStringLiteral("5550123"))
+    {
+        emit modem->callReported({id, phase, {}, number, {}, false});
+    }
+    void session(const QString &id, std::optional<Bytes> counted = {}, const QString &interface = {})
+    {
+        emit modem->sessionReported({id, "internet", interface, counted, {}, {}, false});
+    }
+    void setInterface(const QString &name, qint64 sent, qint64 received) const
+    {
+        const QString folder = interfaces.filePath(name + QStringLiteral("/statistics"));
+        QVERIFY(QDir().mkpath(folder));
+        for (const auto &[file, number] : {std::pair("/tx_bytes", sent), std::pair("/rx_bytes", received)}) {
+            QFile counter(folder + QLatin1String(file));
+            QVERIFY(counter.open(QIODevice::WriteOnly));
+            counter.write(QByteArray::number(number) + '\n');
+        }
+    }
+    /// Moves the clock on and lets the handset write what it has.
+    void pass(qint64 ms)
+    {
+        clock->advance(ms);
+        tick();
+    }
+    void tick() const
+    {
+        for (QTimer *timer : phone->findChildren<QTimer *>())
+            if (timer->isActive())
+                QMetaObject::invokeMethod(timer, "timeout");
+    }
+    quint64 last() const { return seconds(&CallLog::lastCallTime); }
+    quint64 dialed() const { return seconds(&CallLog::dialedCallsTime); }
+    quint64 answered() const { return seconds(&CallLog::answeredCallsTime); }
+    quint64 all() const { return seconds(&CallLog::lifetimeCallsTime); }
+    QString rows(const QString &columns, const QString &table = QStringLiteral("calls")) const
+    {
+        return LogFile(state.database())
+            .value(QStringLiteral("SELECT group_concat(%1, ' ') FROM %2").arg(columns, table))
+            .toString();
+    }
+    QString calls() const
+    {
+        return rows(QStringLiteral("direction || ':' || number || ':' || duration_ms || ':' || state"));
+    }
+    QString sessions() const
+    {
+        return rows(QStringLiteral("apn || ':' || duration_ms || ':' || sent || ':' || received || ':' || state"),
+                    QStringLiteral("sessions"));
+    }
+
+    std::shared_ptr<ManualClock> clock;
+    StateDir state;
+    QTemporaryDir interfaces;
+    ScriptedModem *modem = nullptr;
+    std::unique_ptr<live::LiveHandset> phone;
+
+private:
+    quint64 seconds(int (CallLog::*query)(CallTime &)) const
+    {
+        CallTime time;
+        const int status = (phone->callLog()->*query)(time);
+        return status == Success ? quint64{time.hours} * 3600 + time.minutes * 60 + time.seconds : 99'999'999;
+    }
+};
+
+const QString one = QStringLiteral("/call/1");
+const QString two = QStringLiteral("/call/2");
+
+} // namespace
+
+class TestRecording : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void aDialedCallCountsFromItsConnection();
+    void anAnsweredCallIsTheOtherSides();
+    void aCallThatIsNotTakenIsLoggedWithoutTime_data();
+    void aCallThatIsNotTakenIsLoggedWithoutTime();
+    void aHeldCallGoesOnCounting();
+    void twoCallsAtOnceAreTwoRows();
+    void aCallThatVanishesIsOver();
+    void allCallsAreOverWhenTheModemIsLost();
+    void anEndIsWrittenBeforeTheNextIsRead();
+    void aCallThatIsReportedOverAndNeverBeganIsNone();
+    void aCallThatWasFoundCountsFromItsStart();
+    void aCallThatWasFoundWithoutAStartIsMarkedLate();
+    void aCallGoesOnUnderTheNextRecorderWithoutCountingTwice();
+    void aWallClockThatIsSetChangesNoDuration();
+    void aCallThatCannotBeBegunIsWrittenLater();
+    void aCallThatEndsBeforeItCouldBeWrittenIsNotLost();
+    void bytesAreThoseOfTheDaemon();
+    void bytesAreThoseOfTheInterface();
+    void aCounterThatBeginsAnewAddsAndNeverSubtracts();
+    void anInterfaceThatGoesAndComesBackAddsWhatItHasThen();
+    void anotherInterfaceDoesNotBringItsOldBytes();
+    void aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice();
+    void twoSessionsAtOnceCountTheirOwn();
+    void nothingWakesUpWhileNothingRuns();
+    void whatTheModemDoesNotHaveIsNotAvailable();
+    void theOwnTariffChargesCallsAndEndsNone();
+};
+
+void TestRecording::aDialedCallCountsFromItsConnection()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    desk.pass(3 * second);
+    desk.call(one, CallPhase::Alerting);
+    desk.pass(4 * second);
+    QCOMPARE(desk.all(), 0u);
+    desk.call(one, CallPhase::Active);
+    desk.pass(65 * second);
+    QCOMPARE(desk.dialed(), 65u);
+    desk.call(one, CallPhase::Over);
+    desk.pass(hour);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:65000:1"));
+}
+
+void TestRecording::anAnsweredCallIsTheOtherSides()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Incoming, {});
+    desk.call(one, CallPhase::Incoming); // the number comes later
+    desk.call(one, CallPhase::Active, {});
+    desk.pass(second);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("1:5550123:1000:1"));
+}
+
+void TestRecording::aCallThatIsNotTakenIsLoggedWithoutTime_data()
+{
+    QTest::addColumn<CallPhase>("phase");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("dialed, busy") << CallPhase::Dialing << QStringLiteral("0:5550123:0:2");
+    QTest::newRow("dialed, not answered") << CallPhase::Alerting << QStringLiteral("0:5550123:0:2");
+    QTest::newRow("missed") << CallPhase::Incoming << QStringLiteral("1:5550123:0:2");
+    QTest::newRow("waiting, refused") << CallPhase::Waiting << QStringLiteral("1:5550123:0:2");
+}
+
+void TestRecording::aCallThatIsNotTakenIsLoggedWithoutTime()
+{
+    QFETCH(CallPhase, phase);
+    QFETCH(QString, row);
+    Desk desk;
+    desk.call(one, phase);
+    desk.pass(10 * second);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), row);
+}
+
+void TestRecording::aHeldCallGoesOnCounting()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    desk.pass(second);
+    desk.call(one, CallPhase::Held);
+    desk.pass(second);
+    desk.call(one, CallPhase::Active);
+    desk.pass(second);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:3000:1"));
+}
+
+void TestRecording::twoCallsAtOnceAreTwoRows()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing, QStringLiteral("1"));
+    desk.call(one, CallPhase::Active, QStringLiteral("1"));
+    desk.pass(10 * second);
+    desk.call(two, CallPhase::Waiting, QStringLiteral("2"));
+    desk.pass(second);
+    desk.call(one, CallPhase::Held, QStringLiteral("1"));
+    desk.call(two, CallPhase::Active, QStringLiteral("2"));
+    desk.pass(5 * second);
+    QCOMPARE(desk.dialed(), 16u);
+    QCOMPARE(desk.answered(), 5u);
+    QCOMPARE(desk.last(), 5u);
+    QCOMPARE(desk.all(), 21u);
+    desk.call(two, CallPhase::Over);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:16000:1 1:2:5000:1"));
+}
+
+void TestRecording::aCallThatVanishesIsOver()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    desk.pass(second);
+    emit desk.modem->callGone(one);
+    desk.pass(second);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:1000:1"));
+    emit desk.modem->callGone(one); // and once more is nothing
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:1000:1"));
+}
+
+void TestRecording::allCallsAreOverWhenTheModemIsLost()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing, QStringLiteral("1"));
+    desk.call(one, CallPhase::Active, QStringLiteral("1"));
+    desk.call(two, CallPhase::Waiting, QStringLiteral("2"));
+    desk.session(QStringLiteral("/s"));
+    desk.pass(second);
+    emit desk.modem->lost();
+    desk.pass(second);
+    QCOMPARE(
+        desk.rows(QStringLiteral("number || ':' || duration_ms || ':' || state")).split(QLatin1Char(' ')).size(),
+        2);
+    QVERIFY(desk.calls().contains(QStringLiteral("0:1:1000:1")));
+    QVERIFY(desk.calls().contains(QStringLiteral("1:2:0:2")));
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:1000:0:0:1"));
+}
+
+void TestRecording::anEndIsWrittenBeforeTheNextIsRead()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    desk.clock->advance(1234);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:1234:1")); // in the file, without any tick
+}
+
+void TestRecording::aCallThatIsReportedOverAndNeverBeganIsNone()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QString());
+}
+
+void TestRecording::aCallThatWasFoundCountsFromItsStart()
+{
+    Desk desk;
+    emit desk.modem->callReported({one, CallPhase::Active, CallDirection::Answered, QStringLiteral("7"),
+                                   desk.clock->wallMs() - 90 * second, true});
+    desk.pass(10 * second);
+    QCOMPARE(desk.answered(), 100u);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("1:7:100000:1"));
+    QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("0"));
+}
+
+void TestRecording::aCallThatWasFoundWithoutAStartIsMarkedLate()
+{
+    Desk desk;
+    emit desk.modem->callReported(
+        {one, CallPhase::Active, CallDirection::Dialed, QStringLiteral("7"), std::nullopt, true});
+    desk.pass(10 * second);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:7:10000:1"));
+    QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("1"));
+}
+
+void TestRecording::aCallGoesOnUnderTheNextRecorderWithoutCountingTwice()
+{
+    Desk desk;
+    const qint64 connected = desk.clock->wallMs() + 2 * second;
+    desk.call(one, CallPhase::Dialing);
+    desk.pass(2 * second);
+    desk.call(one, CallPhase::Active);
+    desk.pass(20 * second);
+    desk.open(); // another recorder, a moment later
+    desk.clock->advance(3 * second);
+    emit desk.modem->callReported(
+        {one, CallPhase::Active, CallDirection::Dialed, QStringLiteral("5550123"), connected, true});
+    desk.pass(5 * second);
+    QCOMPARE(desk.dialed(), 28u);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:3 0:5550123:8000:1"));
+}
+
+void TestRecording::aWallClockThatIsSetChangesNoDuration()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    desk.pass(second);
+    desk.clock->setWallMs(desk.clock->wallMs() + 24 * hour);
+    desk.pass(second);
+    desk.clock->setWallMs(desk.clock->wallMs() - 48 * hour);
+    desk.pass(second);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:3000:1"));
+}
+
+void TestRecording::aCallThatCannotBeBegunIsWrittenLater()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.call(one, CallPhase::Active);
+        desk.clock->advance(4 * second);
+    }
+    desk.pass(6 * second);
+    QCOMPARE(desk.dialed(), 10u);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:10000:1"));
+}
+
+void TestRecording::aCallThatEndsBeforeItCouldBeWrittenIsNotLost()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.call(one, CallPhase::Active);
+        desk.clock->advance(4 * second);
+        desk.call(one, CallPhase::Over);
+        QVERIFY(desk.phone->owesRecord());
+    }
+    desk.pass(6 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:4000:1"));
+    QCOMPARE(desk.dialed(), 4u);
+}
+
+void TestRecording::bytesAreThoseOfTheDaemon()
+{
+    Desk desk;
+    const QString id = QStringLiteral("/bearer/1");
+    desk.setInterface(QStringLiteral("wwan0"), 1'000'000, 1'000'000);
+    desk.session(id, Bytes{0, 0}, QStringLiteral("wwan0"));
+    desk.pass(10 * second);
+    desk.session(id, Bytes{1000, 5'000'000'000}, QStringLiteral("wwan0"));
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:1000:5000000000:0"));
+    desk.session(id, Bytes{1001, 5'000'000'002}, QStringLiteral("wwan0"));
+    emit desk.modem->sessionGone(id);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:1001:5000000002:1"));
+}
+
+void TestRecording::bytesAreThoseOfTheInterface()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 100, 200);
+    desk.session(QStringLiteral("/b"), {}, QStringLiteral("wwan0"));
+    desk.setInterface(QStringLiteral("wwan0"), 107, 5'000'000'200);
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:7:5000000000:0"));
+    desk.setInterface(QStringLiteral("wwan0"), 110, 5'000'000'300);
+    emit desk.modem->sessionGone(QStringLiteral("/b"));
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:10:5000000100:1"));
+}
+
+void TestRecording::aCounterThatBeginsAnewAddsAndNeverSubtracts()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 0, 0);
+    desk.session(QStringLiteral("/b"), {}, QStringLiteral("wwan0"));
+    desk.setInterface(QStringLiteral("wwan0"), 1000, 2000);
+    desk.pass(10 * second);
+    desk.setInterface(QStringLiteral("wwan0"), 3, 4);
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:1003:2004:0"));
+}
+
+void TestRecording::anInterfaceThatGoesAndComesBackAddsWhatItHasThen()
+{
+    Desk desk;
+    desk.session(QStringLiteral("/b"), {}, QStringLiteral("ppp0")); // made with the connection
+    desk.pass(10 * second);
+    desk.setInterface(QStringLiteral("ppp0"), 10, 20);
+    desk.pass(10 * second);
+    QVERIFY(QDir(desk.interfaces.filePath(QStringLiteral("ppp0"))).removeRecursively());
+    desk.pass(10 * second);
+    desk.setInterface(QStringLiteral("ppp0"), 1, 2);
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:40000:11:22:0"));
+}
+
+void TestRecording::anotherInterfaceDoesNotBringItsOldBytes()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 0, 0);
+    desk.setInterface(QStringLiteral("wwan1"), 5000, 5000);
+    desk.session(QStringLiteral("/b"), {}, QStringLiteral("wwan0"));
+    desk.setInterface(QStringLiteral("wwan0"), 10, 20);
+    desk.pass(10 * second);
+    desk.session(QStringLiteral("/b"), {}, QStringLiteral("wwan1"));
+    desk.setInterface(QStringLiteral("wwan1"), 5001, 5002);
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:11:22:0"));
+}
+
+void TestRecording::aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice()
+{
+    Desk desk;
+    const qint64 since = desk.clock->wallMs();
+    desk.session(QStringLiteral("/b"), Bytes{0, 0});
+    desk.pass(10 * second);
+    desk.session(QStringLiteral("/b"), Bytes{10, 20});
+    desk.pass(10 * second);
+    desk.open();
+    desk.clock->advance(5 * second);
+    emit desk.modem->sessionReported(
+        {QStringLiteral("/b"), "internet", {}, Bytes{15, 25}, 25 * second, since, true});
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:10:20:3 internet:15000:5:5:0"));
+    QCOMPARE(sessionTotalsOf(*desk.phone), QStringLiteral("35 15 25 40"));
+}
+
+void TestRecording::twoSessionsAtOnceCountTheirOwn()
+{
+    Desk desk;
+    desk.session(QStringLiteral("/a"), Bytes{0, 0});
+    desk.session(QStringLiteral("/b"), Bytes{0, 0});
+    desk.session(QStringLiteral("/a"), Bytes{1, 2});
+    desk.session(QStringLiteral("/b"), Bytes{3, 4});
+    desk.pass(10 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:1:2:0 internet:10000:3:4:0"));
+}
+
+void TestRecording::nothingWakesUpWhileNothingRuns()
+{
+    Desk desk;
+    const auto isAwake = [&] {
+        const QList<QTimer *> timers = desk.phone->findChildren<QTimer *>();
+        return std::any_of(timers.begin(), timers.end(), [](QTimer *timer) { return timer->isActive(); });
+    };
+    QVERIFY(!isAwake());
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    QVERIFY(isAwake());
+    desk.call(one, CallPhase::Over);
+    QVERIFY(!isAwake());
+    desk.session(QStringLiteral("/b"));
+    QVERIFY(isAwake());
+    emit desk.modem->sessionGone(QStringLiteral("/b"));
+    QVERIFY(!isAwake());
+}
+
+void TestRecording::whatTheModemDoesNotHaveIsNotAvailable()
+{
+    Desk desk;
+    QVERIFY(!desk.phone->dataCalls());
+    QVERIFY(!desk.phone->simSecurity());
+    QString text(QStringLiteral("kept"));
+    bool enabled = true;
+    quint8 rule = 9;
+    AdviceOfCharge &advice = *desk.phone->adviceOfCharge();
+    QCOMPARE(advice.meterMaximum(text, enabled), int(NotAvailable));
+    QCOMPARE(advice.priceAndCurrency(text, text), int(NotAvailable));
+    QCOMPARE(advice.updateRule(AdviceOfCharge::AcmMaxFile, rule), int(NotAvailable));
+    QCOMPARE(advice.setMeterMaximum(QStringLiteral("5")), int(NotAvailable));
+    QCOMPARE(advice.disableMeterMaximum(), int(NotAvailable));
+    QCOMPARE(advice.setPriceAndCurrency(QStringLiteral("1"), QStringLiteral("EUR")), int(NotAvailable));
+    QCOMPARE(text, QStringLiteral("kept"));
+    QCOMPARE(rule, quint8(9));
+    quint8 type = 9;
+    QCOMPARE(advice.chargeType(type), int(Success));
+    QCOMPARE(type, quint8(AdviceOfCharge::InUnits));
+    QCOMPARE(advice.setChargeType(AdviceOfCharge::InCurrency), int(NotAvailable));
+    QCOMPARE(advice.setChargeType(AdviceOfCharge::InUnits), int(Success));
+    QCOMPARE(advice.setChargeType(7), int(InvalidArgument));
+    QByteArray credit("kept");
+    QCOMPARE(desk.phone->callService()->remainingCredit(credit), int(NotAvailable));
+    QCOMPARE(credit, QByteArray("kept"));
+}
+
+void TestRecording::theOwnTariffChargesCallsAndEndsNone()
+{
+    Desk desk;
+    QCOMPARE(desk.phone->charging().topUp(QStringLiteral("2"), {2030, 1, 1}), int(Success));
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    desk.pass(minute); // six units, of which two can be paid
+    QByteArray text;
+    QCOMPARE(desk.phone->callService()->lastCallCost(text), int(Success));
+    QCOMPARE(text, QByteArray("6.00"));
+    QCOMPARE(desk.phone->callService()->remainingCredit(text), int(Success));
+    QCOMPARE(text, QByteArray("0.00"));
+    desk.pass(minute);
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:120000:1"));
+    QVERIFY(desk.modem->asked == QStringList{QStringLiteral("start")});
+}
+
+KAV_TEST_GROUP(TestRecording, QCoreApplication);
+#include "tst_recording.moc"
