@@ -6,6 +6,7 @@
 #include "handset/CallService.h"
 #include "handset/DataCalls.h"
 #include "handset/HandsetTestKit.h"
+#include "handset/PacketData.h"
 #include "handset/Status.h"
 #include "support/FullDisk.h"
 #include "support/Sample.h"
@@ -16,6 +17,7 @@
 #include <QtCore/QHash>
 
 #include <functional>
+#include <limits>
 #include <random>
 
 #include <sqlite3.h>
@@ -31,6 +33,11 @@ namespace {
 
 constexpr qint64 pageSize = 4096;
 constexpr int wholeCalls = 1000; ///< of the sample, when it was closed
+constexpr int wholeSessions = 800;
+
+const QString damaged =
+    QStringLiteral("The call log is damaged; it was kept as \"calllog-kept-1.db\" and a new one "
+                   "was begun with the calls ");
 
 QList<PastCall> manyCalls(int count)
 {
@@ -48,6 +55,8 @@ struct Sample {
     QByteArray crashed;
     QByteArray crashedWal;
     QList<LoggedCall> calls; ///< of both
+    QStringList sessions;
+    QString sessionTotals; ///< not their sums: they were reset
     SixFigures figures;
 };
 
@@ -58,6 +67,11 @@ Sample makeSample(int count)
     {
         Phone phone(state.path());
         phone->addHistory(manyCalls(count));
+        for (int i = 1; i <= wholeSessions; ++i) {
+            if (i == 5)
+                phone.packets().resetTotalBytes();
+            phone.session(i * 10, QByteArray::number(i), 100, 1000);
+        }
     }
     sample.closed = readFile(state.database());
     {
@@ -68,7 +82,10 @@ Sample makeSample(int count)
         sample.crashed = readFile(state.database());
         sample.crashedWal = readFile(state.file(QStringLiteral("calllog.db-wal")));
     }
-    sample.calls = LogFile(state.database()).calls();
+    const LogFile file(state.database());
+    sample.calls = file.calls();
+    sample.sessions = file.sessions();
+    sample.sessionTotals = file.sessionTotals();
     return sample;
 }
 
@@ -84,6 +101,16 @@ SixFigures sumsOf(const QList<LoggedCall> &calls)
             last = ms;
     }
     return {last / 1000, sums[0] / 1000, sums[1] / 1000, sums[2] / 1000, sums[3] / 1000, sums[3] / 1000};
+}
+
+/// Milliseconds, bytes sent and received.
+QString sumsOf(const QStringList &rows)
+{
+    qint64 sums[3] = {0, 0, 0};
+    for (const QString &row : rows)
+        for (int i = 0; i < 3; ++i)
+            sums[i] += row.section(QLatin1Char(' '), 2 + i, 2 + i).toLongLong();
+    return QStringLiteral("%1 %2 %3").arg(sums[0]).arg(sums[1]).arg(sums[2]);
 }
 
 bool same(const LoggedCall &a, const LoggedCall &b)
@@ -107,8 +134,8 @@ private slots:
     void aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead();
     void aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes();
     void aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd();
-    void aPageOverwrittenCostsNoMoreThanItsCalls_data();
-    void aPageOverwrittenCostsNoMoreThanItsCalls();
+    void aPageOverwrittenCostsNoMoreThanItsRows_data();
+    void aPageOverwrittenCostsNoMoreThanItsRows();
     void bytesChangedAtRandomNeverCrash_data();
     void bytesChangedAtRandomNeverCrash();
 
@@ -147,6 +174,16 @@ private slots:
     void aSalvagedLogIsNoLargerThanTheOneBefore_data();
     void aSalvagedLogIsNoLargerThanTheOneBefore();
 
+    void aLogWithWrongSessionTablesIsReplaced_data();
+    void aLogWithWrongSessionTablesIsReplaced();
+    void theNoticeSaysWhatWasCounted_data();
+    void theNoticeSaysWhatWasCounted();
+    void sessionsThatNoHandsetWroteAreLeftOut();
+    void totalsAreCountedUpToTheirEnd();
+    void aSessionThatWasRunningIsInterrupted();
+    void aDamagedLogOfTheFirstVersionHasNoSessions();
+    void aBigLogIsReadAsFarAsTheSlotsDependOnIt();
+
 private:
     void openAndCheck(const StateDir &state, bool mayBeQuiet);
     static bool damage(const QString &file, bool isOverwritten);
@@ -160,6 +197,8 @@ void TestDamagedLog::initTestCase()
     QVERIFY(sample.closed.size() >= 8 * pageSize);
     QVERIFY(sample.crashedWal.size() > 0);
     QCOMPARE(sample.calls.size(), wholeCalls + 5);
+    QCOMPARE(sample.sessions.size(), wholeSessions);
+    QVERIFY(sample.sessionTotals != sumsOf(sample.sessions));
 }
 
 /// Opens what is in the directory: whatever it is, there must be a handset that works, a sound log with nothing in it
@@ -177,6 +216,10 @@ void TestDamagedLog::openAndCheck(const StateDir &state, bool mayBeQuiet)
     const QList<LoggedCall> calls = file.calls();
     for (const LoggedCall &call : calls)
         QVERIFY(call.id >= 1 && call.id <= sample.calls.size() && same(call, sample.calls[call.id - 1]));
+    const QStringList sessions = file.sessions();
+    for (const QString &row : sessions)
+        QCOMPARE(row, sample.sessions.value(row.section(QLatin1Char(' '), 0, 0).toInt() - 1));
+    QVERIFY(file.sessionTotals() == sample.sessionTotals || file.sessionTotals() == sumsOf(sessions));
     // Either the totals could be read, and are those of one of the writes, or they are those of the calls.
     bool known = before == sumsOf(calls);
     for (qsizetype count = wholeCalls; count <= sample.calls.size(); ++count)
@@ -187,6 +230,8 @@ void TestDamagedLog::openAndCheck(const StateDir &state, bool mayBeQuiet)
     QVERIFY(again.opened.notice.isEmpty());
     QVERIFY(again.dialed(2 * second));
     QCOMPARE(again.figures().lifetime, before.lifetime + 2);
+    QVERIFY(again.session(second));
+    QVERIFY(again.sessions().first().endsWith(QStringLiteral(" internet 1 0 0")));
 }
 
 void TestDamagedLog::wantOfMemoryIsNoDamageAndLosesNothing_data()
@@ -249,6 +294,8 @@ void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
     for (qint64 edge = pageSize; edge < sample.closed.size(); edge += pageSize)
         lengths << edge;
     lengths << sample.closed.size() - 1;
+    std::sort(lengths.begin(), lengths.end());
+    qsizetype most = 0;
     for (qsizetype i = 0; i < lengths.size(); i += sampleStride(5)) {
         const qint64 length = lengths[i];
         const StateDir state;
@@ -260,7 +307,11 @@ void TestDamagedLog::aLogCutOffAtAnyLengthIsKeptAndWhatIsLeftIsRead()
             qInfo("cut off at %lld of %lld bytes", length, qint64(sample.closed.size()));
             return;
         }
+        const qsizetype kept = LogFile(state.database()).sessions().size() - 1; // openAndCheck() made one more
+        QVERIFY(kept >= most);                                                  // a longer one never has fewer
+        most = kept;
     }
+    QVERIFY(most > wholeSessions / 2);
 }
 
 void TestDamagedLog::aLogCutOffWithItsWriteAheadLogBesideItNeverCrashes()
@@ -301,7 +352,7 @@ void TestDamagedLog::aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd()
     QVERIFY(most > wholeCalls);
 }
 
-void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls_data()
+void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsRows_data()
 {
     QTest::addColumn<QByteArray>("filling");
     QTest::newRow("with zeros") << QByteArray(pageSize, '\0');
@@ -312,11 +363,13 @@ void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls_data()
     QTest::newRow("with noise") << noise;
 }
 
-void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls()
+void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsRows()
 {
     QFETCH(QByteArray, filling);
     constexpr qint64 mostCallsOfAPage = 200;
+    constexpr qint64 mostSessionsOfAPage = 180;
     int complete = 0;
+    int inTheMiddle = 0; // some sessions lost, and the newest kept
     for (qint64 offset = pageSize; offset < sample.closed.size(); offset += pageSize) {
         const StateDir state;
         QVERIFY(QDir().mkpath(state.path()));
@@ -328,11 +381,17 @@ void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsCalls()
             return;
         }
         // openAndCheck() made one more
-        const auto kept = LogFile(state.database()).calls().size() - 1;
-        complete += kept >= wholeCalls - mostCallsOfAPage ? 1 : 0;
+        const LogFile file(state.database());
+        const auto calls = file.calls().size() - 1;
+        const QStringList sessions = file.sessions();
+        const bool isMost =
+            calls >= wholeCalls - mostCallsOfAPage && sessions.size() - 1 >= wholeSessions - mostSessionsOfAPage;
+        complete += isMost ? 1 : 0;
+        inTheMiddle += sessions.size() - 1 < wholeSessions && sessions.contains(sample.sessions.last()) ? 1 : 0;
     }
-    // All but the page that leads to all others.
-    QVERIFY2(complete >= sample.closed.size() / pageSize - 2, qPrintable(QString::number(complete)));
+    // All but the pages that lead to all others, of calls and of sessions.
+    QVERIFY2(complete >= sample.closed.size() / pageSize - 3, qPrintable(QString::number(complete)));
+    QVERIFY(inTheMiddle >= 3);
 }
 
 void TestDamagedLog::bytesChangedAtRandomNeverCrash_data()
@@ -490,10 +549,7 @@ void TestDamagedLog::aLogWithWrongTablesIsReplaced()
     QVERIFY(LogFile(state.database()).run(statement));
     Phone phone(state.path());
     QVERIFY2(phone, qPrintable(phone.opened.error));
-    const QString begin =
-        QStringLiteral("The call log is damaged; it was kept as \"calllog-kept-1.db\" and a new one "
-                       "was begun with the calls that could be read (%1)")
-            .arg(calls);
+    const QString begin = damaged + QStringLiteral("(%1) and data sessions (800) that could be read").arg(calls);
     QVERIFY2(phone.opened.notice.startsWith(begin), qPrintable(phone.opened.notice));
     QCOMPARE(phone.figures(), sample.figures); // from the totals, or from the calls
     phone.close();
@@ -985,6 +1041,198 @@ void TestDamagedLog::aSalvagedLogIsNoLargerThanTheOneBefore()
     const qint64 salvaged = QFileInfo(state.database()).size();
     QVERIFY2(salvaged <= content.size(),
              qPrintable(QStringLiteral("%1 bytes after %2").arg(salvaged).arg(content.size())));
+}
+
+// --- packet-data sessions
+
+void TestDamagedLog::aLogWithWrongSessionTablesIsReplaced_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("notice"); // behind the beginning
+    QTest::addColumn<bool>("areThere");
+    QTest::addColumn<int>("whichTotals"); // 0 as they were, 1 the sums
+    const QString both = QStringLiteral("(1000) and data sessions (800) that could be read");
+    QTest::newRow("a total that is missing")
+        << QStringLiteral("DELETE FROM session_totals WHERE counter = 'sent'")
+        << both + QStringLiteral(" and data totals counted from them.") << true << 1;
+    QTest::newRow("no totals at all") << QStringLiteral("DROP TABLE session_totals")
+                                      << both + QStringLiteral(" and data totals counted from them.") << true << 1;
+    QTest::newRow("no timers") << QStringLiteral("DROP TABLE totals")
+                               << both + QStringLiteral(" and timers counted from them.") << true << 0;
+    QTest::newRow("no sessions at all")
+        << QStringLiteral("DROP TABLE sessions") << QStringLiteral("that could be read (1000).") << false << 0;
+    QTest::newRow("a column that is missing") << QStringLiteral("ALTER TABLE sessions RENAME COLUMN apn TO name")
+                                              << QStringLiteral("that could be read (1000).") << false << 0;
+    QTest::newRow("a total's column that is missing")
+        << QStringLiteral("ALTER TABLE session_totals RENAME COLUMN value TO ms")
+        << both + QStringLiteral(" and data totals counted from them.") << true << 1;
+}
+
+void TestDamagedLog::aLogWithWrongSessionTablesIsReplaced()
+{
+    QFETCH(QString, statement);
+    QFETCH(QString, notice);
+    QFETCH(bool, areThere);
+    QFETCH(int, whichTotals);
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(writeFile(state.database(), sample.closed));
+    QVERIFY(LogFile(state.database()).run(statement));
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.notice, damaged + notice);
+    QCOMPARE(phone.sessions().size(), areThere ? 3 : 0);
+    phone.close();
+    const LogFile file(state.database());
+    QCOMPARE(file.sessions(), areThere ? sample.sessions : QStringList());
+    QCOMPARE(file.sessionTotals(), whichTotals == 0 ? sample.sessionTotals : sumsOf(sample.sessions));
+    QCOMPARE(file.calls().size(), wholeCalls);
+}
+
+void TestDamagedLog::theNoticeSaysWhatWasCounted_data()
+{
+    QTest::addColumn<bool>("hasSession");
+    QTest::addColumn<QString>("notice");
+    QTest::newRow("with a session") << true
+                                    << QStringLiteral(
+                                           "(1) and data sessions (1) that could be read and timers and "
+                                           "data totals counted from them.");
+    QTest::newRow("without") << false << QStringLiteral("that could be read (1) and timers counted from them.");
+}
+
+void TestDamagedLog::theNoticeSaysWhatWasCounted()
+{
+    QFETCH(bool, hasSession);
+    QFETCH(QString, notice);
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.dialed(3 * second));
+        QVERIFY(!hasSession || phone.session(4 * second));
+    }
+    for (const char *table : {"totals", "session_totals"})
+        QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM %1").arg(QLatin1String(table))));
+    const Phone phone(state.path());
+    QCOMPARE(phone.opened.notice, damaged + notice);
+    QCOMPARE(phone.figures().dialed, quint64{3});
+    QCOMPARE(phone.sessionTotals(), hasSession ? QStringLiteral("4 0 0 0") : QStringLiteral("0 0 0 0"));
+}
+
+void TestDamagedLog::sessionsThatNoHandsetWroteAreLeftOut()
+{
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        QVERIFY(phone.session(second, "good", 1, 1));
+    }
+    {
+        const LogFile file(state.database());
+        QVERIFY(file.run(QStringLiteral("PRAGMA ignore_check_constraints = ON")));
+        const QString insert =
+            QStringLiteral("INSERT INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
+                           " VALUES (%1)");
+        for (const char *values :
+             {"-4, 'x', 0, 1, 1, 1, 1", "0, 'x', 0, 1, 1, 1, 1", "9000000000000000000, 'x', 0, 1, 1, 1, 1",
+              "10, '', 0, 1, 1, 1, 1", "11, printf('%.102c', 'x'), 0, 1, 1, 1, 1", "12, char(8364), 0, 1, 1, 1, 1",
+              "13, char(97, 0, 97), 0, 1, 1, 1, 1", "14, 'x', 0, -1, 1, 1, 1", "15, 'x', 0, 1, -1, 1, 1",
+              "16, 'x', 0, 1, 1, -1, 1", "17, 'x', 0, 1, 1, 1, 2", "18, 'x', 0, 1, 1, 1, 4",
+              "20, printf('%.101c', 'x') , -5, 1, 1, 1, 3"})
+            QVERIFY2(file.run(insert.arg(QLatin1String(values))), values);
+        QVERIFY(file.run(QStringLiteral("DELETE FROM session_totals")));
+    }
+    {
+        const Phone phone(state.path());
+        QVERIFY2(phone.opened.notice.contains(QStringLiteral("data sessions (2)")),
+                 qPrintable(phone.opened.notice));
+        QCOMPARE(phone.sessionTotals(), QStringLiteral("1 2 2 4"));
+    }
+    const QStringList left = LogFile(state.database()).sessions();
+    QCOMPARE(left, (QStringList{QStringLiteral("1 good 1000 1 1 1"),
+                                QStringLiteral("20 %1 1 1 1 3").arg(QString(101, QLatin1Char('x')))}));
+}
+
+void TestDamagedLog::totalsAreCountedUpToTheirEnd()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).session(second, "a", 1, 1));
+    {
+        const LogFile file(state.database());
+        const qint64 most = std::numeric_limits<qint64>::max();
+        QVERIFY(file.run(
+            QStringLiteral("INSERT INTO sessions (id, apn, started_ms, duration_ms, sent, received, state)"
+                           " VALUES (2, 'b', 0, %1, %1, %1, 1)")
+                .arg(most)));
+        QVERIFY(file.run(QStringLiteral("DROP TABLE session_totals")));
+    }
+    Phone phone(state.path());
+    QCOMPARE(phone.sessions().size(), 2);
+    phone.close();
+    QCOMPARE(LogFile(state.database()).sessionTotals(),
+             QStringLiteral("%1 %1 %1").arg(std::numeric_limits<qint64>::max()));
+}
+
+void TestDamagedLog::aSessionThatWasRunningIsInterrupted()
+{
+    const StateDir state;
+    const StateDir crashed;
+    Phone phone(state.path());
+    QCOMPARE(phone->packets().startSession("x", 1, 1), int(Success));
+    phone.clock->advance(4 * second);
+    QCOMPARE(phone->checkpoint(), int(Success));
+    QVERIFY(copyState(state.path(), crashed.path()));
+    QVERIFY(LogFile(crashed.database()).run(QStringLiteral("DELETE FROM totals")));
+    Phone next(crashed.path());
+    QVERIFY(next.opened.notice.startsWith(damaged));
+    QVERIFY(!next->packets().isSessionRunning());
+    QCOMPARE(next.sessions(), QStringList{QStringLiteral("1 x 4 4 4")});
+    next.close();
+    QCOMPARE(LogFile(crashed.database()).sessions(), QStringList{QStringLiteral("1 x 4000 4 4 3")});
+}
+
+void TestDamagedLog::aDamagedLogOfTheFirstVersionHasNoSessions()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    {
+        calllog::Database database(state.database(), calllog::Database::Access::ReadWrite);
+        QVERIFY(calllog::migrate(database, calllog::migrations().first(1)));
+        QVERIFY(database.run(QStringLiteral("INSERT INTO calls VALUES (1, 0, 0, '12', 0, 61000, 1)")));
+        QVERIFY(database.run(QStringLiteral("DELETE FROM totals WHERE counter = 'all'")));
+    }
+    Phone phone(state.path());
+    QCOMPARE(phone.opened.notice,
+             damaged + QStringLiteral("that could be read (1) and timers counted from them."));
+    QCOMPARE(phone.figures().dialed, quint64{61});
+    QCOMPARE(phone.sessions(), QStringList());
+    QVERIFY(phone.session(2 * second, "x", 1, 1));
+    QCOMPARE(phone.sessions(), QStringList{QStringLiteral("1 x 2 2 2")});
+}
+
+// A big log that was closed is not read through: but the third newest session may be on another page than the newest.
+void TestDamagedLog::aBigLogIsReadAsFarAsTheSlotsDependOnIt()
+{
+    const StateDir state;
+    const auto name = [](int number) { return QByteArray::number(number) + QByteArray(95, 'a'); };
+    const auto pageOf = [&](int number) {
+        const QByteArray content = readFile(state.database());
+        return content.lastIndexOf(name(number)) / pageSize;
+    };
+    int newest = 1000;
+    QVERIFY(Phone(state.path()).session(second, name(newest)));
+    do {
+        QVERIFY(Phone(state.path()).session(second, name(++newest)));
+    } while (newest < 1100 && (newest < 1003 || pageOf(newest) == pageOf(newest - 2)));
+    QVERIFY(newest < 1100);
+    const PastCall call{CallKind::Voice, CallDirection::Dialed, QString(40, QLatin1Char('5')), 0, second};
+    QCOMPARE(Phone(state.path())->addHistory(QList<PastCall>(150'000, call)), int(Success));
+    QByteArray content = readFile(state.database());
+    QVERIFY(content.size() > 4 << 20);
+    QVERIFY(writeFile(state.database(),
+                      content.replace(pageOf(newest - 2) * pageSize, pageSize, QByteArray(pageSize, '\0'))));
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.startsWith(damaged), qPrintable(phone.opened.notice));
+    QVERIFY(phone.sessions().first().contains(QString::fromLatin1(name(newest))));
+    QCOMPARE(phone.sessionTotals().section(QLatin1Char(' '), 0, 0), QString::number(newest - 999));
 }
 
 KAV_TEST_GROUP(TestDamagedLog, QCoreApplication);
