@@ -425,6 +425,7 @@ void TestCostSetup::settingsThatCannotBeReadStayNull()
 {
     script().failAll(3);
     open();
+    QVERIFY(traces->text().contains(QLatin1String("EFACM: 0, EFACMMAX: 0, EFPUCT: 0")));
     QVERIFY((view.get()->*exposed(MeterMax())).isNull());
     QVERIFY((view.get()->*exposed(CurrencyTable())).isNull());
     QVERIFY((view.get()->*exposed(PricePerUnit())).isNull());
