@@ -16,6 +16,7 @@
 #include "host/phone/PhoneKey.h"
 #include "simulated/SimulatedHandset.h"
 #include "support/FullDisk.h"
+#include "support/LackingHandset.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZKbMainWidget.h"
@@ -61,15 +62,6 @@ Tariff tariffOf(quint16 units, quint16 interval, quint16 start)
     tariff.unitsAtStart = start;
     return tariff;
 }
-
-// A handset that is not the simulated one and has no role at all.
-class BareHandset : public handset::Handset
-{
-public:
-    handset::CallService *callService() override { return nullptr; }
-    handset::CallLog *callLog() override { return nullptr; }
-    handset::DataCalls *dataCalls() override { return nullptr; }
-};
 
 // A catalogue that has every text of the host's and of Qt's, but not the phone's, which have keys: each as itself
 // between two marks.
@@ -1360,7 +1352,7 @@ void TestPanel::aCatalogueTranslatesTheNamesOfTheKeys()
 
 void TestPanel::anotherHandsetThanTheSimulatedHasNothingToSet()
 {
-    openWindow(std::make_shared<BareHandset>());
+    openWindow(std::make_shared<LackingHandset>());
     for (const char *name : {"tariff dialed units", "price", "top-up amount", "EF_ACM", "pin2 on", "pin2", "puk2"})
         QVERIFY2(!control<QWidget>(name)->isEnabled(), name);
     QCOMPARE(label("call cost"), "not available");

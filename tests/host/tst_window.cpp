@@ -13,6 +13,7 @@
 #include "host/phone/Keypad.h"
 #include "host/phone/PhoneKey.h"
 #include "simulated/SimulatedHandset.h"
+#include "support/LackingHandset.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZKbMainWidget.h"
@@ -39,15 +40,6 @@ using handset::simulated::SimulatedHandset;
 namespace {
 
 constexpr int patienceMs = 60'000;
-
-// A handset that is not the simulated one and has no role at all.
-class BareHandset : public handset::Handset
-{
-public:
-    handset::CallService *callService() override { return nullptr; }
-    handset::CallLog *callLog() override { return nullptr; }
-    handset::DataCalls *dataCalls() override { return nullptr; }
-};
 
 } // namespace
 
@@ -690,7 +682,7 @@ void TestWindow::stateDirectoryAndNoticeAreShown()
 
 void TestWindow::anotherHandsetThanTheSimulatedIsSaid()
 {
-    openWindow(std::make_shared<BareHandset>());
+    openWindow(std::make_shared<LackingHandset>());
     QCOMPARE(label("line state"), "This telephone cannot be driven from here.");
     QCOMPARE(enabledButtons(), QStringList());
     QVERIFY(!button("Add a ready-made history")->isEnabled());

@@ -1,16 +1,10 @@
 // A backend that has only the roles that every handset has.
-#include "handset/DecoratedHandset.h"
 #include "handset/SimulatedRig.h"
+#include "support/LackingHandset.h"
 
 namespace handset::test {
 
 namespace {
-
-class LackingHandset final : public DecoratedHandset<LackingHandset>
-{
-public:
-    using DecoratedHandset::DecoratedHandset;
-};
 
 class LackingRig final : public SimulatedRig
 {
@@ -23,9 +17,7 @@ public:
     {
         if (!SimulatedRig::open())
             return false;
-        lacking = std::make_unique<LackingHandset>(phone->opened.handset);
-        for (const QString &role : lackingRoles())
-            lacking->takeAway(role);
+        lacking = std::make_unique<LackingHandset>(phone->opened.handset, lackingRoles());
         return true;
     }
     void close() override

@@ -7,6 +7,7 @@
 #include "qt/QCopChannel.h"
 #include "qt/qcop/PrivateBus.h"
 #include "qt/qcop/QCopBus.h"
+#include "support/LackingHandset.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QProcess>
@@ -20,15 +21,6 @@ using namespace handset;
 using namespace handset::test;
 
 namespace {
-
-/// A handset that has no packet data.
-class PlainHandset final : public Handset
-{
-public:
-    CallService *callService() override { return nullptr; }
-    CallLog *callLog() override { return nullptr; }
-    DataCalls *dataCalls() override { return nullptr; }
-};
 
 /// Counts the updates, and looks at the handset when one comes.
 class Screen
@@ -253,9 +245,9 @@ void TestBroadcast::onlyTheInstalledHandsetTells()
 void TestBroadcast::aHandsetWithoutPacketDataCanBeInstalled()
 {
     const Phone phone;
-    install(std::make_shared<PlainHandset>());
+    install(std::make_shared<LackingHandset>());
     install(phone.opened.handset);
-    install(std::make_shared<PlainHandset>());
+    install(std::make_shared<LackingHandset>());
     Screen screen;
     QCOMPARE(phone->packets().startSession("x", 1, 1), int(Success));
     QCOMPARE(screen.updates(), 0);

@@ -2,12 +2,12 @@
 #include "handset/CallLog.h"
 #include "handset/CallService.h"
 #include "handset/DataCalls.h"
-#include "handset/DecoratedHandset.h"
 #include "handset/EachOperation.h"
 #include "handset/HandsetRig.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/PacketData.h"
 #include "handset/Status.h"
+#include "support/LackingHandset.h"
 #include "support/TestGroup.h"
 
 #include <functional>
@@ -38,12 +38,6 @@ SixFigures masked(const SixFigures &figures, const SixFigures &mask)
     return {figures.last * mask.last, figures.dialed * mask.dialed, figures.answered * mask.answered,
             figures.data * mask.data, figures.all * mask.all,       figures.lifetime * mask.lifetime};
 }
-
-class WithoutRoles final : public DecoratedHandset<WithoutRoles>
-{
-public:
-    using DecoratedHandset::DecoratedHandset;
-};
 
 #define KAV_NEED_PACKET_DATA()                                                                                    \
     if (!rig->handset().packetData())                                                                             \
@@ -169,11 +163,9 @@ void TestContract::anOperationOfAnAbsentRoleIsNotAvailable()
     QFETCH(int, operation);
     const auto index = static_cast<std::size_t>(operation);
     const QString role = QString::fromLatin1(operationNames[index]).section(QStringLiteral("::"), 0, 0);
-    const auto handset =
-        std::make_shared<WithoutRoles>(std::shared_ptr<Handset>(std::shared_ptr<void>(), &rig->handset()));
-    install(handset);
-    if (!rig->lackingRoles().contains(role))
-        handset->takeAway(role);
+    const QStringList taken = rig->lackingRoles().contains(role) ? QStringList() : QStringList(role);
+    install(std::make_shared<LackingHandset>(std::shared_ptr<Handset>(std::shared_ptr<void>(), &rig->handset()),
+                                             taken));
     QCOMPARE(askEach[index](), int(NotAvailable));
 }
 
