@@ -581,6 +581,10 @@ void TestCostSetup::aScreenDestroyedWhileThePinIsAskedForIsSafe()
 
 void TestCostSetup::aRowBehindTheLastDoesNothing()
 {
+    script().answer("AdviceOfCharge::updateRule", quint8(4)); // of no file of its own
+    script().answer("SimSecurity::pinStatus", quint32(1));
+    OtherPinEntry entry(1, SETUP_SECURITY_VERIFY_OK);
+    entry.whenCalled = [](const OtherPinEntry::Call &) { QTest::qFail("it asks for PIN2", __FILE__, __LINE__); };
     open();
     ZListBox *list = PhoneScreen::list(view.get());
     list->insertItem(new ZSettingItem(list, QString()), -1, true);
