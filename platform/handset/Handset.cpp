@@ -37,6 +37,8 @@ struct Backend {
 
 constexpr std::array backends{
     Backend{"simulated", &simulated::open, nullptr},
+    Backend{"modemmanager", nullptr, "libkavhandset-modemmanager.so"},
+    Backend{"ofono", nullptr, "libkavhandset-ofono.so"},
 };
 
 Opened cannotBeUsed(const QString &library, const QString &reason)

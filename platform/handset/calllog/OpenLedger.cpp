@@ -109,6 +109,22 @@ OpenedLedger openInMemory(const std::shared_ptr<Clock> &clock)
     return open(std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock), {});
 }
 
+// Thrown out of a long step, all of which leave what is kept as it is until they are done.
+struct GivenUp {
+};
+
+ProgressListener progressListener(const Settings &settings)
+{
+    if (!settings.isGivenUp)
+        return settings.progress;
+    return [&settings](const QString &step, int percent) {
+        if (settings.progress)
+            settings.progress(step, percent);
+        if (settings.isGivenUp())
+            throw GivenUp{};
+    };
+}
+
 } // namespace
 
 OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const ProgressListener &progress)
@@ -142,6 +158,15 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     if (!attempt.isReadThrough)
         opened.unread = place.filePath(QString::fromLatin1(databaseName));
     return opened;
+}
+
+OpenedLedger openLedger(const Settings &settings)
+{
+    try {
+        return openLedger(settings.stateDirectory, settings.clock, progressListener(settings));
+    } catch (const GivenUp &) {
+        return {nullptr, QStringLiteral("The opening of the call log was given up; it is as it was."), {}, {}};
+    }
 }
 
 } // namespace handset::calllog

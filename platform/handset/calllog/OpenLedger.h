@@ -3,6 +3,7 @@
 
 #include "calllog/Ledger.h"
 #include "calllog/repair/Progress.h"
+#include "handset/Handset.h"
 
 #include <QtCore/QString>
 
@@ -25,5 +26,7 @@ struct OpenedLedger {
 /// null.
 OpenedLedger openLedger(const QString &directory, const std::shared_ptr<Clock> &clock,
                         const ProgressListener &progress = {});
+/// Likewise that of a handset, which may be given up.
+OpenedLedger openLedger(const Settings &settings);
 
 } // namespace handset::calllog

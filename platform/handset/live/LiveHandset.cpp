@@ -1,5 +1,6 @@
 #include "live/LiveHandset.h"
 
+#include "calllog/OpenLedger.h"
 #include "calllog/Saturating.h"
 
 #include <QtCore/QTimer>
@@ -135,6 +136,22 @@ void LiveHandset::tick()
         packets.tellUpdate();
     if (recorded != records || owed != owesRecord())
         tellHere();
+}
+
+void LiveHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
+{
+    check = std::make_unique<calllog::CheckBeside>(ledger->connection(), file, tell);
+}
+
+Opened open(const Settings &settings, std::unique_ptr<Modem> modem)
+{
+    calllog::OpenedLedger opened = calllog::openLedger(settings);
+    if (!opened.ledger)
+        return {nullptr, opened.error, {}};
+    auto handset = std::make_shared<LiveHandset>(std::move(opened.ledger), settings.clock, std::move(modem));
+    if (!opened.unread.isEmpty())
+        handset->checkBeside(opened.unread, settings.tell);
+    return {handset, {}, opened.notice};
 }
 
 } // namespace handset::live

@@ -3,6 +3,7 @@
 
 #include "calllog/CallFigures.h"
 #include "calllog/Charging.h"
+#include "calllog/CheckBeside.h"
 #include "calllog/PacketFigures.h"
 #include "handset/Handset.h"
 #include "live/CallRecorder.h"
@@ -43,6 +44,9 @@ public:
     void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
 
+    /// Reads the call log at `file` through while it is in use. As calllog::CheckBeside.
+    void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
+
     Modem &modem() { return *source; }
     const CallRecorder &calls() const { return callRecorder; }
     const SessionRecorder &sessions() const { return sessionRecorder; }
@@ -80,6 +84,10 @@ private:
     qint64 writtenAtMs = 0; ///< of the boot clock: the last checkpoint
     bool records = true;    ///< as of the last runTimer()
     std::function<void()> onChange;
+    std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
+
+/// Opens a handset over `modem`, with the ledger of the settings' state directory. As handset::open().
+Opened open(const Settings &settings, std::unique_ptr<Modem> modem);
 
 } // namespace handset::live

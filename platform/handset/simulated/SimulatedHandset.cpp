@@ -3,6 +3,7 @@
 #include "calllog/CallFigures.h"
 #include "calllog/CheckBeside.h"
 #include "calllog/OpenLedger.h"
+#include "handset/DialedNumber.h"
 #include "handset/Status.h"
 #include "simulated/SimulatedBackend.h"
 
@@ -18,23 +19,14 @@ using LineState = SimulatedHandset::LineState;
 
 namespace {
 
-constexpr qsizetype longestNumber = 80;
 constexpr int tickMs = PacketFigures::updateIntervalMs;
 constexpr int ticksPerCheckpoint = Ledger::checkpointIntervalMs / tickMs;
 // How long nobody records at most when the process that did is gone.
 constexpr int takeOverMs = 500;
 
-// As a SIM can hold it and a keypad can dial it.
-bool isNumber(const QString &number)
-{
-    const auto dialable = [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'+' || c == u'*' || c == u'#'; };
-    return !number.isEmpty() && number.size() <= longestNumber &&
-           std::all_of(number.begin(), number.end(), dialable);
-}
-
 bool isShownNumber(const QString &number)
 {
-    return number.isEmpty() || isNumber(number);
+    return number.isEmpty() || isDialable(number);
 }
 
 bool isPlausible(const PastCall &call)
@@ -42,36 +34,11 @@ bool isPlausible(const PastCall &call)
     return isKnown(call.kind) && isKnown(call.direction) && call.durationMs >= 0 && isShownNumber(call.number);
 }
 
-// Thrown out of a long step, all of which leave what is kept as it is until they are done.
-struct GivenUp {
-};
-
-calllog::ProgressListener progressListener(const Settings &settings)
-{
-    if (!settings.isGivenUp)
-        return settings.progress;
-    return [&settings](const QString &step, int percent) {
-        if (settings.progress)
-            settings.progress(step, percent);
-        if (settings.isGivenUp())
-            throw GivenUp{};
-    };
-}
-
-calllog::OpenedLedger openLedger(const Settings &settings)
-{
-    try {
-        return calllog::openLedger(settings.stateDirectory, settings.clock, progressListener(settings));
-    } catch (const GivenUp &) {
-        return {nullptr, QStringLiteral("The opening of the call log was given up; it is as it was."), {}, {}};
-    }
-}
-
 } // namespace
 
 Opened open(const Settings &settings)
 {
-    calllog::OpenedLedger opened = openLedger(settings);
+    calllog::OpenedLedger opened = calllog::openLedger(settings);
     if (!opened.ledger)
         return {nullptr, opened.error, {}};
     auto handset = std::make_shared<SimulatedHandset>(std::move(opened.ledger), settings.clock);
@@ -345,7 +312,7 @@ void SimulatedHandset::changedElsewhere()
 
 int SimulatedHandset::dial(const QString &number, CallKind kind)
 {
-    if (!isNumber(number) || !isKnown(kind))
+    if (!isDialable(number) || !isKnown(kind))
         return InvalidArgument;
     return innards->begin(LineState::Dialing, {kind, CallDirection::Dialed, number});
 }
