@@ -117,18 +117,21 @@ QStringList includesOf(const QString &content)
     return names;
 }
 
-// Where the compiler looks for `name`, as the project's CMakeLists.txt say, and in the folder of `file`. Null for what is
-// not the project's.
+// Where the compiler looks for `name`, as the project's CMakeLists.txt say, and in the folder of `file`. Empty for what is
+// not the project's; the compiler takes the first.
+QStringList places(const Tree &tree, const QString &file, const QString &name)
+{
+    QStringList found{QDir::cleanPath(folderOf(file) + QLatin1Char('/') + name)};
+    for (const char *root : {"", "platform/", "platform/handset/", "tests/", "tests/platform/"})
+        found.append(QLatin1String(root) + name);
+    found.removeIf([&](const QString &place) { return !tree.contains(place); });
+    found.removeDuplicates();
+    return found;
+}
+
 QString resolved(const Tree &tree, const QString &file, const QString &name)
 {
-    const QString sibling = QDir::cleanPath(folderOf(file) + QLatin1Char('/') + name);
-    if (tree.contains(sibling))
-        return sibling;
-    for (const char *root : {"", "platform/", "platform/handset/", "tests/", "tests/platform/"}) {
-        if (tree.contains(QLatin1String(root) + name))
-            return QLatin1String(root) + name;
-    }
-    return {};
+    return places(tree, file, name).value(0);
 }
 
 QStringList moduleViolations(const QString &file, const QString &name)
@@ -153,6 +156,8 @@ QStringList violationsOf(const Tree &tree, const QString &file)
     for (const QString &name : names) {
         violations += moduleViolations(file, name);
         const QString target = resolved(tree, file, name);
+        if (places(tree, file, name).size() > 1)
+            violations.append(QStringLiteral("%1 includes \"%2\", which is more than one file").arg(file, name));
         if (!target.isNull() && !name.contains(QLatin1Char('/')))
             violations.append(QStringLiteral("%1 includes \"%2\" without its folder").arg(file, name));
         if (!target.isNull() && folderOf(target) != folderOf(file) && !isInAny(folderOf(target), rule->mayInclude))
@@ -300,6 +305,8 @@ void TestIncludes::aViolationIsFound_data()
         "utility/New.cpp includes platform/handset/Handset.h");
     row("without the folder", "platform/telephony/New.cpp", "#include \"tapi.h\"\n",
         "platform/telephony/New.cpp includes \"tapi.h\" without its folder");
+    row("one of two files", "tests/platform/handset/Handset.h", "#include \"handset/Handset.h\"\n",
+        "tests/support/Fixture.h includes \"handset/Handset.h\", which is more than one file");
     row("by a path", "utility/New.cpp", "#include \"../platform/handset/Handset.h\"\n",
         "utility/New.cpp includes platform/handset/Handset.h");
     row("the plug-in reaches the telephone through a shim", "platform/telephony/tapi.h",
