@@ -41,6 +41,15 @@ QStringList sessionsOf(Handset &handset);
 /// Of all sessions: "seconds sent received total".
 QString sessionTotalsOf(Handset &handset);
 
+/// A boot clock that goes wherever it is set, also back.
+class LooseClock final : public Clock
+{
+public:
+    qint64 monotonicMs() const override { return monotonic; }
+    qint64 wallMs() const override { return 0; }
+    qint64 monotonic = 0;
+};
+
 /// A row of the call log.
 struct LoggedCall {
     qint64 id = 0;

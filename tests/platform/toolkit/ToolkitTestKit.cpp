@@ -46,6 +46,13 @@ void ListScreen::addRows(int count)
         addRow(QStringLiteral("Row %1").arg(i), QString::number(i));
 }
 
+bool ListScreen::open(int rows)
+{
+    addRows(rows);
+    show();
+    return QTest::qWaitForWindowActive(this, 60'000);
+}
+
 QString ListScreen::titles() const
 {
     QStringList result;

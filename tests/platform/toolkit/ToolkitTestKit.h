@@ -24,6 +24,8 @@ public:
     ZSettingItem *addRow(const QString &title, const QString &value = QString());
     ZSettingItem *addSeparator(const QString &title);
     void addRows(int count);
+    /// With so many rows, until its window is active; false when that takes too long.
+    bool open(int rows = 0);
     QString titles() const; ///< of all rows, joined by "|"
 
     ZSoftKey *const bar;

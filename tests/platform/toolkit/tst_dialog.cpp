@@ -257,9 +257,7 @@ void TestDialog::aDisabledSoftkeyDoesNotAnswer()
 void TestDialog::aKeyThatIsHeldSinceBeforeDoesNotAnswer()
 {
     ListScreen screen;
-    screen.addRows(1);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(1));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     const Answers answers(dialog);
     connect(screen.list, &ZListBox::selected, dialog, &QWidget::show);
@@ -273,9 +271,7 @@ void TestDialog::aKeyThatIsHeldSinceBeforeDoesNotAnswer()
 void TestDialog::itIsHiddenBeforeItAnswers()
 {
     ListScreen screen;
-    screen.addRows(2);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(2));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     QList<bool> seen;
     connect(dialog, &ZPopup::leftSoftkeyClicked, this,
@@ -288,8 +284,7 @@ void TestDialog::itIsHiddenBeforeItAnswers()
 void TestDialog::whoeverAnswersMayShowItAgain()
 {
     ListScreen screen;
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open());
     ZMessageDlg *dialog = newDialog(&screen, Question);
     int answers = 0;
     connect(dialog, &ZPopup::leftSoftkeyClicked, this, [&] {
@@ -492,9 +487,7 @@ void TestDialog::aModalOneDimsTheScreen()
 void TestDialog::aModalOneKeepsKeysAndPointerFromTheScreen()
 {
     ListScreen screen;
-    screen.addRows(30);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(30));
     QSignalSpy chosen(screen.list, &ZListBox::itemChosen);
     newDialog(&screen, Question)->show();
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(5, 100));
@@ -514,9 +507,7 @@ void TestDialog::aModalOneKeepsKeysAndPointerFromTheScreen()
 void TestDialog::aModalOneKeepsTheFocusWhenTheListBelowAsksForIt()
 {
     ListScreen screen;
-    screen.addRows(3);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(3));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     screen.list->setFocus();
@@ -529,9 +520,7 @@ void TestDialog::aModalOneKeepsTheFocusWhenTheListBelowAsksForIt()
 void TestDialog::oneThatIsNotModalLetsThePointerThrough()
 {
     ListScreen screen;
-    screen.addRows(30);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(30));
     ZMessageDlg *dialog = newDialog(&screen, Information, false);
     dialog->show();
     const Answers answers(dialog);
@@ -598,9 +587,7 @@ void TestDialog::theTabKeyGoesFromTheDialogToTheWindowAroundAndBack()
 void TestDialog::theFocusGoesBackToTheList()
 {
     ListScreen screen;
-    screen.addRows(3);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(3));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     QVERIFY(!screen.list->hasFocus());
@@ -660,9 +647,7 @@ void TestDialog::theNewestDialogGetsTheKeysInWhateverOrderTheyGo()
 {
     QFETCH(QList<int>, order);
     ListScreen screen;
-    screen.addRows(3);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(3));
     QList<QPointer<ZMessageDlg>> dialogs;
     for (int i = 0; i < 3; ++i) {
         dialogs << newDialog(&screen, Question);
@@ -682,8 +667,7 @@ void TestDialog::theNewestDialogGetsTheKeysInWhateverOrderTheyGo()
 void TestDialog::showingItAgainBringsItToTheTop()
 {
     ListScreen screen;
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open());
     ZMessageDlg *first = newDialog(&screen, Question);
     ZMessageDlg *second = newDialog(&screen, Question);
     first->show();
@@ -697,9 +681,7 @@ void TestDialog::showingItAgainBringsItToTheTop()
 void TestDialog::aSubScreenOpenedOverADialogGetsTheKeys()
 {
     ListScreen screen;
-    screen.addRows(3);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(3));
     ZMessageDlg *dialog = newDialog(&screen, Question);
     dialog->show();
     auto *sub = new ListScreen(&screen);
@@ -756,8 +738,7 @@ void TestDialog::oneThatIsGoneBeforeItsTimeDoesNotAnswer()
 void TestDialog::aLongMessageScrollsByKeyAndWheel()
 {
     ListScreen screen;
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open());
     QString text;
     for (int i = 0; i < 60; ++i)
         text += QStringLiteral("Line %1 of sixty\n").arg(i);

@@ -171,9 +171,7 @@ void TestFocus::aSubScreenTakesTheKeysAndGivesThemBack()
 void TestFocus::aSubScreenKeepsTheFocusWhenTheListBelowAsksForIt()
 {
     ListScreen screen;
-    screen.addRows(3);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(3));
     ListScreen sub(&screen);
     sub.addRows(3);
     sub.show();
@@ -251,9 +249,7 @@ void TestFocus::screensSideBySideDoNotCoverEachOther()
 void TestFocus::theTabKeyStaysWhenThereIsNowhereToGo()
 {
     ListScreen screen;
-    screen.addRows(2);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(2));
     clickInWindow(&screen, Qt::Key_Tab);
     clickInWindow(&screen, Qt::Key_Backtab);
     QVERIFY(screen.list->hasFocus());

@@ -285,9 +285,7 @@ void TestSoftKey::theSoftkeysOfAnotherTargetAreServed()
 void TestSoftKey::clickingDoesNotMoveTheFocus()
 {
     ListScreen screen;
-    screen.addRows(3);
-    screen.show();
-    QVERIFY(QTest::qWaitForWindowActive(&screen, 60'000));
+    QVERIFY(screen.open(3));
     QVERIFY(screen.list->hasFocus());
     QTest::mouseClick(screen.windowHandle(), Qt::LeftButton, {}, QPoint(220, 310));
     QVERIFY(screen.list->hasFocus());

@@ -21,15 +21,6 @@ using calllog::CallState;
 
 namespace {
 
-/// Goes wherever it is set.
-class LooseClock final : public Clock
-{
-public:
-    qint64 monotonicMs() const override { return monotonic; }
-    qint64 wallMs() const override { return 0; }
-    qint64 monotonic = 0;
-};
-
 int modeOf(const QString &path)
 {
     struct stat status = {};

@@ -23,15 +23,6 @@ namespace {
 constexpr qint64 maximum = std::numeric_limits<qint64>::max();
 constexpr quint32 mostBytes = std::numeric_limits<quint32>::max();
 
-/// Goes wherever it is set.
-class LooseClock final : public Clock
-{
-public:
-    qint64 monotonicMs() const override { return monotonic; }
-    qint64 wallMs() const override { return 0; }
-    qint64 monotonic = 0;
-};
-
 QString row(int id, const char *apn, qint64 ms, qint64 sent, qint64 received, CallState state)
 {
     return QStringLiteral("%1 %2 %3 %4 %5 %6")
