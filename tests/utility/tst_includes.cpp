@@ -70,7 +70,8 @@ struct ModuleRule {
 };
 constexpr ModuleRule moduleRules[] = {
     {"QtSql", "QSql", "platform/handset/calllog/ tests/ bench/", "the call log is the one database"},
-    {"QtDBus", "QDBus", "platform/handset/modemmanager/ platform/handset/ofono/ tests/ bench/",
+    {"QtDBus", "QDBus",
+     "platform/handset/live platform/handset/modemmanager/ platform/handset/ofono/ tests/ bench/",
      "the live handsets"},
     {"dbus", "dbus/", "platform/qt/qcop", "channels"},
     {"QtTest", "QTest", "tests/", "product code has no tests in it"},

@@ -1,0 +1,65 @@
+// A daemon on the system bus.
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtDBus/QDBusConnection>
+
+class QTimer;
+
+namespace handset::live {
+
+/// Where the system bus is: DBUS_SYSTEM_BUS_ADDRESS, or the place that every distribution gives it.
+QString systemBusAddress();
+
+/// How long what is asked of a daemon may take, in ms.
+struct Patience {
+    int answerMs = 5'000;    ///< for the answer to anything but dialing
+    int dialingMs = 60'000;  ///< some modems answer when the call is connected
+    int reconnectMs = 5'000; ///< between two attempts to reach a bus that has gone
+};
+
+/// Follows one name on the bus through every restart of the daemon and of the bus. It is never started by this, and
+/// nothing waits for it: with the owner's unique name as service, Qt asks nobody who that is.
+class BusDaemon : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit BusDaemon(QString name, QString address = systemBusAddress(),
+                       int reconnectMs = Patience().reconnectMs);
+    ~BusDaemon() override;
+
+    /// False when there is no bus; that is then looked for until there is one. This alone waits, for the bus itself.
+    bool start();
+    /// Why start() has found no bus.
+    QString error() const { return whyNot; }
+    /// That of the bus while there is one; another one after the bus has gone and come back.
+    const QDBusConnection &bus() const { return connection; }
+    /// The unique name of the daemon; empty while it is not there.
+    const QString &owner() const { return ownerName; }
+
+signals:
+    /// The daemon is there, and knows nothing of what was asked of the one before.
+    void appeared();
+    void vanished();
+
+private slots:
+    void ownerChanged(const QString &name, const QString &before, const QString &now);
+    void busLost();
+
+private:
+    bool connectToBus();
+    void askForOwner();
+    void setOwner(const QString &now);
+
+    const QString service;
+    const QString busAddress;
+    QString connectionName;
+    QDBusConnection connection;
+    QString ownerName;
+    QString whyNot;
+    QTimer *reconnect; ///< runs while there is no bus
+};
+
+} // namespace handset::live
