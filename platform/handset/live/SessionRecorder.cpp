@@ -47,9 +47,11 @@ bool SessionRecorder::report(const ReportedSession &session)
 {
     const bool isNew = !sessions.contains(session.id);
     Followed &followed = sessions[session.id];
-    // Another counter than before: what it shows now was counted by the one before.
+    // Another counter than before: what that had counted until now is this session's, what this one shows now is not.
     const bool isOtherCounter = !isNew && (session.interface != followed.session.interface ||
                                            session.counted.has_value() != followed.session.counted.has_value());
+    if (isOtherCounter)
+        read(followed);
     followed.session = session;
     if (isNew) {
         followed.seenAtMs = clock.monotonicMs();

@@ -139,6 +139,7 @@ private slots:
     void aCounterThatBeginsAnewAddsAndNeverSubtracts();
     void anInterfaceThatGoesAndComesBackAddsWhatItHasThen();
     void anotherInterfaceDoesNotBringItsOldBytes();
+    void aSessionThatLosesItsInterfaceKeepsWhatThatHadCounted();
     void aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice();
     void twoSessionsAtOnceCountTheirOwn();
     void nothingWakesUpWhileNothingRuns();
@@ -432,6 +433,17 @@ void TestRecording::anotherInterfaceDoesNotBringItsOldBytes()
     desk.setInterface(QStringLiteral("wwan1"), 5001, 5002);
     desk.pass(10 * second);
     QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:11:22:0"));
+}
+
+void TestRecording::aSessionThatLosesItsInterfaceKeepsWhatThatHadCounted()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 100, 200);
+    desk.session(QStringLiteral("/b"), {}, QStringLiteral("wwan0"));
+    desk.setInterface(QStringLiteral("wwan0"), 107, 209);
+    desk.session(QStringLiteral("/b")); // the daemon takes it away before it tells the end
+    emit desk.modem->sessionGone(QStringLiteral("/b"));
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:0:7:9:1"));
 }
 
 void TestRecording::aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice()
