@@ -4,7 +4,6 @@
 
 #include <sqlite3.h>
 
-#include <cerrno>
 #include <utility>
 
 namespace handset::calllog {
@@ -103,7 +102,6 @@ bool PlainStatement::next()
 {
     if (!prepare() || code != SQLITE_OK)
         return false;
-    errno = 0; // what it is at a failure is told (sqlite::reason())
     const int result = primary(sqlite3_step(statement));
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         code = result;
