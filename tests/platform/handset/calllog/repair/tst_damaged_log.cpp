@@ -35,7 +35,7 @@ constexpr qint64 pageSize = 4096;
 constexpr int wholeCalls = 1000; ///< of the sample, when it was closed
 constexpr int wholeSessions = 800;
 
-const QString damaged =
+const QString wasReplaced =
     QStringLiteral("The call log is damaged; it was kept as \"calllog-kept-1.db\" and a new one "
                    "was begun with the calls ");
 
@@ -549,7 +549,8 @@ void TestDamagedLog::aLogWithWrongTablesIsReplaced()
     QVERIFY(LogFile(state.database()).run(statement));
     Phone phone(state.path());
     QVERIFY2(phone, qPrintable(phone.opened.error));
-    const QString begin = damaged + QStringLiteral("(%1) and data sessions (800) that could be read").arg(calls);
+    const QString begin =
+        wasReplaced + QStringLiteral("(%1) and data sessions (800) that could be read").arg(calls);
     QVERIFY2(phone.opened.notice.startsWith(begin), qPrintable(phone.opened.notice));
     QCOMPARE(phone.figures(), sample.figures); // from the totals, or from the calls
     phone.close();
@@ -1080,7 +1081,7 @@ void TestDamagedLog::aLogWithWrongSessionTablesIsReplaced()
     QVERIFY(LogFile(state.database()).run(statement));
     Phone phone(state.path());
     QVERIFY2(phone, qPrintable(phone.opened.error));
-    QCOMPARE(phone.opened.notice, damaged + notice);
+    QCOMPARE(phone.opened.notice, wasReplaced + notice);
     QCOMPARE(phone.sessions().size(), areThere ? 3 : 0);
     phone.close();
     const LogFile file(state.database());
@@ -1113,7 +1114,7 @@ void TestDamagedLog::theNoticeSaysWhatWasCounted()
     for (const char *table : {"totals", "session_totals"})
         QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM %1").arg(QLatin1String(table))));
     const Phone phone(state.path());
-    QCOMPARE(phone.opened.notice, damaged + notice);
+    QCOMPARE(phone.opened.notice, wasReplaced + notice);
     QCOMPARE(phone.figures().dialed, quint64{3});
     QCOMPARE(phone.sessionTotals(), hasSession ? QStringLiteral("4 0 0 0") : QStringLiteral("0 0 0 0"));
 }
@@ -1182,7 +1183,7 @@ void TestDamagedLog::aSessionThatWasRunningIsInterrupted()
     QVERIFY(copyState(state.path(), crashed.path()));
     QVERIFY(LogFile(crashed.database()).run(QStringLiteral("DELETE FROM totals")));
     Phone next(crashed.path());
-    QVERIFY(next.opened.notice.startsWith(damaged));
+    QVERIFY(next.opened.notice.startsWith(wasReplaced));
     QVERIFY(!next->packets().isSessionRunning());
     QCOMPARE(next.sessions(), QStringList{QStringLiteral("1 x 4 4 4")});
     next.close();
@@ -1201,7 +1202,7 @@ void TestDamagedLog::aDamagedLogOfTheFirstVersionHasNoSessions()
     }
     Phone phone(state.path());
     QCOMPARE(phone.opened.notice,
-             damaged + QStringLiteral("that could be read (1) and timers counted from them."));
+             wasReplaced + QStringLiteral("that could be read (1) and timers counted from them."));
     QCOMPARE(phone.figures().dialed, quint64{61});
     QCOMPARE(phone.sessions(), QStringList());
     QVERIFY(phone.session(2 * second, "x", 1, 1));
@@ -1230,7 +1231,7 @@ void TestDamagedLog::aBigLogIsReadAsFarAsTheSlotsDependOnIt()
     QVERIFY(writeFile(state.database(),
                       content.replace(pageOf(newest - 2) * pageSize, pageSize, QByteArray(pageSize, '\0'))));
     const Phone phone(state.path());
-    QVERIFY2(phone.opened.notice.startsWith(damaged), qPrintable(phone.opened.notice));
+    QVERIFY2(phone.opened.notice.startsWith(wasReplaced), qPrintable(phone.opened.notice));
     QVERIFY(phone.sessions().first().contains(QString::fromLatin1(name(newest))));
     QCOMPARE(phone.sessionTotals().section(QLatin1Char(' '), 0, 0), QString::number(newest - 999));
 }
