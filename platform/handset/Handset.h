@@ -1,6 +1,8 @@
 // The handset behind the phone's libraries, and the one place where its backend is chosen.
 #pragma once
 
+#include "handset/Patience.h"
+
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -50,11 +52,13 @@ struct Settings {
     /// of the GUI thread, as long as the handset lives; null for nobody.
     std::function<void(const QString &notice)> tell = {};
     /// Is told how far a step of open() is that takes long, as reading a big damaged call log does: what is done, part of
-    /// a sentence, and 0 to 100 percent; one step after another. Null for nobody.
+    /// a sentence, and 0 to 100 percent; one step after another. Waiting for other processes is such a step, too, and
+    /// its percents are those of the patience. Null for nobody.
     std::function<void(const QString &step, int percent)> progress = {};
     /// Asked as often as `progress` is told: true gives the opening up, with an error. What is kept is left as it is; the
     /// next open() begins anew. Null for never.
     std::function<bool()> isGivenUp = {};
+    Patience patience = {};
 };
 
 struct Opened {

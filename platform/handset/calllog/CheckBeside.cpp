@@ -108,7 +108,7 @@ CheckedLog CheckBeside::read()
 {
     PlainConnection connection(file);
     if (!connection.isOpen())
-        return {{Verdict::Blocked, QStringLiteral("it cannot be opened once more")}, {}};
+        return {{Verdict::Blocked, sqlite::reason(connection.handle())}, {}};
     connection.run("PRAGMA trusted_schema = OFF");
     connection.run("PRAGMA cell_size_check = ON");
     const Interruption interruption(connection.handle(), [this] { return isOver.load(); });
@@ -141,7 +141,8 @@ void CheckBeside::finish(const CheckedLog &checked)
     case Verdict::Newer:
     case Verdict::Older:
     case Verdict::Blocked:
-        text = QStringLiteral("The call log could not be read through: %1.").arg(explain(checked.finding));
+        text = QStringLiteral("The call log \"%1\" could not be read through: %2.")
+                   .arg(file, explain(checked.finding));
         break;
     }
     if (listener && !text.isEmpty())

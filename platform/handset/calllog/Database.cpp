@@ -6,6 +6,8 @@
 #include <QtCore/QVariant>
 #include <QtSql/QSqlDriver>
 
+#include <cerrno>
+#include <cstring>
 #include <utility>
 
 #include <sqlite3.h>
@@ -24,15 +26,25 @@ QString newConnectionName()
     return QStringLiteral("kav-calllog-%1").arg(++count);
 }
 
-// Whoever writes at the same time is done in a few milliseconds. SQLite's own way waits longer from try to try, and so
-// may never meet a moment in which a busy one does not write.
-int waitForOthers(void *patienceMs, int tries)
+constexpr int betweenTriesMs = 2;
+
+// What the system said when SQLite failed with that code, as it has left it behind: it keeps that for itself, and not
+// always. That there is no such file says nothing: SQLite looks for some which need not be there.
+int systemError(int code)
 {
-    constexpr int betweenTriesMs = 2;
-    if (tries >= *static_cast<const int *>(patienceMs) / betweenTriesMs)
-        return 0;
-    ::usleep(betweenTriesMs * 1000);
-    return 1;
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return ENOSPC;
+    case SQLITE_CANTOPEN:
+    case SQLITE_IOERR:
+        return code == SQLITE_IOERR_SHORT_READ || errno == ENOENT ? 0 : errno;
+    }
+    return 0;
+}
+
+QString withSystemError(const QString &words, int error)
+{
+    return error == 0 ? words : QStringLiteral("%1 (%2)").arg(words, QString::fromLocal8Bit(std::strerror(error)));
 }
 
 } // namespace
@@ -47,6 +59,12 @@ QString sqlite::reason(const QSqlError &error)
     return error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
 }
 
+QString sqlite::reason(sqlite3 *connection)
+{
+    const int error = systemError(sqlite3_extended_errcode(connection));
+    return withSystemError(QString::fromUtf8(sqlite3_errmsg(connection)), error);
+}
+
 Database::Database(const QString &file, Access access)
     : name(newConnectionName())
     , connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))
@@ -54,14 +72,15 @@ Database::Database(const QString &file, Access access)
     if (access == Access::ReadOnly)
         connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
     connection.setDatabaseName(file);
+    errno = 0;
     if (!connection.open()) {
-        error = connection.lastError();
+        note(connection.lastError());
         return;
     }
     const QVariant handle = connection.driver()->handle();
     const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
     sqlite = held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
-    sqlite3_busy_handler(sqlite, &waitForOthers, &patienceMs);
+    sqlite3_busy_handler(sqlite, &waitInSqlite, this);
 }
 
 Database::~Database()
@@ -70,6 +89,44 @@ Database::~Database()
     connection.close();
     connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
+}
+
+void Database::setPatience(int milliseconds)
+{
+    patienceMs = milliseconds;
+    waiting = nullptr;
+    holders = nullptr;
+}
+
+void Database::setPatience(Waiting &wait, Holders whoWrites)
+{
+    waiting = &wait;
+    holders = std::move(whoWrites);
+}
+
+// Whoever writes at the same time is done in a few milliseconds. SQLite's own way waits longer from try to try, and so
+// may never meet a moment in which a busy one does not write.
+int Database::waitInSqlite(void *self, int tries)
+{
+    auto &database = *static_cast<Database *>(self);
+    if (database.waiting)
+        return database.waitForOthers() ? 1 : 0;
+    if (tries >= database.patienceMs / betweenTriesMs)
+        return 0;
+    ::usleep(betweenTriesMs * 1000);
+    return 1;
+}
+
+bool Database::waitForOthers()
+{
+    return waiting && waiting->pauseInSqlite(betweenTriesMs, holders);
+}
+
+// The driver does not say what the system has said.
+void Database::note(const QSqlError &last)
+{
+    const QString words = withSystemError(sqlite::reason(last), systemError(last.nativeErrorCode().toInt()));
+    error = QSqlError(last.driverText(), words, last.type(), last.nativeErrorCode());
 }
 
 QSqlQuery Database::query() const
@@ -82,33 +139,36 @@ QSqlQuery Database::query() const
 bool Database::run(const QString &statement)
 {
     QSqlQuery once = query();
+    errno = 0;
     if (once.exec(statement))
         return true;
-    error = once.lastError();
+    note(once.lastError());
     return false;
 }
 
 std::optional<qint64> Database::number(const QString &statement)
 {
     QSqlQuery once = query();
+    errno = 0;
     if (once.exec(statement) && once.next())
         return once.value(0).toLongLong();
-    error = once.lastError();
+    note(once.lastError());
     return std::nullopt;
 }
 
 QString Database::text(const QString &statement)
 {
     QSqlQuery once = query();
+    errno = 0;
     if (once.exec(statement) && once.next())
         return once.value(0).toString();
-    error = once.lastError();
+    note(once.lastError());
     return {};
 }
 
 bool Database::fail()
 {
-    error = QSqlError({}, QString::fromUtf8(sqlite3_errmsg(sqlite)), QSqlError::StatementError,
+    error = QSqlError({}, sqlite::reason(sqlite), QSqlError::StatementError,
                       QString::number(sqlite3_extended_errcode(sqlite)));
     return false;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "calllog/PlainSqlite.h"
+#include "calllog/Waiting.h"
+#include "handset/Patience.h"
 
 #include <QtSql/QSqlDatabase>
 #include <QtSql/QSqlError>
@@ -25,6 +27,9 @@ inline constexpr int NotADatabase = 26;
 int code(const QSqlError &error);
 /// What SQLite says of an error, without what the driver adds to it.
 QString reason(const QSqlError &error);
+/// What SQLite says of the last error of a connection, and what the system said, which it leaves out. To be asked at
+/// once.
+QString reason(sqlite3 *connection);
 } // namespace sqlite
 
 /// A write that is tried until it succeeds. Its failure is told once, and then its success.
@@ -49,8 +54,12 @@ public:
     sqlite3 *handle() const { return sqlite; }
     bool isOpen() const { return connection.isOpen(); }
     /// How long a statement waits for others that write, before it fails with sqlite::Busy.
-    void setPatience(int milliseconds) { patienceMs = milliseconds; }
-    static constexpr int usualPatienceMs = 1000; ///< nobody looks at a screen that stands still for longer
+    void setPatience(int milliseconds);
+    /// The statements of an opening share its patience. `wait` lives until the next setPatience().
+    void setPatience(Waiting &wait, Holders whoWrites);
+    /// Where SQLite itself does not wait: does so for a moment, or returns false when the patience of the opening is at
+    /// its end.
+    bool waitForOthers();
     const QSqlError &lastError() const { return error; }
 
     /// Runs one statement whose result does not matter.
@@ -119,13 +128,17 @@ public:
     QSqlQuery query() const;
 
 private:
+    static int waitInSqlite(void *self, int tries);
+    void note(const QSqlError &last);
     bool isInPlace();
 
     static constexpr auto beginSql = "BEGIN IMMEDIATE";
     static constexpr auto commitSql = "COMMIT";
 
     sqlite3 *sqlite = nullptr;
-    int patienceMs = usualPatienceMs;
+    int patienceMs = Patience{}.operation;
+    Waiting *waiting = nullptr;
+    Holders holders;
     QString name;
     QSqlDatabase connection;
     std::map<const char *, PlainStatement> statements;

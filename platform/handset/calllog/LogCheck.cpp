@@ -135,7 +135,7 @@ Finding checkPages(sqlite3 *connection)
     PlainStatement check(connection, "PRAGMA quick_check(1)");
     if (check.next())
         return judgeCheck(QString::fromUtf8(check.bytes(0)));
-    return failure(check.error(), QString::fromUtf8(sqlite3_errmsg(connection)));
+    return failure(check.error(), sqlite::reason(connection));
 }
 
 QByteArray selectTotal(const TotalPlace &place)
@@ -153,7 +153,7 @@ CheckedLog checkSums(sqlite3 *connection)
         sqlite3_exec(connection, "BEGIN", nullptr, nullptr, nullptr);
     const int code = read(connection, figures);
     if (code != SQLITE_OK)
-        checked.finding = failure(code, QString::fromUtf8(sqlite3_errmsg(connection)));
+        checked.finding = failure(code, sqlite::reason(connection));
     if (isOwnTransaction)
         sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)

@@ -3,9 +3,7 @@
 #include "calllog/LogCheck.h"
 #include "calllog/Schema.h"
 #include "calllog/SchemaCheck.h"
-
-#include <QtCore/QDeadlineTimer>
-#include <QtCore/QThread>
+#include "charging/ChargingState.h"
 
 #include <functional>
 #include <initializer_list>
@@ -39,13 +37,10 @@ Finding identify(Database &database)
 // SQLite does not wait where several want to change the mode at once.
 QString useWriteAheadLog(Database &database)
 {
-    constexpr unsigned long betweenMs = 2;
-    const QDeadlineTimer end(openingPatienceMs);
-    QString mode = database.text(QStringLiteral("PRAGMA journal_mode = WAL"));
-    while (mode.isEmpty() && sqlite::code(database.lastError()) == sqlite::Busy && !end.hasExpired()) {
-        QThread::msleep(betweenMs);
-        mode = database.text(QStringLiteral("PRAGMA journal_mode = WAL"));
-    }
+    const QString statement = QStringLiteral("PRAGMA journal_mode = WAL");
+    QString mode = database.text(statement);
+    while (mode.isEmpty() && sqlite::code(database.lastError()) == sqlite::Busy && database.waitForOthers())
+        mode = database.text(statement);
     return mode;
 }
 
@@ -99,6 +94,17 @@ constexpr auto readKept =
     "SELECT sum(length(CASE WHEN length(content) <= 1048576"
     " AND +name IN ('card', 'charging', 'checked', 'notice') THEN hex(content) END)) FROM kept";
 
+// No figure could be told beside a call whose tariff is none.
+Finding checkRunningCalls(Database &database)
+{
+    PlainStatement running(database.handle(), "SELECT tariff FROM calls WHERE state = 0 AND tariff NOT NULL");
+    charging::Tariff tariff;
+    while (running.next())
+        if (!charging::readTariff(running.bytes(0), tariff))
+            return {Verdict::Damaged, QStringLiteral("the tariff of the running call is wrong")};
+    return running.error() == 0 ? Finding{} : failure(running.error(), sqlite::reason(database.handle()));
+}
+
 // Reads what every later operation depends on, and may write.
 Finding settle(Database &database)
 {
@@ -113,6 +119,8 @@ Finding settle(Database &database)
           "SELECT count(*) FROM calls WHERE state = 0", "SELECT count(*) FROM sessions WHERE state = 0"})
         if (!database.number(QString::fromLatin1(needed)))
             return failure(database);
+    if (Finding running = checkRunningCalls(database); running.verdict != Verdict::Usable)
+        return running;
     return database.inTransaction([] { return true; }) ? Finding{} : failure(database);
 }
 
@@ -139,29 +147,37 @@ Finding walk(Database &database, std::initializer_list<Step> steps)
     return {};
 }
 
+void haveWait(Database &database, const SharedPatience &patience)
+{
+    if (patience.waiting)
+        database.setPatience(*patience.waiting, patience.holders);
+}
+
 // Closing a damaged database that could be written would work its leftovers in, and make it worse. (A database that
 // is only read passes this without its CHECK constraints: it is verified again.)
-Finding examine(const QString &file)
+Finding examine(const QString &file, const SharedPatience &patience)
 {
     Database database(file, Database::Access::ReadOnly);
-    database.setPatience(openingPatienceMs);
+    haveWait(database, patience);
     Finding finding = walk(database, {identify, verify});
-    if (finding.verdict == Verdict::Blocked) // some leftovers cannot be read without writing
+    const bool isBusy = patience.waiting && patience.waiting->isOver();
+    if (finding.verdict == Verdict::Blocked && !isBusy) // some leftovers cannot be read without writing
         return {};
     return finding;
 }
 
 } // namespace
 
-Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressListener &progress)
+Attempt openDatabase(const QString &file, Care care, Hold hold, const SharedPatience &patience,
+                     const ProgressListener &progress)
 {
     if (care == Care::Leftovers) {
-        Finding examined = examine(file);
+        Finding examined = examine(file, patience);
         if (examined.verdict != Verdict::Usable)
             return {std::move(examined), nullptr};
     }
     auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
-    database->setPatience(openingPatienceMs);
+    haveWait(*database, patience);
     const auto leaveOlder = [&](Database &older) { return hold == Hold::Shared ? isNewest(older) : Finding{}; };
     const auto bringUpToDate = [&](Database &older) {
         return migrate(older, migrations(), progress) ? Finding{} : failure(older);

@@ -26,10 +26,15 @@ enum class Hold {
     Alone
 };
 
-/// How long opening waits for other processes in all that it does (Database::setPatience()).
-inline constexpr int openingPatienceMs = 5000;
+/// How an opening waits for who has its database.
+struct SharedPatience {
+    Waiting *waiting =
+        nullptr; ///< lives as long as the database has this patience; null for a database of nobody else
+    Holders holders;
+};
 
-/// `file` is an absolute path, or ":memory:". `progress` as in migrate(). The database has the patience of opening.
-Attempt openDatabase(const QString &file, Care care, Hold hold, const ProgressListener &progress = {});
+/// `file` is an absolute path, or ":memory:". `progress` as in migrate(). The database keeps the patience.
+Attempt openDatabase(const QString &file, Care care, Hold hold, const SharedPatience &patience,
+                     const ProgressListener &progress = {});
 
 } // namespace handset::calllog

@@ -6,7 +6,6 @@
 #include "calllog/repair/Replacement.h"
 #include "handset/Status.h"
 
-#include <QtCore/QDeadlineTimer>
 #include <QtCore/QStringList>
 
 namespace handset::calllog {
@@ -24,18 +23,39 @@ Care careFor(const StateDirectory &directory, const QString &name)
     return directory.hasLeftovers(name) ? Care::Leftovers : Care::Thorough;
 }
 
-Attempt openFile(const StateDirectory &directory, Hold hold, const ProgressListener &progress)
+/// The place that is opened, and how.
+struct Opening {
+    StateDirectory &directory;
+    Waiting &waiting;
+    const ProgressListener &progress;
+};
+
+// Who has the log itself is not known to have the directory: it may be any program.
+Attempt openWaiting(const Opening &opening, const QString &name, Hold hold)
 {
+    const StateDirectory &directory = opening.directory;
+    const SharedPatience patience{&opening.waiting, [&directory, name] { return directory.writers(name); }};
+    Attempt attempt =
+        openDatabase(directory.filePath(name), careFor(directory, name), hold, patience, opening.progress);
+    opening.waiting.goOn();
+    const QString who = opening.waiting.lastHolders();
+    if (attempt.finding.verdict == Verdict::Blocked && !who.isEmpty())
+        attempt.finding.reason = QStringLiteral("it is in use by ") + who;
+    return attempt;
+}
+
+Attempt openFile(const Opening &opening, Hold hold)
+{
+    const StateDirectory &directory = opening.directory;
     const QString name = QString::fromLatin1(databaseName);
     if (QString problem = directory.mendRights(name); !problem.isEmpty())
         return {{Verdict::Blocked, std::move(problem)}, nullptr};
     Finding finding = examineFile(directory, name);
     if (finding.verdict != Verdict::Usable)
         return {std::move(finding), nullptr};
-    const QString path = directory.filePath(name);
-    if (isMarkedDamaged(path))
+    if (isMarkedDamaged(directory.filePath(name)))
         return {{Verdict::Damaged, {}}, nullptr};
-    return openDatabase(path, careFor(directory, name), hold, progress);
+    return openWaiting(opening, name, hold);
 }
 
 OpenedLedger cannotBeUsed(const StateDirectory &directory, const QString &reason)
@@ -53,60 +73,92 @@ bool isToBeReplaced(const Attempt &attempt)
 // With the directory alone: makes a log where there is none that can be used. `before` is what was found in it shared,
 // Usable where nobody has looked. A read that went wrong once may look like damage: what is damaged still is when it is
 // read again.
-Attempt openReplacing(StateDirectory &directory, Verdict before, const ProgressListener &progress)
+Attempt openReplacing(const Opening &opening, Verdict before)
 {
-    Finding finished = finishReplacement(directory);
+    Finding finished = finishReplacement(opening.directory);
     if (finished.verdict != Verdict::Usable)
         return {{Verdict::Blocked, explain(finished)}, nullptr};
-    Attempt attempt = openFile(directory, Hold::Alone, progress);
+    Attempt attempt = openFile(opening, Hold::Alone);
     if (isToBeReplaced(attempt) && attempt.finding.verdict != before)
-        attempt = openFile(directory, Hold::Alone, progress);
+        attempt = openFile(opening, Hold::Alone);
     if (!isToBeReplaced(attempt))
         return attempt;
-    if (const QString error = replace(directory, attempt.finding.verdict, progress); !error.isEmpty())
+    const QString error = replace(opening.directory, attempt.finding.verdict, opening.progress);
+    if (!error.isEmpty())
         return {{Verdict::Blocked, error}, nullptr};
-    return openFile(directory, Hold::Alone, progress);
+    return openFile(opening, Hold::Alone);
+}
+
+// What is needed, and who is in the way of it.
+Attempt blockedByOthers(Finding found, const QString &others)
+{
+    if (found.verdict == Verdict::Usable) // nobody has looked
+        return {{Verdict::Blocked, others}, nullptr};
+    if (found.verdict == Verdict::Damaged)
+        found.reason.clear(); // SQLite's words, of several lines
+    const QString text = QStringLiteral("%1, and only who has the directory alone can put that right; %2");
+    return {{Verdict::Blocked, text.arg(explain(found), others)}, nullptr};
 }
 
 // Who shares the directory leaves everything as it is; who finds no log that can be used takes it alone, unless another
 // one is quicker and makes it usable. What an interrupted replacement has left beside a log is cleared away by the next
 // one who can be alone at once.
-Attempt openInDirectory(StateDirectory &directory, const ProgressListener &progress)
+Attempt openInDirectory(const Opening &opening)
 {
     constexpr int betweenLooksMs = 200;
-    QString holder = hasRemains(directory) ? directory.takeAlone(0) : QStringLiteral("not asked yet");
+    StateDirectory &directory = opening.directory;
     Attempt attempt;
-    for (const QDeadlineTimer end(StateDirectory::longestWaitMs); !holder.isEmpty();) {
-        attempt = openFile(directory, Hold::Shared, progress);
+    bool isAlone = false;
+    QString others;
+    if (hasRemains(directory)) {
+        others = directory.takeAlone(0, opening.waiting);
+        isAlone = others.isEmpty();
+    }
+    while (!isAlone) {
+        if (!directory.isHeld())
+            return blockedByOthers(attempt.finding, others);
+        attempt = openFile(opening, Hold::Shared);
         if (!isToBeReplaced(attempt))
             return attempt;
-        holder = directory.takeAlone(betweenLooksMs);
-        if (!holder.isEmpty() && end.hasExpired()) {
-            if (attempt.finding.verdict == Verdict::Damaged)
-                attempt.finding.reason.clear(); // SQLite's words, of several lines
-            return {{Verdict::Blocked, explain(attempt.finding) + QStringLiteral(", and ") + holder}, nullptr};
-        }
+        others = directory.takeAlone(betweenLooksMs, opening.waiting);
+        isAlone = others.isEmpty();
+        if (!isAlone && opening.waiting.isOver())
+            return blockedByOthers(attempt.finding, others);
     }
-    attempt = openReplacing(directory, attempt.finding.verdict, progress);
-    directory.share();
+    opening.waiting.arrive();
+    attempt = openReplacing(opening, attempt.finding.verdict);
+    // Others who want it alone see that this one records, and let it go again.
+    opening.waiting.arrive();
+    if (!directory.share(opening.waiting))
+        return blockedByOthers({}, QStringLiteral("another process has taken it alone"));
     return attempt;
 }
 
-// What can be told of a ledger only when it is read.
-OpenedLedger open(std::unique_ptr<Ledger> ledger, QStringList notices)
+// What can be told of a ledger only when it is read is added to `notices`. Returns why it cannot be used.
+QString load(Ledger &ledger, QStringList &notices)
 {
-    if (ledger->load(notices) != Success)
-        return {nullptr, QStringLiteral("What the call log keeps of the SIM card cannot be read."), {}};
+    if (ledger.load(notices) == Success)
+        return {};
+    return QStringLiteral("what it keeps of the SIM card and the account cannot be read (%1)")
+        .arg(explain(failure(ledger.connection())));
+}
+
+OpenedLedger opened(std::unique_ptr<Ledger> ledger, QStringList notices)
+{
     notices.removeAll({});
     return {std::move(ledger), {}, notices.join(QLatin1Char(' '))};
 }
 
 OpenedLedger openInMemory(const std::shared_ptr<Clock> &clock)
 {
-    Attempt attempt = openDatabase(QStringLiteral(":memory:"), Care::Quick, Hold::Alone);
+    const QString error = QStringLiteral("The call log cannot be opened: %1.");
+    Attempt attempt = openDatabase(QStringLiteral(":memory:"), Care::Quick, Hold::Alone, {});
     if (!attempt.database)
-        return {nullptr, QStringLiteral("The call log cannot be opened: %1.").arg(explain(attempt.finding)), {}};
-    return open(std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock), {});
+        return {nullptr, error.arg(explain(attempt.finding)), {}};
+    auto ledger = std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock);
+    QStringList notices;
+    const QString problem = load(*ledger, notices);
+    return problem.isEmpty() ? opened(std::move(ledger), notices) : OpenedLedger{nullptr, error.arg(problem), {}};
 }
 
 // Thrown out of a long step, all of which leave what is kept as it is until they are done.
@@ -127,7 +179,8 @@ ProgressListener progressListener(const Settings &settings)
 
 } // namespace
 
-OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const ProgressListener &progress)
+OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const Patience &patience,
+                        const ProgressListener &progress)
 {
     if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
         return {
@@ -135,35 +188,38 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     if (path.isEmpty())
         return openInMemory(clock);
     QString error;
-    std::unique_ptr<StateDirectory> directory = StateDirectory::open(path, error);
+    Waiting waiting(patience.opening, progress);
+    std::unique_ptr<StateDirectory> directory = StateDirectory::open(path, waiting, error);
     if (!directory)
         return {nullptr, error, {}};
-    Attempt attempt = openInDirectory(*directory, progress);
+    Attempt attempt = openInDirectory({*directory, waiting, progress});
     if (!attempt.database)
         return cannotBeUsed(*directory, explain(attempt.finding));
+    waiting.arrive();
     const QString untold = untoldNotice(*attempt.database);
     const StateDirectory &place = *directory;
     auto ledger = std::make_unique<Ledger>(std::move(attempt.database), std::move(directory), clock);
-    Ledger &opening = *ledger;
-    const QString notice = place.notice();
-    OpenedLedger opened = open(std::move(ledger), {notice, untold});
-    if (!opened.ledger)
-        return opened;
-    if (!opening.record() && place.isRecording())
-        return cannotBeUsed(place, explain(failure(opening.connection())));
+    QStringList notices{place.notice(), untold};
+    QString problem = load(*ledger, notices);
+    if (problem.isEmpty() && !ledger->record() && place.isRecording())
+        problem = explain(failure(ledger->connection()));
+    waiting.goOn();
+    if (!problem.isEmpty())
+        return cannotBeUsed(place, problem);
     // Now that nothing else can fail: of an opening that does only the error is told.
-    if (!untoldNotice(opening.connection()).isEmpty())
-        opening.noticeIsTold();
-    opening.connection().setPatience(Database::usualPatienceMs);
+    if (!untoldNotice(ledger->connection()).isEmpty())
+        ledger->noticeIsTold();
+    ledger->connection().setPatience(patience.operation);
+    OpenedLedger done = opened(std::move(ledger), notices);
     if (!attempt.isReadThrough)
-        opened.unread = place.filePath(QString::fromLatin1(databaseName));
-    return opened;
+        done.unread = place.filePath(QString::fromLatin1(databaseName));
+    return done;
 }
 
 OpenedLedger openLedger(const Settings &settings)
 {
     try {
-        return openLedger(settings.stateDirectory, settings.clock, progressListener(settings));
+        return openLedger(settings.stateDirectory, settings.clock, settings.patience, progressListener(settings));
     } catch (const GivenUp &) {
         return {nullptr, QStringLiteral("The opening of the call log was given up; it is as it was."), {}, {}};
     }

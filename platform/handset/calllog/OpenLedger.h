@@ -25,7 +25,7 @@ struct OpenedLedger {
 /// log of an earlier version, need the directory alone. `progress` is told of steps that take long. The clock is not
 /// null.
 OpenedLedger openLedger(const QString &directory, const std::shared_ptr<Clock> &clock,
-                        const ProgressListener &progress = {});
+                        const Patience &patience = {}, const ProgressListener &progress = {});
 /// Likewise that of a handset, which may be given up.
 OpenedLedger openLedger(const Settings &settings);
 

@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <utility>
 
 namespace handset::calllog {
@@ -102,6 +103,7 @@ bool PlainStatement::next()
 {
     if (!prepare() || code != SQLITE_OK)
         return false;
+    errno = 0; // what it is at a failure is told (sqlite::reason())
     const int result = primary(sqlite3_step(statement));
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         code = result;

@@ -63,7 +63,7 @@ Finding checkSchema(Database &database, qint64 version)
     const Interruption limit(database.handle(), [&] { return ++questions > mostQuestions; });
     const int error = listEntries(database.handle(), found);
     if (error != SQLITE_OK && error != SQLITE_INTERRUPT)
-        return failure(error, QString::fromUtf8(sqlite3_errmsg(database.handle())));
+        return failure(error, sqlite::reason(database.handle()));
     const std::optional<Entries> expected = expectedEntries(version);
     if (!expected)
         return {Verdict::Blocked, QStringLiteral("there is nothing that its tables can be compared with")};

@@ -1,10 +1,11 @@
 #include "calllog/StateDirectory.h"
 
+#include "calllog/Finding.h"
+
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
-#include <QtCore/QThread>
 
 #include <algorithm>
 #include <array>
@@ -14,6 +15,7 @@
 #include <set>
 #include <tuple>
 #include <utility>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -86,19 +88,6 @@ int lockDirectory(const QString &path)
     return -EWOULDBLOCK;
 }
 
-// Others hold it for a moment, while they open it or make a new log.
-int lockWithin(int milliseconds, int fd, int mode)
-{
-    constexpr unsigned long betweenMs = 20;
-    const QDeadlineTimer end(milliseconds);
-    int error = lockNow(fd, mode);
-    while (error == EWOULDBLOCK && !end.hasExpired()) {
-        QThread::msleep(betweenMs);
-        error = lockNow(fd, mode);
-    }
-    return error;
-}
-
 // The state directories that are open in this process, by device and inode.
 using Identity = std::pair<dev_t, ino_t>;
 std::set<Identity> &openHere()
@@ -121,6 +110,50 @@ QString nameOf(const QByteArray &process)
     return QStringLiteral("%1 (process %2)")
         .arg(isKnown ? QString::fromLocal8Bit(file.readAll().trimmed()) : QStringLiteral("another program"),
              QString::fromLatin1(process));
+}
+
+/// A line of the kernel's list of locks.
+struct KernelLock {
+    QByteArray kind;
+    QByteArray access;
+    QByteArray process;
+    dev_t device;
+    ino_t inode;
+};
+
+std::vector<KernelLock> kernelLocks()
+{
+    std::vector<KernelLock> all;
+    QFile list(QStringLiteral("/proc/locks"));
+    const QByteArray text = list.open(QIODevice::ReadOnly) ? list.readAll() : QByteArray();
+    for (const QByteArray &line : text.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        const QList<QByteArray> place = words.value(5).split(':');
+        if (place.size() == 3) // who waits for a lock has one word more in front
+            all.push_back({words[1], words[3], words[4],
+                           makedev(place[0].toUInt(nullptr, 16), place[1].toUInt(nullptr, 16)),
+                           place[2].toULongLong()});
+    }
+    return all;
+}
+
+// Of the other processes that have locked one of the files, which the kernel lists by device and inode. (Some file
+// systems have another device in that list than a file says.)
+template <typename Matches>
+QString namesOfLockers(const std::array<struct stat, 3> &files, Matches matches)
+{
+    QStringList ofTheFile;
+    QStringList ofTheInode;
+    for (const KernelLock &lock : kernelLocks()) {
+        if (!matches(lock) || lock.process.toLongLong() == ::getpid())
+            continue;
+        for (const struct stat &file : files)
+            if (file.st_ino != 0 && lock.inode == file.st_ino)
+                (lock.device == file.st_dev ? ofTheFile : ofTheInode) << nameOf(lock.process);
+    }
+    QStringList names = ofTheFile.isEmpty() ? ofTheInode : ofTheFile;
+    names.removeDuplicates();
+    return names.join(QStringLiteral(", "));
 }
 
 // Bytes that are no UTF-8 come as replacement characters, and would lead to a directory of another name.
@@ -281,7 +314,7 @@ bool StateDirectory::make(const QString &path, QString &error)
     return failure == 0;
 }
 
-std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QString &error)
+std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, Waiting &waiting, QString &error)
 {
     if (!make(path, error))
         return nullptr;
@@ -291,25 +324,27 @@ std::unique_ptr<StateDirectory> StateDirectory::open(const QString &path, QStrin
         return nullptr;
     }
     std::unique_ptr<StateDirectory> directory(new StateDirectory(absolute));
-    const int failure = directory->lock();
-    if (failure == 0)
+    const QString problem = directory->lock(waiting);
+    if (problem.isEmpty())
         return directory;
-    error = unusable(absolute, failure == EWOULDBLOCK ? directory->whoHolds() : reason(failure));
+    error = unusable(absolute, problem);
     return nullptr;
 }
 
-int StateDirectory::lock()
+// Returns why it cannot be shared, part of a sentence.
+QString StateDirectory::lock(Waiting &waiting)
 {
     std::tie(ownDevice, ownInode) = identityOf(path);
     openHere().insert({ownDevice, ownInode});
-    useLock = openLockFile(filePath(QString::fromLatin1(lockName)));
-    if (useLock < 0)
-        return -useLock;
-    // What can never be locked would look like a lock of another process.
-    recorderLock = openLockFile(filePath(QString::fromLatin1(recorderName)));
-    if (recorderLock < 0)
-        return -recorderLock;
-    return lockWithin(longestWaitMs, useLock, LOCK_SH);
+    // The second, too: what can never be locked would look like a lock of another process.
+    for (const auto &[name, fd] : {std::pair(lockName, &useLock), std::pair(recorderName, &recorderLock)}) {
+        const QString file = filePath(QString::fromLatin1(name));
+        *fd = openLockFile(file);
+        if (*fd < 0)
+            return inFile(file, reason(-*fd));
+    }
+    const int error = lockWithin(LOCK_SH, waiting);
+    return error == 0 ? QString() : whoHolds(error);
 }
 
 StateDirectory::~StateDirectory()
@@ -320,20 +355,31 @@ StateDirectory::~StateDirectory()
             ::close(fd);
 }
 
-QString StateDirectory::takeAlone(int milliseconds)
+// Others hold it for a moment, while they open it, and for longer while they make a new log. Returns 0 or an errno.
+int StateDirectory::lockWithin(int mode, Waiting &waiting, int milliseconds)
 {
-    // Changing a lock drops it first: whoever waits may come in between.
-    const int error = lockWithin(milliseconds, useLock, LOCK_EX);
-    if (error == 0 && record())
-        return {};
-    QString holder = error == 0 || error == EWOULDBLOCK ? whoHolds() : reason(error);
-    share();
-    return holder;
+    constexpr int betweenMs = 20;
+    const QDeadlineTimer end(milliseconds); // none when less than 0
+    int error = lockNow(useLock, mode);
+    while (error == EWOULDBLOCK && !end.hasExpired() && waiting.pause(betweenMs, [this] { return holders(); }))
+        error = lockNow(useLock, mode);
+    held = error == 0; // changing a lock drops it first, and whoever waits may come in between
+    return error;
 }
 
-void StateDirectory::share()
+QString StateDirectory::takeAlone(int milliseconds, Waiting &waiting)
 {
-    lockWithin(longestWaitMs, useLock, LOCK_SH);
+    const int error = lockWithin(LOCK_EX, waiting, milliseconds);
+    if (error == 0 && record())
+        return {};
+    QString others = whoHolds(error == 0 ? EWOULDBLOCK : error);
+    share(waiting);
+    return others;
+}
+
+bool StateDirectory::share(Waiting &waiting)
+{
+    return lockWithin(LOCK_SH, waiting) == 0;
 }
 
 bool StateDirectory::record()
@@ -348,35 +394,34 @@ bool StateDirectory::record()
     return isRecording();
 }
 
-// The kernel lists its locks by device and inode of the files, with the process that took each.
-QString StateDirectory::whoHolds() const
+// Part of a sentence, for a lock that cannot be had.
+QString StateDirectory::whoHolds(int error) const
 {
-    struct stat files[3] = {};
+    if (error != EWOULDBLOCK)
+        return inFile(filePath(QString::fromLatin1(lockName)), reason(error));
+    const QString names = holders();
+    return names.isEmpty() ? QStringLiteral("another process has it open")
+                           : QStringLiteral("it is in use by ") + names;
+}
+
+QString StateDirectory::holders() const
+{
+    std::array<struct stat, 3> files{};
     ::fstat(useLock, &files[0]);
     ::fstat(recorderLock, &files[1]);
     ::stat(encoded(path).constData(), &files[2]);
-    QFile locks(QStringLiteral("/proc/locks"));
-    const QByteArray all = locks.open(QIODevice::ReadOnly) ? locks.readAll() : QByteArray();
-    QStringList ofTheFile;
-    QStringList ofTheInode; // some file systems have another device here than a file says
-    for (const QByteArray &line : all.split('\n')) {
-        const QList<QByteArray> words = line.simplified().split(' ');
-        const QList<QByteArray> place = words.value(5).split(':');
-        const QByteArray &process = words.value(4);
-        if (words.value(1) != "FLOCK" || process.toLongLong() == ::getpid())
-            continue;
-        for (const struct stat &file : files) {
-            if (place.value(2).toULongLong() != file.st_ino)
-                continue;
-            const bool isThere = place.value(0).toUInt(nullptr, 16) == major(file.st_dev) &&
-                                 place.value(1).toUInt(nullptr, 16) == minor(file.st_dev);
-            (isThere ? ofTheFile : ofTheInode) << nameOf(process);
-        }
-    }
-    QStringList holders = ofTheFile.isEmpty() ? ofTheInode : ofTheFile;
-    holders.removeDuplicates();
-    return holders.isEmpty() ? QStringLiteral("another process has it open")
-                             : QStringLiteral("it is in use by ") + holders.join(QStringLiteral(", "));
+    return namesOfLockers(files, [](const KernelLock &lock) { return lock.kind == "FLOCK"; });
+}
+
+// Who only reads a database locks it, too. (Opening its files to look at them would drop SQLite's locks of this process.)
+QString StateDirectory::writers(const QString &database) const
+{
+    std::array<struct stat, 3> files{};
+    ::stat(encoded(filePath(database)).constData(), &files[0]);
+    ::stat(encoded(filePath(database + QLatin1String(indexSuffix))).constData(), &files[1]);
+    ::stat(encoded(filePath(database + QLatin1String(recordings[0]))).constData(), &files[2]);
+    return namesOfLockers(files,
+                          [](const KernelLock &lock) { return lock.kind == "POSIX" && lock.access == "WRITE"; });
 }
 
 QString StateDirectory::notice() const

@@ -1,6 +1,7 @@
 // The directory that keeps a handset's state between starts.
 #pragma once
 
+#include "calllog/Waiting.h"
 #include "calllog/repair/Progress.h"
 
 #include <QtCore/QString>
@@ -22,17 +23,23 @@ public:
     static bool make(const QString &path, QString &error);
     /// Makes the directory and shares it with others. Null when it cannot be used; `error` then says why, in one
     /// sentence.
-    static std::unique_ptr<StateDirectory> open(const QString &path, QString &error);
-    /// Takes the directory alone, also against who records. Waits so long for the others; returns an empty text, or part
-    /// of a sentence that says who has it. It is shared then as before.
-    QString takeAlone(int milliseconds);
-    /// Shares it again. This goes on to record when nobody else does.
-    void share();
+    static std::unique_ptr<StateDirectory> open(const QString &path, Waiting &waiting, QString &error);
+    /// Takes the directory alone, also against who records: waits so long for the others, and no longer than `waiting`
+    /// does. It is shared then as before, where that is possible. Returns why it is not had alone, part of a sentence;
+    /// an empty text when it is.
+    QString takeAlone(int milliseconds, Waiting &waiting);
+    /// Shares it again; false where somebody has taken it alone. This goes on to record when nobody else does.
+    bool share(Waiting &waiting);
+    /// Whether this has a part in the directory, or all of it.
+    bool isHeld() const { return held; }
     /// Whether this records: takes the lock when nobody has it.
     bool record();
     bool isRecording() const { return directoryLock >= 0; }
 
-    static constexpr int longestWaitMs = 5000;
+    /// Other processes: who has locked the directory, and who has locked a database in it for writing. The names are
+    /// part of a sentence; empty when the kernel does not say.
+    QString holders() const;
+    QString writers(const QString &database) const;
 
     ~StateDirectory();
     StateDirectory(const StateDirectory &) = delete;
@@ -91,13 +98,15 @@ private:
         : path(absolutePath)
     {}
 
-    int lock(); ///< 0 or an errno
-    QString whoHolds() const;
+    QString lock(Waiting &waiting);
+    QString whoHolds(int error) const;
+    int lockWithin(int mode, Waiting &waiting, int milliseconds = -1);
 
     QString path;
     dev_t ownDevice = 0; ///< with the next, which directory it is, wherever it has gone since
     ino_t ownInode = 0;
     int useLock = -1;
+    bool held = false; ///< the lock before
     int recorderLock = -1;
     int directoryLock = -1; ///< held with the one before
 };

@@ -119,13 +119,14 @@ QStringList StateDir::names() const
 }
 
 Phone::Phone(const QString &stateDirectory, std::shared_ptr<ManualClock> shared,
-             std::function<void(const QString &)> tell)
+             std::function<void(const QString &)> tell, Patience patience)
     : clock(shared ? std::move(shared) : std::make_shared<ManualClock>(qint64{1'800'000'000'000}))
 {
     Settings settings;
     settings.stateDirectory = stateDirectory;
     settings.clock = clock;
     settings.tell = std::move(tell);
+    settings.patience = patience;
     settings.progress = [this](const QString &step, int percent) { progress << qMakePair(step, percent); };
     opened = open(settings);
     simulation = dynamic_cast<simulated::SimulatedHandset *>(opened.handset.get());

@@ -17,6 +17,9 @@ inline constexpr qint64 second = 1000;
 inline constexpr qint64 minute = 60 * second;
 inline constexpr qint64 hour = 60 * minute;
 
+/// For what is in use by others on purpose: what is proved is that it is not waited for for ever.
+inline constexpr Patience hardlyAny{300, 10};
+
 /// What the six queries answer, in whole seconds.
 struct SixFigures {
     quint64 last = 0;
@@ -90,7 +93,7 @@ class Phone
 public:
     /// A null clock makes a ManualClock of its own.
     explicit Phone(const QString &stateDirectory = {}, std::shared_ptr<ManualClock> shared = nullptr,
-                   std::function<void(const QString &)> tell = {});
+                   std::function<void(const QString &)> tell = {}, Patience patience = {});
 
     explicit operator bool() const { return simulation; }
     simulated::SimulatedHandset *operator->() const { return simulation; }

@@ -105,8 +105,9 @@ Finding emptyWriteAheadLog(Database &database)
     if (database.text(QStringLiteral("PRAGMA journal_mode = WAL")) != QLatin1String("wal"))
         return failure(database);
     QSqlQuery checkpoint = database.query();
+    errno = 0;
     if (!checkpoint.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")) || !checkpoint.next())
-        return {Verdict::Blocked, sqlite::reason(checkpoint.lastError())};
+        return {Verdict::Blocked, sqlite::reason(database.handle())};
     const bool isBusy = checkpoint.value(0).toInt() != 0;
     const bool isAllWritten = checkpoint.value(1) == checkpoint.value(2);
     return !isBusy && isAllWritten ? Finding{}
@@ -168,7 +169,7 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
         return finding;
     Salvaged salvaged;
     {
-        const Attempt fresh = openDatabase(path, Care::Quick, Hold::Alone);
+        const Attempt fresh = openDatabase(path, Care::Quick, Hold::Alone, {});
         finding = fresh.database ? fill(*fresh.database, copy, old, salvaged) : fresh.finding;
     }
     if (finding.verdict != Verdict::Usable)
@@ -216,7 +217,10 @@ Finding makeReplacement(StateDirectory &directory, LogCopy &copy, const Replaced
         finding = blocked(error);
     if (finding.verdict == Verdict::Usable)
         return finding;
-    return {finding.verdict, inFile(name, explain(finding))};
+    // It is nobody's but ours.
+    const bool isMisread = finding.verdict != Verdict::Blocked;
+    return {Verdict::Blocked, inFile(name, isMisread ? QStringLiteral("what is written to it cannot be read again")
+                                                     : explain(finding))};
 }
 
 } // namespace
@@ -257,9 +261,10 @@ Finding finishReplacement(StateDirectory &directory)
     const QString ready = QString::fromLatin1(readyName);
     const int found = directory.find(name);
     const int foundReady = directory.find(ready);
-    for (const int error : {found, foundReady})
-        if (error != 0 && error != ENOENT)
-            return blocked(error);
+    if (found != 0 && found != ENOENT)
+        return blocked(found);
+    if (foundReady != 0 && foundReady != ENOENT)
+        return blocked(foundReady, ready);
     directory.remove(QString::fromLatin1(LogCopy::name));
     // A write-ahead log without its database may be all there is of one.
     const bool isAlone = directory.find(unfinished) == ENOENT && directory.hasLeftovers(unfinished);
@@ -278,7 +283,7 @@ Finding finishReplacement(StateDirectory &directory)
             return blocked(error);
     }
     const int error = directory.rename(ready, name);
-    return error == 0 ? Finding{} : blocked(error);
+    return error == 0 ? Finding{} : blocked(error, ready);
 }
 
 QString untoldNotice(Database &database)

@@ -97,6 +97,8 @@ void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data()
     row("a number that is none", withOneMore("9, 0, 0, 5, 0, 3000, 1, 0"));
     row("a kind that is none", withOneMore("9, 2, 0, '5', 0, 3000, 1, 0"));
     row("an id that is a text", withOneMore("'9', 0, 0, '5', 0, 3000, 1, 0"));
+    row("a running call with a tariff that is none",
+        {QStringLiteral("UPDATE calls SET state = 0, tariff = x'00' WHERE id = 4")});
     row("a trigger that takes the calls away",
         {QStringLiteral("CREATE TRIGGER mine AFTER UPDATE ON totals BEGIN DELETE FROM calls; END")});
     row("a trigger that forbids calls",

@@ -565,10 +565,11 @@ void TestLedger::whoHasAnOlderLogOpenIsNamed()
     OtherProcess holder(state.path());
     QCOMPARE(holder.firstLine(), QByteArray("holding"));
     QVERIFY(takeBackTo(state.database(), 3));
-    const Phone phone(state.path());
+    const Phone phone(state.path(), nullptr, {}, hardlyAny);
     QVERIFY(!phone);
     QVERIFY2(
-        phone.opened.error.contains(QStringLiteral("it was written by an earlier version, and it is in use by "
+        phone.opened.error.contains(QStringLiteral("it was written by an earlier version, and only who has the "
+                                                   "directory alone can put that right; it is in use by "
                                                    "handset_other_p (process ")),
         qPrintable(phone.opened.error));
 }

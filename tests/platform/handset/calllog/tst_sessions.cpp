@@ -480,7 +480,7 @@ void TestSessions::whatDoesNotHappenIsNotSignalled()
 void TestSessions::aWriteThatFailsChangesNothing()
 {
     const StateDir state;
-    Phone phone(state.path());
+    Phone phone(state.path(), nullptr, {}, hardlyAny);
     QVERIFY(phone.session(50 * second, "x", 1, 1));
     PacketFigures &packets = phone->packets();
     const LogFile other(state.database());

@@ -6,6 +6,9 @@
 
 #include <QtCore/QDir>
 
+#include <cerrno>
+#include <cstring>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -281,9 +284,10 @@ void TestStateDirectory::permissionsThatAreMissingAreTold()
     const QByteArray answer = OtherProcess(path, {QString::number(ordinaryUser())}).firstLine();
     if (answer == "not permitted")
         QSKIP("root may not become another user here");
-    // The directory that could not be made is named, not the one on the way.
+    // The directory that could not be made is named, not the one on the way; and what could not be made in it.
+    const QByteArray file = below.isEmpty() ? "\"" + path.toUtf8() + "/lock\": " : QByteArray();
     const QByteArray refusal =
-        "error The state directory \"" + path.toUtf8() + "\" cannot be used: Permission denied.";
+        "error The state directory \"" + path.toUtf8() + "\" cannot be used: " + file + "Permission denied.";
     QCOMPARE(answer, isUsable ? QByteArray("holding") : refusal);
     QCOMPARE(state.names().isEmpty(), !isUsable);
 }
@@ -327,9 +331,10 @@ void TestStateDirectory::aLockThatIsSomethingElseIsAnError()
     QCOMPARE(kind == S_IFDIR ? ::mkdir(lock.constData(), 0700) : ::symlink("elsewhere", lock.constData()), 0);
     const Phone phone(state.path());
     QVERIFY(!phone);
-    QVERIFY2(phone.opened.error.startsWith(
-                 QStringLiteral("The state directory \"%1\" cannot be used: ").arg(state.path())),
-             qPrintable(phone.opened.error));
+    QCOMPARE(phone.opened.error,
+             QStringLiteral("The state directory \"%1\" cannot be used: \"%2\": %3.")
+                 .arg(state.path(), state.file(name),
+                      QString::fromLocal8Bit(std::strerror(kind == S_IFDIR ? EISDIR : ELOOP))));
     QVERIFY(!QFile::exists(state.file(QStringLiteral("elsewhere"))));
 }
 
@@ -355,7 +360,7 @@ void TestStateDirectory::aSecondProcessMovesNothingAside()
     QVERIFY(writeFile(state.sibling(QStringLiteral("garbage")), QByteArray(5000, 'g')));
     QVERIFY(QFile::remove(state.database()));
     QVERIFY(QFile::copy(state.sibling(QStringLiteral("garbage")), state.database()));
-    const Phone phone(state.path());
+    const Phone phone(state.path(), nullptr, {}, hardlyAny);
     QVERIFY(!phone);
     QVERIFY2(phone.opened.error.contains(QStringLiteral("it is in use by handset_other_p (process ")),
              qPrintable(phone.opened.error));

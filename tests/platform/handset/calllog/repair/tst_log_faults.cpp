@@ -130,6 +130,16 @@ QList<Moment> momentsOf(long count)
     return moments;
 }
 
+// What SQLite makes of a failure without saying which.
+bool isReasonOfItsOwn(const QString &error)
+{
+    const std::array reasons{"attempt to write a readonly database", "a page of it cannot be read",
+                             "what is written to it cannot be read again", "unable to open database file",
+                             "KiB of disk space are needed"};
+    return std::any_of(reasons.begin(), reasons.end(),
+                       [&](const char *reason) { return error.contains(QLatin1String(reason)); });
+}
+
 QByteArray keptWal(const StateDir &state)
 {
     return readFile(state.file(keptFile + QStringLiteral("-wal")));
@@ -152,13 +162,14 @@ private slots:
     void aNoticeIsToldByTheNextStartWhenItsOwnFails();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed_data();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
+    void whatIsKeptAndCannotBeReadIsAnErrorThatNamesTheFile();
     void aHandsetThatEndsStopsTheReadingOfTheFile();
 
 private:
     void fail(const Surroundings &files, const Fault &fault, const Moment &moment);
     void openWithoutFaults(const StateDir &state, const Surroundings &files, const QString &notice);
     long countOf(const Surroundings &files, const char *call);
-    QString openWithFaults(const StateDir &state);
+    QString openWithFaults(const StateDir &state, int fault = 0);
 
     std::vector<Surroundings> surroundings;
     long struck = 0;
@@ -194,14 +205,16 @@ long TestLogFaults::countOf(const Surroundings &files, const char *call)
     return kavFaultsCount(call);
 }
 
-/// The notice, told while the faults are on.
-QString TestLogFaults::openWithFaults(const StateDir &state)
+/// The notice, told while the faults are on. An error must say what the system did.
+QString TestLogFaults::openWithFaults(const StateDir &state, int fault)
 {
     Phone phone(state.path());
     if (!phone) {
         const QString error = phone.opened.error;
         const bool saysWhy = error.contains(state.path()) && !error.endsWith(QStringLiteral(": .")) &&
-                             !error.contains(QStringLiteral("()"));
+                             !error.contains(QStringLiteral("()")) &&
+                             (fault == 0 || error.contains(QString::fromLocal8Bit(std::strerror(fault))) ||
+                              isReasonOfItsOwn(error));
         if (!saysWhy)
             QTest::qFail(qPrintable(error), __FILE__, __LINE__);
     }
@@ -239,7 +252,7 @@ void TestLogFaults::fail(const Surroundings &files, const Fault &fault, const Mo
     const StateDir state;
     QVERIFY(putInto(state, files));
     kavFaultsArm(qPrintable(state.path()), fault.call, moment.nth, fault.error, moment.always);
-    const QString notice = openWithFaults(state);
+    const QString notice = openWithFaults(state, fault.error);
     kavFaultsDisarm();
     struck += kavFaultsFailed();
     openWithoutFaults(state, files, notice);
@@ -296,7 +309,7 @@ void TestLogFaults::aDiskThatIsFullAtAnyPointLosesNoCall()
             const StateDir state;
             QVERIFY(putInto(state, files));
             kavFaultsLimitSpace(qPrintable(state.path()), space, isTold);
-            const QString notice = openWithFaults(state);
+            const QString notice = openWithFaults(state, ENOSPC);
             kavFaultsDisarm();
             openWithoutFaults(state, files, notice);
             if (QTest::currentTestFailed()) {
@@ -399,6 +412,31 @@ void TestLogFaults::aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed()
         QVERIFY2(!(notice + next.opened.notice).isEmpty(), qPrintable(QString::number(nth - writes)));
     }
     QVERIFY(failed > 0);
+}
+
+// A card that is too large to be one is read when all else has been.
+void TestLogFaults::whatIsKeptAndCannotBeReadIsAnErrorThatNamesTheFile()
+{
+    const StateDir sample;
+    QVERIFY(Phone(sample.path()).dialed(second));
+    QVERIFY(LogFile(sample.database())
+                .run(QStringLiteral("UPDATE kept SET content = zeroblob(3000000) WHERE name = 'card'")));
+    const Surroundings files{"", readFile(sample.database()), {}, false, true, {}, {}};
+    const StateDir state;
+    QVERIFY(putInto(state, files));
+    QString error;
+    for (long nth = countOf(files, "pread"); nth > 0 && !error.contains(QStringLiteral("what it keeps"));
+         nth -= 50) {
+        kavFaultsArm(qPrintable(state.path()), "pread", nth, EIO, true);
+        error = Phone(state.path()).opened.error;
+        kavFaultsDisarm();
+        QVERIFY(putInto(state, files));
+    }
+    const QRegularExpression text(
+        QStringLiteral("^The call log \"%1\" cannot be used: what it keeps of the SIM card "
+                       "and the account cannot be read \\(.{9,}\\)\\.$")
+            .arg(QRegularExpression::escape(state.database())));
+    QVERIFY2(text.match(error).hasMatch(), qPrintable(error));
 }
 
 void TestLogFaults::aHandsetThatEndsStopsTheReadingOfTheFile()

@@ -1,0 +1,49 @@
+// What an opening waits for.
+#pragma once
+
+#include "calllog/repair/Progress.h"
+
+#include <QtCore/QString>
+
+#include <exception>
+#include <functional>
+
+namespace handset::calllog {
+
+/// Who is in the way: names of processes, part of a sentence; empty when that is not known.
+using Holders = std::function<QString()>;
+
+/// The waiting of one opening for other processes, wherever on its way it comes to wait: it has one patience for all of
+/// that. Who waits for longer than a second is told whom for, and how much of the patience is gone.
+class Waiting
+{
+public:
+    /// `patienceMs` is how long it may be in all. `progress` may end the opening by an exception; it may be null.
+    Waiting(int patienceMs, ProgressListener progress);
+
+    /// Waits for a moment of so many milliseconds; false, at once, when the patience is at its end.
+    bool pause(int milliseconds, const Holders &holders);
+    /// The same inside SQLite, which must not be left by an exception: false, too, when there was one. It is thrown by
+    /// goOn().
+    bool pauseInSqlite(int milliseconds, const Holders &holders);
+    void goOn();
+    /// What was waited for is there: there is the whole patience for whatever comes next.
+    void arrive();
+
+    bool isOver() const { return waitedNs >= patienceNs; }
+    /// Of the time when the patience was at its end.
+    const QString &lastHolders() const { return holdersAtEnd; }
+
+private:
+    void tell(const Holders &holders);
+
+    qint64 patienceNs;
+    ProgressListener listener;
+    qint64 waitedNs = 0;
+    qint64 toldNs = 0;
+    QString step; ///< as it was told last
+    QString holdersAtEnd;
+    std::exception_ptr thrown;
+};
+
+} // namespace handset::calllog
