@@ -30,13 +30,18 @@ const char *reason(int status, const StatusMeaning &meaning)
 
 } // namespace
 
+QString reasonText(int status, const StatusMeaning &meaning)
+{
+    const char *const text = reason(status, meaning);
+    return text ? QCoreApplication::translate("host::StatusText", text) : QString();
+}
+
 QString refusalText(int status, const StatusMeaning &meaning)
 {
     if (status == handset::Success)
         return {};
-    if (const char *text = reason(status, meaning))
-        return QCoreApplication::translate("host::StatusText", "Not done: %1.")
-            .arg(QCoreApplication::translate("host::StatusText", text));
+    if (const QString text = reasonText(status, meaning); !text.isEmpty())
+        return QCoreApplication::translate("host::StatusText", "Not done: %1.").arg(text);
     return QCoreApplication::translate("host::StatusText", "Not done: the telephone answers %1.").arg(status);
 }
 

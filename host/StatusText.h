@@ -13,6 +13,9 @@ struct StatusMeaning {
     const char *notAllowed;
 };
 
+/// "the line is in another state"; empty for success, and for a number that a handset has of its own.
+QString reasonText(int status, const StatusMeaning &meaning);
+
 /// "Not done: the line is in another state."; empty for success.
 QString refusalText(int status, const StatusMeaning &meaning);
 

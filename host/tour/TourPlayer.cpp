@@ -6,6 +6,7 @@
 #include "handset/UpdateBroadcast.h"
 #include "host/ExitCode.h"
 #include "host/ScreenTable.h"
+#include "host/StatusText.h"
 #include "simulated/ReadyMadeHistory.h"
 #include "toolkit/ZApplication.h"
 
@@ -28,6 +29,12 @@ namespace {
 
 constexpr qint64 firstMomentMs = 1141905600000; // 2006-03-09 12:00 UTC, so that every tour sees the same dates
 constexpr int settlingTurns = 3;                // a key may end a screen, which passes the keys on, which repaints
+
+constexpr StatusMeaning tourMeaning{
+    QT_TRANSLATE_NOOP("host::StatusText", "a value is out of range"),
+    QT_TRANSLATE_NOOP("host::StatusText", "it is not possible now"),
+    QT_TRANSLATE_NOOP("host::StatusText", "the SIM or the network does not allow it"),
+};
 
 QString lineWord(LineState state)
 {
@@ -410,7 +417,10 @@ void TourPlayer::checkStatus(int status)
     if (status == handset::Success)
         return;
     ++expectations;
-    fail(QStringLiteral("the telephone does it"), QStringLiteral("status %1").arg(status));
+    const QString reason = reasonText(status, tourMeaning);
+    fail(QStringLiteral("the telephone does it"), reason.isEmpty()
+                                                      ? QStringLiteral("status %1").arg(status)
+                                                      : QStringLiteral("status %1, %2").arg(status).arg(reason));
 }
 
 // --- the phone

@@ -1,5 +1,6 @@
 // The tour: what it prints, photographs, expects, and how it fails.
 
+#include "handset/Handset.h"
 #include "host/HostProcess.h"
 #include "support/TestGroup.h"
 
@@ -41,6 +42,7 @@ private slots:
     void theClockEndsACallThatReachesItsLimit();
     void whatTheHandsetRefusesIsTold_data();
     void whatTheHandsetRefusesIsTold();
+    void thatAnotherProcessRecordsIsTold();
     void aTextIsTypedIntoAnEntryField();
     void rulesAndPin2GuardTheSetup();
     void operationsFailUntilTheyWorkAgain();
@@ -425,24 +427,40 @@ void TestTour::theClockEndsACallThatReachesItsLimit()
 void TestTour::whatTheHandsetRefusesIsTold_data()
 {
     QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<int>("status");
-    QTest::newRow("a currency of four letters") << QByteArray("\nprice 1 EURO\n") << 1;
-    QTest::newRow("a limit that no meter holds") << QByteArray("\nlimit 16777216\n") << 1;
-    QTest::newRow("a deposit of nothing") << QByteArray("\ntopup 0 2007-03-09\n") << 1;
-    QTest::newRow("a price that nobody may write") << QByteArray("rule puct never\nprice 1 EUR\n") << 6;
-    QTest::newRow("a call that may not be charged") << QByteArray("limit 1\ncall dialed voice 10s\ndial 1\n") << 6;
-    QTest::newRow("a second session") << QByteArray("session start a 1 1\nsession start b 1 1\n") << 4;
-    QTest::newRow("the end of no session") << QByteArray("\nsession stop\n") << 4;
+    QTest::addColumn<QString>("seen");
+    QTest::newRow("a currency of four letters") << QByteArray("\nprice 1 EURO\n") << "1, a value is out of range";
+    QTest::newRow("a limit that no meter holds")
+        << QByteArray("\nlimit 16777216\n") << "1, a value is out of range";
+    QTest::newRow("a deposit of nothing") << QByteArray("\ntopup 0 2007-03-09\n") << "1, a value is out of range";
+    QTest::newRow("a price that nobody may write")
+        << QByteArray("rule puct never\nprice 1 EUR\n") << "6, the SIM or the network does not allow it";
+    QTest::newRow("a call that may not be charged")
+        << QByteArray("limit 1\ncall dialed voice 10s\ndial 1\n") << "6, the SIM or the network does not allow it";
+    QTest::newRow("a second session") << QByteArray("session start a 1 1\nsession start b 1 1\n")
+                                      << "4, it is not possible now";
+    QTest::newRow("the end of no session") << QByteArray("\nsession stop\n") << "4, it is not possible now";
 }
 
 void TestTour::whatTheHandsetRefusesIsTold()
 {
     QFETCH(QByteArray, script);
-    QFETCH(int, status);
+    QFETCH(QString, seen);
     const HostResult result = play(script);
     QCOMPARE(result.code, 1);
     const QString place = QString("%1:%2: ").arg(path("a.tour")).arg(script.count('\n'));
-    QVERIFY2(result.errors.contains(place + QString("seen:     status %1\n").arg(status)),
+    QVERIFY2(result.errors.contains(place + QString("seen:     status %1\n").arg(seen)),
+             qPrintable(result.errors));
+}
+
+void TestTour::thatAnotherProcessRecordsIsTold()
+{
+    handset::Settings settings;
+    settings.stateDirectory = path("state");
+    const handset::Opened recorder = handset::open(settings);
+    QVERIFY2(recorder.handset, qPrintable(recorder.error));
+    const HostResult result = play("state kept\ndial 1\n", {"--state", path("state")});
+    QCOMPARE(result.code, 1);
+    QVERIFY2(result.errors.contains("seen:     status 7, another process records the calls\n"),
              qPrintable(result.errors));
 }
 
