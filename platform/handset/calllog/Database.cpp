@@ -29,7 +29,7 @@ QString newConnectionName()
 constexpr int betweenTriesMs = 2;
 
 // What the system said when SQLite failed with that code, as it has left it behind: it keeps that for itself, and not
-// always. That there is no such file says nothing: SQLite looks for some which need not be there.
+// always. That there is no such file, or none that is open, says nothing: SQLite asks for some which need not be there.
 int systemError(int code)
 {
     switch (code & 0xff) {
@@ -37,7 +37,7 @@ int systemError(int code)
         return ENOSPC;
     case SQLITE_CANTOPEN:
     case SQLITE_IOERR:
-        return code == SQLITE_IOERR_SHORT_READ || errno == ENOENT ? 0 : errno;
+        return code == SQLITE_IOERR_SHORT_READ || errno == ENOENT || errno == EBADF ? 0 : errno;
     }
     return 0;
 }

@@ -1,6 +1,5 @@
 #include "calllog/Waiting.h"
 
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QThread>
 
 #include <algorithm>
@@ -10,14 +9,13 @@ namespace handset::calllog {
 
 namespace {
 
-constexpr qint64 nsPerMs = 1'000'000;
-constexpr qint64 untoldNs = 1000 * nsPerMs;
-constexpr qint64 betweenNs = 500 * nsPerMs; ///< two times that the listener is told
+constexpr int untoldMs = 1000;
+constexpr int betweenMs = 500; ///< two times that the listener is told
 
 } // namespace
 
 Waiting::Waiting(int patienceMs, ProgressListener progress)
-    : patienceNs(patienceMs * nsPerMs)
+    : patience(patienceMs)
     , listener(std::move(progress))
 {}
 
@@ -27,10 +25,8 @@ bool Waiting::pause(int milliseconds, const Holders &holders)
         holdersAtEnd = holders();
         return false;
     }
-    QElapsedTimer passed;
-    passed.start();
     QThread::msleep(static_cast<unsigned long>(milliseconds));
-    waitedNs += passed.nsecsElapsed();
+    waitedMs += milliseconds; // what a busy machine adds to that is nobody's fault
     tell(holders);
     return true;
 }
@@ -53,8 +49,8 @@ void Waiting::goOn()
 
 void Waiting::arrive()
 {
-    waitedNs = 0;
-    toldNs = 0;
+    waitedMs = 0;
+    toldMs = 0;
     holdersAtEnd.clear();
     if (!step.isEmpty() && listener)
         listener(std::exchange(step, {}), 100);
@@ -62,12 +58,12 @@ void Waiting::arrive()
 
 void Waiting::tell(const Holders &holders)
 {
-    if (waitedNs < untoldNs || waitedNs < toldNs + betweenNs || !listener)
+    if (waitedMs < untoldMs || waitedMs < toldMs + betweenMs || !listener)
         return;
-    toldNs = waitedNs;
+    toldMs = waitedMs;
     const QString names = holders();
     step = QStringLiteral("Waiting for %1").arg(names.isEmpty() ? QStringLiteral("another process") : names);
-    listener(step, static_cast<int>(std::min<qint64>(waitedNs * 100 / patienceNs, 99)));
+    listener(step, static_cast<int>(std::min<qint64>(qint64{100} * waitedMs / patience, 99)));
 }
 
 } // namespace handset::calllog

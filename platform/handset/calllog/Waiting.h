@@ -18,7 +18,7 @@ using Holders = std::function<QString()>;
 class Waiting
 {
 public:
-    /// `patienceMs` is how long it may be in all. `progress` may end the opening by an exception; it may be null.
+    /// `patienceMs` is how long it may be in all, of what is meant to be waited: a busy machine takes longer. `progress` may end the opening by an exception; it may be null.
     Waiting(int patienceMs, ProgressListener progress);
 
     /// Waits for a moment of so many milliseconds; false, at once, when the patience is at its end.
@@ -30,17 +30,17 @@ public:
     /// What was waited for is there: there is the whole patience for whatever comes next.
     void arrive();
 
-    bool isOver() const { return waitedNs >= patienceNs; }
+    bool isOver() const { return waitedMs >= patience; }
     /// Of the time when the patience was at its end.
     const QString &lastHolders() const { return holdersAtEnd; }
 
 private:
     void tell(const Holders &holders);
 
-    qint64 patienceNs;
+    int patience; ///< milliseconds, as the next two
     ProgressListener listener;
-    qint64 waitedNs = 0;
-    qint64 toldNs = 0;
+    int waitedMs = 0;
+    int toldMs = 0;
     QString step; ///< as it was told last
     QString holdersAtEnd;
     std::exception_ptr thrown;
