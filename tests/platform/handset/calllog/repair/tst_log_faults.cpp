@@ -133,7 +133,7 @@ QList<Moment> momentsOf(long count)
 // What SQLite makes of a failure without saying which.
 bool isReasonOfItsOwn(const QString &error, int fault)
 {
-    if (fault == EMFILE && error.contains(QStringLiteral("disk I/O error")))
+    if ((fault == EMFILE || fault == EACCES) && error.contains(QStringLiteral("disk I/O error")))
         return true;
     const std::array reasons{"attempt to write a readonly database",
                              "a page of it cannot be read",
