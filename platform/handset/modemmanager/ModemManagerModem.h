@@ -1,0 +1,66 @@
+// A modem behind ModemManager.
+#pragma once
+
+#include "live/BusDaemon.h"
+#include "live/Modem.h"
+#include "modemmanager/Reading.h"
+
+#include <QtCore/QMap>
+#include <QtDBus/QDBusMessage>
+
+#include <memory>
+
+namespace handset::modemmanager {
+
+class Bearers;
+class VoiceCalls;
+
+/// The first modem that has calls, or else the first one; then that one until it goes. Costs are not the daemon's, nor is
+/// PIN2.
+class ModemManagerModem final : public live::Modem
+{
+    Q_OBJECT
+
+public:
+    explicit ModemManagerModem(const QString &address = live::systemBusAddress(), live::Patience patience = {});
+    ~ModemManagerModem() override;
+
+    /// Looks for the bus; an error, in words, where there is none. start() does that where it was not done before.
+    QString connectToBus();
+
+    QString daemon() const override { return QStringLiteral("ModemManager"); }
+    live::ModemState state() const override;
+    void start() override;
+    int dial(const QString &number) override;
+    int answer(const QString &id) override;
+    int hangUp(const QString &id) override;
+
+private slots:
+    void interfacesAdded(const QDBusMessage &message);
+    void interfacesRemoved(const QDBusMessage &message);
+    void propertiesChanged(const QDBusMessage &message);
+
+private:
+    using Interfaces = QMap<QString, QVariantMap>; ///< properties of each
+    enum class Manager { Missing, Asked, Known };
+
+    void daemonAppeared();
+    void listModems();
+    void add(const QString &path, const Interfaces &interfaces);
+    void choose();
+    void loseModem();
+    void followVoice();
+    void readModem();
+
+    live::BusDaemon source;
+    const live::Patience patience;
+    mutable Reading reading; ///< remembers what it has warned of
+    bool isStarted = false;
+    Manager manager = Manager::Missing;
+    QMap<QString, Interfaces> modems;
+    QString modemPath; ///< of the chosen one; empty for none
+    std::unique_ptr<VoiceCalls> voice;
+    std::unique_ptr<Bearers> bearers;
+};
+
+} // namespace handset::modemmanager

@@ -1,0 +1,64 @@
+#include "modemmanager/Reading.h"
+
+#include <QtCore/QLoggingCategory>
+#include <QtDBus/QDBusArgument>
+#include <QtDBus/QDBusObjectPath>
+
+namespace handset::modemmanager {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcModemManager, "kav.modemmanager")
+
+/// What has come as `signature`, which Qt takes apart only where it is told as what.
+template <typename Type>
+std::optional<Type> taken(const QVariant &value, const char *signature)
+{
+    if (value.metaType() == QMetaType::fromType<Type>())
+        return value.value<Type>();
+    if (value.metaType() != QMetaType::fromType<QDBusArgument>())
+        return std::nullopt;
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String(signature))
+        return std::nullopt;
+    return qdbus_cast<Type>(argument);
+}
+
+} // namespace
+
+std::optional<QVariantMap> Reading::map(const QVariantMap &properties, const char *name)
+{
+    const auto found = properties.constFind(QLatin1String(name));
+    if (found == properties.constEnd())
+        return std::nullopt;
+    std::optional<QVariantMap> read = taken<QVariantMap>(*found, "a{sv}");
+    if (!read)
+        warn(name, QString::fromLatin1(found->typeName()));
+    return read;
+}
+
+std::optional<QStringList> Reading::paths(const QVariantMap &properties, const char *name)
+{
+    const auto found = properties.constFind(QLatin1String(name));
+    if (found == properties.constEnd())
+        return std::nullopt;
+    const auto read = taken<QList<QDBusObjectPath>>(*found, "ao");
+    if (!read) {
+        warn(name, QString::fromLatin1(found->typeName()));
+        return std::nullopt;
+    }
+    QStringList names;
+    for (const QDBusObjectPath &path : *read)
+        names.append(path.path());
+    return names;
+}
+
+void Reading::warn(const char *name, const QString &what)
+{
+    if (warned.contains(name))
+        return;
+    warned.insert(name);
+    qCWarning(lcModemManager, "ModemManager's %s cannot be used: %s", name, qUtf8Printable(what));
+}
+
+} // namespace handset::modemmanager

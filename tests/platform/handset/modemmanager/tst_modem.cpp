@@ -1,0 +1,720 @@
+// A modem behind a ModemManager that does what it should not, recorded as its calls and connections were.
+#include "handset/live/LiveDesk.h"
+#include "handset/modemmanager/FakeModemManager.h"
+#include "modemmanager/ModemManagerModem.h"
+#include "qt/qcop/PrivateBus.h"
+#include "support/TestGroup.h"
+
+#include <QtDBus/QDBusObjectPath>
+#include <QtTest/QSignalSpy>
+
+using namespace handset;
+using namespace handset::test;
+
+namespace {
+
+const QString one = QStringLiteral("/org/freedesktop/ModemManager1/Call/1");
+const QString two = QStringLiteral("/org/freedesktop/ModemManager1/Call/2");
+const QString bearer = QStringLiteral("/org/freedesktop/ModemManager1/Bearer/1");
+const QString refusal = QStringLiteral("org.freedesktop.ModemManager1.Error.Core.Failed: no carrier");
+
+QVariantMap stats(quint64 sent, quint64 received, quint64 startSeconds = 0, quint32 seconds = 0)
+{
+    return {{QStringLiteral("tx-bytes"), sent},
+            {QStringLiteral("rx-bytes"), received},
+            {QStringLiteral("start-date"), startSeconds},
+            {QStringLiteral("duration"), seconds}};
+}
+
+/// A live handset over ModemManager's modem, on a bus of its own. The daemon runs, and has a modem.
+class Desk : public LiveDesk
+{
+public:
+    explicit Desk(bool isThere = true)
+        : fake(bus.address())
+    {
+        fake.addModem(fake.modem);
+        if (isThere)
+            fake.appear();
+    }
+
+    /// Opens the handset, and waits until it has seen all that is there.
+    void open(live::Patience patience = {5'000, 5'000, 50})
+    {
+        auto made = std::make_unique<modemmanager::ModemManagerModem>(bus.address(), patience);
+        modem = made.get();
+        QObject::connect(modem, &live::Modem::refused, modem, [this](const QString &why) { refused << why; });
+        LiveDesk::open(std::move(made));
+    }
+    void openAndSettle()
+    {
+        open();
+        QTRY_VERIFY(fake.asked.contains(QStringLiteral("ListCalls")));
+        settle();
+    }
+    /// Waits until everything that the daemon has sent until now has come, and what was asked then is answered.
+    void settle()
+    {
+        for (int turn = 0; turn < 3; ++turn) {
+            const int before = stateChanges;
+            const auto counting =
+                QObject::connect(modem, &live::Modem::stateChanged, modem, [this] { ++stateChanges; });
+            fake.set(fake.modem, QStringLiteral("Modem.Modem3gpp"),
+                     {{QStringLiteral("OperatorName"), QStringLiteral("Network %1").arg(++marks)}});
+            QTRY_VERIFY(stateChanges > before);
+            QObject::disconnect(counting);
+        }
+    }
+    live::ModemState modemState() const { return phone->modem().state(); }
+    qsizetype running() const { return phone->calls().reported().size(); }
+
+    PrivateBus bus;
+    FakeModemManager fake;
+    modemmanager::ModemManagerModem *modem = nullptr;
+    QStringList refused;
+
+private:
+    int marks = 0;
+    int stateChanges = 0;
+};
+
+} // namespace
+
+class TestModem : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void callsAreRecordedInBothDirections();
+    void twoCallsAtOnceAreTwoRows();
+    void aCallThatIsOverBeforeItCouldBeLookedAtIsRecorded();
+    void aCallThatIsMadeAndNeverBegunIsNone();
+    void aCallThatIsFoundIsMarkedLate();
+    void aCallThatIsFoundRingingIsNotLate();
+    void aCallWhoseObjectStaysIsOverAllTheSame();
+    void aCallWhoseObjectGoesIsOver();
+    void aCallIsOverWhenItsInterfaceIsRemoved();
+    void aCallIsOverWhenTheModemIsRemoved();
+    void aCallIsOverWhenTheDaemonVanishesAndTheNextOneCountsItself();
+    void aCallIsOverWhenTheBusGoesAndTheNextOneIsFollowed();
+    void theDaemonMayComeLater();
+    void theModemMayComeLater();
+    void aModemWithCallsGoesBeforeOneWithout();
+    void anotherModemTakesThePlaceOfTheOneThatHasGone();
+    void bytesAreThoseOfTheDaemonWhereItCanReadThem();
+    void bytesAreThoseOfTheInterfaceWhereItCannot();
+    void aConnectionThatIsMadeAgainBeginsAnew();
+    void theCountOfTheConnectionBeforeIsNotCountedAgain();
+    void aConnectionThatIsFoundCountsFromItsStart();
+    void aBearerThatIsTakenAwayIsOver();
+    void aValueOfAWrongTypeIsIgnoredWithOneWarning();
+    void aDaemonThatSaysNothingHoldsNothingUp();
+    void aDaemonThatAnswersLateIsAskedAgain();
+    void dialingAsksForACallAndBeginsIt();
+    void aCallIsAnsweredAndHungUp();
+    void aWaitingCallIsTakenWithTheOtherOnHold();
+    void whatIsRefusedIsToldInWords_data();
+    void whatIsRefusedIsToldInWords();
+    void whatCannotBeDoneAtTheMomentIsTriedAgain();
+    void whatIsNoNumberOrNoCallIsRefusedAtOnce();
+    void theStateOfTheModemIsInWords_data();
+    void theStateOfTheModemIsInWords();
+    void withoutABusThereIsAnError();
+};
+
+void TestModem::callsAreRecordedInBothDirections()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("5550123"));
+    desk.fake.moveCall(one, RingingOut);
+    desk.settle();
+    desk.pass(5 * second);
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(65 * second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    desk.fake.addCall(two, Incoming, RingingIn, QStringLiteral("42"));
+    desk.fake.moveCall(two, Active);
+    desk.settle();
+    desk.pass(7 * second);
+    desk.fake.moveCall(two, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:65000:1 1:42:7000:1"));
+    QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("0 0"));
+}
+
+void TestModem::twoCallsAtOnceAreTwoRows()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(10 * second);
+    desk.fake.addCall(two, Incoming, Waiting, QStringLiteral("2"));
+    desk.fake.moveCall(one, Held);
+    desk.fake.moveCall(two, Active);
+    desk.settle();
+    desk.pass(5 * second);
+    desk.fake.moveCall(two, Terminated);
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:16000:1 1:2:5000:1"));
+}
+
+void TestModem::aCallThatIsOverBeforeItCouldBeLookedAtIsRecorded()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, RingingIn, QStringLiteral("1"));
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("1:1:0:2"));
+    desk.fake.addCall(two, Outgoing, Dialing, QStringLiteral("2"));
+    desk.fake.moveCall(two, Terminated);
+    desk.fake.deleteCall(two);
+    desk.settle();
+    QCOMPARE(desk.rows(QStringLiteral("duration_ms || ':' || state")), QStringLiteral("0:2 0:2"));
+}
+
+void TestModem::aCallThatIsMadeAndNeverBegunIsNone()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Unknown, QStringLiteral("1"));
+    desk.settle();
+    desk.fake.deleteCall(one);
+    desk.settle();
+    QCOMPARE(desk.calls(), QString());
+}
+
+void TestModem::aCallThatIsFoundIsMarkedLate()
+{
+    Desk desk;
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"), false);
+    desk.openAndSettle();
+    desk.pass(9 * second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("1:1:9000:1"));
+    QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("1"));
+}
+
+void TestModem::aCallThatIsFoundRingingIsNotLate()
+{
+    Desk desk;
+    desk.fake.addCall(one, Incoming, RingingIn, QStringLiteral("1"), false);
+    desk.openAndSettle();
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(9 * second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("1:1:9000:1"));
+    QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("0"));
+}
+
+void TestModem::aCallWhoseObjectStaysIsOverAllTheSame()
+{
+    Desk desk;
+    desk.fake.addCall(two, Outgoing, Terminated, QStringLiteral("old"), false);
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.running(), 0);
+    desk.fake.set(one, QStringLiteral("Call"), {{QStringLiteral("Number"), QStringLiteral("other")}});
+    desk.pass(hour);
+    desk.settle();
+    QCOMPARE(desk.running(), 0);
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:1000:1"));
+}
+
+void TestModem::aCallWhoseObjectGoesIsOver()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.fake.deleteCall(one);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:1000:1"));
+}
+
+void TestModem::aCallIsOverWhenItsInterfaceIsRemoved()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.fake.removeInterfaces(desk.fake.modem, {QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice")});
+    desk.settle();
+    desk.pass(second);
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:1000:1"));
+    QCOMPARE(desk.modem->dial(QStringLiteral("1")), int(NotAvailable));
+    desk.fake.callPaths.clear();
+    desk.fake.addInterface(desk.fake.modem, QStringLiteral("Modem.Voice"));
+    desk.settle();
+    desk.fake.addCall(two, Incoming, Active, QStringLiteral("2"));
+    desk.settle();
+    QCOMPARE(desk.running(), 1);
+}
+
+void TestModem::aCallIsOverWhenTheModemIsRemoved()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.fake.removeModem(desk.fake.modem);
+    QTRY_COMPARE(desk.calls(), QStringLiteral("0:1:1000:1"));
+    QVERIFY(!desk.modemState().isThere);
+    QCOMPARE(desk.modemState().status, QStringLiteral("no modem"));
+}
+
+void TestModem::aCallIsOverWhenTheDaemonVanishesAndTheNextOneCountsItself()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.fake.vanish();
+    QTRY_COMPARE(desk.calls(), QStringLiteral("0:1:1000:1"));
+    QCOMPARE(desk.modemState().status, QStringLiteral("ModemManager is not running"));
+    desk.fake.callPaths.clear();
+    desk.fake.asked.clear();
+    desk.fake.appear();
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("ListCalls")));
+    desk.settle();
+    desk.fake.addCall(two, Incoming, RingingIn, QStringLiteral("2"));
+    desk.fake.moveCall(two, Active);
+    desk.settle();
+    desk.pass(2 * second);
+    desk.fake.moveCall(two, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:1000:1 1:2:2000:1"));
+}
+
+void TestModem::aCallIsOverWhenTheBusGoesAndTheNextOneIsFollowed()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(second);
+    desk.bus.kill();
+    QTRY_COMPARE(desk.calls(), QStringLiteral("0:1:1000:1"));
+    QVERIFY(desk.bus.start());
+    FakeModemManager another(desk.bus.address());
+    another.addModem(another.modem);
+    another.appear();
+    QTRY_VERIFY(desk.modemState().isThere);
+    QTRY_VERIFY(another.asked.contains(QStringLiteral("ListCalls")));
+    another.addCall(two, Incoming, RingingIn, QStringLiteral("2"));
+    another.moveCall(two, Active);
+    QTRY_COMPARE(desk.running(), 1);
+}
+
+void TestModem::theDaemonMayComeLater()
+{
+    Desk desk(false);
+    desk.open();
+    QVERIFY(!desk.modemState().isThere);
+    QCOMPARE(desk.modemState().status, QStringLiteral("ModemManager is not running"));
+    QCOMPARE(desk.modem->dial(QStringLiteral("1")), int(NotAvailable));
+    desk.fake.appear();
+    QTRY_VERIFY(desk.modemState().isThere);
+}
+
+void TestModem::theModemMayComeLater()
+{
+    Desk desk;
+    desk.fake.removeModem(desk.fake.modem);
+    desk.open();
+    QTRY_COMPARE(desk.modemState().status, QStringLiteral("no modem"));
+    desk.fake.addModem(desk.fake.modem, false);
+    QTRY_VERIFY(desk.modemState().isThere);
+    QCOMPARE(desk.modem->dial(QStringLiteral("1")), int(NotAvailable));
+    desk.fake.addInterface(desk.fake.modem, QStringLiteral("Modem.Voice"));
+    QTRY_COMPARE(desk.modem->dial(QStringLiteral("1")), int(Success));
+}
+
+void TestModem::aModemWithCallsGoesBeforeOneWithout()
+{
+    Desk desk;
+    desk.fake.removeModem(desk.fake.modem);
+    desk.fake.addModem(QStringLiteral("/org/freedesktop/ModemManager1/Modem/2"), false);
+    desk.fake.modem = QStringLiteral("/org/freedesktop/ModemManager1/Modem/10");
+    desk.fake.addModem(desk.fake.modem);
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"));
+    QTRY_COMPARE(desk.running(), 1);
+}
+
+void TestModem::anotherModemTakesThePlaceOfTheOneThatHasGone()
+{
+    Desk desk;
+    const QString other = QStringLiteral("/org/freedesktop/ModemManager1/Modem/1");
+    desk.fake.addModem(other);
+    desk.openAndSettle();
+    desk.fake.removeModem(desk.fake.modem);
+    desk.fake.set(other, QStringLiteral("Modem"), {{QStringLiteral("Model"), QStringLiteral("Two")}});
+    QTRY_COMPARE(desk.modemState().name, QStringLiteral("Fake Two"));
+}
+
+void TestModem::bytesAreThoseOfTheDaemonWhereItCanReadThem()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 9, 9);
+    desk.openAndSettle();
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), false},
+                                 {QStringLiteral("Properties"),
+                                  QVariantMap{{QStringLiteral("apn"), QStringLiteral("internet")}}}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QString());
+    desk.fake.set(bearer, QStringLiteral("Bearer"),
+                  {{QStringLiteral("Connected"), true},
+                   {QStringLiteral("Interface"), QStringLiteral("wwan0")},
+                   {QStringLiteral("ReloadStatsSupported"), true},
+                   {QStringLiteral("Stats"), stats(0, 0, 1'800'000'000)}});
+    desk.settle();
+    desk.pass(10 * second);
+    desk.fake.set(bearer, QStringLiteral("Bearer"),
+                  {{QStringLiteral("Stats"), stats(1234, 5'000'000'000, 1'800'000'000)}});
+    desk.settle();
+    desk.pass(10 * second);
+    // The last count comes with the end.
+    desk.fake.set(bearer, QStringLiteral("Bearer"),
+                  {{QStringLiteral("Connected"), false},
+                   {QStringLiteral("Interface"), QString()},
+                   {QStringLiteral("Stats"), stats(2234, 6'000'000'000, 1'800'000'000)}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:2234:6000000000:1"));
+}
+
+void TestModem::bytesAreThoseOfTheInterfaceWhereItCannot()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 100, 200);
+    desk.openAndSettle();
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), false},
+                                 {QStringLiteral("Properties"),
+                                  QVariantMap{{QStringLiteral("apn"), QStringLiteral("internet")}}}});
+    desk.fake.set(bearer, QStringLiteral("Bearer"),
+                  {{QStringLiteral("Connected"), true},
+                   {QStringLiteral("Interface"), QStringLiteral("wwan0")},
+                   {QStringLiteral("ReloadStatsSupported"), false},
+                   {QStringLiteral("Stats"), stats(0, 0)}});
+    desk.settle();
+    desk.setInterface(QStringLiteral("wwan0"), 1100, 5200);
+    desk.pass(10 * second);
+    desk.setInterface(QStringLiteral("wwan0"), 1101, 5202);
+    desk.fake.set(bearer, QStringLiteral("Bearer"),
+                  {{QStringLiteral("Connected"), false},
+                   {QStringLiteral("Interface"), QString()},
+                   {QStringLiteral("Stats"), stats(0, 0)}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:1001:5002:1"));
+}
+
+void TestModem::aConnectionThatIsMadeAgainBeginsAnew()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addBearer(bearer,
+                        {{QStringLiteral("Connected"), false}, {QStringLiteral("ReloadStatsSupported"), true}});
+    for (const quint64 round : {1, 2}) {
+        desk.fake.set(bearer, QStringLiteral("Bearer"),
+                      {{QStringLiteral("Connected"), true}, {QStringLiteral("Stats"), stats(0, 0, round)}});
+        desk.settle();
+        desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Stats"), stats(100, 1000, round)}});
+        desk.fake.set(bearer, QStringLiteral("Bearer"),
+                      {{QStringLiteral("Connected"), false}, {QStringLiteral("Stats"), stats(110, 1010, round)}});
+        desk.settle();
+    }
+    QCOMPARE(desk.sessions(), QStringLiteral("-:0:110:1010:1 -:0:110:1010:1"));
+}
+
+void TestModem::theCountOfTheConnectionBeforeIsNotCountedAgain()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true},
+                                 {QStringLiteral("ReloadStatsSupported"), true},
+                                 {QStringLiteral("Stats"), stats(50, 60, 1)}});
+    desk.settle();
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), false}});
+    desk.settle();
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), true}}); // and no new Stats yet
+    desk.settle();
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Stats"), stats(7, 8, 2)}});
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), false}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("-:0:50:60:1 -:0:7:8:1"));
+}
+
+void TestModem::aConnectionThatIsFoundCountsFromItsStart()
+{
+    Desk desk;
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true},
+                                 {QStringLiteral("ReloadStatsSupported"), true},
+                                 {QStringLiteral("Stats"), stats(50, 60, 1'799'999'000, 900)}});
+    desk.openAndSettle();
+    desk.pass(10 * second);
+    desk.fake.set(
+        bearer, QStringLiteral("Bearer"),
+        {{QStringLiteral("Connected"), false}, {QStringLiteral("Stats"), stats(51, 62, 1'799'999'000, 910)}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("-:910000:51:62:1"));
+}
+
+void TestModem::aBearerThatIsTakenAwayIsOver()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true}});
+    desk.settle();
+    desk.pass(3 * second);
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"),
+                  {{QStringLiteral("Bearers"), QVariant::fromValue(QList<QDBusObjectPath>())}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("-:3000:0:0:1"));
+}
+
+void TestModem::aValueOfAWrongTypeIsIgnoredWithOneWarning()
+{
+    Desk desk;
+    for (const char *name : {"State", "Number", "Connected", "Stats", "Bearers"})
+        QTest::ignoreMessage(
+            QtWarningMsg,
+            QRegularExpression(QStringLiteral("^ModemManager's %1 cannot be used: ").arg(QLatin1String(name))));
+    desk.openAndSettle();
+    // State is one kind whoever has it: the modem's comes before.
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"), {{QStringLiteral("State"), QStringLiteral("eight")}});
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"), false);
+    desk.fake.objects[one][QStringLiteral("org.freedesktop.ModemManager1.Call")] = {
+        {QStringLiteral("State"), 4u}, {QStringLiteral("Direction"), 1}, {QStringLiteral("Number"), 42}};
+    desk.fake.send(desk.fake.modem, QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice"),
+                   QStringLiteral("CallAdded"), {QVariant::fromValue(QDBusObjectPath(one))});
+    desk.settle();
+    QCOMPARE(desk.running(), 0); // nobody knows its state
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    QCOMPARE(desk.running(), 1);
+    // Signals of another signature are none.
+    desk.fake.send(one, QStringLiteral("org.freedesktop.ModemManager1.Call"), QStringLiteral("StateChanged"),
+                   {QStringLiteral("active"), QStringLiteral("over")});
+    desk.fake.send(desk.fake.modem, QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice"),
+                   QStringLiteral("CallAdded"), {7});
+    desk.fake.send(QStringLiteral("/org/freedesktop/ModemManager1"),
+                   QStringLiteral("org.freedesktop.DBus.ObjectManager"), QStringLiteral("InterfacesAdded"),
+                   {7, 8});
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), 1}, {QStringLiteral("Stats"), 5}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QString());
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), true}});
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), QStringLiteral("no")}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("-:0:0:0:1"));
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"), {{QStringLiteral("Bearers"), 3}});
+    desk.settle();
+    QCOMPARE(desk.running(), 1);
+}
+
+void TestModem::aDaemonThatSaysNothingHoldsNothingUp()
+{
+    Desk desk;
+    desk.fake.silent = {QStringLiteral("GetManagedObjects"), QStringLiteral("ListCalls"),
+                        QStringLiteral("GetAll")};
+    desk.open({300'000, 300'000, 50});
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("GetManagedObjects")));
+    QCOMPARE(desk.modemState().status, QStringLiteral("asking ModemManager"));
+    QCOMPARE(desk.all(), 0u);
+    QCOMPARE(desk.phone->callService() != nullptr, true);
+    desk.close(); // and does not wait for the answer either
+    QVERIFY(!desk.phone);
+}
+
+void TestModem::aDaemonThatAnswersLateIsAskedAgain()
+{
+    Desk desk;
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"), false);
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true}});
+    for (const char *method : {"GetManagedObjects", "ListCalls", "GetAll"})
+        desk.fake.silent.insert(QLatin1String(method));
+    desk.open({20, 20, 20});
+    for (const char *method : {"GetManagedObjects", "ListCalls", "GetAll"}) {
+        const QString name = QLatin1String(method);
+        QTRY_VERIFY(desk.fake.asked.count(name) > 2);
+        desk.fake.silent.remove(name);
+    }
+    QTRY_COMPARE(desk.running(), 1);
+    QTRY_COMPARE(desk.phone->sessions().reported().size(), 1);
+}
+
+void TestModem::dialingAsksForACallAndBeginsIt()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.asked.clear();
+    QCOMPARE(desk.modem->dial(QStringLiteral("+495550123")), int(Success));
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("Start 101")));
+    QVERIFY(desk.fake.asked.contains(QStringLiteral("+495550123")));
+    QCOMPARE(desk.refused, QStringList());
+}
+
+void TestModem::aCallIsAnsweredAndHungUp()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, RingingIn, QStringLiteral("1"));
+    QTRY_COMPARE(desk.running(), 1);
+    QCOMPARE(desk.modem->answer(one), int(Success));
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("Accept 1")));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    QCOMPARE(desk.modem->hangUp(one), int(Success));
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("Hangup 1")));
+}
+
+void TestModem::aWaitingCallIsTakenWithTheOtherOnHold()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"));
+    desk.fake.addCall(two, Incoming, Waiting, QStringLiteral("2"));
+    QTRY_COMPARE(desk.running(), 2);
+    QCOMPARE(desk.modem->answer(two), int(Success));
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("HoldAndAccept")));
+}
+
+void TestModem::whatIsRefusedIsToldInWords_data()
+{
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<bool>("isSilent");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("a call that cannot be made")
+        << QStringLiteral("CreateCall") << false << QStringLiteral("The call cannot be made: no carrier.");
+    QTest::newRow("a call that cannot be begun")
+        << QStringLiteral("Start") << false << QStringLiteral("The call cannot be made: no carrier.");
+    QTest::newRow("a call that nobody answers for")
+        << QStringLiteral("Start") << true
+        << QStringLiteral("The call cannot be made: ModemManager does not answer.");
+    QTest::newRow("an answer") << QStringLiteral("Accept") << false
+                               << QStringLiteral("The call cannot be answered: no carrier.");
+    QTest::newRow("an end") << QStringLiteral("Hangup") << false
+                            << QStringLiteral("The call cannot be ended: no carrier.");
+    QTest::newRow("an end that nobody answers for")
+        << QStringLiteral("Hangup") << true
+        << QStringLiteral("The call cannot be ended: ModemManager does not answer.");
+}
+
+void TestModem::whatIsRefusedIsToldInWords()
+{
+    QFETCH(QString, method);
+    QFETCH(bool, isSilent);
+    QFETCH(QString, words);
+    Desk desk;
+    desk.open({isSilent ? 2'000 : 60'000, isSilent ? 2'000 : 60'000, 50});
+    desk.fake.addCall(one, Incoming, RingingIn, QStringLiteral("1"));
+    QTRY_COMPARE_WITH_TIMEOUT(desk.running(), 1, 60'000);
+    if (isSilent)
+        desk.fake.silent.insert(method);
+    else
+        desk.fake.errors.insert(method, refusal);
+    const int status = method == QLatin1String("Accept")   ? desk.modem->answer(one)
+                       : method == QLatin1String("Hangup") ? desk.modem->hangUp(one)
+                                                           : desk.modem->dial(QStringLiteral("5550123"));
+    QCOMPARE(status, int(Success));
+    QTRY_COMPARE_WITH_TIMEOUT(desk.refused, QStringList{words}, 60'000);
+    // One that could not be begun is not left with the modem.
+    const bool isTakenBack = method == QLatin1String("Start") && !isSilent;
+    QTRY_COMPARE(desk.fake.asked.contains(QStringLiteral("DeleteCall")), isTakenBack);
+}
+
+void TestModem::whatCannotBeDoneAtTheMomentIsTriedAgain()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.errors.insert(QStringLiteral("CreateCall"),
+                            QStringLiteral("org.freedesktop.ModemManager1.Error.Core.InProgress: busy"));
+    desk.fake.errorsLeft.insert(QStringLiteral("CreateCall"), 2);
+    desk.modem->dial(QStringLiteral("5550123"));
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("Start 101")));
+    QCOMPARE(desk.fake.asked.count(QStringLiteral("CreateCall")), 3);
+    QCOMPARE(desk.refused, QStringList());
+}
+
+void TestModem::whatIsNoNumberOrNoCallIsRefusedAtOnce()
+{
+    Desk desk;
+    desk.openAndSettle();
+    QCOMPARE(desk.modem->dial(QString()), int(InvalidArgument));
+    QCOMPARE(desk.modem->dial(QStringLiteral("12;34")), int(InvalidArgument));
+    QCOMPARE(desk.modem->answer(one), int(InvalidArgument));
+    QCOMPARE(desk.modem->hangUp(QStringLiteral("nothing")), int(InvalidArgument));
+}
+
+void TestModem::theStateOfTheModemIsInWords_data()
+{
+    QTest::addColumn<int>("state");
+    QTest::addColumn<uint>("lock");
+    QTest::addColumn<QString>("words");
+    QTest::newRow("failed") << -1 << 1u << QStringLiteral("failed");
+    QTest::newRow("locked by the PIN") << 2 << 2u << QStringLiteral("locked: PIN");
+    QTest::newRow("locked by the PUK") << 2 << 4u << QStringLiteral("locked: PUK");
+    QTest::newRow("locked by something else") << 2 << 99u << QStringLiteral("locked");
+    QTest::newRow("searching") << 7 << 1u << QStringLiteral("searching");
+    QTest::newRow("connected") << 11 << 1u << QStringLiteral("connected");
+    QTest::newRow("a state of a later daemon") << 99 << 1u << QStringLiteral("unknown");
+}
+
+void TestModem::theStateOfTheModemIsInWords()
+{
+    QFETCH(int, state);
+    QFETCH(uint, lock);
+    QFETCH(QString, words);
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"),
+                  {{QStringLiteral("State"), state}, {QStringLiteral("UnlockRequired"), lock}});
+    desk.settle();
+    QCOMPARE(desk.modemState().status, words);
+    QCOMPARE(desk.modemState().name, QStringLiteral("Fake One"));
+    QVERIFY(desk.modemState().network.startsWith(QStringLiteral("Network")));
+}
+
+void TestModem::withoutABusThereIsAnError()
+{
+    PrivateBus bus(false);
+    modemmanager::ModemManagerModem modem(bus.address(), {5'000, 5'000, 50});
+    QVERIFY(modem.connectToBus().startsWith(QStringLiteral("There is no system bus: ")));
+    // And the bus may come later.
+    QVERIFY(bus.start());
+    FakeModemManager fake(bus.address());
+    fake.addModem(fake.modem);
+    fake.appear();
+    QTRY_VERIFY(modem.state().isThere);
+}
+
+KAV_TEST_GROUP(TestModem, QCoreApplication);
+#include "tst_modem.moc"
