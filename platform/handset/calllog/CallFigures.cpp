@@ -9,7 +9,7 @@ namespace handset::calllog {
 
 namespace {
 
-int amount(quint64 units, const charging::ChargingState &state, QByteArray &text)
+int amountIn(const charging::ChargingState &state, quint64 units, QByteArray &text)
 {
     return charging::amountText(units, state.chargeType, state.card.puct().price, text);
 }
@@ -35,12 +35,17 @@ int CallFigures::cost(Total total, QByteArray &text)
     qint64 units = 0;
     if (const int status = ledger.figure(total, units))
         return status;
-    return ledger.ask([&](const Standing &now) { return amount(static_cast<quint64>(units), now.state, text); });
+    return amount(static_cast<quint64>(units), text);
+}
+
+int CallFigures::amount(quint64 units, QByteArray &text)
+{
+    return ledger.ask([&](const Standing &now) { return amountIn(now.state, units, text); });
 }
 
 int CallFigures::allCallsCost(QByteArray &text)
 {
-    return ledger.ask([&](const Standing &now) { return amount(now.state.card.acm(), now.state, text); });
+    return ledger.ask([&](const Standing &now) { return amountIn(now.state, now.state.card.acm(), text); });
 }
 
 template <typename Look>
@@ -53,13 +58,14 @@ int CallFigures::askAccount(Look look)
 
 int CallFigures::remainingCredit(QByteArray &text)
 {
-    return askAccount([&](const auto &account, const auto &state) { return amount(account.credit, state, text); });
+    return askAccount(
+        [&](const auto &account, const auto &state) { return amountIn(state, account.credit, text); });
 }
 
 int CallFigures::lastDeposit(QByteArray &text)
 {
     return askAccount(
-        [&](const auto &account, const auto &state) { return amount(account.deposit, state, text); });
+        [&](const auto &account, const auto &state) { return amountIn(state, account.deposit, text); });
 }
 
 int CallFigures::depositExpirationDate(Date &date)

@@ -10,7 +10,7 @@ namespace handset::calllog {
 
 /// Times in whole seconds of what the ledger has in milliseconds, the fraction cut off; costs from the totals, the SIM's
 /// meter and the account, in the unit of the charge type.
-class CallFigures final : public CallLog, public CallService, public DataCalls
+class CallFigures : public CallLog, public CallService, public DataCalls
 {
 public:
     /// `owner` outlives this.
@@ -46,6 +46,10 @@ public:
 
     /// What callStatus() returns.
     void setCallStatus(CallStatus status) { dataStatus = status; }
+
+protected:
+    /// What so many units are as a text of this phone's.
+    virtual int amount(quint64 units, QByteArray &text);
 
 private:
     int time(Total total, CallTime &time);

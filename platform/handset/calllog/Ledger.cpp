@@ -428,13 +428,29 @@ int Ledger::setUnits(qint64 id, quint32 units)
         return status;
     return transact([&](Entry &entry) {
         const auto call = rowOf(entry.now.calls, id);
-        if (call == entry.now.calls.end() || call->charge != Charge::Measured)
+        if (call == entry.now.calls.end())
+            return setUnitsOfEnded(id, units);
+        if (call->charge != Charge::Measured)
             return int{WrongState};
         const quint32 more = std::max(units, call->units) - call->units;
         call->units += more;
         entry.passed[static_cast<std::size_t>(call - entry.now.calls.begin())].units += more;
         return int{Success};
     });
+}
+
+// Within a transaction.
+int Ledger::setUnitsOfEnded(qint64 id, quint32 units)
+{
+    std::optional<EndedCall> call;
+    if (!tables.ended(id, call))
+        return database->status(false);
+    if (!call)
+        return WrongState;
+    const qint64 more = std::max<qint64>(units, call->units) - call->units;
+    const bool done = more == 0 || (tables.addUnits(id, more) &&
+                                    tables.addCost(call->kind, call->direction, more, call->isLast));
+    return database->status(done);
 }
 
 int Ledger::interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms)
@@ -450,7 +466,7 @@ int Ledger::addUnconnected(const PastCall &call)
     return writeOwedCall();
 }
 
-bool Ledger::putHistory(const QList<PastCall> &calls, Entry &entry)
+bool Ledger::putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry)
 {
     struct Sum {
         CallKind kind;
@@ -463,8 +479,12 @@ bool Ledger::putHistory(const QList<PastCall> &calls, Entry &entry)
     PastCall last;
     for (PastCall past : calls) {
         const bool isConnected = past.durationMs > 0;
-        past.units = isConnected ? entry.now.state.tariffOf(past).units(charging::CallLeg{past.durationMs, 0}) : 0;
-        entry.now.state.charge(static_cast<quint64>(past.units));
+        if (!isConnected)
+            past.units = 0;
+        else if (charge != Charge::Measured)
+            past.units = entry.now.state.tariffOf(past).units(charging::CallLeg{past.durationMs, 0});
+        if (charge != Charge::Measured)
+            entry.now.state.charge(static_cast<quint64>(past.units));
         if (!tables.insert(past, isConnected ? CallState::Finished : CallState::NotConnected))
             return false;
         for (Sum &sum : sums) {
@@ -483,13 +503,13 @@ bool Ledger::putHistory(const QList<PastCall> &calls, Entry &entry)
            (tables.put(Total::LastTime, last.durationMs) && tables.put(Total::LastCost, last.units));
 }
 
-int Ledger::addHistory(const QList<PastCall> &calls)
+int Ledger::addHistory(const QList<PastCall> &calls, Charge charge)
 {
     if (!std::all_of(calls.begin(), calls.end(), isRecordable))
         return InvalidArgument;
     if (const int status = writeOwedCall())
         return status;
-    return transact([&](Entry &entry) { return database->status(putHistory(calls, entry)); });
+    return transact([&](Entry &entry) { return database->status(putHistory(calls, charge, entry)); });
 }
 
 // --- sessions

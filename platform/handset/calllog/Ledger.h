@@ -58,8 +58,9 @@ public:
     int beginCall(const PastCall &call, qint64 &id, Charge charge = Charge::Limited);
     /// The call with that id has ended now; WrongState where none runs. It is over whatever else this returns.
     int endCall(qint64 id);
-    /// A call whose charge is measured has cost so many units since its beginning; fewer than before change nothing.
-    /// WrongState where none runs with that id.
+    /// A call whose charge is measured has cost so many units since its beginning; fewer than before change nothing. A
+    /// meter may say so when the call is over. WrongState where there is none with that id, and for one that runs under
+    /// a tariff.
     int setUnits(qint64 id, quint32 units);
     /// How much of calls like this one, begun at `sinceWallMs` or later, is counted although their recorder ended before
     /// they did, in ms.
@@ -67,8 +68,9 @@ public:
     /// A call has ended that was never connected. InvalidArgument as above; it is over whatever else this returns.
     int addUnconnected(const PastCall &call);
     /// Adds calls that are over, in their order, counted and charged as if they had been made. The last connected one
-    /// becomes the last call unless a call is connected now. InvalidArgument as above.
-    int addHistory(const QList<PastCall> &calls);
+    /// becomes the last call unless a call is connected now. Those that are measured cost the units that they have.
+    /// InvalidArgument as above.
+    int addHistory(const QList<PastCall> &calls, Charge charge = Charge::Limited);
     bool isConnected() const { return isAnyRunning(ownCalls); }
     bool owesCall() const { return isAnyOver(ownCalls) || !unconnected.isEmpty(); }
 
@@ -165,7 +167,8 @@ private:
     int transact(Entry &entry, Work work, RepeatedWrite *end);
     bool write(Entry &entry);
     bool writeCall(RunningCall &call, const Entry &entry, std::size_t index);
-    bool putHistory(const QList<PastCall> &calls, Entry &entry);
+    bool putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry);
+    int setUnitsOfEnded(qint64 id, quint32 units);
     int transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr, qint64 id = 0,
                          const SessionAmounts &more = {});
     int writeOwedCall();

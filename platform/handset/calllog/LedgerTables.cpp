@@ -52,6 +52,10 @@ constexpr auto addTimesSql = "UPDATE totals SET ms = min(9223372036854775807, ms
                              " WHERE +counter = ? OR +counter = ? OR +counter = 'all' OR +counter = 'lifetime'";
 constexpr auto addCostsSql = "UPDATE costs SET units = min(9223372036854775807, units + ?)"
                              " WHERE +counter = ? OR +counter = ?";
+constexpr auto endedCallSql =
+    "SELECT kind, direction, units, NOT EXISTS (SELECT 1 FROM calls AS later WHERE later.id"
+    " > calls.id AND later.state <> 2) FROM calls WHERE id = ? AND state IN (1, 3)";
+constexpr auto addUnitsSql = "UPDATE calls SET units = min(9223372036854775807, units + ?) WHERE id = ?";
 constexpr auto addSessionsSql =
     "UPDATE session_totals SET value = min(9223372036854775807, value + CASE counter WHEN 'duration' THEN ?"
     " WHEN 'sent' THEN ? ELSE ? END)";
@@ -270,6 +274,24 @@ bool LedgerTables::update(const RunningCall &call, CallState state)
                                 static_cast<int>(call.charge), int{call.isLast}, call.id)
                : database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, nothing, nothing, nothing,
                                 nothing, nothing, nothing, call.id);
+}
+
+bool LedgerTables::ended(qint64 id, std::optional<EndedCall> &call)
+{
+    call.reset();
+    if (!database.run(endedCallSql, id))
+        return false;
+    PlainStatement &row = database.statement(endedCallSql);
+    if (row.hasRow())
+        call = EndedCall{static_cast<CallKind>(row.number(0)), static_cast<CallDirection>(row.number(1)),
+                         row.number(2), row.number(3) != 0};
+    row.finish();
+    return true;
+}
+
+bool LedgerTables::addUnits(qint64 id, qint64 more)
+{
+    return database.runOn(1, addUnitsSql, more, id);
 }
 
 bool LedgerTables::closeInterrupted()

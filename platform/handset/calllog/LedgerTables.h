@@ -69,6 +69,14 @@ struct RunningCall {
     quint32 dueAfter(qint64 more) const;
 };
 
+/// What the row of a call that is over says of its costs.
+struct EndedCall {
+    CallKind kind = CallKind::Voice;
+    CallDirection direction = CallDirection::Dialed;
+    qint64 units = 0;
+    bool isLast = false; ///< none has been connected since
+};
+
 /// The row of a session; it runs where the last three say something.
 struct SessionRow {
     qint64 id = 0;
@@ -120,6 +128,10 @@ public:
     bool insert(RunningCall &call);
     /// How far it is, and its end where `state` is not Running.
     bool update(const RunningCall &call, CallState state);
+    /// Nothing for one that runs, was never connected, or is not there.
+    bool ended(qint64 id, std::optional<EndedCall> &call);
+    /// To the row alone.
+    bool addUnits(qint64 id, qint64 more);
     /// Closes what a recorder has left that is no more: calls and sessions, with what is written of them.
     bool closeInterrupted();
 

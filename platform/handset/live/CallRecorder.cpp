@@ -71,6 +71,7 @@ bool CallRecorder::report(const ReportedCall &call)
 void CallRecorder::connect(Followed &followed) const
 {
     followed.connectedAtMs = clock.monotonicMs();
+    followed.charge = charge;
     if (!followed.call.isFound)
         return;
     followed.mayBeKnown = true;
@@ -117,7 +118,7 @@ void CallRecorder::begin(Followed &followed)
             return;
         call.durationMs = calllog::elapsed(counted, call.durationMs);
     }
-    ledger.beginCall(call, followed.row, charge);
+    ledger.beginCall(call, followed.row, followed.charge);
 }
 
 void CallRecorder::retry()
@@ -133,7 +134,7 @@ void CallRecorder::finish(const Followed &followed)
     if (followed.row != 0) {
         ledger.endCall(followed.row);
     } else if (ledger.record()) {
-        unwritten.append(asPast(followed, followed.connectedAtMs ? connectedMs(followed) : 0));
+        unwritten.append({asPast(followed, followed.connectedAtMs ? connectedMs(followed) : 0), followed.charge});
         writeUnwritten();
     }
 }
@@ -141,8 +142,12 @@ void CallRecorder::finish(const Followed &followed)
 // In their order, each by itself: what has been written is no longer owed.
 void CallRecorder::writeUnwritten()
 {
-    while (!unwritten.isEmpty() && ledger.addHistory({unwritten.constFirst()}) == Success)
+    while (!unwritten.isEmpty()) {
+        const auto &[call, how] = unwritten.constFirst();
+        if (ledger.addHistory({call}, how) != Success)
+            return;
         unwritten.removeFirst();
+    }
 }
 
 bool CallRecorder::gone(const QString &id)

@@ -16,8 +16,9 @@ namespace handset::live {
 class CallRecorder
 {
 public:
-    /// Both outlive this. `charge` is that of every call.
+    /// Both outlive this. `charge` is that of every call that is connected from now on; so setCharge().
     CallRecorder(calllog::Ledger &owner, const Clock &clocks, calllog::Charge charge);
+    void setCharge(calllog::Charge how) { charge = how; }
 
     /// True when a call has begun, been connected or ended with it.
     bool report(const ReportedCall &call);
@@ -45,6 +46,7 @@ private:
         std::optional<qint64> connectedAtMs; ///< of the boot clock
         qint64 beforeMs = 0;                 ///< that it had been connected by then
         bool isLate = false;
+        calllog::Charge charge = calllog::Charge::Unlimited;
         bool mayBeKnown = false; ///< another recorder may have counted some of it
         qint64 row = 0;
     };
@@ -58,9 +60,9 @@ private:
 
     calllog::Ledger &ledger;
     const Clock &clock;
-    const calllog::Charge charge;
+    calllog::Charge charge;
     QHash<QString, Followed> calls;
-    QList<PastCall> unwritten; ///< over, and in no row
+    QList<std::pair<PastCall, calllog::Charge>> unwritten; ///< over, and in no row
 };
 
 } // namespace handset::live

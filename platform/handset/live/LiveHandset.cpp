@@ -145,10 +145,17 @@ void LiveHandset::checkBeside(const QString &file, const std::function<void(cons
 
 Opened open(const Settings &settings, std::unique_ptr<Modem> modem)
 {
+    return open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {
+        return std::make_shared<LiveHandset>(std::move(ledger), settings.clock, std::move(modem));
+    });
+}
+
+Opened open(const Settings &settings, const Make &make)
+{
     calllog::OpenedLedger opened = calllog::openLedger(settings);
     if (!opened.ledger)
         return {nullptr, opened.error, {}};
-    auto handset = std::make_shared<LiveHandset>(std::move(opened.ledger), settings.clock, std::move(modem));
+    const std::shared_ptr<LiveHandset> handset = make(std::move(opened.ledger));
     if (!opened.unread.isEmpty())
         handset->checkBeside(opened.unread, settings.tell);
     return {handset, {}, opened.notice};

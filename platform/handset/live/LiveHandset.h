@@ -62,6 +62,10 @@ signals:
 
 protected:
     calllog::Ledger &books() { return *ledger; }
+    AdviceOfCharge &ownAdviceOfCharge() { return ownCharging; }
+    /// Of calls that are connected from now on: by the own tariff (Unlimited, as long as nothing else is said), or by who
+    /// says what they cost.
+    void setCharge(calllog::Charge charge) { callRecorder.setCharge(charge); }
 
 private:
     void tick();
@@ -89,5 +93,8 @@ private:
 
 /// Opens a handset over `modem`, with the ledger of the settings' state directory. As handset::open().
 Opened open(const Settings &settings, std::unique_ptr<Modem> modem);
+/// Likewise one that `make` makes.
+using Make = std::function<std::shared_ptr<LiveHandset>(std::unique_ptr<calllog::Ledger> ledger)>;
+Opened open(const Settings &settings, const Make &make);
 
 } // namespace handset::live

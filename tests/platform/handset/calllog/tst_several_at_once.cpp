@@ -169,6 +169,9 @@ private slots:
     void eachCallIsChargedByItsOwnTariff();
     void anUnlimitedCallGoesOnWhenNothingMoreMayBeCharged();
     void aMeasuredCallCostsWhatItsMeterSays();
+    void whatTheMeterSaysAfterTheEndIsAddedToTheCall();
+    void whatTheMeterSaysOfAnEarlierCallIsNotTheLastOnes();
+    void aMeasuredCallThatCouldNotBeBegunIsNotChargedByTheTariff();
     void onlyAMeasuredCallIsToldWhatItCosts();
     void aCallThatWasOnAlreadyCountsFromItsBeginning();
     void whatAnInterruptedCallHasCountedIsFoundByItsSuccessor();
@@ -275,6 +278,47 @@ void TestSeveralAtOnce::aMeasuredCallCostsWhatItsMeterSays()
     QCOMPARE(books->endCall(measured), int(Success));
     QCOMPARE(books.costs(), QList<qint64>({7, 3, 0}));
     QCOMPARE(books->standing().state.card.acm(), 0u); // that is somebody else's
+}
+
+void TestSeveralAtOnce::whatTheMeterSaysAfterTheEndIsAddedToTheCall()
+{
+    StateDir state;
+    Books books(state.path());
+    const qint64 measured = books.begin(dialed(), Charge::Measured);
+    QCOMPARE(books->setUnits(measured, 4), int(Success));
+    QCOMPARE(books->endCall(measured), int(Success));
+    QCOMPARE(books->setUnits(measured, 9), int(Success));
+    QCOMPARE(books->setUnits(measured, 6), int(Success)); // a meter never falls
+    QCOMPARE(books.costs(), QList<qint64>({9, 9, 0}));
+    QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT units FROM calls")).toInt(), 9);
+    QCOMPARE(books->addUnconnected(answered()), int(Success)); // is no last call
+    QCOMPARE(books->setUnits(measured, 10), int(Success));
+    QCOMPARE(books->setUnits(measured + 1, 10), int(WrongState));
+    QCOMPARE(books.costs(), QList<qint64>({10, 10, 0}));
+    QCOMPARE(books->standing().state.card.acm(), 0u);
+}
+
+void TestSeveralAtOnce::whatTheMeterSaysOfAnEarlierCallIsNotTheLastOnes()
+{
+    Books books;
+    const qint64 first = books.begin(answered(), Charge::Measured);
+    QCOMPARE(books->endCall(first), int(Success));
+    const qint64 second = books.begin(dialed(), Charge::Measured);
+    QCOMPARE(books->setUnits(second, 1), int(Success));
+    QCOMPARE(books->setUnits(first, 5), int(Success));
+    QCOMPARE(books.costs(), QList<qint64>({1, 1, 5}));
+}
+
+void TestSeveralAtOnce::aMeasuredCallThatCouldNotBeBegunIsNotChargedByTheTariff()
+{
+    Books books;
+    books.setTariffs(aUnitASecond);
+    PastCall past = dialed();
+    past.durationMs = 10 * second;
+    past.units = 3;
+    QCOMPARE(books->addHistory({past}, Charge::Measured), int(Success));
+    QCOMPARE(books.costs(), QList<qint64>({3, 3, 0}));
+    QCOMPARE(books->standing().state.card.acm(), 0u);
 }
 
 void TestSeveralAtOnce::onlyAMeasuredCallIsToldWhatItCosts()
