@@ -1,0 +1,97 @@
+#include "ofono/OfonoHandset.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace handset::ofono {
+
+OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
+                           std::unique_ptr<OfonoModem> behind, int longestWaitMs)
+    : LiveHandset(std::move(opened), std::move(clocks), std::move(behind))
+    , meter(static_cast<OfonoModem &>(modem()), longestWaitMs)
+    , charges(meter, books(), ownAdviceOfCharge())
+    , figures(books(), meter, charges)
+{
+    // Behind what records the same.
+    connect(&modem(), &live::Modem::callReported, this, &OfonoHandset::callReported);
+    connect(&modem(), &live::Modem::callGone, this, &OfonoHandset::callEnded);
+    connect(&modem(), &live::Modem::lost, this, [this] {
+        running.clear();
+        known.clear();
+        ended.reset();
+    });
+    connect(&meter, &CallMeter::accumulatedRead, this, &OfonoHandset::accumulatedRead);
+    connect(&meter, &CallMeter::currentTold, this, &OfonoHandset::currentTold);
+    connect(&meter, &CallMeter::changed, this, [this] {
+        setCharge(meter.isThere() ? calllog::Charge::Measured : calllog::Charge::Unlimited);
+        if (!meter.isThere())
+            before.reset();
+        emit changed();
+    });
+}
+
+// At its beginning the meter is read once more, as it may have been late with the call before.
+void OfonoHandset::callReported(const live::ReportedCall &call)
+{
+    if (call.phase == live::CallPhase::Over) {
+        callEnded(call.id);
+        return;
+    }
+    if (!known.contains(call.id)) {
+        known.insert(call.id);
+        meter.refresh();
+    }
+    const qint64 row = calls().rowOf(call.id);
+    if (row == 0 || running.contains(call.id) || !meter.isThere())
+        return;
+    running.insert(call.id, {row, 0});
+    connectedLast = call.id;
+    ended.reset();
+}
+
+void OfonoHandset::callEnded(const QString &id)
+{
+    known.remove(id);
+    const auto call = running.constFind(id);
+    if (call == running.constEnd())
+        return;
+    ended = *call;
+    running.erase(call);
+    meter.refresh();
+}
+
+void OfonoHandset::give(Metered &call, quint32 more)
+{
+    call.units += more;
+    if (books().setUnits(call.row, call.units) == Success)
+        emit changed();
+}
+
+// A meter that shows less has been reset: what it shows then is nobody's.
+void OfonoHandset::accumulatedRead(quint32 units)
+{
+    const quint32 last = before.value_or(units);
+    const quint32 more = units < last ? 0 : units - last;
+    const quint32 rest = more - std::min(more, given);
+    before = units;
+    given = 0;
+    if (rest == 0)
+        return;
+    if (ended)
+        give(*ended, rest);
+    else if (const auto call = running.find(connectedLast); call != running.end())
+        give(*call, rest);
+}
+
+// Of one call, while it is the only one.
+void OfonoHandset::currentTold(quint32 units)
+{
+    if (running.size() != 1)
+        return;
+    Metered &call = *running.begin();
+    const quint32 more = std::max(units, call.units) - call.units;
+    given += more;
+    give(call, more);
+}
+
+} // namespace handset::ofono

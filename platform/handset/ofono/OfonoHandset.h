@@ -1,0 +1,51 @@
+// The telephone behind oFono, with the SIM's advice of charge where the modem has it.
+#pragma once
+
+#include "live/LiveHandset.h"
+#include "ofono/MeteredCharging.h"
+
+namespace handset::ofono {
+
+/// While the modem has a call meter, what a call costs is what the accumulated meter comes to more around it; else the
+/// own tariff charges it. Which of the two is decided when it is connected. Of calls at once the one that ends first is
+/// given what the meter has counted until then: the meter does not say which call it counts.
+class OfonoHandset final : public live::LiveHandset
+{
+    Q_OBJECT
+
+public:
+    OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
+                 std::unique_ptr<OfonoModem> behind, int longestWaitMs = CallMeter::usualWaitMs);
+
+    CallService *callService() override { return &figures; }
+    CallLog *callLog() override { return &figures; }
+    AdviceOfCharge *adviceOfCharge() override { return &charges; }
+    /// PIN2 guards the meter and nothing else here.
+    SimSecurity *simSecurity() override { return meter.isThere() ? &charges : nullptr; }
+
+    const CallMeter &callMeter() const { return meter; }
+
+private:
+    struct Metered {
+        qint64 row = 0;
+        quint32 units = 0;
+    };
+
+    void callReported(const live::ReportedCall &call);
+    void callEnded(const QString &id);
+    void accumulatedRead(quint32 units);
+    void currentTold(quint32 units);
+    void give(Metered &call, quint32 more);
+
+    CallMeter meter;
+    MeteredCharging charges;
+    MeteredFigures figures;
+    QSet<QString> known;
+    QHash<QString, Metered> running; ///< those that are connected
+    QString connectedLast;           ///< of those
+    std::optional<Metered> ended;    ///< the last one, until another is connected
+    std::optional<quint32> before;   ///< the accumulated meter as it was read last
+    quint32 given = 0;               ///< of what it has come to since then
+};
+
+} // namespace handset::ofono
