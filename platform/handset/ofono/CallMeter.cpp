@@ -1,5 +1,6 @@
 #include "ofono/CallMeter.h"
 
+#include "charging/Pin2.h"
 #include "ofono/OfonoProxies.h"
 
 #include <QtCore/QDeadlineTimer>
@@ -217,6 +218,9 @@ CallMeter::Outcome CallMeter::ask(const Send &send)
     });
     if (!isThere())
         return Outcome::NotThere;
+    // The right PIN2 gives all tries back; the daemon asks the card for them after a wrong one only.
+    if (outcome == Outcome::Written && pin2Tries)
+        pin2Tries = charging::Pin2Record::allTries;
     // The daemon may have done it all the same, and says so in its answer to this.
     if (outcome != Outcome::Written)
         refresh();

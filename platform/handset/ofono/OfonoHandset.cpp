@@ -6,8 +6,9 @@
 namespace handset::ofono {
 
 OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
-                           std::unique_ptr<OfonoModem> behind, int longestWaitMs)
-    : LiveHandset(std::move(opened), std::move(clocks), std::move(behind))
+                           std::unique_ptr<OfonoModem> behind, int longestWaitMs,
+                           live::InterfaceCounters interfaces)
+    : LiveHandset(std::move(opened), std::move(clocks), std::move(behind), std::move(interfaces))
     , meter(static_cast<OfonoModem &>(modem()), longestWaitMs)
     , charges(meter, books(), ownAdviceOfCharge())
     , figures(books(), meter, charges)

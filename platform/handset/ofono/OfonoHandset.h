@@ -15,7 +15,8 @@ class OfonoHandset final : public live::LiveHandset
 
 public:
     OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
-                 std::unique_ptr<OfonoModem> behind, int longestWaitMs = CallMeter::usualWaitMs);
+                 std::unique_ptr<OfonoModem> behind, int longestWaitMs = CallMeter::usualWaitMs,
+                 live::InterfaceCounters interfaces = live::InterfaceCounters());
 
     CallService *callService() override { return &figures; }
     CallLog *callLog() override { return &figures; }

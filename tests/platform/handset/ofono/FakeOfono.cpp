@@ -135,14 +135,15 @@ QVariantList FakeOfono::listed(const QString &what) const
     return {};
 }
 
-// As the daemon: digits are looked at before the card is asked, and what the card refuses is a plain failure.
+// As the daemon: digits are looked at before the card is asked, what the card refuses is a plain failure, and the tries
+// are asked for after that only, not when the right ones have given them back.
 QString FakeOfono::present(const QString &pin)
 {
     if (pin.size() < 4 || pin.size() > 8)
         return QStringLiteral("InvalidFormat");
     const bool isRight = tries > 0 && pin == pin2;
     tries = isRight ? 3 : qMax(0, tries - 1);
-    if (tellsTries)
+    if (!isRight)
         answers[QStringLiteral("SimManager")][QStringLiteral("Retries")] =
             QVariant::fromValue(QMap<QString, uchar>{{QStringLiteral("pin2"), static_cast<uchar>(tries)}});
     return isRight ? QString() : QStringLiteral("Failed");

@@ -54,7 +54,6 @@ public:
     // The card behind the call meter.
     QString pin2 = QStringLiteral("1234");
     int tries = 3;
-    bool tellsTries = true;
 
 protected:
     bool handleMessage(const QDBusMessage &message, const QDBusConnection &connection) override;

@@ -146,6 +146,7 @@ private slots:
     void aBusyMeterIsReadAgain();
     void pin2IsPresentedByWritingTheMaximumAsItIs();
     void aWrongPin2CostsOneTryAndIsAnAnswer();
+    void theRightPin2GivesTheTriesBackWhichTheDaemonDoesNotTell();
     void aFailureThatCostsNoTryIsNoWrongPin2();
     void aBlockedPin2IsNotTried();
     void digitsThatAreNoPin2AskNobody_data();
@@ -392,6 +393,21 @@ void TestCharge::aWrongPin2CostsOneTryAndIsAnAnswer()
         QCOMPARE(desk.pinStatus(), QStringLiteral("%1/%2").arg(left == 0 ? 2 : 1).arg(left));
         QCOMPARE(desk.advice().disableMeterMaximum(),
                  int(NotAllowed)); // what an earlier one allowed is taken back
+    }
+}
+
+void TestCharge::theRightPin2GivesTheTriesBackWhichTheDaemonDoesNotTell()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    for (int round = 0; round < 2; ++round) {
+        bool accepted = true;
+        QCOMPARE(desk.sim().verifyPin(SimSecurity::Pin2, "9999", accepted), int(Success));
+        QVERIFY(!accepted);
+        QCOMPARE(desk.pinStatus(), "1/2");
+        QVERIFY(desk.enterPin());
+        QCOMPARE(desk.pinStatus(), "3/3");
+        QCOMPARE(desk.fake.answers["SimManager"]["Retries"], retries(2));
     }
 }
 
