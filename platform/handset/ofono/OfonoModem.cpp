@@ -433,11 +433,12 @@ void OfonoModem::setCallProperty(Call &call, const QString &name, const QVariant
         if (call.reported.number == QLatin1String("withheld"))
             call.reported.number.clear();
     } else if (QString text; name == QLatin1String("StartTime") && properties.take(told, value, text)) {
+        // A daemon that was started after the call says the first second that there is: it does not know.
         const QDateTime start = QDateTime::fromString(text, Qt::ISODate);
-        if (start.isValid())
-            call.reported.connectedWallMs = start.toMSecsSinceEpoch();
-        else
+        if (!start.isValid())
             properties.warn(told);
+        else if (start.toMSecsSinceEpoch() > 0)
+            call.reported.connectedWallMs = start.toMSecsSinceEpoch();
     }
 }
 

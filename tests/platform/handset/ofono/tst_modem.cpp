@@ -95,6 +95,8 @@ void TestModem::aCallThatIsFoundHasItsStart_data()
                                           << " 1795370400000";
     QTest::newRow("none") << ""
                           << "";
+    QTest::newRow("one that is no time") << "1970-01-01T00:00:00+0000"
+                                         << ""; // of a daemon that came after the call
 }
 
 void TestModem::aCallThatIsFoundHasItsStart()
