@@ -402,13 +402,16 @@ void OfonoModem::endVoice()
         emit callGone(path);
 }
 
+// One that is connected when it is first told has been going on: the daemon has found it itself.
 void OfonoModem::callAdded(const QString &path, const QVariantMap &values, bool isFound)
 {
+    const bool isNew = !calls.contains(path);
     Call &call = calls[path];
     call.reported.id = path;
     for (auto value = values.begin(); value != values.end(); ++value)
         setCallProperty(call, value.key(), value.value());
-    call.reported.isFound = isFound;
+    call.reported.isFound =
+        isFound || (isNew && (call.phase == CallPhase::Active || call.phase == CallPhase::Held));
     report(call);
 }
 

@@ -34,6 +34,7 @@ private slots:
     void aCallThatIsFoundHasItsStart_data();
     void aCallThatIsFoundHasItsStart();
     void aCallThatIsFoundRingingIsSeenToBeConnected();
+    void aCallThatTheDaemonHasFoundIsFound();
     void aWithheldNumberIsNone();
     void twoCallsAreFollowedEachByItself();
     void aCallOverBeforeItIsRemovedEndsOnce();
@@ -122,6 +123,17 @@ void TestModem::aCallThatIsFoundRingingIsSeenToBeConnected()
     QTRY_COMPARE(desk.heard->last(), "voicecall01 incoming 5550123 found");
     desk.fake.setCall(one, "State", "active");
     QTRY_COMPARE(desk.heard->last(), "voicecall01 active 5550123");
+}
+
+void TestModem::aCallThatTheDaemonHasFoundIsFound()
+{
+    OfonoDesk desk;
+    desk.fake.setInterfaces({"VoiceCallManager"});
+    desk.start();
+    QTRY_VERIFY(desk.fake.asked.contains("VoiceCallManager.GetCalls"));
+    desk.fake.addCall(one, callIn("active")); // after it was asked
+    desk.fake.setCall(one, "State", "held");
+    QTRY_COMPARE(desk.heard->told, QStringList({"voicecall01 active 5550123 found", "voicecall01 held 5550123"}));
 }
 
 void TestModem::aWithheldNumberIsNone()
