@@ -4,10 +4,8 @@
 #include "ofono/OfonoProxies.h"
 
 #include <QtCore/QDateTime>
-#include <QtCore/QTimer>
 #include <QtDBus/QDBusMetaType>
 #include <QtDBus/QDBusPendingReply>
-#include <QtDBus/QDBusServiceWatcher>
 
 #include <algorithm>
 #include <array>
@@ -19,9 +17,7 @@ namespace {
 
 using live::CallPhase;
 
-constexpr auto service = "org.ofono";
-constexpr auto localPath = "/org/freedesktop/DBus/Local";
-constexpr auto localInterface = "org.freedesktop.DBus.Local";
+constexpr auto serviceName = "org.ofono";
 
 struct Signal {
     const char *interface;
@@ -48,12 +44,12 @@ constexpr std::array heardSignals{
 
 QString fullName(const char *interface)
 {
-    return QLatin1String(service) + QLatin1Char('.') + QLatin1String(interface);
+    return QLatin1String(serviceName) + QLatin1Char('.') + QLatin1String(interface);
 }
 
 QString shortName(const QString &interface)
 {
-    return interface.mid(static_cast<qsizetype>(qstrlen(service)) + 1);
+    return interface.mid(static_cast<qsizetype>(qstrlen(serviceName)) + 1);
 }
 
 std::optional<CallPhase> phaseOf(const QString &state)
@@ -103,82 +99,43 @@ QString pathOf(const QVariant &argument)
 
 } // namespace
 
-OfonoModem::OfonoModem(int patienceMs)
-    : patience(patienceMs)
-    , bus(QString())
+OfonoModem::OfonoModem(const live::Patience &howPatient)
+    : patience(howPatient)
+    , service(QLatin1String(serviceName), live::systemBusAddress(), howPatient.reconnectMs)
 {
     qDBusRegisterMetaType<Object>();
     qDBusRegisterMetaType<Objects>();
+    connect(&service, &live::BusDaemon::appeared, this, &OfonoModem::appeared);
+    connect(&service, &live::BusDaemon::vanished, this, &OfonoModem::vanished);
 }
 
-OfonoModem::~OfonoModem()
-{
-    QDBusConnection::disconnectFromBus(busName);
-}
-
-// --- the bus and the daemon
+// --- the daemon
 
 void OfonoModem::start()
 {
-    connectBus();
+    service.start();
 }
 
-// A connection of its own: one that has been cut can be made anew.
-void OfonoModem::connectBus()
+void OfonoModem::appeared()
 {
-    static int number = 0;
-    busName = QStringLiteral("kav-ofono-%1").arg(++number);
-    bus = QDBusConnection::connectToBus(QDBusConnection::SystemBus, busName);
-    if (!bus.isConnected()) {
-        QDBusConnection::disconnectFromBus(busName);
-        QTimer::singleShot(busIntervalMs, this, &OfonoModem::connectBus);
-        return;
-    }
-    busLife = std::make_unique<QObject>();
-    bus.connect(QString(), QLatin1String(localPath), QLatin1String(localInterface), QStringLiteral("Disconnected"),
-                this, SLOT(busIsGone()));
-    auto *const watcher = new QDBusServiceWatcher(QLatin1String(service), bus,
-                                                  QDBusServiceWatcher::WatchForOwnerChange, busLife.get());
-    connect(watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
-            [this](const QString &, const QString &, const QString &name) { setOwner(name); });
-    QDBusMessage ask = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
-    ask << QString::fromLatin1(service);
-    whenAnswered(bus.asyncCall(ask, patience), busLife.get(), [this](const QDBusPendingReply<QString> &answer) {
-        if (!answer.isError())
-            setOwner(answer.value());
-    });
-}
-
-void OfonoModem::busIsGone()
-{
-    setOwner({});
-    busLife.reset();
-    QDBusConnection::disconnectFromBus(busName);
-    QTimer::singleShot(busIntervalMs, this, &OfonoModem::connectBus);
-}
-
-void OfonoModem::setOwner(const QString &name)
-{
-    if (name == owner)
-        return;
-    if (!owner.isEmpty()) {
-        subscribe(false);
-        serviceLife.reset();
-        modems.clear();
-        choose();
-    }
-    owner = name;
-    if (owner.isEmpty())
-        return;
+    owner = service.owner();
     serviceLife = std::make_unique<QObject>();
     subscribe(true);
     askForModems();
 }
 
+void OfonoModem::vanished()
+{
+    subscribe(false);
+    serviceLife.reset();
+    modems.clear();
+    choose();
+    owner.clear();
+}
+
 void OfonoModem::subscribe(bool on)
 {
+    QDBusConnection bus = service.bus();
     for (const Signal &signal : heardSignals) {
         const QString interface = fullName(signal.interface);
         const QString name = QLatin1String(signal.name);
@@ -493,8 +450,9 @@ int OfonoModem::dial(const QString &number)
         return NotAvailable;
     if (!isDialable(number))
         return InvalidArgument;
-    sayWhenRefused(proxy<OrgOfonoVoiceCallManagerInterface>()->Dial(number, QString()),
-                   QStringLiteral("The telephone does not dial: %1."));
+    const auto manager = proxy<OrgOfonoVoiceCallManagerInterface>();
+    manager->setTimeout(patience.dialingMs);
+    sayWhenRefused(manager->Dial(number, QString()), QStringLiteral("The telephone does not dial: %1."));
     return Success;
 }
 

@@ -1,20 +1,18 @@
 // A modem behind oFono.
 #pragma once
 
+#include "live/BusDaemon.h"
 #include "live/Modem.h"
 #include "ofono/PropertyReader.h"
 #include "ofono/Types.h"
 
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
-#include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
-#include <QtDBus/QDBusPendingCall>
+#include <QtDBus/QDBusPendingCallWatcher>
 
 #include <functional>
 #include <memory>
-
-class QDBusServiceWatcher;
 
 namespace handset::ofono {
 
@@ -26,14 +24,7 @@ class OfonoModem final : public live::Modem
     Q_OBJECT
 
 public:
-    /// As D-Bus itself has it.
-    static constexpr int usualPatienceMs = 25'000;
-    /// How long to wait before the bus is looked for once more, where there is none.
-    static constexpr int busIntervalMs = 5'000;
-
-    /// An answer that has not come after `patienceMs` will not come.
-    explicit OfonoModem(int patienceMs = usualPatienceMs);
-    ~OfonoModem() override;
+    explicit OfonoModem(const live::Patience &howPatient = {});
 
     QString daemon() const override { return QStringLiteral("oFono"); }
     live::ModemState state() const override;
@@ -48,8 +39,8 @@ public:
     template <typename Proxy>
     std::unique_ptr<Proxy> proxy(const QString &path = {}) const
     {
-        auto made = std::make_unique<Proxy>(owner, path.isEmpty() ? current : path, bus);
-        made->setTimeout(patience);
+        auto made = std::make_unique<Proxy>(owner, path.isEmpty() ? current : path, service.bus());
+        made->setTimeout(patience.answerMs);
         return made;
     }
     PropertyReader &reader() { return properties; }
@@ -73,7 +64,6 @@ signals:
 
 private slots:
     void heard(const QDBusMessage &signal);
-    void busIsGone();
 
 private:
     struct Known {
@@ -99,8 +89,8 @@ private:
         QString interface6;
     };
 
-    void connectBus();
-    void setOwner(const QString &name);
+    void appeared();
+    void vanished();
     void subscribe(bool on);
     void askForModems();
 
@@ -136,10 +126,8 @@ private:
 
     void sayWhenRefused(const QDBusPendingCall &asked, const QString &what);
 
-    const int patience;
-    QDBusConnection bus;
-    QString busName;
-    std::unique_ptr<QObject> busLife;     ///< of what belongs to this connection to the bus
+    const live::Patience patience;
+    live::BusDaemon service;
     std::unique_ptr<QObject> serviceLife; ///< of what is asked of this daemon; so the next three
     std::unique_ptr<QObject> voice;
     std::unique_ptr<QObject> data;

@@ -37,9 +37,11 @@ public:
     static inline const QString two = FakeOfono::modem + QStringLiteral("/voicecall02");
     static inline const QString context = FakeOfono::modem + QStringLiteral("/context1");
 
-    explicit OfonoDesk(int patienceMs = ofono::OfonoModem::usualPatienceMs)
+    static constexpr live::Patience quickToReconnect{5'000, 60'000, 100};
+
+    explicit OfonoDesk(const live::Patience &howPatient = quickToReconnect)
         : fake(systemBus().address())
-        , patience(patienceMs)
+        , patience(howPatient)
     {}
     /// The daemon is there before the modem is looked for.
     void start();
@@ -50,7 +52,7 @@ public:
     std::unique_ptr<Listener> heard;
 
 private:
-    int patience;
+    live::Patience patience;
 };
 
 QVariantMap callIn(const char *state, const char *number = "5550123");
