@@ -31,7 +31,7 @@ QVariant retries(int pin2)
 class Desk
 {
 public:
-    explicit Desk(const QStringList &interfaces = all, int longestWaitMs = ofono::CallMeter::usualWaitMs)
+    explicit Desk(const QStringList &interfaces = all, int waitMs = ofono::CallMeter::usualWaitMs)
         : fake(systemBus().address())
     {
         fake.answers["CallMeter"] = {{"CallMeter", 3U},
@@ -46,7 +46,7 @@ public:
         if (!opened.ledger)
             qFatal("%s", qPrintable(opened.error));
         phone = std::make_unique<ofono::OfonoHandset>(std::move(opened.ledger), clock,
-                                                      std::make_unique<ofono::OfonoModem>(), longestWaitMs);
+                                                      std::make_unique<ofono::OfonoModem>(), waitMs);
     }
     /// The daemon has told all that there is.
     bool isReady()
