@@ -86,8 +86,8 @@ Line::Line(std::shared_ptr<handset::Handset> opened)
     : owner(std::move(opened))
     , simulated(dynamic_cast<SimulatedHandset *>(owner.get()))
 {
-    if (simulated)
-        connect(simulated, &SimulatedHandset::changed, this, &Line::changed);
+    if (auto *const tells = dynamic_cast<QObject *>(owner.get()))
+        connect(tells, SIGNAL(changed()), this, SIGNAL(changed()));
 }
 
 void Line::setNumber(const QString &number)
@@ -198,7 +198,7 @@ QString Line::describeState() const
 
 QString Line::recordNotice() const
 {
-    if (!simulated || !simulated->owesRecord())
+    if (!owner || !owner->owesRecord())
         return {};
     return tr("The call log cannot be written. The end of a call or a packet-data session is kept in memory, and "
               "written as soon as it can be.");

@@ -64,6 +64,7 @@ public:
         if (behind)
             behind->setChangeListener(listener);
     }
+    bool owesRecord() const override { return behind && behind->owesRecord(); }
     void changedElsewhere() override
     {
         if (behind)

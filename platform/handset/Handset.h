@@ -38,6 +38,8 @@ public:
     /// has begun or ended, something was set or reset. It is copied, takes the place of the one before, and must not end
     /// the handset. Null for nobody.
     virtual void setChangeListener(const std::function<void()> & /*listener*/) {}
+    /// An end of a call or session is still to be written, as the call log cannot be: it is tried again by itself.
+    virtual bool owesRecord() const { return false; }
     /// Another process has changed something; not necessarily of this state directory.
     virtual void changedElsewhere() {}
 };

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int startMilliseconds = 30'000;
+constexpr int startMilliseconds = 60'000;
 
 } // namespace
 

@@ -6,6 +6,12 @@
 
 #include <QtTest/QTest>
 
+// What is waited for comes at once, or on a busy machine much later. Qt waits five seconds.
+#undef QTRY_VERIFY
+#undef QTRY_COMPARE
+#define QTRY_VERIFY(expression) QTRY_VERIFY_WITH_TIMEOUT(expression, 60'000)
+#define QTRY_COMPARE(actual, expected) QTRY_COMPARE_WITH_TIMEOUT(actual, expected, 60'000)
+
 /// Says that the test class TEST is the group of this file, and under which application object it runs:
 /// QCoreApplication, QGuiApplication, QApplication, NoApplication, or a class of the test's own that is made from
 /// argc and argv and lives until the group has ended.

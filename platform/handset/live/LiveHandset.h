@@ -54,7 +54,7 @@ public:
     calllog::Charging &charging() { return charges; }
     bool isRecording() const { return ledger->record(); }
     /// An end, or a whole call, is still to be written.
-    bool owesRecord() const;
+    bool owesRecord() const override;
 
 signals:
     /// Calls, connections, owesRecord() or isRecording() have changed, or a figure otherwise than by the passing of time.

@@ -88,7 +88,7 @@ public:
     /// Whether the end of a call or a packet-data session could not be written to the call log yet. It is kept in
     /// memory, counts in every figure, and is written with the next operation that writes. Until then those that write
     /// answer StorageFailed: a call can be dialed and can ring, but is not connected, and no session begins.
-    bool owesRecord() const;
+    bool owesRecord() const override;
     /// Whether calls and sessions begin and end in this process. Where another one records the line is connected while
     /// a call of that one is, else idle.
     bool isRecording() const;

@@ -9,6 +9,8 @@
 
 #include <poll.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr qsizetype mostKept = 4096; // bytes of a message that is kept to be sent again
@@ -191,14 +193,17 @@ void QCopConnection::takeAnswer(DBusMessage *message)
 QCopWire::Message QCopConnection::messageOf(const QByteArray &channel, const QByteArray &message,
                                             const QByteArray &data)
 {
-    if (!last || channel != lastChannel || message != lastMessage || data != lastData) {
+    const auto isIt = [&](const Kept &one) {
+        return one.wire && one.channel == channel && one.message == message && one.data == data;
+    };
+    auto found = std::find_if(kept.begin(), kept.end(), isIt);
+    if (found == kept.end()) {
         QCopWire::Message made = QCopWire::make(channel, message, data);
         if (!made || channel.size() + message.size() + data.size() > mostKept)
             return made;
-        last = std::move(made);
-        lastChannel = channel;
-        lastMessage = message;
-        lastData = data;
+        found = kept.begin() + static_cast<std::ptrdiff_t>(oldest);
+        oldest = (oldest + 1) % kept.size();
+        *found = {std::move(made), channel, message, data};
     }
-    return QCopWire::Message(dbus_message_copy(last.get()));
+    return QCopWire::Message(dbus_message_copy(found->wire.get()));
 }

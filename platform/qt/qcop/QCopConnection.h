@@ -7,6 +7,7 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QObject>
 
+#include <array>
 #include <chrono>
 #include <memory>
 
@@ -78,8 +79,13 @@ private:
     quint32 answered = 0; // the last one that was
     bool over = false;
 
-    QCopWire::Message last; // never sent itself
-    QByteArray lastChannel;
-    QByteArray lastMessage;
-    QByteArray lastData;
+    /// What has been sent and may be again.
+    struct Kept {
+        QCopWire::Message wire; // never sent itself
+        QByteArray channel;
+        QByteArray message;
+        QByteArray data;
+    };
+    std::array<Kept, 4> kept;
+    std::size_t oldest = 0; // of them
 };

@@ -22,7 +22,7 @@ public:
     /// "holding", or why it does not.
     QByteArray firstLine()
     {
-        while (!process.canReadLine() && process.waitForReadyRead(30000)) {
+        while (!process.canReadLine() && process.waitForReadyRead(60000)) {
         }
         return process.readLine().trimmed();
     }

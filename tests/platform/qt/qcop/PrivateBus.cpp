@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int startLimitMs = 30000;
+constexpr int startLimitMs = 60000;
 
 } // namespace
 
