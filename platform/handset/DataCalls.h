@@ -24,7 +24,7 @@ public:
     /// Brings the total up to date with a running data call; without one it does nothing. It changes no figure.
     virtual int refreshTotals() = 0;
     /// The time of all data calls since the last reset, in whole seconds, the running one included; 0 to 4294967295,
-    /// where it stops.
+    /// where it saturates.
     virtual int totalDuration(quint32 &seconds) = 0;
     /// The status byte: a CallStatus, or whatever else the handset has, 0 to 255; Idle after a start. A voice call
     /// leaves it alone.

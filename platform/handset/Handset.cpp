@@ -28,7 +28,7 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcHandset, "kav.handset")
 
-/// One that others do without: what it needs is loaded with it alone.
+/// A backend: built in (`open`), or in a library that is loaded on demand (`library`).
 struct Backend {
     const char *name;
     Opened (*open)(const Settings &settings); ///< is given a clock; null for one in a library

@@ -41,8 +41,8 @@ public:
     virtual int sessions(DataSessions &sessions) = 0;
     /// The duration of all sessions since resetTotalDuration().
     virtual int totalDuration(CallTime &duration) = 0;
-    /// Bytes of all sessions since resetTotalBytes(), each 0 to 4294967295, where it stops; `total` is both ways
-    /// together and stops by itself.
+    /// Bytes of all sessions since resetTotalBytes(), each 0 to 4294967295, where it saturates; `total` is both ways
+    /// together and saturates by itself.
     virtual int totalBytes(quint32 &total, quint32 &received, quint32 &sent) = 0;
     /// Each zeroes its own total and nothing else; the sessions keep their figures.
     virtual int resetTotalDuration() = 0;

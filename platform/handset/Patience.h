@@ -5,9 +5,8 @@ namespace handset {
 
 /// Milliseconds.
 struct Patience {
-    int opening = 5000; ///< by open() in all: for who has the state directory, or the files in it, for himself
-    int operation =
-        1000; ///< by each operation, for who writes: nobody looks at a screen that stands still for longer
+    int opening = 5000;   ///< open() waits this long for other processes, in all
+    int operation = 1000; ///< an operation waits this long for a writer; more would freeze the screen
 };
 
 } // namespace handset

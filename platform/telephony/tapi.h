@@ -76,7 +76,7 @@ int TAPI_LOG_ResetAnsweredCallsCost(void);
 typedef struct TAPI_GPRS_SessionRecord {
     uint8_t sessionId;      /**< 1 to 255; 0 marks an empty slot */
     uint8_t reserved[3];    /**< 0 */
-    uint32_t bytesSent;     /**< 0 to 4294967295, where it stops */
+    uint32_t bytesSent;     /**< 0 to 4294967295, where it saturates */
     uint32_t bytesReceived; /**< likewise */
     uint32_t hours;         /**< of the session's duration, 0 to 4294967295 */
     uint8_t minutes;        /**< 0 to 59 */
@@ -95,7 +95,7 @@ typedef struct TAPI_GPRS_SessionInfo {
 int TAPI_GPRS_GetAllSessionInfo(TAPI_GPRS_SessionInfo *info);
 /** The duration of all sessions since TAPI_GPRS_ResetTotalDuration(). */
 int TAPI_GPRS_GetTotalDuration(TAPI_CallTime *duration);
-/** Bytes of all sessions since TAPI_GPRS_ResetTotalDataBytes(), each 0 to 4294967295 (where it stops). */
+/** Bytes of all sessions since TAPI_GPRS_ResetTotalDataBytes(), each 0 to 4294967295 (where it saturates). */
 int TAPI_GPRS_GetTotalDataBytes(uint32_t *total, uint32_t *received, uint32_t *sent);
 /** Each zeroes its own total and nothing else; the sessions keep their figures. */
 int TAPI_GPRS_ResetTotalDuration(void);

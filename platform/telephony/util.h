@@ -7,7 +7,7 @@
 extern "C" {
 #endif
 
-/** The time of all data calls since the last reset, in whole seconds, 0 to 4294967295 (where it stops), the running one
+/** The time of all data calls since the last reset, in whole seconds, 0 to 4294967295 (where it saturates), the running one
  * included. */
 int UTIL_GetTotalDuration(uint32_t *seconds);
 

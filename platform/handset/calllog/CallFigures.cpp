@@ -98,8 +98,16 @@ int CallFigures::totalDuration(quint32 &seconds)
 
 int CallFigures::callStatus(quint8 &value)
 {
-    value = dataStatus;
-    return Success;
+    if (ledger.isRecorder()) {
+        value = dataStatus;
+        return Success;
+    }
+    return ledger.ask([&](const Standing &now) {
+        const bool isOn = std::any_of(now.calls.begin(), now.calls.end(),
+                                      [](const RunningCall &call) { return call.kind == CallKind::Data; });
+        value = isOn ? Connected : Idle;
+        return int{Success};
+    });
 }
 
 } // namespace handset::calllog

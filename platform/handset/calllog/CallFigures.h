@@ -44,7 +44,8 @@ public:
     int callStatus(quint8 &value) override;
     int resetTotalDuration() override { return ledger.reset({Total::DataTime}); }
 
-    /// What callStatus() returns.
+    /// What callStatus() returns in the process that records; elsewhere that follows from the rows, which know of a call
+    /// from its connection to its end.
     void setCallStatus(CallStatus status) { dataStatus = status; }
 
 protected:

@@ -213,8 +213,8 @@ bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
     return tables.put(keptUntold, all.join(QLatin1Char(' ')).toUtf8());
 }
 
-// Who does not record what runs cannot know that it still does, unless that has been written lately: the recorder may
-// have ended it and not be able to write that, and where there is none nothing runs.
+// A reader trusts a running row for 10 s after its last write: the recorder may have ended it and be unable to write that.
+// Where there is no recorder nothing runs.
 template <typename Row>
 Moments Ledger::momentsOf(const QList<Own<Row>> &own) const
 {
@@ -239,7 +239,7 @@ bool Ledger::end(QList<Own<Row>> &own, qint64 id)
     return true;
 }
 
-// Rows that somebody has removed: what has ended counts all the same, and at an end what has not ended waits for its own.
+// Adds own rows that somebody has deleted: ended ones are counted without a row; at an end others wait for their own.
 template <typename Row>
 bool Ledger::takeOwn(const QList<Own<Row>> &own, QList<Row> &rows, QList<qint64> &gone, bool isEnd)
 {
@@ -618,6 +618,14 @@ int Ledger::checkpointSession()
     if (const int status = writeOwedSession())
         return status;
     return isSessionRunning() ? transactSessions({}) : int{Success};
+}
+
+bool Ledger::seesSession()
+{
+    if (recording)
+        return isSessionRunning();
+    QList<SessionRow> running;
+    return tables.running(running) && !running.isEmpty();
 }
 
 void Ledger::letGo()

@@ -44,9 +44,11 @@ public:
     /// Whether this process records. When nobody does it takes that over: what was running is closed with what was
     /// written of it, and the card has been off.
     bool record();
-    /// What who wants this process to record is told when it does not: RecordedElsewhere, or StorageFailed when it has
-    /// taken that over and cannot write what another has left.
+    /// Status for an operation that only the recorder may do, in a process that is not it: RecordedElsewhere, or
+    /// StorageFailed where it has taken that over and cannot write what another has left.
     int whyNotRecording() const;
+    /// Whether it does already; takes nothing over.
+    bool isRecorder() const { return recording; }
 
     // --- the call
 
@@ -87,6 +89,8 @@ public:
     int interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts);
     bool isSessionRunning() const { return isAnyRunning(ownSessions); }
     bool owesSession() const { return isAnyOver(ownSessions); }
+    /// Whether one runs, whoever has begun it.
+    bool seesSession();
 
     // --- what is asked: up to now
 
@@ -99,8 +103,7 @@ public:
     /// The `most` sessions that began last, the newest first.
     int sessions(int most, QList<SessionRow> &sessions);
     int sessionTotals(SessionAmounts &amounts);
-    /// What `look` answers of the running calls, and of what calls are charged by and charged to, with what is due on
-    /// the running ones.
+    /// Calls `look` with the running calls, card, tariffs and account as of now; returns what it returns.
     int ask(const std::function<int(const Standing &now)> &look);
     /// The same to look at: as of a new handset when it cannot be read.
     Standing standing();
@@ -136,7 +139,7 @@ public:
 private:
     struct Entry;
 
-    /// What this has begun, as it was written last: its row is what counts, as long as nobody removes that.
+    /// A row that this process has begun, as written last. Used only where somebody has deleted the row.
     template <typename Row>
     struct Own {
         Row row;

@@ -8,7 +8,6 @@ namespace handset::calllog {
 
 namespace {
 
-// SQLite's own sum turns into a floating-point number beyond 2^63 - 1, which is the greater of the two.
 constexpr auto insertCallSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state,"
                                " boot, written_ms, most_ms, tariff, charge, is_last, late)"
                                " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
@@ -46,6 +45,7 @@ constexpr auto sessionTotalsSql = "SELECT (SELECT value FROM session_totals WHER
                                   " " KAV_SESSION_COLUMNS " FROM (SELECT 1) LEFT JOIN sessions ON state = 0";
 #undef KAV_SESSION_COLUMNS
 
+// min() keeps the sum an integer: beyond 2^63 - 1 SQLite's own turns into a floating-point number, which is the greater.
 // These tables are small enough to be walked. The plus signs keep SQLite from looking each key up, for which it would
 // first make a table of the keys, every time.
 constexpr auto addTimesSql = "UPDATE totals SET ms = min(9223372036854775807, ms + ?)"

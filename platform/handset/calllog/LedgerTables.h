@@ -18,7 +18,8 @@ namespace handset::calllog {
 struct Moment {
     qint64 ms = 0;
     QByteArray boot; ///< as Clock::boot()
-    /// How far beyond what is written it is known, in ms, that what runs has gone on until then; 0 to 2^63 - 1.
+    /// At most so many ms after what is written count as running, 0 to 2^63 - 1; limited in a process that does not
+    /// record.
     qint64 reachMs = std::numeric_limits<qint64>::max();
 };
 
@@ -120,7 +121,7 @@ public:
     {}
 
     bool read(Standing &standing);
-    /// What of the state is another than before. Returns without writing where nothing is.
+    /// Writes the card and the charging record where they differ from `before`.
     bool putState(const charging::ChargingState &before, const charging::ChargingState &after);
 
     /// A call that is over, or begins to run; `id` is the new row's.

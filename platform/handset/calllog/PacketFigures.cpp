@@ -88,14 +88,14 @@ int PacketFigures::resetTotalBytes()
 
 bool PacketFigures::isSessionRunning() const
 {
-    return ledger.isSessionRunning();
+    return ledger.seesSession();
 }
 
 int PacketFigures::startSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond)
 {
     if (!isApn(apn))
         return InvalidArgument;
-    if (isSessionRunning())
+    if (ledger.isSessionRunning())
         return WrongState;
     if (const int status = ledger.beginSession(apn, sentPerSecond, receivedPerSecond, sessionId))
         return status;
@@ -108,7 +108,7 @@ int PacketFigures::stopSession()
 {
     const int status = ledger.endSession(sessionId);
     if (status == WrongState)
-        return status;
+        return ledger.record() ? status : ledger.whyNotRecording();
     tellUpdate();
     return Success;
 }

@@ -39,7 +39,7 @@ public:
     int startSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond);
     /// Ends it, also where the call log cannot be written: then that is owed to it. WrongState without one.
     int stopSession();
-    /// Of this process.
+    /// Whoever has begun it.
     bool isSessionRunning() const;
     /// Tells the update listener when the running session has gone on for a second since it was told last.
     void tick();

@@ -432,7 +432,7 @@ QString StateDirectory::notice() const
     if (const QString who = whoElseMayWrite(status); !who.isEmpty())
         return QStringLiteral("The state directory \"%1\" %2, who can change what is kept in it.").arg(path, who);
     struct stat above = {};
-    if (::fstatat(directoryLock, "..", &above, 0) != 0 || !maySomebodyElseRename(above))
+    if (::stat(encoded(path + QStringLiteral("/..")).constData(), &above) != 0 || !maySomebodyElseRename(above))
         return {};
     return QStringLiteral("The state directory \"%1\" lies in one that may be written by other users, who can put "
                           "another in its place.")

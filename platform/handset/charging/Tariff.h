@@ -40,7 +40,7 @@ struct Tariff {
     /// Every element is in its range.
     bool isValid() const;
 
-    /// What the leg costs: 0 to maxUnits, where it stops. Never less for a longer leg or one with more segments.
+    /// What the leg costs: 0 to maxUnits, where it saturates. Never less for a longer leg or one with more segments.
     quint32 units(const CallLeg &leg) const;
 
     /// Each leg alone, added up to at most maxUnits.

@@ -195,7 +195,7 @@ void SimulatedHandset::Innards::tick()
 {
     if (!records) {
         if (ledger->record())
-            tellHere();
+            tellChange();
         return;
     }
     const bool unitIsDue = isUnitDue();

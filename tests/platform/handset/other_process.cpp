@@ -175,6 +175,7 @@ public:
             {"sessions", [&] { return sessions(); }},
             {"line", [&] { return QStringLiteral("%1 %2").arg(int(phone.lineState())).arg(phone.connectedMs()); }},
             {"dial", [&] { return number(phone.dial(word, CallKind::Voice)); }},
+            {"dial-data", [&] { return number(phone.dial(word, CallKind::Data)); }},
             {"connect", [&] { return number(phone.remoteAnswer()); }},
             {"hang-up", [&] { return number(phone.hangUp()); }},
             {"checkpoint", [&] { return number(phone.checkpoint()); }},

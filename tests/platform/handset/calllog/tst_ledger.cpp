@@ -3,6 +3,7 @@
 #include "handset/AdviceOfCharge.h"
 #include "handset/CallLog.h"
 #include "handset/CallService.h"
+#include "handset/DataCalls.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/OtherProcess.h"
 #include "handset/PacketData.h"
@@ -108,6 +109,8 @@ private slots:
     void theRunningCallIsCountedUpToNowEverywhere();
     void theRunningSessionIsCountedUpToNowEverywhere();
     void theLineIsSeenEverywhere();
+    void theDataCallStatusIsSeenEverywhere();
+    void aSessionIsSeenEverywhereAndStoppedByItsRecorderAlone();
     void aResetElsewhereZeroesWhatWasCountedAndTheRestCounts();
     void aResetOfTheMeterElsewhereIsOne();
     void aLowerLimitElsewhereEndsTheCall();
@@ -395,6 +398,38 @@ void TestLedger::whatCannotBeClosedIsNotCountedOn()
     QCOMPARE(file.calls().value(0).state, int(CallState::Interrupted));
 }
 
+void TestLedger::theDataCallStatusIsSeenEverywhere()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    const auto status = [&] {
+        quint8 value = 99;
+        return two.phone.data().callStatus(value) == Success ? int{value} : -1;
+    };
+    QCOMPARE(status(), int(DataCalls::Idle));
+    QVERIFY(two.dial());
+    QCOMPARE(status(), int(DataCalls::Idle)); // a voice call leaves it alone
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(two.recorder->ask("dial-data 5"), QByteArray("0"));
+    QCOMPARE(two.recorder->ask("connect"), QByteArray("0"));
+    QCOMPARE(status(), int(DataCalls::Connected));
+    QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
+    QCOMPARE(status(), int(DataCalls::Idle));
+}
+
+void TestLedger::aSessionIsSeenEverywhereAndStoppedByItsRecorderAlone()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(!two.phone->packets().isSessionRunning());
+    QCOMPARE(two.recorder->ask("start-session"), QByteArray("0"));
+    QVERIFY(two.phone->packets().isSessionRunning());
+    QCOMPARE(two.phone->packets().stopSession(), int(RecordedElsewhere));
+    QVERIFY(two.phone->packets().isSessionRunning());
+}
+
 void TestLedger::whoIsLeftRecordsWhenTheRecorderIsKilled()
 {
     const StateDir state;
@@ -403,6 +438,9 @@ void TestLedger::whoIsLeftRecordsWhenTheRecorderIsKilled()
     QCOMPARE(two.phone->dial(QStringLiteral("1"), CallKind::Voice), int(RecordedElsewhere));
     QCOMPARE(two.phone->ring(QStringLiteral("1")), int(RecordedElsewhere));
     QCOMPARE(two.phone->hangUp(), int(RecordedElsewhere));
+    QCOMPARE(two.phone->answer(), int(RecordedElsewhere));
+    QCOMPARE(two.phone->remoteAnswer(), int(RecordedElsewhere));
+    QCOMPARE(two.phone->packets().stopSession(), int(RecordedElsewhere));
     QCOMPARE(two.phone->packets().startSession("x", 1, 1), int(RecordedElsewhere));
     QVERIFY(two.dial());
     two.pass(7 * second);
@@ -522,9 +560,8 @@ void TestLedger::aWallClockThatIsSetByADayChangesNoDuration()
 void TestLedger::anOlderLogIsMigratedWhileAReaderWaits_data()
 {
     QTest::addColumn<int>("version");
-    QTest::newRow("of the first version") << 1;
-    QTest::newRow("of the second version") << 2;
-    QTest::newRow("of the third version") << 3;
+    for (int version = 1; version < static_cast<int>(calllog::migrations().size()); ++version)
+        QTest::addRow("of version %d", version) << version;
 }
 
 // The first process takes the directory for itself, and the others wait for it.

@@ -120,6 +120,9 @@ bool isOnePatience(const Phone &phone)
 
 } // namespace
 
+// What a user waits at most, who has not set it.
+static_assert(Patience{}.opening == 5000);
+
 class TestWaiting : public QObject
 {
     Q_OBJECT
