@@ -509,7 +509,7 @@ void TestSeveralAtOnce::randomCallsAreThoseOfTheModel()
     Books books;
     Model model;
     for (int step = 0; step < steps; ++step) {
-        const quint32 dice = random.bounded(100);
+        const quint32 dice = random.bounded(100u);
         const QList<qint64> running = model.runs.keys();
         if (dice < 20 && running.size() < mostCalls) {
             PastCall call = callOf(random.bounded(2) ? CallDirection::Dialed : CallDirection::Answered,

@@ -442,7 +442,7 @@ void TestModem::aConnectionThatIsMadeAgainBeginsAnew()
     desk.openAndSettle();
     desk.fake.addBearer(bearer,
                         {{QStringLiteral("Connected"), false}, {QStringLiteral("ReloadStatsSupported"), true}});
-    for (const quint64 round : {1, 2}) {
+    for (const quint64 round : {quint64{1}, quint64{2}}) {
         desk.fake.set(bearer, QStringLiteral("Bearer"),
                       {{QStringLiteral("Connected"), true}, {QStringLiteral("Stats"), stats(0, 0, round)}});
         desk.settle();
