@@ -114,6 +114,16 @@ function(kav_compile_together target)
         UNITY_BUILD_CODE_BEFORE_INCLUDE "#pragma GCC diagnostic ignored \"${besides_the_point}\"")
 endfunction()
 
+# kav_generated(NAME FILE ...)
+# Files of the folder that a tool writes: it keeps no rules of ours. The target kav_generated has all of them made, for
+# who reads the sources and builds nothing (scripts/check-clang).
+add_custom_target(kav_generated)
+function(kav_generated name)
+    set_source_files_properties(${ARGN} PROPERTIES COMPILE_OPTIONS -w SKIP_UNITY_BUILD_INCLUSION ON)
+    add_custom_target(kav_generated_${name} DEPENDS ${ARGN})
+    add_dependencies(kav_generated kav_generated_${name})
+endfunction()
+
 # kav_shared_library(TARGET [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
 # A shared object under its own name and soname.
 function(kav_shared_library target)

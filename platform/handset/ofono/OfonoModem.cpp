@@ -374,11 +374,9 @@ void OfonoModem::callAdded(const QString &path, const QVariantMap &values, bool 
 
 void OfonoModem::callRemoved(const QString &path)
 {
-    const auto call = calls.constFind(path);
-    if (call == calls.constEnd())
+    if (!calls.contains(path))
         return;
-    const Call ended = *call;
-    calls.erase(call);
+    const Call ended = calls.take(path);
     emit callGone(path);
     sayWhyNotConnected(ended);
 }
