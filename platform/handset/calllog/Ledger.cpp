@@ -136,12 +136,11 @@ int Ledger::changed(int status) const
 
 int Ledger::find(Traces &traces)
 {
-    for (const TotalPlace &place : costPlaces) {
-        qint64 units = 0;
-        if (!tables.totalAt(place.total, momentsOf(ownCalls), units))
-            return database->status(false);
-        traces.costs = traces.costs || units > 0;
-    }
+    // As written: what is due on a running call comes to the costs and to the card together, and is on neither yet.
+    const std::optional<qint64> units = database->number(QStringLiteral("SELECT max(units) FROM costs"));
+    if (!units)
+        return database->status(false);
+    traces.costs = *units > 0;
     QByteArray checked;
     if (!tables.kept(QString::fromLatin1(keptChecked), checked))
         return database->status(false);

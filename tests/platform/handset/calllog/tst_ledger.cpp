@@ -109,6 +109,7 @@ private slots:
     void theRunningCallIsCountedUpToNowEverywhere();
     void theRunningSessionIsCountedUpToNowEverywhere();
     void theLineIsSeenEverywhere();
+    void whoOpensWhileTheFirstUnitIsDueLeavesTheCardAlone();
     void theDataCallStatusIsSeenEverywhere();
     void aSessionIsSeenEverywhereAndStoppedByItsRecorderAlone();
     void aResetElsewhereZeroesWhatWasCountedAndTheRestCounts();
@@ -396,6 +397,22 @@ void TestLedger::whatCannotBeClosedIsNotCountedOn()
     QCOMPARE(two.phone->dial(QStringLiteral("6"), CallKind::Voice), int(Success));
     QCOMPARE(file.calls().value(0).durationMs, 8 * second);
     QCOMPARE(file.calls().value(0).state, int(CallState::Interrupted));
+}
+
+// Nothing has been charged by then: neither the costs nor the card have it.
+void TestLedger::whoOpensWhileTheFirstUnitIsDueLeavesTheCardAlone()
+{
+    const StateDir state;
+    OtherProcess recorder(state.path());
+    QCOMPARE(recorder.firstLine(), QByteArray("holding"));
+    QCOMPARE(recorder.ask("dial 5"), QByteArray("0"));
+    QCOMPARE(recorder.ask("connect"), QByteArray("0"));
+    recorder.ask("advance 12000");
+    const auto clock = std::make_shared<ManualClock>(qint64{1'800'000'000'000});
+    clock->advance(12 * second);
+    const Phone phone(state.path(), clock);
+    QCOMPARE(phone.opened.notice, QString());
+    QCOMPARE(costsOf(phone), QByteArray("1.00 1.00 none"));
 }
 
 void TestLedger::theDataCallStatusIsSeenEverywhere()
