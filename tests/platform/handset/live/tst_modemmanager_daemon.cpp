@@ -65,8 +65,22 @@ private:
     bool isState(const QString &call, int state) { return manager->stateOf(call) == state; }
     bool isCallAdded() { return manager->calls().size() == 1; }
     void leadPhone(const std::function<void(Phone &)> &how) { manager->modem().withPhone(how); }
-    QVariantList reasons(const QString &call) { return manager->heard().values(call, "StateChanged", 2); }
-    QVariantList states(const QString &call) { return manager->heard().values(call, "StateChanged", 1); }
+    QVariantList reasons(const QString &call) { return changes(call, 2); }
+    QVariantList states(const QString &call) { return changes(call, 1); }
+
+    // The daemon may say twice that a call is over, where its look at the modem's calls meets the end.
+    QVariantList changes(const QString &call, int position)
+    {
+        QVariantList found;
+        QVariant state;
+        for (const DaemonSignal &each : std::as_const(manager->heard().all)) {
+            if (each.path != call || each.name != "StateChanged" || state == each.values.value(1))
+                continue;
+            state = each.values.value(1);
+            found.append(each.values.value(position));
+        }
+        return found;
+    }
 
     std::unique_ptr<RealModemManager> manager;
 };
