@@ -32,6 +32,9 @@ struct Plan {
     bool isSpaceTold = false;
     std::array<long, CallCount> counts{};
     long failed = 0;
+    char order[64 << 10] = ""; ///< what is more is left out
+    std::size_t orderLength = 0;
+    std::size_t lastLength = 0; ///< of its last line
 };
 
 Plan plan;
@@ -49,17 +52,20 @@ bool isUnder(const char *path)
            (path[length] == '/' || path[length] == '\0');
 }
 
+// Empty when the system does not say.
+void findPath(int fd, char (&path)[PATH_MAX])
+{
+    char link[64];
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
+    path[std::max<ssize_t>(::readlink(link, path, sizeof path - 1), 0)] = '\0';
+}
+
 bool isUnder(int fd)
 {
     if (plan.directory[0] == '\0' || fd < 0)
         return false;
-    char link[64];
     char path[PATH_MAX];
-    std::snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
-    const ssize_t length = ::readlink(link, path, sizeof path - 1);
-    if (length < 0)
-        return false;
-    path[length] = '\0';
+    findPath(fd, path);
     return isUnder(path);
 }
 
@@ -80,6 +86,54 @@ bool fails(Call call, File file, bool *half = nullptr)
         *half = plan.error == 0;
     errno = plan.error;
     return plan.error != 0;
+}
+
+const char *nameIn(const char *path)
+{
+    const char *name = path + std::strlen(plan.directory);
+    return *name == '/' ? name + 1 : ".";
+}
+
+/// One line of what was done, in its order; the same once more is not another one.
+void note(const char *call, const char *path, const char *other = nullptr)
+{
+    if (!isUnder(path))
+        return;
+    char *const line = plan.order + plan.orderLength;
+    const std::size_t room = sizeof plan.order - plan.orderLength;
+    const int written = std::snprintf(line, room, "%s %s%s%s\n", call, nameIn(path), other ? " " : "",
+                                      other && isUnder(other) ? nameIn(other) : "");
+    const auto length = static_cast<std::size_t>(std::max(written, 0));
+    const bool isSame = length <= plan.lastLength && std::strncmp(line - plan.lastLength, line, length) == 0;
+    if (length >= room || isSame) {
+        *line = '\0';
+        return;
+    }
+    plan.orderLength += length;
+    plan.lastLength = length;
+}
+
+/// A call that has failed is none.
+int noted(int result, const char *call, const char *path, const char *other = nullptr)
+{
+    const int error = errno;
+    if (result == 0)
+        note(call, path, other);
+    errno = error;
+    return result;
+}
+
+template <typename Result>
+Result notedOn(int fd, Result result, const char *call)
+{
+    const int error = errno;
+    char path[PATH_MAX];
+    if (result >= 0 && plan.directory[0] != '\0') {
+        findPath(fd, path);
+        note(call, path);
+    }
+    errno = error;
+    return result;
 }
 
 /// What may be written of `bytes`; 0 with errno when the disk is full.
@@ -167,6 +221,11 @@ long kavFaultsCount(const char *call)
     return named == CallCount ? 0 : plan.counts[named];
 }
 
+const char *kavFaultsOrder()
+{
+    return plan.order;
+}
+
 long kavFaultsFailed()
 {
     return plan.failed;
@@ -214,7 +273,7 @@ ssize_t write(int fd, const void *bytes, std::size_t count)
     if (fails(Write, fd, &half) ||
         (count > 0 && permitted(fd, count, ::lseek64(fd, 0, SEEK_CUR) + static_cast<off64_t>(count)) == 0))
         return -1;
-    return original(fd, bytes, halfOf(half, count));
+    return notedOn(fd, original(fd, bytes, halfOf(half, count)), "write");
 }
 
 ssize_t pwrite64(int fd, const void *bytes, std::size_t count, off64_t at)
@@ -223,19 +282,19 @@ ssize_t pwrite64(int fd, const void *bytes, std::size_t count, off64_t at)
     bool half = false;
     if (fails(Pwrite, fd, &half) || (count > 0 && permitted(fd, count, at + static_cast<off64_t>(count)) == 0))
         return -1;
-    return original(fd, bytes, halfOf(half, count), at);
+    return notedOn(fd, original(fd, bytes, halfOf(half, count), at), "write");
 }
 
 int fsync(int fd)
 {
     static const auto original = next(&fsync, "fsync");
-    return fails(Fsync, fd) ? -1 : original(fd);
+    return fails(Fsync, fd) ? -1 : notedOn(fd, original(fd), "fsync");
 }
 
 int fdatasync(int fd)
 {
     static const auto original = next(&fdatasync, "fdatasync");
-    return fails(Fsync, fd) ? -1 : original(fd);
+    return fails(Fsync, fd) ? -1 : notedOn(fd, original(fd), "fsync");
 }
 
 int sync_file_range(int fd, off64_t at, off64_t count, unsigned flags)
@@ -247,7 +306,9 @@ int sync_file_range(int fd, off64_t at, off64_t count, unsigned flags)
 int ftruncate64(int fd, off64_t length) noexcept
 {
     static const auto original = next(&ftruncate64, "ftruncate64");
-    return fails(Ftruncate, fd) || (length > 0 && permitted(fd, 1, length) == 0) ? -1 : original(fd, length);
+    return fails(Ftruncate, fd) || (length > 0 && permitted(fd, 1, length) == 0)
+               ? -1
+               : notedOn(fd, original(fd, length), "write");
 }
 
 int ftruncate(int fd, off_t length) noexcept
@@ -258,25 +319,25 @@ int ftruncate(int fd, off_t length) noexcept
 int rename(const char *from, const char *to) noexcept
 {
     static const auto original = next(&rename, "rename");
-    return fails(Rename, from) ? -1 : original(from, to);
+    return fails(Rename, from) ? -1 : noted(original(from, to), "rename", from, to);
 }
 
 int renameat2(int fromFd, const char *from, int toFd, const char *to, unsigned flags) noexcept
 {
     static const auto original = next(&renameat2, "renameat2");
-    return fails(Rename, from) ? -1 : original(fromFd, from, toFd, to, flags);
+    return fails(Rename, from) ? -1 : noted(original(fromFd, from, toFd, to, flags), "rename", from, to);
 }
 
 int link(const char *from, const char *to) noexcept
 {
     static const auto original = next(&link, "link");
-    return fails(Link, from) ? -1 : original(from, to);
+    return fails(Link, from) ? -1 : noted(original(from, to), "link", from, to);
 }
 
 int unlink(const char *path) noexcept
 {
     static const auto original = next(&unlink, "unlink");
-    return fails(Unlink, path) ? -1 : original(path);
+    return fails(Unlink, path) ? -1 : noted(original(path), "unlink", path);
 }
 
 void *mmap64(void *address, std::size_t length, int protection, int flags, int fd, off64_t at) noexcept

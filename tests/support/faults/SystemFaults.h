@@ -24,4 +24,9 @@ void kavFaultsDisarm();
 /// How many calls of that name there were since the last arming, and how many of them failed.
 long kavFaultsCount(const char *call);
 long kavFaultsFailed();
+
+/// What was done since the last arming, a line each in its order, with the files' names in the directory ("." for itself):
+/// "write NAME" (ftruncate, too), "fsync NAME" (fdatasync, too; not what only begins the writing), "rename FROM TO",
+/// "link FROM TO", "unlink NAME". The same again and again is one line.
+const char *kavFaultsOrder();
 }

@@ -165,6 +165,8 @@ private slots:
     void aDiskThatIsFullAtAnyPointLosesNoCall_data();
     void aDiskThatIsFullAtAnyPointLosesNoCall();
     void aDiskWithTooLittleSpaceIsSaidBeforeAnythingIsWritten();
+    void aNewLogIsOnTheDiskBeforeItTakesTheOldOnesPlace_data();
+    void aNewLogIsOnTheDiskBeforeItTakesTheOldOnesPlace();
     void aNoticeIsToldByTheNextStartWhenItsOwnFails();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed_data();
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
@@ -344,6 +346,46 @@ void TestLogFaults::aDiskWithTooLittleSpaceIsSaidBeforeAnythingIsWritten()
         QVERIFY2(text.match(phone.opened.error).hasMatch(), qPrintable(phone.opened.error));
         QCOMPARE(state.names(), before);
     }
+}
+
+void TestLogFaults::aNewLogIsOnTheDiskBeforeItTakesTheOldOnesPlace_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QStringList>("steps");
+    const QStringList made{QStringLiteral("write calllog-new.db"), QStringLiteral("fsync calllog-new.db"),
+                           QStringLiteral("rename calllog-new.db calllog-ready.db"), QStringLiteral("fsync .")};
+    const QStringList kept{QStringLiteral("rename calllog.db calllog-kept-1.db"), QStringLiteral("fsync .")};
+    const QStringList taken{QStringLiteral("rename calllog-ready.db calllog.db"), QStringLiteral("fsync .")};
+    const QString linked = QStringLiteral("link calllog.db-wal calllog-kept-1.db-wal");
+    QTest::newRow("after a page was damaged") << 2 << made + kept + taken;
+    QTest::newRow("after the header was") << 3 << made + kept + taken;
+    QTest::newRow("after a crash, with a write-ahead log that is kept too")
+        << 4 << made + QStringList{linked} + kept + taken;
+    QTest::newRow("in an empty directory") << 5 << made + taken;
+}
+
+// Nothing else shows what is left when the machine goes down in between.
+void TestLogFaults::aNewLogIsOnTheDiskBeforeItTakesTheOldOnesPlace()
+{
+    QFETCH(int, index);
+    QFETCH(QStringList, steps);
+    const StateDir state;
+    QVERIFY(putInto(state, surroundings[static_cast<std::size_t>(index)]));
+    kavFaultsArm(qPrintable(state.path()), nullptr, 0, 0, false);
+    {
+        const Phone phone(state.path());
+        kavFaultsDisarm();
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+    }
+    QStringList done = QString::fromLocal8Bit(kavFaultsOrder()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    const qsizetype written = done.lastIndexOf(steps.first());
+    QVERIFY2(written >= 0, qPrintable(done.join(QLatin1Char('\n'))));
+    done.remove(0, written);
+    // What SQLite writes is left out: the copy that is read, what is empty beside the new log, and that in use.
+    static const QRegularExpression others(
+        QStringLiteral("^unlink |^(write|fsync) (calllog(-copy)?\\.db|calllog-new\\.db-)"));
+    done.removeIf([](const QString &step) { return others.match(step).hasMatch(); });
+    QCOMPARE(done.mid(0, steps.size()).join(QLatin1Char('\n')), steps.join(QLatin1Char('\n')));
 }
 
 void TestLogFaults::aNoticeIsToldByTheNextStartWhenItsOwnFails()
