@@ -109,7 +109,6 @@ CheckedLog CheckBeside::read()
     PlainConnection connection(file);
     if (!connection.isOpen())
         return {{Verdict::Blocked, sqlite::reason(connection.handle())}, {}};
-    connection.run("PRAGMA trusted_schema = OFF");
     connection.run("PRAGMA cell_size_check = ON");
     const Interruption interruption(connection.handle(), [this] { return isOver.load(); });
     setReading(connection.handle());

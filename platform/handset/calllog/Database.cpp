@@ -81,6 +81,7 @@ Database::Database(const QString &file, Access access)
     const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
     sqlite = held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
     sqlite3_busy_handler(sqlite, &waitInSqlite, this);
+    distrustTables(sqlite);
 }
 
 Database::~Database()

@@ -15,8 +15,6 @@ namespace {
 // None of these looks at a table yet.
 Finding identify(Database &database)
 {
-    if (!database.run(QStringLiteral("PRAGMA trusted_schema = OFF")))
-        return failure(database);
     const auto application = database.number(QStringLiteral("PRAGMA application_id"));
     const auto version = database.number(QStringLiteral("PRAGMA user_version"));
     if (!application || !version)

@@ -20,13 +20,20 @@ int primary(int code)
 
 } // namespace
 
+void distrustTables(sqlite3 *connection)
+{
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+}
+
 PlainConnection::PlainConnection(const QString &file)
 {
     const QByteArray name = file.isEmpty() ? QByteArrayLiteral(":memory:") : QFile::encodeName(file);
     const int flags = file.isEmpty() ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
     open = sqlite3_open_v2(name.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK;
-    if (open)
-        sqlite3_busy_timeout(connection, busyTimeoutMs);
+    if (!open)
+        return;
+    sqlite3_busy_timeout(connection, busyTimeoutMs);
+    distrustTables(connection);
 }
 
 PlainConnection::~PlainConnection()

@@ -14,6 +14,10 @@ struct sqlite3_stmt;
 
 namespace handset::calllog {
 
+/// Keeps a connection from running what the tables, views and triggers of its database call, but for what cannot do any
+/// harm: somebody else may have written them. To be called before anything is read.
+void distrustTables(sqlite3 *connection);
+
 /// A connection of its own. Every statement of it must be gone before it goes.
 class PlainConnection
 {

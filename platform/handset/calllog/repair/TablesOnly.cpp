@@ -25,8 +25,7 @@ bool takeOut(Database &copy, const char *entries)
 
 bool leaveOnlyTables(Database &copy)
 {
-    return copy.run(QStringLiteral("PRAGMA trusted_schema = OFF")) &&
-           copy.run(QStringLiteral("PRAGMA writable_schema = ON")) && takeOut(copy, computes) &&
+    return copy.run(QStringLiteral("PRAGMA writable_schema = ON")) && takeOut(copy, computes) &&
            takeOut(copy, generates);
 }
 

@@ -8,7 +8,13 @@
 #include "support/TestGroup.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QMutex>
 #include <QtCore/QStorageInfo>
+
+#include <atomic>
+
+#include <sqlite3.h>
 
 using namespace handset;
 using namespace handset::test;
@@ -35,6 +41,60 @@ bool change(const StateDir &state, const QStringList &statements)
                        [&](const QString &statement) { return file.run(statement); });
 }
 
+/// Sees every connection to a database that this process opens while it lives, and gives each of them a function of the
+/// name `foreign_one`, which SQLite has been told nothing good of.
+class AllConnections
+{
+public:
+    AllConnections()
+    {
+        seen.clear();
+        trusting.clear();
+        sqlite3_auto_extension(reinterpret_cast<void (*)()>(&opened));
+    }
+    ~AllConnections() { sqlite3_cancel_auto_extension(reinterpret_cast<void (*)()>(&opened)); }
+    Q_DISABLE_COPY_MOVE(AllConnections)
+
+    static inline std::atomic<int> timesRun = 0; ///< the function
+    /// Statements, and those of connections that run what a schema says, each behind the name of its file.
+    static QStringList statements(bool ofTrusting)
+    {
+        const QMutexLocker locked(&mutex);
+        return ofTrusting ? trusting : seen;
+    }
+
+private:
+    static int opened(sqlite3 *connection, char **, const sqlite3_api_routines *)
+    {
+        const auto run = [](sqlite3_context *context, int, sqlite3_value **values) {
+            ++timesRun;
+            sqlite3_result_value(context, values[0]);
+        };
+        sqlite3_create_function_v2(connection, "foreign_one", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, run,
+                                   nullptr, nullptr, nullptr);
+        return sqlite3_trace_v2(connection, SQLITE_TRACE_STMT, &begun, nullptr);
+    }
+
+    static int begun(unsigned, void *, void *statement, void *)
+    {
+        auto *const handle = static_cast<sqlite3_stmt *>(statement);
+        sqlite3 *const connection = sqlite3_db_handle(handle);
+        int isTrusting = 0;
+        sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, -1, &isTrusting);
+        const QString file = QFileInfo(QString::fromUtf8(sqlite3_db_filename(connection, "main"))).fileName();
+        const QString text = file + QStringLiteral(": ") + QString::fromUtf8(sqlite3_sql(handle));
+        const QMutexLocker locked(&mutex);
+        seen << text;
+        if (isTrusting != 0)
+            trusting << text;
+        return 0;
+    }
+
+    static inline QMutex mutex;
+    static inline QStringList seen;
+    static inline QStringList trusting;
+};
+
 } // namespace
 
 class TestFalsifiedLog : public QObject
@@ -55,6 +115,10 @@ private slots:
     void aColumnThatIsComputedIsNeverRead();
     void moreEntriesThanALogCanHaveCostNoCall();
     void aHugeValueOfSomebodyElseLocksNoLog();
+    void noConnectionToALogTrustsItsTables_data();
+    void noConnectionToALogTrustsItsTables();
+    void aFunctionThatALogNamesIsNeverRun_data();
+    void aFunctionThatALogNamesIsNeverRun();
 };
 
 void TestFalsifiedLog::whatIsChangedInTheTablesIsToldOnceAndCostsNoCall_data()
@@ -297,6 +361,100 @@ void TestFalsifiedLog::aHugeValueOfSomebodyElseLocksNoLog()
     QCOMPARE(phone.opened.error, QString());
     QCOMPARE(phone.opened.notice, QString());
     QCOMPARE(phone.figures(), (SixFigures{20, 81, 5, 9, 95, 95}));
+}
+
+void TestFalsifiedLog::noConnectionToALogTrustsItsTables_data()
+{
+    QTest::addColumn<int>("calls");
+    QTest::addColumn<QString>("change");
+    QTest::addColumn<QStringList>("files"); // that are read
+    const QStringList log{QStringLiteral("calllog.db")};
+    const QStringList replaced{QStringLiteral("calllog.db"), QStringLiteral("calllog-copy.db"),
+                               QStringLiteral("calllog-new.db")};
+    QTest::newRow("that is read at once") << 10 << QString() << log;
+    QTest::newRow("that is read beside its use") << 10'000 << QString() << log;
+    QTest::newRow("that is replaced") << 10 << QStringLiteral("DELETE FROM totals") << replaced;
+    QTest::newRow("that only looks like another program's")
+        << 10 << QStringLiteral("PRAGMA application_id = 7") << replaced;
+}
+
+void TestFalsifiedLog::noConnectionToALogTrustsItsTables()
+{
+    QFETCH(int, calls);
+    QFETCH(QString, change);
+    QFETCH(QStringList, files);
+    const StateDir state;
+    const PastCall call{CallKind::Voice, CallDirection::Dialed, QStringLiteral("5550123"), 0, second};
+    QCOMPARE(Phone(state.path())->addHistory(QList<PastCall>(calls, call)), int(Success));
+    QVERIFY(change.isEmpty() || LogFile(state.database()).run(change));
+    const AllConnections all;
+    {
+        const Phone phone(state.path());
+        QVERIFY2(phone, qPrintable(phone.opened.error));
+        QCOMPARE(phone.opened.notice.isEmpty(), change.isEmpty());
+        const QString readThrough = QStringLiteral("calllog.db: PRAGMA quick_check(1)");
+        QTRY_VERIFY_WITH_TIMEOUT(AllConnections::statements(false).contains(readThrough), 60'000);
+    }
+    const QString seen = AllConnections::statements(false).join(QLatin1Char('\n'));
+    for (const QString &file : files)
+        QVERIFY2(seen.contains(file + QStringLiteral(": ")), qPrintable(file));
+    QCOMPARE(AllConnections::statements(true).join(QLatin1Char('\n')), QString());
+}
+
+void TestFalsifiedLog::aFunctionThatALogNamesIsNeverRun_data()
+{
+    QTest::addColumn<QStringList>("statements");
+    const auto row = [](const char *name, const QStringList &statements) { QTest::newRow(name) << statements; };
+    const auto rewritten = [](const char *before, const char *after) {
+        return QStringList{
+            QStringLiteral("PRAGMA writable_schema = ON"),
+            QStringLiteral("UPDATE sqlite_schema SET sql = replace(sql, '%1', '%2') WHERE name = 'calls'")
+                .arg(QLatin1String(before), QLatin1String(after)),
+            QStringLiteral("PRAGMA schema_version = 1000")};
+    };
+    row("in a trigger",
+        {QStringLiteral("CREATE TRIGGER mine AFTER INSERT ON calls BEGIN SELECT foreign_one(new.id); END")});
+    row("in the condition of a trigger",
+        {QStringLiteral(
+            "CREATE TRIGGER mine AFTER UPDATE ON totals WHEN foreign_one(new.ms) BEGIN SELECT 1; END")});
+    row("in an index", {QStringLiteral("CREATE INDEX mine ON calls (foreign_one(id))")});
+    row("in the condition of an index",
+        {QStringLiteral("CREATE INDEX mine ON calls (id) WHERE foreign_one(id) > 0")});
+    row("in a view", {QStringLiteral("ALTER TABLE totals RENAME TO before"),
+                      QStringLiteral("CREATE VIEW totals AS SELECT counter, foreign_one(ms) AS ms FROM before")});
+    row("in a column that is computed",
+        {QStringLiteral("ALTER TABLE totals RENAME TO before"),
+         QStringLiteral("CREATE TABLE totals (counter TEXT, ms INTEGER AS (foreign_one(7)))"),
+         QStringLiteral("INSERT INTO totals (counter) SELECT counter FROM before")});
+    row("in a check", rewritten("CHECK (duration_ms >= 0)", "CHECK (foreign_one(duration_ms) >= 0)"));
+    row("in a default value", rewritten(" boot TEXT,", " mine INTEGER DEFAULT (foreign_one(0)), boot TEXT,"));
+}
+
+// Neither by who has the log already, nor by who opens it.
+void TestFalsifiedLog::aFunctionThatALogNamesIsNeverRun()
+{
+    QFETCH(QStringList, statements);
+    const StateDir state;
+    QVERIFY(makeLog(state));
+    const AllConnections all;
+    {
+        Phone phone(state.path());
+        QCOMPARE(phone.opened.notice, QString());
+        QVERIFY(change(state, statements));
+        AllConnections::timesRun = 0;
+        // The handset tells that it could not write, or read.
+        QLoggingCategory::setFilterRules(QStringLiteral("kav.handset.calllog.warning=false"));
+        phone.dialed(3 * second);
+        CallTime time;
+        phone.log().dialedCallsTime(time);
+    }
+    QLoggingCategory::setFilterRules(QString());
+    QCOMPARE(AllConnections::timesRun, 0);
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.startsWith(QStringLiteral("The call log is damaged; it was kept as ")),
+             qPrintable(phone.opened.notice));
+    QCOMPARE(AllConnections::timesRun, 0);
+    QVERIFY(LogFile(state.database()).calls().size() >= 4);
 }
 
 KAV_TEST_GROUP(TestFalsifiedLog, QCoreApplication);
