@@ -46,7 +46,9 @@ constexpr OptionText optionTexts[] = {
     {"trace", "FILE",
      "Append the traces to FILE; \"-\" is standard output. Default: trace.log in the state "
      "directory; no trace where the state is in memory, and on a tour."},
-    {"backend", "NAME", "The telephone behind: %2, or the path of a library that has one. Default: simulated."},
+    {"backend", "NAME",
+     "The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else "
+     "simulated. Default: simulated."},
     {"plugin", "NAME", "The plug-in library. Default: libkavcallmeter.so.1"},
     {"screen", "NAME", "Open this screen at once: %3."},
     {"page", "NAME", "Show this page of the panel: %4."},

@@ -3,7 +3,6 @@
 #include "handset/Handset.h"
 #include "host/AccessibilityBus.h"
 #include "host/Catalogue.h"
-#include "host/EndSignals.h"
 #include "host/ExitCode.h"
 #include "host/Options.h"
 #include "host/PhoneWindow.h"
@@ -12,6 +11,7 @@
 #include "host/faults/FaultyHandset.h"
 #include "host/tour/TourPlayer.h"
 #include "log/aplog.h"
+#include "process/EndSignals.h"
 #include "qt/BusGuard.h"
 
 #include <QtCore/QFile>
@@ -28,6 +28,8 @@
 namespace {
 
 using namespace host;
+using process::EndSignals;
+using process::guardStandardStreams;
 
 constexpr qint64 largestScript = qint64{4} * 1024 * 1024;
 

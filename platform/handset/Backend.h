@@ -13,6 +13,9 @@ using OpenBackend = void (*)(const Settings &settings, Opened &opened);
 
 } // namespace handset
 
+/// Whether what the backend needs is there now: a modem. Waits for the answer, a second at most.
+using IsPresent = bool (*)();
+
 /// To stand once in a backend's library, outside every namespace: `open` is an
 /// `handset::Opened open(const handset::Settings &)`.
 #define KAV_HANDSET_BACKEND(open)                                                                                 \
@@ -23,4 +26,11 @@ using OpenBackend = void (*)(const Settings &settings, Opened &opened);
     extern "C" Q_DECL_EXPORT void kavOpenHandset(const handset::Settings &settings, handset::Opened &opened)      \
     {                                                                                                             \
         opened = open(settings);                                                                                  \
+    }
+
+/// May stand beside it: `isPresent` is a `bool isPresent()`. A backend without it is used only by its name.
+#define KAV_HANDSET_PRESENCE(isPresent)                                                                           \
+    extern "C" Q_DECL_EXPORT bool kavHandsetIsPresent()                                                           \
+    {                                                                                                             \
+        return isPresent();                                                                                       \
     }

@@ -48,9 +48,14 @@ Opened cannotBeUsed(const QString &library, const QString &reason)
 
 // `library` is looked for beside this library where it is no path. It stays loaded, as what it has opened may outlive
 // every moment at which it could be unloaded.
+void *load(const QString &library)
+{
+    return ::dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+}
+
 Opened openFrom(const QString &library, const Settings &settings)
 {
-    void *const handle = ::dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    void *const handle = load(library);
     if (!handle)
         return cannotBeUsed(library, QString::fromLocal8Bit(::dlerror()));
     const auto version = reinterpret_cast<int (*)()>(::dlsym(handle, "kavHandsetInterfaceVersion"));
@@ -142,8 +147,25 @@ QStringList backendNames()
     return names;
 }
 
+QString presentBackend()
+{
+    for (const Backend &backend : backends) {
+        void *const handle = backend.library ? load(QString::fromLatin1(backend.library)) : nullptr;
+        const auto isPresent =
+            handle ? reinterpret_cast<IsPresent>(::dlsym(handle, "kavHandsetIsPresent")) : nullptr;
+        if (isPresent && isPresent())
+            return QString::fromLatin1(backend.name);
+    }
+    return QString::fromLatin1(backends.front().name);
+}
+
 Opened open(const Settings &settings)
 {
+    if (settings.backend == QLatin1String("auto")) {
+        Settings found = settings;
+        found.backend = presentBackend();
+        return open(found);
+    }
     const auto named = [&](const Backend &backend) { return settings.backend == QLatin1String(backend.name); };
     const auto *const backend = std::find_if(backends.begin(), backends.end(), named);
     const bool isPath = settings.backend.contains(QLatin1Char('/'));

@@ -45,7 +45,7 @@ public:
 };
 
 struct Settings {
-    /// One of backendNames(), or the path of a library that has a backend (handset/Backend.h): with a slash in it.
+    /// One of backendNames(), "auto" for presentBackend(), or the path of a library that has a backend (handset/Backend.h): with a slash in it.
     QString backend = QStringLiteral("simulated");
     /// Directory that keeps the state between starts, made when missing; empty keeps it in memory only.
     QString stateDirectory;
@@ -71,6 +71,10 @@ struct Opened {
 
 /// The names that Settings::backend may have.
 QStringList backendNames();
+
+/// The first backend with a modem that is there now, else "simulated". Waits for the daemons' answers, a second each at
+/// most.
+QString presentBackend();
 
 /// Opens a handset. Never throws; a backend name that is not known, a library that has no backend, a state directory that cannot be used, and a
 /// state that has to be made, migrated or replaced while another process uses it, are errors.

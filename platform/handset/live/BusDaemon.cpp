@@ -23,6 +23,19 @@ QString systemBusAddress()
     return said.isEmpty() ? QStringLiteral("unix:path=/run/dbus/system_bus_socket") : said;
 }
 
+QDBusMessage askAndWait(const QString &service, const QString &path, const QString &interface,
+                        const QString &method)
+{
+    constexpr int longestMs = 1'000;
+    const QString name = QStringLiteral("kav-presence");
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, method);
+    question.setAutoStartService(false);
+    const QDBusMessage answer =
+        QDBusConnection::connectToBus(systemBusAddress(), name).call(question, QDBus::Block, longestMs);
+    QDBusConnection::disconnectFromBus(name);
+    return answer;
+}
+
 BusDaemon::BusDaemon(QString name, QString address, int reconnectMs)
     : service(std::move(name))
     , busAddress(std::move(address))

@@ -20,3 +20,4 @@ Opened open(const Settings &settings)
 } // namespace handset::modemmanager
 
 KAV_HANDSET_BACKEND(handset::modemmanager::open)
+KAV_HANDSET_PRESENCE(handset::modemmanager::isModemPresent)

@@ -21,6 +21,17 @@ const QString modemInterface = QStringLiteral("org.freedesktop.ModemManager1.Mod
 const QString voiceInterface = QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice");
 const QString networkInterface = QStringLiteral("org.freedesktop.ModemManager1.Modem.Modem3gpp");
 
+using Interfaces = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Interfaces>;
+
+// Nothing for what is no answer to GetManagedObjects.
+std::optional<Objects> objectsIn(const QDBusMessage &answer)
+{
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.signature() != QLatin1String("a{oa{sa{sv}}}"))
+        return std::nullopt;
+    return qdbus_cast<Objects>(answer.arguments().constFirst());
+}
+
 // Of Modem.State.
 constexpr int stateLocked = 2;
 
@@ -44,6 +55,15 @@ QString lockInWords(quint32 lock)
 }
 
 } // namespace
+
+bool isModemPresent()
+{
+    const auto objects =
+        objectsIn(live::askAndWait(serviceName, rootPath, objectManager, QStringLiteral("GetManagedObjects")));
+    return objects && std::any_of(objects->begin(), objects->end(), [](const Interfaces &interfaces) {
+               return interfaces.contains(modemInterface);
+           });
+}
 
 ModemManagerModem::ModemManagerModem(const QString &address, live::Patience waits)
     : source(serviceName, address, waits.reconnectMs)
@@ -103,13 +123,11 @@ void ModemManagerModem::listModems()
         if (answer->isError() && isNoAnswer(answer->error()))
             return listModems();
         const QDBusMessage reply = answer->reply();
-        if (answer->isError() || reply.signature() != QLatin1String("a{oa{sa{sv}}}")) {
-            const QString why = answer->isError() ? answer->error().message() : reply.signature();
-            return reading.warn("GetManagedObjects", why);
-        }
+        const std::optional<Objects> objects = objectsIn(reply);
+        if (!objects)
+            return reading.warn("GetManagedObjects", answer->isError() ? reply.errorMessage() : reply.signature());
         manager = Manager::Known;
-        const auto objects = qdbus_cast<QMap<QDBusObjectPath, Interfaces>>(reply.arguments().constFirst());
-        for (auto object = objects.begin(); object != objects.end(); ++object)
+        for (auto object = objects->begin(); object != objects->end(); ++object)
             add(object.key().path(), object.value());
         choose();
         emit stateChanged();

@@ -15,6 +15,9 @@ namespace handset::modemmanager {
 class Bearers;
 class VoiceCalls;
 
+/// Whether the daemon runs and has a modem. Waits, as live::askAndWait().
+bool isModemPresent();
+
 /// The first modem that has calls, or else the first one; then that one until it goes. Costs are not the daemon's, nor is
 /// PIN2.
 class ModemManagerModem final : public live::Modem

@@ -4,7 +4,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QSocketNotifier>
 
-namespace host {
+namespace process {
 
 /// Makes sure that standard input, output and error are open: what is opened later must not get one of their numbers
 /// and be printed to. In place of the missing output comes one that takes nothing. A reader of the output that goes
@@ -33,4 +33,4 @@ private:
     QSocketNotifier notifier;
 };
 
-} // namespace host
+} // namespace process

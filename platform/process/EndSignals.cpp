@@ -1,4 +1,4 @@
-#include "host/EndSignals.h"
+#include "process/EndSignals.h"
 
 #include <cerrno>
 #include <csignal>
@@ -7,7 +7,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace host {
+namespace process {
 
 namespace {
 
@@ -29,7 +29,7 @@ void tell(int)
 int openPipe()
 {
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
-        qFatal("kavrecentcalls: no pipe can be opened");
+        qFatal("No pipe can be opened");
     return ends[0];
 }
 
@@ -92,4 +92,4 @@ EndSignals::~EndSignals()
         ::close(std::exchange(end, -1));
 }
 
-} // namespace host
+} // namespace process
