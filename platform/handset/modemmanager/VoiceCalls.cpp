@@ -70,11 +70,15 @@ VoiceCalls::VoiceCalls(const live::BusDaemon &daemon, const QString &modem, Read
     , voice(new VoiceProxy(daemon.owner(), modem, daemon.bus(), this))
 {
     voice->setTimeout(patience.answerMs);
-    connect(voice, &VoiceProxy::CallAdded, this,
-            [this](const QDBusObjectPath &path) { follow(path.path(), false); });
-    connect(voice, &VoiceProxy::CallDeleted, this, [this](const QDBusObjectPath &path) { deleted(path.path()); });
-    // Of whatever call: what one signals is heard from its first moment on.
+    // Not by the signals of the proxy: Qt connects those without a word to nothing as long as nobody in the process has
+    // registered the type of an object's path.
+    const QString ofVoice = QLatin1String(VoiceProxy::staticInterfaceName());
     QDBusConnection bus = daemon.bus();
+    bus.connect(daemon.owner(), modem, ofVoice, QStringLiteral("CallAdded"), QStringLiteral("o"), this,
+                SLOT(callAdded(QDBusMessage)));
+    bus.connect(daemon.owner(), modem, ofVoice, QStringLiteral("CallDeleted"), QStringLiteral("o"), this,
+                SLOT(callDeleted(QDBusMessage)));
+    // Of whatever call: what one signals is heard from its first moment on.
     bus.connect(daemon.owner(), {}, callInterface, QStringLiteral("StateChanged"), QStringLiteral("iiu"), this,
                 SLOT(stateSignalled(QDBusMessage)));
     bus.connect(daemon.owner(), {}, propertiesInterface, QStringLiteral("PropertiesChanged"), {callInterface},
@@ -139,6 +143,16 @@ void VoiceCalls::learn(Followed &followed, const QVariantMap &properties)
     const QString path = followed.call.id;
     for (const int state : std::as_const(states))
         stateChanged(path, state);
+}
+
+void VoiceCalls::callAdded(const QDBusMessage &message)
+{
+    follow(message.arguments().value(0).value<QDBusObjectPath>().path(), false);
+}
+
+void VoiceCalls::callDeleted(const QDBusMessage &message)
+{
+    deleted(message.arguments().value(0).value<QDBusObjectPath>().path());
 }
 
 void VoiceCalls::stateSignalled(const QDBusMessage &message)

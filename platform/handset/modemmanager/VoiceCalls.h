@@ -43,6 +43,8 @@ signals:
     void refused(const QString &why);
 
 private slots:
+    void callAdded(const QDBusMessage &message);
+    void callDeleted(const QDBusMessage &message);
     void stateSignalled(const QDBusMessage &message);
     void propertiesChanged(const QDBusMessage &message);
 
