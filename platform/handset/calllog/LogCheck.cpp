@@ -17,8 +17,7 @@ constexpr auto lostSql = "SELECT value FROM lost WHERE counter = ?";
 
 /// Everything that is compared, of one moment.
 struct Figures {
-    RowTotals counted{};
-    qint64 allUnits = 0; ///< of all calls
+    CountedRows counted;
     RowTotals totals{};
     LostAmounts lost{};
 };
@@ -33,11 +32,12 @@ void add(qint64 &sum, qint64 amount)
     sum = saturatingSum(sum, amount);
 }
 
-int countCalls(sqlite3 *connection, Figures &figures)
+int countCalls(sqlite3 *connection, CountedRows &all, Progress &progress)
 {
-    RowTotals &counted = figures.counted;
+    RowTotals &counted = all.totals;
     PlainStatement rows(connection, callsSql);
     while (rows.next()) {
+        progress.oneIsDone();
         const auto kind = static_cast<CallKind>(rows.number(0));
         const auto direction = static_cast<CallDirection>(rows.number(1));
         const qint64 units = rows.number(3);
@@ -47,17 +47,19 @@ int countCalls(sqlite3 *connection, Figures &figures)
         counted[at(Total::LastCost)] = units;
         if (const std::optional<Total> own = ownCost(kind, direction))
             add(counted[at(*own)], units);
-        add(figures.allUnits, units);
+        add(all.allUnits, units);
     }
     return rows.error();
 }
 
-int countSessions(sqlite3 *connection, RowTotals &counted)
+int countSessions(sqlite3 *connection, RowTotals &counted, Progress &progress)
 {
     PlainStatement rows(connection, sessionsSql);
-    while (rows.next())
+    while (rows.next()) {
+        progress.oneIsDone();
         for (std::size_t i = 0; i < sessionPlaces.size(); ++i)
             add(counted[at(sessionPlaces[i].total)], rows.number(static_cast<int>(i)));
+    }
     return rows.error();
 }
 
@@ -83,37 +85,25 @@ int readLost(sqlite3 *connection, LostAmounts &lost)
     return row.error();
 }
 
-int read(sqlite3 *connection, Figures &figures)
+int read(sqlite3 *connection, Figures &figures, Progress &progress)
 {
     int code = readTotals(connection, figures.totals);
     if (code == SQLITE_OK)
         code = readLost(connection, figures.lost);
     if (code == SQLITE_OK)
-        code = countCalls(connection, figures);
-    return code == SQLITE_OK ? countSessions(connection, figures.counted) : code;
-}
-
-// What the totals count beyond the rows.
-LostAmounts excess(const Figures &figures)
-{
-    const auto beyond = [&](Total total) {
-        const qint64 counted = total == Total::LastCost ? figures.allUnits : figures.counted[at(total)];
-        return std::max<qint64>(figures.totals[at(total)] - counted, 0);
-    };
-    return {beyond(Total::LifetimeTime),
-            std::max({beyond(Total::LastCost), beyond(Total::DialedCost), beyond(Total::AnsweredCost)}),
-            beyond(Total::SessionTime), beyond(Total::BytesSent), beyond(Total::BytesReceived)};
+        code = countCalls(connection, figures.counted, progress);
+    return code == SQLITE_OK ? countSessions(connection, figures.counted.totals, progress) : code;
 }
 
 bool callsFit(const Figures &figures, qint64 lost)
 {
     const qint64 lifetime = figures.totals[at(Total::LifetimeTime)];
-    if (lifetime != saturatingSum(figures.counted[at(Total::LifetimeTime)], lost))
+    if (lifetime != saturatingSum(figures.counted.totals[at(Total::LifetimeTime)], lost))
         return false;
     return std::all_of(timePlaces.begin(), timePlaces.end(), [&](const TotalPlace &place) {
         const bool isOwn = place.total == Total::DialedTime || place.total == Total::AnsweredTime ||
                            place.total == Total::DataTime;
-        const qint64 most = isOwn ? saturatingSum(figures.counted[at(place.total)], lost) : lifetime;
+        const qint64 most = isOwn ? saturatingSum(figures.counted.totals[at(place.total)], lost) : lifetime;
         return figures.totals[at(place.total)] <= most;
     });
 }
@@ -144,22 +134,40 @@ QByteArray selectTotal(const TotalPlace &place)
            "' AND typeof(" + place.column + ") = 'integer'";
 }
 
+LostAmounts excess(const RowTotals &totals, const CountedRows &counted)
+{
+    const auto beyond = [&](Total total) {
+        const qint64 ofRows = total == Total::LastCost ? counted.allUnits : counted.totals[at(total)];
+        return std::max<qint64>(totals[at(total)] - ofRows, 0);
+    };
+    return {beyond(Total::LifetimeTime),
+            std::max({beyond(Total::LastCost), beyond(Total::DialedCost), beyond(Total::AnsweredCost)}),
+            beyond(Total::SessionTime), beyond(Total::BytesSent), beyond(Total::BytesReceived)};
+}
+
 CheckedLog checkSums(sqlite3 *connection)
+{
+    Progress untold({}, {}, 0);
+    return checkSums(connection, untold);
+}
+
+CheckedLog checkSums(sqlite3 *connection, Progress &progress)
 {
     CheckedLog checked;
     Figures figures;
     const bool isOwnTransaction = sqlite3_get_autocommit(connection) != 0;
     if (isOwnTransaction)
         sqlite3_exec(connection, "BEGIN", nullptr, nullptr, nullptr);
-    const int code = read(connection, figures);
+    const int code = read(connection, figures, progress);
     if (code != SQLITE_OK)
         checked.finding = failure(code, sqlite::reason(connection));
     if (isOwnTransaction)
         sqlite3_exec(connection, "ROLLBACK", nullptr, nullptr, nullptr);
     if (code != SQLITE_OK)
         return checked;
+    checked.isRead = true;
     checked.counted = figures.counted;
-    const LostAmounts found = excess(figures);
+    const LostAmounts found = excess(figures.totals, figures.counted);
     for (std::size_t i = 0; i < found.size(); ++i)
         if (!figures.lost[i])
             checked.unknown[i] = figures.lost[i] = found[i];

@@ -3,6 +3,7 @@
 
 #include "calllog/Finding.h"
 #include "calllog/Totals.h"
+#include "calllog/repair/Progress.h"
 
 #include <array>
 #include <optional>
@@ -18,11 +19,18 @@ using LostAmounts = std::array<std::optional<qint64>, lostNames.size()>;
 /// By Total.
 using RowTotals = std::array<qint64, totalPlaces.size()>;
 
+/// What the rows come to.
+struct CountedRows {
+    RowTotals totals{};  ///< what they would be had none been reset, and had the lost rows never been
+    qint64 allUnits = 0; ///< of all calls
+};
+
 /// What a log that was read through has come to.
 struct CheckedLog {
     Finding finding;
     LostAmounts unknown{}; ///< what a log of an earlier version did not say, measured now; nothing for the others
-    RowTotals counted{};   ///< what the totals would be had none been reset, and had the lost rows never been
+    CountedRows counted{};
+    bool isRead = false; ///< to the end; else the finding says why not, and nothing was counted
 };
 
 /// The structure of the file, every page of it, and every row by the checks of its table.
@@ -33,6 +41,10 @@ Finding checkPages(sqlite3 *connection);
 /// All calls ever have lasted as long as their rows say, with what was lost; every other total counts some of the rows,
 /// for it may have been reset.
 CheckedLog checkSums(sqlite3 *connection);
+/// The same. Each row is a thing of `progress`, which may end this by throwing.
+CheckedLog checkSums(sqlite3 *connection, Progress &progress);
+/// What `totals` count beyond those rows.
+LostAmounts excess(const RowTotals &totals, const CountedRows &counted);
 /// Selects a total, if it is a number.
 QByteArray selectTotal(const TotalPlace &place);
 

@@ -55,9 +55,18 @@ bool putTotals(LedgerTables &tables, std::span<const TotalPlace> places, const R
     });
 }
 
+// In big logs this takes as long as the reading.
+CheckedLog countRows(Database &target, const Salvaged &salvaged, const ProgressListener &listener)
+{
+    Progress progress(listener, QStringLiteral("Counting what was read"), salvaged.calls + salvaged.sessions);
+    CheckedLog checked = checkSums(target.handle(), progress);
+    progress.finish();
+    return checked;
+}
+
 // Those that cannot be read, and those of the calls' times that are none of these calls, are counted anew. What they count
 // beyond the rows has been lost.
-bool copyTotals(DamagedLog &source, Database &target, Salvaged &salvaged)
+bool copyTotals(DamagedLog &source, Database &target, Salvaged &salvaged, const ProgressListener &listener)
 {
     LedgerTables tables(target);
     RowTotals totals{};
@@ -67,15 +76,17 @@ bool copyTotals(DamagedLog &source, Database &target, Salvaged &salvaged)
     if (source.isBlocked() || !putTotals(tables, totalPlaces, totals) ||
         !target.run(QStringLiteral("UPDATE lost SET value = NULL")))
         return false;
-    CheckedLog checked = checkSums(target.handle());
+    const CheckedLog checked = countRows(target, salvaged, listener);
+    if (!checked.isRead)
+        return target.fail();
     salvaged.totalsRead = salvaged.totalsRead && checked.finding.verdict == Verdict::Usable;
     const std::pair<bool, std::span<const TotalPlace>> groups[]{
         {salvaged.totalsRead, timePlaces}, {costsRead, costPlaces}, {salvaged.sessionTotalsRead, sessionPlaces}};
     for (const auto &[isRead, places] : groups)
-        if (!isRead && !putTotals(tables, places, checked.counted))
-            return false;
-    checked = checkSums(target.handle());
-    return putUnknown(target, checked.unknown);
+        for (const TotalPlace &place : isRead ? std::span<const TotalPlace>() : places)
+            totals[static_cast<std::size_t>(place.total)] =
+                checked.counted.totals[static_cast<std::size_t>(place.total)];
+    return putTotals(tables, totalPlaces, totals) && putUnknown(target, excess(totals, checked.counted));
 }
 
 bool readKept(DamagedLog &source, LedgerTables &tables, bool &isRead)
@@ -118,14 +129,17 @@ Finding salvage(Database &source, Database &target, Salvaged &salvaged, const Pr
     DamagedLog damaged(source);
     RowSalvage calls(damaged, target, callTable, progress);
     RowSalvage sessions(damaged, target, sessionTable, progress);
+    const auto copyRows = [&] {
+        const bool copied = calls.copy() && sessions.copy();
+        salvaged.calls = calls.copied();
+        salvaged.sessions = sessions.copied();
+        return copied;
+    };
     const bool written = target.inTransaction([&] {
-        return calls.copy() && sessions.copy() && copyTotals(damaged, target, salvaged) &&
-               copyKept(damaged, target);
+        return copyRows() && copyTotals(damaged, target, salvaged, progress) && copyKept(damaged, target);
     });
     if (damaged.isBlocked())
         return damaged.obstacle();
-    salvaged.calls = calls.copied();
-    salvaged.sessions = sessions.copied();
     return written ? Finding{} : failure(target);
 }
 
