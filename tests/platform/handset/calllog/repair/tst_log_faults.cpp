@@ -172,6 +172,8 @@ private slots:
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
     void whatIsKeptAndCannotBeReadIsAnErrorThatNamesTheFile();
     void aHandsetThatEndsStopsTheReadingOfTheFile();
+    void theCheckOfTheNewLogSaysHowFarItIsFromItsFirstPagesOn();
+    void aNewLogThatCannotBeReadToCountItsCallsIsAnErrorWithTheReason();
 
 private:
     void fail(const Surroundings &files, const Fault &fault, const Moment &moment);
@@ -501,6 +503,56 @@ void TestLogFaults::aHandsetThatEndsStopsTheReadingOfTheFile()
         kavFaultsDisarm();
     }
     QVERIFY2(fewest < pages / 2, qPrintable(QStringLiteral("%1 of %2 pages").arg(fewest).arg(pages)));
+}
+
+// SQLite checks the structure of the whole file first, and asks nobody while it does.
+void TestLogFaults::theCheckOfTheNewLogSaysHowFarItIsFromItsFirstPagesOn()
+{
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(150'000)), int(Success));
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
+    const long pages = QFileInfo(state.database()).size() / pageSize;
+    Settings settings;
+    settings.stateDirectory = state.path();
+    bool isOnItsWay = false;
+    settings.progress = [&](const QString &step, int percent) {
+        isOnItsWay = step == QStringLiteral("Checking the new call log") && percent > 0;
+        if (step == QStringLiteral("Checking the new call log") && percent == 0)
+            kavFaultsArm(qPrintable(state.path()), "pread", 0, 0, false);
+    };
+    settings.isGivenUp = [&] { return isOnItsWay; };
+    const Opened opened = open(settings);
+    kavFaultsDisarm();
+    QCOMPARE(opened.error, QStringLiteral("The opening of the call log was given up; it is as it was."));
+    const long readBefore = kavFaultsCount("pread");
+    QVERIFY2(readBefore > 0 && readBefore < pages * 3 / 4,
+             qPrintable(QStringLiteral("%1 of %2 pages").arg(readBefore).arg(pages)));
+}
+
+// The new log is larger than what SQLite keeps of it in memory, so it is read to count the calls.
+void TestLogFaults::aNewLogThatCannotBeReadToCountItsCallsIsAnErrorWithTheReason()
+{
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(60'000)), int(Success));
+    const SixFigures figures = Phone(state.path()).figures();
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("DELETE FROM totals WHERE counter = 'data'")));
+    Settings settings;
+    settings.stateDirectory = state.path();
+    settings.progress = [&](const QString &step, int percent) {
+        if (step == QStringLiteral("Counting what was read") && percent < 100)
+            kavFaultsArm(qPrintable(state.path()), "pread", 1, ENOMEM, false); // EIO is called damage
+    };
+    {
+        const Opened opened = open(settings);
+        kavFaultsDisarm();
+        QCOMPARE(kavFaultsFailed(), 1);
+        QVERIFY2(
+            opened.error.contains(QStringLiteral("a new one cannot be made (\"calllog-new.db\": disk I/O error")),
+            qPrintable(opened.error + opened.notice));
+    }
+    const Phone phone(state.path());
+    QVERIFY2(phone.opened.notice.contains(QStringLiteral("(60000)")), qPrintable(phone.opened.notice));
+    QCOMPARE(phone.figures(), figures);
 }
 
 KAV_TEST_GROUP(TestLogFaults, QCoreApplication);
