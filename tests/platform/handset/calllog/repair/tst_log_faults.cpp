@@ -172,6 +172,7 @@ private slots:
     void aNoticeIsToldByTheNextStartWhenARunningCallCannotBeClosed();
     void whatIsKeptAndCannotBeReadIsAnErrorThatNamesTheFile();
     void aHandsetThatEndsStopsTheReadingOfTheFile();
+    void aViewTooLargeToStayInMemoryCostsNoCallWhenAReadFailsOnce();
     void theCheckOfTheNewLogSaysHowFarItIsFromItsFirstPagesOn();
     void aNewLogThatCannotBeReadToCountItsCallsIsAnErrorWithTheReason();
 
@@ -503,6 +504,29 @@ void TestLogFaults::aHandsetThatEndsStopsTheReadingOfTheFile()
         kavFaultsDisarm();
     }
     QVERIFY2(fewest < pages / 2, qPrintable(QStringLiteral("%1 of %2 pages").arg(fewest).arg(pages)));
+}
+
+// When the view is taken out, the list of tables is read anew from the file, and SQLite calls it corrupt when it cannot
+// be, whatever the reason. That is a seventh of all reads.
+void TestLogFaults::aViewTooLargeToStayInMemoryCostsNoCallWhenAReadFailsOnce()
+{
+    constexpr int letters = 3'000'000;
+    constexpr int attempts = 12;
+    const StateDir sample;
+    QCOMPARE(Phone(sample.path())->addHistory(manyCalls()), int(Success));
+    QVERIFY(LogFile(sample.database())
+                .run(QStringLiteral("CREATE VIEW mine AS SELECT '%1'").arg(QString(letters, QLatin1Char('x')))));
+    const Surroundings files{"", readFile(sample.database()), {}, true, true, {}, {}};
+    const long reads = countOf(files, "pread");
+    for (long attempt = 1; attempt <= attempts; ++attempt) {
+        const StateDir state;
+        QVERIFY(putInto(state, files));
+        kavFaultsArm(qPrintable(state.path()), "pread", reads * attempt / attempts, EIO, false);
+        const Phone phone(state.path());
+        kavFaultsDisarm();
+        QVERIFY2(phone.opened.notice.contains(QStringLiteral("(300)")),
+                 qPrintable(phone.opened.error + phone.opened.notice));
+    }
 }
 
 // SQLite checks the structure of the whole file first, and asks nobody while it does.
