@@ -18,7 +18,8 @@ using Holders = std::function<QString()>;
 class Waiting
 {
 public:
-    /// `patienceMs` is how long it may be in all, of what is meant to be waited: a busy machine takes longer. `progress` may end the opening by an exception; it may be null.
+    /// `patienceMs` is how long it may be in all, of what is meant to be waited: a busy machine takes longer. `progress`
+    /// may end the opening by an exception; it may be null.
     Waiting(int patienceMs, ProgressListener progress);
 
     /// Waits for a moment of so many milliseconds; false, at once, when the patience is at its end.

@@ -21,6 +21,7 @@
 #include "handset/SharedClock.h"
 #include "handset/SimSecurity.h"
 #include "handset/Status.h"
+#include "qt/QCopChannel.h"
 #include "qt/qcop/QCopBus.h"
 #include "simulated/SimulatedHandset.h"
 
@@ -31,6 +32,7 @@
 #include <cstdio>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <random>
 #include <utility>
 
@@ -155,11 +157,14 @@ int share(Handset &handset, simulated::SimulatedHandset &phone, test::SharedCloc
 class Obedience
 {
 public:
-    Obedience(Handset &handset, simulated::SimulatedHandset &driven, ManualClock &moved)
-        : roles(handset)
+    Obedience(std::shared_ptr<Handset> handset, simulated::SimulatedHandset &driven, ManualClock &moved)
+        : opened(std::move(handset))
+        , roles(*opened)
         , phone(driven)
         , clock(moved)
-    {}
+    {
+        QObject::connect(&phone, &simulated::SimulatedHandset::changed, &phone, [this] { ++changes; });
+    }
 
     QString answer(const QString &line)
     {
@@ -191,6 +196,10 @@ public:
              }},
             {"pin", [&] { return pin(word); }},
             {"pin-status", [&] { return pinStatus(); }},
+            {"install", [&] { return installOnBus(); }},
+            {"follows",
+             [&] { return number(QCoreApplication::instance()->findChildren<QCopChannel *>().size()); }},
+            {"changes", [&] { return number(std::exchange(changes, 0)); }},
         };
         for (const auto &[name, command] : commands)
             if (words.constFirst() == QLatin1String(name))
@@ -255,15 +264,26 @@ private:
         return told ? QStringLiteral("%1 %2").arg(status).arg(tries) : QStringLiteral("?");
     }
 
+    // Where changes are announced, and where those of others are followed a little later.
+    QString installOnBus()
+    {
+        QCopBus::instance()->receive();
+        const bool isThere = QCopBus::instance()->waitFor(std::chrono::minutes(1));
+        install(opened);
+        return isThere ? number(0) : QStringLiteral("no bus");
+    }
+
+    std::shared_ptr<Handset> opened;
     Handset &roles;
     simulated::SimulatedHandset &phone;
     ManualClock &clock;
+    int changes = 0; ///< that were signalled since it was asked last
 };
 
 // With an event loop of its own, as a window has it, until there is nothing more to read.
-int hold(Handset &handset, simulated::SimulatedHandset &phone, ManualClock &clock)
+int hold(const Opened opened, simulated::SimulatedHandset &phone, ManualClock &clock)
 {
-    Obedience obedience(handset, phone, clock);
+    Obedience obedience(opened.handset, phone, clock);
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
     QByteArray unread;
     QObject::connect(&input, &QSocketNotifier::activated, &input, [&] {
@@ -337,7 +357,7 @@ int main(int argc, char **argv)
     if (isShared)
         return share(*opened.handset, *phone, *shared, arguments.value(3).toUInt());
     if (arguments.value(1) == QLatin1String("hold"))
-        return hold(*opened.handset, *phone, *clock);
+        return hold(std::exchange(opened, {}), *phone, *clock);
     if (arguments.value(1) == QLatin1String("leave"))
         return leave(std::exchange(opened, {}), *phone, *clock);
     return leaveSession(std::exchange(opened, {}), *phone, *clock);
