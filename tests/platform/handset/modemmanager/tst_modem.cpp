@@ -39,7 +39,7 @@ public:
     }
 
     /// Opens the handset, and waits until it has seen all that is there.
-    void open(live::Patience patience = {5'000, 5'000, 50})
+    void open(live::Patience patience = {60'000, 60'000, 50})
     {
         auto made = std::make_unique<modemmanager::ModemManagerModem>(bus.address(), patience);
         modem = made.get();
@@ -563,14 +563,17 @@ void TestModem::aDaemonThatAnswersLateIsAskedAgain()
     desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true}});
     for (const char *method : {"GetManagedObjects", "ListCalls", "GetAll"})
         desk.fake.silent.insert(QLatin1String(method));
-    desk.open({20, 20, 20});
+    // However often an answer comes too late on a busy machine, it is asked for once more.
+    constexpr int answerMs = 100;
+    constexpr int tryMs = 60'000;
+    desk.open({answerMs, answerMs, answerMs});
     for (const char *method : {"GetManagedObjects", "ListCalls", "GetAll"}) {
         const QString name = QLatin1String(method);
-        QTRY_VERIFY(desk.fake.asked.count(name) > 2);
+        QTRY_VERIFY_WITH_TIMEOUT(desk.fake.asked.count(name) > 1, tryMs);
         desk.fake.silent.remove(name);
     }
-    QTRY_COMPARE(desk.running(), 1);
-    QTRY_COMPARE(desk.phone->sessions().reported().size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.running(), 1, tryMs);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.phone->sessions().reported().size(), 1, tryMs);
 }
 
 void TestModem::dialingAsksForACallAndBeginsIt()

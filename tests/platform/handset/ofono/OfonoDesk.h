@@ -37,7 +37,7 @@ public:
     static inline const QString two = FakeOfono::modem + QStringLiteral("/voicecall02");
     static inline const QString context = FakeOfono::modem + QStringLiteral("/context1");
 
-    static constexpr live::Patience quickToReconnect{5'000, 60'000, 100};
+    static constexpr live::Patience quickToReconnect{60'000, 60'000, 100};
 
     explicit OfonoDesk(const live::Patience &howPatient = quickToReconnect)
         : fake(systemBus().address())
