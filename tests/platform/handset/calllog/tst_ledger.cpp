@@ -128,6 +128,7 @@ private slots:
     void whoIsLeftRecordsWhenTheRecorderIsKilled();
     void whoIsLeftRecordsWhenTheRecorderIsClosed();
     void theRecorderPassesOnWithoutAnybodyAsking();
+    void theRecorderPassesOnAtTheFirstLookAfterItsEnd();
     void aCardIsOffWhenTheRecorderIsGone();
 
     void aRowOfAnotherBootCountsAsItIsWritten();
@@ -500,6 +501,24 @@ void TestLedger::theRecorderPassesOnWithoutAnybodyAsking()
     QCOMPARE(stateOf(state, 1), int(CallState::Interrupted));
     QVERIFY(two.phone.dial());
     QCOMPARE(timer->interval(), 1000);
+}
+
+// How often it looks, and that one look is enough, is what the time of the change comes to on a machine that is not busy.
+void TestLedger::theRecorderPassesOnAtTheFirstLookAfterItsEnd()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    auto *const timer = two.phone->findChild<QTimer *>();
+    QVERIFY(timer->isActive() && timer->interval() <= 500);
+    QSignalSpy spy(two.phone.operator->(), &simulated::SimulatedHandset::changed);
+    const auto look = [timer] { return QMetaObject::invokeMethod(timer, "timeout"); };
+    QVERIFY(look());
+    QCOMPARE(spy.count(), 0);
+    two.recorder->kill();
+    QVERIFY(look()); // with no event loop in between
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(two.phone->dial(QStringLiteral("1"), CallKind::Voice), int(Success));
 }
 
 void TestLedger::aCardIsOffWhenTheRecorderIsGone()
