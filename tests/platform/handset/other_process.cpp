@@ -2,8 +2,8 @@
 //   handset_other_process share DIRECTORY SEED CLOCK
 //                                                makes calls and packet-data sessions while it records, asks, resets and
 //                                                sets while another does, by the clock in that file, until it is
-//                                                killed; a line for each that is finished, and one that begins with
-//                                                '~' for each checkpoint
+//                                                killed; a line for each that is finished, one that begins with '~'
+//                                                for each checkpoint, and three kinds for resets (resetOnce)
 //   handset_other_process hold DIRECTORY [USER]  says "holding", and does what the lines say that it reads (Obedience)
 //                                                until its input ends; as the user with that number, or says "not
 //                                                permitted"
@@ -113,6 +113,16 @@ bool isAnswer(int status)
     return status == Success || status == StorageFailed;
 }
 
+// A line with the clock before it, '<' and the name in front, and one after it: '>' where it has reset, '=' where not.
+template <typename Reset>
+int resetOnce(const QByteArray &name, const test::SharedClock &clock, Reset reset)
+{
+    report('<' + name, clock.monotonicMs());
+    const int status = reset();
+    report((status == Success ? '>' : '=') + name, clock.monotonicMs());
+    return status;
+}
+
 int share(Handset &handset, simulated::SimulatedHandset &phone, test::SharedClock &clock, unsigned seed)
 {
     std::mt19937 random(seed);
@@ -134,13 +144,13 @@ int share(Handset &handset, simulated::SimulatedHandset &phone, test::SharedCloc
         int status = Success;
         switch (pick(random, 6)) {
         case 0:
-            status = handset.callLog()->resetDialedCallsTime();
+            status = resetOnce("time", clock, [&] { return handset.callLog()->resetDialedCallsTime(); });
             break;
         case 1:
             status = handset.adviceOfCharge()->setMeterMaximum(QString::number(16'000'000 + pick(random, 9)));
             break;
         case 2:
-            status = handset.callLog()->resetDialedCallsCost();
+            status = resetOnce("cost", clock, [&] { return handset.callLog()->resetDialedCallsCost(); });
             break;
         case 3:
             status = handset.callLog()->allCallsCost(text);
