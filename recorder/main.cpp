@@ -6,10 +6,17 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTextStream>
 
+#include <utility>
+
 namespace {
 
 /// Those of the phone's window.
 enum ExitCode : int { ExitSuccess = 0, ExitBadCommandLine = 2, ExitNoHandset = 3 };
+
+constexpr const char *exitCodes = "\nExit codes:\n"
+                                  "  0  a signal has ended it, and what ran is written\n"
+                                  "  2  the command line is wrong\n"
+                                  "  3  there is no system bus, or the telephone cannot be opened\n";
 
 struct Options {
     QString backend;
@@ -39,35 +46,63 @@ void describe(QCommandLineParser &parser)
                       QStringLiteral("DIR"), handset::defaultStateDirectory()});
 }
 
-/// Of nothing but the simulation there is nothing to record.
-QString modemFor(const QString &backend)
+/// Records what a modem does; with "auto" that of the first daemon that has one, for which it waits.
+class Recorder
 {
-    if (backend != QLatin1String("auto"))
-        return backend;
-    const QString present = handset::presentBackend();
-    return present == handset::Settings().backend ? QStringLiteral("modemmanager") : present;
-}
+public:
+    Recorder(Options given, const process::EndSignals &ends)
+        : options(std::move(given))
+        , endSignals(ends)
+    {
+        QObject::connect(&endSignals, &process::EndSignals::asked, qApp, &QCoreApplication::quit);
+    }
 
-int record(const Options &options, const process::EndSignals &endSignals)
-{
-    handset::Settings settings;
-    settings.backend = modemFor(options.backend);
-    settings.stateDirectory = options.stateDirectory;
-    settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
-    settings.isGivenUp = [&endSignals] { return endSignals.haveCome(); };
-    handset::Opened opened = handset::open(settings);
-    if (!opened.handset)
-        return complain(endSignals.haveCome() ? ExitSuccess : ExitNoHandset, opened.error);
-    if (!opened.notice.isEmpty())
-        complain(ExitSuccess, opened.notice);
-    // The installed one sends the broadcasts.
-    handset::install(std::move(opened.handset));
-    QObject::connect(&endSignals, &process::EndSignals::asked, qApp, &QCoreApplication::quit);
-    const int code = endSignals.haveCome() ? ExitSuccess : QCoreApplication::exec();
-    // What runs is written.
-    handset::install(nullptr);
-    return code;
-}
+    int run()
+    {
+        const bool isNamed = options.backend != QLatin1String("auto");
+        if (const QString error = isNamed ? open(options.backend) : findModem(); !error.isEmpty())
+            return complain(endSignals.haveCome() ? ExitSuccess : ExitNoHandset, error);
+        const int code = endSignals.haveCome() ? ExitSuccess : QCoreApplication::exec();
+        // What runs is written.
+        handset::install(nullptr);
+        return code;
+    }
+
+private:
+    /// The simulation, which is there always, is no modem: of it there is nothing to record.
+    QString findModem()
+    {
+        const QString present = handset::presentBackend();
+        if (present != handset::Settings().backend)
+            return open(present);
+        awaited = handset::awaitModem([this](const QString &backend) {
+            awaited = {};
+            if (const QString error = open(backend); !error.isEmpty())
+                QCoreApplication::exit(complain(endSignals.haveCome() ? ExitSuccess : ExitNoHandset, error));
+        });
+        return awaited.error;
+    }
+
+    QString open(const QString &backend) const
+    {
+        handset::Settings settings;
+        settings.backend = backend;
+        settings.stateDirectory = options.stateDirectory;
+        settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
+        settings.isGivenUp = [this] { return endSignals.haveCome(); };
+        handset::Opened opened = handset::open(settings);
+        if (!opened.notice.isEmpty())
+            complain(ExitSuccess, opened.notice);
+        // The installed one sends the broadcasts.
+        if (opened.handset)
+            handset::install(std::move(opened.handset));
+        return opened.error;
+    }
+
+    const Options options;
+    const process::EndSignals &endSignals;
+    handset::Awaited awaited;
+};
 
 } // namespace
 
@@ -81,8 +116,10 @@ int main(int argc, char **argv)
     describe(parser);
     if (!parser.parse(QCoreApplication::arguments()))
         return complain(ExitBadCommandLine, parser.errorText() + QStringLiteral(" See kavcallrecorder --help."));
-    if (parser.isSet(QStringLiteral("help")))
-        parser.showHelp();
+    if (parser.isSet(QStringLiteral("help"))) {
+        QTextStream(stdout) << parser.helpText() << exitCodes;
+        return ExitSuccess;
+    }
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
     const Options options{parser.value(QStringLiteral("backend")), parser.value(QStringLiteral("state"))};
@@ -90,5 +127,5 @@ int main(int argc, char **argv)
         return complain(ExitBadCommandLine, QStringLiteral("There is a value missing or too many. See "
                                                            "kavcallrecorder --help."));
     const process::EndSignals endSignals; // outlives the handset, whose call is to be written
-    return record(options, endSignals);
+    return Recorder(options, endSignals).run();
 }

@@ -11,10 +11,12 @@ inline constexpr int interfaceVersion = 1;
 /// Opens a handset, as handset::open(); the clock is not null. Throws nothing.
 using OpenBackend = void (*)(const Settings &settings, Opened &opened);
 
-} // namespace handset
+/// Whether what the backend needs is there now: a modem. Waits for the answer, `longestMs` at most. Throws nothing.
+using IsPresent = bool (*)(int longestMs);
+/// As handset::awaitModem(), of this backend's daemon alone. Throws nothing.
+using Await = void (*)(const std::function<void()> &here, Awaited &awaited);
 
-/// Whether what the backend needs is there now: a modem. Waits for the answer, a second at most.
-using IsPresent = bool (*)();
+} // namespace handset
 
 /// To stand once in a backend's library, outside every namespace: `open` is an
 /// `handset::Opened open(const handset::Settings &)`.
@@ -28,9 +30,14 @@ using IsPresent = bool (*)();
         opened = open(settings);                                                                                  \
     }
 
-/// May stand beside it: `isPresent` is a `bool isPresent()`. A backend without it is used only by its name.
-#define KAV_HANDSET_PRESENCE(isPresent)                                                                           \
-    extern "C" Q_DECL_EXPORT bool kavHandsetIsPresent()                                                           \
+/// May stand beside it: `isPresent` is a `bool isPresent(int longestMs)`, `await` a
+/// `handset::Awaited await(const std::function<void()> &here)`. A backend without it is used only by its name.
+#define KAV_HANDSET_PRESENCE(isPresent, await)                                                                    \
+    extern "C" Q_DECL_EXPORT bool kavHandsetIsPresent(int longestMs)                                              \
     {                                                                                                             \
-        return isPresent();                                                                                       \
+        return isPresent(longestMs);                                                                              \
+    }                                                                                                             \
+    extern "C" Q_DECL_EXPORT void kavHandsetAwait(const std::function<void()> &here, handset::Awaited &awaited)   \
+    {                                                                                                             \
+        awaited = await(here);                                                                                    \
     }

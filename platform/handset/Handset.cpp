@@ -21,6 +21,7 @@
 #include <array>
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace handset {
 
@@ -51,6 +52,14 @@ Opened cannotBeUsed(const QString &library, const QString &reason)
 void *load(const QString &library)
 {
     return ::dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+}
+
+// What the library of a backend has under that name; null where there is none.
+template <typename Function>
+Function exported(const Backend &backend, const char *name)
+{
+    void *const handle = backend.library ? load(QString::fromLatin1(backend.library)) : nullptr;
+    return handle ? reinterpret_cast<Function>(::dlsym(handle, name)) : nullptr;
 }
 
 Opened openFrom(const QString &library, const Settings &settings)
@@ -147,23 +156,39 @@ QStringList backendNames()
     return names;
 }
 
-QString presentBackend()
+QString presentBackend(const Patience &patience)
 {
     for (const Backend &backend : backends) {
-        void *const handle = backend.library ? load(QString::fromLatin1(backend.library)) : nullptr;
-        const auto isPresent =
-            handle ? reinterpret_cast<IsPresent>(::dlsym(handle, "kavHandsetIsPresent")) : nullptr;
-        if (isPresent && isPresent())
+        const auto isPresent = exported<IsPresent>(backend, "kavHandsetIsPresent");
+        if (isPresent && isPresent(patience.operation))
             return QString::fromLatin1(backend.name);
     }
     return QString::fromLatin1(backends.front().name);
+}
+
+Awaited awaitModem(const std::function<void(const QString &backend)> &here)
+{
+    const auto watches = std::make_shared<std::vector<std::shared_ptr<void>>>();
+    QString error = QStringLiteral("There is no telephone that has a modem.");
+    for (const Backend &backend : backends) {
+        const auto await = exported<Await>(backend, "kavHandsetAwait");
+        if (!await)
+            continue;
+        Awaited awaited;
+        await([here, name = QString::fromLatin1(backend.name)] { here(name); }, awaited);
+        if (awaited.watch)
+            watches->push_back(std::move(awaited.watch));
+        else
+            error = awaited.error;
+    }
+    return watches->empty() ? Awaited{nullptr, error} : Awaited{watches, {}};
 }
 
 Opened open(const Settings &settings)
 {
     if (settings.backend == QLatin1String("auto")) {
         Settings found = settings;
-        found.backend = presentBackend();
+        found.backend = presentBackend(settings.patience);
         return open(found);
     }
     const auto named = [&](const Backend &backend) { return settings.backend == QLatin1String(backend.name); };

@@ -45,7 +45,8 @@ public:
 };
 
 struct Settings {
-    /// One of backendNames(), "auto" for presentBackend(), or the path of a library that has a backend (handset/Backend.h): with a slash in it.
+    /// One of backendNames(), "auto" for presentBackend(), or the path of a library that has a backend
+    /// (handset/Backend.h): with a slash in it.
     QString backend = QStringLiteral("simulated");
     /// Directory that keeps the state between starts, made when missing; empty keeps it in memory only.
     QString stateDirectory;
@@ -72,9 +73,19 @@ struct Opened {
 /// The names that Settings::backend may have.
 QStringList backendNames();
 
-/// The first backend with a modem that is there now, else "simulated". Waits for the daemons' answers, a second each at
-/// most.
-QString presentBackend();
+/// The first backend with a modem that is there now, else "simulated". Waits for the answer of each daemon that runs,
+/// `patience.operation` at most; one that does not answer in that time counts as one without a modem.
+QString presentBackend(const Patience &patience = {});
+
+/// What waits for a modem, as long as it is kept; or one sentence that says why nothing can be waited for.
+struct Awaited {
+    std::shared_ptr<void> watch;
+    QString error;
+};
+/// Calls `here`, from the event loop, with the name of a backend whose modem is there; more than once for as long as the
+/// watch is kept, which may end with the first call. Nothing wakes up until a daemon says something. An error where
+/// there is no system bus; one that goes later is looked for.
+Awaited awaitModem(const std::function<void(const QString &backend)> &here);
 
 /// Opens a handset. Never throws; a backend name that is not known, a library that has no backend, a state directory that cannot be used, and a
 /// state that has to be made, migrated or replaced while another process uses it, are errors.

@@ -42,6 +42,7 @@ private slots:
     void aHandsetThatKeepsNothingFindsItsStateDirectoryMade();
     void aSecondStartOnTheSameStateIsShownAndRecordsNothing();
     void anUnknownBackendIsSaid();
+    void aTelephoneThatIsChosenByItselfIsTheSimulationWithoutAModem();
     void theTraceIsAppendedToItsFile();
     void theTraceGoesToStandardOutputWhenAskedTo();
     void theTraceIsKeptBesideTheStateByDefault();
@@ -327,6 +328,18 @@ void TestCommandLine::anUnknownBackendIsSaid()
     const HostResult result = showCallTimes({"--state", "none", "--backend", "pigeon"});
     QCOMPARE(result.code, 3);
     QVERIFY2(result.errors.contains("pigeon"), qPrintable(result.errors));
+}
+
+void TestCommandLine::aTelephoneThatIsChosenByItselfIsTheSimulationWithoutAModem()
+{
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    const HostResult result = showCallTimes({"--state", path("state"), "--backend", "auto"});
+    const HostResult named = showCallTimes({"--state", path("state"), "--backend", "ofono"});
+    qunsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    QVERIFY(hasMeterTrace(contents("state/trace.log")));
+    QCOMPARE(named.code, 3);
+    QVERIFY2(named.errors.contains("There is no system bus: "), qPrintable(named.errors));
 }
 
 void TestCommandLine::theTraceIsAppendedToItsFile()

@@ -1,14 +1,19 @@
 // The recorder, run as its unit runs it.
 #include "handset/HandsetTestKit.h"
 #include "handset/modemmanager/FakeModemManager.h"
+#include "handset/ofono/FakeOfono.h"
 #include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
+
+#include <QtDBus/QDBusConnection>
+#include <QtDBus/QDBusConnectionInterface>
 
 #include <csignal>
 
@@ -22,23 +27,29 @@ const QString bearer = QStringLiteral("/org/freedesktop/ModemManager1/Bearer/1")
 
 constexpr int limitMs = 60'000; ///< no wait is that long, however busy the machine is
 
-/// A recorder with a daemon, a bus and a state directory of its own.
+/// A recorder with a daemon, a bus and a state directory of its own, and without a window system.
 class Bench
 {
 public:
     Bench()
         : fake(bus.address())
+        , watcher(QDBusConnection::connectToBus(bus.address(), QStringLiteral("watcher")))
     {
         endWithParent(recorder);
         fake.addModem(fake.modem);
         fake.appear();
     }
 
+    ~Bench() { QDBusConnection::disconnectFromBus(watcher.name()); }
+    Q_DISABLE_COPY_MOVE(Bench)
+
     void start(const QStringList &more = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), bus.address());
         environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(name));
         recorder.setProcessEnvironment(environment);
         recorder.start(QStringLiteral(KAV_RECORDER), QStringList{QStringLiteral("--state"), state.path()} + more);
     }
@@ -61,9 +72,16 @@ public:
         ::kill(static_cast<pid_t>(recorder.processId()), signal);
         QTRY_COMPARE_WITH_TIMEOUT(recorder.state(), QProcess::NotRunning, limitMs);
     }
-    QString calls() const
+    /// How many connections the bus has, that of the one who asks included.
+    qsizetype connections() const
     {
-        return value(QStringLiteral("SELECT group_concat(state, ' ') FROM calls")).toString();
+        const QStringList names = watcher.interface()->registeredServiceNames();
+        return names.filter(QRegularExpression(QStringLiteral("^:"))).size();
+    }
+    QString calls() const { return all(QStringLiteral("state")); }
+    QString all(const QString &column) const
+    {
+        return value(QStringLiteral("SELECT group_concat(%1, ' ') FROM calls").arg(column)).toString();
     }
     qint64 countedMs() const { return value(QStringLiteral("SELECT sum(duration_ms) FROM calls")).toLongLong(); }
     QVariant value(const QString &query) const
@@ -73,6 +91,7 @@ public:
 
     PrivateBus bus;
     FakeModemManager fake;
+    QDBusConnection watcher;
     StateDir state;
     QProcess recorder;
 };
@@ -102,11 +121,16 @@ private slots:
     void aSignalEndsItWithWhatRunsWritten_data();
     void aSignalEndsItWithWhatRunsWritten();
     void aCallInWhichItIsKilledIsNotCountedTwice();
+    void aCallThatRanBeforeCountsFromItsStart();
+    void aCallThatRanBeforeCountsFromNowOnWhereNobodyKnowsItsStart();
     void itGoesOnWhenTheDaemonHasBeenRestarted();
+    void itGoesOnWhenTheModemHasBeenUnplugged();
     void itGoesOnWhenTheBusHasBeenRestarted();
     void itSendsTheUpdateBroadcast();
     void nothingWakesItUpWhileNothingRuns();
+    void withoutAModemItWaitsForOne_data();
     void withoutAModemItWaitsForOne();
+    void aSignalEndsTheWait();
     void withoutABusItSaysSo();
     void theCommandLineIsChecked_data();
     void theCommandLineIsChecked();
@@ -161,8 +185,59 @@ void TestRecorder::aCallInWhichItIsKilledIsNotCountedTwice()
     bench.fake.moveCall(call, Terminated);
     QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("3 1"), limitMs);
     QVERIFY(bench.countedMs() <= connected.elapsed());
-    QCOMPARE(bench.value(QStringLiteral("SELECT group_concat(late, ' ') FROM calls")).toString(),
-             QStringLiteral("0 1"));
+    QCOMPARE(bench.all(QStringLiteral("late")), QStringLiteral("0 1"));
+    bench.end(SIGTERM);
+}
+
+void TestRecorder::aCallThatRanBeforeCountsFromItsStart()
+{
+    Bench bench;
+    FakeOfono ofono(bench.bus.address());
+    ofono.setInterfaces({QStringLiteral("VoiceCallManager")});
+    constexpr qint64 agoMs = 100'000;
+    const QDateTime start = QDateTime::currentDateTimeUtc().addMSecs(-agoMs);
+    ofono.addCall(FakeOfono::modem + QStringLiteral("/voicecall01"),
+                  {{QStringLiteral("State"), QStringLiteral("active")},
+                   {QStringLiteral("LineIdentification"), QStringLiteral("5550123")},
+                   {QStringLiteral("StartTime"), start.toString(QStringLiteral("yyyy-MM-ddThh:mm:ss+0000"))}});
+    ofono.appear();
+    bench.start({QStringLiteral("--backend"), QStringLiteral("ofono")});
+    QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("0"), limitMs);
+    bench.end(SIGTERM);
+    // The start is told in whole seconds.
+    const qint64 sinceStartMs = start.msecsTo(QDateTime::currentDateTimeUtc());
+    QVERIFY(bench.countedMs() >= agoMs);
+    QVERIFY(bench.countedMs() <= sinceStartMs + 1'000);
+    QCOMPARE(bench.all(QStringLiteral("late")), QStringLiteral("0"));
+}
+
+void TestRecorder::aCallThatRanBeforeCountsFromNowOnWhereNobodyKnowsItsStart()
+{
+    Bench bench;
+    bench.fake.addCall(call, Incoming, Active, QStringLiteral("5550123"), false);
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    bench.start();
+    QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("0"), limitMs);
+    bench.end(SIGTERM);
+    QVERIFY(bench.countedMs() <= sinceStart.elapsed());
+    QCOMPARE(bench.all(QStringLiteral("late")), QStringLiteral("1"));
+}
+
+void TestRecorder::itGoesOnWhenTheModemHasBeenUnplugged()
+{
+    Bench bench;
+    bench.startAndSettle();
+    bench.beginCall(call);
+    bench.fake.removeModem(bench.fake.modem);
+    QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("1"), limitMs);
+    bench.fake.callPaths.clear();
+    bench.fake.asked.clear();
+    bench.fake.modem = QStringLiteral("/org/freedesktop/ModemManager1/Modem/1");
+    bench.fake.addModem(bench.fake.modem);
+    QTRY_VERIFY_WITH_TIMEOUT(bench.fake.asked.contains(QStringLiteral("ListCalls")), limitMs);
+    bench.beginCall(other);
+    QCOMPARE(bench.calls(), QStringLiteral("1 0"));
     bench.end(SIGTERM);
 }
 
@@ -249,16 +324,60 @@ void TestRecorder::nothingWakesItUpWhileNothingRuns()
     bench.end(SIGTERM);
 }
 
+void TestRecorder::withoutAModemItWaitsForOne_data()
+{
+    QTest::addColumn<QString>("backend");
+    QTest::addColumn<bool>("isOfono");
+    QTest::newRow("of ModemManager") << QStringLiteral("modemmanager") << false;
+    QTest::newRow("of oFono") << QStringLiteral("ofono") << true;
+    QTest::newRow("of whichever it will be, and it is ModemManager") << QStringLiteral("auto") << false;
+    QTest::newRow("of whichever it will be, and it is oFono") << QStringLiteral("auto") << true;
+}
+
 void TestRecorder::withoutAModemItWaitsForOne()
+{
+    QFETCH(QString, backend);
+    QFETCH(bool, isOfono);
+    Bench bench;
+    FakeOfono ofono(bench.bus.address());
+    ofono.setInterfaces({QStringLiteral("VoiceCallManager")});
+    bench.fake.vanish();
+    const qsizetype before = bench.connections();
+    bench.start({QStringLiteral("--backend"), backend});
+    const int daemonsAwaited = backend == QLatin1String("auto") ? 2 : 1; // the question before has one connection
+    QTRY_VERIFY_WITH_TIMEOUT(bench.connections() >= before + daemonsAwaited, limitMs);
+    if (isOfono)
+        ofono.appear();
+    else
+        bench.fake.appear();
+    const QString asksForCalls = QStringLiteral("VoiceCallManager.GetCalls");
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(bench.state.database()), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(bench.fake.asked.contains(QStringLiteral("ListCalls")) ||
+                                 !ofono.asked.filter(asksForCalls).isEmpty(),
+                             limitMs);
+    if (isOfono) {
+        const QString path = FakeOfono::modem + QStringLiteral("/voicecall01");
+        ofono.addCall(path, {{QStringLiteral("State"), QStringLiteral("incoming")}});
+        ofono.setCall(path, "State", QStringLiteral("active"));
+        QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("0"), limitMs);
+    } else {
+        bench.beginCall(call);
+    }
+    bench.end(SIGTERM);
+    QCOMPARE(bench.recorder.exitCode(), 0);
+}
+
+void TestRecorder::aSignalEndsTheWait()
 {
     Bench bench;
     bench.fake.vanish();
+    const qsizetype before = bench.connections();
     bench.start();
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(bench.state.database()), limitMs);
-    bench.fake.appear();
-    QTRY_VERIFY_WITH_TIMEOUT(bench.fake.asked.contains(QStringLiteral("ListCalls")), limitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(bench.connections() >= before + 2, limitMs);
     bench.end(SIGTERM);
+    QCOMPARE(bench.recorder.exitStatus(), QProcess::NormalExit);
     QCOMPARE(bench.recorder.exitCode(), 0);
+    QVERIFY(!QFile::exists(bench.state.database())); // nothing is held meanwhile
 }
 
 void TestRecorder::withoutABusItSaysSo()
@@ -285,6 +404,11 @@ void TestRecorder::theCommandLineIsChecked_data()
         << QStringList{QStringLiteral("now")} << 2 << QStringLiteral("See kavcallrecorder --help.");
     QTest::newRow("an empty backend") << QStringList{QStringLiteral("--backend"), QString()} << 2
                                       << QStringLiteral("See kavcallrecorder --help.");
+    QTest::newRow("a state directory that cannot be used")
+        << QStringList{QStringLiteral("--state"), QStringLiteral("/dev/null/state")} << 3
+        << QStringLiteral("cannot be used");
+    QTest::newRow("what its exit codes mean")
+        << QStringList{QStringLiteral("--help")} << 0 << QStringLiteral("Exit codes:");
     QTest::newRow("a telephone that there is not")
         << QStringList{QStringLiteral("--backend"), QStringLiteral("tin")} << 3
         << QStringLiteral("There is no telephone named \"tin\"");

@@ -24,9 +24,8 @@ QString systemBusAddress()
 }
 
 QDBusMessage askAndWait(const QString &service, const QString &path, const QString &interface,
-                        const QString &method)
+                        const QString &method, int longestMs)
 {
-    constexpr int longestMs = 1'000;
     const QString name = QStringLiteral("kav-presence");
     QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, method);
     question.setAutoStartService(false);
@@ -62,7 +61,8 @@ bool BusDaemon::start()
 bool BusDaemon::connectToBus()
 {
     static int made = 0;
-    connectionName = QStringLiteral("kav-daemon-%1").arg(++made);
+    // Each library of a backend counts for itself, and a connection of the same name would be the same one.
+    connectionName = QStringLiteral("kav-%1-%2").arg(service).arg(++made);
     connection = QDBusConnection::connectToBus(busAddress, connectionName);
     if (!connection.isConnected()) {
         whyNot = connection.lastError().message();

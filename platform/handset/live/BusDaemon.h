@@ -13,10 +13,10 @@ namespace handset::live {
 /// Where the system bus is: DBUS_SYSTEM_BUS_ADDRESS, or the place that every distribution gives it.
 QString systemBusAddress();
 
-/// What an object of a daemon that runs answers to a method without arguments; an error where none does within a second.
-/// The one question that is waited for, before there is a handset.
+/// What an object of a daemon that runs answers to a method without arguments; an error where none does within
+/// `longestMs`. The one question that is waited for, before there is a handset.
 QDBusMessage askAndWait(const QString &service, const QString &path, const QString &interface,
-                        const QString &method);
+                        const QString &method, int longestMs);
 
 /// How long what is asked of a daemon may take, in ms.
 struct Patience {

@@ -143,6 +143,21 @@ void LiveHandset::checkBeside(const QString &file, const std::function<void(cons
     check = std::make_unique<calllog::CheckBeside>(ledger->connection(), file, tell);
 }
 
+// Queued: whoever is called may end the wait.
+Awaited await(std::unique_ptr<Modem> modem, const std::function<void()> &here)
+{
+    if (const QString error = modem->connectToBus(); !error.isEmpty())
+        return {nullptr, error};
+    const std::shared_ptr<Modem> awaited = std::move(modem);
+    const auto tell = [modem = awaited.get(), here] {
+        if (modem->state().isThere)
+            here();
+    };
+    QObject::connect(awaited.get(), &Modem::stateChanged, awaited.get(), tell, Qt::QueuedConnection);
+    awaited->start();
+    return {awaited, {}};
+}
+
 Opened open(const Settings &settings, std::unique_ptr<Modem> modem)
 {
     return open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {

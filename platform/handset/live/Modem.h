@@ -61,6 +61,8 @@ public:
     /// The daemon: "ModemManager".
     virtual QString daemon() const = 0;
     virtual ModemState state() const = 0;
+    /// Looks for the bus; an error, in words, where there is none. start() does that where it was not done before.
+    virtual QString connectToBus() { return {}; }
     /// Begins to look. What is there already is reported through the event loop.
     virtual void start() = 0;
 

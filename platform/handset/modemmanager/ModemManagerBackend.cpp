@@ -15,9 +15,14 @@ Opened open(const Settings &settings)
     return live::open(settings, std::move(modem));
 }
 
+Awaited await(const std::function<void()> &here)
+{
+    return live::await(std::make_unique<ModemManagerModem>(), here);
+}
+
 } // namespace
 
 } // namespace handset::modemmanager
 
 KAV_HANDSET_BACKEND(handset::modemmanager::open)
-KAV_HANDSET_PRESENCE(handset::modemmanager::isModemPresent)
+KAV_HANDSET_PRESENCE(handset::modemmanager::isModemPresent, handset::modemmanager::await)

@@ -56,10 +56,10 @@ QString lockInWords(quint32 lock)
 
 } // namespace
 
-bool isModemPresent()
+bool isModemPresent(int longestMs)
 {
-    const auto objects =
-        objectsIn(live::askAndWait(serviceName, rootPath, objectManager, QStringLiteral("GetManagedObjects")));
+    const auto objects = objectsIn(
+        live::askAndWait(serviceName, rootPath, objectManager, QStringLiteral("GetManagedObjects"), longestMs));
     return objects && std::any_of(objects->begin(), objects->end(), [](const Interfaces &interfaces) {
                return interfaces.contains(modemInterface);
            });

@@ -16,7 +16,7 @@ class Bearers;
 class VoiceCalls;
 
 /// Whether the daemon runs and has a modem. Waits, as live::askAndWait().
-bool isModemPresent();
+bool isModemPresent(int longestMs);
 
 /// The first modem that has calls, or else the first one; then that one until it goes. Costs are not the daemon's, nor is
 /// PIN2.
@@ -28,11 +28,9 @@ public:
     explicit ModemManagerModem(const QString &address = live::systemBusAddress(), live::Patience patience = {});
     ~ModemManagerModem() override;
 
-    /// Looks for the bus; an error, in words, where there is none. start() does that where it was not done before.
-    QString connectToBus();
-
     QString daemon() const override { return QStringLiteral("ModemManager"); }
     live::ModemState state() const override;
+    QString connectToBus() override;
     void start() override;
     int dial(const QString &number) override;
     int answer(const QString &id) override;

@@ -2,16 +2,29 @@
 #include "handset/Backend.h"
 #include "ofono/OfonoHandset.h"
 
+namespace handset::ofono {
+
 namespace {
 
-handset::Opened openOfono(const handset::Settings &settings)
+// A daemon that is not there yet is waited for; a bus that is not there is an error at the start alone.
+Opened open(const Settings &settings)
 {
-    return handset::live::open(settings, [&](std::unique_ptr<handset::calllog::Ledger> ledger) {
-        return std::make_shared<handset::ofono::OfonoHandset>(std::move(ledger), settings.clock,
-                                                              std::make_unique<handset::ofono::OfonoModem>());
+    auto modem = std::make_unique<OfonoModem>();
+    if (const QString error = modem->connectToBus(); !error.isEmpty())
+        return {nullptr, error, {}};
+    return live::open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {
+        return std::make_shared<OfonoHandset>(std::move(ledger), settings.clock, std::move(modem));
     });
+}
+
+Awaited await(const std::function<void()> &here)
+{
+    return live::await(std::make_unique<OfonoModem>(), here);
 }
 
 } // namespace
 
-KAV_HANDSET_BACKEND(openOfono)
+} // namespace handset::ofono
+
+KAV_HANDSET_BACKEND(handset::ofono::open)
+KAV_HANDSET_PRESENCE(handset::ofono::isModemPresent, handset::ofono::await)

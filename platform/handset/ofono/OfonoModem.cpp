@@ -64,6 +64,13 @@ std::optional<CallPhase> phaseOf(const QString &state)
     return found == names.end() ? std::nullopt : std::optional(found->second);
 }
 
+// The daemon has said nothing; it may be there all the same.
+bool isNoAnswer(const QDBusError &error)
+{
+    return error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout ||
+           error.type() == QDBusError::TimedOut;
+}
+
 // What the daemon says of its errors is for programmers.
 QString reasonOf(const QDBusError &error)
 {
@@ -76,7 +83,7 @@ QString reasonOf(const QDBusError &error)
         {QStringLiteral("NotRegistered"), QStringLiteral("there is no network")},
         {QStringLiteral("AccessDenied"), QStringLiteral("this user may not")},
     };
-    if (error.type() == QDBusError::NoReply || error.type() == QDBusError::Timeout)
+    if (isNoAnswer(error))
         return QStringLiteral("it does not answer");
     const QString name = error.name().section(QLatin1Char('.'), -1);
     return reasons.value(name, QStringLiteral("it failed (%1)").arg(name));
@@ -99,6 +106,14 @@ QString pathOf(const QVariant &argument)
 
 } // namespace
 
+bool isModemPresent(int longestMs)
+{
+    const QDBusMessage answer = live::askAndWait(QLatin1String(serviceName), QStringLiteral("/"),
+                                                 fullName("Manager"), QStringLiteral("GetModems"), longestMs);
+    return answer.type() == QDBusMessage::ReplyMessage && answer.signature() == QLatin1String("a(oa{sv})") &&
+           !qdbus_cast<Objects>(answer.arguments().constFirst()).isEmpty();
+}
+
 OfonoModem::OfonoModem(const live::Patience &howPatient)
     : patience(howPatient)
     , service(QLatin1String(serviceName), live::systemBusAddress(), howPatient.reconnectMs)
@@ -111,9 +126,16 @@ OfonoModem::OfonoModem(const live::Patience &howPatient)
 
 // --- the daemon
 
+QString OfonoModem::connectToBus()
+{
+    isStarted = true;
+    return service.start() ? QString() : QStringLiteral("There is no system bus: %1").arg(service.error());
+}
+
 void OfonoModem::start()
 {
-    service.start();
+    if (!isStarted)
+        connectToBus();
 }
 
 void OfonoModem::appeared()
@@ -219,10 +241,15 @@ void OfonoModem::propertyHeard(const QString &interface, const QString &path, co
 
 // --- modems
 
+// Until it is answered, by this daemon.
 void OfonoModem::askForModems()
 {
     whenAnswered(proxy<OrgOfonoManagerInterface>(QStringLiteral("/"))->GetModems(), serviceLife.get(),
                  [this](const QDBusPendingReply<Objects> &answer) {
+                     if (answer.isError() && isNoAnswer(answer.error())) {
+                         askForModems();
+                         return;
+                     }
                      if (answer.isError()) {
                          properties.warn(QStringLiteral("its modems"));
                          return;

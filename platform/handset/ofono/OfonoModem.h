@@ -16,6 +16,9 @@
 
 namespace handset::ofono {
 
+/// Whether the daemon runs and has a modem. Waits, as live::askAndWait().
+bool isModemPresent(int longestMs);
+
 /// The first modem that is online, or else the first; it stays the one until it is gone, or offline while another is
 /// online. All is told by signals, which are asked for before the lists that they change. What is asked goes to the
 /// daemon's unique name: an answer of one that has ended never counts for the next.
@@ -28,6 +31,7 @@ public:
 
     QString daemon() const override { return QStringLiteral("oFono"); }
     live::ModemState state() const override;
+    QString connectToBus() override;
     void start() override;
     int dial(const QString &number) override;
     int answer(const QString &id) override;
@@ -128,6 +132,7 @@ private:
 
     const live::Patience patience;
     live::BusDaemon service;
+    bool isStarted = false;
     std::unique_ptr<QObject> serviceLife; ///< of what is asked of this daemon; so the next three
     std::unique_ptr<QObject> voice;
     std::unique_ptr<QObject> data;

@@ -43,6 +43,7 @@ private slots:
     void allIsLostWhenTheModemIsRemoved();
     void allIsLostWhenTheDaemonEnds();
     void anAnswerOfADaemonThatHasEndedIsNotTheNextOnes();
+    void aDaemonThatAnswersLateIsAskedAgain();
     void aBusThatIsCutAndComesBack();
     void theModemThatIsOnlineIsTheOne();
     void aModemThatIsOfflineStaysWhileNoOtherIsOnline();
@@ -254,6 +255,18 @@ void TestModem::anAnswerOfADaemonThatHasEndedIsNotTheNextOnes()
     desk.fake.addCall(one, callIn("incoming"));
     QTRY_VERIFY(desk.heard->last().startsWith("voicecall01 incoming"));
     QCOMPARE(desk.fake.asked.count("Manager.GetModems"), 2);
+}
+
+void TestModem::aDaemonThatAnswersLateIsAskedAgain()
+{
+    OfonoDesk desk({200, 60'000, 100});
+    desk.fake.setInterfaces({"VoiceCallManager"});
+    desk.fake.silent.insert("Manager.GetModems");
+    desk.start();
+    QTRY_VERIFY_WITH_TIMEOUT(desk.fake.asked.count("Manager.GetModems") > 1, 60'000);
+    desk.fake.silent.clear();
+    desk.fake.addCall(one, callIn("incoming"));
+    QTRY_VERIFY_WITH_TIMEOUT(desk.heard->last().startsWith("voicecall01 incoming"), 60'000);
 }
 
 void TestModem::aBusThatIsCutAndComesBack()
