@@ -26,6 +26,7 @@ namespace {
 
 constexpr int patience = 60'000;
 constexpr QRect displayRect(50, 72, 240, 320); // of the phone, in a window at the top-left corner
+constexpr int movesOfTheFocus = 1501;          // more than a socket holds word of
 constexpr char sessionVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 constexpr char accessibilityVariable[] = "AT_SPI_BUS_ADDRESS";
 constexpr char sessionNotice[] = "The session bus does not answer";
@@ -87,6 +88,8 @@ private slots:
     void cleanup();
     void aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd_data();
     void aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd();
+    void aSessionBusThatFallsSilentOnTheWayHoldsUpNoWindow_data();
+    void aSessionBusThatFallsSilentOnTheWayHoldsUpNoWindow();
     void aHaltedSessionBusHoldsUpNoWindowAndIsUsedWhenItGoesOn();
     void theSilentBusOfAUsersSessionHoldsUpNothing();
     void aSecretThatNobodyTellsHoldsUpNothing();
@@ -94,6 +97,8 @@ private slots:
     void aPhotographIsTakenBesideASilentSessionBus();
     void aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd_data();
     void aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd();
+    void aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd_data();
+    void aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd();
     void busesThatAnswerAreLeftToQt_data();
     void busesThatAnswerAreLeftToQt();
 
@@ -141,7 +146,9 @@ void TestSilentBuses::start(const QStringList &arguments)
 // The window is there, and the menu painted in it.
 void TestSilentBuses::verifyWindow()
 {
-    QVERIFY(runTool({"search", "--sync", "--onlyvisible", "--name", "^Recent Calls$", "windowmove", "0", "0"}));
+    // Without a window manager the focus is given by hand.
+    QVERIFY(runTool({"search", "--sync", "--onlyvisible", "--name", "^Recent Calls$", "windowmove", "0", "0",
+                     "windowfocus", "--sync"}));
     const QImage menu(QStringLiteral(KAV_REFERENCES "/menu.png"));
     QVERIFY(!menu.isNull());
     QVERIFY(QTest::qWaitFor([&] { return difference(photograph(), menu).isSmall(); }, patience));
@@ -204,6 +211,29 @@ void TestSilentBuses::aSilentSessionBusHoldsUpNeitherTheWindowNorItsEnd()
     start();
     verifyWindow();
     verifyEnd(sessionNotice);
+}
+
+void TestSilentBuses::aSessionBusThatFallsSilentOnTheWayHoldsUpNoWindow_data()
+{
+    QTest::addColumn<QByteArray>("word");
+    QTest::newRow("when it is asked for a name") << QByteArray("Hello");
+    QTest::newRow("when it is asked for messages") << QByteArray("AddMatch");
+}
+
+void TestSilentBuses::aSessionBusThatFallsSilentOnTheWayHoldsUpNoWindow()
+{
+    QFETCH(QByteArray, word);
+    const PrivateBus bus;
+    QVERIFY(bus.isRunning());
+    const BusRelay relay(bus.address(), word);
+    environment.insert(sessionVariable, relay.address());
+    start();
+    verifyWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(relay.isHolding(), patience);
+    QCOMPARE(::kill(static_cast<pid_t>(host->processId()), SIGTERM), 0);
+    QVERIFY(host->waitForFinished(patience));
+    QCOMPARE(host->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host->exitCode(), 0);
 }
 
 void TestSilentBuses::aHaltedSessionBusHoldsUpNoWindowAndIsUsedWhenItGoesOn()
@@ -299,6 +329,41 @@ void TestSilentBuses::aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd()
     QVERIFY(!registry || registry->isRegistered());
     startWhereBusesAnswer(accessibilityNotice);
     verifyEnd(accessibilityNotice);
+}
+
+void TestSilentBuses::aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd_data()
+{
+    QTest::addColumn<bool>("isSession");
+    QTest::newRow("the session bus") << true;
+    QTest::newRow("the accessibility bus") << false;
+}
+
+// Keys move the focus, which Qt tells the accessibility bus as long as that takes it, and then must keep.
+void TestSilentBuses::aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd()
+{
+    QFETCH(bool, isSession);
+    PrivateBus session;
+    PrivateBus accessibility;
+    QVERIFY(session.isRunning() && accessibility.isRunning());
+    announce(accessibility.address().toLatin1());
+    const qsizetype before = namesOn(accessibility.address());
+    environment.insert(sessionVariable, session.address());
+    environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+    start();
+    verifyWindow();
+    QTRY_VERIFY_WITH_TIMEOUT(namesOn(accessibility.address()) > before, patience);
+    PrivateBus &silent = isSession ? session : accessibility;
+    silent.halt();
+
+    // An odd number of them, so that another line is chosen at their end.
+    QStringList moves{"key", "--delay", "1"};
+    for (int key = 0; key < movesOfTheFocus; ++key)
+        moves << (key % 2 == 0 ? "Down" : "Up");
+    QVERIFY(runTool(moves));
+    const QImage menu(QStringLiteral(KAV_REFERENCES "/menu.png"));
+    QVERIFY(QTest::qWaitFor([&] { return !difference(photograph(), menu).isSmall(); }, patience));
+    verifyEnd("");
+    silent.goOn();
 }
 
 void TestSilentBuses::busesThatAnswerAreLeftToQt_data()
