@@ -3,6 +3,8 @@
 #include "support/TestGroup.h"
 
 #include <QtCore/QDateTime>
+#include <QtCore/QProcess>
+#include <QtCore/QUuid>
 
 #include <ctime>
 
@@ -17,6 +19,7 @@ private slots:
 
     void theMonotonicClockNeverGoesBack();
     void theMonotonicClockCountsThroughSuspend();
+    void theBootIsTheKernelsInEveryProcess();
     void theWallClockIsUtcInEveryTimeZone_data();
     void theWallClockIsUtcInEveryTimeZone();
     void aManualClockStandsStillUntilItIsMoved();
@@ -43,6 +46,18 @@ void TestClock::theMonotonicClockCountsThroughSuspend()
     QCOMPARE(::clock_gettime(CLOCK_BOOTTIME, &after), 0);
     QVERIFY(reading >= qint64{before.tv_sec} * 1000 + before.tv_nsec / 1'000'000);
     QVERIFY(reading <= qint64{after.tv_sec} * 1000 + after.tv_nsec / 1'000'000);
+}
+
+// As another program reads it, and without the end of the line: it is compared with what a row has kept.
+void TestClock::theBootIsTheKernelsInEveryProcess()
+{
+    QProcess reader;
+    reader.start(QStringLiteral("/bin/cat"), {QStringLiteral("/proc/sys/kernel/random/boot_id")});
+    QVERIFY(reader.waitForFinished(60'000));
+    const QByteArray boot = reader.readAllStandardOutput().trimmed();
+    QVERIFY(!QUuid(QString::fromLatin1(boot)).isNull());
+    QCOMPARE(SystemClock().boot(), boot);
+    QCOMPARE(SteadyClock(std::make_shared<SystemClock>()).boot(), boot);
 }
 
 void TestClock::theWallClockIsUtcInEveryTimeZone_data()
