@@ -9,13 +9,14 @@
 class BusProbe;
 
 /// Keeps Qt from buses that take a connection and then say nothing, a halted daemon's for instance. Qt waits for such a
-/// bus without end, for the session bus when the application object is made (themes) and for the accessibility bus when
-/// the first widget is. A program with windows has one guard, made in main() before its application object.
+/// bus without end, for the session bus and that of the input method when the application object is made (themes), and
+/// for the accessibility bus when the first widget is. A program with windows has one guard, made in main() before its application object.
 class BusGuard
 {
 public:
     /// Asks the session bus, and waits for it a quarter of a second at most. Where it does not answer, Qt is told that
-    /// there is none; channels (QCopChannel) go on looking for it. While the process has no other thread.
+    /// there is none; channels (QCopChannel) go on looking for it. The same for the bus of the input method that
+    /// QT_IM_MODULE asks for: where that is silent, Qt takes its own. While the process has no other thread.
     BusGuard();
     ~BusGuard();
     BusGuard(const BusGuard &) = delete;
@@ -31,6 +32,7 @@ public:
 
 private:
     void askSession(const QByteArray &addresses);
+    void askInputMethod();
     bool isAccessibilitySilent(const QByteArray &announced) const;
     void giveUp(const char *bus);
 

@@ -8,6 +8,7 @@
 #include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
@@ -99,6 +100,8 @@ private slots:
     void aSilentAccessibilityBusHoldsUpNeitherTheWindowNorItsEnd();
     void aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd_data();
     void aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd();
+    void aSilentInputMethodHoldsUpNeitherTheWindowNorItsEnd_data();
+    void aSilentInputMethodHoldsUpNeitherTheWindowNorItsEnd();
     void busesThatAnswerAreLeftToQt_data();
     void busesThatAnswerAreLeftToQt();
 
@@ -364,6 +367,37 @@ void TestSilentBuses::aBusThatFallsSilentInUseHoldsUpNeitherAKeyNorTheEnd()
     QVERIFY(QTest::qWaitFor([&] { return !difference(photograph(), menu).isSmall(); }, patience));
     verifyEnd("");
     silent.goOn();
+}
+
+void TestSilentBuses::aSilentInputMethodHoldsUpNeitherTheWindowNorItsEnd_data()
+{
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("whose address is where it usually is") << false;
+    QTest::newRow("whose address is in a file that the environment names") << true;
+}
+
+// Qt looks for it where its daemon is installed, and the process that has written the file is there.
+void TestSilentBuses::aSilentInputMethodHoldsUpNeitherTheWindowNorItsEnd()
+{
+    QFETCH(bool, isTold);
+    const FakeBus silent(FakeBus::Silent);
+    QVERIFY(QDir(folder->path()).mkpath("bin") && QDir(folder->path()).mkpath("config/ibus/bus"));
+    QVERIFY(QFile::link("/bin/true", folder->filePath("bin/ibus-daemon")));
+    const QString display = qEnvironmentVariable("DISPLAY").section(':', 1).section('.', 0, 0);
+    const QString usual = "config/ibus/bus/" + QString::fromLatin1(QDBusConnection::localMachineId()) + "-unix-";
+    QFile file(folder->filePath(isTold ? QStringLiteral("address") : usual + display));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("# written by hand\nIBUS_ADDRESS=" + silent.address().toLatin1() +
+               "\nIBUS_DAEMON_PID=" + QByteArray::number(QCoreApplication::applicationPid()) + '\n');
+    file.close();
+    environment.insert("QT_IM_MODULE", "ibus");
+    environment.insert("XDG_CONFIG_HOME", folder->filePath("config"));
+    environment.insert("PATH", folder->filePath("bin") + ':' + environment.value("PATH"));
+    if (isTold)
+        environment.insert("IBUS_ADDRESS_FILE", file.fileName());
+    start();
+    verifyWindow();
+    verifyEnd("The bus of the input method does not answer");
 }
 
 void TestSilentBuses::busesThatAnswerAreLeftToQt_data()
