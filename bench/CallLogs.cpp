@@ -41,19 +41,19 @@ PastCall callAt(int i)
     return call;
 }
 
-Line openLine(const QString &directory)
+BenchedHandset openBenched(const QString &directory)
 {
-    Line line;
-    line.clock = std::make_shared<handset::ManualClock>(firstCallMs);
+    BenchedHandset benched;
+    benched.clock = std::make_shared<handset::ManualClock>(firstCallMs);
     handset::Settings settings;
     settings.stateDirectory = directory;
-    settings.clock = line.clock;
+    settings.clock = benched.clock;
     const handset::Opened opened = handset::open(settings);
-    line.handset = std::dynamic_pointer_cast<handset::simulated::SimulatedHandset>(opened.handset);
-    line.error = line.handset ? opened.notice : opened.error;
-    if (!line.error.isEmpty())
-        line.handset.reset();
-    return line;
+    benched.handset = std::dynamic_pointer_cast<handset::simulated::SimulatedHandset>(opened.handset);
+    benched.error = benched.handset ? opened.notice : opened.error;
+    if (!benched.error.isEmpty())
+        benched.handset.reset();
+    return benched;
 }
 
 void showProgress(int done, int calls)
@@ -85,8 +85,8 @@ QString fill(handset::simulated::SimulatedHandset &handset, int calls)
 
 QString write(const QString &path, int calls)
 {
-    Line line = openLine(path);
-    return line.handset ? fill(*line.handset, calls) : line.error;
+    BenchedHandset benched = openBenched(path);
+    return benched.handset ? fill(*benched.handset, calls) : benched.error;
 }
 
 // Under another name until it is whole.
@@ -200,27 +200,27 @@ int recordAndCrash(const QString &directory)
 {
     constexpr int calls = 50; // which the write-ahead log still holds
     constexpr qint64 callMs = 60'000;
-    const Line line = openLine(directory);
-    int result = line.handset ? 0 : 1;
+    const BenchedHandset benched = openBenched(directory);
+    int result = benched.handset ? 0 : 1;
     for (int i = 0; i <= calls && result == 0; ++i) {
-        result = line.handset->dial(QStringLiteral("+4930555010"), handset::CallKind::Voice);
-        result = result == 0 ? line.handset->remoteAnswer() : result;
-        line.clock->advance(callMs);
-        result = result == 0 ? line.handset->checkpoint() : result;
-        result = result == 0 && i < calls ? line.handset->hangUp() : result;
+        result = benched.handset->dial(QStringLiteral("+4930555010"), handset::CallKind::Voice);
+        result = result == 0 ? benched.handset->remoteAnswer() : result;
+        benched.clock->advance(callMs);
+        result = result == 0 ? benched.handset->checkpoint() : result;
+        result = result == 0 && i < calls ? benched.handset->hangUp() : result;
     }
     if (result == 0)
         ::kill(::getpid(), SIGKILL);
     return EXIT_FAILURE;
 }
 
-Line CallLogs::open(int calls, bool keep)
+BenchedHandset CallLogs::open(int calls, bool keep)
 {
     std::shared_ptr<const QTemporaryDir> where = keep ? kept.value(calls) : nullptr;
     if (!where)
         where = copy(calls);
     if (!where) {
-        Line failed;
+        BenchedHandset failed;
         failed.error = QStringLiteral("%1 cannot be copied.").arg(original(calls, After::Closing));
         return failed;
     }
@@ -229,11 +229,11 @@ Line CallLogs::open(int calls, bool keep)
     return openIn(where);
 }
 
-Line CallLogs::openIn(const std::shared_ptr<const QTemporaryDir> &where)
+BenchedHandset CallLogs::openIn(const std::shared_ptr<const QTemporaryDir> &where)
 {
-    Line line = openLine(where->path());
-    line.directory = where;
-    return line;
+    BenchedHandset benched = openBenched(where->path());
+    benched.directory = where;
+    return benched;
 }
 
 } // namespace bench

@@ -19,7 +19,7 @@ inline constexpr int usualLog = 1'000'000;  ///< of someone who has had the hand
 inline constexpr int largeLog = 10'000'000; ///< built only when it is asked for, and not kept
 
 /// The simulated handset on a log of its own, with a clock that stands still.
-struct Line {
+struct BenchedHandset {
     std::shared_ptr<const QTemporaryDir> directory; ///< goes with the last that uses it
     std::shared_ptr<handset::simulated::SimulatedHandset> handset;
     std::shared_ptr<handset::ManualClock> clock;
@@ -54,10 +54,10 @@ public:
     bool copyTo(const QTemporaryDir &where, int calls, After after = After::Closing) const;
 
     /// A handset on a copy. With `keep` the same copy serves every call of this; it goes on to hold what is recorded.
-    Line open(int calls, bool keep);
+    BenchedHandset open(int calls, bool keep);
 
     /// The handset on the log in `where`.
-    static Line openIn(const std::shared_ptr<const QTemporaryDir> &where);
+    static BenchedHandset openIn(const std::shared_ptr<const QTemporaryDir> &where);
 
 private:
     QString original(int calls, After after) const;

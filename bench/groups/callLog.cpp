@@ -62,18 +62,18 @@ constexpr std::array figures{
 static_assert(figures.size() == 6);
 
 // A call as it is made: two transactions, both on the disk when they are over.
-int recordCall(const Line &line)
+int recordCall(const BenchedHandset &benched)
 {
-    int result = line.handset->dial(QLatin1StringView(number), handset::CallKind::Voice);
+    int result = benched.handset->dial(QLatin1StringView(number), handset::CallKind::Voice);
     if (result == 0)
-        result = line.handset->remoteAnswer();
-    line.clock->advance(callMs);
-    return result == 0 ? line.handset->hangUp() : result;
+        result = benched.handset->remoteAnswer();
+    benched.clock->advance(callMs);
+    return result == 0 ? benched.handset->hangUp() : result;
 }
 
-void query(benchmark::State &state, const Line &line, int (*ask)())
+void query(benchmark::State &state, const BenchedHandset &benched, int (*ask)())
 {
-    handset::install(line.handset);
+    handset::install(benched.handset);
     int failures = ask();
     for (auto _ : state) {
         const Counted counted;
@@ -84,15 +84,15 @@ void query(benchmark::State &state, const Line &line, int (*ask)())
         state.SkipWithError("a query failed");
 }
 
-void record(benchmark::State &state, const Line &line)
+void record(benchmark::State &state, const BenchedHandset &benched)
 {
     int failures = 0;
     for (int i = 0; i < warmUpCalls; ++i)
-        failures += recordCall(line);
+        failures += recordCall(benched);
     for (auto _ : state) {
         const Counted counted;
         for (int i = 0; i < recordedCalls; ++i)
-            failures += recordCall(line);
+            failures += recordCall(benched);
     }
     if (failures != 0)
         state.SkipWithError("a call was not recorded");
@@ -109,31 +109,31 @@ PastCall leanCall(qint64 startWallMs)
 }
 
 // Records the same calls in both logs. Returns what is not the same then.
-QString compare(LeanLog &lean, Line &line)
+QString compare(LeanLog &lean, BenchedHandset &benched)
 {
     for (int i = 0; i < warmUpCalls; ++i) {
-        if (recordCall(line) != 0 || !lean.record(leanCall(line.clock->wallMs() - callMs)))
+        if (recordCall(benched) != 0 || !lean.record(leanCall(benched.clock->wallMs() - callMs)))
             return QStringLiteral("a call was not recorded");
     }
-    line.handset.reset();
-    return lean.difference(line.file());
+    benched.handset.reset();
+    return lean.difference(benched.file());
 }
 
 void recordLean(benchmark::State &state, CallLogs &logs)
 {
-    Line line = logs.open(few, false);
-    if (!line.handset)
-        return state.SkipWithError(qUtf8Printable(line.error));
-    LeanLog lean(line.directory->filePath(QStringLiteral("lean.db")), line.file());
-    const QString fault = lean.error().isEmpty() ? compare(lean, line) : lean.error();
+    BenchedHandset benched = logs.open(few, false);
+    if (!benched.handset)
+        return state.SkipWithError(qUtf8Printable(benched.error));
+    LeanLog lean(benched.directory->filePath(QStringLiteral("lean.db")), benched.file());
+    const QString fault = lean.error().isEmpty() ? compare(lean, benched) : lean.error();
     if (!fault.isEmpty())
         return state.SkipWithError(qUtf8Printable(fault));
     bool isRecorded = true;
     for (auto _ : state) {
         const Counted counted;
         for (int i = 0; i < recordedCalls; ++i) {
-            isRecorded = lean.record(leanCall(line.clock->wallMs())) && isRecorded;
-            line.clock->advance(callMs);
+            isRecorded = lean.record(leanCall(benched.clock->wallMs())) && isRecorded;
+            benched.clock->advance(callMs);
         }
     }
     if (!isRecorded)
@@ -153,14 +153,14 @@ Side side(const Logs &logs, int calls, Work work)
     return {calls == many ? "1,000,000 calls" : "100 calls", [logs, calls, work](benchmark::State &state) {
                 const qsizetype before = threads();
                 // What is recorded makes the small log another one, and nothing of the large one.
-                const Line line = logs->open(calls, calls == many);
-                if (!line.handset)
-                    return state.SkipWithError(qUtf8Printable(line.error));
+                const BenchedHandset benched = logs->open(calls, calls == many);
+                if (!benched.handset)
+                    return state.SkipWithError(qUtf8Printable(benched.error));
                 // The large log is read through beside. As long as that goes on the write-ahead log cannot be emptied,
                 // and every write looks for the end of it: how long that is depends on how busy the machine is.
                 while (threads() > before)
                     QThread::msleep(1);
-                work(state, line);
+                work(state, benched);
             }};
 }
 
@@ -186,7 +186,7 @@ Comparison recordingBesideLean(const Logs &logs)
     Comparison row;
     row.name = "Recording a call, beside lean SQLite";
     row.ours = side(logs, few, &record);
-    row.ours.label = "telephone";
+    row.ours.label = "handset";
     row.beside = {
         {{"C functions of SQLite", [logs](benchmark::State &state) { recordLean(state, *logs); }}, Bar{3, 2}}};
     row.iterations = 1;
@@ -202,7 +202,9 @@ std::vector<Comparison> callLogComparisons(const QString &directory)
     const auto logs = std::make_shared<CallLogs>(directory);
     std::vector<Comparison> comparisons;
     for (const Figure &figure : figures) {
-        const auto work = [&figure](benchmark::State &state, const Line &line) { query(state, line, figure.ask); };
+        const auto work = [&figure](benchmark::State &state, const BenchedHandset &benched) {
+            query(state, benched, figure.ask);
+        };
         comparisons.push_back(manyBesideFew(std::string("Asking for a figure: ") + figure.name, logs, work));
     }
     Comparison recording = manyBesideFew("Recording a call, on the disk", logs, &record);

@@ -24,13 +24,13 @@ constexpr Bar unnoticed{100, 50}; // milliseconds
 
 // The screen of call times. What is on it is looked at when it is painted.
 struct FirstScreen {
-    Line line;
+    BenchedHandset benched;
     std::unique_ptr<PHONE_UI_RecentCallTimesView> view;
 
     bool open(const std::shared_ptr<const QTemporaryDir> &log, Stage &stage)
     {
-        line = CallLogs::openIn(log);
-        handset::install(line.handset);
+        benched = CallLogs::openIn(log);
+        handset::install(benched.handset);
         view = std::make_unique<PHONE_UI_RecentCallTimesView>(&stage, nullptr);
         view->show();
         return stage.paint();
@@ -40,7 +40,7 @@ struct FirstScreen {
     {
         view.reset();
         handset::install(nullptr);
-        line = {};
+        benched = {};
     }
 
     /// What stands beside "Lifetime Calls".
@@ -69,7 +69,7 @@ Side side(const std::string &label, const CallLogs &logs, int calls, After after
                         isThere = screen.open(where, stage);
                     }
                     state.PauseTiming();
-                    isThere = isThere && screen.line.handset && screen.lifetime() != QStringLiteral("00:00:00");
+                    isThere = isThere && screen.benched.handset && screen.lifetime() != QStringLiteral("00:00:00");
                     screen.close();
                     where.reset(); // removing it takes longer than what is measured
                     stage.paint();
