@@ -9,6 +9,8 @@
 #include <cerrno>
 #include <cstring>
 
+#include <memory>
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -53,6 +55,7 @@ private slots:
     void aSecondProcessMovesNothingAside();
     void aSecondHandsetOfThisProcessIsRefusedToo();
     void aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain();
+    void removingTheLockFilesMakesNoSecondRecorder_data();
     void removingTheLockFilesMakesNoSecondRecorder();
 };
 
@@ -392,13 +395,31 @@ void TestStateDirectory::aDirectoryThatWasRenamedWhileInUseCanBeOpenedAgain()
     QCOMPARE(again.figures().dialed, quint64{4});
 }
 
+void TestStateDirectory::removingTheLockFilesMakesNoSecondRecorder_data()
+{
+    QTest::addColumn<QStringList>("removed");
+    QTest::addColumn<bool>("isReaderThere");
+    const QStringList lock{QStringLiteral("lock")};
+    QTest::newRow("that of the directory") << lock << false;
+    QTest::newRow("that of the directory, while another process only reads") << lock << true;
+    QTest::newRow("both") << lock + QStringList{QStringLiteral("recorder")} << false;
+}
+
 void TestStateDirectory::removingTheLockFilesMakesNoSecondRecorder()
 {
+    QFETCH(QStringList, removed);
+    QFETCH(bool, isReaderThere);
     const StateDir state;
     Phone phone(state.path());
     QVERIFY(phone.dial());
-    for (const char *lock : {"lock", "recorder"})
-        QVERIFY(QFile::remove(state.file(QLatin1String(lock))));
+    std::unique_ptr<OtherProcess> reader;
+    if (isReaderThere) {
+        reader = std::make_unique<OtherProcess>(state.path());
+        QCOMPARE(reader->firstLine(), QByteArray("holding"));
+        QCOMPARE(reader->ask("recording"), QByteArray("no"));
+    }
+    for (const QString &lock : removed)
+        QVERIFY(QFile::remove(state.file(lock)));
     OtherProcess holder(state.path());
     QCOMPARE(holder.firstLine(), QByteArray("holding"));
     QCOMPARE(holder.ask("recording"), QByteArray("no"));
