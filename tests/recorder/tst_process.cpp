@@ -1,15 +1,13 @@
 // The recorder, run as its unit runs it.
-#include "handset/HandsetTestKit.h"
 #include "handset/modemmanager/FakeModemManager.h"
 #include "handset/ofono/FakeOfono.h"
-#include "qt/qcop/PrivateBus.h"
+#include "recorder/RecorderProcess.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
-#include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 
 #include <QtDBus/QDBusConnection>
@@ -25,34 +23,21 @@ const QString call = QStringLiteral("/org/freedesktop/ModemManager1/Call/1");
 const QString other = QStringLiteral("/org/freedesktop/ModemManager1/Call/2");
 const QString bearer = QStringLiteral("/org/freedesktop/ModemManager1/Bearer/1");
 
-constexpr int limitMs = 60'000; ///< no wait is that long, however busy the machine is
-
-/// A recorder with a daemon, a bus and a state directory of its own, and without a window system.
-class Bench
+/// A recorder with a daemon and a bus of its own.
+class Bench : public RecorderProcess
 {
 public:
     Bench()
         : fake(bus.address())
         , watcher(QDBusConnection::connectToBus(bus.address(), QStringLiteral("watcher")))
     {
-        endWithParent(recorder);
         fake.addModem(fake.modem);
         fake.appear();
     }
-
     ~Bench() { QDBusConnection::disconnectFromBus(watcher.name()); }
     Q_DISABLE_COPY_MOVE(Bench)
 
-    void start(const QStringList &more = {})
-    {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), bus.address());
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
-        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
-            environment.remove(QLatin1String(name));
-        recorder.setProcessEnvironment(environment);
-        recorder.start(QStringLiteral(KAV_RECORDER), QStringList{QStringLiteral("--state"), state.path()} + more);
-    }
+    void start(const QStringList &more = {}) { startOn(bus.address(), more); }
     void startAndSettle(const QStringList &more = {})
     {
         fake.asked.clear();
@@ -67,33 +52,16 @@ public:
         fake.moveCall(path, Active);
         QTRY_VERIFY_WITH_TIMEOUT(calls() != before, limitMs);
     }
-    void end(int signal)
-    {
-        ::kill(static_cast<pid_t>(recorder.processId()), signal);
-        QTRY_COMPARE_WITH_TIMEOUT(recorder.state(), QProcess::NotRunning, limitMs);
-    }
     /// How many connections the bus has, that of the one who asks included.
     qsizetype connections() const
     {
         const QStringList names = watcher.interface()->registeredServiceNames();
         return names.filter(QRegularExpression(QStringLiteral("^:"))).size();
     }
-    QString calls() const { return all(QStringLiteral("state")); }
-    QString all(const QString &column) const
-    {
-        return value(QStringLiteral("SELECT group_concat(%1, ' ') FROM calls").arg(column)).toString();
-    }
-    qint64 countedMs() const { return value(QStringLiteral("SELECT sum(duration_ms) FROM calls")).toLongLong(); }
-    QVariant value(const QString &query) const
-    {
-        return QFile::exists(state.database()) ? LogFile(state.database()).value(query) : QVariant();
-    }
 
     PrivateBus bus;
     FakeModemManager fake;
     QDBusConnection watcher;
-    StateDir state;
-    QProcess recorder;
 };
 
 // How often all threads of a process have waited for something to happen.

@@ -1,0 +1,66 @@
+// The recorder over Debian's ModemManager and the AT modem.
+#include "handset/live/RealModemManager.h"
+#include "recorder/RecorderProcess.h"
+#include "support/TestGroup.h"
+
+#include <QtCore/QElapsedTimer>
+
+using namespace handset::test;
+using AtPhone = atmodem::Phone;
+
+namespace {
+
+// Numbers of Call.State.
+constexpr int ringingIn = 3;
+constexpr int active = 4;
+
+} // namespace
+
+class TestRecorderOverModemManager : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aCallThatComesInIsRecordedWithoutAWindow();
+};
+
+#define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), manager.story().constData())
+
+// How long it has been on is held against what is certain on any machine: no less than between its row and the word to
+// hang up, no more than from the word to take it to the end of its row.
+void TestRecorderOverModemManager::aCallThatComesInIsRecordedWithoutAWindow()
+{
+    RealModemManager manager;
+    RecorderProcess bench;
+    bench.startOn(manager.busAddress()); // the bus is there, and nothing else
+    QVERIFY2(manager.bringUp(), manager.story().constData());
+    COMES_ABOUT(QFile::exists(bench.state.database())); // the modem has been found
+    manager.modem().withPhone([](AtPhone &phone) { phone.ring("5551234"); });
+    COMES_ABOUT(manager.calls().size() == 1);
+    const QString call = manager.calls().constFirst();
+    COMES_ABOUT(manager.stateOf(call) == ringingIn);
+    manager.forgetOutput();
+    QElapsedTimer sinceTaken;
+    sinceTaken.start();
+    QCOMPARE(manager.on(call, "Call", "Accept").errorName(), QString());
+    COMES_ABOUT(manager.stateOf(call) == active);
+    COMES_ABOUT(bench.calls() == QLatin1String("0"));
+    QElapsedTimer sinceRow;
+    sinceRow.start();
+    // Earlier it would not hear that the call ends.
+    COMES_ABOUT(manager.hasSaid("modem is now in-call state"));
+    const qint64 leastMs = sinceRow.elapsed();
+    manager.modem().withPhone([](AtPhone &phone) { phone.hangUpThere(); });
+    COMES_ABOUT(bench.calls() == QLatin1String("1"));
+    const qint64 mostMs = sinceTaken.elapsed();
+    QCOMPARE(bench.all(QStringLiteral("direction || ' ' || number || ' ' || late")),
+             QStringLiteral("1 5551234 0"));
+    QVERIFY2(bench.countedMs() >= leastMs && bench.countedMs() <= mostMs,
+             qPrintable(QStringLiteral("%1 not in %2 to %3").arg(bench.countedMs()).arg(leastMs).arg(mostMs)));
+    bench.end(SIGTERM);
+    QCOMPARE(bench.recorder.exitCode(), 0);
+    QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
+}
+
+KAV_TEST_GROUP(TestRecorderOverModemManager, QCoreApplication);
+#include "tst_real_modemmanager.moc"
