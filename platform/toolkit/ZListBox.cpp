@@ -7,7 +7,6 @@
 #include "toolkit/ZScrollBar.h"
 #include "toolkit/ZSettingItem.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QPersistentModelIndex>
 #include <QtCore/QPointer>
 #include <QtCore/qlogging.h>
@@ -260,28 +259,29 @@ void ZListBox::leaveSeparator(int row)
         moveBarTo(row, 1);
 }
 
-// The view lays its rows out by a timer, which comes after the next frame: that frame would be without them. A layout
-// request comes before it.
+// The view lays its rows out by a timer, which comes after the next frame: that frame would be without them, and without
+// a scroll bar that comes with them. The window is asked for a frame before it paints any of it.
 void ZListBox::layOutBeforePainting()
 {
     if (d->layoutIsDue || !isVisible())
         return;
     d->layoutIsDue = true;
-    QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    window()->installEventFilter(this);
 }
 
-bool ZListBox::event(QEvent *event)
+bool ZListBox::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::LayoutRequest) {
+    if (event->type() == QEvent::UpdateRequest && d->layoutIsDue) {
         d->layoutIsDue = false;
+        watched->removeEventFilter(this);
         executeDelayedItemsLayout();
     }
-    return QListView::event(event);
+    return QListView::eventFilter(watched, event);
 }
 
 bool ZListBox::viewportEvent(QEvent *event)
 {
-    // Somebody did not wait for the layout request: a window that is exposed, a photograph.
+    // Nobody asked for a frame: a window that is exposed, a photograph.
     if (event->type() == QEvent::Paint)
         executeDelayedItemsLayout();
     return QListView::viewportEvent(event);

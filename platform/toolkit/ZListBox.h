@@ -85,7 +85,7 @@ signals:
     void itemChosen(ZListItem *item);
 
 protected:
-    bool event(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void updateGeometries() override;
     void keyPressEvent(QKeyEvent *event) override;

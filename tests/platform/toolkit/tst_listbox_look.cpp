@@ -62,6 +62,7 @@ private slots:
     void aRowRepaintsWhenItsValueIsRewritten();
     void noFrameOfAListThatIsFilledAgainIsWithoutItsRows_data();
     void noFrameOfAListThatIsFilledAgainIsWithoutItsRows();
+    void aFrameThatComesAtOnceHasTheRowsAndTheScrollBar();
     void aListThatIsFilledAgainIsPaintedOnce();
     void aListThatWasFilledUnderASubScreenHasItsRowsWhenThatGoes();
     void aPhotographOfAListFilledJustNowHasItsRows();
@@ -251,6 +252,22 @@ void TestListBoxLook::noFrameOfAListThatIsFilledAgainIsWithoutItsRows()
     settle();
     for (const QImage &frame : std::as_const(recorder.frames))
         QCOMPARE(frame, whole);
+}
+
+void TestListBoxLook::aFrameThatComesAtOnceHasTheRowsAndTheScrollBar()
+{
+    ListScreen screen;
+    screen.addRows(30);
+    showSettled(screen);
+    FrameRecorder recorder(&screen);
+    const QImage whole = recorder.picture();
+    screen.list->clear();
+    screen.addRows(30);
+    // The window system may ask for it before any event that waits is handled.
+    QEvent request(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(&screen, &request);
+    QCOMPARE(recorder.frames.size(), 1);
+    QCOMPARE(recorder.frames.constFirst(), whole);
 }
 
 void TestListBoxLook::aListThatIsFilledAgainIsPaintedOnce()
