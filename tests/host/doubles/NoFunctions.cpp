@@ -1,7 +1,5 @@
 // A library that is none of ours.
-#include <QtCore/qglobal.h>
-
-extern "C" Q_DECL_EXPORT int somethingElse()
+extern "C" int somethingElse()
 {
     return 0;
 }

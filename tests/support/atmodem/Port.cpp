@@ -26,8 +26,8 @@ int tcpSocket(int &number)
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     address.sin_port = htons(static_cast<in_port_t>(number));
     socklen_t size = sizeof address;
-    auto *const plain = reinterpret_cast<sockaddr *>(&address);
-    if (::bind(listening, plain, size) != 0 || ::getsockname(listening, plain, &size) != 0) {
+    auto *const general = reinterpret_cast<sockaddr *>(&address);
+    if (::bind(listening, general, size) != 0 || ::getsockname(listening, general, &size) != 0) {
         ::close(listening);
         return -1;
     }

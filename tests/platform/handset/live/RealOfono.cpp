@@ -14,7 +14,7 @@ namespace {
 // What the daemon keeps of a card, under its IMSI; the place is compiled into it.
 constexpr const char *storage = "/var/lib/ofono";
 
-QString named(const char *interface)
+QString ofonoInterface(const char *interface)
 {
     return QStringLiteral("org.ofono.") + QLatin1String(interface);
 }
@@ -97,7 +97,7 @@ QDBusMessage RealOfono::onModem(const char *interface, const char *method, const
 QDBusMessage RealOfono::on(const QString &path, const char *interface, const char *method,
                            const QVariantList &values)
 {
-    return call(path, named(interface), QString::fromLatin1(method), values);
+    return call(path, ofonoInterface(interface), QString::fromLatin1(method), values);
 }
 
 QVariantMap RealOfono::properties(const char *interface)
@@ -123,7 +123,7 @@ QString RealOfono::onlyState()
 
 bool RealOfono::hasInterface(const char *interface)
 {
-    return property("Modem", "Interfaces").toStringList().contains(named(interface));
+    return property("Modem", "Interfaces").toStringList().contains(ofonoInterface(interface));
 }
 
 } // namespace handset::test
