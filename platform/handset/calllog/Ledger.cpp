@@ -212,13 +212,13 @@ bool Ledger::putNewInPlaceOf(const Traces &traces, QStringList &notices)
     return tables.put(keptUntold, all.join(QLatin1Char(' ')).toUtf8());
 }
 
-// A reader trusts a running row for 10 s after its last write: the recorder may have ended it and be unable to write that.
+// A reader trusts a running row for 10 s after the recorder's last write: that may have ended it and be unable to write that.
 // Where there is no recorder nothing runs.
 template <typename Row>
 Moments Ledger::momentsOf(const QList<Own<Row>> &own) const
 {
     Moments moments{{clock->monotonicMs(), clock->boot()}, {}};
-    if (own.isEmpty())
+    if (!recording)
         moments.now.reachMs = directory && directory->isRecording() ? 0 : 2 * checkpointIntervalMs;
     for (const Own<Row> &one : own)
         if (one.ended)
@@ -403,7 +403,7 @@ int Ledger::beginCall(const PastCall &begun, qint64 &id, Charge charge)
                 return int{NotAllowed};
             for (RunningCall &other : entry.now.calls)
                 other.isLast = false;
-            call.written.until = Moment{clock->monotonicMs(), clock->boot()};
+            call.written.goOnUntil(momentsOf(ownCalls).now);
             entry.now.calls.append(call);
             entry.passed.push_back({call.ms, 0});
             return int{Success};
@@ -522,8 +522,8 @@ int Ledger::beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 r
         return whyNotRecording();
     if (const int status = writeOwedSession())
         return status;
-    SessionRow session{
-        0, apn, before, true, {Moment{clock->monotonicMs(), clock->boot()}}, sentPerSecond, receivedPerSecond};
+    SessionRow session{0, apn, before, true, {}, sentPerSecond, receivedPerSecond};
+    session.written.goOnUntil(momentsOf(ownSessions).now);
     const bool done = database->inTransaction([&] {
         const bool isNew = before.ms == 0 && before.sent == 0 && before.received == 0;
         return tables.insert(session, clock->wallMs() - before.ms) && (isNew || tables.addToSessions(before));

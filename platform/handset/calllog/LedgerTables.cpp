@@ -9,34 +9,35 @@ namespace handset::calllog {
 namespace {
 
 constexpr auto insertCallSql = "INSERT INTO calls (kind, direction, number, started_ms, duration_ms, units, state,"
-                               " boot, written_ms, most_ms, tariff, charge, is_last, late)"
-                               " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
+                               " boot, written_ms, recorded_ms, most_ms, tariff, charge, is_last, late)"
+                               " VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)";
 constexpr auto updateCallSql = "UPDATE calls SET state = ?, duration_ms = ?, units = ?, boot = ?, written_ms = ?,"
-                               " most_ms = ?, tariff = ?, charge = ?, is_last = ? WHERE id = ?";
+                               " recorded_ms = ?, most_ms = ?, tariff = ?, charge = ?, is_last = ? WHERE id = ?";
 constexpr auto standingSql =
     "SELECT (SELECT content FROM kept WHERE name = 'card'), (SELECT content FROM kept WHERE name = 'charging'),"
-    " id, kind, direction, number, started_ms, duration_ms, units, boot, written_ms, most_ms, tariff,"
-    " charge, is_last, late FROM (SELECT 1) LEFT JOIN calls ON state = 0";
+    " id, kind, direction, number, started_ms, duration_ms, units, boot, written_ms, recorded_ms, most_ms,"
+    " tariff, charge, is_last, late FROM (SELECT 1) LEFT JOIN calls ON state = 0";
 constexpr auto closeCallsSql =
-    "UPDATE calls SET state = 3, boot = NULL, written_ms = NULL, most_ms = NULL, tariff = NULL, charge = NULL,"
-    " is_last = NULL WHERE state = 0";
+    "UPDATE calls SET state = 3, boot = NULL, written_ms = NULL, recorded_ms = NULL, most_ms = NULL,"
+    " tariff = NULL, charge = NULL, is_last = NULL WHERE state = 0";
 constexpr auto interruptedCallsSql =
     "SELECT sum(min(duration_ms, 9007199254740991)) FROM calls"
     " WHERE state = 3 AND started_ms >= ? AND kind = ? AND direction = ? AND number = ?";
-constexpr auto closeSessionsSql = "UPDATE sessions SET state = 3, boot = NULL, written_ms = NULL,"
-                                  " sent_per_s = NULL, received_per_s = NULL WHERE state = 0";
+constexpr auto closeSessionsSql =
+    "UPDATE sessions SET state = 3, boot = NULL, written_ms = NULL, recorded_ms = NULL,"
+    " sent_per_s = NULL, received_per_s = NULL WHERE state = 0";
 
 constexpr auto insertSessionSql =
-    "INSERT INTO sessions (apn, started_ms, duration_ms, sent, received, state, boot, written_ms, sent_per_s,"
-    " received_per_s) VALUES (?, ?, ?, ?, ?, 0, ?, ?, ?, ?)";
+    "INSERT INTO sessions (apn, started_ms, duration_ms, sent, received, state, boot, written_ms, recorded_ms,"
+    " sent_per_s, received_per_s) VALUES (?, ?, ?, ?, ?, 0, ?, ?, ?, ?, ?)";
 constexpr auto interruptedSessionsSql =
     "SELECT sum(min(duration_ms, 9007199254740991)), sum(min(sent, 9007199254740991)),"
     " sum(min(received, 9007199254740991)) FROM sessions WHERE state = 3 AND started_ms >= ? AND apn = ?";
 constexpr auto updateSessionSql =
     "UPDATE sessions SET state = ?, duration_ms = ?, sent = ?, received = ?, boot = ?, written_ms = ?,"
-    " sent_per_s = ?, received_per_s = ? WHERE id = ?";
+    " recorded_ms = ?, sent_per_s = ?, received_per_s = ? WHERE id = ?";
 #define KAV_SESSION_COLUMNS                                                                                       \
-    "id, apn, duration_ms, sent, received, state, boot, written_ms, sent_per_s, received_per_s"
+    "id, apn, duration_ms, sent, received, state, boot, written_ms, recorded_ms, sent_per_s, received_per_s"
 constexpr auto runningSessionSql = "SELECT " KAV_SESSION_COLUMNS " FROM sessions WHERE state = 0";
 constexpr auto recentSql = "SELECT " KAV_SESSION_COLUMNS " FROM sessions ORDER BY id DESC LIMIT ?";
 constexpr auto sessionTotalsSql = "SELECT (SELECT value FROM session_totals WHERE counter = 'duration'),"
@@ -60,11 +61,12 @@ constexpr auto addSessionsSql =
     "UPDATE session_totals SET value = min(9223372036854775807, value + CASE counter WHEN 'duration' THEN ?"
     " WHEN 'sent' THEN ? ELSE ? END)";
 constexpr auto totalTimeSql =
-    "SELECT ms, kind, direction, duration_ms, boot, written_ms, most_ms, is_last, id FROM totals"
+    "SELECT ms, kind, direction, duration_ms, boot, written_ms, recorded_ms, most_ms, is_last, id FROM totals"
     " LEFT JOIN calls ON state = 0 WHERE counter = ?";
-constexpr auto totalCostSql = "SELECT costs.units, kind, direction, duration_ms, boot, written_ms, most_ms, "
-                              "is_last, id, calls.units, tariff,"
-                              " charge FROM costs LEFT JOIN calls ON state = 0 WHERE counter = ?";
+constexpr auto totalCostSql =
+    "SELECT costs.units, kind, direction, duration_ms, boot, written_ms, recorded_ms, most_ms, "
+    "is_last, id, calls.units, tariff,"
+    " charge FROM costs LEFT JOIN calls ON state = 0 WHERE counter = ?";
 constexpr auto putTimeSql = "UPDATE totals SET ms = ? WHERE counter = ?";
 constexpr auto putCostSql = "UPDATE costs SET units = ? WHERE counter = ?";
 constexpr auto putSessionsSql = "UPDATE session_totals SET value = ? WHERE counter = ?";
@@ -79,12 +81,12 @@ std::optional<qint64> numberOrNothing(const PlainStatement &row, int column)
     return row.isNull(column) ? nothing : row.number(column);
 }
 
-// `column` has the boot, the next one the reading of its clock.
+// `column` has the boot, the next two the readings of its clock.
 Written writtenAt(const PlainStatement &row, int column)
 {
     if (row.isNull(column) || row.isNull(column + 1))
         return {};
-    return {Moment{row.number(column + 1), row.bytes(column)}};
+    return {Moment{row.number(column + 1), row.bytes(column)}, row.number(column + 2)};
 }
 
 // As they stand in a row.
@@ -106,8 +108,8 @@ SessionRow sessionAt(const PlainStatement &row, int column)
             {row.number(column + 2), row.number(column + 3), row.number(column + 4)},
             !row.isNull(column) && row.number(column + 5) == static_cast<int>(CallState::Running),
             writtenAt(row, column + 6),
-            row.number(column + 8),
-            row.number(column + 9)};
+            row.number(column + 9),
+            row.number(column + 10)};
 }
 
 bool countsIn(Total total, const RunningCall &call)
@@ -135,7 +137,9 @@ const Moment &Moments::of(qint64 id) const
 
 qint64 Written::passedUntil(const Moment &now) const
 {
-    return until && until->boot == now.boot ? std::min(elapsed(until->ms, now.ms), now.reachMs) : 0;
+    if (!until || until->boot != now.boot)
+        return 0;
+    return elapsed(until->ms, now.reachMs ? std::min(now.ms, saturatingSum(recordedMs, *now.reachMs)) : now.ms);
 }
 
 void Written::goOnUntil(const Moment &now)
@@ -144,6 +148,8 @@ void Written::goOnUntil(const Moment &now)
         until = now;
     else
         until->ms += passedUntil(now);
+    if (!now.reachMs)
+        recordedMs = until->ms;
 }
 
 qint64 RunningCall::passedUntil(const Moment &now) const
@@ -210,12 +216,12 @@ bool LedgerTables::read(Standing &standing)
                          row.number(7),
                          static_cast<quint32>(row.number(8)),
                          writtenAt(row, 9),
-                         numberOrNothing(row, 11),
+                         numberOrNothing(row, 12),
                          {},
-                         static_cast<Charge>(row.number(13)),
-                         isLastAt(row, 14),
-                         row.number(15) != 0};
-        isRight = readTariff(row, 12, call);
+                         static_cast<Charge>(row.number(14)),
+                         isLastAt(row, 15),
+                         row.number(16) != 0};
+        isRight = readTariff(row, 13, call);
         standing.calls.append(call);
     }
     isRight = isRight && (row.error() == 0 || database.fail());
@@ -250,7 +256,7 @@ bool LedgerTables::insert(const PastCall &call, CallState state)
 {
     return database.run(insertCallSql, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
                         call.startWallMs, call.durationMs, call.units, static_cast<int>(state), nothing, nothing,
-                        nothing, nothing, nothing, nothing, int{call.isLate});
+                        nothing, nothing, nothing, nothing, nothing, int{call.isLate});
 }
 
 bool LedgerTables::insert(RunningCall &call)
@@ -258,8 +264,8 @@ bool LedgerTables::insert(RunningCall &call)
     const bool done =
         database.run(insertCallSql, static_cast<int>(call.kind), static_cast<int>(call.direction), call.number,
                      call.startWallMs, call.ms, qint64{call.units}, static_cast<int>(CallState::Running),
-                     bootOf(call.written), call.written.until->ms, call.mostMs, tariffRecord(call.tariff),
-                     static_cast<int>(call.charge), int{call.isLast}, int{call.isLate});
+                     bootOf(call.written), call.written.until->ms, call.written.recordedMs, call.mostMs,
+                     tariffRecord(call.tariff), static_cast<int>(call.charge), int{call.isLast}, int{call.isLate});
     if (done)
         call.id = database.lastInsertId();
     return done;
@@ -270,10 +276,11 @@ bool LedgerTables::update(const RunningCall &call, CallState state)
     const int number = static_cast<int>(state);
     return state == CallState::Running
                ? database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, bootOf(call.written),
-                                call.written.until->ms, call.mostMs, tariffRecord(call.tariff),
-                                static_cast<int>(call.charge), int{call.isLast}, call.id)
+                                call.written.until->ms, call.written.recordedMs, call.mostMs,
+                                tariffRecord(call.tariff), static_cast<int>(call.charge), int{call.isLast},
+                                call.id)
                : database.runOn(1, updateCallSql, number, call.ms, qint64{call.units}, nothing, nothing, nothing,
-                                nothing, nothing, nothing, call.id);
+                                nothing, nothing, nothing, nothing, call.id);
 }
 
 bool LedgerTables::ended(qint64 id, std::optional<EndedCall> &call)
@@ -304,7 +311,7 @@ bool LedgerTables::insert(SessionRow &session, qint64 startWallMs)
     const auto &[ms, sent, received] = session.amounts;
     const bool done = database.run(insertSessionSql, QString::fromLatin1(session.apn), startWallMs, ms, sent,
                                    received, bootOf(session.written), session.written.until->ms,
-                                   session.sentPerSecond, session.receivedPerSecond);
+                                   session.written.recordedMs, session.sentPerSecond, session.receivedPerSecond);
     if (done)
         session.id = database.lastInsertId();
     return done;
@@ -316,10 +323,10 @@ bool LedgerTables::update(const SessionRow &session, CallState state)
     const auto &[ms, sent, received] = session.amounts;
     return state == CallState::Running
                ? database.runOn(1, updateSessionSql, number, ms, sent, received, bootOf(session.written),
-                                session.written.until->ms, session.sentPerSecond, session.receivedPerSecond,
-                                session.id)
+                                session.written.until->ms, session.written.recordedMs, session.sentPerSecond,
+                                session.receivedPerSecond, session.id)
                : database.runOn(1, updateSessionSql, number, ms, sent, received, nothing, nothing, nothing,
-                                nothing, session.id);
+                                nothing, nothing, session.id);
 }
 
 bool LedgerTables::running(QList<SessionRow> &sessions)
@@ -396,20 +403,20 @@ bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Mome
     RunningCall call;
     call.kind = static_cast<CallKind>(row.number(1));
     call.direction = static_cast<CallDirection>(row.number(2));
-    call.isLast = isLastAt(row, 7);
+    call.isLast = isLastAt(row, 8);
     if (!countsIn(total, call))
         return true;
     call.ms = row.number(3);
     call.written = writtenAt(row, 4);
-    call.mostMs = numberOrNothing(row, 6);
-    const qint64 passed = call.passedUntil(moments.of(row.number(8)));
+    call.mostMs = numberOrNothing(row, 7);
+    const qint64 passed = call.passedUntil(moments.of(row.number(9)));
     if (total < Total::LastCost) {
         value = saturatingSum(value, passed);
         return true;
     }
-    call.units = static_cast<quint32>(row.number(9));
-    call.charge = static_cast<Charge>(row.number(11));
-    if (!readTariff(row, 10, call))
+    call.units = static_cast<quint32>(row.number(10));
+    call.charge = static_cast<Charge>(row.number(12));
+    if (!readTariff(row, 11, call))
         return false;
     value = saturatingSum(value, call.dueAfter(passed));
     return true;

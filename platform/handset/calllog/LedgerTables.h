@@ -8,7 +8,6 @@
 
 #include <QtCore/QList>
 
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -18,9 +17,8 @@ namespace handset::calllog {
 struct Moment {
     qint64 ms = 0;
     QByteArray boot; ///< as Clock::boot()
-    /// At most so many ms after what is written count as running, 0 to 2^63 - 1; limited in a process that does not
-    /// record.
-    qint64 reachMs = std::numeric_limits<qint64>::max();
+    /// Of a process that does not record: at most so many ms after the recorder's last write count as running.
+    std::optional<qint64> reachMs = {};
 };
 
 /// A moment for every row: now, and of what has ended and is not written yet, when that was.
@@ -34,6 +32,7 @@ struct Moments {
 /// How far a running row is written.
 struct Written {
     std::optional<Moment> until; ///< nothing in a row that an earlier version has left
+    qint64 recordedMs = 0; ///< until where by the process that records; others may have written on from there
 
     /// The time since then, in ms, as far as the moment reaches; none when `now` is of another boot.
     qint64 passedUntil(const Moment &now) const;

@@ -427,7 +427,8 @@ void TestFalsifiedLog::aFunctionThatALogNamesIsNeverRun_data()
          QStringLiteral("CREATE TABLE totals (counter TEXT, ms INTEGER AS (foreign_one(7)))"),
          QStringLiteral("INSERT INTO totals (counter) SELECT counter FROM before")});
     row("in a check", rewritten("CHECK (duration_ms >= 0)", "CHECK (foreign_one(duration_ms) >= 0)"));
-    row("in a default value", rewritten(" boot TEXT,", " mine INTEGER DEFAULT (foreign_one(0)), boot TEXT,"));
+    row("in a default value",
+        rewritten(" recorded_ms INTEGER)", " recorded_ms INTEGER, mine INTEGER DEFAULT (foreign_one(0)))"));
 }
 
 // Neither by who has the log already, nor by who opens it.

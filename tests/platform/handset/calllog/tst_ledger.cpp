@@ -123,6 +123,7 @@ private slots:
     void anEndThatIsWrittenElsewhereIsSeenAtOnce();
 
     void aCallOfWhichNothingIsWrittenGoesOnForTenSecondsElsewhere();
+    void theTenSecondsBeginWithTheRecordersWriteAndNoOther();
     void anEndThatIsOwedIsNotOutlivedElsewhere();
     void whatCannotBeClosedIsNotCountedOn();
     void whoIsLeftRecordsWhenTheRecorderIsKilled();
@@ -361,6 +362,28 @@ void TestLedger::aCallOfWhichNothingIsWrittenGoesOnForTenSecondsElsewhere()
     QCOMPARE(LogFile(state.database()).calls().value(0).durationMs, hour);
 }
 
+// What another process writes says nothing of whether the recorder goes on.
+void TestLedger::theTenSecondsBeginWithTheRecordersWriteAndNoOther()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    QCOMPARE(two.recorder->ask("start-session"), QByteArray("0"));
+    two.jump(6 * second);
+    for (int edits = 0; edits < 3; ++edits) {
+        QCOMPARE(two.phone.log().resetDialedCallsTime(), int(Success));
+        QCOMPARE(two.phone.packets().resetTotalBytes(), int(Success));
+        two.jump(6 * second);
+    }
+    QCOMPARE(two.phone.figures(), (SixFigures{10, 0, 0, 0, 10, 10}));
+    QCOMPARE(two.phone.sessions(), QStringList{QStringLiteral("1 x 10 100 200")});
+    QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
+    two.jump(hour);
+    QCOMPARE(two.phone.figures(), (SixFigures{34, 24, 0, 0, 34, 34}));
+    QCOMPARE(two.phone.sessions(), QStringList{QStringLiteral("1 x 34 340 680")});
+}
+
 // The recorder has ended the call and cannot write that; the other process can write again before it does.
 void TestLedger::anEndThatIsOwedIsNotOutlivedElsewhere()
 {
@@ -373,8 +396,12 @@ void TestLedger::anEndThatIsOwedIsNotOutlivedElsewhere()
     QVERIFY(file.run(QStringLiteral("BEGIN IMMEDIATE")));
     QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
     QVERIFY(file.run(QStringLiteral("ROLLBACK")));
+    for (int edits = 0; edits < 3; ++edits) {
+        two.jump(hour);
+        QCOMPARE(two.phone.log().resetAnsweredCallsTime(), int(Success));
+    }
     two.jump(hour);
-    QCOMPARE(two.phone.log().resetAnsweredCallsTime(), int(Success));
+    QCOMPARE(two.phone.figures(), (SixFigures{15, 15, 0, 0, 15, 15}));
     QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
     QCOMPARE(file.calls().value(0).durationMs, 15 * second); // ten beyond what was written last
     QCOMPARE(two.phone.figures(), (SixFigures{15, 15, 0, 0, 15, 15}));
