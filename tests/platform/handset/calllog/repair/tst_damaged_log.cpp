@@ -146,6 +146,7 @@ private slots:
     void aLogWithWrongTablesIsReplaced_data();
     void aLogWithWrongTablesIsReplaced();
     void aLogEmptiedWhileInUseKeepsItsWriteAheadLog();
+    void aWriteAheadLogThatHasItsOtherNameAlreadyGetsNoSecondOne();
     void timersThatCannotBeReadAreCountedAnew();
     void aLinkInThePlaceOfTheLogIsAnErrorAndStays();
     void nonsenseBesideAGoodLogDoesItNoHarm_data();
@@ -574,6 +575,23 @@ void TestDamagedLog::aLogEmptiedWhileInUseKeepsItsWriteAheadLog()
         QVERIFY(phone.dialed(second));
         QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db-wal"))), sample.crashedWal);
     }
+}
+
+void TestDamagedLog::aWriteAheadLogThatHasItsOtherNameAlreadyGetsNoSecondOne()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    const QString alone = state.file(QStringLiteral("calllog.db-wal"));
+    const QString kept = state.file(QStringLiteral("calllog-kept-1.db-wal"));
+    QVERIFY(writeFile(alone, sample.crashedWal));
+    QCOMPARE(::link(qPrintable(alone), qPrintable(kept)), 0);
+    Phone phone(state.path());
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    QVERIFY(phone.dialed(second));
+    phone.close();
+    QCOMPARE(readFile(kept), sample.crashedWal);
+    QCOMPARE(QDir(state.path()).entryList({QStringLiteral("calllog-kept-*")}),
+             QStringList(QStringLiteral("calllog-kept-1.db-wal")));
 }
 
 void TestDamagedLog::timersThatCannotBeReadAreCountedAnew()
