@@ -37,8 +37,8 @@ void describe(QCommandLineParser &parser)
     parser.addVersionOption();
     parser.addOption(
         {QStringLiteral("backend"),
-         QStringLiteral("The telephone: %1, the path of a library that has one, or auto: the first that has "
-                        "a modem, else modemmanager, which waits for one. Default: auto.")
+         QStringLiteral("The telephone: %1, the path of a library that has one, or auto: the first over which a "
+                        "modem is there, now or later. Default: auto.")
              .arg(handset::backendNames().join(QStringLiteral(", "))),
          QStringLiteral("NAME"), QStringLiteral("auto")});
     parser.addOption({QStringLiteral("state"),
