@@ -219,7 +219,7 @@ Moments Ledger::momentsOf(const QList<Own<Row>> &own) const
 {
     Moments moments{{clock->monotonicMs(), clock->boot()}, {}};
     if (!recording)
-        moments.now.reachMs = directory && directory->isRecording() ? 0 : 2 * checkpointIntervalMs;
+        moments.now.reachMs = directory && directory->isRecording() ? 0 : trustedMs;
     for (const Own<Row> &one : own)
         if (one.ended)
             moments.ends.append({one.row.id, *one.ended});

@@ -3,6 +3,7 @@
 #include "calllog/CallFigures.h"
 #include "calllog/CheckBeside.h"
 #include "calllog/OpenLedger.h"
+#include "calllog/Saturating.h"
 #include "handset/DialedNumber.h"
 #include "handset/Status.h"
 #include "simulated/SimulatedBackend.h"
@@ -20,7 +21,6 @@ using LineState = SimulatedHandset::LineState;
 namespace {
 
 constexpr int tickMs = PacketFigures::updateIntervalMs;
-constexpr int ticksPerCheckpoint = Ledger::checkpointIntervalMs / tickMs;
 // How long nobody records at most when the process that did is gone.
 constexpr int takeOverMs = 500;
 
@@ -82,6 +82,7 @@ private:
     void runTimer();
     bool isTimeUp() const { return state == LineState::Connected && charges.isTimeUp(); }
     bool isUnitDue() const;
+    bool isCheckpointDue() const;
     int stopCall();
     void setDataCallStatus(DataCalls::CallStatus status);
 
@@ -89,7 +90,7 @@ private:
     std::shared_ptr<Clock> clock;
     QTimer
         *timer; ///< runs while a call is connected, a session runs, something is owed, or another process records
-    int ticksToCheckpoint = 0;
+    qint64 writtenAtMs = 0;      ///< or when that was tried last, or there was nothing to write
     bool records = true;         ///< as of the last runTimer()
     bool isWriteFailing = false; ///< the last checkpoint
     bool toldOwing = false;      ///< with the last changed()
@@ -161,7 +162,7 @@ int SimulatedHandset::Innards::endCall()
 
 int SimulatedHandset::Innards::checkpoint()
 {
-    ticksToCheckpoint = ticksPerCheckpoint;
+    writtenAtMs = clock->monotonicMs();
     const int ofSession = ledger->checkpointSession();
     const int ofCall = isTimeUp() ? stopCall() : ledger->checkpoint();
     tellWhatIsOwed();
@@ -179,7 +180,7 @@ void SimulatedHandset::Innards::runTimer()
     if (records && state != LineState::Connected && !ledger->isSessionRunning() && !owesRecord()) {
         timer->stop();
     } else if (!timer->isActive()) {
-        ticksToCheckpoint = ticksPerCheckpoint;
+        writtenAtMs = clock->monotonicMs();
         timer->start(records ? tickMs : takeOverMs);
     }
 }
@@ -187,6 +188,13 @@ void SimulatedHandset::Innards::runTimer()
 bool SimulatedHandset::Innards::isUnitDue() const
 {
     return state == LineState::Connected && ledger->dueUnits() > 0;
+}
+
+// At the tick that is nearest: they come a second after the one before is done, or later.
+bool SimulatedHandset::Innards::isCheckpointDue() const
+{
+    const qint64 passed = calllog::elapsed(writtenAtMs, clock->monotonicMs());
+    return passed + tickMs / 2 >= Ledger::checkpointIntervalMs;
 }
 
 // Every unit is on the disk within a second of falling due, and the time, and what is owed, every few seconds: so is what
@@ -199,7 +207,7 @@ void SimulatedHandset::Innards::tick()
         return;
     }
     const bool unitIsDue = isUnitDue();
-    const bool isTimeToWrite = --ticksToCheckpoint <= 0 || (unitIsDue && !isWriteFailing) || isTimeUp();
+    const bool isTimeToWrite = isCheckpointDue() || (unitIsDue && !isWriteFailing) || isTimeUp();
     if (isTimeToWrite && checkpoint() == Success && unitIsDue)
         tellHere();
     packets.tick();

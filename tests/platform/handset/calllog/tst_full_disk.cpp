@@ -265,6 +265,7 @@ void TestFullDisk::whatIsOwedIsWrittenWithoutAnybodyAsking()
         QVERIFY(timer->isActive());
     }
     timer->setInterval(1); // no need to wait for real seconds
+    phone.clock->advance(5 * second);
     QTRY_VERIFY_WITH_TIMEOUT(!phone->owesRecord(), 60000);
     QCOMPARE(spy.count(), 2);
     QVERIFY(!timer->isActive());
