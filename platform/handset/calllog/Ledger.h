@@ -45,7 +45,7 @@ public:
     /// another name, and is new; `notices` gets a sentence about each. StorageFailed when that cannot be read.
     int load(QStringList &notices);
     /// Whether this process records. When nobody does it takes that over: what was running is closed with what was
-    /// written of it, and the card has been off.
+    /// written of it, and the card has been off. That may wait a second for a busy log: for timers and beginnings.
     bool record();
     /// Status for an operation that only the recorder may do, in a process that is not it: RecordedElsewhere, or
     /// StorageFailed where it has taken that over and cannot write what another has left.

@@ -108,7 +108,7 @@ int PacketFigures::stopSession()
 {
     const int status = ledger.endSession(sessionId);
     if (status == WrongState)
-        return ledger.record() ? status : ledger.whyNotRecording();
+        return ledger.isRecorder() ? status : ledger.whyNotRecording();
     tellUpdate();
     return Success;
 }

@@ -103,6 +103,7 @@ SimulatedHandset::Innards::Innards(SimulatedHandset &handset, std::unique_ptr<Le
     , clock(std::move(clocks))
     , timer(new QTimer(&handset))
 {
+    ledger->record();
     ledger->setChangeListener([this] { figuresChanged(); });
     timer->setInterval(tickMs);
     timer->setTimerType(Qt::PreciseTimer);
@@ -141,7 +142,7 @@ int SimulatedHandset::Innards::begin(LineState begun, const PastCall &begunCall)
 int SimulatedHandset::Innards::connectCall(LineState from)
 {
     if (state != from)
-        return ledger->record() ? int{WrongState} : ledger->whyNotRecording();
+        return ledger->isRecorder() ? int{WrongState} : ledger->whyNotRecording();
     if (const int status = ledger->beginCall(call, callId))
         return status;
     state = LineState::Connected;
@@ -173,7 +174,7 @@ int SimulatedHandset::Innards::checkpoint()
 
 void SimulatedHandset::Innards::runTimer()
 {
-    if (records != ledger->record()) {
+    if (records != ledger->isRecorder()) {
         records = !records;
         timer->stop();
     }
@@ -204,6 +205,8 @@ void SimulatedHandset::Innards::tick()
     if (!records) {
         if (ledger->record())
             tellChange();
+        else if (ledger->whyNotRecording() == StorageFailed) // each attempt may hold up the screens
+            timer->start(Ledger::checkpointIntervalMs);
         return;
     }
     const bool unitIsDue = isUnitDue();
@@ -375,7 +378,7 @@ bool SimulatedHandset::owesRecord() const
 
 bool SimulatedHandset::isRecording() const
 {
-    return innards->ledger->record();
+    return innards->ledger->isRecorder();
 }
 
 LineState SimulatedHandset::lineState() const

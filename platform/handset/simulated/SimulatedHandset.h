@@ -90,7 +90,8 @@ public:
     /// answer StorageFailed: a call can be dialed and can ring, but is not connected, and no session begins.
     bool owesRecord() const override;
     /// Whether calls and sessions begin and end in this process. Where another one records the line is connected while
-    /// a call of that one is, else idle.
+    /// a call of that one is, else idle. Takes nothing over when that one ends: a timer does, within a second, and so do
+    /// dial(), ring() and PacketFigures::startSession().
     bool isRecording() const;
 
     LineState lineState() const;

@@ -128,6 +128,7 @@ private slots:
     void whatCannotBeClosedIsNotCountedOn();
     void whoIsLeftRecordsWhenTheRecorderIsKilled();
     void whoIsLeftRecordsWhenTheRecorderIsClosed();
+    void aLookTakesNothingOver();
     void theRecorderPassesOnWithoutAnybodyAsking();
     void theRecorderPassesOnAtTheFirstLookAfterItsEnd();
     void aCardIsOffWhenTheRecorderIsGone();
@@ -492,7 +493,7 @@ void TestLedger::whoIsLeftRecordsWhenTheRecorderIsKilled()
     QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
     two.pass(4 * second);
     two.recorder->kill();
-    QVERIFY(two.phone->isRecording());
+    QTRY_VERIFY_WITH_TIMEOUT(two.phone->isRecording(), 60'000);
     QCOMPARE(two.phone.figures(), (SixFigures{7, 7, 0, 0, 7, 7}));
     QCOMPARE(stateOf(state, 1), int(CallState::Interrupted));
     QVERIFY(two.phone.dialed(2 * second));
@@ -507,9 +508,36 @@ void TestLedger::whoIsLeftRecordsWhenTheRecorderIsClosed()
     QVERIFY(two.dial());
     two.pass(7 * second);
     two.recorder->close();
-    QVERIFY(two.phone->isRecording());
+    QTRY_VERIFY_WITH_TIMEOUT(two.phone->isRecording(), 60'000);
     QCOMPARE(two.phone.figures(), (SixFigures{7, 7, 0, 0, 7, 7}));
     QCOMPARE(stateOf(state, 1), int(CallState::Finished));
+}
+
+// Who draws a panel asks for ten things; a takeover waits for a busy log.
+void TestLedger::aLookTakesNothingOver()
+{
+    const StateDir state;
+    Two two(state);
+    QVERIFY(two);
+    QVERIFY(two.dial());
+    const auto isLeft = [&] { return Lock(state.file(QStringLiteral("recorder")), LOCK_EX).taken; };
+    QVERIFY(!isLeft());
+    two.recorder->kill();
+    QVERIFY(isLeft());
+    QVERIFY(!two.phone->isRecording());
+    QVERIFY(isLeft());
+    QCOMPARE(two.phone->lineState(), simulated::SimulatedHandset::LineState::Connected);
+    QCOMPARE(two.phone->callKind(), CallKind::Voice);
+    QCOMPARE(two.phone->number(), QStringLiteral("5"));
+    QVERIFY(isLeft());
+    two.phone->changedElsewhere();
+    QVERIFY(isLeft());
+    QCOMPARE(two.phone->packets().stopSession(), int(RecordedElsewhere));
+    QCOMPARE(two.phone->hangUp(), int(RecordedElsewhere));
+    QCOMPARE(two.phone->answer(), int(RecordedElsewhere));
+    QVERIFY(isLeft());
+    QTRY_VERIFY_WITH_TIMEOUT(two.phone->isRecording(), 60'000);
+    QVERIFY(!isLeft());
 }
 
 void TestLedger::theRecorderPassesOnWithoutAnybodyAsking()
@@ -557,7 +585,7 @@ void TestLedger::aCardIsOffWhenTheRecorderIsGone()
     SimSecurity &security = *two.phone.handset().simSecurity();
     QCOMPARE(security.verifyPin(SimSecurity::Pin2, "1234", accepted), int(Success));
     two.recorder->kill();
-    QVERIFY(two.phone->isRecording());
+    QTRY_VERIFY_WITH_TIMEOUT(two.phone->isRecording(), 60'000);
     quint32 status = 0;
     QCOMPARE(security.pinStatus(SimSecurity::Pin2, status), int(Success));
     QCOMPARE(status, quint32{SimSecurity::EntryNeeded});
