@@ -253,10 +253,11 @@ void SimulatedHandset::Innards::tellHere()
     emit owner.changed();
 }
 
+// To the others, too: when they were told of the end its row said that it runs.
 void SimulatedHandset::Innards::tellWhatIsOwed()
 {
     if (owesRecord() != toldOwing)
-        tellHere();
+        tellChange();
 }
 
 // The network ends the call by itself.

@@ -1,8 +1,10 @@
 // The message that tells the screens of every process that the packet-data figures have changed.
 #include "calllog/Schema.h"
+#include "handset/AdviceOfCharge.h"
 #include "handset/CallLog.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/PacketData.h"
+#include "handset/SimSecurity.h"
 #include "handset/Status.h"
 #include "qt/QCopChannel.h"
 #include "qt/qcop/PrivateBus.h"
@@ -15,6 +17,7 @@
 #include <QtTest/QSignalSpy>
 
 #include <chrono>
+#include <functional>
 #include <random>
 
 using namespace handset;
@@ -48,6 +51,29 @@ private:
     int count = 0;
 };
 
+/// Counts what this process tells the others of its handset.
+class Announcements
+{
+public:
+    Announcements()
+    {
+        QObject::connect(&channel, &QCopChannel::received, &channel, [this](const QCString &message) {
+            announced += message == "/KAV/handset/Changed" ? 1 : 100;
+        });
+    }
+
+    /// Since the last call.
+    int count()
+    {
+        QCoreApplication::processEvents();
+        return std::exchange(announced, 0);
+    }
+
+private:
+    QCopChannel channel{"/KAV/handset"};
+    int announced = 0;
+};
+
 } // namespace
 
 class TestBroadcast : public QObject
@@ -70,6 +96,7 @@ private slots:
     void aHandsetWithoutPacketDataCanBeInstalled();
     void anotherProcessIsToldUpToTheEndOfTheApplication();
     void whatIsChangedHereIsAnnouncedOnce();
+    void whatIsOwedIsAnnouncedAgainWhenItIsWritten();
     void whatAnotherProcessChangesIsSignalledHere();
 
 private:
@@ -275,16 +302,10 @@ void TestBroadcast::anotherProcessIsToldUpToTheEndOfTheApplication()
 
 void TestBroadcast::whatIsChangedHereIsAnnouncedOnce()
 {
-    const Phone phone;
+    Phone phone;
     install(phone.opened.handset);
-    int announced = 0;
-    const QCopChannel channel("/KAV/handset");
-    connect(&channel, &QCopChannel::received, this,
-            [&](const QCString &message) { announced += message == "/KAV/handset/Changed" ? 1 : 100; });
-    const auto announcedAfter = [&](int status) {
-        QCoreApplication::processEvents();
-        return status == Success ? std::exchange(announced, 0) : -1;
-    };
+    Announcements announcements;
+    const auto announcedAfter = [&](int status) { return status == Success ? announcements.count() : -1; };
     QCOMPARE(announcedAfter(phone->dial(QStringLiteral("1"), CallKind::Voice)), 1);
     QCOMPARE(announcedAfter(phone->remoteAnswer()), 1);
     phone.clock->advance(30 * second);
@@ -295,6 +316,52 @@ void TestBroadcast::whatIsChangedHereIsAnnouncedOnce()
     QCOMPARE(announcedAfter(phone->packets().startSession("x", 1, 1)), 1);
     QCOMPARE(announcedAfter(phone.packets().resetTotalBytes()), 1);
     QCOMPARE(announcedAfter(phone->packets().stopSession()), 1);
+    const PastCall past{CallKind::Voice, CallDirection::Dialed, QStringLiteral("1"), 0, 40 * second};
+    QCOMPARE(announcedAfter(phone->addHistory({past, past})), 1);
+    bool accepted = false;
+    for (const char *pin : {"9999", "1234"})
+        QCOMPARE(announcedAfter(phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, pin, accepted)), 1);
+    QVERIFY(accepted);
+    // A call that is ended by a setting, and one by the handset itself.
+    QVERIFY(phone.dial());
+    QCOMPARE(announcements.count(), 2);
+    QCOMPARE(announcedAfter(phone.handset().adviceOfCharge()->setMeterMaximum(QStringLiteral("1"))), 1);
+    QCOMPARE(phone->lineState(), simulated::SimulatedHandset::LineState::Idle);
+    QCOMPARE(announcedAfter(phone.handset().adviceOfCharge()->setMeterMaximum(QStringLiteral("0"))), 1);
+    QVERIFY(phone.dial());
+    QCOMPARE(announcements.count(), 2);
+    phone.clock->advance(24 * hour); // longer than the account lasts
+    QCOMPARE(announcedAfter(phone->checkpoint()), 1);
+    QCOMPARE(phone->lineState(), simulated::SimulatedHandset::LineState::Idle);
+}
+
+// At the end its row still said that it runs, and so did whoever looked then.
+void TestBroadcast::whatIsOwedIsAnnouncedAgainWhenItIsWritten()
+{
+    const StateDir state;
+    Phone phone(state.path(), nullptr, {}, hardlyAny);
+    install(phone.opened.handset);
+    const LogFile file(state.database());
+    const auto endsOwed = [&](const std::function<int()> &end) {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("^The call log failed: ")));
+        return file.run(QStringLiteral("BEGIN IMMEDIATE")) && end() == Success && phone->owesRecord() &&
+               file.run(QStringLiteral("ROLLBACK"));
+    };
+    QVERIFY(phone.dial());
+    Announcements announcements;
+    QVERIFY(endsOwed([&] { return phone->hangUp(); }));
+    QCOMPARE(announcements.count(), 1);
+    phone.clock->advance(5 * second);
+    tick(phone);
+    QVERIFY(!phone->owesRecord());
+    QCOMPARE(announcements.count(), 1);
+    QCOMPARE(phone->packets().startSession("x", 1, 1), int(Success));
+    QCOMPARE(announcements.count(), 1);
+    QVERIFY(endsOwed([&] { return phone->packets().stopSession(); }));
+    QCOMPARE(announcements.count(), 1);
+    QCOMPARE(phone->checkpoint(), int(Success));
+    QVERIFY(!phone->owesRecord());
+    QCOMPARE(announcements.count(), 1);
 }
 
 void TestBroadcast::whatAnotherProcessChangesIsSignalledHere()
