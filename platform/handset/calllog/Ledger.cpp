@@ -13,8 +13,9 @@ namespace handset::calllog {
 
 /// What tells that a kept value was written once, whatever stands there now.
 struct Traces {
-    bool costs = false;  ///< something was charged
+    bool card = false;   ///< a start has written the card, or something was charged
     bool checks = false; ///< a start has written the charging record with its check
+    bool both = false;   ///< the card and the charging record
 };
 
 namespace {
@@ -60,7 +61,7 @@ struct KeptPart {
 constexpr std::array keptParts{
     KeptPart{keptCardName, &charging::readCard,
              [](const charging::ChargingState &state) { return charging::cardRecord(state.card); }, "The SIM card",
-             &Traces::costs},
+             &Traces::card},
     KeptPart{keptChargingName, &charging::readCharging, &charging::chargingRecord,
              "The record of tariffs and account", &Traces::checks},
 };
@@ -140,11 +141,12 @@ int Ledger::find(Traces &traces)
     const std::optional<qint64> units = database->number(QStringLiteral("SELECT max(units) FROM costs"));
     if (!units)
         return database->status(false);
-    traces.costs = *units > 0;
     QByteArray checked;
     if (!tables.kept(QString::fromLatin1(keptChecked), checked))
         return database->status(false);
     traces.checks = !checked.isNull();
+    traces.both = checked == bothChecked;
+    traces.card = traces.both || *units > 0;
     return Success;
 }
 
@@ -164,19 +166,23 @@ int Ledger::load(QStringList &notices)
     if (!isRight && !database->inTransaction([&] { return putNewInPlaceOf(traces, notices); }))
         notices << QStringLiteral("That could not be written.");
     // Where it cannot be written the next start tries again.
-    if (isRight && !traces.checks)
+    if (isRight && !traces.both)
         database->inTransaction([&] { return putChecks(); });
     return Success;
 }
 
-// From now on a change of the charging record is found. (It is read anew, as another process may have written it.)
+// From now on each is there whole, and a change of it is found. (They are read anew, as another process may have written
+// them.)
 bool Ledger::putChecks()
 {
     charging::ChargingState state;
-    const QString name = QString::fromLatin1(keptChargingName);
-    QByteArray content;
-    return tables.kept(name, content) && charging::readCharging(content, state) &&
-           tables.put(name, charging::chargingRecord(state)) && tables.put(QString::fromLatin1(keptChecked), "1");
+    for (const KeptPart &part : keptParts) {
+        const QString name = QString::fromLatin1(part.name);
+        QByteArray content;
+        if (!tables.kept(name, content) || !part.read(content, state) || !tables.put(name, part.fresh(state)))
+            return false;
+    }
+    return tables.put(QString::fromLatin1(keptChecked), bothChecked);
 }
 
 // The new ones are written, too, so that this is told once; and what is to be told, in case that this opening fails.

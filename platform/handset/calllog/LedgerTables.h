@@ -106,8 +106,10 @@ struct Standing {
 /// What is kept under a name, whole: the card, the account.
 inline constexpr auto keptCardName = "card";
 inline constexpr auto keptChargingName = "charging";
-/// Kept from the first start on that has written the charging record with its check, which it then always has.
+/// Kept from the first start on that has written the charging record with its check, which it then always has; with this
+/// content, the card as well.
 inline constexpr auto keptChecked = "checked";
+inline constexpr auto bothChecked = "2";
 
 /// Each operation is one statement. What returns a bool is false when that fails or a row is missing; the database has
 /// the reason. What writes belongs into a transaction of the caller.

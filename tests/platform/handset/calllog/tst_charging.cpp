@@ -149,6 +149,8 @@ private slots:
     void whatIsMissingOfTheCardIsToldAndNeverNewInSilence_data();
     void whatIsMissingOfTheCardIsToldAndNeverNewInSilence();
     void aCardSetBackToNeverWrittenIsToldOnce();
+    void aCardSetBackToNeverWrittenIsToldWhereNothingWasChargedAsWell();
+    void aCardThatAnEarlierProgramHasNotWrittenYetIsBelievedOnce();
     void anAccountThatHadACheckIsNeverWithoutOneInSilence_data();
     void anAccountThatHadACheckIsNeverWithoutOneInSilence();
     void aCardThatWasNeverChangedIsNotMissing();
@@ -1130,6 +1132,36 @@ void TestCharging::aCardSetBackToNeverWrittenIsToldOnce()
     QCOMPARE(Phone(state.path()).opened.notice,
              QStringLiteral("The SIM card is missing from the call log; a new one was begun."));
     QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+void TestCharging::aCardSetBackToNeverWrittenIsToldWhereNothingWasChargedAsWell()
+{
+    const StateDir state;
+    {
+        Phone phone(state.path());
+        bool accepted = true;
+        QCOMPARE(phone.handset().simSecurity()->verifyPin(SimSecurity::Pin2, "0000", accepted), int(Success));
+        QCOMPARE(phone->simCard().card().pin2().triesLeft(), 2);
+    }
+    QVERIFY(LogFile(state.database())
+                .run(QStringLiteral("UPDATE kept SET content = CAST('new' AS BLOB) WHERE name = 'card'")));
+    QCOMPARE(Phone(state.path()).opened.notice,
+             QStringLiteral("The SIM card is missing from the call log; a new one was begun."));
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+}
+
+// An earlier program wrote the card with its first change only.
+void TestCharging::aCardThatAnEarlierProgramHasNotWrittenYetIsBelievedOnce()
+{
+    const StateDir state;
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+    const auto setBack = QStringLiteral("UPDATE kept SET content = CAST('new' AS BLOB) WHERE name = 'card'");
+    QVERIFY(LogFile(state.database())
+                .run(QStringLiteral("UPDATE kept SET content = CAST('1' AS BLOB) WHERE name = 'checked'")));
+    QVERIFY(LogFile(state.database()).run(setBack));
+    QCOMPARE(Phone(state.path()).opened.notice, QString());
+    QVERIFY(LogFile(state.database()).run(setBack));
+    QVERIFY(!Phone(state.path()).opened.notice.isEmpty());
 }
 
 void TestCharging::anAccountThatHadACheckIsNeverWithoutOneInSilence_data()

@@ -57,6 +57,7 @@ public:
         calllog::OpenedLedger opened = calllog::openLedger(path, clock);
         QVERIFY2(opened.ledger, qPrintable(opened.error));
         ledger = std::move(opened.ledger);
+        notice = opened.notice;
     }
     calllog::Ledger *operator->() const { return ledger.get(); }
 
@@ -96,6 +97,7 @@ public:
     }
 
     std::shared_ptr<ManualClock> clock;
+    QString notice; ///< of the last opening
 
 private:
     QString path;
@@ -172,6 +174,7 @@ private slots:
     void whatTheMeterSaysAfterTheEndIsAddedToTheCall();
     void whatTheMeterSaysOfAnEarlierCallIsNotTheLastOnes();
     void aMeasuredCallThatCouldNotBeBegunIsNotChargedByTheTariff();
+    void aMeasuredCallDoesNotMakeTheCardLookLost();
     void onlyAMeasuredCallIsToldWhatItCosts();
     void aCallThatWasOnAlreadyCountsFromItsBeginning();
     void whatAnInterruptedCallHasCountedIsFoundByItsSuccessor();
@@ -319,6 +322,19 @@ void TestSeveralAtOnce::aMeasuredCallThatCouldNotBeBegunIsNotChargedByTheTariff(
     QCOMPARE(books->addHistory({past}, Charge::Measured), int(Success));
     QCOMPARE(books.costs(), QList<qint64>({3, 3, 0}));
     QCOMPARE(books->standing().state.card.acm(), 0u);
+}
+
+// Its costs are another card's: this one was never written for them.
+void TestSeveralAtOnce::aMeasuredCallDoesNotMakeTheCardLookLost()
+{
+    StateDir state;
+    Books books(state.path());
+    const qint64 measured = books.begin(dialed(), Charge::Measured);
+    QCOMPARE(books->setUnits(measured, 4), int(Success));
+    QCOMPARE(books->endCall(measured), int(Success));
+    books.open();
+    QCOMPARE(books.notice, QString());
+    QCOMPARE(books.costs(), QList<qint64>({4, 4, 0}));
 }
 
 void TestSeveralAtOnce::onlyAMeasuredCallIsToldWhatItCosts()
