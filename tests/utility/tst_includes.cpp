@@ -44,8 +44,9 @@ constexpr Rule rules[] = {
      "platform/handset/simulated/ platform/handset/calllog platform/handset/charging platform/handset",
      "a backend knows no other"},
     {"platform/handset/live/",
-     "platform/handset/live platform/handset/calllog platform/handset/charging platform/handset",
-     "what the live handsets share knows none of them"},
+     "platform/handset/live platform/handset/calllog platform/handset/charging platform/handset "
+     "platform/qt/qcop",
+     "what the live handsets share knows none of them, and asks whether a bus answers before Qt waits for it"},
     {"platform/handset/modemmanager/",
      "platform/handset/modemmanager/ platform/handset/live platform/handset/calllog platform/handset/charging "
      "platform/handset",

@@ -1,11 +1,15 @@
 #include "live/BusDaemon.h"
 
+#include "qt/qcop/BusProbe.h"
+
 #include <QtCore/QTimer>
 #include <QtDBus/QDBusError>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusPendingReply>
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace handset::live {
@@ -14,6 +18,16 @@ namespace {
 
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+
+constexpr int busPatienceMs = 250;
+const QString itIsSilent = QStringLiteral("it does not answer");
+
+// Qt waits without end for a bus that takes a connection and says nothing. Where nobody is there, Qt knows why.
+bool isSilent(const QString &address, int longestMs)
+{
+    const auto deadline = BusProbe::Clock::now() + std::chrono::milliseconds(std::min(longestMs, busPatienceMs));
+    return BusProbe::ofBus(address.toLocal8Bit()).answer(deadline) == BusProbe::Answer::Silence;
+}
 
 } // namespace
 
@@ -26,6 +40,8 @@ QString systemBusAddress()
 QDBusMessage askAndWait(const QString &service, const QString &path, const QString &interface,
                         const QString &method, int longestMs)
 {
+    if (isSilent(systemBusAddress(), longestMs))
+        return QDBusMessage::createError(QDBusError::NoReply, itIsSilent);
     const QString name = QStringLiteral("kav-presence");
     QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, method);
     question.setAutoStartService(false);
@@ -42,8 +58,8 @@ BusDaemon::BusDaemon(QString name, QString address, int reconnectMs)
     , reconnect(new QTimer(this))
 {
     reconnect->setInterval(reconnectMs);
-    reconnect->setTimerType(Qt::VeryCoarseTimer);
-    connect(reconnect, &QTimer::timeout, this, [this] { connectToBus(); });
+    reconnect->setSingleShot(true);
+    connect(reconnect, &QTimer::timeout, this, [this] { lookForBus(); });
 }
 
 BusDaemon::~BusDaemon()
@@ -54,7 +70,29 @@ BusDaemon::~BusDaemon()
 
 bool BusDaemon::start()
 {
-    return connectToBus();
+    if (!isSilent(busAddress, busPatienceMs))
+        return connectToBus();
+    whyNot = itIsSilent;
+    reconnect->start();
+    return false;
+}
+
+// Waits for nothing: the question is put at one time, and its answer looked for at another. While nobody takes the
+// connection no second question is put, which would be one more thread that waits.
+void BusDaemon::lookForBus()
+{
+    if (!probe) {
+        probe = std::make_unique<BusProbe>(BusProbe::ofBus(busAddress.toLocal8Bit()));
+        QTimer::singleShot(std::min(busPatienceMs, reconnect->interval()), reconnect, [this] { lookForBus(); });
+        return;
+    }
+    const bool isAnswered = probe->answer(BusProbe::Clock::now()) == BusProbe::Answer::Given;
+    if (probe->isDone())
+        probe.reset();
+    if (isAnswered)
+        connectToBus();
+    else
+        reconnect->start();
 }
 
 // A connection to a bus that has gone does not come back: each attempt is another one.

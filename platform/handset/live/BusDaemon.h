@@ -6,6 +6,9 @@
 #include <QtDBus/QDBusConnection>
 #include <QtDBus/QDBusMessage>
 
+#include <memory>
+
+class BusProbe;
 class QTimer;
 
 namespace handset::live {
@@ -14,7 +17,7 @@ namespace handset::live {
 QString systemBusAddress();
 
 /// What an object of a daemon that runs answers to a method without arguments; an error where none does within
-/// `longestMs`. The one question that is waited for, before there is a handset.
+/// `longestMs`, of which a bus that is silent takes a quarter of a second. The one question that is waited for, before there is a handset.
 QDBusMessage askAndWait(const QString &service, const QString &path, const QString &interface,
                         const QString &method, int longestMs);
 
@@ -36,9 +39,10 @@ public:
                        int reconnectMs = Patience().reconnectMs);
     ~BusDaemon() override;
 
-    /// False when there is no bus; that is then looked for until there is one. This alone waits, for the bus itself.
+    /// False when there is no bus or it is silent; it is then looked for until there is one. This alone waits, for the
+    /// bus itself, a quarter of a second at most.
     bool start();
-    /// Why start() has found no bus.
+    /// Why start() has found no bus, part of a sentence.
     QString error() const { return whyNot; }
     /// That of the bus while there is one; another one after the bus has gone and come back.
     const QDBusConnection &bus() const { return connection; }
@@ -55,6 +59,7 @@ private slots:
     void busLost();
 
 private:
+    void lookForBus();
     bool connectToBus();
     void askForOwner();
     void setOwner(const QString &now);
@@ -65,7 +70,8 @@ private:
     QDBusConnection connection;
     QString ownerName;
     QString whyNot;
-    QTimer *reconnect; ///< runs while there is no bus
+    QTimer *reconnect;               ///< runs while there is no bus
+    std::unique_ptr<BusProbe> probe; ///< while the bus is asked whether it answers
 };
 
 } // namespace handset::live

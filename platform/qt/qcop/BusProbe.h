@@ -25,6 +25,8 @@ public:
     /// as Qt would.
     static BusProbe ofSession(const QByteArray &addresses);
 
+    /// Whether the bus has answered, or has been silent for as long as its thread has waited for a word.
+    bool isDone() const { return bus.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }
     /// What the bus has answered until `deadline`, which is waited for at most.
     Answer answer(Clock::time_point deadline) const { return taken(bus, deadline); }
     /// The same of what ofSession() asks after it. Nobody where it asks nothing.

@@ -2,9 +2,11 @@
 #include "handset/HandsetTestKit.h"
 #include "handset/modemmanager/FakeModemManager.h"
 #include "handset/ofono/FakeOfono.h"
+#include "qt/qcop/FakeBus.h"
 #include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QScopeGuard>
 #include <QtCore/QThread>
 
 #include <memory>
@@ -23,6 +25,8 @@ enum class Daemon { Missing, Silent, WithoutModem, WithModem };
 } // namespace
 
 Q_DECLARE_METATYPE(Daemon)
+Q_DECLARE_METATYPE(Door)
+Q_DECLARE_METATYPE(FakeBus::Manner)
 
 class TestAuto : public QObject
 {
@@ -38,6 +42,8 @@ private slots:
     void aModemThatComesLaterIsToldOf_data();
     void aModemThatComesLaterIsToldOf();
     void whoHasEndedTheWaitIsToldOfNothing();
+    void aSilentBusIsToldAndNotWaitedFor_data();
+    void aSilentBusIsToldAndNotWaitedFor();
     // The last ones, as they end the bus.
     void withoutABusItIsTheSimulation();
     void withoutABusNothingIsWaitedFor();
@@ -175,6 +181,33 @@ void TestAuto::whoHasEndedTheWaitIsToldOfNothing()
                      {{QStringLiteral("OperatorName"), QStringLiteral("Another")}});
     QTRY_VERIFY_WITH_TIMEOUT(kept.size() > told, limitMs);
     QCOMPARE(ended.size(), qsizetype{1});
+}
+
+void TestAuto::aSilentBusIsToldAndNotWaitedFor_data()
+{
+    QTest::addColumn<Door>("door");
+    QTest::addColumn<FakeBus::Manner>("manner");
+    QTest::newRow("a socket in a file that takes connections and says nothing") << Door::File << FakeBus::Silent;
+    QTest::newRow("a TCP port that takes connections and says nothing") << Door::Network << FakeBus::Silent;
+    QTest::newRow("a socket in a file that takes no connection") << Door::File << FakeBus::Full;
+}
+
+void TestAuto::aSilentBusIsToldAndNotWaitedFor()
+{
+    QFETCH(Door, door);
+    QFETCH(FakeBus::Manner, manner);
+    const FakeBus silent(manner, door);
+    QVERIFY(silent.isListening());
+    qputenv("DBUS_SYSTEM_BUS_ADDRESS", silent.address().toLocal8Bit());
+    const auto restored = qScopeGuard([this] { initTestCase(); });
+    const QString error = QStringLiteral("There is no system bus: it does not answer");
+    for (const QString &backend : {QStringLiteral("modemmanager"), QStringLiteral("ofono")}) {
+        Settings settings;
+        settings.backend = backend;
+        QCOMPARE(open(settings).error, error);
+    }
+    QCOMPARE(awaitModem([](const QString &) {}).error, error);
+    QCOMPARE(presentBackend(), QStringLiteral("simulated"));
 }
 
 void TestAuto::withoutABusItIsTheSimulation()

@@ -2,11 +2,16 @@
 #include "handset/live/LiveDesk.h"
 #include "handset/modemmanager/FakeModemManager.h"
 #include "modemmanager/ModemManagerModem.h"
+#include "qt/qcop/BusSocket.h"
 #include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QFile>
 #include <QtDBus/QDBusObjectPath>
 #include <QtTest/QSignalSpy>
+
+#include <poll.h>
+#include <unistd.h>
 
 using namespace handset;
 using namespace handset::test;
@@ -122,6 +127,7 @@ private slots:
     void theStateOfTheModemIsInWords_data();
     void theStateOfTheModemIsInWords();
     void withoutABusThereIsAnError();
+    void aBusThatComesBackSilentHoldsNothingUp();
 };
 
 void TestModem::callsAreRecordedInBothDirections()
@@ -719,6 +725,32 @@ void TestModem::withoutABusThereIsAnError()
     fake.addModem(fake.modem);
     fake.appear();
     QTRY_VERIFY(modem.state().isThere);
+}
+
+void TestModem::aBusThatComesBackSilentHoldsNothingUp()
+{
+    PrivateBus bus;
+    FakeModemManager first(bus.address());
+    first.addModem(first.modem);
+    first.appear();
+    modemmanager::ModemManagerModem modem(bus.address(), {5'000, 5'000, 50});
+    QCOMPARE(modem.connectToBus(), QString());
+    QTRY_VERIFY(modem.state().isThere);
+    bus.kill();
+    const QString path = bus.address().section(u'=', 1);
+    QVERIFY(QFile::remove(path));
+    const int silent = listeningSocket(Door::File, path);
+    QTRY_VERIFY(!modem.state().isThere);
+    // Whoever waited there for what the bus says would never get to look at it.
+    pollfd caller{silent, POLLIN, 0};
+    QTRY_VERIFY_WITH_TIMEOUT(poll(&caller, 1, 0) == 1, 60'000);
+    close(silent);
+    QVERIFY(QFile::remove(path));
+    QVERIFY(bus.start());
+    FakeModemManager second(bus.address());
+    second.addModem(second.modem);
+    second.appear();
+    QTRY_VERIFY_WITH_TIMEOUT(modem.state().isThere, 60'000);
 }
 
 KAV_TEST_GROUP(TestModem, QCoreApplication);
