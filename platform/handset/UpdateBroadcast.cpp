@@ -37,6 +37,8 @@ void subscribe()
                          if (message == changeMessage && sender != ownNumber() && changeListener())
                              changeListener()();
                      });
+    // Whatever has been changed until now.
+    changeListener()();
 }
 
 } // namespace

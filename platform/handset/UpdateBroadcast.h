@@ -12,8 +12,8 @@ void broadcastUpdate();
 /// Sends the message "/KAV/handset/Changed" on the QCop channel "/KAV/handset": this process has changed something in
 /// its ledger. Queued, too. The data are the number of the process.
 void broadcastChange();
-/// From a second after the first call on `listener` is called for each change of another process; it takes the place of
-/// the one before. Null for nobody. Does nothing without an application object.
+/// From a second after the first call on `listener` is called for each change of another process, and once at that moment
+/// for those before; it takes the place of the one before. Null for nobody. Does nothing without an application object.
 void followChanges(const std::function<void()> &listener);
 
 } // namespace handset

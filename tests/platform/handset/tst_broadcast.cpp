@@ -3,6 +3,7 @@
 #include "handset/AdviceOfCharge.h"
 #include "handset/CallLog.h"
 #include "handset/HandsetTestKit.h"
+#include "handset/OtherProcess.h"
 #include "handset/PacketData.h"
 #include "handset/SimSecurity.h"
 #include "handset/Status.h"
@@ -98,12 +99,16 @@ private slots:
     void whatIsChangedHereIsAnnouncedOnce();
     void whatIsOwedIsAnnouncedAgainWhenItIsWritten();
     void whatAnotherProcessChangesIsSignalledHere();
+    void whatItChangesBeforeAnybodyListensIsSignalledToo();
 
 private:
     static void tick(const Phone &phone)
     {
         QVERIFY(QMetaObject::invokeMethod(phone->findChild<QTimer *>(), "timeout"));
     }
+
+    /// What hears of the changes of other processes; null before it does.
+    static QCopChannel *listener() { return QCoreApplication::instance()->findChild<QCopChannel *>(); }
 
     PrivateBus bus;
 };
@@ -372,13 +377,33 @@ void TestBroadcast::whatAnotherProcessChangesIsSignalledHere()
     const auto tellAs = [](const QByteArray &process) {
         QCopChannel::send("/KAV/handset", "/KAV/handset/Changed", process);
     };
-    tellAs("1");                                                      // no process of ours
-    QTRY_VERIFY_WITH_TIMEOUT((tellAs("1"), spy.count() > 0), 60'000); // once it listens
-    QTest::qWait(0);
+    QTRY_VERIFY_WITH_TIMEOUT(listener(), 60'000);
+    QCoreApplication::processEvents();
+    spy.clear();
+    tellAs("1"); // no process of ours
+    QCoreApplication::processEvents();
+    QCOMPARE(spy.count(), 1);
     spy.clear();
     tellAs(QByteArray::number(QCoreApplication::applicationPid()));
     QCoreApplication::processEvents();
     QCOMPARE(spy.count(), 0);
+}
+
+// It sends no message here, and could send none that arrives.
+void TestBroadcast::whatItChangesBeforeAnybodyListensIsSignalledToo()
+{
+    const StateDir state;
+    OtherProcess recorder(state.path());
+    QCOMPARE(recorder.firstLine(), QByteArray("holding"));
+    const Phone phone(state.path());
+    delete listener(); // as in a process that has just started
+    install(phone.opened.handset);
+    QSignalSpy spy(phone.operator->(), &simulated::SimulatedHandset::changed);
+    QCOMPARE(recorder.ask("dial 5"), QByteArray("0"));
+    QCOMPARE(recorder.ask("connect"), QByteArray("0"));
+    QTRY_COMPARE_WITH_TIMEOUT(spy.count(), 1, 60'000);
+    QVERIFY(listener());
+    QCOMPARE(phone->lineState(), simulated::SimulatedHandset::LineState::Connected);
 }
 
 KAV_TEST_GROUP(TestBroadcast, QCoreApplication);
