@@ -28,6 +28,7 @@ QString describe(Verdict verdict)
     switch (verdict) {
     case Verdict::Usable:
     case Verdict::Missing:
+    case Verdict::Newer:
     case Verdict::Older:
     case Verdict::Blocked:
         break; // not worth a notice, or an error
@@ -37,8 +38,6 @@ QString describe(Verdict verdict)
         return QStringLiteral("The call log was emptied");
     case Verdict::Foreign:
         return QStringLiteral("\"%1\" is not a call log").arg(QString::fromLatin1(databaseName));
-    case Verdict::Newer:
-        return QStringLiteral("The call log was written by a newer version");
     }
     return {};
 }
@@ -228,6 +227,8 @@ QString replace(StateDirectory &directory, Verdict verdict, const ProgressListen
     const Finding found = copy.look(verdict);
     if (found.verdict == Verdict::Blocked)
         return QStringLiteral("a new one cannot be made (%1)").arg(explain(found));
+    if (found.verdict == Verdict::Newer) // nothing is wrong with it, and that version will want it again
+        return explain(found);
     const Replaced old{found.verdict, directory.unusedName(name), progress};
     const Finding made = makeReplacement(directory, copy, old);
     if (made.verdict != Verdict::Usable)

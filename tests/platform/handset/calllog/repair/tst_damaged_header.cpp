@@ -83,7 +83,8 @@ private slots:
     void aHeaderThatIsGoneAsAWholeCostsNoCall();
     void aPageSizeThatIsWrongIsFoundInALogThatWasCutOff();
     void aVersionThatIsWrongAloneIsNotANewerLog();
-    void aNewerLogStaysOne();
+    void aNewerLogIsAnErrorAndStaysAsItIs_data();
+    void aNewerLogIsAnErrorAndStaysAsItIs();
 
 private:
     void checkChange(const QByteArray &database, const QByteArray &wal);
@@ -199,23 +200,34 @@ void TestDamagedHeader::aVersionThatIsWrongAloneIsNotANewerLog()
     checkChange(database, {});
 }
 
-void TestDamagedHeader::aNewerLogStaysOne()
+void TestDamagedHeader::aNewerLogIsAnErrorAndStaysAsItIs_data()
 {
+    QTest::addColumn<QString>("statement");
+    QTest::newRow("with one table more")
+        << QStringLiteral("CREATE TABLE notes (id INTEGER PRIMARY KEY, note TEXT NOT NULL) STRICT");
+    QTest::newRow("with another column") << QStringLiteral("ALTER TABLE calls RENAME COLUMN number TO name");
+    QTest::newRow("with one table less") << QStringLiteral("DROP TABLE totals");
+}
+
+void TestDamagedHeader::aNewerLogIsAnErrorAndStaysAsItIs()
+{
+    QFETCH(QString, statement);
     const StateDir state;
     QVERIFY(QDir().mkpath(state.path()));
     QVERIFY(writeFile(state.database(), closed));
     {
         const LogFile file(state.database());
-        QVERIFY(
-            file.run(QStringLiteral("CREATE TABLE notes (id INTEGER PRIMARY KEY, note TEXT NOT NULL) STRICT")));
+        QVERIFY(file.run(statement));
         QVERIFY(file.run(QStringLiteral("PRAGMA user_version = %1").arg(calllog::migrations().size() + 1)));
     }
     const QByteArray newer = readFile(state.database());
-    Phone phone(state.path());
-    QCOMPARE(phone.opened.notice, QStringLiteral("The call log was written by a newer version; it was kept as "
-                                                 "\"calllog-kept-1.db\" and a new one was begun."));
-    QCOMPARE(phone.figures(), SixFigures());
-    QCOMPARE(readFile(state.file(QStringLiteral("calllog-kept-1.db"))), newer);
+    for (int starts = 0; starts < 2; ++starts) {
+        QCOMPARE(Phone(state.path()).opened.error,
+                 QStringLiteral("The call log \"%1\" cannot be used: it was written by a newer version.")
+                     .arg(state.database()));
+        QCOMPARE(readFile(state.database()), newer);
+        QCOMPARE(state.names(), QStringList{QStringLiteral("calllog.db")});
+    }
 }
 
 KAV_TEST_GROUP(TestDamagedHeader, QCoreApplication);

@@ -438,14 +438,6 @@ void TestDamagedLog::whatIsNotACallLogIsKeptAndSaid_data()
         << database({table, QStringLiteral("PRAGMA application_id = 7")}) << notOne;
     QTest::newRow("an empty database with another application's id")
         << database({QStringLiteral("PRAGMA application_id = 7")}) << notOne;
-    const qsizetype newer = static_cast<qsizetype>(calllog::migrations().size()) + 1;
-    QTest::newRow("a log of a newer version")
-        << database({QStringLiteral("PRAGMA application_id = %1").arg(calllog::applicationId),
-                     QStringLiteral("PRAGMA user_version = %1").arg(newer),
-                     QStringLiteral("CREATE TABLE calls (everything TEXT)")})
-        << QStringLiteral(
-               "The call log was written by a newer version; it was kept as \"calllog-kept-1.db\" and a new "
-               "one was begun.");
 }
 
 void TestDamagedLog::whatIsNotACallLogIsKeptAndSaid()
