@@ -62,11 +62,24 @@ int makeDirectories(const QString &path)
     return QFileInfo(path).isDir() ? 0 : ENOTDIR; // another process may have been quicker
 }
 
+// Only the owner may. A link is followed: whoever calls this has looked.
+bool makeOurs(const QByteArray &path)
+{
+    return ::chmod(path.constData(), 0600) == 0;
+}
+
 // A descriptor, or minus an errno. A lock file is never removed: another process may be about to lock it.
 int openLockFile(const QString &path)
 {
-    const int fd = ::open(encoded(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
-    return fd < 0 ? -errno : fd;
+    const QByteArray name = encoded(path);
+    const auto open = [&name] {
+        const int fd = ::open(name.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600);
+        return fd < 0 ? -errno : fd;
+    };
+    const int fd = open();
+    struct stat status = {};
+    const bool isFile = fd == -EACCES && ::lstat(name.constData(), &status) == 0 && S_ISREG(status.st_mode);
+    return isFile && makeOurs(name) ? open() : fd;
 }
 
 // 0 or an errno.
@@ -446,6 +459,15 @@ QString StateDirectory::filePath(const QString &name) const
 
 QString StateDirectory::mendRights(const QString &name) const
 {
+    const QByteArray log = encoded(filePath(name));
+    struct stat found = {};
+    // What else may be in its place is looked at by who examines the file.
+    if (::lstat(log.constData(), &found) == 0 && S_ISREG(found.st_mode)) {
+        if ((found.st_mode & 0777) != 0600)
+            makeOurs(log);
+        if (::faccessat(AT_FDCWD, log.constData(), R_OK | W_OK, AT_EACCESS) != 0)
+            return QStringLiteral("it cannot be read and written (%1)").arg(reason(errno));
+    }
     for (const char *suffix : {recordings[0], recordings[1], indexSuffix}) {
         const QString file = filePath(name + QLatin1String(suffix));
         const QByteArray encodedFile = encoded(file);
@@ -457,7 +479,7 @@ QString StateDirectory::mendRights(const QString &name) const
         if (!S_ISREG(status.st_mode)) // SQLite would wait at a pipe for ever
             return QStringLiteral("\"%1\" is no regular file").arg(file);
         if ((status.st_mode & 0777) != 0600)
-            ::chmod(encodedFile.constData(), 0600); // only the owner may
+            makeOurs(encodedFile);
         if (::faccessat(AT_FDCWD, encodedFile.constData(), R_OK | W_OK, AT_EACCESS) != 0)
             return QStringLiteral("\"%1\" cannot be read and written (%2)").arg(file, reason(errno));
     }

@@ -76,9 +76,9 @@ public:
 
     /// 0 for a name that is in use, ENOENT for one that is not; any other errno when that cannot be told.
     int find(const QString &name) const;
-    /// Makes what SQLite left beside `name` readable and writable for its user alone. Returns what is wrong with the
-    /// one that is not and cannot be made so, or is no regular file, part of a sentence that names it; empty when there
-    /// is none.
+    /// Makes the database `name` and what SQLite left beside it readable and writable for its user alone. Returns what
+    /// is wrong with the one that is not and cannot be made so, or that lies beside it and is no regular file, part of a
+    /// sentence that names it; empty when there is none.
     QString mendRights(const QString &name) const;
     /// Whether SQLite left recordings beside `name`: it was not closed. True also when that cannot be told.
     bool hasLeftovers(const QString &name) const;

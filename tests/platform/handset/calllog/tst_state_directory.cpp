@@ -6,6 +6,7 @@
 
 #include <QtCore/QDir>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 
@@ -24,6 +25,18 @@ uid_t ordinaryUser()
 {
     constexpr uid_t nobody = 65534;
     return ::geteuid() == 0 ? nobody : ::geteuid();
+}
+
+// The directory and all in it, which others may then reach.
+bool giveAll(const StateDir &state, uid_t user)
+{
+    const auto give = [user](const QString &path) {
+        return ::chown(QFile::encodeName(path).constData(), user, static_cast<gid_t>(-1)) == 0;
+    };
+    const QStringList names = QDir(state.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return ::chmod(QFile::encodeName(state.sibling(QStringLiteral("."))).constData(), 0711) == 0 &&
+           give(state.path()) &&
+           std::all_of(names.begin(), names.end(), [&](const QString &name) { return give(state.file(name)); });
 }
 
 } // namespace
@@ -48,7 +61,10 @@ private slots:
     void whatIsNoFileBesideTheLogIsNamedAndNotWaitedFor();
     void permissionsThatAreMissingAreTold_data();
     void permissionsThatAreMissingAreTold();
-    void aCallLogThatCannotBeWrittenIsTold();
+    void aFileOfTheTelephoneWithWrongRightsIsMended_data();
+    void aFileOfTheTelephoneWithWrongRightsIsMended();
+    void aFileOfAnotherUserIsNamedAndStaysAsItIs_data();
+    void aFileOfAnotherUserIsNamedAndStaysAsItIs();
     void aLockThatIsSomethingElseIsAnError_data();
     void aLockThatIsSomethingElseIsAnError();
     void aLinkToADirectoryIsFollowed();
@@ -295,22 +311,70 @@ void TestStateDirectory::permissionsThatAreMissingAreTold()
     QCOMPARE(state.names().isEmpty(), !isUsable);
 }
 
-void TestStateDirectory::aCallLogThatCannotBeWrittenIsTold()
+void TestStateDirectory::aFileOfTheTelephoneWithWrongRightsIsMended_data()
 {
-    const StateDir state;
-    QVERIFY(Phone(state.path()));
-    const QByteArray log = QFile::encodeName(state.database());
-    QCOMPARE(::chmod(QFile::encodeName(state.sibling(QStringLiteral("."))).constData(), 0711), 0);
-    for (const QString &name : QDir(state.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotDot)) {
-        if (::chown(QFile::encodeName(state.path() + QLatin1Char('/') + name).constData(), ordinaryUser(),
-                    static_cast<gid_t>(-1)) != 0)
-            QSKIP("root may not give a file to another user here");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("mode");
+    for (const char *file : {"calllog.db", "lock", "recorder"}) {
+        QTest::addRow("%s with no rights at all", file) << file << 0;
+        QTest::addRow("%s that cannot be written", file) << file << 0400;
+        QTest::addRow("%s that cannot be read", file) << file << 0200;
     }
-    QCOMPARE(::chmod(log.constData(), 0400), 0);
+}
+
+void TestStateDirectory::aFileOfTheTelephoneWithWrongRightsIsMended()
+{
+    QFETCH(QString, file);
+    QFETCH(int, mode);
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(second));
+    if (!giveAll(state, ordinaryUser()))
+        QSKIP("root may not give a file to another user here");
+    const QByteArray victim = QFile::encodeName(state.file(file));
+    QCOMPARE(::chmod(victim.constData(), static_cast<mode_t>(mode)), 0);
     const QByteArray answer = OtherProcess(state.path(), {QString::number(ordinaryUser())}).firstLine();
     if (answer == "not permitted")
         QSKIP("root may not become another user here");
-    QCOMPARE(answer, "error The call log \"" + log + "\" cannot be used: attempt to write a readonly database.");
+    QCOMPARE(answer, "holding");
+    QCOMPARE(QFile::permissions(state.file(file)) & ~(QFile::ReadUser | QFile::WriteUser),
+             QFile::ReadOwner | QFile::WriteOwner);
+    QCOMPARE(Phone(state.path()).figures().lifetime, quint64{1});
+}
+
+void TestStateDirectory::aFileOfAnotherUserIsNamedAndStaysAsItIs_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("refusal");
+    QTest::newRow("the call log")
+        << "calllog.db"
+        << "The call log \"%1/calllog.db\" cannot be used: it cannot be read and written "
+           "(Permission denied).";
+    for (const char *lock : {"lock", "recorder"})
+        QTest::newRow(lock) << lock
+                            << QStringLiteral(
+                                   "The state directory \"%1\" cannot be used: \"%1/%2\": Permission denied.")
+                                   .arg(QStringLiteral("%1"), QLatin1String(lock));
+}
+
+void TestStateDirectory::aFileOfAnotherUserIsNamedAndStaysAsItIs()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, refusal);
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(second));
+    const QByteArray victim = QFile::encodeName(state.file(file));
+    if (!giveAll(state, ordinaryUser()) ||
+        ::chown(victim.constData(), ordinaryUser() + 1, static_cast<gid_t>(-1)) != 0)
+        QSKIP("root may not give a file to another user here");
+    QCOMPARE(::chmod(victim.constData(), 0644), 0);
+    const QByteArray answer = OtherProcess(state.path(), {QString::number(ordinaryUser())}).firstLine();
+    if (answer == "not permitted")
+        QSKIP("root may not become another user here");
+    QCOMPARE(QString::fromUtf8(answer),
+             QStringLiteral("error ") + refusal.replace(QStringLiteral("%1"), state.path()));
+    struct stat status = {};
+    QCOMPARE(::stat(victim.constData(), &status), 0);
+    QCOMPARE(status.st_mode & 0777, mode_t{0644});
 }
 
 void TestStateDirectory::aLockThatIsSomethingElseIsAnError_data()
