@@ -207,6 +207,8 @@ int Database::status(bool succeeded) const
 {
     if (succeeded)
         return Success;
+    if (repeating && std::exchange(repeating->hasFailed, true))
+        return StorageFailed;
     qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(error)));
     return StorageFailed;
 }
@@ -219,6 +221,13 @@ int Database::status(bool succeeded, RepeatedWrite &write) const
     if (succeeded)
         qCInfo(lcCallLog, "What could not be written to the call log has been written.");
     return succeeded ? Success : StorageFailed;
+}
+
+int Database::Repeating::done(int status) const
+{
+    if (status == Success && std::exchange(database.repeating->hasFailed, false))
+        qCInfo(lcCallLog, "What could not be written to the call log has been written.");
+    return status;
 }
 
 void Database::warnOfMissingRow(const char *owner)

@@ -107,6 +107,24 @@ public:
     int status(bool succeeded) const;
     /// The same, with the warning only for the first failure.
     int status(bool succeeded, RepeatedWrite &write) const;
+    /// While this is there status() warns of the first failure of a repeated write only.
+    class Repeating
+    {
+    public:
+        Repeating(Database &owner, RepeatedWrite &write)
+            : database(owner)
+        {
+            database.repeating = &write;
+        }
+        ~Repeating() { database.repeating = nullptr; }
+        Q_DISABLE_COPY_MOVE(Repeating)
+
+        /// What the whole of it has come to; returns that.
+        int done(int status) const;
+
+    private:
+        Database &database;
+    };
     /// Warns of a row that somebody has removed while its call or session was running; `owner` is which of them.
     static void warnOfMissingRow(const char *owner);
 
@@ -143,6 +161,7 @@ private:
     QSqlDatabase connection;
     std::map<const char *, PlainStatement> statements;
     QSqlError error;
+    RepeatedWrite *repeating = nullptr;
 };
 
 } // namespace handset::calllog

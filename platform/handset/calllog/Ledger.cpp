@@ -458,9 +458,9 @@ int Ledger::setUnitsOfEnded(qint64 id, quint32 units)
     return database->status(done);
 }
 
-int Ledger::interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms)
+int Ledger::counted(const PastCall &call, qint64 sinceWallMs, Counted &counted)
 {
-    return database->status(tables.interrupted(call, sinceWallMs, ms));
+    return database->status(tables.counted(call, sinceWallMs, counted));
 }
 
 int Ledger::addUnconnected(const PastCall &call)
@@ -471,7 +471,7 @@ int Ledger::addUnconnected(const PastCall &call)
     return writeOwedCall();
 }
 
-bool Ledger::putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry)
+bool Ledger::putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry, qint64 &lastRow)
 {
     struct Sum {
         CallKind kind;
@@ -492,6 +492,7 @@ bool Ledger::putHistory(const QList<PastCall> &calls, Charge charge, Entry &entr
             entry.now.state.charge(static_cast<quint64>(past.units));
         if (!tables.insert(past, isConnected ? CallState::Finished : CallState::NotConnected))
             return false;
+        lastRow = database->lastInsertId();
         for (Sum &sum : sums) {
             if (ownTime(sum.kind, sum.direction) != ownTime(past.kind, past.direction))
                 continue;
@@ -508,13 +509,19 @@ bool Ledger::putHistory(const QList<PastCall> &calls, Charge charge, Entry &entr
            (tables.put(Total::LastTime, last.durationMs) && tables.put(Total::LastCost, last.units));
 }
 
-int Ledger::addHistory(const QList<PastCall> &calls, Charge charge)
+int Ledger::addHistory(const QList<PastCall> &calls, Charge charge, qint64 *lastRow)
 {
     if (!std::all_of(calls.begin(), calls.end(), isRecordable))
         return InvalidArgument;
     if (const int status = writeOwedCall())
         return status;
-    return transact([&](Entry &entry) { return database->status(putHistory(calls, charge, entry)); });
+    return transact([&](Entry &entry) {
+        qint64 row = 0;
+        const int status = database->status(putHistory(calls, charge, entry, row));
+        if (lastRow && status == Success)
+            *lastRow = row;
+        return status;
+    });
 }
 
 // --- sessions
@@ -541,10 +548,13 @@ int Ledger::beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 r
     return changed(database->status(done));
 }
 
-int Ledger::endSession(qint64 id)
+int Ledger::endSession(qint64 id, qint64 sent, qint64 received)
 {
     if (!end(ownSessions, id))
         return WrongState;
+    for (Own<SessionRow> &one : ownSessions)
+        if (one.row.id == id)
+            one.more = {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)};
     const int status = writeOwedSession();
     changed(Success);
     return status;
@@ -560,9 +570,9 @@ int Ledger::addBytes(qint64 id, qint64 sent, qint64 received)
     return transactSessions({}, nullptr, id, {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)});
 }
 
-int Ledger::interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts)
+int Ledger::counted(const QByteArray &apn, qint64 sinceWallMs, qint64 startWallMs, SessionAmounts &amounts)
 {
-    return database->status(tables.interrupted(apn, sinceWallMs, amounts));
+    return database->status(tables.counted(apn, sinceWallMs, startWallMs, amounts));
 }
 
 // Brings the rows to now, the one with that id by some bytes more; with `end` it writes the ends that are owed.
@@ -578,15 +588,15 @@ int Ledger::transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite 
         for (SessionRow &session : sessions) {
             const SessionAmounts before = session.amounts;
             session.amounts = session.amountsAt(moments.of(session.id));
-            if (session.id == id) {
-                session.amounts.sent = saturatingSum(session.amounts.sent, more.sent);
-                session.amounts.received = saturatingSum(session.amounts.received, more.received);
-            }
+            const auto over =
+                std::find_if(ownSessions.constBegin(), ownSessions.constEnd(),
+                             [&](const Own<SessionRow> &one) { return one.row.id == session.id && one.ended; });
+            const bool isOver = over != ownSessions.constEnd();
+            const SessionAmounts &added = isOver ? over->more : session.id == id ? more : SessionAmounts{};
+            session.amounts.sent = saturatingSum(session.amounts.sent, added.sent);
+            session.amounts.received = saturatingSum(session.amounts.received, added.received);
             session.written.goOnUntil(moments.of(session.id));
-            const auto isOver = [&](const Own<SessionRow> &one) { return one.row.id == session.id && one.ended; };
-            const CallState state = std::any_of(ownSessions.begin(), ownSessions.end(), isOver)
-                                        ? CallState::Finished
-                                        : CallState::Running;
+            const CallState state = isOver ? CallState::Finished : CallState::Running;
             const auto &[ms, sent, received] = session.amounts;
             if (!(gone.contains(session.id) || tables.update(session, state)) ||
                 !tables.addToSessions({ms - before.ms, sent - before.sent, received - before.received}))

@@ -67,15 +67,15 @@ public:
     /// meter may say so when the call is over. WrongState where there is none with that id, and for one that runs under
     /// a tariff.
     int setUnits(qint64 id, quint32 units);
-    /// How much of calls like this one, begun at `sinceWallMs` or later, is counted although their recorder ended before
-    /// they did, in ms.
-    int interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms);
+    /// How much of this call other recorders have counted, in rows like it that began at `sinceWallMs` or later: they
+    /// ended before the call did, or have heard of its end.
+    int counted(const PastCall &call, qint64 sinceWallMs, Counted &counted);
     /// A call has ended that was never connected. InvalidArgument as above; it is over whatever else this returns.
     int addUnconnected(const PastCall &call);
     /// Adds calls that are over, in their order, counted and charged as if they had been made. The last connected one
     /// becomes the last call unless a call is connected now. Those that are measured cost the units that they have.
-    /// InvalidArgument as above.
-    int addHistory(const QList<PastCall> &calls, Charge charge = Charge::Limited);
+    /// InvalidArgument as above. `lastRow`, where it is not null, is the id of the last one's row.
+    int addHistory(const QList<PastCall> &calls, Charge charge = Charge::Limited, qint64 *lastRow = nullptr);
     bool isConnected() const { return isAnyRunning(ownCalls); }
     bool owesCall() const { return isAnyOver(ownCalls) || !unconnected.isEmpty(); }
 
@@ -84,12 +84,12 @@ public:
     /// A session begins now that has come to `before` already, and counts the given bytes each second, each way.
     int beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond, qint64 &id,
                      const SessionAmounts &before = {});
-    /// As endCall().
-    int endSession(qint64 id);
+    /// As endCall(); that many bytes more have gone until then, as addBytes().
+    int endSession(qint64 id, qint64 sent = 0, qint64 received = 0);
     /// That many bytes more have gone each way, 0 or more; as setUnits().
     int addBytes(qint64 id, qint64 sent, qint64 received);
-    /// As interrupted() of calls.
-    int interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts);
+    /// As that of calls, for a session that began at `startWallMs`.
+    int counted(const QByteArray &apn, qint64 sinceWallMs, qint64 startWallMs, SessionAmounts &amounts);
     bool isSessionRunning() const { return isAnyRunning(ownSessions); }
     bool owesSession() const { return isAnyOver(ownSessions); }
     /// Whether one runs, whoever has begun it.
@@ -128,6 +128,15 @@ public:
     int checkpoint();
     int checkpointSession();
 
+    /// Runs `work`, which is tried until it succeeds: only its first failure is a warning, and its success after that a
+    /// message. Returns what it returns.
+    template <typename Work>
+    int repeat(RepeatedWrite &write, Work work)
+    {
+        const Database::Repeating repeating(*database, write);
+        return repeating.done(work());
+    }
+
     /// Writes how far running calls and sessions are, and leaves them to the next recorder, which finds them interrupted.
     void letGo();
 
@@ -147,6 +156,7 @@ private:
     struct Own {
         Row row;
         std::optional<Moment> ended = {}; ///< and that is not written yet
+        SessionAmounts more = {};         ///< nor are these bytes
     };
     template <typename Row>
     static bool isAnyRunning(const QList<Own<Row>> &own)
@@ -173,7 +183,7 @@ private:
     int transact(Entry &entry, Work work, RepeatedWrite *end);
     bool write(Entry &entry);
     bool writeCall(RunningCall &call, const Entry &entry, std::size_t index);
-    bool putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry);
+    bool putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry, qint64 &lastRow);
     int setUnitsOfEnded(qint64 id, quint32 units);
     int transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr, qint64 id = 0,
                          const SessionAmounts &more = {});

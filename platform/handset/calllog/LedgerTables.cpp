@@ -20,9 +20,13 @@ constexpr auto standingSql =
 constexpr auto closeCallsSql =
     "UPDATE calls SET state = 3, boot = NULL, written_ms = NULL, recorded_ms = NULL, most_ms = NULL,"
     " tariff = NULL, charge = NULL, is_last = NULL WHERE state = 0";
-constexpr auto interruptedCallsSql =
-    "SELECT sum(min(duration_ms, 9007199254740991)) FROM calls"
-    " WHERE state = 3 AND started_ms >= ? AND kind = ? AND direction = ? AND number = ?";
+// One that is over is the same where it still went on when that one began, or began with it: an earlier one to the same
+// number did neither.
+constexpr auto countedCallsSql =
+    "SELECT sum(min(duration_ms, 9007199254740991)), sum(min(units, 9007199254740991)) FROM calls"
+    " WHERE started_ms >= ? AND kind = ? AND direction = ? AND number = ?"
+    " AND (state = 3 OR (state = 1 AND (started_ms + min(duration_ms, 9007199254740991) > ?5"
+    " OR abs(started_ms - ?5) < 2000)))";
 constexpr auto closeSessionsSql =
     "UPDATE sessions SET state = 3, boot = NULL, written_ms = NULL, recorded_ms = NULL,"
     " sent_per_s = NULL, received_per_s = NULL WHERE state = 0";
@@ -30,9 +34,10 @@ constexpr auto closeSessionsSql =
 constexpr auto insertSessionSql =
     "INSERT INTO sessions (apn, started_ms, duration_ms, sent, received, state, boot, written_ms, recorded_ms,"
     " sent_per_s, received_per_s) VALUES (?, ?, ?, ?, ?, 0, ?, ?, ?, ?, ?)";
-constexpr auto interruptedSessionsSql =
+constexpr auto countedSessionsSql =
     "SELECT sum(min(duration_ms, 9007199254740991)), sum(min(sent, 9007199254740991)),"
-    " sum(min(received, 9007199254740991)) FROM sessions WHERE state = 3 AND started_ms >= ? AND apn = ?";
+    " sum(min(received, 9007199254740991)) FROM sessions WHERE started_ms >= ? AND apn = ?"
+    " AND (state = 3 OR (state = 1 AND started_ms + min(duration_ms, 9007199254740991) > ?))";
 constexpr auto updateSessionSql =
     "UPDATE sessions SET state = ?, duration_ms = ?, sent = ?, received = ?, boot = ?, written_ms = ?,"
     " recorded_ms = ?, sent_per_s = ?, received_per_s = ? WHERE id = ?";
@@ -353,22 +358,22 @@ bool LedgerTables::list(QList<SessionRow> &sessions, const char *select, const V
     return done;
 }
 
-bool LedgerTables::interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms)
+bool LedgerTables::counted(const PastCall &call, qint64 sinceWallMs, Counted &counted)
 {
-    if (!database.runForRow(interruptedCallsSql, sinceWallMs, static_cast<int>(call.kind),
-                            static_cast<int>(call.direction), call.number))
+    if (!database.runForRow(countedCallsSql, sinceWallMs, static_cast<int>(call.kind),
+                            static_cast<int>(call.direction), call.number, call.startWallMs))
         return false;
-    PlainStatement &row = database.statement(interruptedCallsSql);
-    ms = row.number(0);
+    PlainStatement &row = database.statement(countedCallsSql);
+    counted = {row.number(0), row.number(1)};
     row.finish();
     return true;
 }
 
-bool LedgerTables::interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts)
+bool LedgerTables::counted(const QByteArray &apn, qint64 sinceWallMs, qint64 startWallMs, SessionAmounts &amounts)
 {
-    if (!database.runForRow(interruptedSessionsSql, sinceWallMs, QString::fromLatin1(apn)))
+    if (!database.runForRow(countedSessionsSql, sinceWallMs, QString::fromLatin1(apn), startWallMs))
         return false;
-    PlainStatement &row = database.statement(interruptedSessionsSql);
+    PlainStatement &row = database.statement(countedSessionsSql);
     amounts = {row.number(0), row.number(1), row.number(2)};
     row.finish();
     return true;

@@ -77,6 +77,12 @@ struct EndedCall {
     bool isLast = false; ///< none has been connected since
 };
 
+/// What rows have counted of a call already.
+struct Counted {
+    qint64 ms = 0;
+    qint64 units = 0;
+};
+
 /// The row of a session; it runs where the last three say something.
 struct SessionRow {
     qint64 id = 0;
@@ -140,9 +146,10 @@ public:
     bool insert(SessionRow &session, qint64 startWallMs);
     bool update(const SessionRow &session, CallState state);
     bool running(QList<SessionRow> &sessions);
-    /// What rows like that one, begun at `sinceWallMs` or later, have counted of a call or session that was interrupted.
-    bool interrupted(const PastCall &call, qint64 sinceWallMs, qint64 &ms);
-    bool interrupted(const QByteArray &apn, qint64 sinceWallMs, SessionAmounts &amounts);
+    /// What rows like that one, begun at `sinceWallMs` or later, have counted of a call or session that was interrupted,
+    /// or is over and went on when that one began: at `call.startWallMs`, at `startWallMs`.
+    bool counted(const PastCall &call, qint64 sinceWallMs, Counted &counted);
+    bool counted(const QByteArray &apn, qint64 sinceWallMs, qint64 startWallMs, SessionAmounts &amounts);
     /// The `most` sessions that began last, the newest first.
     bool recent(int most, QList<SessionRow> &sessions);
 

@@ -41,7 +41,7 @@ CallDirection directionOf(const ReportedCall &call)
 CallRecorder::CallRecorder(calllog::Ledger &owner, const Clock &clocks, calllog::Charge how)
     : ledger(owner)
     , clock(clocks)
-    , charge(how)
+    , chargeNow(how)
 {}
 
 bool CallRecorder::report(const ReportedCall &call)
@@ -71,7 +71,9 @@ bool CallRecorder::report(const ReportedCall &call)
 void CallRecorder::connect(Followed &followed) const
 {
     followed.connectedAtMs = clock.monotonicMs();
-    followed.charge = charge;
+    followed.charge = chargeNow;
+    if (chargeNow == calllog::Charge::Measured)
+        followed.cost = std::make_shared<Cost>();
     if (!followed.call.isFound)
         return;
     followed.mayBeKnown = true;
@@ -104,56 +106,129 @@ PastCall CallRecorder::asPast(const Followed &followed, qint64 ms) const
     return past;
 }
 
-// What a recorder that has ended before the call did has counted of it stays counted there.
+// What a recorder that has ended before the call did, or has heard of its end sooner, has counted of it stays counted
+// there. False when that cannot be read.
+bool CallRecorder::takeOffKnown(PastCall &call, const std::shared_ptr<Cost> &cost, bool isFound)
+{
+    calllog::Counted counted;
+    if (ledger.counted(call, call.startWallMs - sameCallMs, counted) != Success)
+        return false;
+    call.durationMs = calllog::elapsed(counted.ms, call.durationMs);
+    // Of a call that was found the meter is read from then on.
+    if (cost && !isFound)
+        cost->known = static_cast<quint32>(std::min<qint64>(counted.units, cost->units));
+    return true;
+}
+
 void CallRecorder::begin(Followed &followed)
 {
-    PastCall call = asPast(followed, connectedMs(followed));
     if (!ledger.record()) {
         followed.mayBeKnown = true;
         return;
     }
-    if (followed.mayBeKnown) {
-        qint64 counted = 0;
-        if (ledger.interrupted(call, call.startWallMs - sameCallMs, counted) != Success)
-            return;
-        call.durationMs = calllog::elapsed(counted, call.durationMs);
-    }
-    ledger.beginCall(call, followed.row, followed.charge);
+    ledger.repeat(again, [&] {
+        PastCall call = asPast(followed, connectedMs(followed));
+        if (followed.mayBeKnown && !takeOffKnown(call, followed.cost, followed.call.isFound))
+            return int{StorageFailed};
+        return ledger.beginCall(call, followed.row, followed.charge);
+    });
+    if (followed.row == 0 || !followed.cost)
+        return;
+    followed.cost->row = followed.row;
+    charge(followed.cost, 0);
 }
 
-void CallRecorder::retry()
+bool CallRecorder::retry()
 {
-    writeUnwritten();
-    for (Followed &followed : calls)
-        if (followed.connectedAtMs && followed.row == 0)
+    bool any = writeUnwritten();
+    any = writeCosts() || any;
+    for (Followed &followed : calls) {
+        if (followed.connectedAtMs && followed.row == 0) {
             begin(followed);
+            any = any || followed.row != 0;
+        }
+    }
+    return any;
 }
 
-void CallRecorder::finish(const Followed &followed)
+// What nobody records is this process's to keep, whether or not it can be written now.
+void CallRecorder::finish(Followed &followed)
 {
     if (followed.row != 0) {
         ledger.endCall(followed.row);
-    } else if (ledger.record()) {
-        unwritten.append({asPast(followed, followed.connectedAtMs ? connectedMs(followed) : 0), followed.charge});
-        writeUnwritten();
+        return;
     }
+    if (!ledger.record()) {
+        if (ledger.whyNotRecording() == RecordedElsewhere)
+            return;
+        followed.mayBeKnown = true;
+    }
+    unwritten.append({asPast(followed, followed.connectedAtMs ? connectedMs(followed) : 0), followed.charge,
+                      followed.mayBeKnown && followed.connectedAtMs.has_value(), followed.cost});
+    writeUnwritten();
+}
+
+int CallRecorder::write(Over over)
+{
+    if (over.mayBeKnown) {
+        const qint64 wholeMs = over.call.durationMs;
+        if (!takeOffKnown(over.call, over.cost, false))
+            return StorageFailed;
+        if (over.call.durationMs == 0 && wholeMs > 0)
+            return Success;
+    }
+    if (over.cost)
+        over.call.units = over.cost->units - over.cost->known;
+    qint64 row = 0;
+    const int status = ledger.addHistory({over.call}, over.charge, &row);
+    if (status == Success && over.cost)
+        over.cost->row = row;
+    return status;
 }
 
 // In their order, each by itself: what has been written is no longer owed.
-void CallRecorder::writeUnwritten()
+bool CallRecorder::writeUnwritten()
 {
-    while (!unwritten.isEmpty()) {
-        const auto &[call, how] = unwritten.constFirst();
-        if (ledger.addHistory({call}, how) != Success)
-            return;
+    bool any = false;
+    while (!unwritten.isEmpty() && ledger.record()) {
+        if (ledger.repeat(again, [&] { return write(unwritten.constFirst()); }) != Success)
+            return any;
         unwritten.removeFirst();
+        any = true;
     }
+    return any;
+}
+
+bool CallRecorder::charge(const std::shared_ptr<Cost> &cost, quint32 more)
+{
+    cost->units += more;
+    if (cost->row == 0 || cost->units == 0)
+        return false;
+    if (!owedCosts.contains(cost))
+        owedCosts.append(cost);
+    return writeCosts();
+}
+
+// A row that somebody has removed costs nothing.
+bool CallRecorder::writeCosts()
+{
+    bool any = false;
+    while (!owedCosts.isEmpty()) {
+        const Cost &cost = *owedCosts.constFirst();
+        const int status =
+            ledger.repeat(again, [&] { return ledger.setUnits(cost.row, cost.units - cost.known); });
+        if (status == StorageFailed)
+            return any;
+        any = any || status == Success;
+        owedCosts.removeFirst();
+    }
+    return any;
 }
 
 bool CallRecorder::gone(const QString &id)
 {
-    const auto found = calls.constFind(id);
-    if (found == calls.constEnd())
+    const auto found = calls.find(id);
+    if (found == calls.end())
         return false;
     finish(*found);
     calls.erase(found);
@@ -163,7 +238,7 @@ bool CallRecorder::gone(const QString &id)
 bool CallRecorder::allGone()
 {
     const bool any = !calls.isEmpty();
-    for (const Followed &followed : std::as_const(calls))
+    for (Followed &followed : calls)
         finish(followed);
     calls.clear();
     return any;

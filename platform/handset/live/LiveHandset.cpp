@@ -69,7 +69,7 @@ LiveHandset::~LiveHandset()
 
 bool LiveHandset::owesRecord() const
 {
-    return ledger->owesCall() || ledger->owesSession() || callRecorder.owes();
+    return ledger->owesCall() || ledger->owesSession() || callRecorder.owes() || sessionRecorder.owes();
 }
 
 void LiveHandset::changedElsewhere()
@@ -77,24 +77,25 @@ void LiveHandset::changedElsewhere()
     tellHere();
 }
 
-// The ledger tells of resets and sessions by itself, and not of calls.
+// The ledger tells of resets and sessions by itself, and not of calls. Of those, every process hears from the daemon, and
+// the one that records tells.
 void LiveHandset::callsMoved(bool begunOrEnded)
 {
     tellHere();
-    if (begunOrEnded)
+    if (begunOrEnded && ledger->record())
         tellElsewhere();
 }
 
 void LiveHandset::sessionsMoved(bool begunOrEnded)
 {
     tellHere();
-    if (begunOrEnded)
+    if (begunOrEnded && ledger->record())
         packets.tellUpdate();
 }
 
 void LiveHandset::tellElsewhere()
 {
-    if (onChange && ledger->record())
+    if (onChange)
         onChange();
 }
 
@@ -123,19 +124,31 @@ void LiveHandset::tick()
     const bool recorded = records;
     const bool owed = owesRecord();
     runTimer();
-    const bool isTimeToWrite =
-        calllog::elapsed(writtenAtMs, clock->monotonicMs()) >= calllog::Ledger::checkpointIntervalMs;
+    // The timer goes by another clock, and may be a moment early by this one.
+    const bool isTimeToWrite = calllog::elapsed(writtenAtMs, clock->monotonicMs()) + shownIntervalMs / 2 >=
+                               calllog::Ledger::checkpointIntervalMs;
+    bool isLate = recorded != records || owed != owesRecord();
     if (records && (!recorded || isTimeToWrite)) {
         writtenAtMs = clock->monotonicMs();
-        callRecorder.retry();
+        isLate = callRecorder.retry() || isLate;
         sessionRecorder.count();
         ledger->checkpoint();
         ledger->checkpointSession();
     }
-    if (sessionRecorder.isBusy())
+    if (records && sessionRecorder.isBusy())
         packets.tellUpdate();
-    if (recorded != records || owed != owesRecord())
-        tellHere();
+    if (!isLate && owed == owesRecord())
+        return;
+    tellHere();
+    if (records)
+        tellElsewhere();
+}
+
+void LiveHandset::charge(const std::shared_ptr<CallRecorder::Cost> &cost, quint32 more)
+{
+    if (callRecorder.charge(cost, more))
+        emit changed();
+    runTimer();
 }
 
 void LiveHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)

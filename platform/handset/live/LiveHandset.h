@@ -63,6 +63,8 @@ signals:
 protected:
     calllog::Ledger &books() { return *ledger; }
     AdviceOfCharge &ownAdviceOfCharge() { return ownCharging; }
+    /// As CallRecorder::charge(); tells of it.
+    void charge(const std::shared_ptr<CallRecorder::Cost> &cost, quint32 more);
     /// Of calls that are connected from now on: by the own tariff (Unlimited, as long as nothing else is said), or by who
     /// says what they cost.
     void setCharge(calllog::Charge charge) { callRecorder.setCharge(charge); }

@@ -2,6 +2,7 @@
 
 #include "calllog/Saturating.h"
 #include "handset/PacketData.h"
+#include "handset/Status.h"
 
 namespace handset::live {
 
@@ -66,34 +67,54 @@ bool SessionRecorder::report(const ReportedSession &session)
     return isNew;
 }
 
+// What it has come to until now.
+SessionRecorder::Over SessionRecorder::asOver(const Followed &followed) const
+{
+    Over over{shownApn(followed.session.apn),
+              followed.startWallMs,
+              {calllog::elapsed(followed.seenAtMs, clock.monotonicMs()), followed.unwritten.sent,
+               followed.unwritten.received},
+              followed.mayBeKnown};
+    if (followed.session.isFound)
+        over.amounts.ms = calllog::saturatingSum(over.amounts.ms, followed.session.ms.value_or(0));
+    return over;
+}
+
+// Without what others have counted of it. One of which they have counted all gets no row, and `row` stays as it is.
+int SessionRecorder::insert(Over over, qint64 &row)
+{
+    if (over.mayBeKnown) {
+        calllog::SessionAmounts known;
+        if (ledger.counted(over.apn, over.startWallMs - sameSessionMs, over.startWallMs, known) != Success)
+            return StorageFailed;
+        calllog::SessionAmounts &amounts = over.amounts;
+        const qint64 wholeMs = amounts.ms;
+        amounts = {calllog::elapsed(known.ms, amounts.ms), calllog::elapsed(known.sent, amounts.sent),
+                   calllog::elapsed(known.received, amounts.received)};
+        if (wholeMs > 0 && amounts.ms == 0 && amounts.sent == 0 && amounts.received == 0)
+            return Success;
+    }
+    return ledger.beginSession(over.apn, 0, 0, row, over.amounts);
+}
+
 void SessionRecorder::begin(Followed &followed)
 {
     if (!ledger.record()) {
         followed.mayBeKnown = true;
         return;
     }
-    const QByteArray apn = shownApn(followed.session.apn);
-    const qint64 seenMs = calllog::elapsed(followed.seenAtMs, clock.monotonicMs());
     read(followed);
-    calllog::SessionAmounts before{seenMs, followed.unwritten.sent, followed.unwritten.received};
-    if (followed.session.isFound)
-        before.ms = calllog::saturatingSum(before.ms, followed.session.ms.value_or(0));
-    if (followed.mayBeKnown) {
-        calllog::SessionAmounts counted;
-        if (ledger.interrupted(apn, followed.startWallMs - sameSessionMs, counted) != Success)
-            return;
-        before = {calllog::elapsed(counted.ms, before.ms), calllog::elapsed(counted.sent, before.sent),
-                  calllog::elapsed(counted.received, before.received)};
-    }
-    if (ledger.beginSession(apn, 0, 0, followed.row, before) == Success)
+    ledger.repeat(again, [&] { return insert(asOver(followed), followed.row); });
+    if (followed.row != 0)
         followed.unwritten = {};
 }
 
 bool SessionRecorder::write(Followed &followed)
 {
-    if (followed.unwritten.sent == 0 && followed.unwritten.received == 0)
+    const Bytes &more = followed.unwritten;
+    if (more.sent == 0 && more.received == 0)
         return false;
-    if (ledger.addBytes(followed.row, followed.unwritten.sent, followed.unwritten.received) != Success)
+    if (ledger.repeat(again, [&] { return ledger.addBytes(followed.row, more.sent, more.received); }) != Success)
         return false;
     followed.unwritten = {};
     return true;
@@ -101,10 +122,11 @@ bool SessionRecorder::write(Followed &followed)
 
 bool SessionRecorder::count()
 {
-    bool any = false;
+    bool any = writeUnwritten();
     for (Followed &followed : sessions) {
         if (followed.row == 0) {
             begin(followed);
+            any = any || followed.row != 0;
         } else {
             read(followed);
             any = write(followed) || any;
@@ -113,13 +135,36 @@ bool SessionRecorder::count()
     return any;
 }
 
+// What nobody records is this process's to keep, whether or not it can be written now.
 void SessionRecorder::finish(Followed &followed)
 {
-    if (followed.row == 0)
-        return;
     read(followed);
-    write(followed);
-    ledger.endSession(followed.row);
+    if (followed.row != 0) {
+        ledger.endSession(followed.row, followed.unwritten.sent, followed.unwritten.received);
+        return;
+    }
+    if (!ledger.record()) {
+        if (ledger.whyNotRecording() == RecordedElsewhere)
+            return;
+        followed.mayBeKnown = true;
+    }
+    unwritten.append(asOver(followed));
+    writeUnwritten();
+}
+
+bool SessionRecorder::writeUnwritten()
+{
+    bool any = false;
+    while (!unwritten.isEmpty() && ledger.record()) {
+        qint64 row = 0;
+        if (ledger.repeat(again, [&] { return insert(unwritten.constFirst(), row); }) != Success)
+            return any;
+        if (row != 0)
+            ledger.endSession(row);
+        unwritten.removeFirst();
+        any = true;
+    }
+    return any;
 }
 
 bool SessionRecorder::gone(const QString &id)

@@ -27,10 +27,12 @@ public:
     bool gone(const QString &id);
     bool allGone();
     /// Reads the counters of what runs, and writes what is new; a session that another process has recorded until now
-    /// goes on here. To be called now and then as long as isBusy(). True when bytes have been added.
+    /// goes on here. To be called now and then as long as isBusy(). True when something has been written with it.
     bool count();
 
-    bool isBusy() const { return !sessions.isEmpty(); }
+    bool isBusy() const { return !sessions.isEmpty() || owes(); }
+    /// A whole session is still to be written.
+    bool owes() const { return !unwritten.isEmpty(); }
     /// Those that are there now, in no order.
     QList<ReportedSession> reported() const;
 
@@ -44,17 +46,29 @@ private:
         qint64 row = 0;
         bool mayBeKnown = false; ///< as of a call
     };
+    /// A session that is over, and in no row.
+    struct Over {
+        QByteArray apn;
+        qint64 startWallMs = 0;
+        calllog::SessionAmounts amounts;
+        bool mayBeKnown = false;
+    };
 
     std::optional<Bytes> readingOf(const Followed &followed) const;
     void read(Followed &followed) const;
     void begin(Followed &followed);
     bool write(Followed &followed);
     void finish(Followed &followed);
+    Over asOver(const Followed &followed) const;
+    int insert(Over over, qint64 &row);
+    bool writeUnwritten();
 
     calllog::Ledger &ledger;
     const Clock &clock;
     const InterfaceCounters counters;
     QHash<QString, Followed> sessions;
+    QList<Over> unwritten;
+    calllog::RepeatedWrite again;
 };
 
 } // namespace handset::live

@@ -42,10 +42,10 @@ void OfonoHandset::callReported(const live::ReportedCall &call)
         known.insert(call.id);
         meter.refresh();
     }
-    const qint64 row = calls().rowOf(call.id);
-    if (row == 0 || running.contains(call.id) || !meter.isThere())
+    const Metered cost = calls().costOf(call.id);
+    if (!cost || running.contains(call.id))
         return;
-    running.insert(call.id, {row, 0});
+    running.insert(call.id, cost);
     connectedLast = call.id;
     ended.reset();
 }
@@ -61,13 +61,6 @@ void OfonoHandset::callEnded(const QString &id)
     meter.refresh();
 }
 
-void OfonoHandset::give(Metered &call, quint32 more)
-{
-    call.units += more;
-    if (books().setUnits(call.row, call.units) == Success)
-        emit changed();
-}
-
 // A meter that shows less has been reset: what it shows then is nobody's.
 void OfonoHandset::accumulatedRead(quint32 units)
 {
@@ -79,9 +72,9 @@ void OfonoHandset::accumulatedRead(quint32 units)
     if (rest == 0)
         return;
     if (ended)
-        give(*ended, rest);
+        charge(ended, rest);
     else if (const auto call = running.find(connectedLast); call != running.end())
-        give(*call, rest);
+        charge(*call, rest);
 }
 
 // Of one call, while it is the only one.
@@ -89,10 +82,10 @@ void OfonoHandset::currentTold(quint32 units)
 {
     if (running.size() != 1)
         return;
-    Metered &call = *running.begin();
-    const quint32 more = std::max(units, call.units) - call.units;
+    const Metered call = *running.begin();
+    const quint32 more = std::max(units, call->units) - call->units;
     given += more;
-    give(call, more);
+    charge(call, more);
 }
 
 } // namespace handset::ofono

@@ -27,16 +27,12 @@ public:
     const CallMeter &callMeter() const { return meter; }
 
 private:
-    struct Metered {
-        qint64 row = 0;
-        quint32 units = 0;
-    };
+    using Metered = std::shared_ptr<live::CallRecorder::Cost>;
 
     void callReported(const live::ReportedCall &call);
     void callEnded(const QString &id);
     void accumulatedRead(quint32 units);
     void currentTold(quint32 units);
-    void give(Metered &call, quint32 more);
 
     CallMeter meter;
     MeteredCharging charges;
@@ -44,7 +40,7 @@ private:
     QSet<QString> known;
     QHash<QString, Metered> running; ///< those that are connected
     QString connectedLast;           ///< of those
-    std::optional<Metered> ended;    ///< the last one, until another is connected
+    Metered ended;                   ///< the last one, until another is connected; then null
     std::optional<quint32> before;   ///< the accumulated meter as it was read last
     quint32 given = 0;               ///< of what it has come to since then
 };

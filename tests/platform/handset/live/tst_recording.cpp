@@ -1,4 +1,5 @@
 // What a daemon reports, as the ledger has it afterwards.
+#include "handset/OtherProcess.h"
 #include "handset/live/LiveDesk.h"
 #include "handset/live/ScriptedModem.h"
 #include "support/FullDisk.h"
@@ -43,6 +44,33 @@ public:
     ScriptedModem *modem = nullptr;
 };
 
+/// A desk beside another process that records the same call, which is connected now.
+class Beside : public Desk
+{
+public:
+    Beside()
+    {
+        close();
+        recorder = std::make_unique<OtherProcess>(state.path());
+        isReady = recorder->firstLine() == "holding" &&
+                  recorder->ask("wall " + QByteArray::number(clock->wallMs())) == "0";
+        open();
+        isReady = isReady && !phone->isRecording() && recorder->ask("dial 5550123") == "0" &&
+                  recorder->ask("connect") == "0";
+        call(QStringLiteral("/call/1"), CallPhase::Dialing);
+        call(QStringLiteral("/call/1"), CallPhase::Active);
+    }
+    /// On both clocks.
+    bool passBoth(qint64 ms) const
+    {
+        clock->advance(ms);
+        return recorder->ask("advance " + QByteArray::number(ms)) == "0" && recorder->ask("checkpoint") == "0";
+    }
+
+    std::unique_ptr<OtherProcess> recorder;
+    bool isReady = false;
+};
+
 const QString one = QStringLiteral("/call/1");
 const QString two = QStringLiteral("/call/2");
 
@@ -71,6 +99,11 @@ private slots:
     void aWallClockThatIsSetChangesNoDuration();
     void aCallThatCannotBeBegunIsWrittenLater();
     void aCallThatEndsBeforeItCouldBeWrittenIsNotLost();
+    void aCallThatEndsBeforeAnyTickAfterItsRecorderDiedIsCountedOnce();
+    void aCallThatItsRecorderEndedBeforeItWentIsNotCountedAgain();
+    void aCallThatEndsOnAFullDiskAfterItsRecorderDiedIsCountedOnce();
+    void theNextCallToTheSameNumberIsCountedWhole();
+    void whatCannotBeWrittenIsToldOnceHoweverOftenItIsTried();
     void bytesAreThoseOfTheDaemon();
     void bytesAreThoseOfTheInterface();
     void aCounterThatBeginsAnewAddsAndNeverSubtracts();
@@ -79,6 +112,13 @@ private slots:
     void aSessionThatLosesItsInterfaceKeepsWhatThatHadCounted();
     void aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice();
     void twoSessionsAtOnceCountTheirOwn();
+    void aSessionThatEndsBeforeItCouldBeWrittenIsNotLost();
+    void theBytesOfASessionThatEndsOnAFullDiskAreKept();
+    void aSessionThatEndsBeforeAnyTickAfterItsRecorderWentIsKept();
+    void aRunningCallIsWrittenOnTimeByATickThatIsEarly();
+    void aCallThatIsWrittenAtLastIsAnnounced();
+    void onlyTheRecorderTellsOfSessions();
+    void whatAReaderChangesIsAnnounced();
     void nothingWakesUpWhileNothingRuns();
     void whatTheModemDoesNotHaveIsNotAvailable();
     void theOwnTariffChargesCallsAndEndsNone();
@@ -292,7 +332,6 @@ void TestRecording::aCallThatEndsBeforeItCouldBeWrittenIsNotLost()
     {
         const support::FullDisk full(0);
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
         desk.call(one, CallPhase::Active);
         desk.clock->advance(4 * second);
         desk.call(one, CallPhase::Over);
@@ -302,6 +341,88 @@ void TestRecording::aCallThatEndsBeforeItCouldBeWrittenIsNotLost()
     QVERIFY(!desk.phone->owesRecord());
     QCOMPARE(desk.calls(), QStringLiteral("0:5550123:4000:1"));
     QCOMPARE(desk.dialed(), 4u);
+}
+
+void TestRecording::aCallThatEndsBeforeAnyTickAfterItsRecorderDiedIsCountedOnce()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    QVERIFY(desk.passBoth(20 * second));
+    desk.clock->advance(3 * second);
+    desk.recorder->kill();
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:3 0:5550123:3000:1"));
+    QCOMPARE(desk.dialed(), 23u);
+}
+
+void TestRecording::aCallThatItsRecorderEndedBeforeItWentIsNotCountedAgain()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    QVERIFY(desk.passBoth(20 * second));
+    QCOMPARE(desk.recorder->ask("hang-up"), QByteArray("0"));
+    desk.recorder->close();
+    desk.call(one, CallPhase::Over);
+    QCOMPARE(desk.dialed(), 20u);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:1"));
+}
+
+void TestRecording::aCallThatEndsOnAFullDiskAfterItsRecorderDiedIsCountedOnce()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    QVERIFY(desk.passBoth(20 * second));
+    desk.clock->advance(3 * second);
+    desk.recorder->kill();
+    {
+        const support::FullDisk full(0);
+        desk.call(one, CallPhase::Over);
+        QVERIFY(desk.phone->owesRecord());
+    }
+    desk.pass(5 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:3 0:5550123:3000:1"));
+    QCOMPARE(desk.dialed(), 23u);
+}
+
+void TestRecording::theNextCallToTheSameNumberIsCountedWhole()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    QVERIFY(desk.passBoth(20 * second));
+    QCOMPARE(desk.recorder->ask("hang-up"), QByteArray("0"));
+    desk.call(one, CallPhase::Over);
+    QVERIFY(desk.passBoth(3 * second));
+    QCOMPARE(desk.recorder->ask("dial 5550123"), QByteArray("0"));
+    QCOMPARE(desk.recorder->ask("connect"), QByteArray("0"));
+    desk.call(two, CallPhase::Dialing);
+    desk.call(two, CallPhase::Active);
+    desk.clock->advance(7 * second);
+    desk.recorder->kill();
+    desk.call(two, CallPhase::Over);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:1 0:5550123:0:3 0:5550123:7000:1"));
+    QCOMPARE(desk.dialed(), 27u);
+}
+
+void TestRecording::whatCannotBeWrittenIsToldOnceHoweverOftenItIsTried()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.call(one, CallPhase::Active);
+        desk.pass(6 * second);
+        desk.pass(6 * second);
+        desk.call(one, CallPhase::Over);
+        desk.pass(6 * second);
+        desk.pass(6 * second);
+        QVERIFY(desk.phone->owesRecord());
+    }
+    QTest::ignoreMessage(QtInfoMsg, "What could not be written to the call log has been written.");
+    desk.pass(6 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:12000:1"));
 }
 
 void TestRecording::bytesAreThoseOfTheDaemon()
@@ -409,6 +530,131 @@ void TestRecording::twoSessionsAtOnceCountTheirOwn()
     desk.session(QStringLiteral("/b"), Bytes{3, 4});
     desk.pass(10 * second);
     QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:1:2:0 internet:10000:3:4:0"));
+}
+
+void TestRecording::aSessionThatEndsBeforeItCouldBeWrittenIsNotLost()
+{
+    Desk desk;
+    const QString id = QStringLiteral("/b");
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.session(id, Bytes{0, 0});
+        desk.clock->advance(4 * second);
+        desk.session(id, Bytes{10, 20});
+        emit desk.modem->sessionGone(id);
+        QVERIFY(desk.phone->owesRecord());
+        desk.pass(6 * second);
+        QVERIFY(desk.phone->owesRecord());
+    }
+    desk.pass(6 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:4000:10:20:1"));
+    QCOMPARE(sessionTotalsOf(*desk.phone), QStringLiteral("4 10 20 30"));
+}
+
+void TestRecording::theBytesOfASessionThatEndsOnAFullDiskAreKept()
+{
+    Desk desk;
+    const QString id = QStringLiteral("/b");
+    desk.session(id, Bytes{0, 0});
+    desk.session(id, Bytes{1, 2});
+    desk.pass(6 * second);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.clock->advance(4 * second);
+        desk.session(id, Bytes{10, 20});
+        emit desk.modem->sessionGone(id);
+        QVERIFY(desk.phone->owesRecord());
+    }
+    desk.pass(6 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:10:20:1"));
+    QCOMPARE(sessionTotalsOf(*desk.phone), QStringLiteral("10 10 20 30"));
+}
+
+void TestRecording::aSessionThatEndsBeforeAnyTickAfterItsRecorderWentIsKept()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    const QString id = QStringLiteral("/b");
+    desk.session(id, Bytes{0, 0});
+    desk.clock->advance(4 * second);
+    desk.session(id, Bytes{10, 20});
+    desk.recorder->kill();
+    emit desk.modem->sessionGone(id);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:4000:10:20:1"));
+}
+
+// The timer's clock and the boot clock need not agree to the millisecond.
+void TestRecording::aRunningCallIsWrittenOnTimeByATickThatIsEarly()
+{
+    Desk desk;
+    desk.call(one, CallPhase::Dialing);
+    desk.call(one, CallPhase::Active);
+    desk.pass(calllog::Ledger::checkpointIntervalMs - 1);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:%1:0").arg(calllog::Ledger::checkpointIntervalMs - 1));
+}
+
+void TestRecording::aCallThatIsWrittenAtLastIsAnnounced()
+{
+    Desk desk;
+    int told = 0;
+    desk.call(one, CallPhase::Dialing);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.call(one, CallPhase::Active);
+        desk.phone->setChangeListener([&] { ++told; });
+        desk.pass(6 * second);
+        QCOMPARE(told, 0);
+    }
+    desk.pass(6 * second); // begun late
+    QCOMPARE(told, 1);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.call(one, CallPhase::Over);
+        QCOMPARE(told, 2);
+    }
+    desk.pass(6 * second); // ended late
+    QCOMPARE(told, 3);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:12000:1"));
+}
+
+void TestRecording::onlyTheRecorderTellsOfSessions()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    int told = 0;
+    desk.phone->packetData()->setUpdateListener([&] { ++told; });
+    desk.session(QStringLiteral("/b"), Bytes{0, 0});
+    desk.pass(6 * second);
+    emit desk.modem->sessionGone(QStringLiteral("/b"));
+    QCOMPARE(told, 0);
+    desk.session(QStringLiteral("/b"), Bytes{0, 0});
+    desk.recorder->kill();
+    desk.pass(6 * second);
+    QVERIFY(desk.phone->isRecording());
+    QVERIFY(told > 0);
+}
+
+void TestRecording::whatAReaderChangesIsAnnounced()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    int told = 0;
+    desk.phone->setChangeListener([&] { ++told; });
+    QCOMPARE(desk.phone->callLog()->resetDialedCallsTime(), int(Success));
+    QCOMPARE(told, 1);
+    QCOMPARE(desk.phone->charging().topUp(QStringLiteral("2"), {2030, 1, 1}), int(Success));
+    QCOMPARE(told, 2);
+    desk.call(two, CallPhase::Waiting); // of calls the recorder tells
+    QCOMPARE(told, 2);
+    desk.recorder->kill(); // a takeover is told
+    desk.pass(second);
+    QCOMPARE(told, 3);
 }
 
 void TestRecording::nothingWakesUpWhileNothingRuns()

@@ -3,6 +3,7 @@
 #include "handset/HandsetTestKit.h"
 #include "handset/ofono/OfonoDesk.h"
 #include "ofono/OfonoHandset.h"
+#include "support/FullDisk.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QElapsedTimer>
@@ -115,6 +116,20 @@ public:
         fake.setCall(path, "State", "disconnected");
         fake.removeCall(path);
     }
+    /// Of a call that is there: connected, whether or not that can be recorded.
+    bool answer(const QString &path)
+    {
+        fake.setCall(path, "State", "active");
+        return QTest::qWaitFor([&] { return phone->calls().connectedMs(path).has_value(); });
+    }
+    /// What could not be written is tried again.
+    void tick() const
+    {
+        clock->advance(6 * second);
+        for (QTimer *timer : phone->findChildren<QTimer *>(Qt::FindDirectChildrenOnly))
+            if (timer->isActive())
+                QMetaObject::invokeMethod(timer, "timeout");
+    }
     int readings() const { return int(fake.asked.count("CallMeter.GetProperties")); }
 
     StateDir state;
@@ -145,6 +160,9 @@ private slots:
     void aMeterThatIsLateIsStillTheEndedCalls();
     void callsAtOnceCostTogetherWhatTheMeterSays();
     void aMeterThatFallsCostsNothing();
+    void aCallThatCouldNotBeWrittenBeforeItsEndCostsWhatTheMeterSays();
+    void aCallThatIsBegunLateCostsWhatTheMeterSays();
+    void whatACallCostsIsWrittenAsSoonAsItCanBe();
     void withoutACallMeterTheOwnTariffCharges();
     void aBusyMeterIsReadAgain();
     void pin2IsPresentedByWritingTheMaximumAsItIs();
@@ -350,6 +368,70 @@ void TestCharge::aMeterThatFallsCostsNothing()
     desk.count(5);
     desk.end(one);
     QTRY_COMPARE(desk.costs(), "3.00 3.00 0.00 5.00");
+}
+
+void TestCharge::aCallThatCouldNotBeWrittenBeforeItsEndCostsWhatTheMeterSays()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    const int reads = desk.readings();
+    desk.fake.addCall(one, callIn("dialing"));
+    QTRY_VERIFY(desk.readings() > reads);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("call log failed"));
+        QVERIFY(desk.answer(one));
+        desk.clock->advance(minute);
+        desk.count(47);
+        desk.end(one);
+        QTRY_VERIFY(desk.costs().endsWith(" 47.00"));
+        QVERIFY(desk.phone->owesRecord());
+    }
+    desk.tick();
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.costs(), "7.00 7.00 0.00 47.00");
+    desk.count(49); // it was late with that
+    desk.fake.addCall(two, callIn("dialing"));
+    QTRY_COMPARE(desk.costs(), "9.00 9.00 0.00 49.00");
+    QCOMPARE(LogFile(desk.state.database()).value("SELECT units FROM calls").toInt(), 9);
+}
+
+void TestCharge::aCallThatIsBegunLateCostsWhatTheMeterSays()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    const int reads = desk.readings();
+    desk.fake.addCall(one, callIn("dialing"));
+    QTRY_VERIFY(desk.readings() > reads);
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("call log failed"));
+        QVERIFY(desk.answer(one));
+        desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
+        QTRY_COMPARE(desk.phone->calls().costOf(one)->units, 4U);
+    }
+    desk.tick();
+    QVERIFY(desk.phone->calls().rowOf(one) != 0);
+    QCOMPARE(desk.costs(), "4.00 4.00 0.00 40.00");
+    desk.count(46);
+    desk.end(one);
+    QTRY_COMPARE(desk.costs(), "6.00 6.00 0.00 46.00");
+}
+
+void TestCharge::whatACallCostsIsWrittenAsSoonAsItCanBe()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.connectCall(one, "dialing"));
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("call log failed"));
+        desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
+        QTRY_VERIFY(desk.phone->owesRecord());
+    }
+    desk.tick();
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.costs(), "4.00 4.00 0.00 40.00");
 }
 
 void TestCharge::withoutACallMeterTheOwnTariffCharges()
