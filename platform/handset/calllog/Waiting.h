@@ -13,12 +13,12 @@ namespace handset::calllog {
 /// Who is in the way: names of processes, part of a sentence; empty when that is not known.
 using Holders = std::function<QString()>;
 
-/// The waiting of one opening for other processes, wherever on its way it comes to wait: it has one patience for all of
-/// that. Who waits for longer than a second is told whom for, and how much of the patience is gone.
+/// The waiting of one opening for other processes, wherever on its way it comes to wait: it has one patience until what it
+/// waits for is there. Who waits for longer than a second is told whom for, and how much of the patience is gone.
 class Waiting
 {
 public:
-    /// `patienceMs` is how long it may be in all, of what is meant to be waited: a busy machine takes longer. `progress`
+    /// `patienceMs` is how long it may be, of what is meant to be waited: a busy machine takes longer. `progress`
     /// may end the opening by an exception; it may be null.
     Waiting(int patienceMs, ProgressListener progress);
 
