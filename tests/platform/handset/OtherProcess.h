@@ -2,8 +2,12 @@
 #pragma once
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QProcess>
 #include <QtCore/QStringList>
+
+#include <algorithm>
 
 namespace handset::test {
 
@@ -31,6 +35,15 @@ public:
     {
         process.write(question + '\n');
         return firstLine();
+    }
+    /// Whether it has that file open now.
+    bool hasOpen(const QString &file) const
+    {
+        const QDir open(QStringLiteral("/proc/%1/fd").arg(process.processId()));
+        const QFileInfoList all = open.entryInfoList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+        return std::any_of(all.begin(), all.end(), [&](const QFileInfo &one) {
+            return one.symLinkTarget() == QFileInfo(file).canonicalFilePath();
+        });
     }
     /// As a crash ends it.
     void kill()

@@ -4,11 +4,31 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QProcess>
+#include <QtCore/QScopeGuard>
 #include <QtCore/QUuid>
 
 #include <ctime>
 
+#include <sys/syscall.h>
+#include <unistd.h>
+
 using namespace handset;
+
+namespace {
+
+constexpr time_t sleptSeconds = 12'345;
+bool hasSlept = false; ///< the machine, for that long
+
+} // namespace
+
+// In front of the C library's: the boot clock of a machine that has been suspended.
+extern "C" int clock_gettime(clockid_t clock, timespec *time) noexcept
+{
+    const long status = ::syscall(SYS_clock_gettime, clock, time);
+    if (status == 0 && clock == CLOCK_BOOTTIME && hasSlept)
+        time->tv_sec += sleptSeconds;
+    return static_cast<int>(status);
+}
 
 class TestClock : public QObject
 {
@@ -39,13 +59,11 @@ void TestClock::theMonotonicClockNeverGoesBack()
 
 void TestClock::theMonotonicClockCountsThroughSuspend()
 {
-    timespec before{};
-    timespec after{};
-    QCOMPARE(::clock_gettime(CLOCK_BOOTTIME, &before), 0);
-    const qint64 reading = SystemClock().monotonicMs();
-    QCOMPARE(::clock_gettime(CLOCK_BOOTTIME, &after), 0);
-    QVERIFY(reading >= qint64{before.tv_sec} * 1000 + before.tv_nsec / 1'000'000);
-    QVERIFY(reading <= qint64{after.tv_sec} * 1000 + after.tv_nsec / 1'000'000);
+    const SystemClock clock;
+    const qint64 before = clock.monotonicMs();
+    const auto wakeUp = qScopeGuard([] { hasSlept = false; });
+    hasSlept = true;
+    QVERIFY(clock.monotonicMs() - before >= qint64{sleptSeconds} * 1000);
 }
 
 // As another program reads it, and without the end of the line: it is compared with what a row has kept.

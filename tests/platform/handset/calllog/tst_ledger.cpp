@@ -675,6 +675,8 @@ void TestLedger::anOlderLogIsMigratedWhileAReaderWaits()
     QVERIFY(migrating->taken);
     OtherProcess one(state.path());
     OtherProcess other(state.path());
+    for (const OtherProcess *waiting : {&one, &other})
+        QTRY_VERIFY_WITH_TIMEOUT(waiting->hasOpen(state.file(QStringLiteral("lock"))), 60'000);
     migrating.reset();
     QCOMPARE(one.firstLine(), QByteArray("holding"));
     QCOMPARE(other.firstLine(), QByteArray("holding"));
