@@ -89,6 +89,9 @@ private:
         settings.backend = backend;
         settings.stateDirectory = options.stateDirectory;
         settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
+        settings.progress = [](const QString &step, int percent) {
+            complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));
+        };
         settings.isGivenUp = [this] { return endSignals.haveCome(); };
         handset::Opened opened = handset::open(settings);
         if (!opened.notice.isEmpty())

@@ -264,6 +264,10 @@ void TourPlayer::openHandset(const QString &directory)
     owner.reset();
     handset::Settings settings{options.backend, directory, clock};
     settings.isGivenUp = isAskedToEnd;
+    settings.tell = [this](const QString &finding) { errors << place << ": " << finding << Qt::endl; };
+    settings.progress = [this](const QString &step, int percent) {
+        errors << place << ": " << step << ": " << percent << " %" << Qt::endl;
+    };
     const handset::Opened opened = handset::open(settings);
     if (!opened.notice.isEmpty())
         errors << place << ": " << opened.notice << Qt::endl;

@@ -8,6 +8,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
@@ -76,6 +77,7 @@ private slots:
     void aSignalEndsATourWithTheRunningCallWritten();
     void aSignalInASalvageLeavesItToTheNextStart_data() { everySignal(); }
     void aSignalInASalvageLeavesItToTheNextStart();
+    void aTourSaysHowFarASalvageIs();
     void aSignalThatTheShellIgnoredStaysIgnored();
     void aReaderThatGoesIsAnErrorAndNoDeath_data();
     void aReaderThatGoesIsAnErrorAndNoDeath();
@@ -198,6 +200,19 @@ void TestEnds::aSignalInASalvageLeavesItToTheNextStart()
     QCOMPARE(process.exitCode(), 0);
     QVERIFY(contents("state/calllog.db") == damaged);
     QVERIFY(!QFile::exists(path("state/calllog-kept-1.db")));
+}
+
+void TestEnds::aTourSaysHowFarASalvageIs()
+{
+    makeLongLog(path("state"));
+    QFile log(path("state/calllog.db"));
+    QVERIFY(log.open(QIODevice::ReadWrite) && log.putChar('s'));
+    log.close();
+    const QString script = write("look.tour", "state kept\nopen callTime\n");
+    const HostResult result = run({"--tour", path("tour"), "--script", script, "--state", path("state")});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    const QRegularExpression told("^\\S*look\\.tour:1: .*: 100 %$", QRegularExpression::MultilineOption);
+    QVERIFY2(told.match(result.errors).hasMatch(), qPrintable(result.errors));
 }
 
 void TestEnds::aSignalThatTheShellIgnoredStaysIgnored()
