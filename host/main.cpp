@@ -186,6 +186,11 @@ std::optional<PhoneWindow::OpenedHandset> openHandset(const Options &options, co
                                                       const EndSignals &endSignals, int &code)
 {
     code = loadScreens(library, options.plugin);
+    // Opening is told only once what it replaced: what can fail is done before it. A directory that opening makes, in which
+    // the trace may lie, has had nothing to replace.
+    const bool isTraceLater = !options.stateDirectory.isEmpty() && !QFileInfo(options.stateDirectory).isDir();
+    if (code == ExitSuccess && !isTraceLater)
+        code = startTrace(options.traceFile);
     if (code != ExitSuccess)
         return {};
     const handset::Opened opened = handset::open(handsetSettings(options, window, endSignals));
@@ -196,7 +201,8 @@ std::optional<PhoneWindow::OpenedHandset> openHandset(const Options &options, co
     if (!opened.notice.isEmpty())
         complain(ExitSuccess, opened.notice);
     const QString notice = (findings + QStringList(opened.notice)).join(u' ').trimmed();
-    code = startTrace(options.traceFile);
+    if (isTraceLater)
+        code = startTrace(options.traceFile);
     if (code != ExitSuccess)
         return {};
     const auto installed = std::make_shared<FaultyHandset>(opened.handset);

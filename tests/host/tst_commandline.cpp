@@ -37,6 +37,7 @@ private slots:
     void aReplacementLibraryThatLacksAFunctionIsToldAtTheStart();
     void anUnusableStateDirectoryIsSaid();
     void aDamagedCallLogIsSaidAndKeptAside();
+    void aTraceThatCannotBeOpenedLeavesWhatIsToBeSaidToTheNextStart();
     void aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data();
     void aWindowWhoseHandsetCannotBeOpenedEndsLikewise();
     void aHandsetThatKeepsNothingFindsItsStateDirectoryMade();
@@ -270,6 +271,19 @@ void TestCommandLine::aDamagedCallLogIsSaidAndKeptAside()
     QCOMPARE(result.code, 0);
     QVERIFY2(result.errors.contains("calllog-kept-1.db"), qPrintable(result.errors));
     QCOMPARE(contents("state/calllog-kept-1.db"), QString::fromLatin1(damaged));
+}
+
+void TestCommandLine::aTraceThatCannotBeOpenedLeavesWhatIsToBeSaidToTheNextStart()
+{
+    QVERIFY(QDir().mkpath(path("state")));
+    QFile file(path("state/calllog.db"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QVERIFY(file.write("this has never been a database") > 0);
+    file.close();
+    QCOMPARE(showCallTimes({"--state", path("state"), "--trace", "/dev/null/trace"}).code, 4);
+    const HostResult next = showCallTimes({"--state", path("state")});
+    QCOMPARE(next.code, 0);
+    QVERIFY2(next.errors.contains("is not a call log; it was kept as"), qPrintable(next.errors));
 }
 
 void TestCommandLine::aWindowWhoseHandsetCannotBeOpenedEndsLikewise_data()
