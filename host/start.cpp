@@ -15,8 +15,8 @@ using Program = int(int argc, char **argv);
 
 int main(int argc, char **argv)
 {
-    // Our libraries are linked so that all that they call is looked up now.
-    void *const library = ::dlopen(KAV_PROGRAM_LIBRARY, RTLD_LAZY | RTLD_GLOBAL);
+    // All that the libraries call is looked up now, also where one that replaces ours is linked to do that when it calls.
+    void *const library = ::dlopen(KAV_PROGRAM_LIBRARY, RTLD_NOW | RTLD_GLOBAL);
     void *const program = library ? ::dlsym(library, "runRecentCalls") : nullptr;
     if (program)
         return reinterpret_cast<Program *>(program)(argc, argv);

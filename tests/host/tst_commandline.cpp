@@ -225,6 +225,8 @@ void TestCommandLine::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data
     // The rest of the row says who calls what is missing first.
     QTest::newRow("the telephony library, by a screen") << "telephony"
                                                         << "TAPI_LOG_GetLastCallTime";
+    QTest::newRow("a log that looks for what it calls when it does, by itself") << "lazily"
+                                                                                << "functionThatNobodyHas";
     QTest::newRow("the log, by the program at its end") << "log"
                                                         << "libaplog_close";
     QTest::newRow("the toolkit, by the program") << "toolkit"
