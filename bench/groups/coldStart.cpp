@@ -105,8 +105,9 @@ std::vector<Comparison> coldStartComparisons(const QString &directory)
     const CallLogs logs(directory);
     Comparison first = starting("Starting the host, to the first paint with the whole phone", {}, logs);
     first.beside.front().bar = Bar{1.7, 1.3};
-    const Comparison all =
-        starting("Starting the host, until nothing is left to paint", QStringLiteral("idle"), logs);
+    Comparison all = starting("Starting the host, until nothing is left to paint", QStringLiteral("idle"), logs);
+    // What it took when the bar was set, and 5% more: nothing is gained by moving work behind the first paint.
+    all.beside.front().bar = Bar{2.68, 2.55};
     return {first, all};
 }
 
