@@ -165,8 +165,9 @@ int Ledger::load(QStringList &notices)
     }
     if (!isRight && !database->inTransaction([&] { return putNewInPlaceOf(traces, notices); }))
         notices << QStringLiteral("That could not be written.");
-    // Where it cannot be written the next start tries again.
-    if (isRight && !traces.both)
+    // Where it cannot be written the next start tries again; of what is in memory only there is none. (A new card's codes
+    // take their time.)
+    if (isRight && !traces.both && directory)
         database->inTransaction([&] { return putChecks(); });
     return Success;
 }
