@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr int patienceMs = 120000;
+constexpr int longestRunMs = 120000;
 
 } // namespace
 
@@ -31,12 +31,12 @@ HostResult runHost(const QStringList &arguments, const QProcessEnvironment &envi
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(KAV_HOST_PROGRAM), arguments);
     HostResult result;
-    if (process.waitForFinished(patienceMs) && process.exitStatus() == QProcess::NormalExit)
+    if (process.waitForFinished(longestRunMs) && process.exitStatus() == QProcess::NormalExit)
         result.code = process.exitCode();
     else
         process.kill();
     result.output = QString::fromUtf8(process.readAllStandardOutput());
     result.errors = QString::fromUtf8(process.readAllStandardError());
-    process.waitForFinished(patienceMs);
+    process.waitForFinished(longestRunMs);
     return result;
 }

@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr int patienceMs = 120'000;
+constexpr int longestEndMs = 120'000;
 
 // So long that reading it, damaged, says how far it is.
 void makeLongLog(const QString &directory)
@@ -143,10 +143,10 @@ void TestEnds::aSignalClosesTheWindowAndTheCallLogInOrder()
     QFETCH(int, signal);
     QProcess process;
     start(process, {"--state", path("state"), "--screen", "callTime", "--trace", "-"});
-    QVERIFY(process.waitForReadyRead(patienceMs));
+    QVERIFY(process.waitForReadyRead(longestEndMs));
     QVERIFY(QFile::exists(path("state/calllog.db-wal")));
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
-    QVERIFY(process.waitForFinished(patienceMs));
+    QVERIFY(process.waitForFinished(longestEndMs));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QVERIFY(!QFile::exists(path("state/calllog.db-wal"))); // SQLite's own sign of a database that was closed
@@ -163,11 +163,11 @@ void TestEnds::aSignalEndsATourWithTheRunningCallWritten()
     start(process, {"--tour", path("tour"), "--script", script, "--state", path("state")});
     QByteArray output;
     while (!output.contains("line connected")) {
-        QVERIFY(process.waitForReadyRead(patienceMs));
+        QVERIFY(process.waitForReadyRead(longestEndMs));
         output += process.readAllStandardOutput();
     }
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
-    QVERIFY(process.waitForFinished(patienceMs));
+    QVERIFY(process.waitForFinished(longestEndMs));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 10);
     QVERIFY(process.readAllStandardError().contains("ended by a signal"));
@@ -193,9 +193,9 @@ void TestEnds::aSignalInASalvageLeavesItToTheNextStart()
     environment.insert("QT_LOGGING_RULES", "*.warning=false"); // Qt has nothing to say before
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(KAV_HOST_PROGRAM), {"--state", path("state"), "--screen", "callTime"});
-    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("state/calllog-copy.db")), patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(path("state/calllog-copy.db")), longestEndMs);
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), signal), 0);
-    QTRY_VERIFY_WITH_TIMEOUT((errors.drain(), process.state() == QProcess::NotRunning), patienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT((errors.drain(), process.state() == QProcess::NotRunning), longestEndMs);
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
     QVERIFY(contents("state/calllog.db") == damaged);
@@ -221,10 +221,10 @@ void TestEnds::aSignalThatTheShellIgnoredStaysIgnored()
     process.setProcessEnvironment(hostEnvironment(home->path()));
     process.start("sh", {"-c", "trap '' HUP; exec \"$0\" --state none --screen callTime --trace -",
                          QStringLiteral(KAV_HOST_PROGRAM)});
-    QVERIFY(process.waitForReadyRead(patienceMs));
+    QVERIFY(process.waitForReadyRead(longestEndMs));
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGHUP), 0);
     QCOMPARE(::kill(static_cast<pid_t>(process.processId()), SIGTERM), 0);
-    QVERIFY(process.waitForFinished(patienceMs));
+    QVERIFY(process.waitForFinished(longestEndMs));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 0);
 }
@@ -256,7 +256,7 @@ void TestEnds::aReaderThatGoesIsAnErrorAndNoDeath()
         ::dup2(pipe[1], STDOUT_FILENO);
     });
     start(process, arguments);
-    QVERIFY(process.waitForFinished(patienceMs));
+    QVERIFY(process.waitForFinished(longestEndMs));
     ::close(pipe[1]);
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), code);
@@ -273,7 +273,7 @@ void TestEnds::aClosedOutputIsAnErrorAndGetsIntoNoFile()
     });
     start(process,
           {"--tour", path("tour"), "--script", script, "--state", path("state"), "--trace", path("trace")});
-    QVERIFY(process.waitForFinished(patienceMs));
+    QVERIFY(process.waitForFinished(longestEndMs));
     QCOMPARE(process.exitStatus(), QProcess::NormalExit);
     QCOMPARE(process.exitCode(), 7);
     QFile trace(path("trace"));

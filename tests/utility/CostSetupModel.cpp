@@ -27,11 +27,11 @@ constexpr RowFacts rowFacts[] = {
     {"Cost Per Minute", ""},
 };
 
-struct ResetFacts {
+struct ModelledReset {
     const char *operation;
     const char *message;
 };
-constexpr ResetFacts resetFacts[] = {
+constexpr ModelledReset modelledResets[] = {
     {"CallLog::resetAll", "All costs have been reset to 0.00 units."},
     {"CallLog::resetAllCallsCost", "All call costs have been reset to 0.00 units."},
     {"CallLog::resetDialedCallsCost", "Dialed call costs have been reset to 0.00 units."},
@@ -412,8 +412,8 @@ bool CostSetupModel::pinIsAccepted()
 void CostSetupModel::reset(int row)
 {
     handset.happened("costs are reset");
-    handset.calls.append(QString::fromLatin1(resetFacts[row].operation));
-    open({.kind = Kind::Notice, .header = QStringLiteral("Reset Calls"), .text = resetFacts[row].message});
+    handset.calls.append(QString::fromLatin1(modelledResets[row].operation));
+    open({.kind = Kind::Notice, .header = QStringLiteral("Reset Calls"), .text = modelledResets[row].message});
     timers.append(noticeTime);
 }
 

@@ -20,7 +20,7 @@ using CallCosts = HostedScreen<PHONE_UI_RecentCallCostsView>;
 
 namespace {
 
-constexpr int setupRow = 7;
+constexpr int rowOfSetup = 7;
 
 /// Credit, expiry date, deposit, and the costs of the last, the dialed, the answered and of all calls.
 QStringList rowsOf(const QStringList &values)
@@ -121,7 +121,7 @@ void TestCostsOverSimulated::afterTheSetupAmountsAreInTheNewCurrency()
     QVERIFY(payAndCall());
     const CallCosts screen("callCost");
     screen->show();
-    PhoneScreen::chooseRow(screen.get(), setupRow);
+    PhoneScreen::chooseRow(screen.get(), rowOfSetup);
     AdviceOfCharge *advice = phone->adviceOfCharge();
     QVERIFY(advice);
     QCOMPARE(advice->setPriceAndCurrency(QStringLiteral("0.25"), QStringLiteral("ATS")), int(Success));

@@ -86,9 +86,9 @@ private:
 // Presses keys until the setup's list of currencies is open, and answers the dialog that holds it.
 ZListBox *openCurrencyList(const ZKbMainWidget *costs)
 {
-    constexpr int setupRow = 7;
+    constexpr int rowOfTheSetup = 7;
     constexpr int currencyTypeRow = 7;
-    PhoneScreen::chooseRow(costs, setupRow);
+    PhoneScreen::chooseRow(costs, rowOfTheSetup);
     const auto *setup = costs->findChild<ZKbMainWidget *>();
     PhoneScreen::chooseRow(setup, currencyTypeRow);
     const auto *dialog = setup->findChild<ZPopup *>();

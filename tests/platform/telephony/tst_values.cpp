@@ -15,12 +15,12 @@ namespace {
 
 constexpr quint32 most32 = std::numeric_limits<quint32>::max();
 
-struct TimeQuery {
+struct NamedTimeQuery {
     const char *operation;
     int (*call)(TAPI_CallTime *time);
 };
 
-constexpr TimeQuery timeQueries[] = {
+constexpr NamedTimeQuery timeQueries[] = {
     {"CallService::totalCallTime", &TAPI_CS_GetTotalCallTime},
     {"CallLog::lastCallTime", &TAPI_LOG_GetLastCallTime},
     {"CallLog::dialedCallsTime", &TAPI_LOG_GetDialedCallsTime},
@@ -84,7 +84,7 @@ void TestValues::timesArriveFieldByField()
     QFETCH(const quint32, hours);
     QFETCH(const quint8, minutes);
     QFETCH(const quint8, seconds);
-    for (const TimeQuery &query : timeQueries) {
+    for (const NamedTimeQuery &query : timeQueries) {
         script().answer(query.operation, CallTime{hours, minutes, seconds});
         TAPI_CallTime time = {};
         QCOMPARE(query.call(&time), int(handset::Success));

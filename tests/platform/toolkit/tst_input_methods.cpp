@@ -23,7 +23,7 @@ using namespace ToolkitTestKit;
 namespace {
 
 const QUuid letters(QStringLiteral("637a8c00-1098-42ca-969a-2bf163cd3c12"));
-const QUuid numbers(QStringLiteral("637a8c00-1098-42ca-969a-2bf163cd3c14"));
+const QUuid decimals(QStringLiteral("637a8c00-1098-42ca-969a-2bf163cd3c14"));
 const QUuid symbols(QStringLiteral("637a8c00-1098-42ca-969a-2bf163cd3c15"));
 constexpr int numberMode = 6;
 constexpr int letterMode = 0;
@@ -134,7 +134,7 @@ void TestInputMethods::numbersTypeDecimalsAndKeepEverythingElse()
     QFETCH(QString, keys);
     QFETCH(QString, result);
     ZMultiLineEdit *field = open();
-    ZApplication::setInputMethods(field, numbers, {numbers, symbols}, numberMode, QString());
+    ZApplication::setInputMethods(field, decimals, {decimals, symbols}, numberMode, QString());
     typeOn(field, keys);
     QCOMPARE(dialog->getResultText(), result);
 }
@@ -142,7 +142,7 @@ void TestInputMethods::numbersTypeDecimalsAndKeepEverythingElse()
 void TestInputMethods::theHashKeyNeverClosesTheDialog()
 {
     ZMultiLineEdit *field = open();
-    ZApplication::setInputMethods(field, numbers, {numbers}, numberMode, QString());
+    ZApplication::setInputMethods(field, decimals, {decimals}, numberMode, QString());
     Answers answers(dialog);
     pressKeys("12###");
     QVERIFY(answers.given.isEmpty());
@@ -272,7 +272,7 @@ void TestInputMethods::anyTextFieldWillDo()
     ZApplication::setInputMethods(&field, letters, {letters}, letterMode, QString());
     typeOn(&field, QStringLiteral("33887777"));
     QCOMPARE(field.text(), QStringLiteral("EUS"));
-    ZApplication::setInputMethods(&field, numbers, {numbers}, numberMode, QString());
+    ZApplication::setInputMethods(&field, decimals, {decimals}, numberMode, QString());
     typeOn(&field, QStringLiteral("###1*5"));
     QCOMPARE(field.text(), QStringLiteral("1.5"));
 }
@@ -280,7 +280,7 @@ void TestInputMethods::anyTextFieldWillDo()
 void TestInputMethods::theHintsSayWhatIsWanted()
 {
     ZMultiLineEdit *field = open();
-    ZApplication::setInputMethods(field, numbers, {numbers}, numberMode, QString());
+    ZApplication::setInputMethods(field, decimals, {decimals}, numberMode, QString());
     QVERIFY(field->inputMethodHints() & Qt::ImhPreferNumbers);
     QVERIFY(!(field->inputMethodHints() & Qt::ImhExclusiveInputMask));
     ZApplication::setInputMethods(field, letters, {letters}, letterMode, QString());
@@ -292,9 +292,9 @@ void TestInputMethods::aHintStandsInTheEmptyField()
 {
     ZMultiLineEdit *field = open();
     field->setPlaceholderText(QStringLiteral("before"));
-    ZApplication::setInputMethods(field, numbers, {numbers}, numberMode, QString());
+    ZApplication::setInputMethods(field, decimals, {decimals}, numberMode, QString());
     QCOMPARE(field->placeholderText(), QStringLiteral("before"));
-    ZApplication::setInputMethods(field, numbers, {numbers}, numberMode, QStringLiteral("Amount"));
+    ZApplication::setInputMethods(field, decimals, {decimals}, numberMode, QStringLiteral("Amount"));
     QCOMPARE(field->placeholderText(), QStringLiteral("Amount"));
 }
 
@@ -302,7 +302,7 @@ void TestInputMethods::aLaterCallTakesThePlaceOfAnEarlierOne()
 {
     ZMultiLineEdit *field = open();
     ZApplication::setInputMethods(field, letters, {letters}, letterMode, QString());
-    ZApplication::setInputMethods(field, numbers, {numbers}, numberMode, QString());
+    ZApplication::setInputMethods(field, decimals, {decimals}, numberMode, QString());
     typeOn(field, QStringLiteral("22*5"));
     QCOMPARE(dialog->getResultText(), QStringLiteral("22.5"));
     ZApplication::setInputMethods(field, symbols, {symbols}, 0, QString());
@@ -318,11 +318,11 @@ void TestInputMethods::whatIsNotKnownIsAWarningAndPlainTyping_data()
     QTest::addColumn<int>("mode");
     QTest::addColumn<QString>("typed");
     const QUuid strange(QStringLiteral("00000000-1098-42ca-969a-2bf163cd3c14"));
-    QTest::newRow("a method that is not known") << strange << numbers << numberMode << "1*2";
-    QTest::newRow("a null method") << QUuid() << numbers << numberMode << "1*2";
-    QTest::newRow("numbers in a mode that is not known") << numbers << numbers << 77 << "1*2";
-    QTest::newRow("letters in the mode of numbers") << letters << letters << numberMode << "1*2";
-    QTest::newRow("an allowed method that is not known") << numbers << strange << numberMode << "1.2";
+    QTest::newRow("a method that is not known") << strange << decimals << numberMode << "1*2";
+    QTest::newRow("a null method") << QUuid() << decimals << numberMode << "1*2";
+    QTest::newRow("decimals in a mode that is not known") << decimals << decimals << 77 << "1*2";
+    QTest::newRow("letters in the mode of decimals") << letters << letters << numberMode << "1*2";
+    QTest::newRow("an allowed method that is not known") << decimals << strange << numberMode << "1.2";
 }
 
 void TestInputMethods::whatIsNotKnownIsAWarningAndPlainTyping()
@@ -342,7 +342,7 @@ void TestInputMethods::whatIsNotKnownIsAWarningAndPlainTyping()
 void TestInputMethods::aNullFieldIsAWarning()
 {
     QTest::ignoreMessage(QtWarningMsg, "ZApplication::setInputMethods: there is no field");
-    ZApplication::setInputMethods(nullptr, numbers, {numbers}, numberMode, QString());
+    ZApplication::setInputMethods(nullptr, decimals, {decimals}, numberMode, QString());
 }
 
 void TestInputMethods::everyNumberKeyHasItsDigitLast()

@@ -24,7 +24,7 @@ using LineState = SimulatedHandset::LineState;
 
 namespace {
 
-constexpr Date someDay{2027, 3, 9};
+constexpr Date dayOfExpiry{2027, 3, 9};
 
 void expectFailure()
 {
@@ -45,7 +45,7 @@ struct CostsAndCredit {
     friend bool operator==(const CostsAndCredit &, const CostsAndCredit &) = default;
 };
 
-CostsAndCredit costsOf(const Phone &phone)
+CostsAndCredit costsAndCreditOf(const Phone &phone)
 {
     CostsAndCredit costs;
     const bool told = phone.service().lastCallCost(costs.last) == Success &&
@@ -95,7 +95,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
 {
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), someDay), int(Success));
+    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), dayOfExpiry), int(Success));
     QVERIFY(phone.dialed(50 * second));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
@@ -111,7 +111,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
         QCOMPARE(spy.count(), 1);
         phone.clock->advance(7 * second); // after the call
         QCOMPARE(phone.figures(), (SixFigures{30, 80, 0, 0, 80, 80}));
-        QCOMPARE(costsOf(phone), (CostsAndCredit{"3.00", "8.00", "8.00", "92.00"}));
+        QCOMPARE(costsAndCreditOf(phone), (CostsAndCredit{"3.00", "8.00", "8.00", "92.00"}));
         QCOMPARE(phone->simCard().card().acm(), 8U);
         QCOMPARE(phone->checkpoint(), int(StorageFailed));
         QCOMPARE(spy.count(), 1);
@@ -121,7 +121,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
     QVERIFY(!phone->owesRecord());
     QCOMPARE(spy.count(), 2);
     QCOMPARE(phone.figures(), (SixFigures{30, 80, 0, 0, 80, 80}));
-    QCOMPARE(costsOf(phone), (CostsAndCredit{"3.00", "8.00", "8.00", "92.00"}));
+    QCOMPARE(costsAndCreditOf(phone), (CostsAndCredit{"3.00", "8.00", "8.00", "92.00"}));
     const LogFile file(state.database());
     QCOMPARE(file.calls().value(1).durationMs, 30 * second);
     QCOMPARE(file.calls().value(1).state, int(CallState::Finished));
@@ -129,7 +129,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
     phone.close();
     const Phone restarted(state.path());
     QCOMPARE(restarted.figures(), (SixFigures{30, 80, 0, 0, 80, 80}));
-    QCOMPARE(costsOf(restarted), (CostsAndCredit{"3.00", "8.00", "8.00", "92.00"}));
+    QCOMPARE(costsAndCreditOf(restarted), (CostsAndCredit{"3.00", "8.00", "8.00", "92.00"}));
 }
 
 void TestFullDisk::aDataCallEndsAndItsTotalIsTold()
@@ -194,7 +194,7 @@ void TestFullDisk::aCallThatTheHandsetStopsEndsAndIsWrittenWhenThereIsRoom()
 {
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("2"), someDay), int(Success));
+    QCOMPARE(phone->charging().topUp(QStringLiteral("2"), dayOfExpiry), int(Success));
     QVERIFY(phone.dial());
     phone.clock->advance(25 * second);
     {
@@ -205,14 +205,14 @@ void TestFullDisk::aCallThatTheHandsetStopsEndsAndIsWrittenWhenThereIsRoom()
         QCOMPARE(phone->charging().stopReason(), simulated::Charging::StopReason::CreditUsedUp);
         QVERIFY(phone->owesRecord());
         QCOMPARE(phone.figures(), (SixFigures{20, 20, 0, 0, 20, 20}));
-        QCOMPARE(costsOf(phone), (CostsAndCredit{"2.00", "2.00", "2.00", "0.00"}));
+        QCOMPARE(costsAndCreditOf(phone), (CostsAndCredit{"2.00", "2.00", "2.00", "0.00"}));
     }
     QCOMPARE(phone->checkpoint(), int(Success));
     QVERIFY(!phone->owesRecord());
     phone.close();
     const Phone restarted(state.path());
     QCOMPARE(restarted.figures(), (SixFigures{20, 20, 0, 0, 20, 20}));
-    QCOMPARE(costsOf(restarted), (CostsAndCredit{"2.00", "2.00", "2.00", "0.00"}));
+    QCOMPARE(costsAndCreditOf(restarted), (CostsAndCredit{"2.00", "2.00", "2.00", "0.00"}));
 }
 
 void TestFullDisk::aSessionEndsAndIsWrittenWhenThereIsRoom()
@@ -438,7 +438,7 @@ void TestFullDisk::theNextCallIsRefusedForWhatTheOwedOneHasCost()
 {
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("3"), someDay), int(Success));
+    QCOMPARE(phone->charging().topUp(QStringLiteral("3"), dayOfExpiry), int(Success));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
     const FullDisk full(0);
@@ -469,7 +469,7 @@ void TestFullDisk::aSettingAndAResetWaitForWhatIsOwed_data()
         {"3.00", "0.00", "3.00", "97.00"});
     row("the meter", [](Phone &p) { return p.log().resetAllCallsCost(); }, times,
         {"3.00", "3.00", "0.00", "97.00"});
-    row("a deposit", [](Phone &p) { return p->charging().topUp(QStringLiteral("5"), someDay); }, times,
+    row("a deposit", [](Phone &p) { return p->charging().topUp(QStringLiteral("5"), dayOfExpiry); }, times,
         {"3.00", "3.00", "3.00", "102.00"});
     row("a history",
         [](Phone &p) {
@@ -486,7 +486,7 @@ void TestFullDisk::aSettingAndAResetWaitForWhatIsOwed()
     QFETCH(CostsAndCredit, costsAfter);
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), someDay), int(Success));
+    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), dayOfExpiry), int(Success));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
     {
@@ -495,16 +495,16 @@ void TestFullDisk::aSettingAndAResetWaitForWhatIsOwed()
         QCOMPARE(phone->hangUp(), int(Success));
         QCOMPARE(operation(phone), int(StorageFailed));
         QCOMPARE(phone.figures(), (SixFigures{30, 30, 0, 0, 30, 30}));
-        QCOMPARE(costsOf(phone), (CostsAndCredit{"3.00", "3.00", "3.00", "97.00"}));
+        QCOMPARE(costsAndCreditOf(phone), (CostsAndCredit{"3.00", "3.00", "3.00", "97.00"}));
     }
     QCOMPARE(operation(phone), int(Success));
     QVERIFY(!phone->owesRecord());
     QCOMPARE(phone.figures(), after);
-    QCOMPARE(costsOf(phone), costsAfter);
+    QCOMPARE(costsAndCreditOf(phone), costsAfter);
     phone.close();
     const Phone restarted(state.path());
     QCOMPARE(restarted.figures(), after);
-    QCOMPARE(costsOf(restarted), costsAfter);
+    QCOMPARE(costsAndCreditOf(restarted), costsAfter);
 }
 
 void TestFullDisk::aCrashWhileAnEndIsOwedLosesWhatFollowedTheLastCheckpoint()

@@ -25,6 +25,7 @@
 using namespace handset;
 using namespace handset::test;
 using calllog::CallState;
+using LineState = simulated::SimulatedHandset::LineState;
 
 namespace {
 
@@ -61,7 +62,7 @@ struct Two {
     Phone phone;
 };
 
-QByteArray costsOf(const Phone &phone)
+QByteArray costTextsOf(const Phone &phone)
 {
     QByteArray last("?");
     QByteArray all("?");
@@ -150,11 +151,11 @@ void TestLedger::theRunningCallIsCountedUpToNowEverywhere()
     QVERIFY(two.dial());
     two.pass(12 * second);
     QCOMPARE(two.phone.figures(), (SixFigures{12, 12, 0, 0, 12, 12}));
-    QCOMPARE(costsOf(two.phone), QByteArray("1.00 1.00 none"));
+    QCOMPARE(costTextsOf(two.phone), QByteArray("1.00 1.00 none"));
     QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
     two.pass(9 * second);
     QCOMPARE(two.phone.figures(), (SixFigures{21, 21, 0, 0, 21, 21}));
-    QCOMPARE(costsOf(two.phone), QByteArray("2.00 2.00 none"));
+    QCOMPARE(costTextsOf(two.phone), QByteArray("2.00 2.00 none"));
     QCOMPARE(two.recorder->ask("times"), QByteArray("21 21 0 21"));
     QCOMPARE(two.recorder->ask("costs"), QByteArray("2.00 2.00 none"));
 }
@@ -179,7 +180,6 @@ void TestLedger::theLineIsSeenEverywhere()
     const StateDir state;
     Two two(state);
     QVERIFY(two);
-    using LineState = simulated::SimulatedHandset::LineState;
     QCOMPARE(two.phone->lineState(), LineState::Idle);
     QVERIFY(two.phone->number().isNull());
     QVERIFY(two.dial());
@@ -223,7 +223,7 @@ void TestLedger::aResetOfTheMeterElsewhereIsOne()
     QCOMPARE(two.recorder->ask("costs"), QByteArray("1.00 1.00 none"));
     QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
     QCOMPARE(LogFile(state.database()).value(QStringLiteral("SELECT units FROM calls")), QVariant(3));
-    QCOMPARE(costsOf(two.phone), QByteArray("1.00 1.00 none"));
+    QCOMPARE(costTextsOf(two.phone), QByteArray("1.00 1.00 none"));
 }
 
 void TestLedger::aLowerLimitElsewhereEndsTheCall()
@@ -441,7 +441,7 @@ void TestLedger::whoOpensWhileTheFirstUnitIsDueLeavesTheCardAlone()
     clock->advance(12 * second);
     const Phone phone(state.path(), clock);
     QCOMPARE(phone.opened.notice, QString());
-    QCOMPARE(costsOf(phone), QByteArray("1.00 1.00 none"));
+    QCOMPARE(costTextsOf(phone), QByteArray("1.00 1.00 none"));
 }
 
 void TestLedger::theDataCallStatusIsSeenEverywhere()

@@ -2,6 +2,7 @@
 #include "charging/AmountText.h"
 #include "charging/ChargeUnits.h"
 #include "handset/charging/LongHand.h"
+#include "handset/charging/Prices.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QLocale>
@@ -13,16 +14,9 @@
 using namespace handset;
 using namespace handset::charging;
 using handset::test::LongHand;
+using handset::test::priceOf;
 
 namespace {
-
-UnitPrice priceOf(const QString &text)
-{
-    UnitPrice price;
-    if (UnitPrice::fromText(text, price) != Success)
-        qFatal("no such price: %s", qPrintable(text));
-    return price;
-}
 
 UnitPrice randomPrice(QRandomGenerator &random, int least)
 {

@@ -4,6 +4,7 @@
 #include "qt/qcop/FakeBus.h"
 #include "qt/qcop/Peer.h"
 #include "qt/qcop/PrivateBus.h"
+#include "qt/qcop/QCopTest.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QDir>
@@ -23,8 +24,6 @@
 
 namespace {
 
-constexpr char phone[] = "/KAV/phone";
-constexpr int exitFailure = 1;
 constexpr char abstractName[] = "kav-bus-address-test";
 
 // A silent socket with a name that is no file.

@@ -3,6 +3,7 @@
 #include "qt/qcop/FakeBus.h"
 #include "qt/qcop/Peer.h"
 #include "qt/qcop/PrivateBus.h"
+#include "qt/qcop/QCopTest.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QElapsedTimer>
@@ -11,8 +12,6 @@
 
 namespace {
 
-constexpr char phone[] = "/KAV/phone";
-constexpr int limitMs = 60000;
 using Lines = QList<QByteArray>;
 
 Lines numberLines(int id, qsizetype count)

@@ -2,6 +2,7 @@
 #include "qt/qcop/Command.h"
 #include "qt/qcop/Peer.h"
 #include "qt/qcop/PrivateBus.h"
+#include "qt/qcop/QCopTest.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QFile>
@@ -20,9 +21,6 @@
 
 namespace {
 
-constexpr char phone[] = "/KAV/phone";
-constexpr int limitMs = 60000;
-constexpr int exitFailure = 1;
 constexpr int exitUsage = 2;
 using Arguments = Command::Arguments;
 

@@ -2,6 +2,7 @@
 #include "qt/qcop/LineLimit.h"
 #include "qt/qcop/Peer.h"
 #include "qt/qcop/PrivateBus.h"
+#include "qt/qcop/QCopTest.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
@@ -13,8 +14,6 @@
 
 namespace {
 
-constexpr char phone[] = "/KAV/phone";
-constexpr int limitMs = 60000;
 const QString path = QStringLiteral("/org/kav/QCop");
 const QString interface = QStringLiteral("org.kav.QCop");
 const QString member = QStringLiteral("Message");

@@ -1,6 +1,7 @@
 // Messages between processes on one session bus.
 #include "qt/qcop/Peer.h"
 #include "qt/qcop/PrivateBus.h"
+#include "qt/qcop/QCopTest.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
@@ -8,7 +9,6 @@
 
 namespace {
 
-constexpr char phone[] = "/KAV/phone";
 constexpr int burst = 1000;
 using Lines = QList<QByteArray>;
 

@@ -4,6 +4,7 @@
 #include "qt/qcop/FakeBus.h"
 #include "qt/qcop/Peer.h"
 #include "qt/qcop/PrivateBus.h"
+#include "qt/qcop/QCopTest.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
@@ -15,9 +16,6 @@
 
 namespace {
 
-constexpr char phone[] = "/KAV/phone";
-constexpr int limitMs = 60000;
-constexpr int exitFailure = 1;
 constexpr qint64 large = 4000000; // more than a socket holds
 
 /// Where the bus falls silent: a word of the process's that it does not take any more; or it never says a thing.
