@@ -8,6 +8,7 @@
 #include "support/PluginLibrary.h"
 #include "support/PrivateAccess.h"
 #include "support/RecordingTranslator.h"
+#include "support/Sample.h"
 
 #include "qt/QCopChannel.h"
 #include "toolkit/ZLabel.h"
@@ -627,7 +628,7 @@ void TestDataVolumes::select(int step)
 
 void TestDataVolumes::everyOneOfTenThousandBroadcastsArrivesWithSelectionsInBetween()
 {
-    constexpr int broadcasts = 10'000;
+    const int broadcasts = 10'000 / sampleStride(5);
     const TraceSink quiet;
     open();
     journal.setMuted(true);

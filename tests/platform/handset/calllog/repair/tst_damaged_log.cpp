@@ -322,12 +322,12 @@ void TestDamagedLog::aWriteAheadLogCutOffAtAnyLengthLosesOnlyItsEnd()
 void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsRows_data()
 {
     QTest::addColumn<QByteArray>("filling");
-    QTest::newRow("with zeros") << QByteArray(pageSize, '\0');
-    QTest::newRow("with ones") << QByteArray(pageSize, '\xff');
     std::mt19937 random(1);
     QByteArray noise(pageSize, '\0');
     std::generate(noise.begin(), noise.end(), [&] { return static_cast<char>(random()); });
-    QTest::newRow("with noise") << noise;
+    const QByteArray fillings[] = {noise, QByteArray(pageSize, '\0'), QByteArray(pageSize, '\xff')};
+    for (std::size_t i = 0; i < std::size(fillings); i += std::size_t(sampleStride(3)))
+        QTest::addRow("with 0x%02x and what follows", fillings[i][0] & 0xff) << fillings[i];
 }
 
 void TestDamagedLog::aPageOverwrittenCostsNoMoreThanItsRows()
