@@ -1,7 +1,5 @@
 #include "calllog/CheckBeside.h"
 
-#include "calllog/PlainSqlite.h"
-
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMetaObject>
@@ -106,9 +104,9 @@ void CheckBeside::setReading(sqlite3 *connection)
 
 CheckedLog CheckBeside::read()
 {
-    PlainConnection connection(file);
+    Database connection(file, Database::Access::ReadOnly);
     if (!connection.isOpen())
-        return {{Verdict::Blocked, sqlite::reason(connection.handle())}, {}};
+        return {{Verdict::Blocked, connection.lastError().reason}, {}};
     connection.run("PRAGMA cell_size_check = ON");
     const Interruption interruption(connection.handle(), [this] { return isOver.load(); });
     setReading(connection.handle());

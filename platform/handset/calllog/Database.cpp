@@ -2,9 +2,8 @@
 
 #include "handset/Status.h"
 
+#include <QtCore/QFile>
 #include <QtCore/QLoggingCategory>
-#include <QtCore/QVariant>
-#include <QtSql/QSqlDriver>
 
 #include <cerrno>
 #include <cstring>
@@ -19,12 +18,6 @@ namespace handset::calllog {
 namespace {
 
 Q_LOGGING_CATEGORY(lcCallLog, "kav.handset.calllog")
-
-QString newConnectionName()
-{
-    static int count = 0;
-    return QStringLiteral("kav-calllog-%1").arg(++count);
-}
 
 constexpr int betweenTriesMs = 2;
 
@@ -42,54 +35,34 @@ int systemError(int code)
     return 0;
 }
 
-QString withSystemError(const QString &words, int error)
-{
-    return error == 0 ? words : QStringLiteral("%1 (%2)").arg(words, QString::fromLocal8Bit(std::strerror(error)));
-}
-
 } // namespace
-
-int sqlite::code(const QSqlError &error)
-{
-    return error.nativeErrorCode().toInt() & 0xff;
-}
-
-QString sqlite::reason(const QSqlError &error)
-{
-    return error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-}
 
 QString sqlite::reason(sqlite3 *connection)
 {
     const int error = systemError(sqlite3_extended_errcode(connection));
-    return withSystemError(QString::fromUtf8(sqlite3_errmsg(connection)), error);
+    const QString words = QString::fromUtf8(sqlite3_errmsg(connection));
+    return error == 0 ? words : QStringLiteral("%1 (%2)").arg(words, QString::fromLocal8Bit(std::strerror(error)));
 }
 
 Database::Database(const QString &file, Access access)
-    : name(newConnectionName())
-    , connection(QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name))
 {
-    if (access == Access::ReadOnly)
-        connection.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
-    connection.setDatabaseName(file);
+    const int flags =
+        access == Access::ReadOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     errno = 0;
-    if (!connection.open()) {
-        note(connection.lastError());
+    open = sqlite3_open_v2(QFile::encodeName(file).constData(), &sqlite, flags | SQLITE_OPEN_NOMUTEX, nullptr) ==
+           SQLITE_OK;
+    if (!open) {
+        fail();
         return;
     }
-    const QVariant handle = connection.driver()->handle();
-    const auto *const held = static_cast<sqlite3 *const *>(handle.constData());
-    sqlite = held && handle.typeName() == QByteArrayLiteral("sqlite3*") ? *held : nullptr;
     sqlite3_busy_handler(sqlite, &waitInSqlite, this);
-    distrustTables(sqlite);
+    sqlite3_db_config(sqlite, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
 }
 
 Database::~Database()
 {
     statements.clear();
-    connection.close();
-    connection = QSqlDatabase();
-    QSqlDatabase::removeDatabase(name);
+    sqlite3_close(sqlite);
 }
 
 void Database::setPatience(int milliseconds)
@@ -123,54 +96,38 @@ bool Database::waitForOthers()
     return waiting && waiting->pauseInSqlite(betweenTriesMs, holders);
 }
 
-// The driver does not say what the system has said.
-void Database::note(const QSqlError &last)
-{
-    const QString words = withSystemError(sqlite::reason(last), systemError(last.nativeErrorCode().toInt()));
-    error = QSqlError(last.driverText(), words, last.type(), last.nativeErrorCode());
-}
-
-QSqlQuery Database::query() const
-{
-    QSqlQuery fresh(connection);
-    fresh.setForwardOnly(true);
-    return fresh;
-}
-
 bool Database::run(const QString &statement)
 {
-    QSqlQuery once = query();
-    errno = 0;
-    if (once.exec(statement))
-        return true;
-    note(once.lastError());
-    return false;
+    const QByteArray text = statement.toUtf8();
+    Statement once(sqlite, text.constData());
+    return once.run() || fail();
 }
 
 std::optional<qint64> Database::number(const QString &statement)
 {
-    QSqlQuery once = query();
-    errno = 0;
-    if (once.exec(statement) && once.next())
-        return once.value(0).toLongLong();
-    note(once.lastError());
-    return std::nullopt;
+    const QByteArray text = statement.toUtf8();
+    Statement once(sqlite, text.constData());
+    return comesToRow(once) ? std::optional(once.number(0)) : std::nullopt;
 }
 
 QString Database::text(const QString &statement)
 {
-    QSqlQuery once = query();
-    errno = 0;
-    if (once.exec(statement) && once.next())
-        return once.value(0).toString();
-    note(once.lastError());
-    return {};
+    const QByteArray text = statement.toUtf8();
+    Statement once(sqlite, text.constData());
+    return comesToRow(once) ? QString::fromUtf8(once.bytes(0)) : QString();
+}
+
+bool Database::comesToRow(Statement &once)
+{
+    if (once.run() && once.hasRow())
+        return true;
+    error = {};
+    return once.error() == 0 ? false : fail();
 }
 
 bool Database::fail()
 {
-    error = QSqlError({}, sqlite::reason(sqlite), QSqlError::StatementError,
-                      QString::number(sqlite3_extended_errcode(sqlite)));
+    error = {sqlite3_extended_errcode(sqlite), sqlite::reason(sqlite)};
     return false;
 }
 
@@ -182,7 +139,7 @@ bool Database::missesRow()
 
 bool Database::fail(const QString &reason)
 {
-    error = QSqlError({}, reason, QSqlError::StatementError);
+    error = {0, reason};
     return false;
 }
 
@@ -209,7 +166,7 @@ int Database::status(bool succeeded) const
         return Success;
     if (repeating && std::exchange(repeating->hasFailed, true))
         return StorageFailed;
-    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(sqlite::reason(error)));
+    qCWarning(lcCallLog, "The call log failed: %s", qUtf8Printable(error.reason));
     return StorageFailed;
 }
 

@@ -1,13 +1,9 @@
-// One named connection to an SQLite database.
+// One connection to an SQLite database.
 #pragma once
 
-#include "calllog/PlainSqlite.h"
+#include "calllog/Statement.h"
 #include "calllog/Waiting.h"
 #include "handset/Patience.h"
-
-#include <QtSql/QSqlDatabase>
-#include <QtSql/QSqlError>
-#include <QtSql/QSqlQuery>
 
 #include <map>
 #include <optional>
@@ -23,13 +19,16 @@ inline constexpr int Corrupt = 11;
 inline constexpr int Constraint = 19;
 inline constexpr int NotADatabase = 26;
 
-/// The primary result code of an error; 0 when it has none.
-int code(const QSqlError &error);
-/// What SQLite says of an error, without what the driver adds to it.
-QString reason(const QSqlError &error);
 /// What SQLite says of the last error of a connection, and what the system said, which it leaves out. To be asked at
 /// once.
 QString reason(sqlite3 *connection);
+
+struct Failure {
+    int extendedCode = 0; ///< SQLite's result code; 0 for what SQLite has nothing against
+    QString reason;
+
+    int code() const { return extendedCode & 0xff; }
+};
 } // namespace sqlite
 
 /// A write that is tried until it succeeds. Its failure is told once, and then its success.
@@ -37,8 +36,9 @@ struct RepeatedWrite {
     bool hasFailed = false;
 };
 
-/// Opens on construction, closes and forgets the connection on destruction. Every statement prepared on it must be
-/// gone by then. Every operation that returns false has left its reason in lastError().
+/// Opens on construction, closes on destruction: every other statement prepared on it must be gone by then. Every
+/// operation that returns false has left its reason in lastError(). What the tables, views and triggers of the database
+/// call is not run, but for what cannot do any harm: somebody else may have written them.
 class Database
 {
 public:
@@ -50,9 +50,9 @@ public:
     Database(const Database &) = delete;
     Database &operator=(const Database &) = delete;
 
-    /// SQLite's own connection, for what Qt has no way for; null when it is not open.
+    /// SQLite's own connection.
     sqlite3 *handle() const { return sqlite; }
-    bool isOpen() const { return connection.isOpen(); }
+    bool isOpen() const { return open; }
     /// How long a statement waits for others that write, before it fails with sqlite::Busy.
     void setPatience(int milliseconds);
     /// The statements of an opening share its patience. `wait` lives until the next setPatience().
@@ -60,18 +60,15 @@ public:
     /// Where SQLite itself does not wait: does so for a moment, or returns false when the patience of the opening is at
     /// its end.
     bool waitForOthers();
-    const QSqlError &lastError() const { return error; }
+    const sqlite::Failure &lastError() const { return error; }
 
     /// Runs one statement whose result does not matter.
     bool run(const QString &statement);
-    /// The first column of the first row; nothing when there is no row or the statement failed.
+    /// The first column of the first row; nothing, or an empty text, when there is no row or the statement failed.
     std::optional<qint64> number(const QString &statement);
     QString text(const QString &statement);
     /// The statement of this text, which is kept, as the text is: it is known by where that stands.
-    PlainStatement &statement(const char *text)
-    {
-        return statements.try_emplace(text, sqlite, text).first->second;
-    }
+    Statement &statement(const char *text) { return statements.try_emplace(text, sqlite, text).first->second; }
     /// Runs such a statement, which may have a row then.
     template <typename... Values>
     bool run(const char *text, const Values &...values)
@@ -137,18 +134,16 @@ public:
             return false;
         if (isInPlace() && work() && run(commitSql))
             return true;
-        const QSqlError reason = error;
+        const sqlite::Failure reason = error;
         run(QStringLiteral("ROLLBACK"));
         error = reason;
         return false;
     }
 
-    QSqlQuery query() const;
-
 private:
     static int waitInSqlite(void *self, int tries);
-    void note(const QSqlError &last);
     bool isInPlace();
+    bool comesToRow(Statement &once);
 
     static constexpr auto beginSql = "BEGIN IMMEDIATE";
     static constexpr auto commitSql = "COMMIT";
@@ -157,10 +152,9 @@ private:
     int patienceMs = Patience{}.operation;
     Waiting *waiting = nullptr;
     Holders holders;
-    QString name;
-    QSqlDatabase connection;
-    std::map<const char *, PlainStatement> statements;
-    QSqlError error;
+    bool open = false;
+    std::map<const char *, Statement> statements;
+    sqlite::Failure error;
     RepeatedWrite *repeating = nullptr;
 };
 

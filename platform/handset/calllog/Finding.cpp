@@ -36,13 +36,12 @@ Finding failure(int code, const QString &reason)
 
 Finding failure(const Database &database)
 {
-    const QSqlError &error = database.lastError();
-    return failure(sqlite::code(error), sqlite::reason(error));
+    return failure(database.lastError().code(), database.lastError().reason);
 }
 
-bool isDamage(const QSqlError &error)
+bool isDamage(const sqlite::Failure &error)
 {
-    switch (sqlite::code(error)) {
+    switch (error.code()) {
     case sqlite::Error:
     case sqlite::Corrupt:
     case sqlite::NotADatabase:

@@ -42,7 +42,7 @@ Finding failure(int code, const QString &reason);
 /// The same, of the last error of a database.
 Finding failure(const Database &database);
 /// Whether an error of a database that is salvaged is damage: there a statement that does not fit the tables is, too.
-bool isDamage(const QSqlError &error);
+bool isDamage(const sqlite::Failure &error);
 /// What a line of SQLite's own check ("ok", or what is wrong) says.
 Finding judgeCheck(const QString &line);
 

@@ -81,13 +81,13 @@ constexpr auto putKeptSql = "INSERT INTO kept (name, content) VALUES (?, ?)"
 
 constexpr std::optional<qint64> nothing;
 
-std::optional<qint64> numberOrNothing(const PlainStatement &row, int column)
+std::optional<qint64> numberOrNothing(const Statement &row, int column)
 {
     return row.isNull(column) ? nothing : row.number(column);
 }
 
 // `column` has the boot, the next two the readings of its clock.
-Written writtenAt(const PlainStatement &row, int column)
+Written writtenAt(const Statement &row, int column)
 {
     if (row.isNull(column) || row.isNull(column + 1))
         return {};
@@ -101,12 +101,12 @@ QString bootOf(const Written &written)
 }
 
 // A row that an earlier version has left runs alone.
-bool isLastAt(const PlainStatement &row, int column)
+bool isLastAt(const Statement &row, int column)
 {
     return row.isNull(column) || row.number(column) != 0;
 }
 
-SessionRow sessionAt(const PlainStatement &row, int column)
+SessionRow sessionAt(const Statement &row, int column)
 {
     return {row.number(column),
             QString::fromUtf8(row.bytes(column + 1)).toLatin1(),
@@ -199,7 +199,7 @@ bool LedgerTables::readState(charging::ChargingState &state, const QByteArray &c
 }
 
 // None in the row that an earlier version has left.
-bool LedgerTables::readTariff(const PlainStatement &row, int column, RunningCall &call)
+bool LedgerTables::readTariff(const Statement &row, int column, RunningCall &call)
 {
     return row.isNull(column) || charging::readTariff(row.bytes(column), call.tariff) ||
            database.fail(QStringLiteral("the tariff of the running call cannot be read"));
@@ -209,7 +209,7 @@ bool LedgerTables::read(Standing &standing)
 {
     if (!database.runForRow(standingSql))
         return false;
-    PlainStatement &row = database.statement(standingSql);
+    Statement &row = database.statement(standingSql);
     bool isRight = readState(standing.state, row.bytes(0), row.bytes(1));
     standing.calls.clear();
     for (bool more = !row.isNull(2); isRight && more; more = row.next()) {
@@ -293,7 +293,7 @@ bool LedgerTables::ended(qint64 id, std::optional<EndedCall> &call)
     call.reset();
     if (!database.run(endedCallSql, id))
         return false;
-    PlainStatement &row = database.statement(endedCallSql);
+    Statement &row = database.statement(endedCallSql);
     if (row.hasRow())
         call = EndedCall{static_cast<CallKind>(row.number(0)), static_cast<CallDirection>(row.number(1)),
                          row.number(2), row.number(3) != 0};
@@ -350,7 +350,7 @@ bool LedgerTables::list(QList<SessionRow> &sessions, const char *select, const V
     sessions.clear();
     if (!database.run(select, values...))
         return false;
-    PlainStatement &row = database.statement(select);
+    Statement &row = database.statement(select);
     for (bool more = row.hasRow(); more; more = row.next())
         sessions.append(sessionAt(row, 0));
     const bool done = row.error() == 0 || database.fail();
@@ -363,7 +363,7 @@ bool LedgerTables::counted(const PastCall &call, qint64 sinceWallMs, Counted &co
     if (!database.runForRow(countedCallsSql, sinceWallMs, static_cast<int>(call.kind),
                             static_cast<int>(call.direction), call.number, call.startWallMs))
         return false;
-    PlainStatement &row = database.statement(countedCallsSql);
+    Statement &row = database.statement(countedCallsSql);
     counted = {row.number(0), row.number(1)};
     row.finish();
     return true;
@@ -373,7 +373,7 @@ bool LedgerTables::counted(const QByteArray &apn, qint64 sinceWallMs, qint64 sta
 {
     if (!database.runForRow(countedSessionsSql, sinceWallMs, QString::fromLatin1(apn), startWallMs))
         return false;
-    PlainStatement &row = database.statement(countedSessionsSql);
+    Statement &row = database.statement(countedSessionsSql);
     amounts = {row.number(0), row.number(1), row.number(2)};
     row.finish();
     return true;
@@ -403,7 +403,7 @@ bool LedgerTables::addToSessions(const SessionAmounts &more)
 }
 
 // `row` is that of totalTimeSql or totalCostSql, and has a running call.
-bool LedgerTables::addRunning(const PlainStatement &row, Total total, const Moments &moments, qint64 &value)
+bool LedgerTables::addRunning(const Statement &row, Total total, const Moments &moments, qint64 &value)
 {
     RunningCall call;
     call.kind = static_cast<CallKind>(row.number(1));
@@ -432,7 +432,7 @@ bool LedgerTables::totalAt(Total total, const Moments &moments, qint64 &value)
     const char *const select = total < Total::LastCost ? totalTimeSql : totalCostSql;
     if (!database.runForRow(select, placeOf(total).key))
         return false;
-    PlainStatement &row = database.statement(select);
+    Statement &row = database.statement(select);
     qint64 read = row.number(0);
     bool isRight = true;
     for (bool more = !row.isNull(1); isRight && more; more = row.next())
@@ -448,7 +448,7 @@ bool LedgerTables::sessionTotalsAt(const Moments &moments, SessionAmounts &amoun
 {
     if (!database.runForRow(sessionTotalsSql))
         return false;
-    PlainStatement &row = database.statement(sessionTotalsSql);
+    Statement &row = database.statement(sessionTotalsSql);
     const bool isWhole = !row.isNull(0) && !row.isNull(1) && !row.isNull(2);
     amounts = {row.number(0), row.number(1), row.number(2)};
     for (bool more = !row.isNull(3); more; more = row.next()) {
@@ -473,7 +473,7 @@ bool LedgerTables::put(Total total, qint64 value)
 
 bool LedgerTables::kept(const QString &name, QByteArray &content)
 {
-    PlainStatement &row = database.statement(keptSql);
+    Statement &row = database.statement(keptSql);
     const bool done = database.run(keptSql, name);
     if (done)
         content = row.hasRow() ? row.bytes(0) : QByteArray();

@@ -170,8 +170,8 @@ public:
 private:
     template <typename... Values>
     bool list(QList<SessionRow> &sessions, const char *select, const Values &...values);
-    bool readTariff(const PlainStatement &row, int column, RunningCall &call);
-    bool addRunning(const PlainStatement &row, Total total, const Moments &moments, qint64 &value);
+    bool readTariff(const Statement &row, int column, RunningCall &call);
+    bool addRunning(const Statement &row, Total total, const Moments &moments, qint64 &value);
     bool readState(charging::ChargingState &state, const QByteArray &card, const QByteArray &charging);
 
     Database &database;

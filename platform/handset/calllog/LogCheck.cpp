@@ -1,6 +1,5 @@
 #include "calllog/LogCheck.h"
 
-#include "calllog/PlainSqlite.h"
 #include "calllog/Saturating.h"
 
 #include <sqlite3.h>
@@ -35,7 +34,7 @@ void add(qint64 &sum, qint64 amount)
 int countCalls(sqlite3 *connection, CountedRows &all, Progress &progress)
 {
     RowTotals &counted = all.totals;
-    PlainStatement rows(connection, callsSql);
+    Statement rows(connection, callsSql);
     while (rows.next()) {
         progress.oneIsDone();
         const auto kind = static_cast<CallKind>(rows.number(0));
@@ -54,7 +53,7 @@ int countCalls(sqlite3 *connection, CountedRows &all, Progress &progress)
 
 int countSessions(sqlite3 *connection, RowTotals &counted, Progress &progress)
 {
-    PlainStatement rows(connection, sessionsSql);
+    Statement rows(connection, sessionsSql);
     while (rows.next()) {
         progress.oneIsDone();
         for (std::size_t i = 0; i < sessionPlaces.size(); ++i)
@@ -67,7 +66,7 @@ int readTotals(sqlite3 *connection, RowTotals &totals)
 {
     for (const TotalPlace &place : totalPlaces) {
         const QByteArray select = selectTotal(place);
-        PlainStatement row(connection, select.constData());
+        Statement row(connection, select.constData());
         if (row.next())
             totals[at(place.total)] = row.number(0);
         if (row.error() != SQLITE_OK)
@@ -78,7 +77,7 @@ int readTotals(sqlite3 *connection, RowTotals &totals)
 
 int readLost(sqlite3 *connection, LostAmounts &lost)
 {
-    PlainStatement row(connection, lostSql);
+    Statement row(connection, lostSql);
     for (std::size_t i = 0; i < lost.size(); ++i)
         if (row.run(lostNames[i]) && row.hasRow() && !row.isNull(0))
             lost[i] = row.number(0);
@@ -122,7 +121,7 @@ Finding compare(const Figures &figures, const LostAmounts &found)
 
 Finding checkPages(sqlite3 *connection)
 {
-    PlainStatement check(connection, "PRAGMA quick_check(1)");
+    Statement check(connection, "PRAGMA quick_check(1)");
     if (check.next())
         return judgeCheck(QString::fromUtf8(check.bytes(0)));
     return failure(check.error(), sqlite::reason(connection));

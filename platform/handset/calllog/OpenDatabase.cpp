@@ -37,7 +37,7 @@ QString useWriteAheadLog(Database &database)
 {
     const QString statement = QStringLiteral("PRAGMA journal_mode = WAL");
     QString mode = database.text(statement);
-    while (mode.isEmpty() && sqlite::code(database.lastError()) == sqlite::Busy && database.waitForOthers())
+    while (mode.isEmpty() && database.lastError().code() == sqlite::Busy && database.waitForOthers())
         mode = database.text(statement);
     return mode;
 }
@@ -95,7 +95,7 @@ constexpr auto readKept =
 // No figure could be told beside a call whose tariff is none.
 Finding checkRunningCalls(Database &database)
 {
-    PlainStatement running(database.handle(), "SELECT tariff FROM calls WHERE state = 0 AND tariff NOT NULL");
+    Statement running(database.handle(), "SELECT tariff FROM calls WHERE state = 0 AND tariff NOT NULL");
     charging::Tariff tariff;
     while (running.next())
         if (!charging::readTariff(running.bytes(0), tariff))

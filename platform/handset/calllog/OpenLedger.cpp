@@ -182,9 +182,6 @@ ProgressListener progressListener(const Settings &settings)
 OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const Patience &patience,
                         const ProgressListener &progress)
 {
-    if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")))
-        return {
-            nullptr, QStringLiteral("The call log cannot be opened: Qt's SQLite driver is not installed."), {}};
     if (path.isEmpty())
         return openInMemory(clock);
     QString error;

@@ -1,7 +1,5 @@
 #include "calllog/Schema.h"
 
-#include "calllog/PlainSqlite.h"
-
 #include <array>
 
 namespace handset::calllog {

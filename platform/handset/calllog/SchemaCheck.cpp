@@ -1,6 +1,5 @@
 #include "calllog/SchemaCheck.h"
 
-#include "calllog/PlainSqlite.h"
 #include "calllog/Schema.h"
 
 #include <sqlite3.h>
@@ -33,7 +32,7 @@ QByteArray withoutBlanks(QByteArray text)
 // Sorted. The answer is SQLite's result code.
 int listEntries(sqlite3 *connection, Entries &entries)
 {
-    PlainStatement list(connection, listSql);
+    Statement list(connection, listSql);
     while (list.next())
         entries.push_back(list.bytes(0) + '\n' + list.bytes(1) + '\n' + list.bytes(2) + '\n' +
                           withoutBlanks(list.bytes(3)));
@@ -44,7 +43,7 @@ int listEntries(sqlite3 *connection, Entries &entries)
 // As the migrations make them; nothing where there is no memory for that.
 std::optional<Entries> expectedEntries(qint64 version)
 {
-    PlainConnection fresh({});
+    Database fresh(QStringLiteral(":memory:"), Database::Access::ReadWrite);
     const auto steps = migrations().first(static_cast<std::size_t>(version));
     for (const Migration &step : steps)
         for (const char *statement : step)

@@ -52,7 +52,7 @@ Finding judgeVersion(Database &copy)
     Database fresh(QStringLiteral(":memory:"), Database::Access::ReadWrite);
     const QString definitions = QString::fromLatin1(definitionsSql);
     if (!migrate(fresh, migrations()))
-        return {Verdict::Blocked, sqlite::reason(fresh.lastError())};
+        return {Verdict::Blocked, fresh.lastError().reason};
     const QString found = copy.text(definitions);
     if (found.isEmpty())
         return unanswered(copy, Verdict::Newer);
@@ -137,7 +137,7 @@ Finding LogCopy::open()
     // says is refused as a whole.
     for (const char *setting : {"locking_mode = EXCLUSIVE", "writable_schema = ON"})
         if (!database->isOpen() || !database->run(QStringLiteral("PRAGMA ") + QString::fromLatin1(setting)))
-            return {Verdict::Blocked, inFile(file, sqlite::reason(database->lastError()))};
+            return {Verdict::Blocked, inFile(file, database->lastError().reason)};
     opened = std::move(database);
     // The second also makes SQLite go on with the tables that it knows when the list of them cannot be read to its end,
     // whatever the reason: only the statement that reads it says so.

@@ -7,7 +7,6 @@
 #include "calllog/repair/Salvage.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QVariant>
 
 #include <cerrno>
 
@@ -103,12 +102,11 @@ Finding emptyWriteAheadLog(Database &database)
 {
     if (database.text(QStringLiteral("PRAGMA journal_mode = WAL")) != QLatin1String("wal"))
         return failure(database);
-    QSqlQuery checkpoint = database.query();
-    errno = 0;
-    if (!checkpoint.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)")) || !checkpoint.next())
+    Statement checkpoint(database.handle(), "PRAGMA wal_checkpoint(TRUNCATE)");
+    if (!checkpoint.run() || !checkpoint.hasRow())
         return {Verdict::Blocked, sqlite::reason(database.handle())};
-    const bool isBusy = checkpoint.value(0).toInt() != 0;
-    const bool isAllWritten = checkpoint.value(1) == checkpoint.value(2);
+    const bool isBusy = checkpoint.number(0) != 0;
+    const bool isAllWritten = checkpoint.number(1) == checkpoint.number(2);
     return !isBusy && isAllWritten ? Finding{}
                                    : Finding{Verdict::Blocked, QStringLiteral("its write-ahead log is not empty")};
 }

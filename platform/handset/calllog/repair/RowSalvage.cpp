@@ -41,7 +41,7 @@ std::optional<qint64> DamagedLog::number(const QString &select)
     return number;
 }
 
-bool DamagedLog::note(const PlainStatement &rows)
+bool DamagedLog::note(const Statement &rows)
 {
     if (rows.error() == 0)
         return true;
@@ -50,10 +50,10 @@ bool DamagedLog::note(const PlainStatement &rows)
     return false;
 }
 
-void DamagedLog::note(const QSqlError &error)
+void DamagedLog::note(const sqlite::Failure &error)
 {
-    if (error.isValid() && !isDamage(error) && !isBlocked())
-        blockedBy = {Verdict::Blocked, sqlite::reason(error)};
+    if (error.code() != 0 && !isDamage(error) && !isBlocked())
+        blockedBy = {Verdict::Blocked, error.reason};
 }
 
 RowSalvage::RowSalvage(DamagedLog &damaged, Database &fresh, const SalvagedTable &which,
@@ -100,7 +100,7 @@ RowSalvage::Passed RowSalvage::passTail()
 std::optional<qint64> RowSalvage::firstOfTail(const QByteArray &rest)
 {
     const QByteArray sql = statements.select + rest;
-    PlainStatement rows(source.connection().handle(), sql.constData());
+    Statement rows(source.connection().handle(), sql.constData());
     Progress search = progress.overTheRest(QStringLiteral("Looking for the end of the damage"));
     std::optional<qint64> first;
     while (rows.next()) {
@@ -119,7 +119,7 @@ std::optional<qint64> RowSalvage::firstOfTail(const QByteArray &rest)
 RowSalvage::Passed RowSalvage::pass(const QByteArray &rest, bool untilKnown)
 {
     const QByteArray sql = statements.select + rest;
-    PlainStatement rows(source.connection().handle(), sql.constData());
+    Statement rows(source.connection().handle(), sql.constData());
     bool isKnown = false;
     while (!(untilKnown && isKnown) && rows.next())
         if (isRight(rows) && !copyRow(rows, isKnown))
@@ -131,7 +131,7 @@ RowSalvage::Passed RowSalvage::pass(const QByteArray &rest, bool untilKnown)
 }
 
 // One that a check of its table refuses is none.
-bool RowSalvage::copyRow(const PlainStatement &row, bool &isKnown)
+bool RowSalvage::copyRow(const Statement &row, bool &isKnown)
 {
     if (!putRow.runWith(row))
         return putRow.error() == sqlite::Constraint || target.fail();

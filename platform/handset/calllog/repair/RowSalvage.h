@@ -21,13 +21,13 @@ public:
     /// The first column of the first row; nothing when there is none that can be read.
     std::optional<qint64> number(const QString &select);
     /// To be told of all rows that have been read to their end, right then. True when there was no error.
-    bool note(const PlainStatement &rows);
+    bool note(const Statement &rows);
     /// Blocked when something could not be read for any other reason than damage: there may be more than was read.
     const Finding &obstacle() const { return blockedBy; }
     bool isBlocked() const { return blockedBy.verdict != Verdict::Usable; }
 
 private:
-    void note(const QSqlError &error);
+    void note(const sqlite::Failure &error);
 
     Database &database;
     Finding blockedBy;
@@ -43,8 +43,8 @@ struct SalvagedColumn {
 struct SalvagedTable {
     const char *name;
     std::span<const SalvagedColumn> columns;
-    const char *step;                         ///< of its Progress
-    bool (*check)(const PlainStatement &row); ///< what those do not say; null for nothing
+    const char *step;                    ///< of its Progress
+    bool (*check)(const Statement &row); ///< what those do not say; null for nothing
 };
 
 /// One table, in the transaction of the caller.
@@ -70,14 +70,14 @@ private:
     Passed pass(const QByteArray &rest, bool untilKnown);
     Passed passTail();
     std::optional<qint64> firstOfTail(const QByteArray &rest);
-    bool isRight(const PlainStatement &row) const { return !table.check || table.check(row); }
-    bool copyRow(const PlainStatement &row, bool &isKnown);
+    bool isRight(const Statement &row) const { return !table.check || table.check(row); }
+    bool copyRow(const Statement &row, bool &isKnown);
 
     DamagedLog &source;
     Database &target;
     const SalvagedTable &table;
     Statements statements;
-    PlainStatement putRow;
+    Statement putRow;
     Progress progress;
     qint64 count = 0;
     qint64 highestCopied = 0; ///< id

@@ -13,7 +13,7 @@ namespace handset::calllog {
 
 namespace {
 
-bool hasApn(const PlainStatement &session)
+bool hasApn(const Statement &session)
 {
     const QString apn = QString::fromUtf8(session.bytes(1));
     return !apn.isEmpty() && apn.size() <= DataSession::longestApn &&
@@ -91,8 +91,8 @@ bool copyTotals(DamagedLog &source, Database &target, Salvaged &salvaged, const 
 
 bool readKept(DamagedLog &source, LedgerTables &tables, bool &isRead)
 {
-    PlainStatement rows(source.connection().handle(), "SELECT name, content FROM kept"
-                                                      " WHERE typeof(name) = 'text' AND typeof(content) = 'blob'");
+    Statement rows(source.connection().handle(), "SELECT name, content FROM kept"
+                                                 " WHERE typeof(name) = 'text' AND typeof(content) = 'blob'");
     while (rows.next())
         if (!tables.put(QString::fromUtf8(rows.bytes(0)), rows.bytes(1)))
             return false;

@@ -187,7 +187,7 @@ void TestSchema::aStepThatFailsLeavesTheVersionBeforeItWhole()
 {
     Database database(QStringLiteral(":memory:"), Database::Access::ReadWrite);
     QVERIFY(!calllog::migrate(database, later({addsRates, failsHalfway, addsNotes})));
-    QCOMPARE(calllog::sqlite::code(database.lastError()), calllog::sqlite::Error);
+    QCOMPARE(database.lastError().code(), calllog::sqlite::Error);
     QCOMPARE(versionOf(database), qint64(today().size()) + 1);
     const QString tables = QStringLiteral("SELECT count(*) FROM sqlite_schema WHERE name IN ('half', 'notes')");
     QCOMPARE(database.number(tables), std::optional(qint64{0}));

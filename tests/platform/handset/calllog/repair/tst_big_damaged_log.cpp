@@ -1,7 +1,7 @@
 // Call logs that are read through beside their use, and whose replacement takes its time: told step by step, given up at
 // any of them, and never in the way of whoever uses or ends the handset.
+#include "calllog/Database.h"
 #include "calllog/LogCheck.h"
-#include "calllog/PlainSqlite.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/Status.h"
 #include "handset/calllog/repair/DamagedLogs.h"
@@ -103,7 +103,7 @@ void TestBigDamagedLog::aBigLogIsReadThroughBesideItsUseAndReplacedByTheNextStar
     QVERIFY2(calls > (isOverwritten ? 19'800 : 20'002) && calls <= 20'003, qPrintable(QString::number(calls)));
     // What was lost with the page is known, so that the new log is sound.
     {
-        const calllog::PlainConnection connection(state.database());
+        const calllog::Database connection(state.database(), calllog::Database::Access::ReadOnly);
         QCOMPARE(calllog::checkSums(connection.handle()).finding.reason, QString());
     }
     const Phone phone(state.path());

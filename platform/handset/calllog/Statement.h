@@ -1,4 +1,4 @@
-// SQLite without Qt SQL between: for what reads a whole log in a thread that can be stopped, and for limits.
+// Statements of an SQLite connection, and what stops them.
 #pragma once
 
 #include <QtCore/QByteArray>
@@ -6,7 +6,6 @@
 
 #include <exception>
 #include <functional>
-#include <memory>
 #include <optional>
 
 struct sqlite3;
@@ -14,43 +13,19 @@ struct sqlite3_stmt;
 
 namespace handset::calllog {
 
-/// Keeps a connection from running what the tables, views and triggers of its database call, but for what cannot do any
-/// harm: somebody else may have written them. To be called before anything is read.
-void distrustTables(sqlite3 *connection);
-
-/// A connection of its own. Every statement of it must be gone before it goes.
-class PlainConnection
-{
-public:
-    /// `file` is opened for reading only; an empty name makes a database in memory.
-    explicit PlainConnection(const QString &file);
-    ~PlainConnection();
-    PlainConnection(const PlainConnection &) = delete;
-    PlainConnection &operator=(const PlainConnection &) = delete;
-
-    bool isOpen() const { return open; }
-    sqlite3 *handle() const { return connection; }
-    /// Runs a statement whose result does not matter.
-    bool run(const char *statement);
-
-private:
-    sqlite3 *connection = nullptr;
-    bool open = false;
-};
-
 /// A statement, row by row; one that is kept is run again with other values. It is prepared when it is run first: opening
 /// a log is for nothing but a look at some figures, most of the time.
-class PlainStatement
+class Statement
 {
 public:
     /// `text` stays where it is.
-    PlainStatement(sqlite3 *connection, const char *text)
+    Statement(sqlite3 *connection, const char *text)
         : handle(connection)
         , sql(text)
     {}
-    ~PlainStatement();
-    PlainStatement(const PlainStatement &) = delete;
-    PlainStatement &operator=(const PlainStatement &) = delete;
+    ~Statement();
+    Statement(const Statement &) = delete;
+    Statement &operator=(const Statement &) = delete;
 
     /// Begins anew with `values` in the places of its '?', in their order: integers, texts, bytes, nothing (NULL). Runs to
     /// the first row, or to the end of a statement that has none; false on a failure.
@@ -66,7 +41,7 @@ public:
         return code == 0;
     }
     /// The same with the values of the row that another statement has come to.
-    bool runWith(const PlainStatement &other);
+    bool runWith(const Statement &other);
     /// Whether the last run() has come to a row.
     bool hasRow() const { return row; }
     /// An unfinished SELECT would keep the write-ahead log from being emptied.

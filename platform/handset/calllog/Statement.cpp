@@ -1,6 +1,4 @@
-#include "calllog/PlainSqlite.h"
-
-#include <QtCore/QFile>
+#include "calllog/Statement.h"
 
 #include <sqlite3.h>
 
@@ -11,8 +9,6 @@ namespace handset::calllog {
 
 namespace {
 
-constexpr int busyTimeoutMs = 1000;
-
 int primary(int code)
 {
     return code & 0xff;
@@ -20,45 +16,20 @@ int primary(int code)
 
 } // namespace
 
-void distrustTables(sqlite3 *connection)
-{
-    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-}
-
-PlainConnection::PlainConnection(const QString &file)
-{
-    const QByteArray name = file.isEmpty() ? QByteArrayLiteral(":memory:") : QFile::encodeName(file);
-    const int flags = file.isEmpty() ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
-    open = sqlite3_open_v2(name.constData(), &connection, flags | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK;
-    if (!open)
-        return;
-    sqlite3_busy_timeout(connection, busyTimeoutMs);
-    distrustTables(connection);
-}
-
-PlainConnection::~PlainConnection()
-{
-    sqlite3_close(connection);
-}
-
-bool PlainConnection::run(const char *statement)
-{
-    return sqlite3_exec(connection, statement, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
-PlainStatement::~PlainStatement()
+Statement::~Statement()
 {
     sqlite3_finalize(statement);
 }
 
-bool PlainStatement::prepare()
+bool Statement::prepare()
 {
+    errno = 0; // what it is at a failure is told (sqlite::reason()); so below
     if (!statement)
         code = primary(sqlite3_prepare_v3(handle, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr));
     return statement;
 }
 
-bool PlainStatement::runWith(const PlainStatement &other)
+bool Statement::runWith(const Statement &other)
 {
     if (!prepare())
         return false;
@@ -69,19 +40,19 @@ bool PlainStatement::runWith(const PlainStatement &other)
     return code == 0;
 }
 
-void PlainStatement::finish()
+void Statement::finish()
 {
     sqlite3_reset(statement);
     code = SQLITE_OK;
     row = false;
 }
 
-void PlainStatement::bind(int place, qint64 value)
+void Statement::bind(int place, qint64 value)
 {
     sqlite3_bind_int64(statement, place, value);
 }
 
-void PlainStatement::bind(int place, std::optional<qint64> value)
+void Statement::bind(int place, std::optional<qint64> value)
 {
     if (value)
         bind(place, *value);
@@ -89,45 +60,45 @@ void PlainStatement::bind(int place, std::optional<qint64> value)
         sqlite3_bind_null(statement, place);
 }
 
-void PlainStatement::bind(int place, const char *text)
+void Statement::bind(int place, const char *text)
 {
     sqlite3_bind_text(statement, place, text, -1, SQLITE_STATIC);
 }
 
-void PlainStatement::bind(int place, const QString &text)
+void Statement::bind(int place, const QString &text)
 {
     const QByteArray utf8 = text.toUtf8();
     sqlite3_bind_text(statement, place, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
 }
 
-void PlainStatement::bind(int place, const QByteArray &bytes)
+void Statement::bind(int place, const QByteArray &bytes)
 {
     // The data of an empty array are not null, which would be a NULL.
     sqlite3_bind_blob(statement, place, bytes.constData(), static_cast<int>(bytes.size()), SQLITE_TRANSIENT);
 }
 
-bool PlainStatement::next()
+bool Statement::next()
 {
     if (!prepare() || code != SQLITE_OK)
         return false;
-    errno = 0; // what it is at a failure is told (sqlite::reason())
+    errno = 0;
     const int result = primary(sqlite3_step(statement));
     if (result != SQLITE_ROW && result != SQLITE_DONE)
         code = result;
     return result == SQLITE_ROW;
 }
 
-qint64 PlainStatement::number(int column) const
+qint64 Statement::number(int column) const
 {
     return sqlite3_column_int64(statement, column);
 }
 
-bool PlainStatement::isNull(int column) const
+bool Statement::isNull(int column) const
 {
     return sqlite3_column_type(statement, column) == SQLITE_NULL;
 }
 
-QByteArray PlainStatement::bytes(int column) const
+QByteArray Statement::bytes(int column) const
 {
     if (isNull(column))
         return {};
