@@ -1,7 +1,5 @@
 #include "simulated/SimulatedHandset.h"
 
-#include "calllog/CallFigures.h"
-#include "calllog/CheckBeside.h"
 #include "calllog/OpenLedger.h"
 #include "calllog/Saturating.h"
 #include "handset/DialedNumber.h"
@@ -47,71 +45,20 @@ Opened open(const Settings &settings)
     return {handset, {}, opened.notice};
 }
 
-/// What the handset is made of.
-class SimulatedHandset::Innards
-{
-public:
-    Innards(SimulatedHandset &handset, std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clocks);
-    ~Innards();
-
-    int begin(LineState begun, const PastCall &begunCall);
-    int connectCall(LineState from);
-    int endCall();
-    int checkpoint();
-    void figuresChanged();
-    void changedElsewhere();
-    /// Here, and to the other processes.
-    void tellChange();
-    bool owesRecord() const { return ledger->owesCall() || ledger->owesSession(); }
-
-    std::unique_ptr<Ledger> ledger;
-    calllog::CallFigures figures{*ledger};
-    Charging charges{*ledger};
-    SimAccess sim{*ledger};
-    PacketFigures packets{*ledger};
-    LineState state = LineState::Idle;
-    PastCall call;     ///< on the line
-    qint64 callId = 0; ///< once it is connected
-    std::function<void()> onChange;
-    std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
-
-private:
-    void tick();
-    void tellHere();
-    void tellWhatIsOwed();
-    void runTimer();
-    bool isTimeUp() const { return state == LineState::Connected && charges.isTimeUp(); }
-    bool isUnitDue() const;
-    bool isCheckpointDue() const;
-    int stopCall();
-    void setDataCallStatus(DataCalls::CallStatus status);
-
-    SimulatedHandset &owner;
-    std::shared_ptr<Clock> clock;
-    QTimer
-        *timer; ///< runs while a call is connected, a session runs, something is owed, or another process records
-    qint64 writtenAtMs = 0;      ///< or when that was tried last, or there was nothing to write
-    bool records = true;         ///< as of the last runTimer()
-    bool isWriteFailing = false; ///< the last checkpoint
-    bool toldOwing = false;      ///< with the last changed()
-};
-
-SimulatedHandset::Innards::Innards(SimulatedHandset &handset, std::unique_ptr<Ledger> opened,
-                                   std::shared_ptr<Clock> clocks)
+SimulatedHandset::SimulatedHandset(std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clocks)
     : ledger(std::move(opened))
-    , owner(handset)
     , clock(std::move(clocks))
-    , timer(new QTimer(&handset))
+    , timer(new QTimer(this))
 {
     ledger->record();
     ledger->setChangeListener([this] { figuresChanged(); });
     timer->setInterval(tickMs);
     timer->setTimerType(Qt::PreciseTimer);
-    QObject::connect(timer, &QTimer::timeout, &handset, [this] { tick(); });
+    connect(timer, &QTimer::timeout, this, [this] { tick(); });
     runTimer();
 }
 
-SimulatedHandset::Innards::~Innards()
+SimulatedHandset::~SimulatedHandset()
 {
     ledger->setChangeListener({});
     check.reset();
@@ -119,7 +66,7 @@ SimulatedHandset::Innards::~Innards()
         endCall();
 }
 
-int SimulatedHandset::Innards::begin(LineState begun, const PastCall &begunCall)
+int SimulatedHandset::begin(LineState begun, const PastCall &begunCall)
 {
     if (!ledger->record())
         return ledger->whyNotRecording();
@@ -139,7 +86,7 @@ int SimulatedHandset::Innards::begin(LineState begun, const PastCall &begunCall)
     return Success;
 }
 
-int SimulatedHandset::Innards::connectCall(LineState from)
+int SimulatedHandset::connectCall(LineState from)
 {
     if (state != from)
         return ledger->isRecorder() ? int{WrongState} : ledger->whyNotRecording();
@@ -152,7 +99,7 @@ int SimulatedHandset::Innards::connectCall(LineState from)
 }
 
 // The line is idle at once, whether the end can be written now or not.
-int SimulatedHandset::Innards::endCall()
+int SimulatedHandset::endCall()
 {
     const int status = state == LineState::Connected ? ledger->endCall(callId) : ledger->addUnconnected(call);
     setDataCallStatus(DataCalls::Released);
@@ -161,7 +108,7 @@ int SimulatedHandset::Innards::endCall()
     return status;
 }
 
-int SimulatedHandset::Innards::checkpoint()
+int SimulatedHandset::checkpoint()
 {
     writtenAtMs = clock->monotonicMs();
     const int ofSession = ledger->checkpointSession();
@@ -172,7 +119,7 @@ int SimulatedHandset::Innards::checkpoint()
     return status;
 }
 
-void SimulatedHandset::Innards::runTimer()
+void SimulatedHandset::runTimer()
 {
     if (records != ledger->isRecorder()) {
         records = !records;
@@ -186,13 +133,13 @@ void SimulatedHandset::Innards::runTimer()
     }
 }
 
-bool SimulatedHandset::Innards::isUnitDue() const
+bool SimulatedHandset::isUnitDue() const
 {
     return state == LineState::Connected && ledger->dueUnits() > 0;
 }
 
 // At the tick that is nearest: they come a second after the one before is done, or later.
-bool SimulatedHandset::Innards::isCheckpointDue() const
+bool SimulatedHandset::isCheckpointDue() const
 {
     const qint64 passed = calllog::elapsed(writtenAtMs, clock->monotonicMs());
     return passed + tickMs / 2 >= Ledger::checkpointIntervalMs;
@@ -200,7 +147,7 @@ bool SimulatedHandset::Innards::isCheckpointDue() const
 
 // Every unit is on the disk within a second of falling due, and the time, and what is owed, every few seconds: so is what
 // could not be written, as the attempt may hold up whoever uses the screens.
-void SimulatedHandset::Innards::tick()
+void SimulatedHandset::tick()
 {
     if (!records) {
         if (ledger->record())
@@ -213,7 +160,7 @@ void SimulatedHandset::Innards::tick()
     const bool isTimeToWrite = isCheckpointDue() || (unitIsDue && !isWriteFailing) || isTimeUp();
     if (isTimeToWrite && checkpoint() == Success && unitIsDue)
         tellHere();
-    packets.tick();
+    packetFigures.tick();
     tellWhatIsOwed();
     // A full second from now: a tick that came late would otherwise be followed by one that comes too early for the
     // update listener.
@@ -222,7 +169,7 @@ void SimulatedHandset::Innards::tick()
 }
 
 // A setting, too, can be what ends a call: a lower limit.
-void SimulatedHandset::Innards::figuresChanged()
+void SimulatedHandset::figuresChanged()
 {
     if (isTimeUp())
         stopCall();
@@ -230,8 +177,8 @@ void SimulatedHandset::Innards::figuresChanged()
         tellChange();
 }
 
-// The same, made by another process.
-void SimulatedHandset::Innards::changedElsewhere()
+// By another process: the same.
+void SimulatedHandset::changedElsewhere()
 {
     if (isTimeUp())
         stopCall();
@@ -239,29 +186,29 @@ void SimulatedHandset::Innards::changedElsewhere()
         tellHere();
 }
 
-void SimulatedHandset::Innards::tellChange()
+void SimulatedHandset::tellChange()
 {
     tellHere();
     if (onChange)
         onChange();
 }
 
-void SimulatedHandset::Innards::tellHere()
+void SimulatedHandset::tellHere()
 {
     runTimer();
     toldOwing = owesRecord();
-    emit owner.changed();
+    emit changed();
 }
 
 // To the others, too: when they were told of the end its row said that it runs.
-void SimulatedHandset::Innards::tellWhatIsOwed()
+void SimulatedHandset::tellWhatIsOwed()
 {
     if (owesRecord() != toldOwing)
         tellChange();
 }
 
 // The network ends the call by itself.
-int SimulatedHandset::Innards::stopCall()
+int SimulatedHandset::stopCall()
 {
     const int status = endCall();
     charges.callStopped();
@@ -270,63 +217,17 @@ int SimulatedHandset::Innards::stopCall()
 }
 
 // A voice call leaves the data-call status alone.
-void SimulatedHandset::Innards::setDataCallStatus(DataCalls::CallStatus status)
+void SimulatedHandset::setDataCallStatus(DataCalls::CallStatus status)
 {
     if (call.kind == CallKind::Data)
         figures.setCallStatus(status);
-}
-
-SimulatedHandset::SimulatedHandset(std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clock)
-    : innards(std::make_unique<Innards>(*this, std::move(opened), std::move(clock)))
-{}
-
-SimulatedHandset::~SimulatedHandset() = default;
-
-CallService *SimulatedHandset::callService()
-{
-    return &innards->figures;
-}
-
-CallLog *SimulatedHandset::callLog()
-{
-    return &innards->figures;
-}
-
-DataCalls *SimulatedHandset::dataCalls()
-{
-    return &innards->figures;
-}
-
-AdviceOfCharge *SimulatedHandset::adviceOfCharge()
-{
-    return &innards->sim;
-}
-
-PacketData *SimulatedHandset::packetData()
-{
-    return &innards->packets;
-}
-
-SimSecurity *SimulatedHandset::simSecurity()
-{
-    return &innards->sim;
-}
-
-void SimulatedHandset::setChangeListener(const std::function<void()> &listener)
-{
-    innards->onChange = listener;
-}
-
-void SimulatedHandset::changedElsewhere()
-{
-    innards->changedElsewhere();
 }
 
 int SimulatedHandset::dial(const QString &number, CallKind kind)
 {
     if (!isDialable(number) || !isKnown(kind))
         return InvalidArgument;
-    return innards->begin(LineState::Dialing, {kind, CallDirection::Dialed, number});
+    return begin(LineState::Dialing, {kind, CallDirection::Dialed, number});
 }
 
 int SimulatedHandset::ring(const QString &number)
@@ -335,25 +236,25 @@ int SimulatedHandset::ring(const QString &number)
         return InvalidArgument;
     // A null number is an idle line's.
     const QString shown = number.isNull() ? QStringLiteral("") : number;
-    return innards->begin(LineState::Ringing, {CallKind::Voice, CallDirection::Answered, shown});
+    return begin(LineState::Ringing, {CallKind::Voice, CallDirection::Answered, shown});
 }
 
 int SimulatedHandset::remoteAnswer()
 {
-    return innards->connectCall(LineState::Dialing);
+    return connectCall(LineState::Dialing);
 }
 
 int SimulatedHandset::answer()
 {
-    return innards->connectCall(LineState::Ringing);
+    return connectCall(LineState::Ringing);
 }
 
 int SimulatedHandset::hangUp()
 {
-    if (innards->state == LineState::Idle)
-        return isRecording() ? int{WrongState} : innards->ledger->whyNotRecording();
-    innards->endCall();
-    innards->tellChange();
+    if (state == LineState::Idle)
+        return isRecording() ? int{WrongState} : ledger->whyNotRecording();
+    endCall();
+    tellChange();
     return Success;
 }
 
@@ -361,74 +262,44 @@ int SimulatedHandset::addHistory(const QList<PastCall> &calls)
 {
     if (!std::all_of(calls.begin(), calls.end(), isPlausible))
         return InvalidArgument;
-    const int status = innards->ledger->addHistory(calls);
+    const int status = ledger->addHistory(calls);
     if (status == Success)
-        innards->figuresChanged();
+        figuresChanged();
     return status;
-}
-
-int SimulatedHandset::checkpoint()
-{
-    return innards->checkpoint();
-}
-
-bool SimulatedHandset::owesRecord() const
-{
-    return innards->owesRecord();
-}
-
-bool SimulatedHandset::isRecording() const
-{
-    return innards->ledger->isRecorder();
 }
 
 LineState SimulatedHandset::lineState() const
 {
     if (isRecording())
-        return innards->state;
-    return innards->ledger->standing().call() ? LineState::Connected : LineState::Idle;
+        return state;
+    return ledger->standing().call() ? LineState::Connected : LineState::Idle;
 }
 
 CallKind SimulatedHandset::callKind() const
 {
     if (isRecording())
-        return innards->call.kind;
-    const auto call = innards->ledger->standing().call();
-    return call ? call->kind : CallKind::Voice;
+        return call.kind;
+    const auto running = ledger->standing().call();
+    return running ? running->kind : CallKind::Voice;
 }
 
 QString SimulatedHandset::number() const
 {
     if (isRecording())
-        return innards->call.number;
-    const auto call = innards->ledger->standing().call();
-    return call ? call->number : QString();
+        return call.number;
+    const auto running = ledger->standing().call();
+    return running ? running->number : QString();
 }
 
 qint64 SimulatedHandset::connectedMs() const
 {
-    const auto call = innards->ledger->standing().call();
-    return call ? call->ms : 0;
-}
-
-Charging &SimulatedHandset::charging()
-{
-    return innards->charges;
-}
-
-SimAccess &SimulatedHandset::simCard()
-{
-    return innards->sim;
-}
-
-PacketFigures &SimulatedHandset::packets()
-{
-    return innards->packets;
+    const auto running = ledger->standing().call();
+    return running ? running->ms : 0;
 }
 
 void SimulatedHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
 {
-    innards->check = std::make_unique<calllog::CheckBeside>(innards->ledger->connection(), file, tell);
+    check = std::make_unique<calllog::CheckBeside>(ledger->connection(), file, tell);
 }
 
 } // namespace handset::simulated

@@ -1,7 +1,9 @@
 // The simulated handset: the embedded default behind the phone's libraries.
 #pragma once
 
+#include "calllog/CallFigures.h"
 #include "calllog/Charging.h"
+#include "calllog/CheckBeside.h"
 #include "calllog/PacketFigures.h"
 #include "handset/Call.h"
 #include "handset/Handset.h"
@@ -14,9 +16,7 @@
 #include <functional>
 #include <memory>
 
-namespace handset {
-class Clock;
-}
+class QTimer;
 
 namespace handset::simulated {
 
@@ -54,13 +54,13 @@ public:
 
     static constexpr auto emergencyNumbers = charging::emergencyNumbers;
 
-    CallService *callService() override;
-    CallLog *callLog() override;
-    DataCalls *dataCalls() override;
-    AdviceOfCharge *adviceOfCharge() override;
-    PacketData *packetData() override;
-    SimSecurity *simSecurity() override;
-    void setChangeListener(const std::function<void()> &listener) override;
+    CallService *callService() override { return &figures; }
+    CallLog *callLog() override { return &figures; }
+    DataCalls *dataCalls() override { return &figures; }
+    AdviceOfCharge *adviceOfCharge() override { return &sim; }
+    PacketData *packetData() override { return &packetFigures; }
+    SimSecurity *simSecurity() override { return &sim; }
+    void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
 
     /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument, and so for what
@@ -88,11 +88,11 @@ public:
     /// Whether the end of a call or a packet-data session could not be written to the call log yet. It is kept in
     /// memory, counts in every figure, and is written with the next operation that writes. Until then those that write
     /// answer StorageFailed: a call can be dialed and can ring, but is not connected, and no session begins.
-    bool owesRecord() const override;
+    bool owesRecord() const override { return ledger->owesCall() || ledger->owesSession(); }
     /// Whether calls and sessions begin and end in this process. Where another one records the line is connected while
     /// a call of that one is, else idle. Takes nothing over when that one ends: a timer does, within a second, and so do
     /// dial(), ring() and PacketFigures::startSession().
-    bool isRecording() const;
+    bool isRecording() const { return ledger->isRecorder(); }
 
     LineState lineState() const;
     CallKind callKind() const;  ///< of the call on the line; Voice when idle
@@ -100,9 +100,9 @@ public:
     qint64 connectedMs() const; ///< how long the call on the line is connected, by the clock; else 0
 
     /// The network's tariffs and the account; the SIM card; packet data. They belong to the handset.
-    Charging &charging();
-    SimAccess &simCard();
-    calllog::PacketFigures &packets();
+    Charging &charging() { return charges; }
+    SimAccess &simCard() { return sim; }
+    calllog::PacketFigures &packets() { return packetFigures; }
 
     /// Reads the call log at `file` through while it is in use. As calllog::CheckBeside.
     void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
@@ -112,9 +112,38 @@ signals:
     void changed();
 
 private:
-    class Innards;
+    int begin(LineState begun, const PastCall &begunCall);
+    int connectCall(LineState from);
+    int endCall();
+    int stopCall();
+    void setDataCallStatus(DataCalls::CallStatus status);
+    void figuresChanged();
+    void tellChange();
+    void tellHere();
+    void tellWhatIsOwed();
+    void tick();
+    void runTimer();
+    bool isTimeUp() const { return state == LineState::Connected && charges.isTimeUp(); }
+    bool isUnitDue() const;
+    bool isCheckpointDue() const;
 
-    std::unique_ptr<Innards> innards;
+    std::unique_ptr<calllog::Ledger> ledger;
+    calllog::CallFigures figures{*ledger};
+    Charging charges{*ledger};
+    SimAccess sim{*ledger};
+    calllog::PacketFigures packetFigures{*ledger};
+    std::shared_ptr<Clock> clock;
+    LineState state = LineState::Idle;
+    PastCall call;     ///< on the line
+    qint64 callId = 0; ///< once it is connected
+    /// Runs while a call is connected, a session runs, something is owed, or another process records.
+    QTimer *timer;
+    qint64 writtenAtMs = 0;      ///< or when that was tried last, or there was nothing to write
+    bool records = true;         ///< as of the last runTimer()
+    bool isWriteFailing = false; ///< the last checkpoint
+    bool toldOwing = false;      ///< with the last changed()
+    std::function<void()> onChange;
+    std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
 
 } // namespace handset::simulated
