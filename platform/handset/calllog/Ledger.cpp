@@ -4,9 +4,13 @@
 #include "calllog/Saturating.h"
 #include "handset/Status.h"
 
+#include <QtCore/QMetaObject>
+
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace handset::calllog {
@@ -272,13 +276,17 @@ void Ledger::refresh(QList<Own<Row>> &own, const QList<Row> &written)
 
 int Ledger::whyNotRecording() const
 {
-    return directory && directory->isRecording() ? StorageFailed : RecordedElsewhere;
+    return isRecordedElsewhere ? RecordedElsewhere : StorageFailed;
 }
 
 bool Ledger::record()
 {
-    if (recording || (directory && !directory->record()))
-        return recording;
+    if (recording)
+        return true;
+    const int error = directory ? directory->record() : 0;
+    isRecordedElsewhere = error == EWOULDBLOCK;
+    if (error != 0)
+        return database->fail(inFile(directory->filePath({}), blocked(error).reason));
     recording = database->inTransaction([&] {
         Standing standing;
         if (!tables.closeInterrupted() || !tables.read(standing))

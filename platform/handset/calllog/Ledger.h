@@ -48,7 +48,7 @@ public:
     /// written of it, and the card has been off. That may wait a second for a busy log: for timers and beginnings.
     bool record();
     /// Status for an operation that only the recorder may do, in a process that is not it: RecordedElsewhere, or
-    /// StorageFailed where it has taken that over and cannot write what another has left.
+    /// StorageFailed where nobody else is known to, and it cannot lock the directory or write what another has left.
     int whyNotRecording() const;
     /// Whether it does already; takes nothing over.
     bool isRecorder() const { return recording; }
@@ -199,7 +199,10 @@ private:
     std::unique_ptr<Database> database;
     LedgerTables tables;
     std::unique_ptr<Clock> clock;
+    QObject here; ///< what comes from the event loop finds nobody when this is gone
+    bool isNoticeTold = false;
     bool recording = false;
+    bool isRecordedElsewhere = false; ///< when that was tried last
     QList<Own<RunningCall>> ownCalls;
     QList<Own<SessionRow>> ownSessions;
     QList<PastCall> unconnected; ///< that are not written yet

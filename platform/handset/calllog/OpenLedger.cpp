@@ -8,6 +8,8 @@
 
 #include <QtCore/QStringList>
 
+#include <cerrno>
+
 namespace handset::calllog {
 
 namespace {
@@ -110,19 +112,17 @@ Attempt openInDirectory(const Opening &opening)
     Attempt attempt;
     bool isAlone = false;
     QString others;
-    if (hasRemains(directory)) {
-        others = directory.takeAlone(0, opening.waiting);
-        isAlone = others.isEmpty();
-    }
+    if (hasRemains(directory))
+        isAlone = directory.takeAlone(0, opening.waiting, others) == 0;
     while (!isAlone) {
         if (!directory.isHeld())
             return blockedByOthers(attempt.finding, others);
         attempt = openFile(opening, Hold::Shared);
         if (!isToBeReplaced(attempt))
             return attempt;
-        others = directory.takeAlone(betweenLooksMs, opening.waiting);
-        isAlone = others.isEmpty();
-        if (!isAlone && opening.waiting.isOver())
+        const int error = directory.takeAlone(betweenLooksMs, opening.waiting, others);
+        isAlone = error == 0;
+        if (!isAlone && (error != EWOULDBLOCK || opening.waiting.isOver()))
             return blockedByOthers(attempt.finding, others);
     }
     opening.waiting.arrive();
@@ -198,7 +198,7 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     auto ledger = std::make_unique<Ledger>(std::move(attempt.database), std::move(directory), clock);
     QStringList notices{place.notice(), untold};
     QString problem = load(*ledger, notices);
-    if (problem.isEmpty() && !ledger->record() && place.isRecording())
+    if (problem.isEmpty() && !ledger->record() && ledger->whyNotRecording() == StorageFailed)
         problem = explain(failure(ledger->connection()));
     waiting.goOn();
     if (!problem.isEmpty())

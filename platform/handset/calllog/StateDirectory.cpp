@@ -380,14 +380,21 @@ int StateDirectory::lockWithin(int mode, Waiting &waiting, int milliseconds)
     return error;
 }
 
-QString StateDirectory::takeAlone(int milliseconds, Waiting &waiting)
+int StateDirectory::takeAlone(int milliseconds, Waiting &waiting, QString &problem)
 {
-    const int error = lockWithin(LOCK_EX, waiting, milliseconds);
-    if (error == 0 && record())
-        return {};
-    QString others = whoHolds(error == 0 ? EWOULDBLOCK : error);
+    constexpr int betweenMs = 20;
+    int error = lockWithin(LOCK_EX, waiting, milliseconds);
+    const bool isLocked = error == 0;
+    if (isLocked)
+        error = record();
+    if (error == 0)
+        return 0;
+    problem = isLocked && error != EWOULDBLOCK ? inFile(path, reason(error)) : whoHolds(error);
     share(waiting);
-    return others;
+    // Who has the recorder's lock alone is not waited for by the other lock.
+    if (isLocked && error == EWOULDBLOCK)
+        waiting.pause(betweenMs, [this] { return holders(); });
+    return error;
 }
 
 bool StateDirectory::share(Waiting &waiting)
@@ -395,16 +402,17 @@ bool StateDirectory::share(Waiting &waiting)
     return lockWithin(LOCK_SH, waiting) == 0;
 }
 
-bool StateDirectory::record()
+int StateDirectory::record()
 {
     if (isRecording())
-        return true;
-    if (lockNow(recorderLock, LOCK_EX) != 0)
-        return false;
+        return 0;
+    if (const int error = lockNow(recorderLock, LOCK_EX))
+        return error;
     directoryLock = lockDirectory(path);
-    if (directoryLock < 0)
-        ::flock(recorderLock, LOCK_UN);
-    return isRecording();
+    if (isRecording())
+        return 0;
+    ::flock(recorderLock, LOCK_UN);
+    return -directoryLock;
 }
 
 // Part of a sentence, for a lock that cannot be had.

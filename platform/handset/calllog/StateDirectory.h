@@ -25,15 +25,16 @@ public:
     /// sentence.
     static std::unique_ptr<StateDirectory> open(const QString &path, Waiting &waiting, QString &error);
     /// Takes the directory alone, also against who records: waits so long for the others, and no longer than `waiting`
-    /// does. It is shared then as before, where that is possible. Returns why it is not had alone, part of a sentence;
-    /// an empty text when it is.
-    QString takeAlone(int milliseconds, Waiting &waiting);
+    /// does. It is shared then as before, where that is possible. Returns 0; EWOULDBLOCK where others are in the way, or
+    /// another errno, which waiting does not change; `problem` is why, part of a sentence.
+    int takeAlone(int milliseconds, Waiting &waiting, QString &problem);
     /// Shares it again; false where somebody has taken it alone. This goes on to record when nobody else does.
     bool share(Waiting &waiting);
     /// Whether this has a part in the directory, or all of it.
     bool isHeld() const { return held; }
-    /// Whether this records: takes the lock when nobody has it.
-    bool record();
+    /// Takes the lock of who records when nobody has it. Returns 0 when this records; EWOULDBLOCK where another process
+    /// does, or another errno.
+    int record();
     bool isRecording() const { return directoryLock >= 0; }
 
     /// Other processes: who has locked the directory, and who has locked a database in it for writing. The names are

@@ -12,6 +12,7 @@
 
 #include <memory>
 
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,6 +68,7 @@ private slots:
     void aFileOfAnotherUserIsNamedAndStaysAsItIs();
     void aLockThatIsSomethingElseIsAnError_data();
     void aLockThatIsSomethingElseIsAnError();
+    void aRecordersLockThatIsHeldAloneIsNotWaitedForForEver();
     void aLinkToADirectoryIsFollowed();
     void aSecondProcessMovesNothingAside();
     void aSecondHandsetOfThisProcessIsRefusedToo();
@@ -403,6 +405,24 @@ void TestStateDirectory::aLockThatIsSomethingElseIsAnError()
                  .arg(state.path(), state.file(name),
                       QString::fromLocal8Bit(std::strerror(kind == S_IFDIR ? EISDIR : ELOOP))));
     QVERIFY(!QFile::exists(state.file(QStringLiteral("elsewhere"))));
+}
+
+// By who holds no other lock of the directory, as the log has to be made.
+void TestStateDirectory::aRecordersLockThatIsHeldAloneIsNotWaitedForForEver()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QFile lock(state.file(QStringLiteral("recorder")));
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    QCOMPARE(::flock(lock.handle(), LOCK_EX), 0);
+    {
+        const Phone phone(state.path(), nullptr, {}, hardlyAny);
+        QVERIFY(!phone);
+        QVERIFY2(phone.opened.error.contains(QStringLiteral("another process has it open")),
+                 qPrintable(phone.opened.error));
+    }
+    lock.close();
+    QVERIFY(Phone(state.path()).dialed(second));
 }
 
 void TestStateDirectory::aLinkToADirectoryIsFollowed()
