@@ -284,6 +284,14 @@ bool hasOtherName(const QString &path)
     return ::lstat(encoded(path).constData(), &status) == 0 && status.st_nlink > 1;
 }
 
+bool isSameFile(const QString &path, const QString &other)
+{
+    struct stat one = {};
+    struct stat two = {};
+    return ::lstat(encoded(path).constData(), &one) == 0 && ::lstat(encoded(other).constData(), &two) == 0 &&
+           one.st_dev == two.st_dev && one.st_ino == two.st_ino;
+}
+
 // A file that yields less than it has is an error: the copy of a log must have all of it.
 int copyFile(const QString &from, const QString &to, Progress &progress)
 {
@@ -551,6 +559,7 @@ int StateDirectory::find(const QString &name) const
     return ::lstat(encoded(filePath(name)).constData(), &status) == 0 ? 0 : errno;
 }
 
+// A recording that was given its other name already, when the putting aside was interrupted, has that name to go on with.
 QString StateDirectory::unusedName(const QString &name) const
 {
     constexpr int most = 100'000;
@@ -559,7 +568,8 @@ QString StateDirectory::unusedName(const QString &name) const
         QString candidate =
             QStringLiteral("%1-kept-%2.%3").arg(file.completeBaseName()).arg(number).arg(file.suffix());
         const auto isUnused = [&](const char *suffix) {
-            return find(candidate + QLatin1String(suffix)) == ENOENT;
+            return find(candidate + QLatin1String(suffix)) == ENOENT ||
+                   isSameFile(filePath(name + QLatin1String(suffix)), filePath(candidate + QLatin1String(suffix)));
         };
         if (isUnused("") && std::all_of(recordings.begin(), recordings.end(), isUnused))
             return candidate;
@@ -584,7 +594,8 @@ int StateDirectory::addNamesOfRecordings(const QString &name, const QString &kep
     for (const char *recording : recordings) {
         const QLatin1String suffix(recording);
         // One that was left alone has its other name already when this was interrupted.
-        if (!hasContent(name + suffix) || (isAlone && hasOtherName(filePath(name + suffix))))
+        if (!hasContent(name + suffix) || (isAlone && hasOtherName(filePath(name + suffix))) ||
+            isSameFile(filePath(name + suffix), filePath(kept + suffix)))
             continue;
         if (const int error = addName(name + suffix, kept + suffix))
             return error;
