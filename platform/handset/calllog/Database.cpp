@@ -150,6 +150,30 @@ bool Database::isInPlace()
     return hasMoved == 0 || fail(QStringLiteral("its file has been removed or renamed"));
 }
 
+void Database::takeBack()
+{
+    const sqlite::Failure reason = error;
+    run(QStringLiteral("ROLLBACK"));
+    if (reason.extendedCode == SQLITE_IOERR_FSYNC)
+        hideFailedCommit();
+    error = reason;
+}
+
+// What a commit wrote and could not sync is behind the end of the write-ahead log, whole. SQLite forgets it, but the next
+// one who opens the log after this process has ended would take it for done. One page written in its place breaks its
+// chain; that is not synced, as it is to hold as long as what it hides.
+void Database::hideFailedCommit()
+{
+    const std::optional<qint64> version = number(QStringLiteral("PRAGMA user_version"));
+    if (!version || !run(QStringLiteral("PRAGMA synchronous = OFF")))
+        return;
+    const std::optional<qint64> pages = number(QStringLiteral("PRAGMA wal_autocheckpoint"));
+    run(QStringLiteral("PRAGMA wal_autocheckpoint = 0"));
+    run(QStringLiteral("PRAGMA user_version = %1").arg(*version));
+    run(QStringLiteral("PRAGMA wal_autocheckpoint = %1").arg(pages.value_or(1000)));
+    run(QStringLiteral("PRAGMA synchronous = FULL"));
+}
+
 int Database::changedRows() const
 {
     return sqlite3_changes(sqlite);

@@ -134,9 +134,7 @@ public:
             return false;
         if (isInPlace() && work() && run(commitSql))
             return true;
-        const sqlite::Failure reason = error;
-        run(QStringLiteral("ROLLBACK"));
-        error = reason;
+        takeBack();
         return false;
     }
 
@@ -144,6 +142,8 @@ private:
     static int waitInSqlite(void *self, int tries);
     bool isInPlace();
     bool comesToRow(Statement &once);
+    void takeBack();
+    void hideFailedCommit();
 
     static constexpr auto beginSql = "BEGIN IMMEDIATE";
     static constexpr auto commitSql = "COMMIT";
