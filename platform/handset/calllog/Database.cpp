@@ -55,6 +55,12 @@ Database::Database(const QString &file, Access access)
         fail();
         return;
     }
+    // What cannot be opened for writing SQLite opens for reading, and says nothing; what follows fails without a reason.
+    open = access == Access::ReadOnly || sqlite3_db_readonly(sqlite, "main") == 0;
+    if (!open) {
+        fail(QStringLiteral("it cannot be opened for writing (%1)").arg(QString::fromLocal8Bit(std::strerror(errno))));
+        return;
+    }
     sqlite3_busy_handler(sqlite, &waitInSqlite, this);
     sqlite3_db_config(sqlite, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
 }
