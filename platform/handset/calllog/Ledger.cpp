@@ -115,6 +115,7 @@ Ledger::Ledger(std::unique_ptr<Database> opened, std::unique_ptr<StateDirectory>
 
 Ledger::~Ledger()
 {
+    forgetNotice();
     callEnd = sessionEnd = {}; // what cannot be written now is lost, and that is told
     const auto endAll = [this](auto &own) {
         for (auto &one : own)
@@ -299,9 +300,18 @@ bool Ledger::record()
     return recording;
 }
 
+// A process that is killed before anybody could read it has told nobody.
 void Ledger::noticeIsTold()
 {
-    database->inTransaction([&] { return tables.put(QString::fromLatin1(keptNotice), QByteArray()); });
+    isNoticeTold = true;
+    QMetaObject::invokeMethod(
+        &here, [this] { forgetNotice(); }, Qt::QueuedConnection);
+}
+
+void Ledger::forgetNotice()
+{
+    if (std::exchange(isNoticeTold, false))
+        database->inTransaction([&] { return tables.put(QString::fromLatin1(keptNotice), QByteArray()); });
 }
 
 // --- transactions

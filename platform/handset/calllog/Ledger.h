@@ -5,6 +5,7 @@
 #include "calllog/StateDirectory.h"
 #include "handset/Clock.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QStringList>
 
 #include <algorithm>
@@ -142,13 +143,15 @@ public:
 
     /// For who looks at the file beside.
     Database &connection() { return *database; }
-    /// What the call log had to tell of its opening; else the next start tells it again.
+    /// What the call log had to tell of its opening, when the event loop runs or this ends; else the next start tells it
+    /// again.
     void noticeIsTold();
 
     /// Called when something has been changed by edit(), a reset, or the beginning or end of a session.
     void setChangeListener(std::function<void()> listener) { onChange = std::move(listener); }
 
 private:
+    void forgetNotice();
     struct Entry;
 
     /// A row that this process has begun, as written last. Used only where somebody has deleted the row.
