@@ -4,6 +4,7 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
@@ -69,6 +70,12 @@ bool isUnder(int fd)
     return isUnder(path);
 }
 
+[[noreturn]] void die()
+{
+    ::kill(::getpid(), SIGKILL);
+    std::abort();
+}
+
 /// Whether this call is to fail; errno is set then. One that is to do half of its work does not fail.
 template <typename File>
 bool fails(Call call, File file, bool *half = nullptr)
@@ -82,10 +89,21 @@ bool fails(Call call, File file, bool *half = nullptr)
     if (call != plan.call || (plan.always ? count < plan.nth : count != plan.nth))
         return false;
     ++plan.failed;
+    if (plan.error == kavFaultsKill)
+        die();
     if (half)
-        *half = plan.error == 0;
-    errno = plan.error;
-    return plan.error != 0;
+        *half = plan.error == kavFaultsHalf || plan.error == kavFaultsKillHalfway;
+    errno = std::max(plan.error, 0);
+    return plan.error > 0;
+}
+
+/// After the half that was to be done.
+template <typename Result>
+Result dyingHalfway(bool half, Result result)
+{
+    if (half && plan.error == kavFaultsKillHalfway)
+        die();
+    return result;
 }
 
 const char *nameIn(const char *path)
@@ -252,6 +270,26 @@ int open(const char *path, int flags, ...)
     return open64(path, flags, mode);
 }
 
+// A name that is relative to a directory is none of ours: nobody gives one.
+int openat64(int directory, const char *path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    static const auto original = next(&openat64, "openat64");
+    return fails(Open, path) ? -1 : original(directory, path, flags, mode);
+}
+
+int openat(int directory, const char *path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(arguments, mode_t) : 0;
+    va_end(arguments);
+    return openat64(directory, path, flags, mode);
+}
+
 ssize_t read(int fd, void *bytes, std::size_t count)
 {
     static const auto original = next(&read, "read");
@@ -273,7 +311,7 @@ ssize_t write(int fd, const void *bytes, std::size_t count)
     if (fails(Write, fd, &half) ||
         (count > 0 && permitted(fd, count, ::lseek64(fd, 0, SEEK_CUR) + static_cast<off64_t>(count)) == 0))
         return -1;
-    return notedOn(fd, original(fd, bytes, halfOf(half, count)), "write");
+    return notedOn(fd, dyingHalfway(half, original(fd, bytes, halfOf(half, count))), "write");
 }
 
 ssize_t pwrite64(int fd, const void *bytes, std::size_t count, off64_t at)
@@ -282,7 +320,17 @@ ssize_t pwrite64(int fd, const void *bytes, std::size_t count, off64_t at)
     bool half = false;
     if (fails(Pwrite, fd, &half) || (count > 0 && permitted(fd, count, at + static_cast<off64_t>(count)) == 0))
         return -1;
-    return notedOn(fd, original(fd, bytes, halfOf(half, count), at), "write");
+    return notedOn(fd, dyingHalfway(half, original(fd, bytes, halfOf(half, count), at)), "write");
+}
+
+ssize_t pread(int fd, void *bytes, std::size_t count, off_t at)
+{
+    return pread64(fd, bytes, count, at);
+}
+
+ssize_t pwrite(int fd, const void *bytes, std::size_t count, off_t at)
+{
+    return pwrite64(fd, bytes, count, at);
 }
 
 int fsync(int fd)
@@ -344,6 +392,11 @@ void *mmap64(void *address, std::size_t length, int protection, int flags, int f
 {
     static const auto original = next(&mmap64, "mmap64");
     return fails(Mmap, fd) ? MAP_FAILED : original(address, length, protection, flags, fd, at);
+}
+
+void *mmap(void *address, std::size_t length, int protection, int flags, int fd, off_t at) noexcept
+{
+    return mmap64(address, length, protection, flags, fd, at);
 }
 
 int statvfs64(const char *path, struct statvfs64 *status) noexcept

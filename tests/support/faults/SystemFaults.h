@@ -3,12 +3,16 @@
 //   KAV_FAULTS_UNDER  the directory (absolute)
 //   KAV_FAULTS_CALL   one of kavFaultsCalls
 //   KAV_FAULTS_NTH    the first call to fail, counted from 1
-//   KAV_FAULTS_ERRNO  a number; 0 makes reads and writes do only half
+//   KAV_FAULTS_ERRNO  a number; 0 makes reads and writes do only half; -1 kills the process there, -2 when half of the
+//                     write is done
 //   KAV_FAULTS_FROM   set: every later call fails as well
 //   KAV_FAULTS_SPACE  bytes that may be written; from then on the disk is full, and says so when asked
 #pragma once
 
 extern "C" {
+
+/// In the place of an errno.
+enum { kavFaultsHalf = 0, kavFaultsKill = -1, kavFaultsKillHalfway = -2 };
 
 /// "open", "read", ... in no special order, up to a null pointer. A name stands for all variants of the call.
 extern const char *const kavFaultsCalls[];
