@@ -54,8 +54,9 @@ Finding judgeCheck(const QString &line)
 {
     if (line == QLatin1String("ok"))
         return {};
-    // The check goes on when a page cannot be read, and says so among what is wrong.
-    static const QRegularExpression pageError(QStringLiteral("unable to get the page\\. error code=(\\d+)"));
+    // The check goes on when a page cannot be read, and says so among what is wrong; of a free page without the reason.
+    static const QRegularExpression pageError(
+        QStringLiteral("unable to get the page\\. error code=(\\d+)|failed to get page \\d+"));
     const QRegularExpressionMatch match = pageError.match(line);
     const int code = match.captured(1).toInt() & 0xff;
     if (match.hasMatch() && code != sqlite::Corrupt && code != sqlite::NotADatabase)
