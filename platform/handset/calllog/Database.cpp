@@ -58,7 +58,8 @@ Database::Database(const QString &file, Access access)
     // What cannot be opened for writing SQLite opens for reading, and says nothing; what follows fails without a reason.
     open = access == Access::ReadOnly || sqlite3_db_readonly(sqlite, "main") == 0;
     if (!open) {
-        fail(QStringLiteral("it cannot be opened for writing (%1)").arg(QString::fromLocal8Bit(std::strerror(errno))));
+        fail(QStringLiteral("it cannot be opened for writing (%1)")
+                 .arg(QString::fromLocal8Bit(std::strerror(errno))));
         return;
     }
     sqlite3_busy_handler(sqlite, &waitInSqlite, this);

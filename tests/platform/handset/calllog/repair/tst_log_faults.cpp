@@ -2,7 +2,6 @@
 // put aside is whole, the error or the notice says what happened, and the next start finds everything right. (The fault
 // matrix in ../faults fails every call.)
 #include "calllog/LogCheck.h"
-#include "calllog/PlainSqlite.h"
 #include "handset/HandsetTestKit.h"
 #include "handset/Status.h"
 #include "support/TestGroup.h"
@@ -453,7 +452,7 @@ void TestLogFaults::aPageThatCannotBeReadIsNoDamage()
     for (long nth = 1; hasFailed; ++nth) {
         kavFaultsArm(qPrintable(state.path()), "pread", nth, EIO, false);
         {
-            const calllog::PlainConnection connection(state.database());
+            const calllog::Database connection(state.database(), calllog::Database::Access::ReadOnly);
             const calllog::Finding finding = calllog::checkPages(connection.handle());
             QVERIFY2(finding.verdict != calllog::Verdict::Damaged, qPrintable(finding.reason));
         }
