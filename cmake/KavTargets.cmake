@@ -3,7 +3,7 @@
 add_library(kav_options INTERFACE)
 target_compile_features(kav_options INTERFACE cxx_std_20)
 target_compile_options(kav_options INTERFACE
-    -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor -Werror -Werror=switch)
+    -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor $<$<BOOL:${KAV_WERROR}>:-Werror> -Werror=switch)
 target_compile_definitions(kav_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
 # Calls into the platform libraries must stay replaceable at load time: no symbolic binding, no inlining across
 # an exported entry point.
