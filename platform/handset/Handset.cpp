@@ -11,7 +11,9 @@
 #include "simulated/SimulatedBackend.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QStandardPaths>
 
@@ -41,24 +43,68 @@ constexpr std::array backends{
     Backend{"modemmanager", nullptr, "libkavhandset-modemmanager.so"},
     Backend{"ofono", nullptr, "libkavhandset-ofono.so"},
 };
+constexpr QLatin1StringView libraryStart("libkavhandset-");
+constexpr QLatin1StringView libraryEnd(".so");
+
+const Backend *findBackend(const QString &name)
+{
+    const auto *const found = std::find_if(backends.begin(), backends.end(), [&](const Backend &backend) {
+        return name == QLatin1String(backend.name);
+    });
+    return found == backends.end() ? nullptr : found;
+}
+
+// Where backends are installed, ours and those of others: beside the library that this is.
+QString backendDirectory()
+{
+    Dl_info library{};
+    if (!::dladdr(&backends, &library))
+        return {};
+    return QFileInfo(QFile::decodeName(library.dli_fname)).absolutePath() +
+           QStringLiteral("/kavcallmeter/backends");
+}
+
+// Those that are installed beside ours, by their names.
+QStringList addedBackends()
+{
+    QStringList names;
+    const QStringList files = QDir(backendDirectory()).entryList({libraryStart + u'*' + libraryEnd}, QDir::Files);
+    for (const QString &file : files) {
+        const QString name = file.chopped(libraryEnd.size()).sliced(libraryStart.size());
+        if (!findBackend(name))
+            names << name;
+    }
+    return names;
+}
+
+// Null for one that is built in.
+QString libraryOf(const QString &name)
+{
+    const Backend *const backend = findBackend(name);
+    return backend ? QString::fromLatin1(backend->library) : libraryStart + name + libraryEnd;
+}
 
 Opened cannotBeUsed(const QString &library, const QString &reason)
 {
     return {nullptr, QStringLiteral("The telephone \"%1\" cannot be used: %2.").arg(library, reason), {}};
 }
 
-// `library` is looked for beside this library where it is no path. It stays loaded, as what it has opened may outlive
-// every moment at which it could be unloaded.
+// `library` is looked for where backends are installed, then beside this library, unless it is a path. It stays loaded, as
+// what it has opened may outlive every moment at which it could be unloaded.
 void *load(const QString &library)
 {
-    return ::dlopen(QFile::encodeName(library).constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
+    const QString installed = backendDirectory() + QLatin1Char('/') + library;
+    const bool isInstalled = !library.contains(QLatin1Char('/')) && QFile::exists(installed);
+    const QByteArray file = QFile::encodeName(isInstalled ? installed : library);
+    return ::dlopen(file.constData(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
 }
 
 // What the library of a backend has under that name; null where there is none.
 template <typename Function>
-Function exported(const Backend &backend, const char *name)
+Function exported(const QString &backend, const char *name)
 {
-    void *const handle = backend.library ? load(QString::fromLatin1(backend.library)) : nullptr;
+    const QString library = libraryOf(backend);
+    void *const handle = library.isEmpty() ? nullptr : load(library);
     return handle ? reinterpret_cast<Function>(::dlsym(handle, name)) : nullptr;
 }
 
@@ -153,15 +199,16 @@ QStringList backendNames()
     QStringList names;
     for (const Backend &backend : backends)
         names << QString::fromLatin1(backend.name);
-    return names;
+    return names + addedBackends();
 }
 
 QString presentBackend(const Patience &patience)
 {
-    for (const Backend &backend : backends) {
-        const auto isPresent = exported<IsPresent>(backend, "kavHandsetIsPresent");
+    const QStringList names = backendNames();
+    for (const QString &name : names) {
+        const auto isPresent = exported<IsPresent>(name, "kavHandsetIsPresent");
         if (isPresent && isPresent(patience.operation))
-            return QString::fromLatin1(backend.name);
+            return name;
     }
     return QString::fromLatin1(backends.front().name);
 }
@@ -170,12 +217,13 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here)
 {
     const auto watches = std::make_shared<std::vector<std::shared_ptr<void>>>();
     QString error = QStringLiteral("There is no telephone that has a modem.");
-    for (const Backend &backend : backends) {
-        const auto await = exported<Await>(backend, "kavHandsetAwait");
+    const QStringList names = backendNames();
+    for (const QString &name : names) {
+        const auto await = exported<Await>(name, "kavHandsetAwait");
         if (!await)
             continue;
         Awaited awaited;
-        await([here, name = QString::fromLatin1(backend.name)] { here(name); }, awaited);
+        await([here, name] { here(name); }, awaited);
         if (awaited.watch)
             watches->push_back(std::move(awaited.watch));
         else
@@ -191,10 +239,8 @@ Opened open(const Settings &settings)
         found.backend = presentBackend(settings.patience);
         return open(found);
     }
-    const auto named = [&](const Backend &backend) { return settings.backend == QLatin1String(backend.name); };
-    const auto *const backend = std::find_if(backends.begin(), backends.end(), named);
     const bool isPath = settings.backend.contains(QLatin1Char('/'));
-    if (backend == backends.end() && !isPath) {
+    if (!isPath && !backendNames().contains(settings.backend)) {
         const QString error = QStringLiteral("There is no telephone named \"%1\"; those there are: %2.");
         return {nullptr, error.arg(settings.backend, backendNames().join(QStringLiteral(", "))), {}};
     }
@@ -207,7 +253,8 @@ Opened open(const Settings &settings)
         complete.clock = std::make_shared<SystemClock>();
     if (isPath)
         return openFrom(settings.backend, complete);
-    return backend->open ? backend->open(complete) : openFrom(QString::fromLatin1(backend->library), complete);
+    const Backend *const builtIn = findBackend(settings.backend);
+    return builtIn && builtIn->open ? builtIn->open(complete) : openFrom(libraryOf(settings.backend), complete);
 }
 
 QString defaultStateDirectory()

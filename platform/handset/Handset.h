@@ -70,7 +70,8 @@ struct Opened {
     QString notice;                   ///< what the user should know although it opened; empty for nothing
 };
 
-/// The names that Settings::backend may have.
+/// The names that Settings::backend may have: ours, and NAME of each libkavhandset-NAME.so that is installed in the folder
+/// kavcallmeter/backends beside this library.
 QStringList backendNames();
 
 /// The first backend with a modem that is there now, else "simulated". Waits for the answer of each daemon that runs,
