@@ -167,7 +167,8 @@ function(kav_generated name)
 endfunction()
 
 # kav_shared_library(TARGET [DBUS] [OUTPUT NAME] [VERSION V SOVERSION S] SOURCES ...)
-# A shared object under its own name and soname. DBUS: moc has to know the types of Qt D-Bus.
+# A shared object under its own name and soname. DBUS: moc has to know the types of Qt D-Bus. It is installed by
+# kav_install_library or kav_install_backend.
 function(kav_shared_library target)
     cmake_parse_arguments(ARG "DBUS" "OUTPUT;VERSION;SOVERSION" "SOURCES" ${ARGN})
     add_library(${target} SHARED ${ARG_SOURCES})
@@ -189,5 +190,4 @@ function(kav_shared_library target)
     if(NOT KAV_SANITIZE)
         target_link_options(${target} PRIVATE -Wl,-z,defs)
     endif()
-    install(TARGETS ${target} LIBRARY DESTINATION lib)
 endfunction()

@@ -2,16 +2,31 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QLibrary>
+
+#include <dlfcn.h>
 
 namespace host {
 
 namespace {
 
-bool loadBesideProgram(QLibrary &library, const QString &name)
+// Beside the library that this is part of, as they are installed together; else in lib beside the program's folder.
+QString installedPath(const QString &name)
 {
-    const QString path = QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../lib/" + name);
-    library.setFileName(path);
+    Dl_info own{};
+    if (::dladdr(reinterpret_cast<const void *>(&installedPath), &own)) {
+        const QString beside = QFileInfo(QFile::decodeName(own.dli_fname)).absoluteDir().filePath(name);
+        if (QFile::exists(beside))
+            return beside;
+    }
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../lib/" + name);
+}
+
+bool loadInstalled(QLibrary &library, const QString &name)
+{
+    library.setFileName(installedPath(name));
     return library.load();
 }
 
@@ -23,7 +38,7 @@ QString loadLibrary(QLibrary &library, const QString &name)
     const QString reason = library.errorString();
     if (name.contains(u'/'))
         return QStringLiteral("The plug-in library \"%1\" cannot be loaded: %2").arg(name, reason);
-    if (loadBesideProgram(library, name))
+    if (loadInstalled(library, name))
         return {};
     return QStringLiteral("The plug-in library \"%1\" cannot be loaded: %2; %3")
         .arg(name, reason, library.errorString());

@@ -19,8 +19,8 @@ public:
     };
 
     /// Loads the library called `name` and resolves every function of the screen table. A bare name is looked for
-    /// where the dynamic linker looks (so that another library can take its place), then in the folder lib beside
-    /// the program's own. Returns one sentence that says what is missing, a null text on success.
+    /// where the dynamic linker looks (so that another library can take its place), then beside the program's
+    /// own library, then in the folder lib beside the program's folder. Returns one sentence that says what is missing, a null text on success.
     ///
     /// The library is never unloaded: events that its objects posted may outlive the last screen.
     QString load(const QString &name);

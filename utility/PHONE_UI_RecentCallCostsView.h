@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/ZKbMainWidget.h"
+#include "utility/callmeter.h"
 
 #include <QtCore/QString>
 
@@ -48,12 +49,3 @@ private:
     PHONE_UI_RecentCallCostSetupView *costSetupView;
     QString currencyUnit;
 };
-
-extern "C" {
-
-/// Makes the screen, filled and not yet shown; the caller owns it. Null when there is no memory for it.
-PHONE_UI_RecentCallCostsView *create_callCost(QWidget *parent, const char *name);
-
-/// Deletes the screen; null is ignored.
-void destroy_callCost(PHONE_UI_RecentCallCostsView *screen);
-}

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/ZKbMainWidget.h"
+#include "utility/callmeter.h"
 
 #include <QtCore/QString>
 
@@ -45,12 +46,3 @@ private:
     ZListBox *listBox;
     PHONE_UI_RecentCallMeter *meter;
 };
-
-extern "C" {
-
-/// Makes the screen, filled and not yet shown; the caller owns it. Null when there is no memory for it.
-PHONE_UI_RecentCallDataTimesView *create_dataTime(QWidget *parent, const char *name);
-
-/// Deletes the screen; null is ignored.
-void destroy_dataTime(PHONE_UI_RecentCallDataTimesView *screen);
-}

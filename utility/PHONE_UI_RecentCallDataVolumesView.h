@@ -3,6 +3,7 @@
 
 #include "qt/QCString.h"
 #include "toolkit/ZKbMainWidget.h"
+#include "utility/callmeter.h"
 
 #include <QtCore/QString>
 
@@ -52,12 +53,3 @@ private:
     PHONE_UI_RecentCallDataVolumesDetailView *detailView;
     QCopChannel *channel;
 };
-
-extern "C" {
-
-/// Makes the screen, filled and not yet shown; the caller owns it. Null when there is no memory for it.
-PHONE_UI_RecentCallDataVolumesView *create_dataVolume(QWidget *parent, const char *name);
-
-/// Closes and then deletes the screen; null is ignored.
-void destroy_dataVolume(PHONE_UI_RecentCallDataVolumesView *screen);
-}

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "toolkit/ZKbMainWidget.h"
+#include "utility/callmeter.h"
 
 #include <QtCore/QString>
 
@@ -53,12 +54,3 @@ private:
     quint32 dataCallSeconds;
     PHONE_MsgClient *msgClient;
 };
-
-extern "C" {
-
-/// Makes the screen, filled and not yet shown; the caller owns it. Null when there is no memory for it.
-PHONE_UI_RecentCallTimesView *create_callTime(QWidget *parent, const char *name);
-
-/// Deletes the screen; null is ignored.
-void destroy_callTime(PHONE_UI_RecentCallTimesView *screen);
-}
