@@ -60,6 +60,8 @@ constexpr Rule rules[] = {
      "platform/log platform/process "
      "platform/telephony platform/callsetup platform/message platform/security",
      "the host reaches the plug-in by its exported names only"},
+    {"examples/", "examples/ platform/toolkit platform/telephony platform/handset",
+     "what others build has the headers that are installed"},
     {"bench/", "bench/ host/ utility/ platform/", "a benchmark is no test"},
     {"tests/", "tests/ bench/ host/ utility/ platform/", "tests see everything"},
 };
