@@ -22,18 +22,19 @@ constexpr const char *description =
     "Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel\n"
     "that makes calls on the simulated telephone.";
 
-constexpr const char *exitCodes = "\nExit codes:\n"
-                                  "  0  all went well\n"
-                                  "  1  a tour saw something else than its script expects\n"
-                                  "  2  the command line is wrong\n"
-                                  "  3  the telephone cannot be opened\n"
-                                  "  4  the trace file cannot be opened\n"
-                                  "  5  the plug-in or another library, or a function of it, is missing\n"
-                                  "  6  the tour's script cannot be read, or has a mistake\n"
-                                  "  7  a photograph, or the text of a tour, cannot be written\n"
-                                  "  8  the translation catalogue cannot be loaded\n"
-                                  "  9  there is no display to show the window on\n"
-                                  " 10  a tour was ended by a signal before its end\n";
+constexpr const char *exitCodes =
+    "\nExit codes:\n"
+    "  0  all went well\n"
+    "  1  a tour saw something else than its script expects\n"
+    "  2  the command line is wrong\n"
+    "  3  the telephone cannot be opened\n"
+    "  4  the trace file cannot be opened\n"
+    "  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen\n"
+    "  6  the tour's script cannot be read, or has a mistake\n"
+    "  7  a photograph, the text of a tour, or what was asked for cannot be written\n"
+    "  8  the translation catalogue cannot be loaded\n"
+    "  9  there is no display to show the window on, or no such platform of Qt\n"
+    " 10  a tour was ended by a signal before its end\n";
 
 struct OptionText {
     const char *name;

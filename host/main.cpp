@@ -6,6 +6,7 @@
 #include "host/ExitCode.h"
 #include "host/Options.h"
 #include "host/PhoneWindow.h"
+#include "host/QtStart.h"
 #include "host/ReadFile.h"
 #include "host/ScreenLibrary.h"
 #include "host/faults/FaultyHandset.h"
@@ -54,17 +55,43 @@ int print(const QString &text)
     return complain(ExitNotWritten, QStringLiteral("The standard output cannot be written to."));
 }
 
-// Before the GUI's application object, which would want a display even for --help.
-CommandLine readCommandLine(int argc, char **argv)
+// Before the GUI's application object, which would want a display even for --help. `ofQt` becomes what that is given.
+CommandLine readCommandLine(int argc, char **argv, QStringList &ofQt)
 {
     const QCoreApplication application(argc, argv);
     nameProgram();
-    return parseCommandLine(QCoreApplication::arguments());
+    const DividedArguments arguments = divideArguments(QCoreApplication::arguments());
+    ofQt = arguments.ofQt;
+    CommandLine line = parseCommandLine(arguments.own);
+    // Its pictures are the same everywhere.
+    if (line.options && line.options->isTour() && ofQt.size() > 1)
+        return {{}, {}, QStringLiteral("Option '%1' of Qt does not go with option 'tour'.").arg(ofQt[1])};
+    return line;
+}
+
+QString namedPlatform()
+{
+    return qEnvironmentVariable("QT_QPA_PLATFORM");
+}
+
+// The option comes before the environment, as for Qt.
+void namePlatform(QStringList &ofQt)
+{
+    for (qsizetype index = 1; index < ofQt.size(); ++index) {
+        const QString name = ofQt[index].section(u'=', 0, 0);
+        if (name != QLatin1StringView("-platform") && name != QLatin1StringView("--platform"))
+            continue;
+        const bool isBehind = !ofQt[index].contains(u'=');
+        const QString platform = isBehind ? ofQt.value(index + 1) : ofQt[index].section(u'=', 1);
+        qputenv("QT_QPA_PLATFORM", platform.toLocal8Bit());
+        ofQt.remove(index, std::min(isBehind ? 2 : 1, static_cast<int>(ofQt.size() - index)));
+        return;
+    }
 }
 
 bool hasPlatform()
 {
-    return !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+    return !namedPlatform().isEmpty();
 }
 
 // Asked by the library that Qt will use, for Qt itself only aborts. Where that library is missing, Qt says so.
@@ -265,19 +292,23 @@ int run(const Options &options, const QStringList &findings)
 extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
 {
     guardStandardStreams();
-    const CommandLine line = readCommandLine(argc, argv);
+    QStringList ofQt;
+    const CommandLine line = readCommandLine(argc, argv, ofQt);
     if (!line.error.isEmpty())
         return complain(ExitBadCommandLine, line.error + QStringLiteral(" See kavrecentcalls --help."));
     if (!line.options)
         return print(line.output);
     const Options &options = *line.options;
+    namePlatform(ofQt);
     if (options.isTour() || !options.photo.isEmpty())
         fixSurroundings(options.isTour());
     else if (!hasPlatform() && !hasDisplay())
         return complain(ExitNoDisplay, missingDisplay());
     BusGuard buses;
-    int count = 1; // Qt would take --plugin for an option of its own, too
-    const QApplication application(count, argv);
+    ArgumentVector arguments(ofQt);
+    std::optional<PlatformGuard> guard(std::in_place, "kavrecentcalls", namedPlatform());
+    const QApplication application(arguments.count(), arguments.values());
+    guard.reset();
     nameProgram();
     buses.guardAccessibility(announcedAccessibilityBus());
     for (const QString &finding : buses.notices())

@@ -52,6 +52,10 @@ private slots:
     void aCatalogueTranslatesMenuAndScreens();
     void aCatalogueThatCannotBeLoadedIsSaid_data();
     void aCatalogueThatCannotBeLoadedIsSaid();
+    void aPlatformThatCannotBeUsedIsOneSentence_data();
+    void aPlatformThatCannotBeUsedIsOneSentence();
+    void qtsOwnOptionsReachQt();
+    void aTourTakesNoOptionOfQt();
     void withoutADisplayTheWindowIsRefused();
     void aDisplayThatCannotBeReachedIsNamed_data();
     void aDisplayThatCannotBeReachedIsNamed();
@@ -428,6 +432,53 @@ void TestCommandLine::aCatalogueThatCannotBeLoadedIsSaid()
     const HostResult result = showCallTimes({"--state", "none", "--translation", file});
     QCOMPARE(result.code, 8);
     QVERIFY2(result.errors.contains(file), qPrintable(result.errors));
+}
+
+void TestCommandLine::aPlatformThatCannotBeUsedIsOneSentence_data()
+{
+    QTest::addColumn<QString>("platform");
+    QTest::addColumn<QString>("option");
+    QTest::newRow("none of that name, in the environment") << "nosuch"
+                                                           << "";
+    QTest::newRow("an X server that does not answer, in the environment") << "xcb"
+                                                                          << "";
+    QTest::newRow("none of that name, on the command line") << "nosuch"
+                                                            << "-platform nosuch";
+    QTest::newRow("with two dashes and a sign") << "nosuch"
+                                                << "--platform=nosuch";
+}
+
+void TestCommandLine::aPlatformThatCannotBeUsedIsOneSentence()
+{
+    QFETCH(QString, platform);
+    QFETCH(QString, option);
+    environment.insert("DISPLAY", deadDisplay);
+    if (option.isEmpty())
+        environment.insert("QT_QPA_PLATFORM", platform);
+    const HostResult result = run(QStringList{"--state", "none"} + option.split(' ', Qt::SkipEmptyParts));
+    QCOMPARE(result.code, 9);
+    QCOMPARE(result.errors,
+             QString("kavrecentcalls: The platform \"%1\" of Qt cannot be used: it is not installed, or has "
+                     "nothing to show windows on.\n")
+                 .arg(platform));
+}
+
+void TestCommandLine::qtsOwnOptionsReachQt()
+{
+    environment.remove("QT_QPA_PLATFORM");
+    for (const QStringList &options : {QStringList{"-platform", "offscreen", "-style", "nosuch"},
+                                       QStringList{"--platform=offscreen", "--style=nosuch"}}) {
+        const HostResult result = showCallTimes(QStringList{"--state", "none"} + options);
+        QCOMPARE(result.code, 0);
+        QVERIFY2(result.errors.contains("nosuch"), qPrintable(result.errors));
+    }
+}
+
+void TestCommandLine::aTourTakesNoOptionOfQt()
+{
+    const HostResult result = run({"--tour", path("tour"), "-style", "windows"});
+    QCOMPARE(result.code, 2);
+    QVERIFY2(result.errors.contains("'-style' of Qt does not go with option 'tour'"), qPrintable(result.errors));
 }
 
 void TestCommandLine::withoutADisplayTheWindowIsRefused()
