@@ -422,9 +422,9 @@ void TourPlayer::checkStatus(int status)
         return;
     ++expectations;
     const QString reason = reasonText(status, tourMeaning);
-    fail(QStringLiteral("the telephone does it"), reason.isEmpty()
-                                                      ? QStringLiteral("status %1").arg(status)
-                                                      : QStringLiteral("status %1, %2").arg(status).arg(reason));
+    const QString name = statusName(status);
+    fail(QStringLiteral("the telephone does it"),
+         reason.isEmpty() ? name : QStringLiteral("%1, %2").arg(name, reason));
 }
 
 // --- the phone

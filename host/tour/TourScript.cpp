@@ -1,4 +1,5 @@
 #include "host/tour/TourScript.h"
+#include "host/StatusText.h"
 
 #include "handset/Operations.h"
 #include "host/Latin1.h"
@@ -287,8 +288,9 @@ Parsed parseTariff(const QString &rest)
     const auto direction = directionOf(words.value(0));
     const auto tariff = tariffOf(words.mid(1));
     if (!direction || !tariff)
-        return Parsed::wrong(QStringLiteral(
-            "a tariff is \"tariff dialed|answered free\" or \"... UNITS per DURATION [start UNITS]\", to tenths"));
+        return Parsed::wrong(QStringLiteral("a tariff is \"tariff dialed|answered free\" or \"... UNITS per "
+                                            "DURATION [start UNITS]\", to tenths: UNITS 0 to "
+                                            "819.1, DURATION 100ms to 819100ms"));
     return done(SetTariff{*direction, *tariff});
 }
 
@@ -349,14 +351,13 @@ Parsed parseFail(const QString &rest)
     if (rest == QLatin1StringView("nothing"))
         return done(Fail{});
     const QStringList words = wordsOf(rest);
-    bool isNumber = false;
-    const int code = words.value(1).toInt(&isNumber);
-    if (words.size() != 2 || !isNumber)
+    const std::optional<int> code = statusNamed(words.value(1));
+    if (words.size() != 2 || !code)
         return Parsed::wrong(QStringLiteral("failing is \"fail NAME CODE\" or \"fail nothing\""));
     const int operation = handset::operationIndex(words[0].toStdString());
     if (operation < 0)
         return Parsed::wrong(QStringLiteral("there is no operation \"%1\"").arg(words[0]));
-    return done(Fail{operation, code});
+    return done(Fail{operation, *code});
 }
 
 Parsed parseSession(const QString &rest)
