@@ -2,6 +2,8 @@
 
 set(KAV_INSTALL_INCLUDEDIR ${CMAKE_INSTALL_INCLUDEDIR}/kavcallmeter)
 set(KAV_INSTALL_DATADIR ${CMAKE_INSTALL_DATADIR}/kavcallmeter)
+# For catalogues, NAME.qm.
+set(KAV_INSTALL_TRANSLATIONDIR ${KAV_INSTALL_DATADIR}/translations)
 # Beside the library that loads them (backendDirectory() in Handset.cpp).
 set(KAV_INSTALL_BACKENDDIR ${CMAKE_INSTALL_LIBDIR}/kavcallmeter/backends)
 set(KAV_INSTALL_CMAKEDIR ${CMAKE_INSTALL_LIBDIR}/cmake/kavcallmeter)

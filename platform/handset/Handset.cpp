@@ -68,8 +68,10 @@ QString backendDirectory()
 QStringList addedBackends()
 {
     QStringList names;
-    const QStringList files = QDir(backendDirectory()).entryList({libraryStart + u'*' + libraryEnd}, QDir::Files);
+    const QStringList files = QDir(backendDirectory()).entryList(QDir::Files);
     for (const QString &file : files) {
+        if (!file.startsWith(libraryStart) || !file.endsWith(libraryEnd))
+            continue;
         const QString name = file.chopped(libraryEnd.size()).sliced(libraryStart.size());
         if (!findBackend(name))
             names << name;
@@ -240,7 +242,7 @@ Opened open(const Settings &settings)
         return open(found);
     }
     const bool isPath = settings.backend.contains(QLatin1Char('/'));
-    if (!isPath && !backendNames().contains(settings.backend)) {
+    if (!isPath && !findBackend(settings.backend) && !addedBackends().contains(settings.backend)) {
         const QString error = QStringLiteral("There is no telephone named \"%1\"; those there are: %2.");
         return {nullptr, error.arg(settings.backend, backendNames().join(QStringLiteral(", "))), {}};
     }
