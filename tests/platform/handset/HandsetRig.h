@@ -24,6 +24,11 @@ public:
     virtual Handset &handset() = 0;
     /// The roles that the backend has not, as the operations name them ("PacketData").
     virtual QStringList lackingRoles() const { return {}; }
+    bool hasDataCalls() const { return !lackingRoles().contains(QStringLiteral("DataCalls")); }
+    bool hasSimSecurity() const { return !lackingRoles().contains(QStringLiteral("SimSecurity")); }
+    /// The files of the SIM's advice of charge can be read and written; else each is NotAvailable, and a charge type
+    /// in the currency as well.
+    virtual bool hasSimFiles() const { return true; }
 
     /// The call is being set up, but not connected; false when that fails, as for all the others.
     virtual bool begin(CallKind kind, CallDirection direction) = 0;

@@ -67,7 +67,7 @@ SixFigures figuresOf(Handset &handset)
     return {query(log, &CallLog::lastCallTime),
             query(log, &CallLog::dialedCallsTime),
             query(log, &CallLog::answeredCallsTime),
-            dataSeconds(*handset.dataCalls()),
+            handset.dataCalls() ? dataSeconds(*handset.dataCalls()) : 0,
             query(*handset.callService(), &CallService::totalCallTime),
             query(log, &CallLog::lifetimeCallsTime)};
 }

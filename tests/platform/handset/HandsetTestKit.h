@@ -35,7 +35,7 @@ struct SixFigures {
 /// For QCOMPARE.
 char *toString(const SixFigures &figures);
 
-/// A failed query is a failed test.
+/// A failed query is a failed test. Without the role of data calls their figure is 0.
 SixFigures figuresOf(Handset &handset);
 
 /// What the handset tells of its packet-data sessions, "id apn seconds sent received" for each used slot, from the

@@ -21,11 +21,19 @@ public:
 
     void open(std::unique_ptr<live::Modem> modem)
     {
+        openWith([&](std::unique_ptr<calllog::Ledger> ledger, live::InterfaceCounters counters) {
+            return std::make_unique<live::LiveHandset>(std::move(ledger), clock, std::move(modem),
+                                                       std::move(counters));
+        });
+    }
+    /// Opens what `make` makes of the ledger and the network interfaces.
+    template <typename Make>
+    void openWith(Make make)
+    {
         close();
         calllog::OpenedLedger opened = calllog::openLedger(state.path(), clock);
         QVERIFY2(opened.ledger, qPrintable(opened.error));
-        phone = std::make_unique<live::LiveHandset>(std::move(opened.ledger), clock, std::move(modem),
-                                                    live::InterfaceCounters(interfaces.path()));
+        phone = make(std::move(opened.ledger), live::InterfaceCounters(interfaces.path()));
     }
     void close() { phone.reset(); }
 
