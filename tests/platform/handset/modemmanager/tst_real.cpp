@@ -1,0 +1,297 @@
+// The telephone behind the real ModemManager, which has the AT modem for hardware.
+#include "calllog/OpenLedger.h"
+#include "handset/HandsetTestKit.h"
+#include "handset/live/RealModemManager.h"
+#include "live/LiveHandset.h"
+#include "modemmanager/ModemManagerModem.h"
+#include "support/TestGroup.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QElapsedTimer>
+#include <QtDBus/QDBusObjectPath>
+
+#include <algorithm>
+
+using namespace handset;
+using namespace handset::test;
+using atmodem::CallRecord;
+using atmodem::Dialed;
+using atmodem::End;
+using AtPhone = atmodem::Phone;
+using live::CallPhase;
+
+#define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), daemon->story().constData())
+
+namespace {
+
+/// How far a duration may be from what the modem itself has recorded.
+constexpr qint64 modemManagerPrecisionMs = 1000;
+
+} // namespace
+
+class TestModemManagerReal : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void cleanupTestCase() { daemon.reset(); }
+
+    void anAnsweredCallLastsAsLongAsTheModemSays();
+    void aDialedCallLastsNoLongerThanTheModemSays();
+    void aLostCallIsLoggedWithoutTime();
+    void aCallThatIsRefusedIsLoggedWithoutTime();
+    void aCallThatIsRefusedAtOnceIsTold();
+    void aWaitingCallIsTakenWhileTheOtherIsHeld();
+    void bytesAreThoseOfTheInterface();
+    void aConnectionWithoutAnInterfaceHasNoBytes();
+    void whatTheDaemonHasNotIsNotAvailable();
+    void theNetworkIsShownAndItsLossToo();
+    void aCallEndsWithTheDaemonAndTheNextOneIsSeen();
+
+private:
+    void lead(const std::function<void(AtPhone &)> &how) { daemon->modem().withPhone(how); }
+    CallRecord record() { return daemon->modem().records().constLast(); }
+    std::optional<CallPhase> phaseOf(const char *number) const
+    {
+        for (const live::ReportedCall &call : phone->calls().reported())
+            if (call.number == QLatin1String(number))
+                return call.phase;
+        return {};
+    }
+    QString idOf(const char *number) const
+    {
+        for (const live::ReportedCall &call : phone->calls().reported())
+            if (call.number == QLatin1String(number))
+                return call.id;
+        return {};
+    }
+    QVariant ofCall(const char *number, const char *column) const
+    {
+        return LogFile(state->database())
+            .value(QStringLiteral("SELECT %1 FROM calls WHERE number = '%2'")
+                       .arg(QLatin1String(column), QLatin1String(number)));
+    }
+    QString row(const char *number) const
+    {
+        return ofCall(number, "direction || ':' || state || ':' || late").toString();
+    }
+    qint64 ms(const char *number) const { return ofCall(number, "duration_ms").toLongLong(); }
+    bool ringAndTake(const char *number);
+    QString connectData();
+    bool disconnectData(const QString &bearer);
+    QString sessions() const
+    {
+        return LogFile(state->database())
+            .value(QStringLiteral(
+                "SELECT group_concat(apn || ':' || sent || ':' || received || ':' || state) FROM sessions"))
+            .toString();
+    }
+
+    std::unique_ptr<RealModemManager> daemon;
+    std::unique_ptr<StateDir> state;
+    std::unique_ptr<QTemporaryDir> interfaces;
+    std::unique_ptr<live::LiveHandset> phone;
+};
+
+void TestModemManagerReal::initTestCase()
+{
+    daemon = std::make_unique<RealModemManager>();
+    QVERIFY2(daemon->bringUp(), daemon->story().constData());
+}
+
+void TestModemManagerReal::init()
+{
+    state = std::make_unique<StateDir>();
+    interfaces = std::make_unique<QTemporaryDir>();
+    const auto clock = std::make_shared<SystemClock>();
+    calllog::OpenedLedger opened = calllog::openLedger(state->path(), clock);
+    QVERIFY2(opened.ledger, qPrintable(opened.error));
+    phone = std::make_unique<live::LiveHandset>(
+        std::move(opened.ledger), clock, std::make_unique<modemmanager::ModemManagerModem>(daemon->busAddress()),
+        live::InterfaceCounters(interfaces->path()));
+    COMES_ABOUT(phone->modem().state().status == "registered");
+    daemon->forgetOutput();
+}
+
+void TestModemManagerReal::cleanup()
+{
+    phone.reset();
+    lead([](AtPhone &there) {
+        there.hangUpAllThere();
+        there.dialed = Dialed::Led;
+    });
+    const QStringList calls = daemon->calls();
+    for (const QString &call : calls)
+        daemon->onModem("Modem.Voice", "DeleteCall", {QVariant::fromValue(QDBusObjectPath(call))});
+    COMES_ABOUT(daemon->calls().isEmpty());
+}
+
+// Until it says that it is in a call the daemon would not hear that the call ends.
+bool TestModemManagerReal::ringAndTake(const char *number)
+{
+    lead([number](AtPhone &there) { there.ring(number); });
+    return comesAbout([&] { return phaseOf(number) == CallPhase::Incoming; }) &&
+           phone->modem().answer(idOf(number)) == Success &&
+           comesAbout([&] { return phaseOf(number) == CallPhase::Active; }) &&
+           comesAbout([&] { return daemon->hasSaid("modem is now in-call state"); });
+}
+
+void TestModemManagerReal::anAnsweredCallLastsAsLongAsTheModemSays()
+{
+    QVERIFY2(ringAndTake("5550003"), daemon->story().constData());
+    COMES_ABOUT(record().durationMs() > 1500);
+    lead([](AtPhone &there) { there.hangUpThere(); });
+    COMES_ABOUT(!phaseOf("5550003"));
+    QCOMPARE(row("5550003"), "1:1:0");
+    QVERIFY(std::abs(ms("5550003") - record().durationMs()) < modemManagerPrecisionMs);
+}
+
+// The daemon asks the modem every 2 s whether a dialed call has been answered: what was before is in nobody's count.
+void TestModemManagerReal::aDialedCallLastsNoLongerThanTheModemSays()
+{
+    QCOMPARE(phone->modem().dial("5550001"), int(Success));
+    COMES_ABOUT(phaseOf("5550001") == CallPhase::Alerting);
+    lead([](AtPhone &there) { there.answer(); });
+    COMES_ABOUT(phaseOf("5550001") == CallPhase::Active);
+    QElapsedTimer sinceTold;
+    sinceTold.start();
+    COMES_ABOUT(sinceTold.elapsed() > 1200);
+    const qint64 leastMs = sinceTold.elapsed();
+    QCOMPARE(phone->modem().hangUp(idOf("5550001")), int(Success));
+    COMES_ABOUT(!phaseOf("5550001"));
+    QCOMPARE(row("5550001"), "0:1:0");
+    QCOMPARE(record().end, End::HungUpHere);
+    QVERIFY(ms("5550001") >= leastMs);
+    QVERIFY(ms("5550001") < record().durationMs() + modemManagerPrecisionMs);
+}
+
+void TestModemManagerReal::aLostCallIsLoggedWithoutTime()
+{
+    lead([](AtPhone &there) { there.ring("5550004"); });
+    COMES_ABOUT(phaseOf("5550004") == CallPhase::Incoming);
+    lead([](AtPhone &there) { there.hangUpThere(); });
+    COMES_ABOUT(!phaseOf("5550004"));
+    QCOMPARE(row("5550004"), "1:2:0");
+    QCOMPARE(ms("5550004"), 0);
+}
+
+void TestModemManagerReal::aCallThatIsRefusedIsLoggedWithoutTime()
+{
+    QCOMPARE(phone->modem().dial("5550002"), int(Success));
+    COMES_ABOUT(phaseOf("5550002") == CallPhase::Alerting);
+    lead([](AtPhone &there) { there.refuse(End::Busy); });
+    COMES_ABOUT(!phaseOf("5550002"));
+    QCOMPARE(row("5550002"), "0:2:0");
+    QCOMPARE(ms("5550002"), 0);
+}
+
+void TestModemManagerReal::aCallThatIsRefusedAtOnceIsTold()
+{
+    QString told;
+    connect(&phone->modem(), &live::Modem::refused, this, [&](const QString &why) { told = why; });
+    lead([](AtPhone &there) { there.dialed = Dialed::Busy; });
+    QCOMPARE(phone->modem().dial("5550002"), int(Success));
+    COMES_ABOUT(!told.isEmpty());
+    QVERIFY2(told.startsWith(QStringLiteral("The call cannot be made: ")), qPrintable(told));
+    COMES_ABOUT(!phaseOf("5550002"));
+    QCOMPARE(ms("5550002"), 0);
+}
+
+void TestModemManagerReal::aWaitingCallIsTakenWhileTheOtherIsHeld()
+{
+    QVERIFY2(ringAndTake("5550001"), daemon->story().constData());
+    lead([](AtPhone &there) { there.ring("5550003"); });
+    COMES_ABOUT(phaseOf("5550003") == CallPhase::Waiting);
+    QCOMPARE(phone->modem().answer(idOf("5550003")), int(Success));
+    COMES_ABOUT(phaseOf("5550001") == CallPhase::Held && phaseOf("5550003") == CallPhase::Active);
+    COMES_ABOUT(record().durationMs() > 1200);
+    QCOMPARE(phone->modem().hangUp(idOf("5550003")), int(Success));
+    COMES_ABOUT(!phaseOf("5550003"));
+    QCOMPARE(phaseOf("5550001"), CallPhase::Held);
+    QCOMPARE(row("5550003"), "1:1:0");
+    QVERIFY(std::abs(ms("5550003") - record().durationMs()) < modemManagerPrecisionMs);
+    // The one that is held has gone on all the while.
+    QCOMPARE(phone->modem().hangUp(idOf("5550001")), int(Success));
+    COMES_ABOUT(!phaseOf("5550001"));
+    QCOMPARE(row("5550001"), "1:1:0");
+    const QList<CallRecord> records = daemon->modem().records();
+    QVERIFY(std::abs(ms("5550001") - records[records.size() - 2].durationMs()) < modemManagerPrecisionMs);
+}
+
+QString TestModemManagerReal::connectData()
+{
+    const QVariantMap wanted{{QStringLiteral("apn"), QStringLiteral("internet")}};
+    return valueOf(daemon->onModem("Modem.Simple", "Connect", {wanted})).toString();
+}
+
+bool TestModemManagerReal::disconnectData(const QString &bearer)
+{
+    return daemon->onModem("Modem.Simple", "Disconnect", {QVariant::fromValue(QDBusObjectPath(bearer))})
+               .errorName()
+               .isEmpty() &&
+           comesAbout([&] { return phone->sessions().reported().isEmpty(); });
+}
+
+// The daemon's own count stays at zero with such a modem, and says so.
+void TestModemManagerReal::bytesAreThoseOfTheInterface()
+{
+    const QString bearer = connectData();
+    COMES_ABOUT(phone->sessions().reported().size() == 1);
+    const QString interface = phone->sessions().reported().constFirst().interface;
+    QVERIFY(!interface.isEmpty());
+    const QString folder = interfaces->filePath(interface + QStringLiteral("/statistics"));
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(writeFile(folder + QStringLiteral("/tx_bytes"), "7\n"));
+    QVERIFY(writeFile(folder + QStringLiteral("/rx_bytes"), "5000000000\n"));
+    QVERIFY2(disconnectData(bearer), daemon->story().constData());
+    QCOMPARE(sessions(), "internet:7:5000000000:1");
+}
+
+void TestModemManagerReal::aConnectionWithoutAnInterfaceHasNoBytes()
+{
+    const QString bearer = connectData();
+    COMES_ABOUT(phone->sessions().reported().size() == 1);
+    QVERIFY2(disconnectData(bearer), daemon->story().constData());
+    QCOMPARE(sessions(), "internet:0:0:1");
+}
+
+void TestModemManagerReal::whatTheDaemonHasNotIsNotAvailable()
+{
+    QCOMPARE(phone->simSecurity(), nullptr);
+    QCOMPARE(phone->dataCalls(), nullptr);
+    QString text = QStringLiteral("as it was");
+    QString other = text;
+    bool enabled = true;
+    QCOMPARE(phone->adviceOfCharge()->meterMaximum(text, enabled), int(NotAvailable));
+    QCOMPARE(phone->adviceOfCharge()->priceAndCurrency(text, other), int(NotAvailable));
+    QCOMPARE(text + other, QStringLiteral("as it wasas it was"));
+}
+
+void TestModemManagerReal::theNetworkIsShownAndItsLossToo()
+{
+    COMES_ABOUT(phone->modem().state().network == "Test Net");
+    lead([](AtPhone &there) { there.setRegistration(atmodem::Registration::Searching); });
+    COMES_ABOUT(phone->modem().state().status == "searching");
+    lead([](AtPhone &there) { there.setRegistration(atmodem::Registration::Home); });
+    COMES_ABOUT(phone->modem().state().status == "registered");
+}
+
+// Started again it hangs up the call that goes on, so there is nothing to go on with.
+void TestModemManagerReal::aCallEndsWithTheDaemonAndTheNextOneIsSeen()
+{
+    QVERIFY2(ringAndTake("5550003"), daemon->story().constData());
+    QVERIFY(daemon->kill());
+    COMES_ABOUT(!phaseOf("5550003"));
+    COMES_ABOUT(!phone->modem().state().isThere);
+    QCOMPARE(row("5550003"), "1:1:0");
+    QVERIFY2(daemon->bringUp(), daemon->story().constData());
+    COMES_ABOUT(phone->modem().state().status == "registered");
+    lead([](AtPhone &there) { there.ring("5550005"); });
+    COMES_ABOUT(phaseOf("5550005") == CallPhase::Incoming);
+}
+
+KAV_TEST_GROUP(TestModemManagerReal, QCoreApplication);
+#include "tst_real.moc"
