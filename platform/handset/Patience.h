@@ -5,7 +5,7 @@ namespace handset {
 
 /// Milliseconds.
 struct Patience {
-    int opening = 5000;   ///< open() waits this long for each of the few things that others may hold on its way
+    int opening = 5000;   ///< open() waits this long, for all that others may hold on its way
     int operation = 1000; ///< an operation waits this long for a writer; more would freeze the screen
 };
 

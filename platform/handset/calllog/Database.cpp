@@ -76,13 +76,11 @@ void Database::setPatience(int milliseconds)
 {
     patienceMs = milliseconds;
     waiting = nullptr;
-    holders = nullptr;
 }
 
-void Database::setPatience(Waiting &wait, Holders whoWrites)
+void Database::setPatience(Waiting *ofOpening)
 {
-    waiting = &wait;
-    holders = std::move(whoWrites);
+    waiting = ofOpening;
 }
 
 // Whoever writes at the same time is done in a few milliseconds. SQLite's own way waits longer from try to try, and so
@@ -100,7 +98,7 @@ int Database::waitInSqlite(void *self, int tries)
 
 bool Database::waitForOthers()
 {
-    return waiting && waiting->pauseInSqlite(betweenTriesMs, holders);
+    return waiting && waiting->pauseInSqlite(betweenTriesMs);
 }
 
 bool Database::run(const QString &statement)

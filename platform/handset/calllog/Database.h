@@ -55,8 +55,9 @@ public:
     bool isOpen() const { return open; }
     /// How long a statement waits for others that write, before it fails with sqlite::Busy.
     void setPatience(int milliseconds);
-    /// The statements of an opening share its patience. `wait` lives until the next setPatience().
-    void setPatience(Waiting &wait, Holders whoWrites);
+    /// The statements of an opening share its patience; where it is null they go on as before. It lives until the next
+    /// setPatience().
+    void setPatience(Waiting *ofOpening);
     /// Where SQLite itself does not wait: does so for a moment, or returns false when the patience of the opening is at
     /// its end.
     bool waitForOthers();
@@ -151,7 +152,6 @@ private:
     sqlite3 *sqlite = nullptr;
     int patienceMs = Patience{}.operation;
     Waiting *waiting = nullptr;
-    Holders holders;
     bool open = false;
     std::map<const char *, Statement> statements;
     sqlite::Failure error;

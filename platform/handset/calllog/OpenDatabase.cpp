@@ -145,20 +145,14 @@ Finding walk(Database &database, std::initializer_list<Step> steps)
     return {};
 }
 
-void haveWait(Database &database, const SharedPatience &patience)
-{
-    if (patience.waiting)
-        database.setPatience(*patience.waiting, patience.holders);
-}
-
 // Closing a damaged database that could be written would work its leftovers in, and make it worse. (A database that
 // is only read passes this without its CHECK constraints: it is verified again.)
-Finding examine(const QString &file, const SharedPatience &patience)
+Finding examine(const QString &file, Waiting *waiting)
 {
     Database database(file, Database::Access::ReadOnly);
-    haveWait(database, patience);
+    database.setPatience(waiting);
     Finding finding = walk(database, {identify, verify});
-    const bool isBusy = patience.waiting && patience.waiting->isOver();
+    const bool isBusy = waiting && waiting->isOver();
     if (finding.verdict == Verdict::Blocked && !isBusy) // some leftovers cannot be read without writing
         return {};
     return finding;
@@ -166,16 +160,15 @@ Finding examine(const QString &file, const SharedPatience &patience)
 
 } // namespace
 
-Attempt openDatabase(const QString &file, Care care, Hold hold, const SharedPatience &patience,
-                     const ProgressListener &progress)
+Attempt openDatabase(const QString &file, Care care, Hold hold, Waiting *waiting, const ProgressListener &progress)
 {
     if (care == Care::Leftovers) {
-        Finding examined = examine(file, patience);
+        Finding examined = examine(file, waiting);
         if (examined.verdict != Verdict::Usable)
             return {std::move(examined), nullptr};
     }
     auto database = std::make_unique<Database>(file, Database::Access::ReadWrite);
-    haveWait(*database, patience);
+    database->setPatience(waiting);
     const auto leaveOlder = [&](Database &older) { return hold == Hold::Shared ? isNewest(older) : Finding{}; };
     const auto bringUpToDate = [&](Database &older) {
         return migrate(older, migrations(), progress) ? Finding{} : failure(older);

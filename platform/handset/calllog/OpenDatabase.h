@@ -26,15 +26,9 @@ enum class Hold {
     Alone
 };
 
-/// How an opening waits for who has its database.
-struct SharedPatience {
-    Waiting *waiting =
-        nullptr; ///< lives as long as the database has this patience; null for a database of nobody else
-    Holders holders;
-};
-
-/// `file` is an absolute path, or ":memory:". `progress` as in migrate(). The database keeps the patience.
-Attempt openDatabase(const QString &file, Care care, Hold hold, const SharedPatience &patience,
+/// `file` is an absolute path, or ":memory:". `progress` as in migrate(). The database keeps `waiting`, for its writers;
+/// null for a database of nobody else.
+Attempt openDatabase(const QString &file, Care care, Hold hold, Waiting *waiting,
                      const ProgressListener &progress = {});
 
 } // namespace handset::calllog

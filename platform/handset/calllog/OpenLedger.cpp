@@ -36,9 +36,9 @@ struct Opening {
 Attempt openWaiting(const Opening &opening, const QString &name, Hold hold)
 {
     const StateDirectory &directory = opening.directory;
-    const SharedPatience patience{&opening.waiting, [&directory, name] { return directory.writers(name); }};
+    opening.waiting.setWriters([&directory, name] { return directory.writers(name); });
     Attempt attempt =
-        openDatabase(directory.filePath(name), careFor(directory, name), hold, patience, opening.progress);
+        openDatabase(directory.filePath(name), careFor(directory, name), hold, &opening.waiting, opening.progress);
     opening.waiting.goOn();
     const QString who = opening.waiting.lastHolders();
     if (attempt.finding.verdict == Verdict::Blocked && !who.isEmpty())
@@ -152,7 +152,7 @@ OpenedLedger opened(std::unique_ptr<Ledger> ledger, QStringList notices)
 OpenedLedger openInMemory(const std::shared_ptr<Clock> &clock)
 {
     const QString error = QStringLiteral("The call log cannot be opened: %1.");
-    Attempt attempt = openDatabase(QStringLiteral(":memory:"), Care::Quick, Hold::Alone, {});
+    Attempt attempt = openDatabase(QStringLiteral(":memory:"), Care::Quick, Hold::Alone, nullptr);
     if (!attempt.database)
         return {nullptr, error.arg(explain(attempt.finding)), {}};
     auto ledger = std::make_unique<Ledger>(std::move(attempt.database), nullptr, clock);

@@ -31,10 +31,10 @@ bool Waiting::pause(int milliseconds, const Holders &holders)
     return true;
 }
 
-bool Waiting::pauseInSqlite(int milliseconds, const Holders &holders)
+bool Waiting::pauseInSqlite(int milliseconds)
 {
     try {
-        return !thrown && pause(milliseconds, holders);
+        return !thrown && pause(milliseconds, writers);
     } catch (...) {
         thrown = std::current_exception();
         return false;
@@ -49,8 +49,7 @@ void Waiting::goOn()
 
 void Waiting::arrive()
 {
-    waitedMs = 0;
-    toldMs = 0;
+    toldMs = waitedMs;
     holdersAtEnd.clear();
     if (!step.isEmpty() && listener)
         listener(std::exchange(step, {}), 100);

@@ -7,14 +7,15 @@
 
 #include <exception>
 #include <functional>
+#include <utility>
 
 namespace handset::calllog {
 
 /// Who is in the way: names of processes, part of a sentence; empty when that is not known.
 using Holders = std::function<QString()>;
 
-/// The waiting of one opening for other processes, wherever on its way it comes to wait: it has one patience until what it
-/// waits for is there. Who waits for longer than a second is told whom for, and how much of the patience is gone.
+/// The waiting of one opening for other processes: it has one patience, wherever and for whatever on its way it comes to
+/// wait. Who waits for longer than a second is told whom for, and how much of the patience is gone.
 class Waiting
 {
 public:
@@ -24,11 +25,12 @@ public:
 
     /// Waits for a moment of so many milliseconds; false, at once, when the patience is at its end.
     bool pause(int milliseconds, const Holders &holders);
-    /// The same inside SQLite, which must not be left by an exception: false, too, when there was one. It is thrown by
-    /// goOn().
-    bool pauseInSqlite(int milliseconds, const Holders &holders);
+    /// The same for who writes the database, inside SQLite, which must not be left by an exception: false, too, when there
+    /// was one. It is thrown by goOn().
+    bool pauseInSqlite(int milliseconds);
+    void setWriters(Holders whoWrites) { writers = std::move(whoWrites); }
     void goOn();
-    /// What was waited for is there: there is the whole patience for whatever comes next.
+    /// What was waited for is there; whatever comes next has what is left of the patience.
     void arrive();
 
     bool isOver() const { return waitedMs >= patience; }
@@ -40,6 +42,7 @@ private:
 
     int patience; ///< milliseconds, as the next two
     ProgressListener listener;
+    Holders writers;
     int waitedMs = 0;
     int toldMs = 0;
     QString step; ///< as it was told last

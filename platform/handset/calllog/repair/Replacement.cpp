@@ -162,7 +162,7 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
         return finding;
     Salvaged salvaged;
     {
-        const Attempt fresh = openDatabase(path, Care::Quick, Hold::Alone, {});
+        const Attempt fresh = openDatabase(path, Care::Quick, Hold::Alone, nullptr);
         finding = fresh.database ? fill(*fresh.database, copy, old, salvaged) : fresh.finding;
     }
     if (finding.verdict != Verdict::Usable)

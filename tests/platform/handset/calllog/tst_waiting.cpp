@@ -7,6 +7,9 @@
 #include <QtCore/QFileInfo>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
+#include <vector>
 
 #include <csignal>
 
@@ -71,13 +74,18 @@ private:
     pid_t process = -1;
 };
 
+auto keepLock(const StateDir &state, int mode)
+{
+    return Keeper([lock = QFile::encodeName(state.file(QStringLiteral("lock"))), mode] {
+        const int fd = ::open(lock.constData(), O_RDWR | O_CLOEXEC);
+        return ::flock(fd, mode | LOCK_NB) == 0;
+    });
+}
+
 /// As who replaces the log has it.
 auto keepAlone(const StateDir &state)
 {
-    return Keeper([lock = QFile::encodeName(state.file(QStringLiteral("lock")))] {
-        const int fd = ::open(lock.constData(), O_RDWR | O_CLOEXEC);
-        return ::flock(fd, LOCK_EX | LOCK_NB) == 0;
-    });
+    return keepLock(state, LOCK_EX);
 }
 
 /// As another program may have it.
@@ -135,6 +143,7 @@ private slots:
     void whoHasTheDatabaseIsShownAndNamedAfterOnePatience_data();
     void whoHasTheDatabaseIsShownAndNamedAfterOnePatience();
     void whoKeepsADamagedLogFromBeingReplacedIsShownAndNamed();
+    void whatIsWaitedForOneAfterTheOtherHasOnePatience();
     void whatIsWaitedForCanBeGivenUp_data();
     void whatIsWaitedForCanBeGivenUp();
 };
@@ -233,6 +242,42 @@ void TestWaiting::whoKeepsADamagedLogFromBeingReplacedIsShownAndNamed()
     const Phone next(state.path());
     QVERIFY2(next.opened.notice.startsWith(QStringLiteral("The call log is damaged; it was kept as ")),
              qPrintable(next.opened.notice));
+}
+
+// A damaged log that somebody else has open, and that another program has as soon as that one lets it go.
+void TestWaiting::whatIsWaitedForOneAfterTheOtherHasOnePatience()
+{
+    const StateDir state;
+    QVERIFY(Phone(state.path()).dialed(8 * second));
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("UPDATE totals SET ms = 9 WHERE counter = 'lifetime'")));
+    auto sharing = keepLock(state, LOCK_SH);
+    QVERIFY(sharing.has);
+    std::unique_ptr<decltype(keepDatabase(state))> program;
+    QStringList steps;
+    std::vector<int> gone;
+    Settings settings;
+    settings.stateDirectory = state.path();
+    settings.patience = untilToldTwice;
+    settings.progress = [&](const QString &step, int percent) {
+        steps << step;
+        if (percent < 100)
+            gone.push_back(percent);
+        if (!program)
+            program.reset(new auto(keepDatabase(state)));
+        sharing.end();
+    };
+    const QString first = sharing.name();
+    const Opened opened = open(settings);
+    QVERIFY(!opened.handset);
+    QVERIFY(program && program->has);
+    QVERIFY2(opened.error.endsWith(QStringLiteral("it is in use by %1.").arg(program->name())),
+             qPrintable(opened.error));
+    steps.removeDuplicates();
+    QCOMPARE(steps, (QStringList{QStringLiteral("Waiting for ") + first,
+                                 QStringLiteral("Waiting for ") + program->name()}));
+    QVERIFY(gone.size() >= 2);
+    QVERIFY(std::adjacent_find(gone.begin(), gone.end(), std::greater_equal<>()) ==
+            gone.end()); // it only ever grows
 }
 
 void TestWaiting::whatIsWaitedForCanBeGivenUp_data()
