@@ -9,9 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <numeric>
 #include <utility>
-#include <vector>
 
 namespace handset::calllog {
 
@@ -30,27 +28,16 @@ bool isRecordable(const PastCall &call)
     return isKnown(call.kind) && isKnown(call.direction);
 }
 
-struct Advance {
-    qint64 ms = 0;
-    quint32 units = 0;
-};
-
-// Brings a running call to a moment, with what is charged for it.
-Advance advance(RunningCall &call, charging::ChargingState &state, const Moment &to)
-{
-    const qint64 passed = call.passedUntil(to);
-    const quint32 due = call.dueAfter(passed);
-    call.ms = saturatingSum(call.ms, passed);
-    call.units += due;
-    call.written.goOnUntil(to);
-    state.charge(due);
-    return {passed, due};
-}
-
 template <typename Rows>
 auto rowOf(Rows &rows, qint64 id)
 {
     return std::find_if(rows.begin(), rows.end(), [id](const auto &row) { return row.id == id; });
+}
+
+template <typename Owns>
+auto ownOf(Owns &own, qint64 id)
+{
+    return std::find_if(own.begin(), own.end(), [id](const auto &one) { return one.row.id == id; });
 }
 
 /// A kept value that is looked at before anything else is done.
@@ -100,8 +87,7 @@ bool findUnusedName(LedgerTables &tables, const QString &name, QString &unused)
 struct Ledger::Entry {
     charging::ChargingState before;
     Standing now;
-    std::vector<Advance> passed; ///< by the calls
-    QList<qint64> gone;          ///< calls whose rows somebody has removed
+    QList<qint64> gone; ///< calls whose rows somebody has removed
     std::initializer_list<Total> zeroed = {};
 };
 
@@ -242,9 +228,8 @@ Moments Ledger::momentsOf(const QList<Own<Row>> &own) const
 template <typename Row>
 bool Ledger::end(QList<Own<Row>> &own, qint64 id)
 {
-    const auto ends =
-        std::find_if(own.begin(), own.end(), [id](const Own<Row> &one) { return one.row.id == id && !one.ended; });
-    if (ends == own.end())
+    const auto ends = ownOf(own, id);
+    if (ends == own.end() || ends->ended)
         return false;
     ends->ended = momentsOf(own).now;
     return true;
@@ -334,7 +319,7 @@ int Ledger::transact(Entry &entry, Work work, RepeatedWrite *end)
         entry.before = entry.now.state;
         const Moments moments = momentsOf(ownCalls);
         for (RunningCall &call : entry.now.calls)
-            entry.passed.push_back(advance(call, entry.now.state, moments.of(call.id)));
+            call.advance(moments.of(call.id), entry.now.state);
         refused = work(entry);
         return refused == Success && write(entry);
     });
@@ -349,28 +334,26 @@ int Ledger::transact(Entry &entry, Work work, RepeatedWrite *end)
 
 bool Ledger::write(Entry &entry)
 {
-    for (qsizetype i = 0; i < entry.now.calls.size(); ++i)
-        if (!writeCall(entry.now.calls[i], entry, static_cast<std::size_t>(i)))
+    for (RunningCall &call : entry.now.calls)
+        if (!writeCall(call, entry))
             return false;
     return tables.putState(entry.before, entry.now.state) &&
            std::all_of(entry.zeroed.begin(), entry.zeroed.end(),
                        [&](Total total) { return tables.put(total, 0); });
 }
 
-bool Ledger::writeCall(RunningCall &call, const Entry &entry, std::size_t index)
+bool Ledger::writeCall(RunningCall &call, const Entry &entry)
 {
     call.mostMs =
         call.charge == Charge::Limited ? entry.now.state.longestMs(call.tariff, call.units) : std::nullopt;
-    const auto &[ms, units] = entry.passed[index];
-    const auto isOver = [&](const Own<RunningCall> &one) { return one.row.id == call.id && one.ended; };
-    const CallState state =
-        std::any_of(ownCalls.begin(), ownCalls.end(), isOver) ? CallState::Finished : CallState::Running;
+    const auto own = ownOf(ownCalls, call.id);
+    const CallState state = own != ownCalls.end() && own->ended ? CallState::Finished : CallState::Running;
     if (call.id == 0)
         return tables.insert(call) && tables.put(Total::LastTime, 0) && tables.put(Total::LastCost, 0) &&
-               (ms == 0 || tables.addTime(call.kind, call.direction, ms, true));
+               (call.newMs == 0 || tables.addTime(call.kind, call.direction, call.newMs, true));
     return (entry.gone.contains(call.id) || tables.update(call, state)) &&
-           tables.addTime(call.kind, call.direction, ms, call.isLast) &&
-           tables.addCost(call.kind, call.direction, units, call.isLast);
+           tables.addTime(call.kind, call.direction, call.newMs, call.isLast) &&
+           tables.addCost(call.kind, call.direction, call.newUnits, call.isLast);
 }
 
 // In the order of the calls. What has been written is no longer owed, whatever becomes of the rest.
@@ -416,7 +399,7 @@ int Ledger::beginCall(const PastCall &begun, qint64 &id, Charge charge)
     call.direction = begun.direction;
     call.number = begun.number;
     call.startWallMs = begun.startWallMs;
-    call.ms = begun.durationMs;
+    call.ms = call.newMs = begun.durationMs;
     call.charge = charge;
     call.isLate = begun.isLate;
     Entry entry;
@@ -430,7 +413,6 @@ int Ledger::beginCall(const PastCall &begun, qint64 &id, Charge charge)
                 other.isLast = false;
             call.written.goOnUntil(momentsOf(ownCalls).now);
             entry.now.calls.append(call);
-            entry.passed.push_back({call.ms, 0});
             return int{Success};
         },
         nullptr);
@@ -452,29 +434,17 @@ int Ledger::setUnits(qint64 id, quint32 units)
         return status;
     return transact([&](Entry &entry) {
         const auto call = rowOf(entry.now.calls, id);
-        if (call == entry.now.calls.end())
-            return setUnitsOfEnded(id, units);
+        if (call == entry.now.calls.end()) {
+            bool isFound = false;
+            const bool done = tables.raiseUnits(id, units, isFound);
+            return done && !isFound ? int{WrongState} : database->status(done);
+        }
         if (call->charge != Charge::Measured)
             return int{WrongState};
-        const quint32 more = std::max(units, call->units) - call->units;
-        call->units += more;
-        entry.passed[static_cast<std::size_t>(call - entry.now.calls.begin())].units += more;
+        call->newUnits = std::max(units, call->units) - call->units;
+        call->units += call->newUnits;
         return int{Success};
     });
-}
-
-// Within a transaction.
-int Ledger::setUnitsOfEnded(qint64 id, quint32 units)
-{
-    std::optional<EndedCall> call;
-    if (!tables.ended(id, call))
-        return database->status(false);
-    if (!call)
-        return WrongState;
-    const qint64 more = std::max<qint64>(units, call->units) - call->units;
-    const bool done = more == 0 || (tables.addUnits(id, more) &&
-                                    tables.addCost(call->kind, call->direction, more, call->isLast));
-    return database->status(done);
 }
 
 int Ledger::counted(const PastCall &call, qint64 sinceWallMs, Counted &counted)
@@ -571,9 +541,7 @@ int Ledger::endSession(qint64 id, qint64 sent, qint64 received)
 {
     if (!end(ownSessions, id))
         return WrongState;
-    for (Own<SessionRow> &one : ownSessions)
-        if (one.row.id == id)
-            one.more = {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)};
+    ownOf(ownSessions, id)->more = {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)};
     const int status = writeOwedSession();
     changed(Success);
     return status;
@@ -581,12 +549,15 @@ int Ledger::endSession(qint64 id, qint64 sent, qint64 received)
 
 int Ledger::addBytes(qint64 id, qint64 sent, qint64 received)
 {
-    const auto counts = [id](const Own<SessionRow> &one) { return one.row.id == id && !one.ended; };
-    if (std::none_of(ownSessions.begin(), ownSessions.end(), counts))
+    const auto session = ownOf(ownSessions, id);
+    if (session == ownSessions.end() || session->ended)
         return WrongState;
     if (const int status = writeOwedSession())
         return status;
-    return transactSessions({}, nullptr, id, {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)});
+    ownOf(ownSessions, id)->more = {0, std::max<qint64>(sent, 0), std::max<qint64>(received, 0)};
+    const int status = transactSessions({});
+    ownOf(ownSessions, id)->more = {};
+    return status;
 }
 
 int Ledger::counted(const QByteArray &apn, qint64 sinceWallMs, qint64 startWallMs, SessionAmounts &amounts)
@@ -594,9 +565,8 @@ int Ledger::counted(const QByteArray &apn, qint64 sinceWallMs, qint64 startWallM
     return database->status(tables.counted(apn, sinceWallMs, startWallMs, amounts));
 }
 
-// Brings the rows to now, the one with that id by some bytes more; with `end` it writes the ends that are owed.
-int Ledger::transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end, qint64 id,
-                             const SessionAmounts &more)
+// Brings the rows to now, own ones by what they have come to beside; with `end` it writes the ends that are owed.
+int Ledger::transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end)
 {
     QList<SessionRow> sessions;
     QList<qint64> gone;
@@ -607,16 +577,13 @@ int Ledger::transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite 
         for (SessionRow &session : sessions) {
             const SessionAmounts before = session.amounts;
             session.amounts = session.amountsAt(moments.of(session.id));
-            const auto over =
-                std::find_if(ownSessions.constBegin(), ownSessions.constEnd(),
-                             [&](const Own<SessionRow> &one) { return one.row.id == session.id && one.ended; });
-            const bool isOver = over != ownSessions.constEnd();
-            const SessionAmounts &added = isOver ? over->more : session.id == id ? more : SessionAmounts{};
-            session.amounts.sent = saturatingSum(session.amounts.sent, added.sent);
-            session.amounts.received = saturatingSum(session.amounts.received, added.received);
             session.written.goOnUntil(moments.of(session.id));
-            const CallState state = isOver ? CallState::Finished : CallState::Running;
-            const auto &[ms, sent, received] = session.amounts;
+            const auto own = ownOf(ownSessions, session.id);
+            const bool isOwn = own != ownSessions.end();
+            auto &[ms, sent, received] = session.amounts;
+            sent = saturatingSum(sent, isOwn ? own->more.sent : 0);
+            received = saturatingSum(received, isOwn ? own->more.received : 0);
+            const CallState state = isOwn && own->ended ? CallState::Finished : CallState::Running;
             if (!(gone.contains(session.id) || tables.update(session, state)) ||
                 !tables.addToSessions({ms - before.ms, sent - before.sent, received - before.received}))
                 return false;
@@ -684,21 +651,20 @@ int Ledger::card(charging::SimCard &card)
         return database->status(false);
     for (const auto &[id, end] : momentsOf(ownCalls).ends)
         if (const auto call = rowOf(written.calls, id); call != written.calls.end())
-            advance(*call, written.state, end);
+            call->advance(end, written.state);
     card = written.state.card;
     return Success;
 }
 
 quint32 Ledger::dueUnits()
 {
-    Standing standing;
-    if (!tables.read(standing))
-        return 0;
-    const Moments moments = momentsOf(ownCalls);
-    return std::accumulate(standing.calls.begin(), standing.calls.end(), quint32{0},
-                           [&](quint32 sum, RunningCall &call) {
-                               return sum + advance(call, standing.state, moments.of(call.id)).units;
-                           });
+    quint32 due = 0;
+    ask([&](const Standing &now) {
+        for (const RunningCall &call : now.calls)
+            due += call.newUnits;
+        return int{Success};
+    });
+    return due;
 }
 
 int Ledger::sessions(int most, QList<SessionRow> &sessions)
@@ -723,7 +689,7 @@ int Ledger::ask(const std::function<int(const Standing &now)> &look)
         return database->status(false);
     const Moments moments = momentsOf(ownCalls);
     for (RunningCall &call : standing.calls)
-        advance(call, standing.state, moments.of(call.id));
+        call.advance(moments.of(call.id), standing.state);
     for (const auto &ended : moments.ends)
         standing.calls.removeIf([&](const RunningCall &call) { return call.id == ended.first; });
     return look(standing);

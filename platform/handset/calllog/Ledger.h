@@ -159,7 +159,7 @@ private:
     struct Own {
         Row row;
         std::optional<Moment> ended = {}; ///< and that is not written yet
-        SessionAmounts more = {};         ///< nor are these bytes
+        SessionAmounts more = {};         ///< nor are these bytes of a session
     };
     template <typename Row>
     static bool isAnyRunning(const QList<Own<Row>> &own)
@@ -185,11 +185,9 @@ private:
     template <typename Work>
     int transact(Entry &entry, Work work, RepeatedWrite *end);
     bool write(Entry &entry);
-    bool writeCall(RunningCall &call, const Entry &entry, std::size_t index);
+    bool writeCall(RunningCall &call, const Entry &entry);
     bool putHistory(const QList<PastCall> &calls, Charge charge, Entry &entry, qint64 &lastRow);
-    int setUnitsOfEnded(qint64 id, quint32 units);
-    int transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr, qint64 id = 0,
-                         const SessionAmounts &more = {});
+    int transactSessions(std::initializer_list<Total> zeroed, RepeatedWrite *end = nullptr);
     int writeOwedCall();
     int writeOwedSession();
     int find(Traces &traces);

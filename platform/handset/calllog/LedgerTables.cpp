@@ -61,7 +61,7 @@ constexpr auto addCostsSql = "UPDATE costs SET units = min(9223372036854775807, 
 constexpr auto endedCallSql =
     "SELECT kind, direction, units, NOT EXISTS (SELECT 1 FROM calls AS later WHERE later.id"
     " > calls.id AND later.state <> 2) FROM calls WHERE id = ? AND state IN (1, 3)";
-constexpr auto addUnitsSql = "UPDATE calls SET units = min(9223372036854775807, units + ?) WHERE id = ?";
+constexpr auto putUnitsSql = "UPDATE calls SET units = ? WHERE id = ?";
 constexpr auto addSessionsSql =
     "UPDATE session_totals SET value = min(9223372036854775807, value + CASE counter WHEN 'duration' THEN ?"
     " WHEN 'sent' THEN ? ELSE ? END)";
@@ -169,6 +169,16 @@ quint32 RunningCall::dueAfter(qint64 more) const
         return 0;
     const quint32 cost = tariff.units(charging::CallLeg{saturatingSum(ms, more), 0});
     return cost - std::min(cost, units);
+}
+
+void RunningCall::advance(const Moment &to, charging::ChargingState &state)
+{
+    newMs = passedUntil(to);
+    newUnits = dueAfter(newMs);
+    ms = saturatingSum(ms, newMs);
+    units += newUnits;
+    written.goOnUntil(to);
+    state.charge(newUnits);
 }
 
 SessionAmounts SessionRow::amountsAt(const Moment &now) const
@@ -288,22 +298,20 @@ bool LedgerTables::update(const RunningCall &call, CallState state)
                                 nothing, nothing, nothing, nothing, call.id);
 }
 
-bool LedgerTables::ended(qint64 id, std::optional<EndedCall> &call)
+bool LedgerTables::raiseUnits(qint64 id, qint64 units, bool &isFound)
 {
-    call.reset();
+    Statement &row = database.statement(endedCallSql);
     if (!database.run(endedCallSql, id))
         return false;
-    Statement &row = database.statement(endedCallSql);
-    if (row.hasRow())
-        call = EndedCall{static_cast<CallKind>(row.number(0)), static_cast<CallDirection>(row.number(1)),
-                         row.number(2), row.number(3) != 0};
+    isFound = row.hasRow();
+    if (!isFound)
+        return true;
+    const auto kind = static_cast<CallKind>(row.number(0));
+    const auto direction = static_cast<CallDirection>(row.number(1));
+    const qint64 more = units - row.number(2);
+    const bool isLast = row.number(3) != 0;
     row.finish();
-    return true;
-}
-
-bool LedgerTables::addUnits(qint64 id, qint64 more)
-{
-    return database.runOn(1, addUnitsSql, more, id);
+    return more <= 0 || (database.runOn(1, putUnitsSql, units, id) && addCost(kind, direction, more, isLast));
 }
 
 bool LedgerTables::closeInterrupted()

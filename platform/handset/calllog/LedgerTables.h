@@ -62,19 +62,15 @@ struct RunningCall {
     Charge charge = Charge::Limited;
     bool isLast = true; ///< none has been connected since
     bool isLate = false;
+    qint64 newMs = 0;     ///< of those that it has lasted: not in the totals yet
+    quint32 newUnits = 0; ///< the same of those charged
 
+    /// Brings it to a moment, and charges what has become due until then.
+    void advance(const Moment &to, charging::ChargingState &state);
     /// How long it has lasted at that moment, beyond `ms`.
     qint64 passedUntil(const Moment &now) const;
     /// What has become due after `more` ms beyond `ms`.
     quint32 dueAfter(qint64 more) const;
-};
-
-/// What the row of a call that is over says of its costs.
-struct EndedCall {
-    CallKind kind = CallKind::Voice;
-    CallDirection direction = CallDirection::Dialed;
-    qint64 units = 0;
-    bool isLast = false; ///< none has been connected since
 };
 
 /// What rows have counted of a call already.
@@ -136,10 +132,9 @@ public:
     bool insert(RunningCall &call);
     /// How far it is, and its end where `state` is not Running.
     bool update(const RunningCall &call, CallState state);
-    /// Nothing for one that runs, was never connected, or is not there.
-    bool ended(qint64 id, std::optional<EndedCall> &call);
-    /// To the row alone.
-    bool addUnits(qint64 id, qint64 more);
+    /// A call that is over, and was connected, costs so many units, or more already; `isFound` is false where there is
+    /// none.
+    bool raiseUnits(qint64 id, qint64 units, bool &isFound);
     /// Closes what a recorder has left that is no more: calls and sessions, with what is written of them.
     bool closeInterrupted();
 
