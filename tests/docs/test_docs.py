@@ -198,6 +198,11 @@ class Commands(Case):
             words.pop(0)
         if words[0] in PROGRAMS:
             self.check_program(page, words, is_sample)
+        elif "lupdate" in words[0]:
+            words[-1] = str(self.scratch / words[-1])
+            words[1] = str(SOURCE / words[1])
+            self.run_it(*words)
+            self.assertIn("<context>", pathlib.Path(words[-1]).read_text())
         elif words[0] in ("cmake", "ctest"):
             self.check_preset(page, words)
         elif "/tests/tst_" in words[0]:
