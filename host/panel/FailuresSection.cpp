@@ -1,5 +1,7 @@
 #include "host/panel/FailuresSection.h"
 
+#include "handset/Status.h"
+#include "host/StatusText.h"
 #include "host/panel/Controls.h"
 
 #include <QtWidgets/QComboBox>
@@ -15,7 +17,7 @@ namespace host {
 
 namespace {
 
-constexpr int usualCode = 3;
+constexpr int usualCode = handset::StorageFailed;
 constexpr int operationRole = Qt::UserRole;
 
 QString nameOf(std::size_t index)
@@ -28,13 +30,25 @@ QString breakableAtColons(QString name)
     return name.replace(QStringLiteral("::"), QStringLiteral("::\u200b"));
 }
 
+// A status by its name, or any other number that a handset may answer.
+class StatusBox : public QSpinBox
+{
+protected:
+    QString textFromValue(int value) const override { return statusName(value); }
+    int valueFromText(const QString &text) const override { return statusNamed(text).value_or(value()); }
+    QValidator::State validate(QString &text, int &) const override
+    {
+        return statusNamed(text) ? QValidator::Acceptable : QValidator::Intermediate;
+    }
+};
+
 } // namespace
 
 FailuresSection::FailuresSection(Faults &handsetFaults)
     : PanelSection(tr("Failures"))
     , faults(handsetFaults)
     , operation(makeChoice("operation", tr("Operation"), {}))
-    , code(new QSpinBox)
+    , code(new StatusBox)
     , addButton(makeButton(tr("Let it &fail"), tr("From now on the operation only answers the code")))
     , failing(new QListWidget)
     , removeButton(makeButton(tr("&Remove"), tr("The chosen operation works again")))
@@ -59,7 +73,7 @@ void FailuresSection::prepareControls()
     operation->setToolTip(tr("What the phone's libraries ask of the telephone"));
     code->setObjectName(QStringLiteral("failure code"));
     code->setAccessibleName(tr("Code"));
-    code->setToolTip(tr("What the operation answers; not 0, which is success"));
+    code->setToolTip(tr("What the operation answers: a name, or a number; not Success"));
     code->setRange(std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
     code->setValue(usualCode);
     code->setFocusPolicy(Qt::StrongFocus);
@@ -123,7 +137,7 @@ void FailuresSection::fillList()
             continue;
         const QString name = nameOf(static_cast<std::size_t>(index));
         auto *item = new QListWidgetItem(
-            QStringLiteral("%1: %2").arg(breakableAtColons(name)).arg(faults.code(index)), failing);
+            QStringLiteral("%1: %2").arg(breakableAtColons(name), statusName(faults.code(index))), failing);
         item->setToolTip(name);
         item->setData(operationRole, index);
     }

@@ -1060,9 +1060,13 @@ void TestPanel::operationsFailAndWorkAgain()
     click("Let it fail");
     QCOMPARE(faults.code(dataCalls), -2);
     QCOMPARE(failing(), (QStringList{"CallLog::lastCallTime: 17", "DataCalls::refreshTotals: -2"}));
-    enter("failure code", "-3");
+    enter("failure code", "NotAllowed");
     click("Let it fail"); // another code for the same
-    QCOMPARE(failing().last(), "DataCalls::refreshTotals: -3");
+    QCOMPARE(faults.code(dataCalls), 6);
+    QCOMPARE(failing().last(), "DataCalls::refreshTotals: NotAllowed");
+    enter("failure code", "4");
+    QTest::keyClick(control<QSpinBox>("failure code"), Qt::Key_Return);
+    QCOMPARE(control<QSpinBox>("failure code")->text(), "WrongState");
     control<QListWidget>("failing")->setCurrentRow(1);
     click("Remove");
     QCOMPARE(failing(), QStringList{"CallLog::lastCallTime: 17"});
