@@ -1,6 +1,8 @@
 // Puts the call log through scenes in which a call of the system fails, or the process is killed at it: every call of
 // every scene in every way, or a sample of all that. After each one a judge opens the directory without faults.
+#include "handset/calllog/faults/FaultBytes.h"
 #include "handset/calllog/faults/FaultJudge.h"
+#include "handset/calllog/faults/FaultProcess.h"
 #include "handset/calllog/faults/FaultScenes.h"
 #include "support/Sample.h"
 #include "support/faults/SystemFaults.h"
@@ -26,7 +28,7 @@ using namespace handset::faults;
 
 namespace {
 
-constexpr unsigned mostSeconds = 120; ///< for a scene and its judge: who takes longer hangs
+constexpr qsizetype allBytes = 5000; ///< that are tried where all is
 
 struct Way {
     const char *name;
@@ -75,6 +77,9 @@ struct Asked {
     quint32 seed = 1;
     int jobs = 1;
     bool isVerbose = false;
+    qsizetype bytes = 0; ///< positions to be changed instead
+    qint64 at = -1;
+    int value = 0;
 };
 
 struct Prepared {
@@ -83,32 +88,6 @@ struct Prepared {
 };
 
 // --- one injection
-
-// In a process of its own, as one that hangs or breaks is to be told, too. Returns how it ended; -1 where it had to be
-// killed. The other process of a scene has ended as well, then.
-template <typename Work>
-int inProcess(Work work)
-{
-    int lives[2] = {-1, -1};
-    if (::pipe(lives) != 0)
-        return -1;
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::close(lives[0]);
-        ::alarm(mostSeconds);
-        work();
-        std::fflush(nullptr);
-        ::_exit(0);
-    }
-    ::close(lives[1]);
-    int status = -1;
-    ::waitpid(child, &status, 0);
-    char none = 0;
-    while (::read(lives[0], &none, 1) > 0) {
-    }
-    ::close(lives[0]);
-    return status;
-}
 
 Outcome inject(const Scene &scene, const Before &before, const Fault &fault, Journal &journal, Journal &verdict)
 {
@@ -316,6 +295,9 @@ bool read(QCoreApplication &application, Asked &asked)
     option("nth", "Only the n-th such call.", "n");
     option("sample", "Tries no more than so many, some of each kind.", "number");
     option("seed", "Chooses the sample.", "number");
+    option("bytes", "Changes a byte at each of so many positions of a log, instead.", "number");
+    option("at", "The same, at this position alone, to --value.", "position");
+    option("value", "0 to 255.", "number");
     option("jobs", "So many at once.", "number");
     parser.addOption({QStringLiteral("verbose"), QStringLiteral("Prints what the processes of each scene say.")});
     parser.addOption({QStringLiteral("list"), QStringLiteral("Lists the scenes.")});
@@ -324,10 +306,14 @@ bool read(QCoreApplication &application, Asked &asked)
     asked.call = parser.value(QStringLiteral("call")).toUtf8();
     asked.error = parser.value(QStringLiteral("error")).toUtf8();
     asked.nth = parser.value(QStringLiteral("nth")).toLong();
-    asked.sample = qEnvironmentVariableIsSet("KAV_ALL_FAULTS")
-                       ? 0
-                       : parser.value(QStringLiteral("sample")).toLongLong() / sampleStride(6);
+    const bool isAll = qEnvironmentVariableIsSet("KAV_ALL_FAULTS");
+    asked.sample = isAll ? 0 : parser.value(QStringLiteral("sample")).toLongLong() / sampleStride(6);
     asked.seed = std::max(1u, parser.value(QStringLiteral("seed")).toUInt());
+    asked.bytes = parser.value(QStringLiteral("bytes")).toLongLong() / sampleStride(6);
+    if (asked.bytes > 0 && isAll)
+        asked.bytes = std::max(asked.bytes, allBytes);
+    asked.at = parser.isSet(QStringLiteral("at")) ? parser.value(QStringLiteral("at")).toLongLong() : -1;
+    asked.value = parser.value(QStringLiteral("value")).toInt();
     asked.jobs = std::max(1, parser.value(QStringLiteral("jobs")).toInt());
     asked.isVerbose = parser.isSet(QStringLiteral("verbose"));
     return !parser.isSet(QStringLiteral("list"));
@@ -340,6 +326,8 @@ int main(int argc, char **argv)
     QCoreApplication application(argc, argv);
     Asked asked;
     const bool isRun = read(application, asked);
+    if (asked.bytes > 0 || asked.at >= 0)
+        return changeBytes(asked.bytes, asked.seed, asked.at, asked.value);
     Prepared prepared{allScenes(), {}};
     for (const Scene &scene : prepared.scenes) {
         if (!isRun)
