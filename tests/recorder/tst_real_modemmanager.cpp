@@ -1,6 +1,6 @@
 // The recorder over Debian's ModemManager and the AT modem.
 #include "handset/live/RealModemManager.h"
-#include "recorder/RecorderProcess.h"
+#include "recorder/LiveTour.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QElapsedTimer>
@@ -21,14 +21,14 @@ class TestRecorderOverModemManager : public QObject
     Q_OBJECT
 
 private slots:
-    void aCallThatComesInIsRecordedWithoutAWindow();
+    void aCallThatComesInIsRecordedAndShown();
 };
 
 #define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), manager.story().constData())
 
 // How long it has been on is held against what is certain on any machine: no less than between its row and the word to
 // hang up, no more than from the word to take it to the end of its row.
-void TestRecorderOverModemManager::aCallThatComesInIsRecordedWithoutAWindow()
+void TestRecorderOverModemManager::aCallThatComesInIsRecordedAndShown()
 {
     RealModemManager manager;
     RecorderProcess bench;
@@ -60,6 +60,10 @@ void TestRecorderOverModemManager::aCallThatComesInIsRecordedWithoutAWindow()
     bench.end(SIGTERM);
     QCOMPARE(bench.recorder.exitCode(), 0);
     QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
+
+    const HostResult tour = playLiveTour(bench, QStringLiteral("modemmanager"), manager.busAddress());
+    QVERIFY2(tour.code == 0, qPrintable(tour.output + tour.errors));
+    QCOMPARE(tour.errors, QString());
 }
 
 KAV_TEST_GROUP(TestRecorderOverModemManager, QCoreApplication);

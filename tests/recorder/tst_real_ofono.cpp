@@ -1,6 +1,6 @@
 // The recorder over Debian's ofonod and the AT modem.
 #include "handset/live/RealOfono.h"
-#include "recorder/RecorderProcess.h"
+#include "recorder/LiveTour.h"
 #include "support/TestGroup.h"
 
 using namespace handset::test;
@@ -22,12 +22,12 @@ class TestRecorderOverOfono : public QObject
     Q_OBJECT
 
 private slots:
-    void callsBothWaysAreRecordedWithoutAWindowAndToldOnce();
+    void callsBothWaysAreRecordedToldOnceAndShown();
 };
 
 #define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), daemon.story().constData())
 
-void TestRecorderOverOfono::callsBothWaysAreRecordedWithoutAWindowAndToldOnce()
+void TestRecorderOverOfono::callsBothWaysAreRecordedToldOnceAndShown()
 {
     RealOfono daemon;
     QVERIFY2(daemon.bringUp(), daemon.story().constData());
@@ -84,6 +84,10 @@ void TestRecorderOverOfono::callsBothWaysAreRecordedWithoutAWindowAndToldOnce()
     QCOMPARE(told.count(changedMessage), 2 * 3);
     listener.terminate();
     QVERIFY(listener.waitForFinished(limitMs));
+
+    const HostResult tour = playLiveTour(bench, QStringLiteral("ofono"), daemon.busAddress());
+    QVERIFY2(tour.code == 0, qPrintable(tour.output + tour.errors));
+    QCOMPARE(tour.errors, QString());
 }
 
 KAV_TEST_GROUP(TestRecorderOverOfono, QCoreApplication);
