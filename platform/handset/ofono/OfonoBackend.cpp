@@ -1,4 +1,4 @@
-// The backend "ofono": the telephone is a modem behind oFono.
+// The backend "ofono": the handset is a modem behind oFono.
 #include "handset/Backend.h"
 #include "ofono/OfonoHandset.h"
 

@@ -1,4 +1,4 @@
-// The telephone behind oFono, with the SIM's advice of charge where the modem has it.
+// The handset behind oFono, with the SIM's advice of charge where the modem has it.
 #pragma once
 
 #include "live/LiveHandset.h"
