@@ -31,7 +31,8 @@ using Await = void (*)(const std::function<void()> &here, Awaited &awaited);
     }
 
 /// May stand beside it: `isPresent` is a `bool isPresent(int longestMs)`, `await` a
-/// `handset::Awaited await(const std::function<void()> &here)`. A backend without it is used only by its name.
+/// `handset::Awaited await(const std::function<void()> &here)`, whose watch may come with an
+/// error. A backend without it is used only by its name.
 #define KAV_HANDSET_PRESENCE(isPresent, await)                                                                    \
     extern "C" Q_DECL_EXPORT bool kavHandsetIsPresent(int longestMs)                                              \
     {                                                                                                             \

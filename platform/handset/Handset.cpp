@@ -219,6 +219,7 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here)
 {
     const auto watches = std::make_shared<std::vector<std::shared_ptr<void>>>();
     QString error = QStringLiteral("There is no telephone that has a modem.");
+    bool isBusThere = false;
     const QStringList names = backendNames();
     for (const QString &name : names) {
         const auto await = exported<Await>(name, "kavHandsetAwait");
@@ -226,12 +227,15 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here)
             continue;
         Awaited awaited;
         await([here, name] { here(name); }, awaited);
+        // A bus that was too slow for one of them is looked for again.
         if (awaited.watch)
             watches->push_back(std::move(awaited.watch));
+        if (awaited.error.isEmpty())
+            isBusThere = true;
         else
             error = awaited.error;
     }
-    return watches->empty() ? Awaited{nullptr, error} : Awaited{watches, {}};
+    return isBusThere ? Awaited{watches, {}} : Awaited{nullptr, error};
 }
 
 Opened open(const Settings &settings)

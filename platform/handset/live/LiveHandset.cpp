@@ -159,8 +159,7 @@ void LiveHandset::checkBeside(const QString &file, const std::function<void(cons
 // Queued: whoever is called may end the wait.
 Awaited await(std::unique_ptr<Modem> modem, const std::function<void()> &here)
 {
-    if (const QString error = modem->connectToBus(); !error.isEmpty())
-        return {nullptr, error};
+    const QString error = modem->connectToBus();
     const std::shared_ptr<Modem> awaited = std::move(modem);
     const auto tell = [modem = awaited.get(), here] {
         if (modem->state().isThere)
@@ -168,7 +167,7 @@ Awaited await(std::unique_ptr<Modem> modem, const std::function<void()> &here)
     };
     QObject::connect(awaited.get(), &Modem::stateChanged, awaited.get(), tell, Qt::QueuedConnection);
     awaited->start();
-    return {awaited, {}};
+    return {awaited, error};
 }
 
 Opened open(const Settings &settings, std::unique_ptr<Modem> modem)

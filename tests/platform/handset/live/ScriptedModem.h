@@ -12,12 +12,14 @@ class ScriptedModem final : public live::Modem
 public:
     QString daemon() const override { return QStringLiteral("script"); }
     live::ModemState state() const override { return {true, QStringLiteral("Modem"), {}, {}}; }
+    QString connectToBus() override { return busError; }
     void start() override { asked << QStringLiteral("start"); }
     int dial(const QString &number) override { return note(QStringLiteral("dial ") + number); }
     int answer(const QString &id) override { return note(QStringLiteral("answer ") + id); }
     int hangUp(const QString &id) override { return note(QStringLiteral("hang up ") + id); }
 
     QStringList asked;
+    QString busError; ///< at the start
 
 private:
     int note(const QString &what)

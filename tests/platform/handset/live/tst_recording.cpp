@@ -83,6 +83,8 @@ class TestRecording : public QObject
 private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
+    void aBusThatIsSilentAtTheStartIsWaitedFor();
+
     void aDialedCallCountsFromItsConnection();
     void anAnsweredCallIsTheOtherSides();
     void aCallThatIsNotTakenIsLoggedWithoutTime_data();
@@ -720,6 +722,20 @@ void TestRecording::theOwnTariffChargesCallsAndEndsNone()
     desk.call(one, CallPhase::Over);
     QCOMPARE(desk.calls(), QStringLiteral("0:5550123:120000:1"));
     QVERIFY(desk.modem->asked == QStringList{QStringLiteral("start")});
+}
+
+// The bus of one daemon may have been too busy to answer in time, and that of the other, which is the same, not.
+void TestRecording::aBusThatIsSilentAtTheStartIsWaitedFor()
+{
+    auto late = std::make_unique<ScriptedModem>();
+    late->busError = QStringLiteral("it does not answer");
+    ScriptedModem &modem = *late;
+    bool isHere = false;
+    const Awaited awaited = live::await(std::move(late), [&] { isHere = true; });
+    QCOMPARE(awaited.error, QStringLiteral("it does not answer"));
+    QVERIFY(awaited.watch);
+    emit modem.stateChanged();
+    QTRY_VERIFY(isHere);
 }
 
 KAV_TEST_GROUP(TestRecording, QCoreApplication);
