@@ -12,7 +12,7 @@ import tempfile
 import unittest
 
 SOURCE, BUILD, CMAKE, COMPILER = sys.argv[1:5]
-PROGRAMS = ("kavrecentcalls", "kavqcop", "kavcallrecorder")
+PROGRAMS = ("kavrecentcalls", "kavqcop", "kavcallrecorder", "kavmeter")
 scratch = None
 tree = None
 
