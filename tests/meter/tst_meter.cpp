@@ -80,6 +80,7 @@ class TestMeter : public QObject
 
 private slots:
     void figuresAreThoseOfTheTelephone();
+    void theScreensShowTheSameNumbers();
     void whatATelephoneHasNotIsNoZero();
     void figuresArePrintedForAPersonAndForASpreadsheet();
     void aReaderMakesNoState();
@@ -113,6 +114,48 @@ void TestMeter::figuresAreThoseOfTheTelephone()
     QCOMPARE(figure(ran, "bytes-sent").toInt(), 12'000);
     QCOMPARE(figure(ran, "bytes-received").toInt(), 120'000);
     QCOMPARE(figure(ran, "bytes-total").toInt(), 132'000);
+}
+
+// The phone's own application reads what its screens show out of a script: here the script says what kavmeter has printed.
+void TestMeter::theScreensShowTheSameNumbers()
+{
+    const StateDir state;
+    makeHistory(state.path());
+    {
+        Phone phone(state.path());
+        QVERIFY(phone);
+        QVERIFY(phone.dialed(71 * second + 999, CallKind::Data));
+        QCOMPARE(phone->charging().topUp(QStringLiteral("50"), Date{2027, 3, 1}), int{Success});
+    }
+    const auto shown = [&](const char *name) {
+        const QByteArray output = run(state.path(), {"figures", QString::fromLatin1(name)}).output;
+        return QString::fromUtf8(output).section(u'\n', 1, 1).mid(static_cast<int>(qstrlen(name))).simplified();
+    };
+    QString script = QStringLiteral("state kept\nopen callTime\n");
+    const auto expect = [&](int row, const char *title, const char *name) {
+        script += QStringLiteral("expect row %1 %2 | %3\n").arg(row).arg(QLatin1String(title), shown(name));
+    };
+    expect(0, "Last Call", "last-time");
+    expect(1, "Dialed Calls", "dialed-time");
+    expect(2, "Answered Calls", "answered-time");
+    expect(3, "Data Calls", "data-call-time");
+    expect(4, "All Calls", "all-time");
+    expect(5, "Lifetime Calls", "lifetime");
+    script += QStringLiteral("press clear\nopen callCost\n");
+    expect(0, "Credit Available", "credit");
+    expect(2, "Last Deposit", "deposit");
+    expect(3, "Last Call Cost", "last-cost");
+    expect(4, "Dialed Calls Cost", "dialed-cost");
+    expect(5, "Answered Calls Cost", "answered-cost");
+    expect(6, "All Calls Cost", "all-cost");
+    const QString file = state.sibling(QStringLiteral("screens.tour"));
+    QVERIFY(write(file, script.toUtf8()));
+    QProcess phone;
+    phone.start(QStringLiteral(KAV_HOST),
+                {"--state", state.path(), "--tour", state.sibling(QStringLiteral("photos")), "--script", file});
+    QVERIFY(phone.waitForFinished(60'000));
+    QVERIFY2(phone.exitCode() == 0, phone.readAllStandardError() + script.toUtf8());
+    QCOMPARE(shown("last-time"), QStringLiteral("00:01:11"));
 }
 
 void TestMeter::whatATelephoneHasNotIsNoZero()
