@@ -74,6 +74,8 @@ void describe(QCommandLineParser &parser)
         {QStringLiteral("cycle-day"),
          QStringLiteral("The billing cycle begins on day N, 1 to 28; totals by cycle."), QStringLiteral("N"),
          QStringLiteral("1")},
+        {QStringLiteral("keep-calls"), QStringLiteral("With delete all: keep the calls of the last DAYS days."),
+         QStringLiteral("DAYS")},
         {QStringLiteral("alert"),
          QStringLiteral("COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N "
                         "seconds or more, or N bytes or more have gone both ways."),
@@ -130,6 +132,20 @@ QString readPeriod(const QCommandLineParser &parser, Options &options)
     return {};
 }
 
+QString readKeptDays(const QCommandLineParser &parser, Options &options)
+{
+    if (!parser.isSet(QStringLiteral("keep-calls")))
+        return {};
+    constexpr int mostDays = 100'000;
+    bool isNumber = false;
+    options.keptDays = parser.value(QStringLiteral("keep-calls")).toInt(&isNumber);
+    if (!isNumber || *options.keptDays < 0 || *options.keptDays > mostDays)
+        return QStringLiteral("Option 'keep-calls' wants a number of days.");
+    if (parser.positionalArguments() != QStringList{QStringLiteral("delete"), QStringLiteral("all")})
+        return QStringLiteral("Option 'keep-calls' goes with delete all.");
+    return {};
+}
+
 QString readCommand(const QCommandLineParser &parser, Options &options)
 {
     options.words = parser.positionalArguments();
@@ -170,6 +186,8 @@ QString read(const QCommandLineParser &parser, Options &options)
     if (QString mistake = readAlert(parser, options); !mistake.isEmpty())
         return mistake;
     if (QString mistake = readPeriod(parser, options); !mistake.isEmpty())
+        return mistake;
+    if (QString mistake = readKeptDays(parser, options); !mistake.isEmpty())
         return mistake;
     return readCommand(parser, options);
 }

@@ -24,6 +24,7 @@ struct Options {
     Format format = Format::Table;
     bool isSure = false;
     bool watches = false;
+    std::optional<int> keptDays; ///< what is begun in these last days is not deleted
     By by = By::Month;
     int cycleDay = 1;
     std::optional<Alert> alert;

@@ -14,6 +14,7 @@
 #include "process/EndSignals.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QTextStream>
@@ -211,8 +212,11 @@ int deleteRows(const Options &options)
         return complain(ExitBadCommandLine, QStringLiteral("delete wants the id of a call, or all."));
     return withLedger(options, [&](handset::calllog::Ledger &ledger) {
         qint64 count = 0;
+        handset::calllog::Period period;
+        if (options.keptDays)
+            period.until = QDateTime::currentDateTime().addDays(-*options.keptDays).toMSecsSinceEpoch();
         return report(options, id > 0 ? handset::calllog::deleteCall(ledger, id)
-                                      : handset::calllog::deleteCalls(ledger, {}, count));
+                                      : handset::calllog::deleteCalls(ledger, period, count));
     });
 }
 

@@ -91,6 +91,7 @@ private slots:
     void exitCodesTellOfLimitsAndAlerts();
     void callsAndTotalsAreThoseThatAreKept();
     void aDeletedCallLeavesTheTotals();
+    void whatIsYoungerThanTheDaysToKeepIsKept();
     void anExportedStateIsImportedExactly();
     void aFileThatIsNoStateChangesNothing_data();
     void aFileThatIsNoStateChangesNothing();
@@ -204,6 +205,7 @@ void TestMeter::wrongCommandLinesAreTold_data()
     QTest::newRow("an alert without a number") << QStringList{"--alert", "COST", "much"};
     QTest::newRow("a reset without --yes") << QStringList{"reset", "dialed-time"};
     QTest::newRow("a deletion without --yes") << QStringList{"delete", "all"};
+    QTest::newRow("days to keep without a deletion") << QStringList{"calls", "--keep-calls", "3"};
     QTest::newRow("a call that is no number") << QStringList{"--yes", "delete", "first"};
 }
 
@@ -303,6 +305,24 @@ void TestMeter::aDeletedCallLeavesTheTotals()
     QCOMPARE(after.error, QByteArray()); // nothing is taken for damage
     QCOMPARE(after.output, figures);
     QCOMPARE(rowsOf(run(state.path(), {"calls", "--json"})).size(), 0);
+}
+
+void TestMeter::whatIsYoungerThanTheDaysToKeepIsKept()
+{
+    const StateDir state;
+    const QDateTime now = QDateTime::currentDateTime();
+    for (const int daysAgo : {40, 31, 29}) {
+        Phone phone(state.path(), std::make_shared<ManualClock>(now.addDays(-daysAgo).toMSecsSinceEpoch()));
+        QVERIFY(phone);
+        QVERIFY(phone.dialed(daysAgo * second));
+    }
+    QCOMPARE(run(state.path(), {"delete", "all", "--keep-calls", "30"}).code, 2);
+    QCOMPARE(rowsOf(run(state.path(), {"calls", "--json"})).size(), 3);
+    QCOMPARE(run(state.path(), {"delete", "all", "--keep-calls", "30", "--yes"}).code, 0);
+    const QJsonArray calls = rowsOf(run(state.path(), {"calls", "--json"}));
+    QCOMPARE(calls.size(), 1);
+    QCOMPARE(calls[0][u"time"].toInt(), 29);
+    QCOMPARE(figure(run(state.path(), {"--json"}), "dialed-time").toInt(), 100);
 }
 
 void TestMeter::anExportedStateIsImportedExactly()
