@@ -5,9 +5,15 @@
 
 #include <QtCore/QDateTime>
 
+#include <algorithm>
+#include <initializer_list>
+
 namespace host {
 
 using handset::CallKind;
+using handset::CallPhase;
+using handset::LineCall;
+using handset::LineReport;
 using Card = handset::charging::SimCard;
 using Charging = handset::simulated::Charging;
 using LineState = Line::SimulatedHandset::LineState;
@@ -34,6 +40,78 @@ LineState neededState(Line::Action action)
         break;
     }
     return LineState::Connected;
+}
+
+QString phaseText(const LineCall &call)
+{
+    switch (call.phase) {
+    case CallPhase::Dialing:
+    case CallPhase::Alerting:
+        return Line::tr("Dialing");
+    case CallPhase::Incoming:
+        return Line::tr("Ringing");
+    case CallPhase::Waiting:
+        return Line::tr("Waiting");
+    case CallPhase::Held:
+        return Line::tr("On hold %1").arg(clockText(call.connectedMs / 1000));
+    case CallPhase::Active:
+    case CallPhase::Over:
+        break;
+    }
+    return Line::tr("Connected %1").arg(clockText(call.connectedMs / 1000));
+}
+
+// The first call in the earliest of `phases` that has one; null when none is in any.
+const LineCall *callIn(const LineReport &report, std::initializer_list<CallPhase> phases)
+{
+    for (const CallPhase phase : phases) {
+        for (const LineCall &call : report.calls) {
+            if (call.phase == phase)
+                return &call;
+        }
+    }
+    return nullptr;
+}
+
+// What each key is for: null when no call is.
+const LineCall *callToAnswer(const LineReport &report)
+{
+    return callIn(report, {CallPhase::Incoming, CallPhase::Waiting});
+}
+
+const LineCall *callToEnd(const LineReport &report)
+{
+    return callIn(report, {CallPhase::Dialing, CallPhase::Alerting, CallPhase::Incoming, CallPhase::Active,
+                           CallPhase::Held, CallPhase::Waiting});
+}
+
+bool permitsOnModem(const LineReport &report, Line::Action action)
+{
+    switch (action) {
+    case Line::Action::Dial: // a second one, too: the first is put on hold by the network
+        return report.hasModem && !callIn(report, {CallPhase::Dialing, CallPhase::Alerting, CallPhase::Incoming});
+    case Line::Action::Answer:
+        return callToAnswer(report) != nullptr;
+    case Line::Action::HangUp:
+        return callToEnd(report) != nullptr;
+    case Line::Action::DialData:
+    case Line::Action::RemoteAnswer:
+    case Line::Action::Ring:
+        break;
+    }
+    return false;
+}
+
+QString describe(const LineReport &report)
+{
+    if (!report.hasModem)
+        return Line::tr("No modem");
+    QStringList calls;
+    for (const LineCall &call : report.calls) {
+        const QString number = call.number.isEmpty() ? Line::tr("number withheld") : call.number;
+        calls << phaseText(call) + QStringLiteral(", ") + number;
+    }
+    return calls.isEmpty() ? Line::tr("Idle") : calls.join(QLatin1Char('\n'));
 }
 
 QString stateWord(LineState state, qint64 connectedMs)
@@ -85,9 +163,32 @@ QString clockText(qint64 seconds)
 Line::Line(std::shared_ptr<handset::Handset> opened)
     : owner(std::move(opened))
     , simulated(dynamic_cast<SimulatedHandset *>(owner.get()))
+    , control(owner ? owner->lineControl() : nullptr)
 {
     if (auto *const tells = dynamic_cast<QObject *>(owner.get()))
         connect(tells, SIGNAL(changed()), this, SIGNAL(changed()));
+    if (control) {
+        control->setRefusalListener([this](const QString &why) {
+            lastFailure = why;
+            emit changed();
+        });
+    }
+}
+
+Line::~Line()
+{
+    if (control)
+        control->setRefusalListener({});
+}
+
+bool Line::isCounting() const
+{
+    if (control) {
+        const LineReport report = control->report();
+        return !report.sessions.isEmpty() || callIn(report, {CallPhase::Active, CallPhase::Held});
+    }
+    return simulated &&
+           (simulated->lineState() == LineState::Connected || simulated->packets().isSessionRunning());
 }
 
 void Line::setNumber(const QString &number)
@@ -126,12 +227,16 @@ void Line::takeBackDigit()
 
 bool Line::permits(Action action) const
 {
+    const bool needsNumber = action == Action::Dial || action == Action::DialData;
+    if (needsNumber && nextNumber.isEmpty())
+        return false;
+    if (control)
+        return permitsOnModem(control->report(), action);
     if (!simulated)
         return false;
     if (action == Action::HangUp)
         return simulated->lineState() != LineState::Idle;
-    const bool needsNumber = action == Action::Dial || action == Action::DialData;
-    return simulated->lineState() == neededState(action) && !(needsNumber && nextNumber.isEmpty());
+    return simulated->lineState() == neededState(action);
 }
 
 void Line::perform(Action action)
@@ -139,7 +244,7 @@ void Line::perform(Action action)
     if (!permits(action))
         return;
     typing = false;
-    finish(run(action));
+    finish(control ? runOnModem(action) : run(action));
 }
 
 int Line::run(Action action)
@@ -159,6 +264,25 @@ int Line::run(Action action)
         break;
     }
     return simulated->hangUp();
+}
+
+// Only of what permits() allows.
+int Line::runOnModem(Action action)
+{
+    const LineReport report = control->report();
+    switch (action) {
+    case Action::Dial:
+        return control->dial(nextNumber);
+    case Action::Answer:
+        return control->answer(callToAnswer(report)->id);
+    case Action::HangUp:
+        return control->hangUp(callToEnd(report)->id);
+    case Action::DialData:
+    case Action::RemoteAnswer:
+    case Action::Ring:
+        break;
+    }
+    return handset::NotAvailable;
 }
 
 void Line::pressCallKey()
@@ -185,6 +309,8 @@ void Line::finish(int status)
 
 QString Line::describeState() const
 {
+    if (control)
+        return describe(control->report());
     if (!simulated)
         return tr("This telephone cannot be driven from here.");
     const LineState state = simulated->lineState();

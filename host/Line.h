@@ -1,6 +1,7 @@
 // The telephone line as the panel and the keypad drive it.
 #pragma once
 
+#include "handset/LineControl.h"
 #include "simulated/SimulatedHandset.h"
 
 #include <QtCore/QObject>
@@ -22,12 +23,18 @@ public:
 
     static constexpr int longestNumber = 80;
 
-    /// `handset` need not be a simulated handset: then the line cannot be driven.
+    /// A simulated handset is driven whole. Of one with a LineControl what a modem does: dialing, answering, hanging up.
+    /// Another one cannot be driven.
     explicit Line(std::shared_ptr<handset::Handset> handset);
+    ~Line() override;
 
     handset::Handset &handset() const { return *owner; }
     /// Null when the handset behind is another than the simulated one.
     SimulatedHandset *simulatedHandset() const { return simulated; }
+    /// Null when the line is no modem's.
+    const handset::LineControl *modemLine() const { return control; }
+    /// A call is connected or a session runs: what is shown changes without being told.
+    bool isCounting() const;
 
     /// The number that the next call is from or to.
     QString number() const { return nextNumber; }
@@ -66,10 +73,12 @@ signals:
 private:
     void changeNumber(const QString &number);
     int run(Action action);
+    int runOnModem(Action action);
     void finish(int status);
 
     std::shared_ptr<handset::Handset> owner;
     SimulatedHandset *simulated;
+    handset::LineControl *control;
     QString nextNumber = QStringLiteral("5550123");
     bool typing = false;
     QStringList told;

@@ -1,6 +1,7 @@
 #include "host/panel/Controls.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QRegularExpression>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -77,6 +78,21 @@ QString breakableAnywhere(const QString &text)
     QString broken;
     for (const QChar character : text)
         broken += QString(character) + QChar(0x200b);
+    return broken;
+}
+
+QString breakableWords(const QString &text)
+{
+    constexpr qsizetype longestWord = 24; // of digits, beside a label
+    static const QRegularExpression longWords(QStringLiteral("\\S{%1,}").arg(longestWord + 1));
+    QString broken;
+    qsizetype end = 0; // of what has been taken over
+    for (auto found = longWords.globalMatch(text); found.hasNext();) {
+        const QRegularExpressionMatch word = found.next();
+        broken += text.mid(end, word.capturedStart() - end) + breakableAnywhere(word.captured());
+        end = word.capturedEnd();
+    }
+    broken += text.mid(end);
     return broken;
 }
 

@@ -24,6 +24,9 @@ void leaveWheelToPanel(QWidget *control);
 /// `text` with an invisible place to break the line after each character: for a name without blanks.
 QString breakableAnywhere(const QString &text);
 
+/// `text` with such places within words that are longer than a line of the panel.
+QString breakableWords(const QString &text);
+
 /// Shows `text` and takes room only while there is one.
 void tell(QLabel *label, const QString &text);
 

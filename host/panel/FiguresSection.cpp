@@ -100,6 +100,7 @@ void FiguresSection::refresh()
         values[index]->setText(seconds ? clockText(*seconds) : tr("not available"));
     }
     addHistory->setEnabled(line.simulatedHandset() != nullptr);
+    addHistory->setVisible(!line.modemLine());
 }
 
 } // namespace host

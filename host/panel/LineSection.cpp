@@ -16,21 +16,22 @@ struct ButtonPlan {
     Line::Action action;
     const char *text;
     const char *toolTip;
+    bool isForModem; ///< the others are what the network does, or what no modem can
 };
 
 constexpr std::array<ButtonPlan, 6> buttonPlans{{
     {Line::Action::Dial, QT_TRANSLATE_NOOP("host::LineSection", "&Dial"),
-     QT_TRANSLATE_NOOP("host::LineSection", "Calls the number from this phone")},
+     QT_TRANSLATE_NOOP("host::LineSection", "Calls the number from this phone"), true},
     {Line::Action::RemoteAnswer, QT_TRANSLATE_NOOP("host::LineSection", "&Other side answers"),
-     QT_TRANSLATE_NOOP("host::LineSection", "The called side answers; the call is connected")},
+     QT_TRANSLATE_NOOP("host::LineSection", "The called side answers; the call is connected"), false},
     {Line::Action::DialData, QT_TRANSLATE_NOOP("host::LineSection", "Dial d&ata call"),
-     QT_TRANSLATE_NOOP("host::LineSection", "Sets up a circuit-switched data call to the number")},
+     QT_TRANSLATE_NOOP("host::LineSection", "Sets up a circuit-switched data call to the number"), false},
     {Line::Action::Ring, QT_TRANSLATE_NOOP("host::LineSection", "&Incoming call"),
-     QT_TRANSLATE_NOOP("host::LineSection", "The number calls this phone; empty for a withheld number")},
+     QT_TRANSLATE_NOOP("host::LineSection", "The number calls this phone; empty for a withheld number"), false},
     {Line::Action::HangUp, QT_TRANSLATE_NOOP("host::LineSection", "&Hang up"),
-     QT_TRANSLATE_NOOP("host::LineSection", "Ends the call on the line, whatever its state")},
+     QT_TRANSLATE_NOOP("host::LineSection", "Ends the call on the line, whatever its state"), true},
     {Line::Action::Answer, QT_TRANSLATE_NOOP("host::LineSection", "A&nswer"),
-     QT_TRANSLATE_NOOP("host::LineSection", "Answers the incoming call; the call is connected")},
+     QT_TRANSLATE_NOOP("host::LineSection", "Answers the incoming call; the call is connected"), true},
 }};
 
 } // namespace
@@ -94,13 +95,17 @@ void LineSection::addButtons(QVBoxLayout *column)
 {
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
+    int place = 0;
     for (std::size_t index = 0; index < buttonPlans.size(); ++index) {
         const ButtonPlan &plan = buttonPlans[index];
+        if (line.modemLine() && !plan.isForModem)
+            continue;
         auto *button = new QPushButton(tr(plan.text));
         button->setToolTip(tr(plan.toolTip));
         button->setFocusPolicy(Qt::TabFocus); // the pointer leaves the keys with the phone
         connect(button, &QPushButton::clicked, &line, [this, action = plan.action] { line.perform(action); });
-        grid->addWidget(button, static_cast<int>(index / 2), static_cast<int>(index % 2));
+        grid->addWidget(button, place / 2, place % 2);
+        ++place;
         buttons[index] = button;
     }
     column->addLayout(grid);
@@ -108,7 +113,7 @@ void LineSection::addButtons(QVBoxLayout *column)
 
 void LineSection::refresh()
 {
-    state->setText(line.describeState());
+    state->setText(breakableWords(line.describeState()));
     notice->setText(line.chargeNotice());
     notice->setVisible(!line.chargeNotice().isEmpty());
     record->setText(line.recordNotice());
@@ -116,11 +121,13 @@ void LineSection::refresh()
     tell(told, line.toldNotice());
     failure->setText(line.failure());
     failure->setVisible(!line.failure().isEmpty());
-    for (std::size_t index = 0; index < buttonPlans.size(); ++index)
-        buttons[index]->setEnabled(line.permits(buttonPlans[index].action));
+    for (std::size_t index = 0; index < buttonPlans.size(); ++index) {
+        if (buttons[index])
+            buttons[index]->setEnabled(line.permits(buttonPlans[index].action));
+    }
     if (number->text() != line.number())
         number->setText(line.number());
-    number->setEnabled(line.simulatedHandset() != nullptr);
+    number->setEnabled(line.simulatedHandset() || line.modemLine());
 }
 
 } // namespace host

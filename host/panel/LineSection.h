@@ -32,7 +32,7 @@ private:
     QLabel *told;
     QLabel *failure;
     QLineEdit *number;
-    std::array<QPushButton *, 6> buttons{};
+    std::array<QPushButton *, 6> buttons{}; ///< null: what the line cannot do
 };
 
 } // namespace host

@@ -153,11 +153,14 @@ void PacketSection::told(int status)
 void PacketSection::refresh()
 {
     PacketData *packets = line.handset().packetData();
-    setEnabled(line.simulatedHandset() && packets);
-    if (!isEnabled())
+    setEnabled(packets);
+    if (!packets)
         return;
-    const bool running = line.simulatedHandset()->packets().isSessionRunning();
-    startButton->setEnabled(!running);
+    Line::SimulatedHandset *simulated = line.simulatedHandset();
+    const bool running = simulated && simulated->packets().isSessionRunning();
+    for (QWidget *control : std::initializer_list<QWidget *>{apn, sent, received})
+        control->setEnabled(simulated);
+    startButton->setEnabled(simulated && !running);
     stopButton->setEnabled(running);
     handset::DataSessions sessions;
     const bool isTold = packets->sessions(sessions) == handset::Success;

@@ -5,6 +5,7 @@
 #include "host/panel/FailuresSection.h"
 #include "host/panel/FiguresSection.h"
 #include "host/panel/LineSection.h"
+#include "host/panel/ModemSection.h"
 #include "host/panel/PacketSection.h"
 #include "host/panel/Pin2Section.h"
 #include "host/panel/SimFilesSection.h"
@@ -64,7 +65,10 @@ void Panel::addPages(const Setup &setup)
     tabs->setAccessibleName(tr("Sides of the telephone"));
     using Sections = QList<PanelSection *>;
     addPage(tr("Calls"), [this, setup] {
-        return Sections{new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)};
+        Sections inPage{new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)};
+        if (line.modemLine())
+            inPage.prepend(new ModemSection(line));
+        return inPage;
     });
     addPage(tr("Charging"), [this] {
         return Sections{new TariffSection(line), new CostSection(line), new AccountSection(line)};
@@ -129,13 +133,10 @@ void Panel::refresh()
 {
     for (PanelSection *section : std::as_const(sections))
         section->refresh();
-    const Line::SimulatedHandset *handset = line.simulatedHandset();
-    const bool counting = handset && (handset->lineState() == Line::SimulatedHandset::LineState::Connected ||
-                                      line.simulatedHandset()->packets().isSessionRunning());
-    if (counting && !tick.isActive())
-        tick.start(tickMs);
-    else if (!counting)
+    if (!line.isCounting())
         tick.stop();
+    else if (!tick.isActive())
+        tick.start(tickMs);
 }
 
 // Return in a field, or a Backspace that finds nothing to take back, is not meant for the phone.

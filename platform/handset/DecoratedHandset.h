@@ -64,6 +64,7 @@ public:
         if (behind)
             behind->setChangeListener(listener);
     }
+    LineControl *lineControl() override { return behind ? behind->lineControl() : nullptr; }
     bool owesRecord() const override { return behind && behind->owesRecord(); }
     void changedElsewhere() override
     {

@@ -16,6 +16,7 @@ class CallLog;
 class CallService;
 class Clock;
 class DataCalls;
+class LineControl;
 class PacketData;
 class SimSecurity;
 
@@ -33,6 +34,8 @@ public:
     virtual AdviceOfCharge *adviceOfCharge() { return nullptr; }
     virtual PacketData *packetData() { return nullptr; }
     virtual SimSecurity *simSecurity() { return nullptr; }
+    /// No role of the phone's libraries: who shows the line asks for it. Null where the line is no modem's.
+    virtual LineControl *lineControl() { return nullptr; }
 
     /// `listener` is called when something has been changed by this process that another one may show: a call or session
     /// has begun or ended, something was set or reset. It is copied, takes the place of the one before, and must not end

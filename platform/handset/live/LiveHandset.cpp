@@ -5,6 +5,9 @@
 
 #include <QtCore/QTimer>
 
+#include <algorithm>
+#include <utility>
+
 namespace handset::live {
 
 int OwnCharging::chargeType(quint8 &type)
@@ -55,6 +58,10 @@ LiveHandset::LiveHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_pt
         sessionsMoved(sessionRecorder.allGone());
     });
     connect(source.get(), &Modem::stateChanged, this, [this] { tellHere(); });
+    connect(source.get(), &Modem::refused, this, [this](const QString &why) {
+        if (onRefusal)
+            onRefusal(why);
+    });
     source->start();
     runTimer();
 }
@@ -70,6 +77,33 @@ LiveHandset::~LiveHandset()
 bool LiveHandset::owesRecord() const
 {
     return ledger->owesCall() || ledger->owesSession() || callRecorder.owes() || sessionRecorder.owes();
+}
+
+LineReport LiveHandset::report() const
+{
+    const ModemState modem = source->state();
+    LineReport now;
+    now.daemon = source->daemon();
+    now.hasModem = modem.isThere;
+    now.modem = modem.name;
+    now.network = modem.network;
+    now.status = modem.status;
+    now.isRecorder = ledger->isRecorder();
+    now.isChargedByModem = isChargedByModem();
+    for (const ReportedCall &call : callRecorder.reported())
+        now.calls.append({call.id, call.phase, call.number, callRecorder.connectedMs(call.id).value_or(0)});
+    std::sort(now.calls.begin(), now.calls.end(), [](const LineCall &one, const LineCall &other) {
+        return std::pair(-one.connectedMs, one.id) < std::pair(-other.connectedMs, other.id);
+    });
+    for (const ReportedSession &session : sessionRecorder.reported()) {
+        const std::optional<Bytes> bytes = sessionRecorder.bytesOf(session.id);
+        now.sessions.append({session.apn, session.interface, bytes ? std::optional(bytes->sent) : std::nullopt,
+                             bytes ? std::optional(bytes->received) : std::nullopt});
+    }
+    std::sort(now.sessions.begin(), now.sessions.end(), [](const LineSession &one, const LineSession &other) {
+        return std::pair(one.apn, one.interface) < std::pair(other.apn, other.interface);
+    });
+    return now;
 }
 
 void LiveHandset::changedElsewhere()

@@ -6,6 +6,7 @@
 #include "calllog/CheckBeside.h"
 #include "calllog/PacketFigures.h"
 #include "handset/Handset.h"
+#include "handset/LineControl.h"
 #include "live/CallRecorder.h"
 #include "live/OwnCharging.h"
 #include "live/SessionRecorder.h"
@@ -22,7 +23,7 @@ namespace handset::live {
 /// it. Calls and connections are recorded by the process that records the state directory; in every other one this
 /// shows them and reads. A call that is on at the end of this is not ended, but what it has counted is written: whoever
 /// records next goes on.
-class LiveHandset : public QObject, public Handset
+class LiveHandset : public QObject, public Handset, private LineControl
 {
     Q_OBJECT
 
@@ -41,6 +42,7 @@ public:
     DataCalls *dataCalls() override { return nullptr; }
     AdviceOfCharge *adviceOfCharge() override { return &ownCharging; }
     PacketData *packetData() override { return &packets; }
+    LineControl *lineControl() override { return this; }
     void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
 
@@ -61,6 +63,8 @@ signals:
     void changed();
 
 protected:
+    /// The modem's own advice of charge says what calls cost.
+    virtual bool isChargedByModem() const { return false; }
     calllog::Ledger &books() { return *ledger; }
     AdviceOfCharge &ownAdviceOfCharge() { return ownCharging; }
     /// As CallRecorder::charge(); tells of it.
@@ -70,6 +74,14 @@ protected:
     void setCharge(calllog::Charge charge) { callRecorder.setCharge(charge); }
 
 private:
+    LineReport report() const override;
+    int dial(const QString &number) override { return source->dial(number); }
+    int answer(const QString &call) override { return source->answer(call); }
+    int hangUp(const QString &call) override { return source->hangUp(call); }
+    void setRefusalListener(const std::function<void(const QString &)> &listener) override
+    {
+        onRefusal = listener;
+    }
     void tick();
     void callsMoved(bool begunOrEnded);
     void sessionsMoved(bool begunOrEnded);
@@ -90,6 +102,7 @@ private:
     qint64 writtenAtMs = 0; ///< of the boot clock: the last checkpoint
     bool records = true;    ///< as of the last runTimer()
     std::function<void()> onChange;
+    std::function<void(const QString &)> onRefusal;
     std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "handset/Call.h"
+#include "handset/LineControl.h"
 #include "handset/Status.h"
 
 #include <QtCore/QObject>
@@ -10,8 +11,6 @@
 #include <optional>
 
 namespace handset::live {
-
-enum class CallPhase { Dialing, Alerting, Incoming, Waiting, Active, Held, Over };
 
 /// A call as the daemon knows it now.
 struct ReportedCall {

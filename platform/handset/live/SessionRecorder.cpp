@@ -38,9 +38,11 @@ void SessionRecorder::read(Followed &followed) const
     if (!now)
         return;
     const Bytes before = followed.read.value_or(Bytes{});
-    followed.unwritten.sent = calllog::saturatingSum(followed.unwritten.sent, added(before.sent, now->sent));
-    followed.unwritten.received =
-        calllog::saturatingSum(followed.unwritten.received, added(before.received, now->received));
+    const Bytes more{added(before.sent, now->sent), added(before.received, now->received)};
+    for (Bytes *counted : {&followed.unwritten, &followed.all}) {
+        counted->sent = calllog::saturatingSum(counted->sent, more.sent);
+        counted->received = calllog::saturatingSum(counted->received, more.received);
+    }
     followed.read = now;
 }
 
@@ -184,6 +186,12 @@ bool SessionRecorder::allGone()
         finish(followed);
     sessions.clear();
     return any;
+}
+
+std::optional<Bytes> SessionRecorder::bytesOf(const QString &id) const
+{
+    const auto found = sessions.constFind(id);
+    return found != sessions.constEnd() && found->row != 0 ? std::optional(found->all) : std::nullopt;
 }
 
 QList<ReportedSession> SessionRecorder::reported() const

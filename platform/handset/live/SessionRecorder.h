@@ -35,6 +35,8 @@ public:
     bool owes() const { return !unwritten.isEmpty(); }
     /// Those that are there now, in no order.
     QList<ReportedSession> reported() const;
+    /// What a session has come to since its beginning, as it was read last; nothing for one that is not recorded here.
+    std::optional<Bytes> bytesOf(const QString &id) const;
 
 private:
     struct Followed {
@@ -43,6 +45,7 @@ private:
         qint64 startWallMs = 0;
         std::optional<Bytes> read; ///< the last reading of its counter
         Bytes unwritten;           ///< read, and not in the row yet
+        Bytes all;                 ///< read since its beginning
         qint64 row = 0;
         bool mayBeKnown = false; ///< as of a call
     };

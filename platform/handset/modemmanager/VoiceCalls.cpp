@@ -12,8 +12,6 @@
 
 namespace handset::modemmanager {
 
-using live::CallPhase;
-
 namespace {
 
 const QString callInterface = QStringLiteral("org.freedesktop.ModemManager1.Call");

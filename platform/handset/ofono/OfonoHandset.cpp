@@ -34,7 +34,7 @@ OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_
 // At its beginning the meter is read once more, as it may have been late with the call before.
 void OfonoHandset::callReported(const live::ReportedCall &call)
 {
-    if (call.phase == live::CallPhase::Over) {
+    if (call.phase == CallPhase::Over) {
         callEnded(call.id);
         return;
     }

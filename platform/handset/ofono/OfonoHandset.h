@@ -26,6 +26,9 @@ public:
 
     const CallMeter &callMeter() const { return meter; }
 
+protected:
+    bool isChargedByModem() const override { return meter.isThere(); }
+
 private:
     using Metered = std::shared_ptr<live::CallRecorder::Cost>;
 

@@ -15,8 +15,6 @@ namespace handset::ofono {
 
 namespace {
 
-using live::CallPhase;
-
 constexpr auto serviceName = "org.ofono";
 
 struct Signal {

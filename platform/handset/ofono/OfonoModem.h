@@ -79,7 +79,7 @@ private:
         QString model;
     };
     struct Call {
-        std::optional<live::CallPhase> phase; ///< nothing until the daemon has told one
+        std::optional<CallPhase> phase; ///< nothing until the daemon has told one
         live::ReportedCall reported;
         bool wasDialed = false; ///< and has not been connected
         QString reason;         ///< of its end

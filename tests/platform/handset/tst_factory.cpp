@@ -116,7 +116,7 @@ void TestFactory::aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt_data()
         << QStringLiteral(KAV_BACKENDS "/libnohandset.so") << QStringLiteral("it has no handset");
     QTest::newRow("one that was built for another version")
         << QStringLiteral(KAV_BACKENDS "/libotherversion.so")
-        << QStringLiteral("it was built for version 0 of the interface, and this is version 1");
+        << QStringLiteral("it was built for version 0 of the interface, and this is version 2");
 }
 
 void TestFactory::aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt()

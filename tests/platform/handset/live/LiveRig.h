@@ -28,7 +28,7 @@ public:
         if (kind != CallKind::Voice)
             return false;
         call = {QStringLiteral("call%1").arg(++calls),
-                direction == CallDirection::Dialed ? live::CallPhase::Dialing : live::CallPhase::Incoming,
+                direction == CallDirection::Dialed ? CallPhase::Dialing : CallPhase::Incoming,
                 direction,
                 QStringLiteral("0301234"),
                 {},
@@ -38,13 +38,13 @@ public:
     }
     bool connectCall() override
     {
-        call.phase = live::CallPhase::Active;
+        call.phase = CallPhase::Active;
         emit modem().callReported(call);
         return true;
     }
     bool end() override
     {
-        call.phase = live::CallPhase::Over;
+        call.phase = CallPhase::Over;
         emit modem().callReported(call);
         emit modem().callGone(call.id);
         return true;

@@ -10,7 +10,6 @@
 using namespace handset;
 using namespace handset::test;
 using live::Bytes;
-using live::CallPhase;
 using live::ReportedCall;
 using live::ReportedSession;
 
@@ -81,6 +80,7 @@ class TestRecording : public QObject
     Q_OBJECT
 
 private slots:
+    void theLineShowsAndAsksForWhatTheDaemonHas();
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
     void aBusThatIsSilentAtTheStartIsWaitedFor();
@@ -736,6 +736,47 @@ void TestRecording::aBusThatIsSilentAtTheStartIsWaitedFor()
     QVERIFY(awaited.watch);
     emit modem.stateChanged();
     QTRY_VERIFY(isHere);
+}
+
+void TestRecording::theLineShowsAndAsksForWhatTheDaemonHas()
+{
+    Desk desk;
+    LineControl *const line = desk.phone->lineControl();
+    QVERIFY(line);
+    QCOMPARE(line->report().daemon, QStringLiteral("script"));
+    QCOMPARE(line->report().modem, QStringLiteral("Modem"));
+    QVERIFY(line->report().hasModem && line->report().isRecorder && !line->report().isChargedByModem);
+    desk.call(QStringLiteral("2"), CallPhase::Active);
+    desk.pass(5'000);
+    desk.call(QStringLiteral("1"), CallPhase::Waiting, QStringLiteral("777"));
+    const QList<LineCall> calls = line->report().calls;
+    QCOMPARE(calls.size(), 2);
+    QCOMPARE(calls[0].id, QStringLiteral("2")); // who is connected is the first
+    QCOMPARE(calls[0].connectedMs, 5'000);
+    QVERIFY(calls[1].phase == CallPhase::Waiting);
+    QCOMPARE(calls[1].number, QStringLiteral("777"));
+    QCOMPARE(calls[1].connectedMs, 0);
+
+    desk.session(QStringLiteral("data"), Bytes{10, 20}, QStringLiteral("wwan0"));
+    desk.session(QStringLiteral("data"), Bytes{15, 21}, QStringLiteral("wwan0"));
+    desk.pass(5'000);
+    const QList<LineSession> sessions = line->report().sessions;
+    QCOMPARE(sessions.size(), 1);
+    QCOMPARE(sessions[0].interface, QStringLiteral("wwan0"));
+    QCOMPARE(sessions[0].sent, std::optional<qint64>(15));
+    QCOMPARE(sessions[0].received, std::optional<qint64>(21));
+
+    desk.modem->asked.clear();
+    QCOMPARE(line->dial(QStringLiteral("5")), int(Success));
+    QCOMPARE(line->answer(QStringLiteral("1")), int(Success));
+    QCOMPARE(line->hangUp(QStringLiteral("2")), int(Success));
+    QCOMPARE(desk.modem->asked.join(u'|'), QStringLiteral("dial 5|answer 1|hang up 2"));
+    QStringList refusals;
+    line->setRefusalListener([&](const QString &why) { refusals << why; });
+    emit desk.modem->refused(QStringLiteral("No."));
+    line->setRefusalListener({});
+    emit desk.modem->refused(QStringLiteral("Never."));
+    QCOMPARE(refusals, QStringList("No."));
 }
 
 KAV_TEST_GROUP(TestRecording, QCoreApplication);

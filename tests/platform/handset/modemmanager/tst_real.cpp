@@ -18,7 +18,6 @@ using atmodem::CallRecord;
 using atmodem::Dialed;
 using atmodem::End;
 using AtPhone = atmodem::Phone;
-using live::CallPhase;
 
 #define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), daemon->story().constData())
 

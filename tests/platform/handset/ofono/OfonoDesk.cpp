@@ -4,22 +4,22 @@ namespace handset::test {
 
 namespace {
 
-QString phaseName(live::CallPhase phase)
+QString phaseName(CallPhase phase)
 {
     switch (phase) {
-    case live::CallPhase::Dialing:
+    case CallPhase::Dialing:
         return QStringLiteral("dialing");
-    case live::CallPhase::Alerting:
+    case CallPhase::Alerting:
         return QStringLiteral("alerting");
-    case live::CallPhase::Incoming:
+    case CallPhase::Incoming:
         return QStringLiteral("incoming");
-    case live::CallPhase::Waiting:
+    case CallPhase::Waiting:
         return QStringLiteral("waiting");
-    case live::CallPhase::Active:
+    case CallPhase::Active:
         return QStringLiteral("active");
-    case live::CallPhase::Held:
+    case CallPhase::Held:
         return QStringLiteral("held");
-    case live::CallPhase::Over:
+    case CallPhase::Over:
         return QStringLiteral("over");
     }
     return {};

@@ -49,7 +49,7 @@ private:
     void lead(const std::function<void(AtPhone &)> &how) { daemon->modem().withPhone(how); }
     CallRecord record() { return daemon->modem().records().constLast(); }
     /// The phase of the only call; nothing where there is none, or more than one.
-    std::optional<live::CallPhase> phase() const
+    std::optional<CallPhase> phase() const
     {
         const QList<live::ReportedCall> calls = phone->calls().reported();
         return calls.size() == 1 ? std::optional(calls.constFirst().phase) : std::nullopt;
@@ -131,9 +131,9 @@ void TestReal::cleanupTestCase()
 void TestReal::aDialedCallLastsAsLongAsTheModemSays()
 {
     QCOMPARE(phone->modem().dial("5550001"), int(Success));
-    COMES_ABOUT(phase() == live::CallPhase::Alerting);
+    COMES_ABOUT(phase() == CallPhase::Alerting);
     lead([](AtPhone &there) { there.answer(); });
-    COMES_ABOUT(phase() == live::CallPhase::Active);
+    COMES_ABOUT(phase() == CallPhase::Active);
     COMES_ABOUT(record().durationMs() > 1500);
     QCOMPARE(phone->modem().hangUp(onlyCall()), int(Success));
     COMES_ABOUT(!phase());
@@ -144,9 +144,9 @@ void TestReal::aDialedCallLastsAsLongAsTheModemSays()
 void TestReal::anAnsweredCallLastsAsLongAsTheModemSays()
 {
     lead([](AtPhone &there) { there.ring("5550003"); });
-    COMES_ABOUT(phase() == live::CallPhase::Incoming);
+    COMES_ABOUT(phase() == CallPhase::Incoming);
     QCOMPARE(phone->modem().answer(onlyCall()), int(Success));
-    COMES_ABOUT(phase() == live::CallPhase::Active);
+    COMES_ABOUT(phase() == CallPhase::Active);
     COMES_ABOUT(record().durationMs() > 1500);
     lead([](AtPhone &there) { there.hangUpThere(); });
     COMES_ABOUT(!phase());
@@ -157,7 +157,7 @@ void TestReal::anAnsweredCallLastsAsLongAsTheModemSays()
 void TestReal::aLostCallIsLoggedWithoutTime()
 {
     lead([](AtPhone &there) { there.ring("5550004"); });
-    COMES_ABOUT(phase() == live::CallPhase::Incoming);
+    COMES_ABOUT(phase() == CallPhase::Incoming);
     lead([](AtPhone &there) { there.hangUpThere(); });
     COMES_ABOUT(!phase());
     qint64 ms = 1;
@@ -180,17 +180,17 @@ void TestReal::aWaitingCallIsTakenWhileTheOtherIsHeld()
 {
     lead([](AtPhone &there) { there.dialed = Dialed::Answered; });
     QCOMPARE(phone->modem().dial("5550001"), int(Success));
-    COMES_ABOUT(phase() == live::CallPhase::Active);
+    COMES_ABOUT(phase() == CallPhase::Active);
     lead([](AtPhone &there) { there.ring("5550003"); });
-    const auto has = [&](live::CallPhase one, const char *number) {
+    const auto has = [&](CallPhase one, const char *number) {
         const QList<live::ReportedCall> calls = phone->calls().reported();
         return std::any_of(calls.begin(), calls.end(), [&](const live::ReportedCall &call) {
             return call.phase == one && call.number == QLatin1String(number);
         });
     };
-    COMES_ABOUT(has(live::CallPhase::Waiting, "5550003"));
+    COMES_ABOUT(has(CallPhase::Waiting, "5550003"));
     daemon->onModem("VoiceCallManager", "HoldAndAnswer");
-    COMES_ABOUT(has(live::CallPhase::Held, "5550001") && has(live::CallPhase::Active, "5550003"));
+    COMES_ABOUT(has(CallPhase::Held, "5550001") && has(CallPhase::Active, "5550003"));
     COMES_ABOUT(record().durationMs() > 1200);
     lead([](AtPhone &there) { there.hangUpThere("5550003"); });
     COMES_ABOUT(phone->calls().reported().size() == 1);
@@ -213,7 +213,7 @@ void TestReal::callsCostWhatTheCardHasCounted()
     const uint before = *phone->callMeter().accumulated();
     lead([](AtPhone &there) { there.dialed = Dialed::Answered; });
     QCOMPARE(phone->modem().dial("5550001"), int(Success));
-    COMES_ABOUT(phase() == live::CallPhase::Active);
+    COMES_ABOUT(phase() == CallPhase::Active);
     lead([](AtPhone &there) { there.tick(3); });
     COMES_ABOUT(cost(&CallLog::dialedCallsCost) == "3.00"); // told while it is on
     lead([](AtPhone &there) {
@@ -307,12 +307,12 @@ void TestReal::aCallEndsWithTheDaemonAndTheNextOneIsSeen()
 {
     lead([](AtPhone &there) { there.dialed = Dialed::Answered; });
     QCOMPARE(phone->modem().dial("5550001"), int(Success));
-    COMES_ABOUT(phase() == live::CallPhase::Active);
+    COMES_ABOUT(phase() == CallPhase::Active);
     QVERIFY(daemon->kill());
     COMES_ABOUT(!phase());
     QCOMPARE(row(), "0:5550001:1");
     QVERIFY2(daemon->bringUp(), daemon->story().constData());
-    COMES_ABOUT(phone->modem().state().status == "registered" && phase() == live::CallPhase::Active);
+    COMES_ABOUT(phone->modem().state().status == "registered" && phase() == CallPhase::Active);
     // It goes on, since nobody knows when.
     CallTime all;
     QCOMPARE(phone->callLog()->lifetimeCallsTime(all), int(Success));
@@ -324,14 +324,14 @@ void TestReal::aCallEndsWithTheDaemonAndTheNextOneIsSeen()
     });
     COMES_ABOUT(!phase());
     lead([](AtPhone &there) { there.ring("5550005"); });
-    COMES_ABOUT(phase() == live::CallPhase::Incoming);
+    COMES_ABOUT(phase() == CallPhase::Incoming);
 }
 
 void TestReal::aCallEndsWithTheModemThatIsUnplugged()
 {
     lead([](AtPhone &there) { there.dialed = Dialed::Answered; });
     QCOMPARE(phone->modem().dial("5550001"), int(Success));
-    COMES_ABOUT(phase() == live::CallPhase::Active);
+    COMES_ABOUT(phase() == CallPhase::Active);
     daemon->modem().with([](atmodem::Modem &all) { all.unplug(); });
     COMES_ABOUT(!phase());
     QCOMPARE(row(), "0:5550001:1");

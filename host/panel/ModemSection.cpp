@@ -1,0 +1,106 @@
+#include "host/panel/ModemSection.h"
+
+#include "handset/Handset.h"
+#include "host/panel/Controls.h"
+
+#include <QtWidgets/QFormLayout>
+#include <QtWidgets/QLabel>
+
+#include <array>
+
+namespace host {
+
+using handset::Handset;
+using handset::LineReport;
+using handset::LineSession;
+
+namespace {
+
+struct Figures {
+    const char *name;
+    bool (*isThere)(Handset &handset);
+};
+
+constexpr std::array<Figures, 6> roles{{
+    {QT_TRANSLATE_NOOP("host::ModemSection", "call times"), [](Handset &h) { return h.callLog() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "all calls"), [](Handset &h) { return h.callService() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "data calls"), [](Handset &h) { return h.dataCalls() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "data sessions"),
+     [](Handset &h) { return h.packetData() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "advice of charge"),
+     [](Handset &h) { return h.adviceOfCharge() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "PIN2"), [](Handset &h) { return h.simSecurity() != nullptr; }},
+}};
+
+QString missingText(Handset &handset)
+{
+    QStringList missing;
+    for (const Figures &role : roles) {
+        if (!role.isThere(handset))
+            missing << ModemSection::tr(role.name);
+    }
+    return missing.isEmpty() ? ModemSection::tr("nothing") : missing.join(QStringLiteral(", "));
+}
+
+QString sessionText(const LineSession &session)
+{
+    QString text = session.apn.isEmpty() ? ModemSection::tr("connected") : QString::fromLatin1(session.apn);
+    if (!session.interface.isEmpty())
+        text += QStringLiteral(" (%1)").arg(session.interface);
+    if (session.sent && session.received)
+        text += ModemSection::tr(", %1 B sent, %2 B received").arg(*session.sent).arg(*session.received);
+    return text;
+}
+
+QString sessionsText(const LineReport &report)
+{
+    QStringList texts;
+    for (const LineSession &session : report.sessions)
+        texts << sessionText(session);
+    return texts.isEmpty() ? ModemSection::tr("not connected") : texts.join(QLatin1Char('\n'));
+}
+
+QString orNone(const QString &text)
+{
+    return text.isEmpty() ? ModemSection::tr("none") : breakableWords(text);
+}
+
+} // namespace
+
+ModemSection::ModemSection(Line &drivenLine)
+    : PanelSection(tr("Modem"))
+    , line(drivenLine)
+    , modem(makeValue("modem", tr("Modem")))
+    , network(makeValue("network", tr("Network")))
+    , state(makeValue("modem state", tr("State")))
+    , data(makeValue("modem data", tr("Data")))
+    , charging(makeValue("charged by", tr("Charged by")))
+    , recording(makeValue("recorded by", tr("Recorded by")))
+    , missing(makeValue("not available", tr("Not available")))
+{
+    auto *form = new QFormLayout(this);
+    form->setVerticalSpacing(6);
+    form->addRow(tr("Modem"), modem);
+    form->addRow(tr("Network"), network);
+    form->addRow(tr("State"), state);
+    form->addRow(tr("Data"), data);
+    form->addRow(tr("Charged by"), charging);
+    form->addRow(tr("Recorded by"), recording);
+    form->addRow(tr("Not available"), missing);
+}
+
+void ModemSection::refresh()
+{
+    const LineReport report = line.modemLine()->report();
+    const QString name = report.hasModem ? orNone(report.modem) : tr("none");
+    modem->setText(tr("%1, through %2").arg(name, report.daemon));
+    network->setText(orNone(report.network));
+    state->setText(orNone(report.status));
+    data->setText(breakableWords(sessionsText(report)));
+    charging->setText(report.isChargedByModem ? tr("the modem's advice of charge")
+                                              : tr("the tariff of this telephone"));
+    recording->setText(report.isRecorder ? tr("this window") : tr("another process"));
+    missing->setText(missingText(line.handset()));
+}
+
+} // namespace host

@@ -1,0 +1,316 @@
+// The window over a handset whose line is a modem's: what panel and keys ask of it, and what is shown.
+#include "handset/DecoratedHandset.h"
+#include "handset/LineControl.h"
+#include "handset/Status.h"
+#include "host/PhoneWindow.h"
+#include "host/panel/Panel.h"
+#include "host/phone/Keypad.h"
+#include "support/TestGroup.h"
+#include "toolkit/ZApplication.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
+#include <QtWidgets/QPushButton>
+
+using namespace host;
+using handset::CallPhase;
+using handset::LineCall;
+
+namespace {
+
+/// Says what a test wants and notes what it is asked for. It has neither data calls nor PIN2.
+class ModemHandset final : public QObject,
+                           public handset::DecoratedHandset<ModemHandset>,
+                           private handset::LineControl
+{
+    Q_OBJECT
+
+public:
+    ModemHandset()
+    {
+        takeAway(QStringLiteral("DataCalls"));
+        takeAway(QStringLiteral("SimSecurity"));
+        now.daemon = QStringLiteral("ModemManager");
+        now.hasModem = true;
+        now.modem = QStringLiteral("Quick 12");
+        now.network = QStringLiteral("Test Net");
+        now.status = QStringLiteral("registered");
+    }
+
+    handset::LineControl *lineControl() override { return this; }
+    void setCalls(const QList<LineCall> &calls)
+    {
+        now.calls = calls;
+        emit changed();
+    }
+    void refuse(const QString &why) const { refusal(why); }
+    bool isListenedTo() const { return bool(refusal); }
+
+    handset::LineReport now;
+    QStringList asked;
+    int status = handset::Success;
+
+signals:
+    void changed();
+
+private:
+    int note(const QString &what)
+    {
+        asked << what;
+        return status;
+    }
+    handset::LineReport report() const override { return now; }
+    int dial(const QString &number) override { return note(QStringLiteral("dial ") + number); }
+    int answer(const QString &call) override { return note(QStringLiteral("answer ") + call); }
+    int hangUp(const QString &call) override { return note(QStringLiteral("hang up ") + call); }
+    void setRefusalListener(const std::function<void(const QString &)> &listener) override { refusal = listener; }
+
+    std::function<void(const QString &)> refusal;
+};
+
+LineCall callIn(CallPhase phase, const char *id = "1", qint64 connectedMs = 0)
+{
+    return {QString::fromLatin1(id), phase, QStringLiteral("5551234"), connectedMs};
+}
+
+} // namespace
+
+class TestModemLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void theSectionSaysWhatIsBehindAndWhatIsMissing();
+    void withoutAModemNothingCanBeAskedFor();
+    void theButtonsAskTheModem();
+    void onlyWhatAModemDoesHasAButton();
+    void theKeysAskTheModem();
+    void eachKeyIsForTheCallThatAPersonMeans_data();
+    void eachKeyIsForTheCallThatAPersonMeans();
+    void aSecondCallCanBeDialedAndNoThird();
+    void eachCallIsShownWithItsTime();
+    void aRefusalIsShownUntilTheNextRequest();
+    void whatIsNotDoneAtOnceIsToldAtOnce();
+    void dataSessionsAreShownWithTheirBytes();
+    void aNumberOfEightyDigitsPushesNothingOut();
+    void aWindowThatGoesIsToldNothingMore();
+
+private:
+    template <typename Widget>
+    Widget *control(const char *name) const
+    {
+        auto *found = window->findChild<Widget *>(QLatin1StringView(name));
+        if (!found)
+            qFatal("no control \"%s\"", name);
+        return found;
+    }
+    QString label(const char *name) const
+    {
+        return control<QLabel>(name)->text().remove(QChar(0x200b)); // a place to break the line
+    }
+    QPushButton *button(const char *text) const
+    {
+        for (QPushButton *one : window->findChild<Panel *>()->findChildren<QPushButton *>()) {
+            if (one->text() == QLatin1StringView(text))
+                return one;
+        }
+        qFatal("no button \"%s\"", text);
+    }
+    QStringList taken()
+    {
+        QStringList asked;
+        asked.swap(handset->asked);
+        return asked;
+    }
+
+    ScreenLibrary library;
+    std::shared_ptr<ModemHandset> handset;
+    std::unique_ptr<PhoneWindow> window;
+};
+
+void TestModemLine::init()
+{
+    handset = std::make_shared<ModemHandset>();
+    handset::install(handset);
+    window = std::make_unique<PhoneWindow>(library, PhoneWindow::OpenedHandset{handset, {}, {}, nullptr});
+    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    window->show();
+    QVERIFY(QTest::qWaitForWindowActive(window.get(), 60'000));
+    window->complete();
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+}
+
+void TestModemLine::cleanup()
+{
+    window.reset();
+    handset::install(nullptr);
+    handset.reset();
+}
+
+void TestModemLine::theSectionSaysWhatIsBehindAndWhatIsMissing()
+{
+    QCOMPARE(label("line state"), "Idle");
+    QCOMPARE(label("modem"), "Quick 12, through ModemManager");
+    QCOMPARE(label("network"), "Test Net");
+    QCOMPARE(label("modem state"), "registered");
+    QCOMPARE(label("modem data"), "not connected");
+    QCOMPARE(label("charged by"), "the tariff of this telephone");
+    QCOMPARE(label("recorded by"), "another process");
+    QCOMPARE(label("not available"), "data calls, PIN2");
+    handset->now.isChargedByModem = true;
+    handset->now.isRecorder = true;
+    handset->now.status = QStringLiteral("searching");
+    handset->now.network.clear();
+    emit handset->changed();
+    QCOMPARE(label("charged by"), "the modem's advice of charge");
+    QCOMPARE(label("recorded by"), "this window");
+    QCOMPARE(label("modem state"), "searching");
+    QCOMPARE(label("network"), "none");
+}
+
+void TestModemLine::withoutAModemNothingCanBeAskedFor()
+{
+    handset->now = {};
+    handset->now.daemon = QStringLiteral("oFono");
+    emit handset->changed();
+    QCOMPARE(label("line state"), "No modem");
+    QCOMPARE(label("modem"), "none, through oFono");
+    for (const char *text : {"&Dial", "A&nswer", "&Hang up"})
+        QVERIFY2(!button(text)->isEnabled(), text);
+    emit window->findChild<Keypad *>()->callPressed();
+    emit window->findChild<Keypad *>()->hangUpPressed();
+    QCOMPARE(taken(), QStringList());
+}
+
+void TestModemLine::theButtonsAskTheModem()
+{
+    control<QLineEdit>("number")->setText(QStringLiteral("5559876"));
+    QTest::mouseClick(button("&Dial"), Qt::LeftButton);
+    QCOMPARE(taken(), QStringList("dial 5559876"));
+    handset->setCalls({callIn(CallPhase::Incoming)});
+    QCOMPARE(label("line state"), "Ringing, 5551234");
+    QVERIFY(!button("&Dial")->isEnabled());
+    QTest::mouseClick(button("A&nswer"), Qt::LeftButton);
+    handset->setCalls({callIn(CallPhase::Active, "1", 5'000)});
+    QTest::mouseClick(button("&Hang up"), Qt::LeftButton);
+    QCOMPARE(taken(), QStringList({"answer 1", "hang up 1"}));
+}
+
+void TestModemLine::onlyWhatAModemDoesHasAButton()
+{
+    QStringList texts;
+    for (const QPushButton *one : window->findChild<Panel *>()->findChildren<QPushButton *>()) {
+        if (one->isVisible())
+            texts << one->text();
+    }
+    QCOMPARE(texts, QStringList({"&Dial", "&Hang up", "A&nswer"}));
+}
+
+void TestModemLine::theKeysAskTheModem()
+{
+    auto *keys = window->findChild<Keypad *>();
+    for (const char digit : {'1', '1', '2'})
+        emit keys->numberTyped(QLatin1Char(digit));
+    emit keys->callPressed();
+    QCOMPARE(taken(), QStringList("dial 112"));
+    handset->setCalls({callIn(CallPhase::Incoming, "7")});
+    emit keys->callPressed();
+    emit keys->hangUpPressed();
+    QCOMPARE(taken(), QStringList({"answer 7", "hang up 7"}));
+}
+
+void TestModemLine::eachKeyIsForTheCallThatAPersonMeans_data()
+{
+    QTest::addColumn<QList<LineCall>>("calls");
+    QTest::addColumn<QStringList>("expected"); // of the green key and then the red one
+    QTest::newRow("a call that is being dialed ends")
+        << QList<LineCall>{callIn(CallPhase::Alerting, "a")} << QStringList{"hang up a"};
+    QTest::newRow("a waiting call is answered, and the one that is spoken ends")
+        << QList<LineCall>{callIn(CallPhase::Active, "a", 9'000), callIn(CallPhase::Waiting, "b")}
+        << QStringList{"answer b", "hang up a"};
+    QTest::newRow("a call on hold stays while another is spoken")
+        << QList<LineCall>{callIn(CallPhase::Held, "a", 9'000), callIn(CallPhase::Active, "b", 1'000)}
+        << QStringList{"dial 5550123", "hang up b"};
+    QTest::newRow("a call that comes while another is on hold is answered, and refused")
+        << QList<LineCall>{callIn(CallPhase::Held, "a", 9'000), callIn(CallPhase::Incoming, "b")}
+        << QStringList{"answer b", "hang up b"};
+}
+
+void TestModemLine::eachKeyIsForTheCallThatAPersonMeans()
+{
+    QFETCH(const QList<LineCall>, calls);
+    QFETCH(const QStringList, expected);
+    handset->setCalls(calls);
+    emit window->findChild<Keypad *>()->callPressed();
+    emit window->findChild<Keypad *>()->hangUpPressed();
+    QCOMPARE(taken(), expected);
+}
+
+void TestModemLine::aSecondCallCanBeDialedAndNoThird()
+{
+    handset->setCalls({callIn(CallPhase::Active, "a", 1'000)});
+    QVERIFY(button("&Dial")->isEnabled());
+    handset->setCalls({callIn(CallPhase::Held, "a", 1'000), callIn(CallPhase::Dialing, "b")});
+    QVERIFY(!button("&Dial")->isEnabled());
+}
+
+void TestModemLine::eachCallIsShownWithItsTime()
+{
+    LineCall withheld = callIn(CallPhase::Waiting, "c");
+    withheld.number.clear();
+    handset->setCalls({callIn(CallPhase::Held, "a", 3'725'000), callIn(CallPhase::Active, "b", 5'999), withheld});
+    QCOMPARE(label("line state"),
+             "On hold 01:02:05, 5551234\nConnected 00:00:05, 5551234\nWaiting, number withheld");
+}
+
+void TestModemLine::aRefusalIsShownUntilTheNextRequest()
+{
+    QTest::mouseClick(button("&Dial"), Qt::LeftButton);
+    QCOMPARE(label("line failure"), "");
+    handset->refuse(QStringLiteral("The network has not put the call through."));
+    QCOMPARE(label("line failure"), "The network has not put the call through.");
+    QVERIFY(control<QLabel>("line failure")->isVisible());
+    QTest::mouseClick(button("&Dial"), Qt::LeftButton);
+    QVERIFY(!control<QLabel>("line failure")->isVisible());
+}
+
+void TestModemLine::whatIsNotDoneAtOnceIsToldAtOnce()
+{
+    handset->status = handset::InvalidArgument;
+    QTest::mouseClick(button("&Dial"), Qt::LeftButton);
+    QCOMPARE(label("line failure"), "Not done: the number is not one that can be dialed.");
+}
+
+void TestModemLine::dataSessionsAreShownWithTheirBytes()
+{
+    handset->now.sessions = {{"internet", QStringLiteral("wwan0"), 12, 5'000'000'000},
+                             {{}, QStringLiteral("wwan1"), {}, {}}};
+    emit handset->changed();
+    QCOMPARE(label("modem data"), "internet (wwan0), 12 B sent, 5000000000 B received\nconnected (wwan1)");
+}
+
+void TestModemLine::aNumberOfEightyDigitsPushesNothingOut()
+{
+    const int width = window->findChild<Panel *>()->widget()->minimumSizeHint().width();
+    LineCall call = callIn(CallPhase::Active, "a", 1'000);
+    call.number = QString(80, QLatin1Char('8'));
+    handset->now.modem = QString(200, QLatin1Char('m'));
+    handset->setCalls({call});
+    QCOMPARE(window->findChild<Panel *>()->widget()->minimumSizeHint().width(), width);
+    QCOMPARE(label("line state"), "Connected 00:00:01, " + call.number);
+}
+
+void TestModemLine::aWindowThatGoesIsToldNothingMore()
+{
+    QVERIFY(handset->isListenedTo());
+    window.reset();
+    QVERIFY(!handset->isListenedTo());
+}
+
+KAV_TEST_GROUP(TestModemLine, QApplication);
+#include "tst_modem_line.moc"
