@@ -747,9 +747,9 @@ void TestModem::aBusThatComesBackSilentHoldsNothingUp()
     close(silent);
     QVERIFY(QFile::remove(path));
     QVERIFY(bus.start());
-    FakeModemManager second(bus.address());
-    second.addModem(second.modem);
-    second.appear();
+    FakeModemManager started(bus.address());
+    started.addModem(started.modem);
+    started.appear();
     QTRY_VERIFY_WITH_TIMEOUT(modem.state().isThere, 60'000);
 }
 
