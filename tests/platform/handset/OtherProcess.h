@@ -9,6 +9,10 @@
 
 #include <algorithm>
 
+#include <csignal>
+
+#include <sys/types.h>
+
 namespace handset::test {
 
 /// Runs handset_other_process in its mode "hold"; the words are in other_process.cpp (Obedience).
@@ -45,6 +49,9 @@ public:
             return one.symLinkTarget() == QFileInfo(file).canonicalFilePath();
         });
     }
+    /// It does nothing at all until resume(), whatever its timers say.
+    void pause() const { ::kill(static_cast<pid_t>(process.processId()), SIGSTOP); }
+    void resume() const { ::kill(static_cast<pid_t>(process.processId()), SIGCONT); }
     /// As a crash ends it.
     void kill()
     {
