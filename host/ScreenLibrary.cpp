@@ -17,7 +17,7 @@ QString installedPath(const QString &name)
 {
     Dl_info own{};
     if (::dladdr(reinterpret_cast<const void *>(&installedPath), &own)) {
-        const QString beside = QFileInfo(QFile::decodeName(own.dli_fname)).absoluteDir().filePath(name);
+        QString beside = QFileInfo(QFile::decodeName(own.dli_fname)).absoluteDir().filePath(name);
         if (QFile::exists(beside))
             return beside;
     }

@@ -30,7 +30,7 @@ Figure make(const QString &name, int status, const Cell &cell, const QString &un
 
 Cell timeCell(const CallTime &time)
 {
-    return meter::timeCell((qint64{time.hours} * 3600 + time.minutes * 60 + time.seconds) * 1000);
+    return meter::timeCell(((qint64{time.hours} * 60 + time.minutes) * 60 + time.seconds) * 1000);
 }
 
 // What amounts are told in: nothing where that cannot be known.

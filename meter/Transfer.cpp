@@ -191,8 +191,8 @@ QString mistakeIn(const QJsonObject &file)
         const QJsonArray rows = file.value(name).toArray();
         for (qsizetype i = 0; i < rows.size(); ++i) {
             const QString place = QStringLiteral("%1[%2]").arg(name).arg(i);
-            const QString mistake = rows[i].isObject() ? mistakeIn(rows[i].toObject(), table, place)
-                                                       : place + QStringLiteral(" is no row");
+            QString mistake = rows[i].isObject() ? mistakeIn(rows[i].toObject(), table, place)
+                                                 : place + QStringLiteral(" is no row");
             if (!mistake.isEmpty())
                 return mistake;
         }
@@ -332,7 +332,7 @@ QString importState(const QString &name, const QString &directory)
         return QStringLiteral("\"%1\" cannot be made: %2.").arg(directory, beside.errorString());
     if (const QString mistake = makeState(beside.path(), document.object()); !mistake.isEmpty())
         return wrong.arg(name, mistake);
-    const QString problem = putInPlace(beside.path(), place);
+    QString problem = putInPlace(beside.path(), place);
     beside.setAutoRemove(!problem.isEmpty());
     return problem;
 }
