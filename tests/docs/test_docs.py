@@ -20,7 +20,7 @@ SOURCE, BUILD = (pathlib.Path(path) for path in sys.argv[1:3])
 COMPILER, MOC = sys.argv[3:5]
 PAGES = [SOURCE / "README.md", SOURCE / "CONTRIBUTING.md", *sorted((SOURCE / "docs").glob("*.md"))]
 KINDS = {"cpp", "sh", "tour", "xml", "usage", "text"}
-PROGRAMS = ("kavrecentcalls", "kavqcop", "kavcallrecorder")
+PROGRAMS = ("kavrecentcalls", "kavqcop", "kavcallrecorder", "kavmeter")
 
 # How the n-th C++ sample of a page is a piece of a program: what stands before it and behind it.
 FUNCTION = ("void sample() {", "}")
