@@ -483,10 +483,14 @@ int OfonoModem::answer(const QString &id)
 {
     if (!voice)
         return NotAvailable;
-    if (!calls.contains(id))
+    const auto call = calls.constFind(id);
+    if (call == calls.constEnd())
         return InvalidArgument;
-    sayWhenRefused(proxy<OrgOfonoVoiceCallInterface>(id)->Answer(),
-                   QStringLiteral("The telephone does not take the call: %1."));
+    // The daemon has one way to take a call that rings, and another for one that waits beside the call that is spoken.
+    const QDBusPendingCall asked = call->phase == CallPhase::Waiting
+                                       ? proxy<OrgOfonoVoiceCallManagerInterface>()->HoldAndAnswer()
+                                       : proxy<OrgOfonoVoiceCallInterface>(id)->Answer();
+    sayWhenRefused(asked, QStringLiteral("The telephone does not take the call: %1."));
     return Success;
 }
 
