@@ -89,7 +89,8 @@ bool permitsOnModem(const LineReport &report, Line::Action action)
 {
     switch (action) {
     case Line::Action::Dial: // a second one, too: the first is put on hold by the network
-        return report.hasModem && !callIn(report, {CallPhase::Dialing, CallPhase::Alerting, CallPhase::Incoming});
+        return report.hasModem && report.calls.size() < 2 &&
+               !callIn(report, {CallPhase::Dialing, CallPhase::Alerting, CallPhase::Incoming, CallPhase::Waiting});
     case Line::Action::Answer:
         return callToAnswer(report) != nullptr;
     case Line::Action::HangUp:
