@@ -142,6 +142,7 @@ void OfonoModem::appeared()
     serviceLife = std::make_unique<QObject>();
     subscribe(true);
     askForModems();
+    emit stateChanged();
 }
 
 void OfonoModem::vanished()
@@ -149,8 +150,9 @@ void OfonoModem::vanished()
     subscribe(false);
     serviceLife.reset();
     modems.clear();
-    choose();
+    knowsModems = false;
     owner.clear();
+    choose();
 }
 
 void OfonoModem::subscribe(bool on)
@@ -254,6 +256,7 @@ void OfonoModem::askForModems()
                      }
                      for (const Object &modem : answer.value())
                          modemAdded(modem.path.path(), modem.properties);
+                     knowsModems = true;
                      choose();
                  });
 }
@@ -352,8 +355,12 @@ bool OfonoModem::has(const char *interface) const
 live::ModemState OfonoModem::state() const
 {
     const Known *const modem = currentModem();
-    if (!modem)
-        return {};
+    if (!modem) {
+        const QString why = owner.isEmpty() ? QStringLiteral("oFono is not running")
+                            : knowsModems   ? QStringLiteral("no modem")
+                                            : QStringLiteral("asking oFono");
+        return {false, {}, {}, why};
+    }
     const QString made = (modem->maker + QLatin1Char(' ') + modem->model).trimmed();
     return {true, modem->name.isEmpty() ? made : modem->name, network,
             modem->isOnline ? networkStatus : QStringLiteral("offline")};

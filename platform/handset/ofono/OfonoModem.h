@@ -140,7 +140,8 @@ private:
     QString owner;   ///< the daemon's unique name; empty while there is none
     QString current; ///< the modem's path; likewise
     QList<Known> modems;
-    QStringList followed; ///< the interfaces that the modem had last
+    bool knowsModems = false; ///< the daemon has said which there are
+    QStringList followed;     ///< the interfaces that the modem had last
     QHash<QString, Call> calls;
     QHash<QString, Context> contexts;
     QString network;

@@ -218,6 +218,7 @@ void TestModem::allIsLostWhenTheModemIsRemoved()
     desk.fake.removeModem(FakeOfono::modem);
     QTRY_COMPARE(desk.heard->last(), "lost");
     QVERIFY(!desk.modem->state().isThere);
+    QCOMPARE(desk.modem->state().status, "no modem");
     QCOMPARE(desk.modem->hangUp(one), int(NotAvailable));
     desk.fake.addModem(FakeOfono::modem, anOnlineModem({"org.ofono.VoiceCallManager"}));
     QTRY_COMPARE(desk.heard->last(), "voicecall01 active 5550123 found");
@@ -230,11 +231,13 @@ void TestModem::allIsLostWhenTheDaemonEnds()
     desk.fake.addCall(one, callIn("active"));
     desk.look(); // before there is a daemon
     QVERIFY(!desk.modem->state().isThere);
+    QCOMPARE(desk.modem->state().status, "oFono is not running");
     desk.fake.appear();
     QTRY_COMPARE(desk.heard->last(), "voicecall01 active 5550123 found");
     desk.fake.disappear();
     QTRY_COMPARE(desk.heard->last(), "lost");
     QVERIFY(!desk.modem->state().isThere);
+    QCOMPARE(desk.modem->state().status, "oFono is not running");
     desk.fake.appear();
     QTRY_COMPARE(desk.heard->last(), "voicecall01 active 5550123 found");
     desk.fake.setCall(one, "State", "held");
