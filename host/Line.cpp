@@ -15,7 +15,7 @@ using handset::CallPhase;
 using handset::LineCall;
 using handset::LineReport;
 using Card = handset::charging::SimCard;
-using Charging = handset::simulated::Charging;
+using Charging = Line::Charging;
 using LineState = Line::SimulatedHandset::LineState;
 
 namespace {
@@ -182,6 +182,12 @@ Line::~Line()
         control->setRefusalListener({});
 }
 
+Line::Charging *Line::charging() const
+{
+    const bool isModems = control && control->report().isChargedByModem;
+    return isModems ? nullptr : owner->charging();
+}
+
 bool Line::isCounting() const
 {
     if (control) {
@@ -335,7 +341,7 @@ QString Line::chargeNotice() const
 {
     if (!simulated)
         return {};
-    const Charging &charging = simulated->charging();
+    const Charging &charging = *simulated->charging();
     const std::optional<qint64> msLeft = charging.msLeft();
     if (!msLeft || *msLeft > Charging::warningMs)
         return stopText(charging.stopReason());

@@ -18,6 +18,7 @@ class Line : public QObject
 
 public:
     using SimulatedHandset = handset::simulated::SimulatedHandset;
+    using Charging = handset::calllog::Charging;
 
     enum class Action { Dial, DialData, RemoteAnswer, Ring, Answer, HangUp };
 
@@ -33,6 +34,9 @@ public:
     SimulatedHandset *simulatedHandset() const { return simulated; }
     /// Null when the line is no modem's.
     const handset::LineControl *modemLine() const { return control; }
+    /// The own tariff and the prepaid account, where it is they that charge calls; null where the handset has none, or a
+    /// modem's advice of charge says what calls cost.
+    Charging *charging() const;
     /// A call is connected or a session runs: what is shown changes without being told.
     bool isCounting() const;
 

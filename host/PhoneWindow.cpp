@@ -2,6 +2,7 @@
 
 #include "host/MenuScreen.h"
 #include "host/OpeningProgress.h"
+#include "host/WaitNotice.h"
 #include "host/panel/Panel.h"
 #include "host/phone/Display.h"
 #include "host/phone/Keypad.h"
@@ -136,6 +137,11 @@ void PhoneWindow::connectHandset()
     connect(body->keypad(), &Keypad::callPressed, line.get(), &Line::pressCallKey);
     connect(body->keypad(), &Keypad::hangUpPressed, line.get(), &Line::pressHangUpKey);
     connect(body->keypad(), &Keypad::numberTyped, line.get(), &Line::typeNumber);
+    // The handset may outlive the window.
+    line->handset().setWaitListener([notice = QPointer<WaitNotice>(new WaitNotice(body->display()))](bool waits) {
+        if (notice)
+            notice->setWaiting(waits);
+    });
 }
 
 void PhoneWindow::makePanel()

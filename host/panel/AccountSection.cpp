@@ -87,13 +87,21 @@ void AccountSection::topUp()
     const QDate day = expires->date();
     const handset::Date until{static_cast<quint16>(day.year()), static_cast<quint8>(day.month()),
                               static_cast<quint8>(day.day())};
-    tell(failure, refusalText(line.simulatedHandset()->charging().topUp(amount->text(), until), accountMeaning));
+    Line::Charging *charging = line.charging();
+    const int status = charging ? charging->topUp(amount->text(), until) : static_cast<int>(handset::NotAvailable);
+    tell(failure, refusalText(status, accountMeaning));
     refresh();
 }
 
 void AccountSection::refresh()
 {
-    setEnabled(line.simulatedHandset() != nullptr);
+    setEnabled(line.charging() != nullptr);
+    if (!isEnabled()) {
+        credit->setText(notCharging(line));
+        tell(deposit, {});
+        tell(failure, {});
+        return;
+    }
     credit->setText(creditText(line.handset()));
     tell(deposit, depositText(line.handset()));
 }

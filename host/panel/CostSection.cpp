@@ -155,4 +155,10 @@ QString CostSection::limitText(Handset &handset) const
     return left ? tr("%1; units left: %2").arg(text).arg(*left) : text;
 }
 
+QString notCharging(const Line &line)
+{
+    return line.modemLine() ? CostSection::tr("The modem's advice of charge says what calls cost.")
+                            : CostSection::tr("This telephone charges no calls by itself.");
+}
+
 } // namespace host

@@ -40,4 +40,7 @@ private:
 /// `amount` and the unit that `handset` shows behind it: "12.50 EUR", "3.00 units".
 QString withUnit(const QString &amount, handset::Handset &handset);
 
+/// Why there is no line.charging(): one sentence.
+QString notCharging(const Line &line);
+
 } // namespace host

@@ -99,7 +99,9 @@ void ModemSection::refresh()
     data->setText(breakableWords(sessionsText(report)));
     charging->setText(report.isChargedByModem ? tr("the modem's advice of charge")
                                               : tr("the tariff of this telephone"));
-    recording->setText(report.isRecorder ? tr("this window") : tr("another process"));
+    recording->setText(report.isRecorder            ? tr("this window")
+                       : report.isRecordedElsewhere ? tr("another process")
+                                                    : tr("nobody: the call log cannot be written"));
     missing->setText(missingText(line.handset()));
 }
 

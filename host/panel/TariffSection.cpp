@@ -2,6 +2,7 @@
 
 #include "host/StatusText.h"
 #include "host/panel/Controls.h"
+#include "host/panel/CostSection.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDoubleSpinBox>
@@ -119,7 +120,8 @@ void TariffSection::setFree(const Column &column, bool free)
 
 void TariffSection::setElements(const Column &column)
 {
-    Tariff tariff = line.simulatedHandset()->charging().tariff(column.direction);
+    const Line::Charging *charging = line.charging();
+    Tariff tariff = charging ? charging->tariff(column.direction) : Tariff();
     tariff.unitsPerInterval = tenths(column.units);
     tariff.interval = tenths(column.interval);
     tariff.unitsAtStart = tenths(column.start);
@@ -128,23 +130,30 @@ void TariffSection::setElements(const Column &column)
 
 void TariffSection::set(const Column &column, const Tariff &tariff)
 {
-    const int status = line.simulatedHandset()->charging().setTariff(column.direction, tariff);
+    Line::Charging *charging = line.charging();
+    const int status =
+        charging ? charging->setTariff(column.direction, tariff) : static_cast<int>(handset::NotAvailable);
     tell(failure, refusalText(status, tariffMeaning));
     refresh();
 }
 
 void TariffSection::refresh()
 {
-    setEnabled(line.simulatedHandset() != nullptr);
-    if (!isEnabled())
+    if (line.charging() == nullptr) {
+        setEnabled(false);
+        tell(failure, notCharging(line));
         return;
+    }
+    if (!isEnabled())
+        tell(failure, {});
+    setEnabled(true);
     for (const Column &column : columns)
         show(column);
 }
 
 void TariffSection::show(const Column &column)
 {
-    const Tariff tariff = line.simulatedHandset()->charging().tariff(column.direction);
+    const Tariff tariff = line.charging()->tariff(column.direction);
     const bool free = isFree(tariff);
     Quietly(column.free)->setChecked(free);
     const auto showTenths = [free](QDoubleSpinBox *box, quint16 tenths) {

@@ -351,12 +351,12 @@ void TourPlayer::perform(const MoveClock &action)
 
 void TourPlayer::perform(const SetTariff &action)
 {
-    drive([&](SimulatedHandset &driven) { return driven.charging().setTariff(action.direction, action.tariff); });
+    drive([&](SimulatedHandset &driven) { return driven.charging()->setTariff(action.direction, action.tariff); });
 }
 
 void TourPlayer::perform(const TopUp &action)
 {
-    drive([&](SimulatedHandset &driven) { return driven.charging().topUp(action.amount, action.expires); });
+    drive([&](SimulatedHandset &driven) { return driven.charging()->topUp(action.amount, action.expires); });
 }
 
 void TourPlayer::perform(const SetChargeType &action)

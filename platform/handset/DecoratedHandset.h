@@ -64,7 +64,13 @@ public:
         if (behind)
             behind->setChangeListener(listener);
     }
+    void setWaitListener(const std::function<void(bool waits)> &listener) override
+    {
+        if (behind)
+            behind->setWaitListener(listener);
+    }
     LineControl *lineControl() override { return behind ? behind->lineControl() : nullptr; }
+    calllog::Charging *charging() override { return behind ? behind->charging() : nullptr; }
     bool owesRecord() const override { return behind && behind->owesRecord(); }
     void changedElsewhere() override
     {

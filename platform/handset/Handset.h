@@ -20,6 +20,10 @@ class LineControl;
 class PacketData;
 class SimSecurity;
 
+namespace calllog {
+class Charging;
+}
+
 /// A handset: its roles, each an interface of its own. A role that the backend has not is null; the shims return
 /// NotAvailable for it. The roles belong to the handset.
 class Handset
@@ -36,11 +40,17 @@ public:
     virtual SimSecurity *simSecurity() { return nullptr; }
     /// No role of the phone's libraries: who shows the line asks for it. Null where the line is no modem's.
     virtual LineControl *lineControl() { return nullptr; }
+    /// The own tariff and the prepaid account, by which the handset charges calls that nobody else does; no role either.
+    /// Null where it has none.
+    virtual calllog::Charging *charging() { return nullptr; }
 
     /// `listener` is called when something has been changed by this process that another one may show: a call or session
     /// has begun or ended, something was set or reset. It is copied, takes the place of the one before, and must not end
     /// the handset. Null for nobody.
     virtual void setChangeListener(const std::function<void()> & /*listener*/) {}
+    /// `listener` is called with true when an operation begins to wait for the telephone behind, in an event loop of its
+    /// own that takes no input, and with false when it has ended. As setChangeListener().
+    virtual void setWaitListener(const std::function<void(bool waits)> & /*listener*/) {}
     /// An end of a call or session is still to be written, as the call log cannot be: it is tried again by itself.
     virtual bool owesRecord() const { return false; }
     /// Another process has changed something; not necessarily of this state directory.

@@ -37,6 +37,8 @@ struct LineReport {
     QList<LineCall> calls;       ///< those that are there now, connected ones first
     QList<LineSession> sessions; ///< likewise
     bool isRecorder = false;     ///< this process records them, and no other
+    /// Another process does. Neither where the call log cannot be written.
+    bool isRecordedElsewhere = false;
     /// What calls cost is said by the modem's advice of charge; else by the own tariff.
     bool isChargedByModem = false;
 };

@@ -1,17 +1,22 @@
 // The window over a handset whose line is a modem's: what panel and keys ask of it, and what is shown.
+#include "calllog/Charging.h"
 #include "handset/DecoratedHandset.h"
 #include "handset/LineControl.h"
 #include "handset/Status.h"
 #include "host/PhoneWindow.h"
 #include "host/panel/Panel.h"
+#include "host/phone/Display.h"
 #include "host/phone/Keypad.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
 
 #include <QtTest/QTest>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QTabBar>
 
 using namespace host;
 using handset::CallPhase;
@@ -27,7 +32,9 @@ class ModemHandset final : public QObject,
     Q_OBJECT
 
 public:
-    ModemHandset()
+    /// Tariff, account and figures are those of `other`; without one there are none.
+    explicit ModemHandset(std::shared_ptr<handset::Handset> other = nullptr)
+        : DecoratedHandset(std::move(other))
     {
         takeAway(QStringLiteral("DataCalls"));
         takeAway(QStringLiteral("SimSecurity"));
@@ -46,6 +53,9 @@ public:
     }
     void refuse(const QString &why) const { refusal(why); }
     bool isListenedTo() const { return bool(refusal); }
+    void setWaitListener(const std::function<void(bool waits)> &listener) override { wait = listener; }
+
+    std::function<void(bool)> wait;
 
     handset::LineReport now;
     QStringList asked;
@@ -86,6 +96,10 @@ private slots:
 
     void theSectionSaysWhatIsBehindAndWhatIsMissing();
     void withoutAModemNothingCanBeAskedFor();
+    void theOwnTariffAndAccountAreSetFromTheWindow();
+    void whatTheModemChargesIsNotSetInTheWindow();
+    void aWaitForTheModemIsShownOverTheDisplay();
+    void aWindowThatGoesWhileTheModemIsWaitedForLeavesNoWaitCursor();
     void theButtonsAskTheModem();
     void onlyWhatAModemDoesHasAButton();
     void theKeysAskTheModem();
@@ -100,6 +114,19 @@ private slots:
     void aWindowThatGoesIsToldNothingMore();
 
 private:
+    /// A window, or the notice, will be shown, of which Qt's offscreen platform warns.
+    static void expectWindow()
+    {
+        if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+            QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    }
+    static void expectNotice()
+    {
+        if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
+            QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+    }
+    void putInWindow(const std::shared_ptr<ModemHandset> &put);
+    void showTab(const char *title) const;
     template <typename Widget>
     Widget *control(const char *name) const
     {
@@ -134,15 +161,30 @@ private:
 
 void TestModemLine::init()
 {
-    handset = std::make_shared<ModemHandset>();
+    putInWindow(std::make_shared<ModemHandset>());
+}
+
+void TestModemLine::putInWindow(const std::shared_ptr<ModemHandset> &put)
+{
+    window.reset();
+    handset = put;
     handset::install(handset);
     window = std::make_unique<PhoneWindow>(library, PhoneWindow::OpenedHandset{handset, {}, {}, nullptr});
-    if (QGuiApplication::platformName() == QStringLiteral("offscreen"))
-        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
+    expectWindow();
     window->show();
     QVERIFY(QTest::qWaitForWindowActive(window.get(), 60'000));
     window->complete();
     QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+}
+
+void TestModemLine::showTab(const char *title) const
+{
+    auto *tabs = window->findChild<QTabBar *>();
+    int index = 0;
+    while (index < tabs->count() && tabs->tabText(index).remove(u'&') != QLatin1StringView(title))
+        ++index;
+    QVERIFY2(index < tabs->count(), title);
+    tabs->setCurrentIndex(index);
 }
 
 void TestModemLine::cleanup()
@@ -160,6 +202,9 @@ void TestModemLine::theSectionSaysWhatIsBehindAndWhatIsMissing()
     QCOMPARE(label("modem state"), "registered");
     QCOMPARE(label("modem data"), "not connected");
     QCOMPARE(label("charged by"), "the tariff of this telephone");
+    QCOMPARE(label("recorded by"), "nobody: the call log cannot be written");
+    handset->now.isRecordedElsewhere = true;
+    emit handset->changed();
     QCOMPARE(label("recorded by"), "another process");
     QCOMPARE(label("not available"), "data calls, PIN2");
     handset->now.isChargedByModem = true;
@@ -185,6 +230,65 @@ void TestModemLine::withoutAModemNothingCanBeAskedFor()
     emit window->findChild<Keypad *>()->callPressed();
     emit window->findChild<Keypad *>()->hangUpPressed();
     QCOMPARE(taken(), QStringList());
+}
+
+void TestModemLine::theOwnTariffAndAccountAreSetFromTheWindow()
+{
+    putInWindow(std::make_shared<ModemHandset>(handset::open({}).handset));
+    showTab("Charging");
+    QCOMPARE(label("tariff failure"), "");
+    control<QCheckBox>("tariff dialed free")->click();
+    control<QDoubleSpinBox>("tariff dialed units")->setValue(2.5);
+    QCOMPARE(int(handset->charging()->tariff(handset::CallDirection::Dialed).unitsPerInterval), 25);
+    QCOMPARE(label("credit"), "Nothing has been paid in.");
+    button("&Top up")->click();
+    QCOMPARE(label("account failure"), "");
+    QCOMPARE(label("credit"), "Credit: 20.00 units");
+}
+
+void TestModemLine::whatTheModemChargesIsNotSetInTheWindow()
+{
+    putInWindow(std::make_shared<ModemHandset>(handset::open({}).handset));
+    showTab("Charging");
+    handset->now.isChargedByModem = true;
+    emit handset->changed();
+    const QString why = QStringLiteral("The modem's advice of charge says what calls cost.");
+    QCOMPARE(label("tariff failure"), why);
+    QCOMPARE(label("credit"), why);
+    QVERIFY(!control<QCheckBox>("tariff dialed free")->isEnabled());
+    QVERIFY(!button("&Top up")->isEnabled());
+    handset->now.isChargedByModem = false; // the call meter has vanished
+    emit handset->changed();
+    QCOMPARE(label("tariff failure"), "");
+    QVERIFY(control<QCheckBox>("tariff dialed free")->isEnabled());
+    QVERIFY(button("&Top up")->isEnabled());
+}
+
+void TestModemLine::aWaitForTheModemIsShownOverTheDisplay()
+{
+    const auto *notice = control<QLabel>("wait notice");
+    QVERIFY(!notice->isVisible());
+    expectNotice();
+    handset->wait(true);
+    QTRY_VERIFY(notice->isVisible());
+    QCOMPARE(notice->text(), "Please wait ...");
+    const auto *display = window->findChild<host::Display *>();
+    const QRect place(display->mapToGlobal(QPoint()), display->size());
+    QVERIFY(place.contains(notice->geometry()));
+    QVERIFY(QGuiApplication::overrideCursor());
+    handset->wait(false);
+    QVERIFY(!notice->isVisible());
+    QVERIFY(!QGuiApplication::overrideCursor());
+}
+
+void TestModemLine::aWindowThatGoesWhileTheModemIsWaitedForLeavesNoWaitCursor()
+{
+    expectNotice();
+    handset->wait(true);
+    QTRY_VERIFY(QGuiApplication::overrideCursor());
+    window.reset();
+    QVERIFY(!QGuiApplication::overrideCursor());
+    handset->wait(false);
 }
 
 void TestModemLine::theButtonsAskTheModem()

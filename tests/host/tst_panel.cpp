@@ -231,7 +231,7 @@ private:
     QString title() const;
     void connectCall() const;
     void pass(qint64 ms) const;
-    handset::simulated::Charging &charging() const { return handset->charging(); }
+    handset::simulated::Charging &charging() const { return *handset->charging(); }
     handset::charging::SimCard card() const { return handset->simCard().card(); }
     handset::charging::Pin2 pin2() const { return card().pin2(); }
     bool enterPin2(const QByteArray &digits) const;

@@ -126,7 +126,7 @@ void TestMeter::theScreensShowTheSameNumbers()
         Phone phone(state.path());
         QVERIFY(phone);
         QVERIFY(phone.dialed(71 * second + 999, CallKind::Data));
-        QCOMPARE(phone->charging().topUp(QStringLiteral("50"), Date{2027, 3, 1}), int{Success});
+        QCOMPARE(phone->charging()->topUp(QStringLiteral("50"), Date{2027, 3, 1}), int{Success});
     }
     const auto shown = [&](const char *name) {
         const QByteArray output = run(state.path(), {"figures", QString::fromLatin1(name)}).output;
@@ -334,7 +334,7 @@ void TestMeter::anExportedStateIsImportedExactly()
     {
         Phone phone(state.path());
         QVERIFY(phone);
-        QCOMPARE(phone->charging().topUp(QStringLiteral("50"), Date{2027, 3, 1}), int{Success});
+        QCOMPARE(phone->charging()->topUp(QStringLiteral("50"), Date{2027, 3, 1}), int{Success});
         QCOMPARE(phone->adviceOfCharge()->setPriceAndCurrency(QStringLiteral("0.23"), QStringLiteral("EUR")), 0);
         const Ran exported = run(state.path(), {"export", file});
         QCOMPARE(exported.error, QByteArray());

@@ -81,7 +81,7 @@ bool TestCostsOverSimulated::payAndCall()
     charging::Tariff tariff;
     tariff.unitsPerInterval = 10; // tenths
     tariff.interval = 10;         // tenths of a second
-    simulated::Charging &charging = phone->charging();
+    simulated::Charging &charging = *phone->charging();
     if (charging.setTariff(CallDirection::Dialed, tariff) != Success ||
         charging.setTariff(CallDirection::Answered, tariff) != Success ||
         charging.topUp(QStringLiteral("50"), {2027, 3, 9}) != Success)

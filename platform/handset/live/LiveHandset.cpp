@@ -89,6 +89,7 @@ LineReport LiveHandset::report() const
     now.network = modem.network;
     now.status = modem.status;
     now.isRecorder = ledger->isRecorder();
+    now.isRecordedElsewhere = !now.isRecorder && ledger->whyNotRecording() == RecordedElsewhere;
     now.isChargedByModem = isChargedByModem();
     for (const ReportedCall &call : callRecorder.reported())
         now.calls.append({call.id, call.phase, call.number, callRecorder.connectedMs(call.id).value_or(0)});

@@ -43,8 +43,10 @@ public:
     AdviceOfCharge *adviceOfCharge() override { return &ownCharging; }
     PacketData *packetData() override { return &packets; }
     LineControl *lineControl() override { return this; }
+    calllog::Charging *charging() override { return &charges; }
     void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
+    void setWaitListener(const std::function<void(bool waits)> &listener) override { onWait = listener; }
 
     /// Reads the call log at `file` through while it is in use. As calllog::CheckBeside.
     void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
@@ -52,8 +54,6 @@ public:
     Modem &modem() { return *source; }
     const CallRecorder &calls() const { return callRecorder; }
     const SessionRecorder &sessions() const { return sessionRecorder; }
-    /// The own tariff and the prepaid account.
-    calllog::Charging &charging() { return charges; }
     bool isRecording() const { return ledger->record(); }
     /// An end, or a whole call, is still to be written.
     bool owesRecord() const override;
@@ -67,6 +67,12 @@ protected:
     virtual bool isChargedByModem() const { return false; }
     calllog::Ledger &books() { return *ledger; }
     AdviceOfCharge &ownAdviceOfCharge() { return ownCharging; }
+    /// Of Handset::setWaitListener().
+    void tellWait(bool waits) const
+    {
+        if (onWait)
+            onWait(waits);
+    }
     /// As CallRecorder::charge(); tells of it.
     void charge(const std::shared_ptr<CallRecorder::Cost> &cost, quint32 more);
     /// Of calls that are connected from now on: by the own tariff (Unlimited, as long as nothing else is said), or by who
@@ -102,6 +108,7 @@ private:
     qint64 writtenAtMs = 0; ///< of the boot clock: the last checkpoint
     bool records = true;    ///< as of the last runTimer()
     std::function<void()> onChange;
+    std::function<void(bool)> onWait;
     std::function<void(const QString &)> onRefusal;
     std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };

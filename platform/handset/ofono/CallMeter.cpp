@@ -178,9 +178,11 @@ void CallMeter::waitFor(const std::function<void(QObject *, const std::function<
         if (!isThere())
             loop.quit();
     });
+    emit waiting(true);
     begin(&context, [&loop] { loop.quit(); });
     loop.exec(QEventLoop::ExcludeUserInputEvents);
     isWaiting = false;
+    emit waiting(false);
 }
 
 CallMeter::Outcome CallMeter::ask(const Send &send)

@@ -64,6 +64,8 @@ public:
 signals:
     /// A value is another, or isThere().
     void changed();
+    /// A write begins, or ends, to wait for the daemon.
+    void waiting(bool waits);
     /// The accumulated meter has been read: units.
     void accumulatedRead(quint32 units);
     /// The meter of the call that is on has been told: units.

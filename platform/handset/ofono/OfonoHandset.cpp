@@ -22,6 +22,7 @@ OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_
         ended.reset();
     });
     connect(&meter, &CallMeter::accumulatedRead, this, &OfonoHandset::accumulatedRead);
+    connect(&meter, &CallMeter::waiting, this, &OfonoHandset::tellWait);
     connect(&meter, &CallMeter::currentTold, this, &OfonoHandset::currentTold);
     connect(&meter, &CallMeter::changed, this, [this] {
         setCharge(meter.isThere() ? calllog::Charge::Measured : calllog::Charge::Unlimited);

@@ -100,7 +100,7 @@ public:
     qint64 connectedMs() const; ///< how long the call on the line is connected, by the clock; else 0
 
     /// The network's tariffs and the account; the SIM card; packet data. They belong to the handset.
-    Charging &charging() { return charges; }
+    Charging *charging() override { return &charges; }
     SimAccess &simCard() { return sim; }
     calllog::PacketFigures &packets() { return packetFigures; }
 

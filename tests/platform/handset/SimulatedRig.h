@@ -38,12 +38,12 @@ public:
         charging::Tariff tariff;
         tariff.unitsPerInterval = 10;
         tariff.interval = 10;
-        return (*phone)->charging().setTariff(CallDirection::Dialed, tariff) == Success &&
-               (*phone)->charging().setTariff(CallDirection::Answered, tariff) == Success;
+        return (*phone)->charging()->setTariff(CallDirection::Dialed, tariff) == Success &&
+               (*phone)->charging()->setTariff(CallDirection::Answered, tariff) == Success;
     }
     bool payIn(const QString &amount, const Date &expires) override
     {
-        return (*phone)->charging().topUp(amount, expires) == Success;
+        return (*phone)->charging()->topUp(amount, expires) == Success;
     }
     bool setUpdateRule(quint8 file, quint8 rule) override
     {

@@ -137,8 +137,8 @@ int share(Handset &handset, simulated::SimulatedHandset &phone, test::SharedCloc
         if (phone.isRecording()) {
             // The seed comes first in the number, so that no two processes of a test use the same one.
             const unsigned number = seed * 10000 + count;
-            const bool isPaid = phone.charging().account() ||
-                                phone.charging().topUp(QStringLiteral("16000000"), {2030, 1, 1}) == Success;
+            const bool isPaid = phone.charging()->account() ||
+                                phone.charging()->topUp(QStringLiteral("16000000"), {2030, 1, 1}) == Success;
             const auto make = pick(random, 3) == 0 ? makeSession : makeCall;
             if (isPaid && !make(phone, clock, random, number))
                 return 1;
@@ -205,7 +205,7 @@ public:
             {"guard", [&] { return number(phone.simCard().setUpdateRule(59, 4)); }},
             {"pay",
              [&] {
-                 return number(phone.charging().topUp(word, {2030, 1, 1}));
+                 return number(phone.charging()->topUp(word, {2030, 1, 1}));
              }},
             {"pin", [&] { return pin(word); }},
             {"pin-status", [&] { return pinStatus(); }},

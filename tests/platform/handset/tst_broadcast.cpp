@@ -316,7 +316,7 @@ void TestBroadcast::whatIsChangedHereIsAnnouncedOnce()
     phone.clock->advance(30 * second);
     QCOMPARE(announcedAfter(phone->checkpoint()), 0); // every process counts by itself
     QCOMPARE(announcedAfter(phone.log().resetDialedCallsTime()), 1);
-    QCOMPARE(announcedAfter(phone->charging().topUp(QStringLiteral("100"), {2030, 1, 1})), 1);
+    QCOMPARE(announcedAfter(phone->charging()->topUp(QStringLiteral("100"), {2030, 1, 1})), 1);
     QCOMPARE(announcedAfter(phone->hangUp()), 1);
     QCOMPARE(announcedAfter(phone->packets().startSession("x", 1, 1)), 1);
     QCOMPARE(announcedAfter(phone.packets().resetTotalBytes()), 1);

@@ -95,7 +95,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
 {
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), dayOfExpiry), int(Success));
+    QCOMPARE(phone->charging()->topUp(QStringLiteral("100"), dayOfExpiry), int(Success));
     QVERIFY(phone.dialed(50 * second));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
@@ -106,7 +106,7 @@ void TestFullDisk::aConnectedCallEndsAndIsWrittenWhenThereIsRoom()
         QCOMPARE(phone->hangUp(), int(Success));
         QCOMPARE(phone->lineState(), LineState::Idle);
         QCOMPARE(phone->connectedMs(), qint64{0});
-        QCOMPARE(phone->charging().runningUnits(), quint64{0});
+        QCOMPARE(phone->charging()->runningUnits(), quint64{0});
         QVERIFY(phone->owesRecord());
         QCOMPARE(spy.count(), 1);
         phone.clock->advance(7 * second); // after the call
@@ -194,7 +194,7 @@ void TestFullDisk::aCallThatTheHandsetStopsEndsAndIsWrittenWhenThereIsRoom()
 {
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("2"), dayOfExpiry), int(Success));
+    QCOMPARE(phone->charging()->topUp(QStringLiteral("2"), dayOfExpiry), int(Success));
     QVERIFY(phone.dial());
     phone.clock->advance(25 * second);
     {
@@ -202,7 +202,7 @@ void TestFullDisk::aCallThatTheHandsetStopsEndsAndIsWrittenWhenThereIsRoom()
         expectFailure();
         QCOMPARE(phone->checkpoint(), int(StorageFailed));
         QCOMPARE(phone->lineState(), LineState::Idle);
-        QCOMPARE(phone->charging().stopReason(), simulated::Charging::StopReason::CreditUsedUp);
+        QCOMPARE(phone->charging()->stopReason(), simulated::Charging::StopReason::CreditUsedUp);
         QVERIFY(phone->owesRecord());
         QCOMPARE(phone.figures(), (SixFigures{20, 20, 0, 0, 20, 20}));
         QCOMPARE(costsAndCreditOf(phone), (CostsAndCredit{"2.00", "2.00", "2.00", "0.00"}));
@@ -438,7 +438,7 @@ void TestFullDisk::theNextCallIsRefusedForWhatTheOwedOneHasCost()
 {
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("3"), dayOfExpiry), int(Success));
+    QCOMPARE(phone->charging()->topUp(QStringLiteral("3"), dayOfExpiry), int(Success));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
     const FullDisk full(0);
@@ -469,7 +469,7 @@ void TestFullDisk::aSettingAndAResetWaitForWhatIsOwed_data()
         {"3.00", "0.00", "3.00", "97.00"});
     row("the meter", [](Phone &p) { return p.log().resetAllCallsCost(); }, times,
         {"3.00", "3.00", "0.00", "97.00"});
-    row("a deposit", [](Phone &p) { return p->charging().topUp(QStringLiteral("5"), dayOfExpiry); }, times,
+    row("a deposit", [](Phone &p) { return p->charging()->topUp(QStringLiteral("5"), dayOfExpiry); }, times,
         {"3.00", "3.00", "3.00", "102.00"});
     row("a history",
         [](Phone &p) {
@@ -486,7 +486,7 @@ void TestFullDisk::aSettingAndAResetWaitForWhatIsOwed()
     QFETCH(CostsAndCredit, costsAfter);
     const StateDir state;
     Phone phone(state.path());
-    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), dayOfExpiry), int(Success));
+    QCOMPARE(phone->charging()->topUp(QStringLiteral("100"), dayOfExpiry), int(Success));
     QVERIFY(phone.dial());
     phone.clock->advance(30 * second);
     {

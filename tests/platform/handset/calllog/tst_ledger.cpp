@@ -187,7 +187,7 @@ void TestLedger::theLineIsSeenEverywhere()
     QCOMPARE(two.phone->lineState(), LineState::Connected);
     QCOMPARE(two.phone->number(), QStringLiteral("5"));
     QCOMPARE(two.phone->connectedMs(), 4 * second);
-    QCOMPARE(two.phone->charging().runningUnits(), quint64{0});
+    QCOMPARE(two.phone->charging()->runningUnits(), quint64{0});
     QCOMPARE(two.recorder->ask("hang-up"), QByteArray("0"));
     QCOMPARE(two.phone->lineState(), LineState::Idle);
 }
@@ -249,8 +249,8 @@ void TestLedger::aDepositElsewhereLetsTheCallGoOn()
     QCOMPARE(two.recorder->ask("pay 2"), QByteArray("0"));
     QVERIFY(two.dial());
     two.pass(15 * second);
-    QCOMPARE(two.phone->charging().msLeft(), 5 * second);
-    QCOMPARE(two.phone->charging().topUp(QStringLiteral("1"), {2030, 1, 1}), int(Success));
+    QCOMPARE(two.phone->charging()->msLeft(), 5 * second);
+    QCOMPARE(two.phone->charging()->topUp(QStringLiteral("1"), {2030, 1, 1}), int(Success));
     two.pass(10 * second);
     QCOMPARE(two.recorder->ask("checkpoint"), QByteArray("0"));
     QCOMPARE(two.recorder->ask("line"), QByteArray("3 25000"));

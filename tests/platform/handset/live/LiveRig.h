@@ -79,12 +79,12 @@ public:
         charging::Tariff tariff;
         tariff.unitsPerInterval = 10;
         tariff.interval = 10;
-        return desk.phone->charging().setTariff(CallDirection::Dialed, tariff) == Success &&
-               desk.phone->charging().setTariff(CallDirection::Answered, tariff) == Success;
+        return desk.phone->charging()->setTariff(CallDirection::Dialed, tariff) == Success &&
+               desk.phone->charging()->setTariff(CallDirection::Answered, tariff) == Success;
     }
     bool payIn(const QString &amount, const Date &expires) override
     {
-        return desk.phone->charging().topUp(amount, expires) == Success;
+        return desk.phone->charging()->topUp(amount, expires) == Success;
     }
     bool setUpdateRule(quint8, quint8) override { return false; }
     QByteArray pin2() const override { return {}; }

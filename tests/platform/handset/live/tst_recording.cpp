@@ -650,7 +650,7 @@ void TestRecording::whatAReaderChangesIsAnnounced()
     desk.phone->setChangeListener([&] { ++told; });
     QCOMPARE(desk.phone->callLog()->resetDialedCallsTime(), int(Success));
     QCOMPARE(told, 1);
-    QCOMPARE(desk.phone->charging().topUp(QStringLiteral("2"), {2030, 1, 1}), int(Success));
+    QCOMPARE(desk.phone->charging()->topUp(QStringLiteral("2"), {2030, 1, 1}), int(Success));
     QCOMPARE(told, 2);
     desk.call(two, CallPhase::Waiting); // of calls the recorder tells
     QCOMPARE(told, 2);
@@ -709,7 +709,7 @@ void TestRecording::whatTheModemDoesNotHaveIsNotAvailable()
 void TestRecording::theOwnTariffChargesCallsAndEndsNone()
 {
     Desk desk;
-    QCOMPARE(desk.phone->charging().topUp(QStringLiteral("2"), {2030, 1, 1}), int(Success));
+    QCOMPARE(desk.phone->charging()->topUp(QStringLiteral("2"), {2030, 1, 1}), int(Success));
     desk.call(one, CallPhase::Dialing);
     desk.call(one, CallPhase::Active);
     desk.pass(minute); // six units, of which two can be paid

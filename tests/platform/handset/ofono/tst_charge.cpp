@@ -181,6 +181,7 @@ private slots:
     void aPriceOrCurrencyThatNoCardHoldsAsksNobody();
     void theMeterIsZeroedOnTheCardFirst();
     void aBusyDaemonIsAskedAgainWhileAWriteWaits();
+    void aWriteSaysThatItWaitsAndThatItWaitsNoMore();
     void aDaemonThatStaysBusyFailsTheWrite();
     void aSilentDaemonFailsTheWriteAndTheWindowGoesOn();
     void aMeterThatVanishesEndsTheWait();
@@ -665,6 +666,20 @@ void TestCharge::aBusyDaemonIsAskedAgainWhileAWriteWaits()
                                               << "InProgress";
     QVERIFY(desk.enterPin());
     QCOMPARE(desk.fake.asked.filter("SetProperty").size(), 3);
+}
+
+void TestCharge::aWriteSaysThatItWaitsAndThatItWaitsNoMore()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QStringList told;
+    desk.phone->setWaitListener([&](bool waits) {
+        told << QStringLiteral("%1 after %2").arg(waits).arg(desk.fake.asked.filter("SetProperty").size());
+    });
+    QVERIFY(desk.enterPin());
+    QCOMPARE(told, QStringList({"1 after 0", "0 after 1"}));
+    QCOMPARE(desk.maximum(), "100.00 on"); // reading waits for nobody
+    QCOMPARE(told.size(), 2);
 }
 
 void TestCharge::aDaemonThatStaysBusyFailsTheWrite()

@@ -73,7 +73,7 @@ void TestStart::aNewCardsCodesAreMadeOnce()
     Phone phone(state.path());
     for (int call = 0; call < 3; ++call)
         QVERIFY(phone.dialed(30 * second));
-    QCOMPARE(phone->charging().topUp(QStringLiteral("100"), {2027, 3, 9}), int(Success));
+    QCOMPARE(phone->charging()->topUp(QStringLiteral("100"), {2027, 3, 9}), int(Success));
     QCOMPARE(derivedHashes, 2);
     phone.close();
     bool accepted = false;

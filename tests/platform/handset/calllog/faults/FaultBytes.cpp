@@ -46,7 +46,7 @@ QByteArray grownLog()
     for (int i = 0; i < 12; ++i)
         done = done && phone.session(1000 * i + 500, "internet", 100, 2000);
     bool accepted = true;
-    done = done && phone->charging().topUp(QStringLiteral("5000"), goodUntil) == Success &&
+    done = done && phone->charging()->topUp(QStringLiteral("5000"), goodUntil) == Success &&
            phone.handset().adviceOfCharge()->setMeterMaximum(QStringLiteral("9000000")) == Success &&
            phone->simCard().verifyPin(SimSecurity::Pin2, "0000", accepted) == Success &&
            phone.log().resetDialedCallsTime() == Success && phone->addHistory(calls) == Success;

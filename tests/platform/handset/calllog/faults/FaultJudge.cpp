@@ -99,7 +99,7 @@ World readWorld(Reader &file, const Phone &phone)
         world.sessionTotals[i] =
             file.number(QByteArray("SELECT value FROM session_totals WHERE counter = '") + totals[i] + '\'');
     world.meter = phone->simCard().card().acm();
-    const std::optional<charging::Account> account = phone->charging().account();
+    const std::optional<charging::Account> account = phone->charging()->account();
     world.credit = account ? static_cast<qint64>(account->credit) : -1;
     int tries = -1;
     phone.handset().simSecurity()->triesLeft(SimSecurity::Pin2, tries);

@@ -58,7 +58,7 @@ void fill(Phone &phone)
 {
     bool accepted = true;
     check(phone && phone->addHistory(manyCalls()) == Success && phone.session(7 * second, "x", 10, 20) &&
-              phone->charging().topUp(QStringLiteral("5000"), someDay) == Success &&
+              phone->charging()->topUp(QStringLiteral("5000"), someDay) == Success &&
               phone->simCard().verifyPin(SimSecurity::Pin2, "0000", accepted) == Success && !accepted,
           "a log");
 }
@@ -178,7 +178,7 @@ int perform(Phone &phone, const Step &step, bool &accepted)
     case Do::ResetAll:
         return phone.log().resetAll();
     case Do::TopUp:
-        return phone->charging().topUp(QString::number(step.amount), someDay);
+        return phone->charging()->topUp(QString::number(step.amount), someDay);
     case Do::WrongPin:
         return phone->simCard().verifyPin(SimSecurity::Pin2, "9999", accepted);
     case Do::RightPin:
