@@ -5,6 +5,7 @@
 #include "support/PhoneScreen.h"
 #include "support/PhoneTest.h"
 #include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
 #include "support/Sample.h"
 
 #include "qt/QCString.h"
@@ -12,6 +13,8 @@
 #include "toolkit/ZKbMainWidget.h"
 #include "toolkit/ZListBox.h"
 #include "toolkit/ZPopup.h"
+#include "utility/PHONE_UI_RecentCallCostsView.h"
+#include "utility/PHONE_UI_RecentCallDataVolumesDetailView.h"
 
 #include <QtTest/QSignalSpy>
 
@@ -21,6 +24,14 @@ using handset::CallTime;
 using ZKeys::PhoneKey;
 using View = PHONE_UI_RecentCallTimesView;
 using CallTimes = HostedScreen<View>;
+using CostsView = PHONE_UI_RecentCallCostsView;
+using DetailView = PHONE_UI_RecentCallDataVolumesDetailView;
+
+KAV_EXPOSE(DataCallTimeText, &View::dataCallTimeText);
+KAV_EXPOSE(CurrencyUnit, &CostsView::currencyUnit);
+KAV_EXPOSE(SentText, &DetailView::sentText);
+KAV_EXPOSE(ReceivedText, &DetailView::receivedText);
+KAV_EXPOSE(SumText, &DetailView::sumText);
 
 namespace {
 
@@ -72,6 +83,11 @@ void tellUpdate(ZKbMainWidget *screen)
 bool isAsking()
 {
     return !PhoneScreen::shownDialogs().isEmpty();
+}
+
+bool isEmptyNotNull(const QString &text)
+{
+    return text.isEmpty() && !text.isNull();
 }
 
 int shownRowCount(const View *screen)
@@ -180,6 +196,7 @@ void TestAllocationFailures::withoutTheMeterNothingIsAskedOrAllocatedAnyMore()
     QCOMPARE(AllocationFailure::count(), int(Meter));
     QCOMPARE(journal.lines(), QStringList());
     QCOMPARE(traces->text(), QString());
+    QVERIFY(isEmptyNotNull(screen.get()->*exposed(DataCallTimeText())));
 }
 
 void TestAllocationFailures::withoutTheMessageClientNothingIsAsked()
@@ -260,8 +277,9 @@ void TestAllocationFailures::noFailureAnywhereIsACrash()
 void TestAllocationFailures::aScreenWithoutItsMeterHasTitleAndBackAndNoRows()
 {
     const AllocationFailure failure(Meter); // after screen, softkey bar and list, as on Call Times
-    const HostedScreen<ZKbMainWidget> screen("callCost");
+    const HostedScreen<CostsView> screen("callCost");
     QVERIFY(AllocationFailure::happened());
+    QVERIFY(isEmptyNotNull(screen.get()->*exposed(CurrencyUnit())));
     screen->show();
     QCOMPARE(screen->mainWidgetTitle(), QString("Call Costs"));
     QCOMPARE(PhoneScreen::softkey(screen.get(), ZSoftKey::RightKey), QString("Back"));
@@ -408,8 +426,11 @@ void TestAllocationFailures::aDetailWithoutItsMeterHasBlankFigures()
         PhoneScreen::chooseRow(screen.get(), 1);
         QVERIFY(AllocationFailure::happened());
     }
-    const auto *detail = screen->findChild<ZKbMainWidget *>();
+    const auto *detail = screen->findChild<DetailView *>();
     QVERIFY(detail && detail->isVisible());
+    QVERIFY(isEmptyNotNull(detail->*exposed(SentText())));
+    QVERIFY(isEmptyNotNull(detail->*exposed(ReceivedText())));
+    QVERIFY(isEmptyNotNull(detail->*exposed(SumText())));
     COMPARE_LINES(PhoneScreen::rows(detail),
                   QStringList({"Current Data Session|", "internet|", "Sent|", "Received|", "Sum|"}));
     PhoneScreen::press(PhoneKey::Select);

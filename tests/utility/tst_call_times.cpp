@@ -24,6 +24,7 @@ using CallTimes = HostedScreen<View>;
 KAV_EXPOSE(ResetRow, &View::resetRow);
 KAV_EXPOSE(ResetDlg, &View::resetDlg);
 KAV_EXPOSE(InCallDlg, &View::inCallDlg);
+KAV_EXPOSE(DataCallTimeText, &View::dataCallTimeText);
 KAV_EXPOSE(DataCallSeconds, &View::dataCallSeconds);
 KAV_EXPOSE(ItemTitle, &View::getItemTitle);
 KAV_EXPOSE(ItemValue, &View::getItemValue);
@@ -133,6 +134,8 @@ private slots:
     void yesToAllCallsRewritesSixRowsAfterReadingTheDataTime();
     void anAnswerWithoutAQuestionDoesNothing_data();
     void anAnswerWithoutAQuestionDoesNothing();
+    void yesForARowThatCannotBeResetDoesNothing_data();
+    void yesForARowThatCannotBeResetDoesNothing();
     void theQuestionIsGoneAfterAnAnswer_data();
     void theQuestionIsGoneAfterAnAnswer();
     void aSecondQuestionBeforeTheFirstAnswerDoesNoHarm();
@@ -144,6 +147,7 @@ private slots:
     void theDataCallStatusDecides();
     void aFailedStatusQueryDoesNothing();
     void theDataRowIsZeroThoughTheHandsetRefuses();
+    void theDataTimeIsZeroBeforeTheHandsetIsTold();
     void anAllCallsResetShowsTheDataTimeThatTheHandsetHas();
     void aResetDoesNotForgetTheSecondsRead();
 
@@ -486,6 +490,27 @@ void TestCallTimes::anAnswerWithoutAQuestionDoesNothing()
     COMPARE_LINES(PhoneScreen::rows(screen()), expectedRows(scriptedValues()));
 }
 
+void TestCallTimes::yesForARowThatCannotBeResetDoesNothing_data()
+{
+    QTest::addColumn<int>("row");
+    for (const int row : {-1, 0, 5, 6, INT_MAX, INT_MIN})
+        QTest::addRow("row %d", row) << row;
+}
+
+void TestCallTimes::yesForARowThatCannotBeResetDoesNothing()
+{
+    QFETCH(const int, row);
+    open();
+    ask(1);
+    const QSignalSpy rewritten(PhoneScreen::list(screen())->model(), &QAbstractItemModel::dataChanged);
+    screen()->*exposed(ResetRow()) = row;
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    QCOMPARE(journal.lines(), QStringList());
+    QCOMPARE(rewritten.count(), 0);
+    QVERIFY(!question());
+    QVERIFY(PhoneScreen::shownDialogs().isEmpty());
+}
+
 void TestCallTimes::theQuestionIsGoneAfterAnAnswer_data()
 {
     QTest::addColumn<bool>("yes");
@@ -620,6 +645,15 @@ void TestCallTimes::theDataRowIsZeroThoughTheHandsetRefuses()
     reset(dataRow);
     QCOMPARE(journal.count("DataCalls::resetTotalDuration"), 1);
     QCOMPARE(value(dataRow), zero);
+}
+
+void TestCallTimes::theDataTimeIsZeroBeforeTheHandsetIsTold()
+{
+    open();
+    QString then;
+    script().whenCalled("DataCalls::resetTotalDuration", [&] { then = screen()->*exposed(DataCallTimeText()); });
+    reset(dataRow);
+    QCOMPARE(then, zero);
 }
 
 void TestCallTimes::anAllCallsResetShowsTheDataTimeThatTheHandsetHas()

@@ -3,8 +3,10 @@
 // The program exports functions of the same names, which the dynamic linker finds first. What no handset behind the
 // library can do, they do: look at what is to be filled, write into it though they fail, write nothing, or write
 // beyond the end of a text.
+#include "utility/PHONE_UI_RecentCallCostSetupView.h"
 #include "utility/PHONE_UI_RecentCallMeter.h"
 
+#include "support/PhoneScreen.h"
 #include "support/PhoneTest.h"
 
 #include "telephony/tapi.h"
@@ -72,6 +74,11 @@ int TAPI_LOG_GetDepositExpirationDate(TAPI_Date *date)
         *date = {2006, 3, 9};
     return answers.status;
 }
+int TAPI_SECURITY_GetAnyPinStatus(uint8_t pin, uint32_t *status)
+{
+    Journal::shared().record(QStringLiteral("%1(%2, %3)").arg(QLatin1String(__func__)).arg(pin).arg(*status));
+    return answers.status;
+}
 int TAPI_LOG_ResetAllCallsCost()
 {
     return answerReset(__func__);
@@ -130,6 +137,7 @@ private slots:
     void aDateIsAskedOnceOfItsOwnFunctionWithAZeroedRecord();
     void aDateThatIsLeftZeroIsShownInTheShapeOfASuccess();
     void whatAFailedDateQueryWroteIsNotShown();
+    void thePinStatusIsPresetBeforeItIsAsked();
     void everyResetCallsItsOwnFunctionOnce_data();
     void everyResetCallsItsOwnFunctionOnce();
 
@@ -201,6 +209,18 @@ void TestCostEntryPoints::whatAFailedDateQueryWroteIsNotShown()
     for (const int status : failures) {
         answers.status = status;
         QCOMPARE(meter.getExpirationDate(), QString("2000/00/00"));
+    }
+}
+
+void TestCostEntryPoints::thePinStatusIsPresetBeforeItIsAsked()
+{
+    PHONE_UI_RecentCallCostSetupView setup(nullptr, nullptr);
+    setup.show();
+    for (const int row : {0, 4}) {
+        journal.clear();
+        PhoneScreen::chooseRow(&setup, row);
+        QCOMPARE(journal.lines().value(0), QString("TAPI_SECURITY_GetAnyPinStatus(1, 255)"));
+        QMetaObject::invokeMethod(&setup, "slotClose");
     }
 }
 

@@ -5,7 +5,6 @@
 #include "support/OtherPinEntry.h"
 #include "support/PhoneScreen.h"
 #include "support/PhoneTest.h"
-#include "support/PluginLibrary.h"
 #include "support/PrivateAccess.h"
 #include "support/RecordingTranslator.h"
 #include "support/ScreenClock.h"
@@ -16,7 +15,6 @@
 #include "toolkit/ZSingleCaptureDlg.h"
 #include "toolkit/ZSingleSelectDlg.h"
 
-#include <QtCore/QFile>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
@@ -138,9 +136,9 @@ private slots:
     void aTypedAmountIsStoredAs_data();
     void aTypedAmountIsStoredAs();
 
-    void theTextsThatNothingReadsAreInTheLibrary();
     void buildingIsTracedStepByStep();
     void everyTextIsAskedForByItsKey();
+    void aValueIsAskedOfTheCatalogueOnlyWhereItIsAText();
     void settingsThatCannotBeReadStayNull();
     void eachStepOfTheRefreshEndsItWhenItFails_data();
     void eachStepOfTheRefreshEndsItWhenItFails();
@@ -159,6 +157,10 @@ private slots:
 
     void anAnsweredChoiceIsTraced();
     void aTranslatedNameIsCutAtItsEnd();
+    void aSwitchThatIsAnsweredForAnotherEditorChangesNothing_data();
+    void aSwitchThatIsAnsweredForAnotherEditorChangesNothing();
+    void withoutACurrentRowTheSwitchIsOff_data();
+    void withoutACurrentRowTheSwitchIsOff();
     void withoutACurrentRowTheCodeIsEmpty();
     void anEntryForAnotherEditorStoresNothing();
     void theEntryGoesBeforeItIsWritten();
@@ -323,16 +325,6 @@ void TestCostSetup::aTypedAmountIsStoredAs()
     QCOMPARE(writes(), QStringList(QStringLiteral("AdviceOfCharge::setPriceAndCurrency(0.10, %1)").arg(stored)));
 }
 
-void TestCostSetup::theTextsThatNothingReadsAreInTheLibrary()
-{
-    QFile library(PluginLibrary().fileName());
-    QVERIFY(library.open(QIODevice::ReadOnly));
-    const QByteArray image = library.readAll();
-    for (const char *text :
-         {"ScreensaverStatus", "ScreenSaverTimeout", "DiaplyTimeout", "DimTimeout", "DimIntensity"})
-        QVERIFY2(image.contains(QByteArray(text) + '\0'), text);
-}
-
 void TestCostSetup::buildingIsTracedStepByStep()
 {
     quint8 rule = 3;
@@ -419,6 +411,33 @@ void TestCostSetup::everyTextIsAskedForByItsKey()
     choose(Limit);
     chooseInList(1);
     QVERIFY(isAsked(translator.take(), context, "TXT_RID_SETTING_B_OFF", "Off"));
+}
+
+// The limit, the currency and the price start from a text that is asked for, though it is empty. What the engine
+// answers is none, and neither is the unit of the row of the currency.
+void TestCostSetup::aValueIsAskedOfTheCatalogueOnlyWhereItIsAText()
+{
+    const QString context = QStringLiteral("PHONE_UI_RecentCallCostSetupView");
+    RecordingTranslator translator;
+    const auto keysAsked = [&] {
+        QStringList keys;
+        for (const auto &request : translator.take()) {
+            if (request.context == context)
+                keys.append(request.key);
+        }
+        return keys;
+    };
+    translator.add("units", "pieces");
+    translator.add("GBP", "pounds");
+    for (const int type : {0, 1}) {
+        script().answer("AdviceOfCharge::chargeType", quint8(type));
+        open();
+        const QStringList keys = keysAsked();
+        QCOMPARE(keys.count(QString("")), 4); // the left softkey and three rows
+        QVERIFY(!keys.contains("units"));
+        QVERIFY(!keys.contains("GBP"));
+        QCOMPARE(value(CurrencyType), type == 0 ? QString("units") : QString("GBP"));
+    }
 }
 
 void TestCostSetup::settingsThatCannotBeReadStayNull()
@@ -720,6 +739,55 @@ void TestCostSetup::aTranslatedNameIsCutAtItsEnd()
                 QStringLiteral("AdviceOfCharge::setPriceAndCurrency(0.10, %1)").arg(QString::fromLatin1(code))));
         view.reset();
     }
+}
+
+void TestCostSetup::aSwitchThatIsAnsweredForAnotherEditorChangesNothing_data()
+{
+    QTest::addColumn<int>("editor");
+    for (const int editor : {-1, 0, 1, 4, 5, 6})
+        QTest::addRow("editor %d", editor) << editor;
+}
+
+void TestCostSetup::aSwitchThatIsAnsweredForAnotherEditorChangesNothing()
+{
+    QFETCH(const int, editor);
+    open();
+    const QStringList before = rows();
+    for (const int row : {Limit, Currency}) {
+        choose(row);
+        PhoneScreen::press(PhoneKey::Down);
+        view.get()->*exposed(CurCallSetType()) = editor;
+        journal.clear();
+        traces->take();
+        PhoneScreen::press(PhoneKey::Select);
+        QCOMPARE(traces->take(),
+                 traced("slotSingleSelect", QStringLiteral("num: [1], curCallSetType: [%1]").arg(editor)));
+        QCOMPARE(journal.lines(), QStringList());
+        QCOMPARE(rows(), before);
+        QVERIFY(nothingPending());
+    }
+}
+
+void TestCostSetup::withoutACurrentRowTheSwitchIsOff_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("write");
+    QTest::newRow("the limit's") << int(Limit) << "AdviceOfCharge::disableMeterMaximum";
+    QTest::newRow("the currency's") << int(Currency) << "AdviceOfCharge::setChargeType(0)";
+}
+
+void TestCostSetup::withoutACurrentRowTheSwitchIsOff()
+{
+    QFETCH(const int, row);
+    QFETCH(const QString, write);
+    open();
+    choose(row);
+    ZListBox *list = view.get()->*exposed(SelectListBox());
+    list->setSelected(list->currentItem(), false);
+    QCOMPARE(list->currentItem(), -1);
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    PhoneScreen::press(PhoneKey::RightSoftkey); // Back writes what is still to be written
+    QCOMPARE(writes(), QStringList(write));
 }
 
 void TestCostSetup::withoutACurrentRowTheCodeIsEmpty()

@@ -198,6 +198,7 @@ private slots:
     void anAnswerIsWrittenAndReadAgain();
     void aSavedEntryGoesThenIsWrittenThenReadAgain();
     void aChoiceWithoutAListIsNotShown();
+    void aChoiceThatCannotBeMadeLeavesTheEntryBeforeIt();
     void aResetTranslatesItsMessageFirst();
     void theEngineIsFetchedBeforeEveryCall();
     void theEnginesSignalsAreConnectedToNothing();
@@ -444,6 +445,19 @@ void TestCostSetupSteps::aChoiceWithoutAListIsNotShown()
     QVERIFY(!(view.get()->*exposed(ShowSelectDlg()))("Nothing"));
 }
 
+void TestCostSetupSteps::aChoiceThatCannotBeMadeLeavesTheEntryBeforeIt()
+{
+    open();
+    choose(typeRow);
+    PhoneScreen::press(PhoneKey::Select); // on Custom
+    const ZPopup *entry = dialog();
+    QVERIFY(entry);
+    const AllocationFailure failure(1);
+    QMetaObject::invokeMethod(view.get(), "slotCancel");
+    QVERIFY(AllocationFailure::happened());
+    QCOMPARE(dialog(), entry);
+}
+
 void TestCostSetupSteps::aResetTranslatesItsMessageFirst()
 {
     open();
@@ -475,6 +489,22 @@ void TestCostSetupSteps::theEngineIsFetchedBeforeEveryCall()
         PhoneScreen::press(PhoneKey::Select);
         QCOMPARE(enginesAsked, calls());
     }
+    for (const int row : {adjustRow, priceRow}) {
+        choose(row);
+        ZApplication::pressKey(Qt::Key_5);
+        enginesAsked = 0;
+        journal.take();
+        PhoneScreen::press(PhoneKey::LeftSoftkey);
+        QCOMPARE(enginesAsked, calls());
+    }
+    choose(limitRow);
+    PhoneScreen::press(PhoneKey::Down);
+    PhoneScreen::press(PhoneKey::Select);
+    enginesAsked = 0;
+    journal.take();
+    PhoneScreen::press(PhoneKey::RightSoftkey);
+    QCOMPARE(journal.lines(), QStringList("AdviceOfCharge::disableMeterMaximum"));
+    QCOMPARE(enginesAsked, 1);
 }
 
 void TestCostSetupSteps::theEnginesSignalsAreConnectedToNothing()

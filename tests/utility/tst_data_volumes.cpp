@@ -134,6 +134,7 @@ private slots:
     void aFailedResetLeavesTheListAloneToo();
 
     void theUpdateMessageMakesANewMeterAndRebuildsTheList();
+    void theOldMeterGoesBeforeTheNewOneIsMade();
     void otherMessagesChangeNothing_data();
     void otherMessagesChangeNothing();
     void aMessageIsComparedUpToItsNul();
@@ -452,6 +453,18 @@ void TestDataVolumes::theUpdateMessageMakesANewMeterAndRebuildsTheList()
     QVERIFY(screen()->*exposed(VolumesMeter()));
     QCOMPARE(journal.lines(), QStringList("PacketData::sessions"));
     QCOMPARE(PhoneScreen::shownRows(screen()), rows("GPRS Data Session 1", "new", "wap"));
+}
+
+void TestDataVolumes::theOldMeterGoesBeforeTheNewOneIsMade()
+{
+    open();
+    const PHONE_UI_RecentCallMeter *old = screen()->*exposed(VolumesMeter());
+    bool wasFirst = false;
+    connect(old, &QObject::destroyed, this,
+            [&] { wasFirst = journal.lines().isEmpty() && screen()->*exposed(VolumesMeter()) == old; });
+    journal.clear();
+    tell(update);
+    QVERIFY(wasFirst);
 }
 
 void TestDataVolumes::otherMessagesChangeNothing_data()

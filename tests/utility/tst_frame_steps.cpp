@@ -4,12 +4,17 @@
 #include "support/PhoneScreen.h"
 #include "support/PhoneTest.h"
 #include "support/PluginLibrary.h"
+#include "support/PrivateAccess.h"
 #include "support/RecordingTranslator.h"
 #include "support/ToolkitRecorder.h"
+
+#include "utility/PHONE_UI_RecentCallMeter.h"
 
 using handset::CallTime;
 using ZKeys::PhoneKey;
 using CallTimes = HostedScreen<PHONE_UI_RecentCallTimesView>;
+
+KAV_EXPOSE(Meter, &PHONE_UI_RecentCallTimesView::meter);
 
 namespace {
 
@@ -106,7 +111,7 @@ private slots:
     void aDataCallResetIsConfirmedToTheMessageClient();
     void aRefusalShowsANoticeOfItsOwn();
     void noDeletesTheQuestionAndDoesNothingElse();
-    void theScreenTakesMeterNoticeAndClientWithIt();
+    void theScreenTakesMeterThenNoticeThenClientWithIt();
 
 private:
     void reset(const CallTimes &screen, int row);
@@ -339,20 +344,22 @@ void TestFrameSteps::noDeletesTheQuestionAndDoesNothingElse()
     COMPARE_LINES(journal.lines(), QStringList("delete dialog 1"));
 }
 
-void TestFrameSteps::theScreenTakesMeterNoticeAndClientWithIt()
+void TestFrameSteps::theScreenTakesMeterThenNoticeThenClientWithIt()
 {
     script().answer("DataCalls::callStatus", quint8{3});
     CallTimes screen("callTime");
     reset(screen, 3);
     PhoneScreen::press(PhoneKey::LeftSoftkey);
     PhoneScreen::chooseRow(screen.get(), 1);
+    connect(screen.get()->*exposed(Meter()), &QObject::destroyed, this,
+            [this] { journal.record("delete meter"); });
     journal.take();
     screen.destroy();
-    // The notice is the screen's own to delete; the rest goes with the screen as its children.
-    QCOMPARE(journal.lines().value(0), QString("delete dialog 2"));
-    QStringList deleted = journal.lines();
-    deleted.sort();
-    QCOMPARE(deleted, QStringList({"delete dialog 2", "delete dialog 3", "delete msgClient"}));
+    // Meter and notice are the screen's own to delete; the rest goes with the screen as its children.
+    QCOMPARE(journal.lines().mid(0, 2), QStringList({"delete meter", "delete dialog 2"}));
+    QStringList children = journal.lines().mid(2);
+    children.sort();
+    QCOMPARE(children, QStringList({"delete dialog 3", "delete msgClient"}));
 }
 
 KAV_TEST_GROUP(TestFrameSteps, QApplication);

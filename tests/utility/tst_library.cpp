@@ -13,8 +13,20 @@
 #include <QtCore/QSet>
 
 #include <dlfcn.h>
+#include <link.h>
 
 namespace {
+
+// Texts that the plug-in has and nothing reads, in the order of their making.
+constexpr const char *unreadTexts[] = {"ScreensaverStatus", "ScreenSaverTimeout", "DiaplyTimeout", "DimTimeout",
+                                       "DimIntensity"};
+
+// Those of them that were made so far.
+QByteArrayList &textsMade()
+{
+    static QByteArrayList texts;
+    return texts;
+}
 
 QString builtFile(const char *name)
 {
@@ -120,6 +132,18 @@ QStringList exportedNames()
     return names;
 }
 
+// How many entries the table of virtual functions of a class has.
+std::size_t entriesOfTable(const char *className)
+{
+    const QByteArray symbol = QByteArray("_ZTV").append(QByteArray::number(qstrlen(className))).append(className);
+    const void *table = reinterpret_cast<const void *>(PluginLibrary().function<void()>(symbol.constData()));
+    Dl_info info;
+    void *entry = nullptr;
+    if (!table || !dladdr1(table, &info, &entry, RTLD_DL_SYMENT) || !entry)
+        return 0;
+    return static_cast<const ElfW(Sym) *>(entry)->st_size / sizeof(void *);
+}
+
 // What a class is to the meta-object system: its signals, then its slots, in the order of their declaration.
 struct ClassFacts {
     const char *name;
@@ -186,12 +210,28 @@ ProbeRun probe(const QStringList &arguments, const QString &libraryPath)
 
 } // namespace
 
+// Stands for QString::fromLatin1(), and goes on to it.
+QString watchedFromLatin1(QByteArrayView text) asm("_ZN7QString10fromLatin1E14QByteArrayView");
+
+QString watchedFromLatin1(QByteArrayView text)
+{
+    static auto *const original = reinterpret_cast<QString (*)(QByteArrayView)>(
+        dlsym(RTLD_NEXT, "_ZN7QString10fromLatin1E14QByteArrayView"));
+    for (const char *unread : unreadTexts) {
+        if (text == unread)
+            textsMade().append(unread);
+    }
+    return original(text);
+}
+
 class TestLibrary : public PhoneTest
 {
     Q_OBJECT
 
 private slots:
-    void theLibraryCanBeUnloadedAndLoadedAgain(); // first: those after it leave the library loaded
+    // These two come first: those after them leave the library loaded.
+    void theTextsThatNothingReadsAreMadeWhenItIsLoaded();
+    void theLibraryCanBeUnloadedAndLoadedAgain();
     void theLibraryLoadsByName();
     void exportedNamesAreFound_data();
     void exportedNamesAreFound();
@@ -205,6 +245,8 @@ private slots:
     void theExportedSymbolsAreThoseOfTheList();
     void everyClassHasItsMetaObjectInThePlugin_data();
     void everyClassHasItsMetaObjectInThePlugin();
+    void noClassHasAVirtualOperationOfItsOwn_data();
+    void noClassHasAVirtualOperationOfItsOwn();
     void everyLibraryHasItsOwnName_data();
     void everyLibraryHasItsOwnName();
     void thePluginNeedsThePhonesLibrariesByTheirNames_data();
@@ -218,6 +260,15 @@ private slots:
     void callsGoThroughTheDynamicLinker();
     void anotherTelephonyLibraryTakesThePlaceOfOurs();
 };
+
+void TestLibrary::theTextsThatNothingReadsAreMadeWhenItIsLoaded()
+{
+    QVERIFY(textsMade().isEmpty());
+    PluginLibrary plugin;
+    QVERIFY2(plugin.isLoaded(), qPrintable(plugin.error()));
+    QCOMPARE(textsMade(), QByteArrayList(std::begin(unreadTexts), std::end(unreadTexts)));
+    QVERIFY2(plugin.unload(), qPrintable(plugin.error()));
+}
 
 // Whether the dynamic linker also takes it out of memory is the linker's business: the engine's library is bound to the
 // meta-object that the plug-in provides.
@@ -355,6 +406,22 @@ void TestLibrary::everyClassHasItsMetaObjectInThePlugin()
     QCOMPARE(meta->className(), facts.name);
     QCOMPARE(meta->superClass()->className(), facts.base);
     QCOMPARE(methodsOf(*meta), QString::fromLatin1(facts.methods));
+}
+
+void TestLibrary::noClassHasAVirtualOperationOfItsOwn_data()
+{
+    everyClassHasItsMetaObjectInThePlugin_data();
+}
+
+void TestLibrary::noClassHasAVirtualOperationOfItsOwn()
+{
+    QFETCH(const int, index);
+    const ClassFacts &facts = classes[index];
+    const std::size_t entries = entriesOfTable(facts.base);
+    QVERIFY(entries > 0);
+    // Qt's objects have no className(), the toolkit's screens have one already.
+    const std::size_t own = qstrcmp(facts.base, "QObject") == 0 ? 1 : 0;
+    QCOMPARE(entriesOfTable(facts.name), entries + own);
 }
 
 void TestLibrary::everyLibraryHasItsOwnName_data()

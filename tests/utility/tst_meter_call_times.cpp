@@ -92,6 +92,7 @@ private slots:
     void aTimeOfThreeDigitHoursHasNoTraceAfterwards();
     void aFailedQueryTracesTheCallOnly_data();
     void aFailedQueryTracesTheCallOnly();
+    void theTraceSurroundsTheCall_data();
     void theTraceSurroundsTheCall();
 
     void aResetAsksForItselfAndIsTraced_data();
@@ -311,12 +312,18 @@ void TestMeterCallTimes::aFailedQueryTracesTheCallOnly()
     QCOMPARE(traces->take(), callTrace(getters[index].name));
 }
 
+void TestMeterCallTimes::theTraceSurroundsTheCall_data()
+{
+    everyGetterAsksItsOwnFigureOnce_data();
+}
+
 void TestMeterCallTimes::theTraceSurroundsTheCall()
 {
+    QFETCH(const int, index);
     QString before;
-    script().whenCalled("CallLog::lastCallTime", [&] { before = withoutLineNumbers(traces->text()); });
-    meter->getLastCallTimes();
-    QCOMPARE(before, shortTrace(source, "getLastCallTimes"));
+    script().whenCalled(getters[index].operation, [&] { before = withoutLineNumbers(traces->text()); });
+    (meter.get()->*getters[index].get)();
+    QCOMPARE(before, shortTrace(source, getters[index].name));
 }
 
 void TestMeterCallTimes::aResetAsksForItselfAndIsTraced_data()
@@ -359,7 +366,10 @@ void TestMeterCallTimes::aFailedResetIsReportedNowhere()
 
 void TestMeterCallTimes::resettingEverythingIsOneOperation()
 {
+    QString before;
+    script().whenCalled("CallLog::resetAll", [&] { before = withoutLineNumbers(traces->text()); });
     meter->resetAll();
+    QCOMPARE(before, shortTrace(source, "resetAll"));
     QCOMPARE(journal.lines(), QStringList("CallLog::resetAll"));
     QCOMPARE(traces->take(), callTrace("resetAll"));
 }
@@ -397,6 +407,13 @@ void TestMeterCallTimes::textsArePaddedInPlace_data()
                                                                            << "05:0100:7";
     QTest::newRow("a text without colons is padded at the fixed places") << "1234567"
                                                                          << "012034567";
+    // What is inserted behind the end has blanks before it.
+    QTest::newRow("an empty text is padded as if it had colons") << ""
+                                                                 << "0  0";
+    QTest::newRow("a text of one character is padded") << "5"
+                                                       << "05 0";
+    QTest::newRow("a text of two characters is padded") << "5:"
+                                                        << "05:0";
 }
 
 void TestMeterCallTimes::textsArePaddedInPlace()

@@ -80,6 +80,20 @@ QStringList totals(Meter &meter)
     return {meter.getADV_Sessions_Sent(), meter.getADV_Sessions_Received(), meter.getADV_Sessions_Total()};
 }
 
+struct Call {
+    const char *name;
+    void (Meter::*call)();
+    const char *operation;
+};
+constexpr Call calls[] = {
+    {"getRDT", &Meter::getRDT, "PacketData::sessions"},
+    {"getADT", &Meter::getADT, "PacketData::totalDuration"},
+    {"getRDV", &Meter::getRDV, "PacketData::sessions"},
+    {"getADV", &Meter::getADV, "PacketData::totalBytes"},
+    {"resetAllDataSessionsTimer", &Meter::resetAllDataSessionsTimer, "PacketData::resetTotalDuration"},
+    {"resetAllDataSessionsVolume", &Meter::resetAllDataSessionsVolume, "PacketData::resetTotalBytes"},
+};
+
 const QString zero = QStringLiteral("00:00:00");
 const QString none = QStringLiteral("0 B");
 
@@ -123,6 +137,8 @@ private slots:
     void aFailedTotalIsTracedAndLeavesDefaults_data();
     void aFailedTotalIsTracedAndLeavesDefaults();
 
+    void theTraceSurroundsTheCall_data();
+    void theTraceSurroundsTheCall();
     void resettingTheTimerIsSilentEvenWhenItFails();
     void resettingTheVolumeTracesItsFailureOnly();
     void twoMetersKeepTheirTextsApart();
@@ -548,6 +564,22 @@ void TestMeterData::aFailedTotalIsTracedAndLeavesDefaults()
                                QString::number(code)));
     QCOMPARE(meter.getADT_Sessions(), zero);
     QCOMPARE(totals(meter), QStringList({none, none, none}));
+}
+
+void TestMeterData::theTraceSurroundsTheCall_data()
+{
+    QTest::addColumn<int>("index");
+    for (int i = 0; i < int(std::size(calls)); ++i)
+        QTest::newRow(calls[i].name) << i;
+}
+
+void TestMeterData::theTraceSurroundsTheCall()
+{
+    QFETCH(const int, index);
+    QString before;
+    script().whenCalled(calls[index].operation, [&] { before = withoutLineNumbers(traces->text()); });
+    (meter.*calls[index].call)();
+    QCOMPARE(before, shortTrace(source, calls[index].name));
 }
 
 void TestMeterData::resettingTheTimerIsSilentEvenWhenItFails()

@@ -19,6 +19,7 @@ private slots:
     void argumentsAreFormattedAsByPrintf();
     void theShortFormSurroundsACall();
     void theLongFormQuotesTheMessageBetweenLineBreaks();
+    void theLineIsTheOneThatTheTraceStandsIn();
     void withoutAStreamTracesGoToStandardOutput();
     void withAStreamNothingGoesToStandardOutput();
 };
@@ -77,6 +78,17 @@ void TestTrace::theLongFormQuotesTheMessageBetweenLineBreaks()
     const QString function = QStringLiteral("theLongFormQuotesTheMessageBetweenLineBreaks");
     QCOMPARE(traces->take(), longTrace("tests/source", function, "it failed.-3") +
                                  longTrace("tests/source", function, "nothing to add"));
+}
+
+void TestTrace::theLineIsTheOneThatTheTraceStandsIn()
+{
+    const QString function = QStringLiteral("theLineIsTheOneThatTheTraceStandsIn");
+    const int line = __LINE__ + 1;
+    KAV_TRACED(0);
+    KAV_TRACE("text");
+    const QString call = QStringLiteral("tests/source,%1,%2 \n").arg(function).arg(line);
+    const QString message = QStringLiteral("\ntests/source, %1, %2: \"text\"\n").arg(function).arg(line + 1);
+    QCOMPARE(traces->text(), call + call + message);
 }
 
 namespace {
