@@ -233,8 +233,9 @@ void TestCommandLine::aReplacementLibraryThatLacksAFunctionIsToldAtTheStart_data
                                                                                 << "functionThatNobodyHas";
     QTest::newRow("the log, by the program at its end") << "log"
                                                         << "libaplog_close";
+    // What is missed first, a function or a class, is the build's: it depends on what the compiler makes of either.
     QTest::newRow("the toolkit, by the program") << "toolkit"
-                                                 << "ZKbMainWidget";
+                                                 << "(ZKbMainWidget|ZPopup)";
     QTest::newRow("the call setup, by a screen") << "callsetup"
                                                  << "PHONE_ENG_Setup";
     QTest::newRow("the message client, by a screen") << "message"

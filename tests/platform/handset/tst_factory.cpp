@@ -1,5 +1,6 @@
 // Opening a handset by name and installing it for the phone's libraries.
 #include "calllog/Schema.h"
+#include "handset/Backend.h"
 #include "handset/CallService.h"
 #include "handset/DataCalls.h"
 #include "handset/HandsetTestKit.h"
@@ -116,7 +117,8 @@ void TestFactory::aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt_data()
         << QStringLiteral(KAV_BACKENDS "/libnohandset.so") << QStringLiteral("it has no handset");
     QTest::newRow("one that was built for another version")
         << QStringLiteral(KAV_BACKENDS "/libotherversion.so")
-        << QStringLiteral("it was built for version 0 of the interface, and this is version 2");
+        << QStringLiteral("it was built for version 0 of the interface, and this is version %1")
+               .arg(interfaceVersion);
 }
 
 void TestFactory::aLibraryThatCannotBeUsedAsABackendIsAnErrorThatNamesIt()
