@@ -1,5 +1,6 @@
 #include "meter/CommandLine.h"
 
+#include "handset/CallRetention.h"
 #include "handset/Handset.h"
 #include "meter/Figures.h"
 
@@ -136,10 +137,8 @@ QString readKeptDays(const QCommandLineParser &parser, Options &options)
 {
     if (!parser.isSet(QStringLiteral("keep-calls")))
         return {};
-    constexpr int mostDays = 100'000;
-    bool isNumber = false;
-    options.keptDays = parser.value(QStringLiteral("keep-calls")).toInt(&isNumber);
-    if (!isNumber || *options.keptDays < 0 || *options.keptDays > mostDays)
+    options.keptDays = handset::keptDaysFrom(parser.value(QStringLiteral("keep-calls")));
+    if (!options.keptDays)
         return QStringLiteral("Option 'keep-calls' wants a number of days.");
     if (parser.positionalArguments() != QStringList{QStringLiteral("delete"), QStringLiteral("all")})
         return QStringLiteral("Option 'keep-calls' goes with delete all.");

@@ -1,6 +1,7 @@
 // kavmeter shows the meters of the phone in a shell.
 #include "calllog/OpenLedger.h"
 #include "handset/AdviceOfCharge.h"
+#include "handset/CallRetention.h"
 #include "handset/Clock.h"
 #include "handset/Handset.h"
 #include "handset/Status.h"
@@ -214,7 +215,7 @@ int deleteRows(const Options &options)
         qint64 count = 0;
         handset::calllog::Period period;
         if (options.keptDays)
-            period.until = QDateTime::currentDateTime().addDays(-*options.keptDays).toMSecsSinceEpoch();
+            period.until = handset::keptSince(*options.keptDays, QDateTime::currentMSecsSinceEpoch());
         return report(options, id > 0 ? handset::calllog::deleteCall(ledger, id)
                                       : handset::calllog::deleteCalls(ledger, period, count));
     });

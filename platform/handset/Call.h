@@ -42,6 +42,8 @@ struct PastCall {
     qint64 durationMs = 0;  ///< connected time, 0 or more; 0 is a call that was never connected
     qint64 units = 0;       ///< charged, 0 or more
     bool isLate = false;    ///< it had gone on before it was counted, nobody knows how long
+
+    friend bool operator==(const PastCall &, const PastCall &) = default;
 };
 
 } // namespace handset

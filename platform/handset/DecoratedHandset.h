@@ -71,6 +71,7 @@ public:
     }
     LineControl *lineControl() override { return behind ? behind->lineControl() : nullptr; }
     calllog::Charging *charging() override { return behind ? behind->charging() : nullptr; }
+    KeptCalls *keptCalls() override { return behind ? behind->keptCalls() : nullptr; }
     bool owesRecord() const override { return behind && behind->owesRecord(); }
     void changedElsewhere() override
     {

@@ -3,6 +3,7 @@
 #include "calllog/StateDirectory.h"
 #include "handset/Backend.h"
 #include "handset/CallLog.h"
+#include "handset/CallRetention.h"
 #include "handset/CallService.h"
 #include "handset/Clock.h"
 #include "handset/DataCalls.h"
@@ -108,6 +109,22 @@ Function exported(const QString &backend, const char *name)
     const QString library = libraryOf(backend);
     void *const handle = library.isEmpty() ? nullptr : load(library);
     return handle ? reinterpret_cast<Function>(::dlsym(handle, name)) : nullptr;
+}
+
+/// A handset, and what limits how long it keeps calls.
+struct Limited {
+    std::shared_ptr<Handset> handset;
+    CallRetention retention;
+};
+
+std::shared_ptr<Handset> limited(std::shared_ptr<Handset> handset, const Settings &settings)
+{
+    if (!handset || !settings.keptDays)
+        return handset;
+    Handset &shown = *handset;
+    const auto both = std::shared_ptr<Limited>(
+        new Limited{std::move(handset), CallRetention(shown, *settings.keptDays, settings.clock)});
+    return {both, &shown};
 }
 
 Opened openFrom(const QString &library, const Settings &settings)
@@ -257,10 +274,12 @@ Opened open(const Settings &settings)
     Settings complete = settings;
     if (!complete.clock)
         complete.clock = std::make_shared<SystemClock>();
-    if (isPath)
-        return openFrom(settings.backend, complete);
     const Backend *const builtIn = findBackend(settings.backend);
-    return builtIn && builtIn->open ? builtIn->open(complete) : openFrom(libraryOf(settings.backend), complete);
+    Opened opened = builtIn && builtIn->open
+                        ? builtIn->open(complete)
+                        : openFrom(isPath ? settings.backend : libraryOf(settings.backend), complete);
+    opened.handset = limited(std::move(opened.handset), complete);
+    return opened;
 }
 
 QString defaultStateDirectory()

@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace handset {
 
@@ -16,6 +17,7 @@ class CallLog;
 class CallService;
 class Clock;
 class DataCalls;
+class KeptCalls;
 class LineControl;
 class PacketData;
 class SimSecurity;
@@ -43,6 +45,8 @@ public:
     /// The own tariff and the prepaid account, by which the handset charges calls that nobody else does; no role either.
     /// Null where it has none.
     virtual calllog::Charging *charging() { return nullptr; }
+    /// Nor is this one: who lists the calls asks for it. Null where they are not kept one by one.
+    virtual KeptCalls *keptCalls() { return nullptr; }
 
     /// `listener` is called when something has been changed by this process that another one may show: a call or session
     /// has begun or ended, something was set or reset. It is copied, takes the place of the one before, and must not end
@@ -75,6 +79,9 @@ struct Settings {
     /// next open() begins anew. Null for never.
     std::function<bool()> isGivenUp = {};
     Patience patience = {};
+    /// Calls that began earlier than so many days ago, 0 to mostKeptDays, are deleted, as handset/CallRetention.h says;
+    /// nothing keeps all.
+    std::optional<int> keptDays = {};
 };
 
 struct Opened {

@@ -149,6 +149,8 @@ public:
 
     /// Called when something has been changed by edit(), a reset, or the beginning or end of a session.
     void setChangeListener(std::function<void()> listener) { onChange = std::move(listener); }
+    /// Calls it where `status`, of a change that was made through the connection, is Success; returns that.
+    int changed(int status) const;
 
 private:
     void forgetNotice();
@@ -193,7 +195,6 @@ private:
     int find(Traces &traces);
     bool putNewInPlaceOf(const Traces &traces, QStringList &notices);
     bool putChecks();
-    int changed(int status) const;
 
     // The order matters: statements go before their connection, the connection before the lock.
     std::unique_ptr<StateDirectory> directory;

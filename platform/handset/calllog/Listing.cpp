@@ -12,6 +12,10 @@ namespace {
 constexpr auto listCallsSql =
     "SELECT id, kind, direction, number, started_ms, duration_ms, units, late, state FROM calls"
     " WHERE started_ms >= ? AND started_ms < ? ORDER BY id";
+constexpr auto newestCallsSql =
+    "SELECT id, kind, direction, number, started_ms, duration_ms, units, late, state FROM calls"
+    " WHERE id < ? ORDER BY id DESC LIMIT ?";
+constexpr auto countCallsSql = "SELECT count(*) FROM calls WHERE id >= ? AND id < ?";
 constexpr auto listSessionsSql = "SELECT id, apn, started_ms, duration_ms, sent, received, state FROM sessions"
                                  " WHERE started_ms >= ? AND started_ms < ? ORDER BY id";
 constexpr auto stateOfCallSql = "SELECT state FROM calls WHERE id = ?";
@@ -28,11 +32,11 @@ constexpr auto loseCostsSql =
 constexpr auto deleteCallsSql =
     "DELETE FROM calls WHERE state <> 0 AND id BETWEEN ?1 AND ?2 AND started_ms >= ?3 AND started_ms < ?4";
 
-template <typename Row, typename Read>
-bool readAll(Database &database, const char *select, const Period &period, QList<Row> &rows, Read read)
+template <typename Row, typename Read, typename Value>
+bool readAll(Database &database, const char *select, qint64 first, Value second, QList<Row> &rows, Read read)
 {
     rows.clear();
-    if (!database.run(select, period.from, period.until))
+    if (!database.run(select, first, second))
         return false;
     Statement &row = database.statement(select);
     for (bool more = row.hasRow(); more; more = row.next())
@@ -68,14 +72,13 @@ bool deleteRows(Database &database, qint64 first, qint64 last, const Period &per
     return true;
 }
 
-} // namespace
-
-int listCalls(Ledger &ledger, const Period &period, QList<ListedCall> &calls)
+template <typename Value>
+int readCalls(Ledger &ledger, const char *select, qint64 first, Value second, QList<ListedCall> &calls)
 {
     QList<ListedCall> found;
     const int status = ledger.ask([&](const Standing &now) {
         Database &database = ledger.connection();
-        if (!readAll(database, listCallsSql, period, found, listedCallAt))
+        if (!readAll(database, select, first, second, found, listedCallAt))
             return database.status(false);
         for (ListedCall &listed : found)
             for (const RunningCall &running : now.calls)
@@ -90,11 +93,35 @@ int listCalls(Ledger &ledger, const Period &period, QList<ListedCall> &calls)
     return status;
 }
 
+} // namespace
+
+int listCalls(Ledger &ledger, const Period &period, QList<ListedCall> &calls)
+{
+    return readCalls(ledger, listCallsSql, period.from, period.until, calls);
+}
+
+int newestCalls(Ledger &ledger, qint64 before, int most, QList<ListedCall> &calls)
+{
+    return readCalls(ledger, newestCallsSql, before, most, calls);
+}
+
+int countCalls(Ledger &ledger, qint64 first, qint64 before, qint64 &count)
+{
+    Database &database = ledger.connection();
+    const bool isRead = database.runForRow(countCallsSql, first, before);
+    if (isRead) {
+        Statement &row = database.statement(countCallsSql);
+        count = row.number(0);
+        row.finish();
+    }
+    return database.status(isRead);
+}
+
 int listSessions(Ledger &ledger, const Period &period, QList<ListedSession> &sessions)
 {
     QList<ListedSession> found;
     Database &database = ledger.connection();
-    if (!readAll(database, listSessionsSql, period, found, listedSessionAt))
+    if (!readAll(database, listSessionsSql, period.from, period.until, found, listedSessionAt))
         return database.status(false);
     const auto runs = [](const ListedSession &one) { return one.state == CallState::Running; };
     const auto running = std::find_if(found.begin(), found.end(), runs);

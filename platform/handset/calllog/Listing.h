@@ -32,6 +32,10 @@ struct ListedSession {
 /// The calls, or sessions, that began in a period, in the order in which they did.
 int listCalls(Ledger &ledger, const Period &period, QList<ListedCall> &calls);
 int listSessions(Ledger &ledger, const Period &period, QList<ListedSession> &sessions);
+/// The `most` newest calls with an id of less than `before`, the newest first.
+int newestCalls(Ledger &ledger, qint64 before, int most, QList<ListedCall> &calls);
+/// How many have an id from `first` on, and less than `before`.
+int countCalls(Ledger &ledger, qint64 first, qint64 before, qint64 &count);
 /// Deletes a call that is over: no total changes. WrongState for one that runs, InvalidArgument where there is none.
 int deleteCall(Ledger &ledger, qint64 id);
 /// Deletes the calls of a period that are over; `count` is how many they were.

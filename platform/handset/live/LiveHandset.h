@@ -4,6 +4,7 @@
 #include "calllog/CallFigures.h"
 #include "calllog/Charging.h"
 #include "calllog/CheckBeside.h"
+#include "calllog/LedgerCalls.h"
 #include "calllog/PacketFigures.h"
 #include "handset/Handset.h"
 #include "handset/LineControl.h"
@@ -44,6 +45,7 @@ public:
     PacketData *packetData() override { return &packets; }
     LineControl *lineControl() override { return this; }
     calllog::Charging *charging() override { return &charges; }
+    KeptCalls *keptCalls() override { return &kept; }
     void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
     void setWaitListener(const std::function<void(bool waits)> &listener) override { onWait = listener; }
@@ -100,6 +102,7 @@ private:
     std::unique_ptr<Modem> source;
     calllog::CallFigures figures{*ledger};
     calllog::PacketFigures packets{*ledger};
+    calllog::LedgerCalls kept{*ledger};
     calllog::Charging charges{*ledger};
     OwnCharging ownCharging{*ledger};
     CallRecorder callRecorder;

@@ -4,6 +4,7 @@
 #include "calllog/CallFigures.h"
 #include "calllog/Charging.h"
 #include "calllog/CheckBeside.h"
+#include "calllog/LedgerCalls.h"
 #include "calllog/PacketFigures.h"
 #include "handset/Call.h"
 #include "handset/Handset.h"
@@ -60,6 +61,7 @@ public:
     AdviceOfCharge *adviceOfCharge() override { return &sim; }
     PacketData *packetData() override { return &packetFigures; }
     SimSecurity *simSecurity() override { return &sim; }
+    KeptCalls *keptCalls() override { return &kept; }
     void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
 
@@ -132,6 +134,7 @@ private:
     Charging charges{*ledger};
     SimAccess sim{*ledger};
     calllog::PacketFigures packetFigures{*ledger};
+    calllog::LedgerCalls kept{*ledger};
     std::shared_ptr<Clock> clock;
     LineState state = LineState::Idle;
     PastCall call;     ///< on the line

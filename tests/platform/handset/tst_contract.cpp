@@ -5,6 +5,7 @@
 #include "handset/EachOperation.h"
 #include "handset/HandsetRig.h"
 #include "handset/HandsetTestKit.h"
+#include "handset/KeptCalls.h"
 #include "handset/PacketData.h"
 #include "handset/Status.h"
 #include "support/LackingHandset.h"
@@ -87,6 +88,10 @@ private slots:
     void refreshingTheDataCallTotalChangesNoFigure();
     void figuresAndResetsSurviveARestart();
     void theDataCallStatusOfANewStartIsIdle();
+    void callsAreKeptOneByOneTheNewestFirst();
+    void aDeletedCallStaysInEveryTotal();
+    void whatRunsIsNotDeleted();
+    void deletingIsToldToTheChangeListener();
 
     void sessionsStandNewestFirst();
     void aRunningSessionIsCountedUpToNow();
@@ -105,6 +110,8 @@ private:
     QString sessionTotals() { return sessionTotalsOf(rig->handset()); }
     SixFigures figures() { return figuresOf(rig->handset()); }
     quint8 status();
+
+    QList<KeptCall> keptCalls(int most = 100);
 
     std::unique_ptr<HandsetRig> rig;
 };
@@ -433,6 +440,83 @@ void TestContract::theDataCallStatusOfANewStartIsIdle()
     rig->close();
     QVERIFY(rig->open());
     QCOMPARE(status(), quint8(DataCalls::Idle));
+}
+
+QList<KeptCall> TestContract::keptCalls(int most)
+{
+    QList<KeptCall> calls;
+    KeptCalls *const kept = rig->handset().keptCalls();
+    return kept && kept->newest(KeptCalls::endOfTime, most, calls) == Success ? calls : QList<KeptCall>();
+}
+
+void TestContract::callsAreKeptOneByOneTheNewestFirst()
+{
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, 3 * second));
+    QVERIFY(call(CallKind::Voice, CallDirection::Answered, 0));
+    QVERIFY(rig->begin(CallKind::Voice, CallDirection::Dialed));
+    QVERIFY(rig->connectCall());
+    rig->pass(5 * second);
+    const QList<KeptCall> calls = keptCalls();
+    QCOMPARE(calls.size(), 3);
+    QVERIFY(calls[0].id > calls[1].id && calls[1].id > calls[2].id);
+    QVERIFY(calls[0].isRunning && !calls[1].isRunning && !calls[2].isRunning);
+    QCOMPARE(calls[0].call.durationMs, 5 * second);
+    QCOMPARE(calls[1].call.direction, CallDirection::Answered);
+    QCOMPARE(calls[2].call.durationMs, 3 * second);
+    QCOMPARE(keptCalls(1).size(), 1);
+    QList<KeptCall> older;
+    QCOMPARE(rig->handset().keptCalls()->newest(calls[1].id, 100, older), int{Success});
+    QCOMPARE(older, QList<KeptCall>{calls[2]});
+    qint64 count = 0;
+    QCOMPARE(rig->handset().keptCalls()->count(calls[2].id, calls[0].id, count), int{Success});
+    QCOMPARE(count, 2);
+    QVERIFY(rig->end());
+}
+
+void TestContract::aDeletedCallStaysInEveryTotal()
+{
+    QVERIFY(everyKindOfCall());
+    const SixFigures before = figures();
+    const QList<KeptCall> calls = keptCalls();
+    QVERIFY(calls.size() >= 2);
+    KeptCalls &kept = *rig->handset().keptCalls();
+    QCOMPARE(kept.remove(calls[1].id), int{Success});
+    QCOMPARE(kept.remove(calls[1].id), int{InvalidArgument});
+    QCOMPARE(keptCalls().size(), calls.size() - 1);
+    qint64 count = 0;
+    QCOMPARE(kept.removeBefore(calls[0].call.startWallMs + 1, count), int{Success});
+    QCOMPARE(count, calls.size() - 1);
+    QVERIFY(keptCalls().isEmpty());
+    QCOMPARE(figures(), before);
+    rig->close();
+    QVERIFY(rig->open());
+    QCOMPARE(figures(), before);
+}
+
+void TestContract::whatRunsIsNotDeleted()
+{
+    QVERIFY(rig->begin(CallKind::Voice, CallDirection::Dialed));
+    QVERIFY(rig->connectCall());
+    const QList<KeptCall> calls = keptCalls();
+    QCOMPARE(calls.size(), 1);
+    qint64 count = -1;
+    QCOMPARE(rig->handset().keptCalls()->remove(calls[0].id), int{WrongState});
+    QCOMPARE(rig->handset().keptCalls()->removeBefore(KeptCalls::endOfTime, count), int{Success});
+    QCOMPARE(count, 0);
+    rig->pass(2 * second);
+    QVERIFY(rig->end());
+    QCOMPARE(figures().last, quint64{2});
+    QCOMPARE(keptCalls().size(), 1);
+}
+
+void TestContract::deletingIsToldToTheChangeListener()
+{
+    QVERIFY(call(CallKind::Voice, CallDirection::Dialed, second));
+    int told = 0;
+    rig->handset().setChangeListener([&] { ++told; });
+    QCOMPARE(rig->handset().keptCalls()->remove(keptCalls().value(0).id), int{Success});
+    QCOMPARE(told, 1);
+    rig->handset().setChangeListener({});
 }
 
 void TestContract::sessionsStandNewestFirst()
