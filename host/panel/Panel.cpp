@@ -8,11 +8,13 @@
 #include "host/panel/ModemSection.h"
 #include "host/panel/PacketSection.h"
 #include "host/panel/Pin2Section.h"
+#include "host/panel/RecentCallsSection.h"
 #include "host/panel/SimFilesSection.h"
 #include "host/panel/StateSection.h"
 #include "host/panel/TariffSection.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QProxyStyle>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QVBoxLayout>
 
@@ -24,6 +26,17 @@ namespace {
 
 constexpr int tickMs = 1000;
 constexpr int spacing = 10;
+
+// All tabs are seen at once in a panel of the usual width.
+class CloseTabs : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TabBarTabHSpace ? usual * 2 / 3 : usual;
+    }
+};
 
 QVBoxLayout *makeColumn(QWidget *owner)
 {
@@ -60,6 +73,9 @@ Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
 
 void Panel::addPages(const Setup &setup)
 {
+    auto *close = new CloseTabs;
+    close->setParent(tabs);
+    tabs->setStyle(close);
     tabs->setExpanding(false);
     tabs->setFocusPolicy(Qt::TabFocus);
     tabs->setAccessibleName(tr("Sides of the telephone"));
@@ -75,6 +91,7 @@ void Panel::addPages(const Setup &setup)
     });
     addPage(tr("SIM"), [this] { return Sections{new SimFilesSection(line), new Pin2Section(line)}; });
     addPage(tr("Data"), [this] { return Sections{new PacketSection(line)}; });
+    addPage(tr("Recent"), [this] { return Sections{new RecentCallsSection(line)}; });
     if (setup.faults)
         addPage(tr("Failures"), [faults = setup.faults] { return Sections{new FailuresSection(*faults)}; });
     choosePage(setup.page);

@@ -19,7 +19,7 @@ class Faults;
 class PanelSection;
 
 /// What the command line calls the pages, in their order.
-inline constexpr std::array<const char *, 5> pageNames{"calls", "charging", "sim", "data", "failures"};
+inline constexpr std::array<const char *, 6> pageNames{"calls", "charging", "sim", "data", "recent", "failures"};
 
 /// The line, and under it a page for each side of the handset: a column of sections, each a class of its own. A new
 /// role of the handset is a new section. A page is made when it is shown for the first time.

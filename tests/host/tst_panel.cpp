@@ -41,6 +41,7 @@
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTabBar>
+#include <QtWidgets/QTreeView>
 
 using namespace host;
 using handset::AdviceOfCharge;
@@ -410,7 +411,7 @@ void TestPanel::eachTabShowsItsSections()
     QCOMPARE(shown(), (QStringList{"Line", "Call timers", "State"}));
     window->choosePage(2);
     QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
-    window->choosePage(5);
+    window->choosePage(static_cast<int>(pageNames.size()));
     QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
     showTab("Charging");
     QCOMPARE(shown(), (QStringList{"Line", "Tariff", "Costs", "Prepaid account"}));
@@ -418,6 +419,8 @@ void TestPanel::eachTabShowsItsSections()
     QCOMPARE(shown(), (QStringList{"Line", "Files of the SIM card", "PIN2"}));
     showTab("Data");
     QCOMPARE(shown(), (QStringList{"Line", "Packet data"}));
+    showTab("Recent");
+    QCOMPARE(shown(), (QStringList{"Line", "Recent calls"}));
     showTab("Failures");
     QCOMPARE(shown(), (QStringList{"Line", "Failures"}));
     showTab("Calls");
@@ -1111,7 +1114,7 @@ void TestPanel::withoutFaultsThereIsNoPageForThem()
     window->complete();
     openEachTabOnce();
     QVERIFY(!window->findChild<QListWidget *>("failing"));
-    QCOMPARE(window->findChild<QTabBar *>()->count(), 4);
+    QCOMPARE(window->findChild<QTabBar *>()->count(), 5);
 }
 
 // --- all of them
@@ -1120,7 +1123,7 @@ void TestPanel::clicksLeaveTheFocusWithThePhone()
 {
     QWidget *phone = window->focusWidget();
     QVERIFY(qobject_cast<ZListBox *>(phone));
-    for (const char *tab : {"Charging", "SIM", "Data", "Failures", "Calls"}) {
+    for (const char *tab : {"Charging", "SIM", "Data", "Recent", "Failures", "Calls"}) {
         showTab(tab);
         QCOMPARE(window->focusWidget(), phone);
     }
@@ -1153,7 +1156,7 @@ void TestPanel::everyControlHasANameAndAReachableTabStop()
             !isPart &&
             (qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
              qobject_cast<const QComboBox *>(widget) || qobject_cast<const QLineEdit *>(widget) ||
-             qobject_cast<const QListWidget *>(widget));
+             qobject_cast<const QListWidget *>(widget) || qobject_cast<const QTreeView *>(widget));
         if (!isControl)
             continue;
         ++controls;
@@ -1212,7 +1215,7 @@ void TestPanel::theWheelTurnsThePanelAndNoNumber()
 void TestPanel::nothingIsCutOffInANarrowPanel_data()
 {
     QTest::addColumn<QByteArray>("tab");
-    for (const char *tab : {"Calls", "Charging", "SIM", "Data", "Failures"})
+    for (const char *tab : {"Calls", "Charging", "SIM", "Data", "Recent", "Failures"})
         QTest::newRow(tab) << QByteArray(tab);
 }
 
