@@ -1,5 +1,6 @@
 #include "host/Options.h"
 
+#include "handset/CallRetention.h"
 #include "handset/Handset.h"
 #include "host/ScreenTable.h"
 #include "host/panel/Panel.h"
@@ -50,6 +51,9 @@ constexpr OptionText optionTexts[] = {
     {"backend", "NAME",
      "The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else "
      "simulated. Default: simulated."},
+    {"keep-calls", "DAYS",
+     "Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and "
+     "stay in the totals. Default: all are kept."},
     {"plugin", "NAME", "The plug-in library. Default: libkavcallmeter.so.1"},
     {"screen", "NAME", "Open this screen at once: %3."},
     {"page", "NAME", "Show this page of the panel: %4."},
@@ -140,7 +144,10 @@ QString findMistake(const QCommandLineParser &parser)
         return mistake;
     if (parser.isSet(QStringLiteral("script")) && !parser.isSet(QStringLiteral("tour")))
         return QStringLiteral("Option 'script' needs option 'tour'.");
-    for (const char *name : {"screen", "page", "photo"}) {
+    const QString keptDays = QStringLiteral("keep-calls");
+    if (parser.isSet(keptDays) && !handset::keptDaysFrom(parser.value(keptDays)))
+        return QStringLiteral("Option 'keep-calls' wants a number of days, 0 to %1.").arg(handset::mostKeptDays);
+    for (const char *name : {"screen", "page", "photo", "keep-calls"}) {
         if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
             return QStringLiteral("Option '%1' does not go with option 'tour'.").arg(QLatin1StringView(name));
     }
@@ -171,6 +178,7 @@ Options readOptions(const QCommandLineParser &parser)
     options.backend = valueOr(parser, "backend", QStringLiteral("simulated"));
     options.stateGiven = parser.isSet(QStringLiteral("state"));
     options.stateDirectory = stateDirectoryOf(parser);
+    options.keptDays = handset::keptDaysFrom(parser.value(QStringLiteral("keep-calls")));
     options.plugin = valueOr(parser, "plugin", QString::fromLatin1(defaultPlugin));
     options.screen = parser.value(QStringLiteral("screen"));
     options.page = std::max(pageIndex(parser.value(QStringLiteral("page"))), 0);

@@ -10,9 +10,10 @@ namespace host {
 
 struct Options {
     QString backend;
-    QString stateDirectory;  ///< empty keeps the state in memory
-    bool stateGiven = false; ///< --state was on the command line
-    QString traceFile;       ///< "-" is standard output, empty drops the trace
+    QString stateDirectory;      ///< empty keeps the state in memory
+    bool stateGiven = false;     ///< --state was on the command line
+    std::optional<int> keptDays; ///< how long calls are kept; nothing for ever
+    QString traceFile;           ///< "-" is standard output, empty drops the trace
     QString plugin;
     QString screen;        ///< name of the screen to open at once; empty for the menu
     int page = 0;          ///< row of pageNames that the panel shows

@@ -197,6 +197,7 @@ handset::Settings handsetSettings(const Options &options, PhoneWindow &window, c
     handset::Settings settings;
     settings.backend = options.backend;
     settings.stateDirectory = options.stateDirectory;
+    settings.keptDays = options.keptDays;
     settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
     settings.progress = [](const QString &step, int percent) {
         complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));

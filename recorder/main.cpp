@@ -1,4 +1,5 @@
 // kavcallrecorder records the calls and data connections of a modem while no window is open.
+#include "handset/CallRetention.h"
 #include "handset/Handset.h"
 #include "process/EndSignals.h"
 
@@ -21,6 +22,7 @@ constexpr const char *exitCodes = "\nExit codes:\n"
 struct Options {
     QString backend;
     QString stateDirectory;
+    std::optional<int> keptDays;
 };
 
 int complain(int code, const QString &message)
@@ -44,6 +46,11 @@ void describe(QCommandLineParser &parser)
     parser.addOption({QStringLiteral("state"),
                       QStringLiteral("Record in DIR. Default: %1").arg(handset::defaultStateDirectory()),
                       QStringLiteral("DIR"), handset::defaultStateDirectory()});
+    parser.addOption(
+        {QStringLiteral("keep-calls"),
+         QStringLiteral("Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when "
+                        "recording begins and once a day, and stay in the totals. Default: all are kept."),
+         QStringLiteral("DAYS")});
 }
 
 /// Records what a modem does; with "auto" that of the first daemon that has one, for which it waits.
@@ -88,6 +95,7 @@ private:
         handset::Settings settings;
         settings.backend = backend;
         settings.stateDirectory = options.stateDirectory;
+        settings.keptDays = options.keptDays;
         settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
         settings.progress = [](const QString &step, int percent) {
             complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));
@@ -125,7 +133,14 @@ int main(int argc, char **argv)
     }
     if (parser.isSet(QStringLiteral("version")))
         parser.showVersion();
-    const Options options{parser.value(QStringLiteral("backend")), parser.value(QStringLiteral("state"))};
+    const QString days = parser.value(QStringLiteral("keep-calls"));
+    const Options options{parser.value(QStringLiteral("backend")), parser.value(QStringLiteral("state")),
+                          handset::keptDaysFrom(days)};
+    if (parser.isSet(QStringLiteral("keep-calls")) && !options.keptDays)
+        return complain(
+            ExitBadCommandLine,
+            QStringLiteral("Option 'keep-calls' wants a number of days, 0 to %1. See kavcallrecorder --help.")
+                .arg(handset::mostKeptDays));
     if (options.backend.isEmpty() || options.stateDirectory.isEmpty() || !parser.positionalArguments().isEmpty())
         return complain(ExitBadCommandLine, QStringLiteral("There is a value missing or too many. See "
                                                            "kavcallrecorder --help."));

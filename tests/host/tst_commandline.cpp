@@ -2,10 +2,12 @@
 
 #include "handset/Clock.h"
 #include "handset/Handset.h"
+#include "handset/HandsetTestKit.h"
 #include "host/HostProcess.h"
 #include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
@@ -29,6 +31,7 @@ private slots:
     void aWrongCommandLineIsRefusedWithCode2();
     void aNameThatIsNotUtf8IsRefused_data();
     void aNameThatIsNotUtf8IsRefused();
+    void callsOlderThanTheDaysToKeepAreDeletedAtTheStart();
     void aPluginThatCannotServeIsNamed_data();
     void aPluginThatCannotServeIsNamed();
     void aPluginWithoutAScreenIsSaid();
@@ -135,6 +138,9 @@ void TestCommandLine::aWrongCommandLineIsRefusedWithCode2_data()
     QTest::newRow("an option without its value") << QStringList{"--state"} << "state";
     QTest::newRow("an empty value") << QStringList{"--state", ""} << "'state' has an empty value";
     QTest::newRow("a screen that there is not") << QStringList{"--screen", "nowhere"} << "'nowhere'";
+    QTest::newRow("a part of a day") << QStringList{"--keep-calls", "1.5"}
+                                     << "'keep-calls' wants a number of days";
+    QTest::newRow("days to keep on a tour") << QStringList{"--tour", "t", "--keep-calls", "1"} << "'keep-calls'";
     QTest::newRow("a script without a tour") << QStringList{"--script", "x"} << "'script' needs option 'tour'";
     QTest::newRow("a page that there is not") << QStringList{"--page", "nowhere"} << "'nowhere'";
     QTest::newRow("a page on a tour") << QStringList{"--tour", "t", "--page", "sim"} << "'page'";
@@ -177,6 +183,24 @@ void TestCommandLine::aNameThatIsNotUtf8IsRefused()
     const QByteArray errors = shell.readAllStandardError();
     QVERIFY2(errors.contains("The name that option '" + option + "' gives is not UTF-8."), errors.constData());
     QCOMPARE(shell.exitCode(), 2);
+}
+
+void TestCommandLine::callsOlderThanTheDaysToKeepAreDeletedAtTheStart()
+{
+    using handset::test::Phone;
+    const QDateTime now = QDateTime::currentDateTime();
+    for (const int daysAgo : {31, 29}) {
+        const qint64 begun = now.addDays(-daysAgo).toMSecsSinceEpoch();
+        Phone phone(path("state"), std::make_shared<handset::ManualClock>(begun));
+        QVERIFY(phone.dialed(1000, handset::CallKind::Voice, QString::number(daysAgo)));
+    }
+    const handset::test::LogFile log(path("state/calllog.db"));
+    QCOMPARE(showCallTimes({"--state", path("state")}).code, 0);
+    QCOMPARE(log.calls().size(), 2);
+    const HostResult result = showCallTimes({"--state", path("state"), "--keep-calls", "30"});
+    QCOMPARE(result.code, 0);
+    QCOMPARE(log.calls().size(), 1);
+    QCOMPARE(log.calls().value(0).number, "29");
 }
 
 void TestCommandLine::aPluginThatCannotServeIsNamed_data()
@@ -532,7 +556,7 @@ void TestCommandLine::theWindowIsPhotographed()
 void TestCommandLine::thePageOfThePanelIsChosen()
 {
     QList<QImage> pictures;
-    for (const char *page : {"calls", "charging", "sim", "data", "failures"}) {
+    for (const char *page : {"calls", "charging", "sim", "data", "recent", "failures"}) {
         const HostResult result = showCallTimes({"--state", "none", "--page", page});
         QVERIFY2(result.code == 0, qPrintable(result.errors));
         const QImage picture(path("window.png"));

@@ -86,6 +86,7 @@ class TestRecorder : public QObject
 
 private slots:
     void aCallIsRecordedWithoutAWindow();
+    void itKeepsTheCallsOfSoManyDays();
     void aSignalEndsItWithWhatRunsWritten_data();
     void aSignalEndsItWithWhatRunsWritten();
     void aCallInWhichItIsKilledIsNotCountedTwice();
@@ -114,6 +115,22 @@ void TestRecorder::aCallIsRecordedWithoutAWindow()
     QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("1"), limitMs);
     bench.end(SIGTERM);
     QCOMPARE(bench.recorder.exitCode(), 0);
+    QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
+}
+
+void TestRecorder::itKeepsTheCallsOfSoManyDays()
+{
+    Bench bench;
+    const QDateTime now = QDateTime::currentDateTime();
+    for (const int daysAgo : {31, 29}) {
+        Phone phone(bench.state.path(),
+                    std::make_shared<handset::ManualClock>(now.addDays(-daysAgo).toMSecsSinceEpoch()));
+        QVERIFY(phone.dialed(second, handset::CallKind::Voice, QString::number(daysAgo)));
+    }
+    bench.startAndSettle({QStringLiteral("--backend"), QStringLiteral("modemmanager"),
+                          QStringLiteral("--keep-calls"), QStringLiteral("30")});
+    QTRY_COMPARE_WITH_TIMEOUT(bench.all(QStringLiteral("number")), QStringLiteral("29"), limitMs);
+    bench.end(SIGTERM);
     QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
 }
 
@@ -370,6 +387,9 @@ void TestRecorder::theCommandLineIsChecked_data()
         << QStringList{QStringLiteral("--tour")} << 2 << QStringLiteral("See kavcallrecorder --help.");
     QTest::newRow("a word that is no option")
         << QStringList{QStringLiteral("now")} << 2 << QStringLiteral("See kavcallrecorder --help.");
+    QTest::newRow("a word for the days to keep")
+        << QStringList{QStringLiteral("--keep-calls"), QStringLiteral("few")} << 2
+        << QStringLiteral("'keep-calls' wants a number of days");
     QTest::newRow("an empty backend") << QStringList{QStringLiteral("--backend"), QString()} << 2
                                       << QStringLiteral("See kavcallrecorder --help.");
     QTest::newRow("a state directory that cannot be used")
