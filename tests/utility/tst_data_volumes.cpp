@@ -335,7 +335,7 @@ void TestDataVolumes::choosingASessionOpensItsDetail()
     QVERIFY(openDetail(row));
     QVERIFY(detail()->isVisible());
     QCOMPARE(detail()->parentWidget(), screen());
-    QCOMPARE(detail()->getInstructTextY(), QString());
+    QVERIFY(detail()->getInstructTextY().isEmpty() && !detail()->getInstructTextY().isNull());
     QCOMPARE(detail()->getInstructTextZ(), name);
     QCOMPARE(detail()->getIndex(), row);
     QCOMPARE(journal.lines(), QStringList("PacketData::sessions"));
