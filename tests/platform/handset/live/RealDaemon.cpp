@@ -17,7 +17,7 @@ namespace {
 constexpr int limitMs = 60'000;
 
 // Of these bytes at most, the newest.
-constexpr qsizetype storyLength = 6000;
+constexpr qsizetype storyLength = 400;
 
 QVariant plain(const QVariant &value)
 {
@@ -97,6 +97,9 @@ bool RealDaemon::start()
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
     prepare(environment);
     process.setProcessEnvironment(environment);
+    readOutput(); // of the one before
+    output.clear();
+    forgotten = 0;
     process.start(kind.program, kind.arguments);
     return process.waitForStarted(limitMs) && comesAbout([this] { return hasName() || !isRunning(); }) &&
            hasName();
@@ -130,16 +133,16 @@ bool RealDaemon::hasName() const
     return client->isConnected() && client->interface()->isServiceRegistered(kind.service);
 }
 
-bool RealDaemon::hasSaid(const char *text)
+qsizetype RealDaemon::saidLast(const char *text)
 {
     readOutput();
-    return output.contains(text);
+    return output.lastIndexOf(text);
 }
 
 void RealDaemon::forgetOutput()
 {
     readOutput();
-    output.clear();
+    forgotten = output.size();
 }
 
 void RealDaemon::readOutput()
@@ -147,15 +150,21 @@ void RealDaemon::readOutput()
     output += process.readAll();
 }
 
+// Qt Test shows a thousand characters of it.
 QByteArray RealDaemon::story()
 {
     readOutput();
-    QByteArray text = kind.program.toLocal8Bit() + (isRunning() ? " runs" : " does not run") +
-                      (hasName() ? "" : ", without its name on the bus") + ".\n";
+    QByteArray told;
+    const QList<QByteArray> lines = output.split('\n');
+    for (const QByteArray &line : lines) {
+        if (!line.contains("<debug>"))
+            told += line.mid(line.indexOf("] ") + 1) + '\n';
+    }
     const atmodem::CommandLog log = hardware->log();
-    text += "Its last commands: " + log.commands.mid(std::max<qsizetype>(0, log.commands.size() - 20)).join("  ");
-    text += "\nUnknown to the modem: " + log.unknown.join("  ");
-    return text + "\nIts output:\n" + output.right(storyLength);
+    return kind.program.toLocal8Bit() + (isRunning() ? " runs" : " does not run") +
+           (hasName() ? "" : ", without its name on the bus") + ".\n" + told.right(storyLength) +
+           "Its last commands: " + log.commands.mid(std::max<qsizetype>(0, log.commands.size() - 12)).join("  ") +
+           "\nUnknown to the modem: " + log.unknown.join("  ");
 }
 
 QDBusMessage RealDaemon::call(const QString &path, const QString &interface, const QString &method,

@@ -79,7 +79,9 @@ public:
     virtual bool bringUp() = 0;
 
     /// True when its output since the last forgetOutput() has this text in it.
-    bool hasSaid(const char *text);
+    bool hasSaid(const char *text) { return saidLast(text) >= forgotten; }
+    /// Where in its whole output the text is for the last time; -1 where it is not.
+    qsizetype saidLast(const char *text);
     void forgetOutput();
     /// For a test that fails: what the daemon last wrote, and what it asked that the modem does not know.
     QByteArray story();
@@ -112,6 +114,7 @@ private:
     std::unique_ptr<atmodem::AtModem> hardware;
     QProcess process;
     QByteArray output;
+    qsizetype forgotten = 0; ///< so much of that
 };
 
 /// The one value of an answer, without the variants around it. Invalid for an error.

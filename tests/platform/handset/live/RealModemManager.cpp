@@ -139,6 +139,17 @@ int RealModemManager::stateOf(const QString &path)
     return state.isValid() ? state.toInt() : -1;
 }
 
+bool RealModemManager::isRidOfCalls()
+{
+    const QStringList known = calls();
+    for (const QString &call : known)
+        onModem("Modem.Voice", "DeleteCall", {QVariant::fromValue(QDBusObjectPath(call))});
+    return comesAbout([this] {
+        return calls().isEmpty() &&
+               saidLast("call state changed: unknown ->") <= saidLast("call list polling stopped");
+    });
+}
+
 QString RealModemManager::dial(const char *number)
 {
     const QVariantMap what{{QStringLiteral("number"), QString::fromLatin1(number)}};

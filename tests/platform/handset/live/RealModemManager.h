@@ -32,6 +32,10 @@ public:
     QStringList calls();
     /// Call.State, or -1 when there is no such call.
     int stateOf(const QString &call);
+    /// Forgets all calls, and is true when the daemon has done that and asks the modem for no call any more. It asks every
+    /// two seconds while one is made or rings, from when it heard of the first; a call made in the moment in which it sees
+    /// that none is any more is never asked for, and stays "dialing" for good.
+    bool isRidOfCalls();
     /// Makes a call and starts it. Empty when the daemon does not.
     QString dial(const char *number);
 

@@ -19,7 +19,7 @@ using atmodem::Dialed;
 using atmodem::End;
 using AtPhone = atmodem::Phone;
 
-#define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), daemon->story().constData())
+#define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), story().constData())
 
 namespace {
 
@@ -79,6 +79,7 @@ private:
     }
     qint64 ms(const char *number) const { return ofCall(number, "duration_ms").toLongLong(); }
     bool ringAndTake(const char *number);
+    QByteArray story() const;
     QString connectData();
     bool disconnectData(const QString &bearer);
     QString sessions() const
@@ -98,7 +99,7 @@ private:
 void TestModemManagerReal::initTestCase()
 {
     daemon = std::make_unique<RealModemManager>();
-    QVERIFY2(daemon->bringUp(), daemon->story().constData());
+    QVERIFY2(daemon->bringUp(), story().constData());
 }
 
 void TestModemManagerReal::init()
@@ -122,10 +123,25 @@ void TestModemManagerReal::cleanup()
         there.hangUpAllThere();
         there.dialed = Dialed::Led;
     });
-    const QStringList calls = daemon->calls();
-    for (const QString &call : calls)
-        daemon->onModem("Modem.Voice", "DeleteCall", {QVariant::fromValue(QDBusObjectPath(call))});
-    COMES_ABOUT(daemon->calls().isEmpty());
+    QVERIFY2(daemon->isRidOfCalls(), story().constData());
+}
+
+// What the handset sees, and behind it the daemon.
+QByteArray TestModemManagerReal::story() const
+{
+    QString seen = QStringLiteral("nothing");
+    if (phone) {
+        seen = phone->modem().state().status;
+        for (const live::ReportedCall &call : phone->calls().reported())
+            seen += QStringLiteral(", call %1 %2 %3").arg(call.id, call.number).arg(int(call.phase));
+        for (const live::ReportedSession &session : phone->sessions().reported())
+            seen += QStringLiteral(", session %1").arg(session.id);
+        seen += QStringLiteral(", rows ") +
+                LogFile(state->database())
+                    .value(QStringLiteral("SELECT group_concat(number || ':' || state) FROM calls"))
+                    .toString();
+    }
+    return "The handset sees: " + seen.toLocal8Bit() + ".\n" + daemon->story();
 }
 
 // Until it says that it is in a call the daemon would not hear that the call ends.
@@ -140,11 +156,11 @@ bool TestModemManagerReal::ringAndTake(const char *number)
 
 void TestModemManagerReal::anAnsweredCallLastsAsLongAsTheModemSays()
 {
-    QVERIFY2(ringAndTake("5550003"), daemon->story().constData());
+    QVERIFY2(ringAndTake("5550003"), story().constData());
     COMES_ABOUT(record().durationMs() > 1500);
     lead([](AtPhone &there) { there.hangUpThere(); });
     COMES_ABOUT(!phaseOf("5550003"));
-    QCOMPARE(row("5550003"), "1:1:0");
+    QVERIFY2(row("5550003") == QLatin1String("1:1:0"), story().constData());
     QVERIFY(std::abs(ms("5550003") - record().durationMs()) < modemManagerPrecisionMs);
 }
 
@@ -201,7 +217,7 @@ void TestModemManagerReal::aCallThatIsRefusedAtOnceIsTold()
 
 void TestModemManagerReal::aWaitingCallIsTakenWhileTheOtherIsHeld()
 {
-    QVERIFY2(ringAndTake("5550001"), daemon->story().constData());
+    QVERIFY2(ringAndTake("5550001"), story().constData());
     lead([](AtPhone &there) { there.ring("5550003"); });
     COMES_ABOUT(phaseOf("5550003") == CallPhase::Waiting);
     QCOMPARE(phone->modem().answer(idOf("5550003")), int(Success));
@@ -210,7 +226,7 @@ void TestModemManagerReal::aWaitingCallIsTakenWhileTheOtherIsHeld()
     QCOMPARE(phone->modem().hangUp(idOf("5550003")), int(Success));
     COMES_ABOUT(!phaseOf("5550003"));
     QCOMPARE(phaseOf("5550001"), CallPhase::Held);
-    QCOMPARE(row("5550003"), "1:1:0");
+    QVERIFY2(row("5550003") == QLatin1String("1:1:0"), story().constData());
     QVERIFY(std::abs(ms("5550003") - record().durationMs()) < modemManagerPrecisionMs);
     // The one that is held has gone on all the while.
     QCOMPARE(phone->modem().hangUp(idOf("5550001")), int(Success));
@@ -223,7 +239,10 @@ void TestModemManagerReal::aWaitingCallIsTakenWhileTheOtherIsHeld()
 QString TestModemManagerReal::connectData()
 {
     const QVariantMap wanted{{QStringLiteral("apn"), QStringLiteral("internet")}};
-    return valueOf(daemon->onModem("Modem.Simple", "Connect", {wanted})).toString();
+    const QDBusMessage answer = daemon->onModem("Modem.Simple", "Connect", {wanted});
+    if (answer.type() == QDBusMessage::ErrorMessage)
+        qWarning("The daemon does not connect: %s", qPrintable(answer.errorMessage()));
+    return valueOf(answer).toString();
 }
 
 bool TestModemManagerReal::disconnectData(const QString &bearer)
@@ -245,7 +264,7 @@ void TestModemManagerReal::bytesAreThoseOfTheInterface()
     QVERIFY(QDir().mkpath(folder));
     QVERIFY(writeFile(folder + QStringLiteral("/tx_bytes"), "7\n"));
     QVERIFY(writeFile(folder + QStringLiteral("/rx_bytes"), "5000000000\n"));
-    QVERIFY2(disconnectData(bearer), daemon->story().constData());
+    QVERIFY2(disconnectData(bearer), story().constData());
     QCOMPARE(sessions(), "internet:7:5000000000:1");
 }
 
@@ -253,7 +272,7 @@ void TestModemManagerReal::aConnectionWithoutAnInterfaceHasNoBytes()
 {
     const QString bearer = connectData();
     COMES_ABOUT(phone->sessions().reported().size() == 1);
-    QVERIFY2(disconnectData(bearer), daemon->story().constData());
+    QVERIFY2(disconnectData(bearer), story().constData());
     QCOMPARE(sessions(), "internet:0:0:1");
 }
 
@@ -281,12 +300,12 @@ void TestModemManagerReal::theNetworkIsShownAndItsLossToo()
 // Started again it hangs up the call that goes on, so there is nothing to go on with.
 void TestModemManagerReal::aCallEndsWithTheDaemonAndTheNextOneIsSeen()
 {
-    QVERIFY2(ringAndTake("5550003"), daemon->story().constData());
+    QVERIFY2(ringAndTake("5550003"), story().constData());
     QVERIFY(daemon->kill());
     COMES_ABOUT(!phaseOf("5550003"));
     COMES_ABOUT(!phone->modem().state().isThere);
-    QCOMPARE(row("5550003"), "1:1:0");
-    QVERIFY2(daemon->bringUp(), daemon->story().constData());
+    QVERIFY2(row("5550003") == QLatin1String("1:1:0"), story().constData());
+    QVERIFY2(daemon->bringUp(), story().constData());
     COMES_ABOUT(phone->modem().state().status == "registered");
     lead([](AtPhone &there) { there.ring("5550005"); });
     COMES_ABOUT(phaseOf("5550005") == CallPhase::Incoming);
