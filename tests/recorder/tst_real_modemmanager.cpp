@@ -24,33 +24,33 @@ private slots:
     void aCallThatComesInIsRecordedAndShown();
 };
 
-#define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), manager.story().constData())
+#define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), daemon.story().constData())
 
 // How long it has been on is held against what is certain on any machine: no less than between its row and the word to
 // hang up, no more than from the word to take it to the end of its row.
 void TestRecorderOverModemManager::aCallThatComesInIsRecordedAndShown()
 {
-    RealModemManager manager;
+    RealModemManager daemon;
     RecorderProcess bench;
-    bench.startOn(manager.busAddress()); // the bus is there, and nothing else
-    QVERIFY2(manager.bringUp(), manager.story().constData());
+    bench.startOn(daemon.busAddress()); // the bus is there, and nothing else
+    QVERIFY2(daemon.bringUp(), daemon.story().constData());
     COMES_ABOUT(QFile::exists(bench.state.database())); // the modem has been found
-    manager.modem().withPhone([](AtPhone &phone) { phone.ring("5551234"); });
-    COMES_ABOUT(manager.calls().size() == 1);
-    const QString call = manager.calls().constFirst();
-    COMES_ABOUT(manager.stateOf(call) == ringingIn);
-    manager.forgetOutput();
+    daemon.modem().withPhone([](AtPhone &phone) { phone.ring("5551234"); });
+    COMES_ABOUT(daemon.calls().size() == 1);
+    const QString call = daemon.calls().constFirst();
+    COMES_ABOUT(daemon.stateOf(call) == ringingIn);
+    daemon.forgetOutput();
     QElapsedTimer sinceTaken;
     sinceTaken.start();
-    QCOMPARE(manager.on(call, "Call", "Accept").errorName(), QString());
-    COMES_ABOUT(manager.stateOf(call) == active);
+    QCOMPARE(daemon.on(call, "Call", "Accept").errorName(), QString());
+    COMES_ABOUT(daemon.stateOf(call) == active);
     COMES_ABOUT(bench.calls() == QLatin1String("0"));
     QElapsedTimer sinceRow;
     sinceRow.start();
     // Earlier it would not hear that the call ends.
-    COMES_ABOUT(manager.hasSaid("modem is now in-call state"));
+    COMES_ABOUT(daemon.hasSaid("modem is now in-call state"));
     const qint64 leastMs = sinceRow.elapsed();
-    manager.modem().withPhone([](AtPhone &phone) { phone.hangUpThere(); });
+    daemon.modem().withPhone([](AtPhone &phone) { phone.hangUpThere(); });
     COMES_ABOUT(bench.calls() == QLatin1String("1"));
     const qint64 mostMs = sinceTaken.elapsed();
     QCOMPARE(bench.all(QStringLiteral("direction || ' ' || number || ' ' || late")),
@@ -61,7 +61,7 @@ void TestRecorderOverModemManager::aCallThatComesInIsRecordedAndShown()
     QCOMPARE(bench.recorder.exitCode(), 0);
     QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
 
-    const HostResult tour = playLiveTour(bench, QStringLiteral("modemmanager"), manager.busAddress());
+    const HostResult tour = playLiveTour(bench, QStringLiteral("modemmanager"), daemon.busAddress());
     QVERIFY2(tour.code == 0, qPrintable(tour.output + tour.errors));
     QCOMPARE(tour.errors, QString());
 }

@@ -4,6 +4,7 @@
 #include "handset/HandsetTestKit.h"
 #include "handset/PacketData.h"
 #include "handset/Status.h"
+#include "handset/calllog/repair/DamagedLogs.h"
 #include "support/Sample.h"
 #include "support/TestGroup.h"
 
@@ -15,7 +16,6 @@ using namespace handset::test;
 namespace {
 
 constexpr int headerSize = 100;
-constexpr qint64 pageSize = 4096;
 constexpr int recordedCalls = 400;
 
 /// All that must be found again.
