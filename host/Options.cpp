@@ -2,6 +2,7 @@
 
 #include "handset/CallRetention.h"
 #include "handset/Handset.h"
+#include "host/Languages.h"
 #include "host/ScreenTable.h"
 #include "host/panel/Panel.h"
 
@@ -58,6 +59,7 @@ constexpr OptionText optionTexts[] = {
     {"screen", "NAME", "Open this screen at once: %3."},
     {"page", "NAME", "Show this page of the panel: %4."},
     {"translation", "FILE", "Load the texts of the catalogue FILE (.qm)."},
+    {"language", "NAME", "Speak this language: %5. Default: the locale's; English on a tour and with --photo."},
     {"photo", "FILE", "Photograph the window as PNG to FILE and end."},
     {"tour", "DIR",
      "Play a tour without a display: put photographs of the screens into DIR and print their texts."},
@@ -80,6 +82,11 @@ QString allPageNames()
     return names.join(QStringLiteral(", "));
 }
 
+QString allLanguageNames()
+{
+    return languageNames().join(QStringLiteral(", "));
+}
+
 // -1 for none.
 int pageIndex(const QString &name)
 {
@@ -99,7 +106,8 @@ void describe(QCommandLineParser &parser)
                                  .replace(QStringLiteral("%1"), handset::defaultStateDirectory())
                                  .replace(QStringLiteral("%2"), handset::backendNames().join(QStringLiteral(", ")))
                                  .replace(QStringLiteral("%3"), screenNames())
-                                 .replace(QStringLiteral("%4"), allPageNames());
+                                 .replace(QStringLiteral("%4"), allPageNames())
+                                 .replace(QStringLiteral("%5"), allLanguageNames());
         parser.addOption({QString::fromLatin1(option.name), text, QString::fromLatin1(option.value)});
     }
 }
@@ -134,6 +142,20 @@ QString findUnreadableName(const QCommandLineParser &parser)
     return {};
 }
 
+QString findUnknownName(const QCommandLineParser &parser)
+{
+    const QString screen = parser.value(QStringLiteral("screen"));
+    if (!screen.isEmpty() && !knowsScreen(screen))
+        return QStringLiteral("Unknown screen '%1'; there is: %2.").arg(screen, screenNames());
+    const QString page = parser.value(QStringLiteral("page"));
+    if (!page.isEmpty() && pageIndex(page) < 0)
+        return QStringLiteral("Unknown page '%1'; there is: %2.").arg(page, allPageNames());
+    const QString language = parser.value(QStringLiteral("language"));
+    if (!language.isEmpty() && !languageNames().contains(language))
+        return QStringLiteral("Unknown language '%1'; there is: %2.").arg(language, allLanguageNames());
+    return {};
+}
+
 QString findMistake(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
@@ -151,13 +173,9 @@ QString findMistake(const QCommandLineParser &parser)
         if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
             return QStringLiteral("Option '%1' does not go with option 'tour'.").arg(QLatin1StringView(name));
     }
-    const QString screen = parser.value(QStringLiteral("screen"));
-    if (!screen.isEmpty() && !knowsScreen(screen))
-        return QStringLiteral("Unknown screen '%1'; there is: %2.").arg(screen, screenNames());
-    const QString page = parser.value(QStringLiteral("page"));
-    if (!page.isEmpty() && pageIndex(page) < 0)
-        return QStringLiteral("Unknown page '%1'; there is: %2.").arg(page, allPageNames());
-    return {};
+    if (parser.isSet(QStringLiteral("language")) && parser.isSet(QStringLiteral("translation")))
+        return QStringLiteral("Option 'language' does not go with option 'translation'.");
+    return findUnknownName(parser);
 }
 
 QString valueOr(const QCommandLineParser &parser, const char *name, const QString &fallback)
@@ -183,6 +201,7 @@ Options readOptions(const QCommandLineParser &parser)
     options.screen = parser.value(QStringLiteral("screen"));
     options.page = std::max(pageIndex(parser.value(QStringLiteral("page"))), 0);
     options.translation = parser.value(QStringLiteral("translation"));
+    options.language = parser.value(QStringLiteral("language"));
     options.photo = parser.value(QStringLiteral("photo"));
     options.tourDirectory = parser.value(QStringLiteral("tour"));
     options.script = valueOr(parser, "script", QString::fromLatin1(shippedTour));

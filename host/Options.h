@@ -18,6 +18,7 @@ struct Options {
     QString screen;        ///< name of the screen to open at once; empty for the menu
     int page = 0;          ///< row of pageNames that the panel shows
     QString translation;   ///< catalogue to load; empty for none
+    QString language;      ///< one of languageNames(); empty for the locale's
     QString photo;         ///< where to photograph the window; empty shows it as usual
     QString tourDirectory; ///< where a tour puts its photographs; empty for no tour
     QString script;        ///< what the tour plays

@@ -4,6 +4,7 @@
 #include "host/AccessibilityBus.h"
 #include "host/Catalogue.h"
 #include "host/ExitCode.h"
+#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/PhoneWindow.h"
 #include "host/QtStart.h"
@@ -18,6 +19,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QLibrary>
+#include <QtCore/QLocale>
 #include <QtCore/QTextStream>
 #include <QtWidgets/QApplication>
 
@@ -143,6 +145,17 @@ int startTrace(const QString &file)
         return ExitSuccess;
     return complain(ExitNoTrace, QStringLiteral("The trace file \"%1\" cannot be opened: %2.")
                                      .arg(file, QString::fromLocal8Bit(std::strerror(error))));
+}
+
+// Photographs do not depend on whose machine they are made on.
+QString catalogueFile(const Options &options)
+{
+    if (!options.translation.isEmpty())
+        return options.translation;
+    if (!options.language.isEmpty())
+        return catalogueOf(options.language);
+    const bool isPhotograph = options.isTour() || !options.photo.isEmpty();
+    return isPhotograph ? QString() : catalogueOf(suitableLanguage(QLocale::system().uiLanguages()));
 }
 
 int loadTranslation(Catalogue &catalogue, const QString &file)
@@ -280,7 +293,7 @@ int run(const Options &options, const QStringList &findings)
 {
     const EndSignals endSignals; // outlives the handset, whose call is to be written
     Catalogue catalogue;
-    if (const int code = loadTranslation(catalogue, options.translation))
+    if (const int code = loadTranslation(catalogue, catalogueFile(options)))
         return code;
     const int code = options.isTour() ? runTour(options, endSignals) : runWindow(options, findings, endSignals);
     libaplog_close();
@@ -305,6 +318,8 @@ extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
         fixSurroundings(options.isTour());
     else if (!hasPlatform() && !hasDisplay())
         return complain(ExitNoDisplay, missingDisplay());
+    // The phone and the SIM card write 0.23 everywhere; the panel beside them does as they do.
+    QLocale::setDefault(QLocale::c());
     BusGuard buses;
     ArgumentVector arguments(ofQt);
     std::optional<PlatformGuard> guard(std::in_place, "kavrecentcalls", namedPlatform());

@@ -198,15 +198,6 @@ class Commands(Case):
             words.pop(0)
         if words[0] in PROGRAMS:
             self.check_program(page, words, is_sample)
-        elif "lupdate" in words[0]:
-            words[-1] = str(self.scratch / words[-1])
-            # Only -I and a folder of the repository stand before the file.
-            words[1:-2] = [word if word.startswith("-") else str(SOURCE / word) for word in words[1:-2]]
-            self.run_it(*words)
-            contexts = re.findall(r"<name>(.*)</name>", pathlib.Path(words[-1]).read_text())
-            self.assertIn("host::Line", contexts)
-            # The program asks with the class and its namespace; nobody ever asks with a bare name.
-            self.assertEqual([], [name for name in contexts if not name.startswith("host::")])
         elif words[0] in ("cmake", "ctest"):
             self.check_preset(page, words)
         elif "/tests/tst_" in words[0]:

@@ -124,7 +124,8 @@ class Manuals(unittest.TestCase):
         self.assertEqual(sent | heard | {"--help", "--version"}, self.options("kavqcop"))
 
     def test_the_shell_completes_the_values_that_the_program_takes(self):
-        for option, wrong in (("--screen", "there is: "), ("--page", "there is: ")):
+        for option, wrong in (("--screen", "there is: "), ("--page", "there is: "),
+                              ("--language", "there is: ")):
             told = run(tree / "bin/kavrecentcalls", option, "no-such", code=2)
             names = told[told.index(wrong) + len(wrong):].split(". See")[0]
             self.assertEqual(self.complete("kavrecentcalls", option, ""), set(names.split(", ")))

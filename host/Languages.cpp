@@ -1,0 +1,60 @@
+#include "host/Languages.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QLocale>
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+const QString &english()
+{
+    static const QString name = QStringLiteral("en");
+    return name;
+}
+
+QDir folder()
+{
+    return QDir(QCoreApplication::applicationDirPath() + QStringLiteral("/" KAV_TRANSLATIONS));
+}
+
+bool isSpokenIn(const QString &language, const QLocale &locale)
+{
+    const QLocale own(language);
+    return own.language() == locale.language() && own.script() == locale.script();
+}
+
+} // namespace
+
+QStringList languageNames()
+{
+    QStringList names{english()};
+    const QStringList files = folder().entryList({QStringLiteral("*.qm")}, QDir::Files);
+    for (const QString &file : files)
+        names << file.chopped(3);
+    names.sort();
+    return names;
+}
+
+QString suitableLanguage(const QStringList &wanted)
+{
+    const QStringList names = languageNames();
+    for (const QString &name : wanted) {
+        const QLocale locale(name);
+        const auto found =
+            std::find_if(names.begin(), names.end(), [&](auto &own) { return isSpokenIn(own, locale); });
+        if (found != names.end())
+            return *found;
+    }
+    return english();
+}
+
+QString catalogueOf(const QString &language)
+{
+    return language == english() ? QString() : folder().filePath(language + QStringLiteral(".qm"));
+}
+
+} // namespace host
