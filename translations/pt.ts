@@ -1,0 +1,3634 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt" sourcelanguage="en">
+<context>
+    <name>PHONE_UI_RecentCallCostSetupView</name>
+    <message>
+        <source>TXT_RID_SETTING_A_CREDIT_LIMIT</source>
+        <comment>Credit Limit</comment>
+        <translation>Limite de crédito</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
+        <comment>Currency Type</comment>
+        <translation>Moeda</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>All costs have been reset to 0.00 units.</comment>
+        <translation>Todos os custos foram repostos em 0.00 unidades.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ALL_CALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>All call costs have been reset to 0.00 units.</comment>
+        <translation>Os custos de todas as chamadas foram repostos em 0.00 unidades.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_DIALED_CALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>Dialed call costs have been reset to 0.00 units.</comment>
+        <translation>Os custos das chamadas efetuadas foram repostos em 0.00 unidades.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ANSWERED_CALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>Answered call costs have been reset to 0.00 units.</comment>
+        <translation>Os custos das chamadas atendidas foram repostos em 0.00 unidades.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_B_ON</source>
+        <comment>On</comment>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_B_OFF</source>
+        <comment>Off</comment>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ON</source>
+        <comment>On</comment>
+        <translation>Ligado</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_OFF</source>
+        <comment>Off</comment>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CUSTOM</source>
+        <comment>Custom</comment>
+        <translation>Outra</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_SAVE</source>
+        <comment>Save</comment>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_RESET_CALLS</source>
+        <comment>Reset Calls</comment>
+        <translation>Repor a zero</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CURRENCY</source>
+        <comment>Currency</comment>
+        <translation>Moeda</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CHOOSE_TYPE</source>
+        <comment>Choose Type</comment>
+        <translation>Escolher moeda</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CURRENCY_TYPE</source>
+        <comment>Currency Type</comment>
+        <translation>Moeda</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_COST_PER_MINUTE</source>
+        <comment>Cost Per Minute</comment>
+        <translation>Preço por minuto</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ADJUST_CREDIT_LIMIT</source>
+        <comment>Adjust Credit Limit</comment>
+        <translation>Ajustar limite</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_COST_SETUP</source>
+        <comment>Call-Cost Setup</comment>
+        <translation>Ajuste de custos</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UNITED_ARAB_EMIRATES_DIRHAM_AED</source>
+        <comment>UNITED ARAB EMIRATES  DIRHAM  (AED)</comment>
+        <translation>Emirados Árabes Unidos: dirham (AED)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AFGHANISTAN_AFGHANI_AFA</source>
+        <comment>AFGHANISTAN  AFGHANI  (AFA)</comment>
+        <translation>Afeganistão: afegani (AFA)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ALBANIA_LEK_ALL</source>
+        <comment>ALBANIA  LEK  (ALL)</comment>
+        <translation>Albânia: lek (ALL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARMENIA_DRAM_AMD</source>
+        <comment>ARMENIA  DRAM  (AMD)</comment>
+        <translation>Arménia: dram (AMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NETHERLANDS_ANTILLES_GUILDER_ANG</source>
+        <comment>NETHERLANDS ANTILLES  GUILDER  (ANG)</comment>
+        <translation>Antilhas Neerlandesas: florim (ANG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANGOLA_NEW_KWANZA_AON</source>
+        <comment>ANGOLA  NEW KWANZA  (AON)</comment>
+        <translation>Angola: novo kwanza (AON)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARGENTINA_PESO_ARS</source>
+        <comment>ARGENTINA  PESO  (ARS)</comment>
+        <translation>Argentina: peso (ARS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AUSTRIA_SCHILLING_ATS</source>
+        <comment>AUSTRIA  SCHILLING  (ATS)</comment>
+        <translation>Áustria: xelim (ATS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AUSTRALIA_KIRIBATI_DOLLAR_AUD</source>
+        <comment>AUSTRALIA KIRIBATI  DOLLAR  (AUD)</comment>
+        <translation>Austrália, Quiribáti: dólar (AUD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARUBA_FLORIN_AWG</source>
+        <comment>ARUBA  FLORIN  (AWG)</comment>
+        <translation>Aruba: florim (AWG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AZERBAIJAN_MANAT_AZM</source>
+        <comment>AZERBAIJAN  MANAT  (AZM)</comment>
+        <translation>Azerbaijão: manat (AZM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BARBADOS_DOLLAR_BBD</source>
+        <comment>BARBADOS  DOLLAR  (BBD)</comment>
+        <translation>Barbados: dólar (BBD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BANGLADESH_TAKA_BDT</source>
+        <comment>BANGLADESH  TAKA  (BDT)</comment>
+        <translation>Bangladeche: taka (BDT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BELGIUM_FRANC_BEF</source>
+        <comment>BELGIUM  FRANC  (BEF)</comment>
+        <translation>Bélgica: franco (BEF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BULGARIA_LEW_BGN</source>
+        <comment>BULGARIA  LEW  (BGN)</comment>
+        <translation>Bulgária: lev (BGN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BAHRAIN_DINAR_BHD</source>
+        <comment>BAHRAIN  DINAR  (BHD)</comment>
+        <translation>Barém: dinar (BHD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BURUNDI_FRANC_BIF</source>
+        <comment>BURUNDI  FRANC  (BIF)</comment>
+        <translation>Burundi: franco (BIF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BERMUDA_DOLLAR_BMD</source>
+        <comment>BERMUDA  DOLLAR  (BMD)</comment>
+        <translation>Bermudas: dólar (BMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BRUNEI_DOLLAR_BND</source>
+        <comment>BRUNEI  DOLLAR  (BND)</comment>
+        <translation>Brunei: dólar (BND)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BOLIVIA_BOLIVIANO_BOB</source>
+        <comment>BOLIVIA  BOLIVIANO  (BOB)</comment>
+        <translation>Bolívia: boliviano (BOB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BRAZIL_REAL_BRL</source>
+        <comment>BRAZIL  REAL  (BRL)</comment>
+        <translation>Brasil: real (BRL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BAHAMAS_DOLLAR_BSD</source>
+        <comment>BAHAMAS  DOLLAR  (BSD)</comment>
+        <translation>Baamas: dólar (BSD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BHUTAN_NGULTRUM_BTN</source>
+        <comment>BHUTAN  NGULTRUM  (BTN)</comment>
+        <translation>Butão: ngultrum (BTN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BOTSWANA_PULA_BWP</source>
+        <comment>BOTSWANA  PULA  (BWP)</comment>
+        <translation>Botsuana: pula (BWP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BELORUS_ROUBLE_BYR</source>
+        <comment>BELORUS  ROUBLE  (BYR)</comment>
+        <translation>Bielorrússia: rublo (BYR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BELIZE_DOLLAR_BZD</source>
+        <comment>BELIZE  DOLLAR  (BZD)</comment>
+        <translation>Belize: dólar (BZD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CANADA_DOLLAR_CAD</source>
+        <comment>CANADA  DOLLAR  (CAD)</comment>
+        <translation>Canadá: dólar (CAD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SWITZERLAND_LIECHTENSTEIN_FRANC_CHF</source>
+        <comment>SWITZERLAND; LIECHTENSTEIN  FRANC  (CHF)</comment>
+        <translation>Suíça, Listenstaine: franco (CHF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CHILE_PESO_CLP</source>
+        <comment>CHILE  PESO  (CLP)</comment>
+        <translation>Chile: peso (CLP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CHINA_RENMINBI_YUAN_CNY</source>
+        <comment>CHINA  RENMINBI ¥UAN  (CNY)</comment>
+        <translation>China: yuan renminbi (CNY)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COLUMBIA_PESO_COP</source>
+        <comment>COLUMBIA  PESO  (COP)</comment>
+        <translation>Colômbia: peso (COP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COSTA_RICA_COLON_CRC</source>
+        <comment>COSTA RICA  COLÓN  (CRC)</comment>
+        <translation>Costa Rica: colon (CRC)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CUBA_PESO_CUP</source>
+        <comment>CUBA  PESO  (CUP)</comment>
+        <translation>Cuba: peso (CUP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAPE_VERDE_ESCUDO_CVE</source>
+        <comment>CAPE VERDE  ESCUDO  (CVE)</comment>
+        <translation>Cabo Verde: escudo (CVE)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CYPRUS_POUND_CYP</source>
+        <comment>CYPRUS  POUND  (CYP)</comment>
+        <translation>Chipre: libra (CYP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CZECH_REPUBLIC_KRONER_CZK</source>
+        <comment>CZECH REPUBLIC  KRONER  (CZK)</comment>
+        <translation>República Checa: coroa (CZK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GERMANY_MARK_DEM</source>
+        <comment>GERMANY  MARK  (DEM)</comment>
+        <translation>Alemanha: marco (DEM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DJIBUTI_FRANC_DJF</source>
+        <comment>DJIBUTI  FRANC  (DJF)</comment>
+        <translation>Jibuti: franco (DJF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DENMARK_KRONE_DKK</source>
+        <comment>DENMARK  KRONE  (DKK)</comment>
+        <translation>Dinamarca: coroa (DKK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DOMINICAN_REPUBLIC_PESO_DOP</source>
+        <comment>DOMINICAN REPUBLIC  PESO  (DOP)</comment>
+        <translation>República Dominicana: peso (DOP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ALGERIA_DINAR_DZD</source>
+        <comment>ALGERIA  DINAR  (DZD)</comment>
+        <translation>Argélia: dinar (DZD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ECUADOR_SUCRE_ECS</source>
+        <comment>ECUADOR  SUCRE  (ECS)</comment>
+        <translation>Equador: sucre (ECS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ESTONIA_KROON_EEK</source>
+        <comment>ESTONIA  KROON  (EEK)</comment>
+        <translation>Estónia: coroa (EEK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EGYPT_POUND_EGP</source>
+        <comment>EGYPT  POUND  (EGP)</comment>
+        <translation>Egito: libra (EGP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SPAIN_ANDORRA_PESETA_ESP</source>
+        <comment>SPAIN ANDORRA  PESETA  (ESP)</comment>
+        <translation>Espanha, Andorra: peseta (ESP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ETHIOPIA_BIRR_ETB</source>
+        <comment>ETHIOPIA  BIRR  (ETB)</comment>
+        <translation>Etiópia: birr (ETB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FINLAND_MARK_FIM</source>
+        <comment>FINLAND  MARK  (FIM)</comment>
+        <translation>Finlândia: marco (FIM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FIJI_DOLLAR_FJD</source>
+        <comment>FIJI  DOLLAR  (FJD)</comment>
+        <translation>Fiji: dólar (FJD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FALKLAND_ISLES_POUND_FKP</source>
+        <comment>FALKLAND ISLES  POUND  (FKP)</comment>
+        <translation>Ilhas Falkland: libra (FKP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FRANCE_FRANC_FRF</source>
+        <comment>FRANCE  FRANC  (FRF)</comment>
+        <translation>França: franco (FRF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UNITED_KINGDOM_GREAT_BRITAIN_POUND_STERLING_GBP</source>
+        <comment>UNITED KINGDOM (GREAT BRITAIN)  POUND STERLING  (GBP)</comment>
+        <translation>Reino Unido: libra esterlina (GBP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GEORGIA_COUPON_GEK</source>
+        <comment>GEORGIA  COUPON  (GEK)</comment>
+        <translation>Geórgia: cupão (GEK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GHANA_CEDI_GHC</source>
+        <comment>GHANA  CEDI  (GHC)</comment>
+        <translation>Gana: cedi (GHC)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GIBRALTAR_POUND_GIP</source>
+        <comment>GIBRALTAR  POUND  (GIP)</comment>
+        <translation>Gibraltar: libra (GIP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GAMBIA_DALASI_GMD</source>
+        <comment>GAMBIA  DALASI  (GMD)</comment>
+        <translation>Gâmbia: dalasi (GMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUINEA_FRANC_GNF</source>
+        <comment>GUINEA  FRANC  (GNF)</comment>
+        <translation>Guiné: franco (GNF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GREECE_DRACHMA_GRD</source>
+        <comment>GREECE  DRACHMA  (GRD)</comment>
+        <translation>Grécia: dracma (GRD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUATEMALA_QUETZAL_GTQ</source>
+        <comment>GUATEMALA  QUETZAL  (GTQ)</comment>
+        <translation>Guatemala: quetzal (GTQ)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUINEA_BISSAU_PESO_GWP</source>
+        <comment>GUINEA-BISSAU  PESO  (GWP)</comment>
+        <translation>Guiné-Bissau: peso (GWP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUYANA_DOLLAR_GYD</source>
+        <comment>GUYANA  DOLLAR  (GYD)</comment>
+        <translation>Guiana: dólar (GYD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HONG_KONG_DOLLAR_HKD</source>
+        <comment>HONG KONG  DOLLAR  (HKD)</comment>
+        <translation>Hong Kong: dólar (HKD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HONDURAS_LEMPIRA_HNL</source>
+        <comment>HONDURAS  LEMPIRA  (HNL)</comment>
+        <translation>Honduras: lempira (HNL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CROATIA_KUNA_HRK</source>
+        <comment>CROATIA  KUNA  (HRK)</comment>
+        <translation>Croácia: kuna (HRK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HAITI_GOURDE_HTG</source>
+        <comment>HAITI  GOURDE  (HTG)</comment>
+        <translation>Haiti: gourde (HTG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HUNGARY_FORINT_HUF</source>
+        <comment>HUNGARY  FORINT  (HUF)</comment>
+        <translation>Hungria: forint (HUF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_INDONESIA_RUPIAH_IDR</source>
+        <comment>INDONESIA  RUPIAH  (IDR)</comment>
+        <translation>Indonésia: rupia (IDR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRELAND_PUNT_IEP</source>
+        <comment>IRELAND  PUNT  (IEP)</comment>
+        <translation>Irlanda: libra (IEP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ISRAEL_NEW_SHEKEL_ILS</source>
+        <comment>ISRAEL  NEW SHEKEL  (ILS)</comment>
+        <translation>Israel: novo sheqel (ILS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_INDIA_BHUTAN_RUPEE_INR</source>
+        <comment>INDIA; BHUTAN  RUPEE  (INR)</comment>
+        <translation>Índia, Butão: rupia (INR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRAQ_DINAR_IQD</source>
+        <comment>IRAQ  DINAR  (IQD)</comment>
+        <translation>Iraque: dinar (IQD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRAN_RIAL_IRR</source>
+        <comment>IRAN  RIAL  (IRR)</comment>
+        <translation>Irão: rial (IRR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ICELAND_KRONER_ISK</source>
+        <comment>ICELAND  KRONER  (ISK)</comment>
+        <translation>Islândia: coroa (ISK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ITALY_LIRA_ITL</source>
+        <comment>ITALY  LIRA  (ITL)</comment>
+        <translation>Itália: lira (ITL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JAMAICA_DOLLAR_JMD</source>
+        <comment>JAMAICA  DOLLAR  (JMD)</comment>
+        <translation>Jamaica: dólar (JMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JORDAN_DINAR_JOD</source>
+        <comment>JORDAN  DINAR  (JOD)</comment>
+        <translation>Jordânia: dinar (JOD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JAPAN_YEN_JPY</source>
+        <comment>JAPAN  YEN  (JPY)</comment>
+        <translation>Japão: iene (JPY)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KENYA_SHILLING_KES</source>
+        <comment>KENYA  SHILLING  (KES)</comment>
+        <translation>Quénia: xelim (KES)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KIRGIZISTAN_SOM_KGS</source>
+        <comment>KIRGIZISTAN  SOM  (KGS)</comment>
+        <translation>Quirguistão: som (KGS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAMBODIA_RIEL_KHR</source>
+        <comment>CAMBODIA  RIEL  (KHR)</comment>
+        <translation>Camboja: riel (KHR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COMORES_FRANC_KMF</source>
+        <comment>COMORES  FRANC  (KMF)</comment>
+        <translation>Comores: franco (KMF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KOREA_DEMOCRATIC_PEOPLES_REPUBLIC_WON_KPW</source>
+        <comment>KOREA, DEMOCRATIC PEOPLE'S REPUBLIC  WON  (KPW)</comment>
+        <translation>Coreia do Norte: won (KPW)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KOREA_REPUBLIC_SOUTH_KOREA_WON_KRW</source>
+        <comment>KOREA, REPUBLIC (SOUTH KOREA)  WON  (KRW)</comment>
+        <translation>Coreia do Sul: won (KRW)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KUWAIT_DINAR_KWD</source>
+        <comment>KUWAIT  DINAR  (KWD)</comment>
+        <translation>Kuwait: dinar (KWD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAYMAN_ISLANDS_DOLLAR_KYD</source>
+        <comment>CAYMAN ISLANDS  DOLLAR  (KYD)</comment>
+        <translation>Ilhas Caimão: dólar (KYD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KAZAKHSTAN_TENGE_KZT</source>
+        <comment>KAZAKHSTAN  TENGE  (KZT)</comment>
+        <translation>Cazaquistão: tenge (KZT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LAOS_KIP_LAK</source>
+        <comment>LAOS  KIP  (LAK)</comment>
+        <translation>Laos: kip (LAK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LEBANON_POUND_LBP</source>
+        <comment>LEBANON  POUND  (LBP)</comment>
+        <translation>Líbano: libra (LBP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SRI_LANKA_RUPEE_LKR</source>
+        <comment>SRI LANKA  RUPEE  (LKR)</comment>
+        <translation>Sri Lanka: rupia (LKR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LIBERIA_DOLLAR_LRD</source>
+        <comment>LIBERIA  DOLLAR  (LRD)</comment>
+        <translation>Libéria: dólar (LRD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LESOTHO_LOTI_PL_MALOTI_LSL</source>
+        <comment>LESOTHO  LOTI (Pl.: MALOTI)  (LSL)</comment>
+        <translation>Lesoto: loti (LSL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LITHUANIA_LITAS_LTL</source>
+        <comment>LITHUANIA  LITAS  (LTL)</comment>
+        <translation>Lituânia: litas (LTL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LUXEMBOURG_FRANC_LUF</source>
+        <comment>LUXEMBOURG  FRANC  (LUF)</comment>
+        <translation>Luxemburgo: franco (LUF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LATVIA_LAT_LVL</source>
+        <comment>LATVIA  LAT  (LVL)</comment>
+        <translation>Letónia: lats (LVL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LIBYA_DINAR_LYD</source>
+        <comment>LIBYA  DINAR  (LYD)</comment>
+        <translation>Líbia: dinar (LYD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAROC_DIRHAM_MAD</source>
+        <comment>MAROC  DIRHAM  (MAD)</comment>
+        <translation>Marrocos: dirham (MAD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MOLDAVIA_LEU_MDL</source>
+        <comment>MOLDAVIA  LEU  (MDL)</comment>
+        <translation>Moldávia: leu (MDL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MADAGASCAR_FRANC_MGF</source>
+        <comment>MADAGASCAR  FRANC  (MGF)</comment>
+        <translation>Madagáscar: franco (MGF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MACEDONIA_DENAR_MKD</source>
+        <comment>MACEDONIA  DENAR  (MKD)</comment>
+        <translation>Macedónia: dinar (MKD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MYANMAR_KYAT_MMK</source>
+        <comment>MYANMAR  KYAT  (MMK)</comment>
+        <translation>Mianmar: kyat (MMK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MONGOLIA_TUGRIK_MNT</source>
+        <comment>MONGOLIA  TUGRIK  (MNT)</comment>
+        <translation>Mongólia: tugrik (MNT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MACAU_PATACA_MOP</source>
+        <comment>MACAU  PATACA  (MOP)</comment>
+        <translation>Macau: pataca (MOP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAURETANIA_OUGUIYA_MRO</source>
+        <comment>MAURETANIA  OUGUIYA  (MRO)</comment>
+        <translation>Mauritânia: ouguiya (MRO)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALTA_LIRA_MTL</source>
+        <comment>MALTA  LIRA  (MTL)</comment>
+        <translation>Malta: lira (MTL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAURITIUS_RUPEE_MUR</source>
+        <comment>MAURITIUS  RUPEE  (MUR)</comment>
+        <translation>Maurícia: rupia (MUR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALDIVE_ISLES_RUFIYAA_MVR</source>
+        <comment>MALDIVE ISLES  RUFIYAA  (MVR)</comment>
+        <translation>Maldivas: rufia (MVR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALAWI_KWACHA_MWK</source>
+        <comment>MALAWI  KWACHA  (MWK)</comment>
+        <translation>Maláui: kwacha (MWK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MEXICO_NEW_PESO_MXN</source>
+        <comment>MEXICO  NEW PESO  (MXN)</comment>
+        <translation>México: novo peso (MXN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALAYSIA_RINGGIT_MYR</source>
+        <comment>MALAYSIA  RINGGIT  (MYR)</comment>
+        <translation>Malásia: ringgit (MYR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MOZAMBIQUE_METICAL_MZM</source>
+        <comment>MOZAMBIQUE  METICAL  (MZM)</comment>
+        <translation>Moçambique: metical (MZM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NAMIBIA_DOLLAR_NAD</source>
+        <comment>NAMIBIA  DOLLAR  (NAD)</comment>
+        <translation>Namíbia: dólar (NAD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NIGERIA_NAIRA_NGN</source>
+        <comment>NIGERIA  NAIRA  (NGN)</comment>
+        <translation>Nigéria: naira (NGN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NICARAGUA_GOLD_CORDOBA_NIO</source>
+        <comment>NICARAGUA  GOLD CÓRDOBA  (NIO)</comment>
+        <translation>Nicarágua: córdoba ouro (NIO)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NETHERLANDS_GUILDER_NLG</source>
+        <comment>NETHERLANDS  GUILDER  (NLG)</comment>
+        <translation>Países Baixos: florim (NLG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NORWAY_KRONA_NOK</source>
+        <comment>NORWAY  KRONA  (NOK)</comment>
+        <translation>Noruega: coroa (NOK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NEPAL_RUPEE_NPW</source>
+        <comment>NEPAL  RUPEE  (NPW)</comment>
+        <translation>Nepal: rupia (NPW)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NEW_ZEALAND_DOLLAR_NZD</source>
+        <comment>NEW ZEALAND  DOLLAR  (NZD)</comment>
+        <translation>Nova Zelândia: dólar (NZD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_OMAN_RIAL_OMR</source>
+        <comment>OMAN  RIAL  (OMR)</comment>
+        <translation>Omã: rial (OMR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PANAMA_BALBOA_PAB</source>
+        <comment>PANAMA  BALBOA  (PAB)</comment>
+        <translation>Panamá: balboa (PAB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PERU_NEW_SOL_PEN</source>
+        <comment>PERU  NEW SOL  (PEN)</comment>
+        <translation>Peru: novo sol (PEN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PAPUA_NEW_GUINEA_KINA_PGK</source>
+        <comment>PAPUA NEW GUINEA  KINA  (PGK)</comment>
+        <translation>Papua-Nova Guiné: kina (PGK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PHILIPPINES_PESO_PHP</source>
+        <comment>PHILIPPINES  PESO  (PHP)</comment>
+        <translation>Filipinas: peso (PHP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PAKISTAN_RUPEE_PYK</source>
+        <comment>PAKISTAN  RUPEE  (PYK)</comment>
+        <translation>Paquistão: rupia (PYK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_POLAND_ZLOTY_PLN</source>
+        <comment>POLAND  ZLOTY  (PLN)</comment>
+        <translation>Polónia: zloty (PLN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PORTUGAL_ESCUDO_PTE</source>
+        <comment>PORTUGAL  ESCUDO  (PTE)</comment>
+        <translation>Portugal: escudo (PTE)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PARAGUAY_GUARANI_PYG</source>
+        <comment>PARAGUAY  GUARANI  (PYG)</comment>
+        <translation>Paraguai: guarani (PYG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_QATAR_RIYAL_QAR</source>
+        <comment>QATAR  RIYAL  (QAR)</comment>
+        <translation>Catar: riyal (QAR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ROMANIA_LEU_ROL</source>
+        <comment>ROMANIA  LEU  (ROL)</comment>
+        <translation>Roménia: leu (ROL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_AZERBAIJAN_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION AZERBAIJAN  ROUBLE  (RUB)</comment>
+        <translation>Federação Russa, Azerbaijão: rublo (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_BELARUS_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION BELARUS  ROUBLE  (RUB)</comment>
+        <translation>Federação Russa, Bielorrússia: rublo (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_TADZIKISTAN_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION TADZIKISTAN  ROUBLE  (RUB)</comment>
+        <translation>Federação Russa, Tajiquistão: rublo (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_UZBEKISTAN_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION UZBEKISTAN  ROUBLE  (RUB)</comment>
+        <translation>Federação Russa, Usbequistão: rublo (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUANDA_FRANC_RWF</source>
+        <comment>RUANDA  FRANC  (RWF)</comment>
+        <translation>Ruanda: franco (RWF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAUDI_ARABIA_RIYAL_SAR</source>
+        <comment>SAUDI ARABIA  RIYAL  (SAR)</comment>
+        <translation>Arábia Saudita: riyal (SAR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SALOMON_ISLES_DOLLAR_SBD</source>
+        <comment>SALOMON ISLES  DOLLAR  (SBD)</comment>
+        <translation>Ilhas Salomão: dólar (SBD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SEYCHELLES_RUPEE_SCR</source>
+        <comment>SEYCHELLES  RUPEE  (SCR)</comment>
+        <translation>Seicheles: rupia (SCR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SUDAN_DINAR_SDD</source>
+        <comment>SUDAN  DINAR  (SDD)</comment>
+        <translation>Sudão: dinar (SDD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SWEDEN_KRONER_SEK</source>
+        <comment>SWEDEN  KRONER  (SEK)</comment>
+        <translation>Suécia: coroa (SEK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SINGAPORE_DOLLAR_SGD</source>
+        <comment>SINGAPORE  DOLLAR  (SGD)</comment>
+        <translation>Singapura: dólar (SGD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_HELENS_POUND_SHP</source>
+        <comment>ST. HELENS  POUND  (SHP)</comment>
+        <translation>Santa Helena: libra (SHP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SLOVENIA_TOLAR_SIT</source>
+        <comment>SLOVENIA  TOLAR  (SIT)</comment>
+        <translation>Eslovénia: tolar (SIT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SLOVAKIA_KORUNA_SKK</source>
+        <comment>SLOVAKIA  KORUNA  (SKK)</comment>
+        <translation>Eslováquia: coroa (SKK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SIERRA_LEONE_LEONE_SLL</source>
+        <comment>SIERRA LEONE  LEONE  (SLL)</comment>
+        <translation>Serra Leoa: leone (SLL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOMALIA_SHILLING_SOS</source>
+        <comment>SOMALIA  SHILLING  (SOS)</comment>
+        <translation>Somália: xelim (SOS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SURINAM_GUILDER_SRG</source>
+        <comment>SURINAM  GUILDER  (SRG)</comment>
+        <translation>Suriname: florim (SRG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAO_TOME_PRINCIPE_DOBRA_SRD</source>
+        <comment>SÃO TOMÉ; PRINCIPE  DOBRA  (SRD)</comment>
+        <translation>São Tomé, Príncipe: dobra (SRD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EL_SALVADOR_COLON_SVC</source>
+        <comment>EL SALVADOR  COLÓN  (SVC)</comment>
+        <translation>Salvador: colon (SVC)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SYRIA_POUND_SYP</source>
+        <comment>SYRIA  POUND  (SYP)</comment>
+        <translation>Síria: libra (SYP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SWAZILAND_LILANGENI_PL_EMALANGENI_SZL</source>
+        <comment>SWAZILAND  LILANGENI (Pl.: EMALANGENI)  (SZL)</comment>
+        <translation>Suazilândia: lilangeni (SZL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_THAILAND_BAHT_THB</source>
+        <comment>THAILAND  BAHT  (THB)</comment>
+        <translation>Tailândia: baht (THB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TURKMENISTAN_MANAT_TMM</source>
+        <comment>TURKMENISTAN  MANAT  (TMM)</comment>
+        <translation>Turquemenistão: manat (TMM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TUNESIA_DINAR_TND</source>
+        <comment>TUNESIA  DINAR  (TND)</comment>
+        <translation>Tunísia: dinar (TND)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TONGA_PAANGA_TOP</source>
+        <comment>TONGA  PA'ANGA  (TOP)</comment>
+        <translation>Tonga: paʻanga (TOP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TURKEY_LIRA_TRL</source>
+        <comment>TURKEY  LIRA  (TRL)</comment>
+        <translation>Turquia: lira (TRL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TRINIDAD_TOBAGO_DOLLAR_TTD</source>
+        <comment>TRINIDAD; TOBAGO  DOLLAR  (TTD)</comment>
+        <translation>Trindade, Tobago: dólar (TTD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TAIWAN_DOLLAR_TWD</source>
+        <comment>TAIWAN  DOLLAR  (TWD)</comment>
+        <translation>Taiwan: dólar (TWD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TANZANIA_SHILLING_TZS</source>
+        <comment>TANZANIA  SHILLING  (TZS)</comment>
+        <translation>Tanzânia: xelim (TZS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UKRAINE_HRYVNIA_UAH</source>
+        <comment>UKRAINE  HRYVNIA  (UAH)</comment>
+        <translation>Ucrânia: hryvnia (UAH)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UGANDA_SHILLING_UGX</source>
+        <comment>UGANDA  SHILLING  (UGX)</comment>
+        <translation>Uganda: xelim (UGX)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_USA_DOLLAR_USD</source>
+        <comment>USA  DOLLAR  (USD)</comment>
+        <translation>EUA: dólar (USD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_URUGUAY_PESO_UYU</source>
+        <comment>URUGUAY  PESO  (UYU)</comment>
+        <translation>Uruguai: peso (UYU)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UZBEKISTAN_SUM_UZS</source>
+        <comment>UZBEKISTAN  SUM  (UZS)</comment>
+        <translation>Usbequistão: sum (UZS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VENEZUELA_BOLIVAR_VEB</source>
+        <comment>VENEZUELA  BOLIVAR  (VEB)</comment>
+        <translation>Venezuela: bolívar (VEB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VIETNAM_DONG_VND</source>
+        <comment>VIETNAM  DONG  (VND)</comment>
+        <translation>Vietname: dong (VND)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VANUATU_VATU_VUV</source>
+        <comment>VANUATU  VATU  (VUV)</comment>
+        <translation>Vanuatu: vatu (VUV)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAMOA_TALA_WST</source>
+        <comment>SAMOA  TALA  (WST)</comment>
+        <translation>Samoa: tala (WST)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_CHAD_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC CHAD CFA-FRANC  (XAF)</comment>
+        <translation>República Centro-Africana, Chade: franco CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_EQUATORIAL_GUINEA_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC EQUATORIAL GUINEA CFA-FRANC  (XAF)</comment>
+        <translation>República Centro-Africana, Guiné Equatorial: franco CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_GABUN_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC GABUN CFA-FRANC  (XAF)</comment>
+        <translation>República Centro-Africana, Gabão: franco CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_CAMEROON_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC CAMEROON CFA-FRANC  (XAF)</comment>
+        <translation>República Centro-Africana, Camarões: franco CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_CONGO_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC CONGO  CFA-FRANC  (XAF)</comment>
+        <translation>República Centro-Africana, Congo: franco CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANGUILLA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ANGUILLA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>Anguila: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANTIGUA_AND_BARBUDA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ANTIGUA AND BARBUDA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>Antígua e Barbuda: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DOMINICA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>DOMINICA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>Domínica: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GRENADA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>GRENADA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>Granada: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MONTSERRAT_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>MONTSERRAT EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>Monserrate: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_KITTS_AND_NEVIS_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ST. KITTS AND NEVIS EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>São Cristóvão e Neves: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_LUCIA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ST. LUCIA  EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>Santa Lúcia: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_VINCENT_AND_GRENADINES_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ST. VINCENT AND GRENADINES  EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>São Vicente e Granadinas: dólar das Caraíbas Orientais (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EUROPEAN_UNION_EUROPEAN_CURRENCY_UNIT_XEU</source>
+        <comment>EUROPEAN UNION  EUROPEAN CURRENCY UNIT  (XEU)</comment>
+        <translation>União Europeia: unidade monetária europeia (XEU)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BENIN_CFA_FRANC_XOF</source>
+        <comment>BENIN  CFA-FRANC  (XOF)</comment>
+        <translation>Benim: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BURKINA_FASO_CFA_FRANC_XOF</source>
+        <comment>BURKINA FASO CFA-FRANC  (XOF)</comment>
+        <translation>Burquina Faso: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IVORY_COAST_CFA_FRANC_XOF</source>
+        <comment>IVORY COAST CFA-FRANC  (XOF) </comment>
+        <translation>Costa do Marfim: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALI_CFA_FRANC_XOF</source>
+        <comment>MALI CFA-FRANC  (XOF)</comment>
+        <translation>Mali: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NIGER_CFA_FRANC_XOF</source>
+        <comment>NIGER CFA-FRANC  (XOF)</comment>
+        <translation>Níger: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SENEGAL_CFA_FRANC_XOF</source>
+        <comment>SENEGAL CFA-FRANC  (XOF) </comment>
+        <translation>Senegal: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TOGO_CFA_FRANC_XOF</source>
+        <comment>TOGO  CFA-FRANC  (XOF)</comment>
+        <translation>Togo: franco CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YEMEN_RIAL_YER</source>
+        <comment>YEMEN  RIAL  (YER)</comment>
+        <translation>Iémen: rial (YER)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YUGOSLAVIA_DINAR_YUN</source>
+        <comment>YUGOSLAVIA  DINAR  (YUN)</comment>
+        <translation>Jugoslávia: dinar (YUN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOUTH_AFRICA_LESOTHO_RAND_FINANCE_ZAL</source>
+        <comment>SOUTH AFRICA; LESOTHO  RAND (FINANCE)  (ZAL)</comment>
+        <translation>África do Sul, Lesoto: rand financeiro (ZAL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOUTH_AFRICA_LESOTHO_NAMIBIA_RAND_ZAR</source>
+        <comment>SOUTH AFRICA; LESOTHO; (NAMIBIA) RAND  (ZAR)</comment>
+        <translation>África do Sul, Lesoto, Namíbia: rand (ZAR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAMBIA_KWACHA_ZMK</source>
+        <comment>SAMBIA  KWACHA  (ZMK)</comment>
+        <translation>Zâmbia: kwacha (ZMK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZAIRE_NEW_ZAIRE_ZRN</source>
+        <comment>ZAIRE  NEW ZAIRE  (ZRN)</comment>
+        <translation>Zaire: novo zaire (ZRN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZIMBABWE_DOLLAR_ZWD</source>
+        <comment>ZIMBABWE  DOLLAR  (ZWD)</comment>
+        <translation>Zimbabué: dólar (ZWD)</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallCostsView</name>
+    <message>
+        <source>TXT_RID_HEADER_CREDIT_AVAILABLE</source>
+        <comment>Credit Available</comment>
+        <translation>Crédito disponível</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_CURRENT_CREDIT_AVAILABLE_IS_2</source>
+        <comment>Your current credit available is %1 units</comment>
+        <translation>O seu crédito disponível é de %1 unidades</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_EXPIRATION_DATE</source>
+        <comment>Expiration Date</comment>
+        <translation>Data de validade</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_REMAINING_CREDIT_WILL_EXPIRE_ON_1</source>
+        <comment>Your remaining credit will expire on %1</comment>
+        <translation>O seu crédito restante expira em %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_LAST_DEPOSIT</source>
+        <comment>Last Deposit</comment>
+        <translation>Último depósito</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_LAST_DEPOSIT_AMOUNT_WAS_1_UNITS</source>
+        <comment>Your last deposit amount was %1</comment>
+        <translation>O seu último depósito foi de %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_LAST_CALL</source>
+        <comment>Last Call</comment>
+        <translation>Última chamada</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_LAST_CALL_WAS_1_UNITS</source>
+        <comment>The cost of your last call was %1</comment>
+        <translation>O custo da sua última chamada foi de %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DIALED_CALLS</source>
+        <comment>Dialed Calls</comment>
+        <translation>Chamadas efetuadas</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_DIALED_CALLS_IS_1_UNITS</source>
+        <comment>The cost of your dialed calls is %1</comment>
+        <translation>O custo das suas chamadas efetuadas é de %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ANSWERED_CALLS</source>
+        <comment>Answered Calls</comment>
+        <translation>Chamadas atendidas</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_ANSWERED_CALLS_IS_1_UNITS</source>
+        <comment>The cost of your answered calls is %1</comment>
+        <translation>O custo das suas chamadas atendidas é de %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ALL_CALLS</source>
+        <comment>All Calls</comment>
+        <translation>Todas as chamadas</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_ALL_CALLS_IS_1_UNITS</source>
+        <comment>The cost of all your calls is %1</comment>
+        <translation>O custo de todas as suas chamadas é de %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_COSTS</source>
+        <comment>Call Costs</comment>
+        <translation>Custo das chamadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallDataTimesView</name>
+    <message>
+        <source>TXT_RID_HEADER_DATA_TIMES</source>
+        <comment>Data Times</comment>
+        <translation>Duração dos dados</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_CURRENT_2_DATA_SESSION_TIME_IS_1</source>
+        <comment>The current Data Session time for %2 is %1.</comment>
+        <translation>A duração da sessão de dados atual de %2 é de %1.</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_TOTAL_TIME_FOR_ALL_YOUR_GPRS_DATA_SESSIONS_IS_1</source>
+        <comment>The total time for all your data sessions is %1.</comment>
+        <translation>A duração total de todas as suas sessões de dados é de %1.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_RESET</source>
+        <comment>Reset</comment>
+        <translation>Repor a zero</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ARE_YOU_SURE_YOU_WANT_TO_RESET_DATA_SESSIONS_TIMER</source>
+        <comment>Are you sure you want to reset the data sessions timer?</comment>
+        <translation>Tem a certeza de que quer repor a zero o contador das sessões de dados?</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallDataVolumesDetailView</name>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_YOUR_SENT_DATA_VOLUME_IS_1</source>
+        <comment>Your sent data volume is %1</comment>
+        <translation>O seu volume de dados enviados é de %1</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_YOUR_RECEIVED_DATA_VOLUME_IS_1</source>
+        <comment>Your received data volume is %1</comment>
+        <translation>O seu volume de dados recebidos é de %1</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_YOUR_TOTAL_DATA_TRANSFER_VOLUME_IS_1</source>
+        <comment>Your total data transfer volume is %1</comment>
+        <translation>O seu volume total de dados transferidos é de %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_VOLUME</source>
+        <comment>Data Volume</comment>
+        <translation>Volume de dados</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallDataVolumesView</name>
+    <message>
+        <source>TXT_RID_HEADER_RESET</source>
+        <comment>Reset</comment>
+        <translation>Repor a zero</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ARE_YOU_SURE_YOU_WANT_TO_RESET_DATA_SESSIONS_VOLUME</source>
+        <comment>Are you sure you want to reset the data sessions volume?</comment>
+        <translation>Tem a certeza de que quer repor a zero o volume das sessões de dados?</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_VOLUMES</source>
+        <comment>Data Volumes</comment>
+        <translation>Volume de dados</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallMeter</name>
+    <message>
+        <source>TXT_RID_LIST_A_UNITS</source>
+        <comment>units</comment>
+        <translation>unidades</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AED</source>
+        <comment>AED</comment>
+        <translation>AED</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AFA</source>
+        <comment>AFA</comment>
+        <translation>AFA</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ALL</source>
+        <comment>ALL</comment>
+        <translation>ALL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AMD</source>
+        <comment>AMD</comment>
+        <translation>AMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANG</source>
+        <comment>ANG</comment>
+        <translation>ANG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AON</source>
+        <comment>AON</comment>
+        <translation>AON</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARS</source>
+        <comment>ARS</comment>
+        <translation>ARS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AUD</source>
+        <comment>AUD</comment>
+        <translation>AUD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AWG</source>
+        <comment>AWG</comment>
+        <translation>AWG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AZM</source>
+        <comment>AZM</comment>
+        <translation>AZM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BBD</source>
+        <comment>BBD</comment>
+        <translation>BBD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BDT</source>
+        <comment>BDT</comment>
+        <translation>BDT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BEF</source>
+        <comment>BEF</comment>
+        <translation>BEF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BGN</source>
+        <comment>BGN</comment>
+        <translation>BGN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BHD</source>
+        <comment>BHD</comment>
+        <translation>BHD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BIF</source>
+        <comment>BIF</comment>
+        <translation>BIF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BMD</source>
+        <comment>BMD</comment>
+        <translation>BMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BOB</source>
+        <comment>BOB</comment>
+        <translation>BOB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BRL</source>
+        <comment>BRL</comment>
+        <translation>BRL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BSD</source>
+        <comment>BSD</comment>
+        <translation>BSD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BTN</source>
+        <comment>BTN</comment>
+        <translation>BTN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BWP</source>
+        <comment>BWP</comment>
+        <translation>BWP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BYR</source>
+        <comment>BYR</comment>
+        <translation>BYR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BZD</source>
+        <comment>BZD</comment>
+        <translation>BZD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAD</source>
+        <comment>CAD</comment>
+        <translation>CAD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CHF</source>
+        <comment>CHF</comment>
+        <translation>CHF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CLP</source>
+        <comment>CLP</comment>
+        <translation>CLP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CNY</source>
+        <comment>CNY</comment>
+        <translation>CNY</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COP</source>
+        <comment>COP</comment>
+        <translation>COP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CRC</source>
+        <comment>CRC</comment>
+        <translation>CRC</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CUP</source>
+        <comment>CUP</comment>
+        <translation>CUP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CVE</source>
+        <comment>CVE</comment>
+        <translation>CVE</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CYP</source>
+        <comment>CYP</comment>
+        <translation>CYP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CZK</source>
+        <comment>CZK</comment>
+        <translation>CZK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DEM</source>
+        <comment>DEM</comment>
+        <translation>DEM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DJF</source>
+        <comment>DJF</comment>
+        <translation>DJF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DKK</source>
+        <comment>DKK</comment>
+        <translation>DKK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DOP</source>
+        <comment>DOP</comment>
+        <translation>DOP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DZD</source>
+        <comment>DZD</comment>
+        <translation>DZD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ECS</source>
+        <comment>ECS</comment>
+        <translation>ECS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EEK</source>
+        <comment>EEK</comment>
+        <translation>EEK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EGP</source>
+        <comment>EGP</comment>
+        <translation>EGP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ESP</source>
+        <comment>ESP</comment>
+        <translation>ESP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ETB</source>
+        <comment>ETB</comment>
+        <translation>ETB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FIM</source>
+        <comment>FIM</comment>
+        <translation>FIM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FJD</source>
+        <comment>FJD</comment>
+        <translation>FJD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FKP</source>
+        <comment>FKP</comment>
+        <translation>FKP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FRF</source>
+        <comment>FRF</comment>
+        <translation>FRF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GBP</source>
+        <comment>GBP</comment>
+        <translation>GBP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GEK</source>
+        <comment>GEK</comment>
+        <translation>GEK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GHC</source>
+        <comment>GHC</comment>
+        <translation>GHC</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GIP</source>
+        <comment>GIP</comment>
+        <translation>GIP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GMD</source>
+        <comment>GMD</comment>
+        <translation>GMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GNF</source>
+        <comment>GNF</comment>
+        <translation>GNF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GRD</source>
+        <comment>GRD</comment>
+        <translation>GRD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GTQ</source>
+        <comment>GTQ</comment>
+        <translation>GTQ</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GWP</source>
+        <comment>GWP</comment>
+        <translation>GWP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GYD</source>
+        <comment>GYD</comment>
+        <translation>GYD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HKD</source>
+        <comment>HKD</comment>
+        <translation>HKD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HNL</source>
+        <comment>HNL</comment>
+        <translation>HNL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HRK</source>
+        <comment>HRK</comment>
+        <translation>HRK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HTG</source>
+        <comment>HTG</comment>
+        <translation>HTG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HUF</source>
+        <comment>HUF</comment>
+        <translation>HUF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IDR</source>
+        <comment>IDR</comment>
+        <translation>IDR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IEP</source>
+        <comment>IEP</comment>
+        <translation>IEP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ILS</source>
+        <comment>ILS</comment>
+        <translation>ILS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_INR</source>
+        <comment>INR</comment>
+        <translation>INR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IQD</source>
+        <comment>IQD</comment>
+        <translation>IQD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRR</source>
+        <comment>IRR</comment>
+        <translation>IRR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ISK</source>
+        <comment>ISK</comment>
+        <translation>ISK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ITL</source>
+        <comment>ITL</comment>
+        <translation>ITL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JMD</source>
+        <comment>JMD</comment>
+        <translation>JMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JOD</source>
+        <comment>JOD</comment>
+        <translation>JOD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JPY</source>
+        <comment>JPY</comment>
+        <translation>JPY</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KES</source>
+        <comment>KES</comment>
+        <translation>KES</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KGS</source>
+        <comment>KGS</comment>
+        <translation>KGS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KHR</source>
+        <comment>KHR</comment>
+        <translation>KHR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KMF</source>
+        <comment>KMF</comment>
+        <translation>KMF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KPW</source>
+        <comment>KPW</comment>
+        <translation>KPW</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KRW</source>
+        <comment>KRW</comment>
+        <translation>KRW</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KWD</source>
+        <comment>KWD</comment>
+        <translation>KWD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KYD</source>
+        <comment>KYD</comment>
+        <translation>KYD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KZT</source>
+        <comment>KZT</comment>
+        <translation>KZT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LAK</source>
+        <comment>LAK</comment>
+        <translation>LAK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LBP</source>
+        <comment>LBP</comment>
+        <translation>LBP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LKR</source>
+        <comment>LKR</comment>
+        <translation>LKR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LRD</source>
+        <comment>LRD</comment>
+        <translation>LRD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LSL</source>
+        <comment>LSL</comment>
+        <translation>LSL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LTL</source>
+        <comment>LTL</comment>
+        <translation>LTL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LUF</source>
+        <comment>LUF</comment>
+        <translation>LUF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LVL</source>
+        <comment>LVL</comment>
+        <translation>LVL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LYD</source>
+        <comment>LYD</comment>
+        <translation>LYD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAD</source>
+        <comment>MAD</comment>
+        <translation>MAD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MDL</source>
+        <comment>MDL</comment>
+        <translation>MDL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MGF</source>
+        <comment>MGF</comment>
+        <translation>MGF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MKD</source>
+        <comment>MKD</comment>
+        <translation>MKD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MMK</source>
+        <comment>MMK</comment>
+        <translation>MMK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MNT</source>
+        <comment>MNT</comment>
+        <translation>MNT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MOP</source>
+        <comment>MOP</comment>
+        <translation>MOP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MRO</source>
+        <comment>MRO</comment>
+        <translation>MRO</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MTL</source>
+        <comment>MTL</comment>
+        <translation>MTL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MUR</source>
+        <comment>MUR</comment>
+        <translation>MUR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MVR</source>
+        <comment>MVR</comment>
+        <translation>MVR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MWK</source>
+        <comment>MWK</comment>
+        <translation>MWK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MXN</source>
+        <comment>MXN</comment>
+        <translation>MXN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MYR</source>
+        <comment>MYR</comment>
+        <translation>MYR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MZM</source>
+        <comment>MZM</comment>
+        <translation>MZM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NAD</source>
+        <comment>NAD</comment>
+        <translation>NAD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NGN</source>
+        <comment>NGN</comment>
+        <translation>NGN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NIO</source>
+        <comment>NIO</comment>
+        <translation>NIO</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NLG</source>
+        <comment>NLG</comment>
+        <translation>NLG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NOK</source>
+        <comment>NOK</comment>
+        <translation>NOK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NPW</source>
+        <comment>NPW</comment>
+        <translation>NPW</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NZD</source>
+        <comment>NZD</comment>
+        <translation>NZD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_OMR</source>
+        <comment>OMR</comment>
+        <translation>OMR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PAB</source>
+        <comment>PAB</comment>
+        <translation>PAB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PEN</source>
+        <comment>PEN</comment>
+        <translation>PEN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PGK</source>
+        <comment>PGK</comment>
+        <translation>PGK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PHP</source>
+        <comment>PHP</comment>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PYK</source>
+        <comment>PYK</comment>
+        <translation>PYK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PLN</source>
+        <comment>PLN</comment>
+        <translation>PLN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PTE</source>
+        <comment>PTE</comment>
+        <translation>PTE</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PYG</source>
+        <comment>PYG</comment>
+        <translation>PYG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_QAR</source>
+        <comment>QAR</comment>
+        <translation>QAR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ROL</source>
+        <comment>ROL</comment>
+        <translation>ROL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUB</source>
+        <comment>RUB</comment>
+        <translation>RUB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RWF</source>
+        <comment>RWF</comment>
+        <translation>RWF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAR</source>
+        <comment>SAR</comment>
+        <translation>SAR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SBD</source>
+        <comment>SBD</comment>
+        <translation>SBD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SCR</source>
+        <comment>SCR</comment>
+        <translation>SCR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SDD</source>
+        <comment>SDD</comment>
+        <translation>SDD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SEK</source>
+        <comment>SEK</comment>
+        <translation>SEK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SGD</source>
+        <comment>SGD</comment>
+        <translation>SGD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SHP</source>
+        <comment>SHP</comment>
+        <translation>SHP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SIT</source>
+        <comment>SIT</comment>
+        <translation>SIT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SKK</source>
+        <comment>SKK</comment>
+        <translation>SKK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SLL</source>
+        <comment>SLL</comment>
+        <translation>SLL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOS</source>
+        <comment>SOS</comment>
+        <translation>SOS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SRG</source>
+        <comment>SRG</comment>
+        <translation>SRG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SRD</source>
+        <comment>SRD</comment>
+        <translation>SRD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SVC</source>
+        <comment>SVC</comment>
+        <translation>SVC</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SYP</source>
+        <comment>SYP</comment>
+        <translation>SYP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SZL</source>
+        <comment>SZL</comment>
+        <translation>SZL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_THB</source>
+        <comment>THB</comment>
+        <translation>THB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TMM</source>
+        <comment>TMM</comment>
+        <translation>TMM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TND</source>
+        <comment>TND</comment>
+        <translation>TND</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TOP</source>
+        <comment>TOP</comment>
+        <translation>TOP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TRL</source>
+        <comment>TRL</comment>
+        <translation>TRL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TTD</source>
+        <comment>TTD</comment>
+        <translation>TTD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TWD</source>
+        <comment>TWD</comment>
+        <translation>TWD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TZS</source>
+        <comment>TZS</comment>
+        <translation>TZS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UAH</source>
+        <comment>UAH</comment>
+        <translation>UAH</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UGX</source>
+        <comment>UGX</comment>
+        <translation>UGX</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_USD</source>
+        <comment>USD</comment>
+        <translation>USD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UYU</source>
+        <comment>UYU</comment>
+        <translation>UYU</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UZS</source>
+        <comment>UZS</comment>
+        <translation>UZS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VEB</source>
+        <comment>VEB</comment>
+        <translation>VEB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VND</source>
+        <comment>VND</comment>
+        <translation>VND</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VUV</source>
+        <comment>VUV</comment>
+        <translation>VUV</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_WST</source>
+        <comment>WST</comment>
+        <translation>WST</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XAF</source>
+        <comment>XAF</comment>
+        <translation>XAF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XCD</source>
+        <comment>XCD</comment>
+        <translation>XCD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XEU</source>
+        <comment>XEU</comment>
+        <translation>XEU</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XOF</source>
+        <comment>XOF</comment>
+        <translation>XOF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YER</source>
+        <comment>YER</comment>
+        <translation>YER</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YUN</source>
+        <comment>YUN</comment>
+        <translation>YUN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZAL</source>
+        <comment>ZAL</comment>
+        <translation>ZAL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZAR</source>
+        <comment>ZAR</comment>
+        <translation>ZAR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZMK</source>
+        <comment>ZMK</comment>
+        <translation>ZMK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZRN</source>
+        <comment>ZRN</comment>
+        <translation>ZRN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZWD</source>
+        <comment>ZWD</comment>
+        <translation>ZWD</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallTimesView</name>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_DIALED_CALLS_TIMER</source>
+        <comment>Would you like to reset the Dialed Calls timer?</comment>
+        <translation>Quer repor a zero a duração das chamadas efetuadas?</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_ANSWERED_CALLS_TIMER</source>
+        <comment>Would you like to reset the Answered Calls timer?</comment>
+        <translation>Quer repor a zero a duração das chamadas atendidas?</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_CIRCUIT_SWITCHING_DATA_CALLS_TIMER</source>
+        <comment>Would you like to reset the Circuit Switching Data Calls timer?</comment>
+        <translation>Quer repor a zero a duração das chamadas de dados por circuitos?</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_ALL_CALLS_TIMER</source>
+        <comment>Would you like to reset the All Calls timer?</comment>
+        <translation>Quer repor a zero a duração de todas as chamadas?</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_RESET_TIMER</source>
+        <comment>Reset Timer</comment>
+        <translation>Repor a zero</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_CURRENT_REQUEST_CANNOT_BE_COMPLETED_WHILE_YOU_ARE_IN_CALLING</source>
+        <comment>Current request cannot be completed, while you are in calling. </comment>
+        <translation>Não é possível fazê-lo durante uma chamada.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_TIMES</source>
+        <comment>Call Times</comment>
+        <translation>Duração das chamadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <translation>LTR</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ALL</source>
+        <comment>Reset All</comment>
+        <translation>Repor tudo a zero</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ALL_CALL_COSTS</source>
+        <comment>Reset All Call Costs</comment>
+        <translation>Limpar todos os custos</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_DIALED_CALL_COSTS</source>
+        <comment>Reset Dialed Call Costs</comment>
+        <translation>Limpar custo efetuadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ANSWERED_CALL_COSTS</source>
+        <comment>Reset Answered Call Costs</comment>
+        <translation>Limpar custo atendidas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CREDIT_LIMIT</source>
+        <comment>Credit Limit</comment>
+        <translation>Limite de crédito</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ADJUST_CREDIT_LIMIT</source>
+        <comment>Adjust Credit Limit</comment>
+        <translation>Ajustar limite</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CURRENCY</source>
+        <comment>Currency</comment>
+        <translation>Moeda</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
+        <comment>Currency Type</comment>
+        <translation>Moeda</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_COST_PER_MINUTE</source>
+        <comment>Cost Per Minute</comment>
+        <translation>Preço por minuto</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CREDIT_AVAILABLE</source>
+        <comment>Credit Available</comment>
+        <translation>Crédito disponível</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_EXPIRATION_DATE</source>
+        <comment>Expiration Date</comment>
+        <translation>Data de validade</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LAST_DEPOSIT</source>
+        <comment>Last Deposit</comment>
+        <translation>Último depósito</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LAST_CALL_COST</source>
+        <comment>Last Call Cost</comment>
+        <translation>Custo última chamada</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_DIALED_CALLS_COST</source>
+        <comment>Dialed Calls Cost</comment>
+        <translation>Custo efetuadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ANSWERED_CALLS_COST</source>
+        <comment>Answered Calls Cost</comment>
+        <translation>Custo atendidas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ALL_CALLS_COST</source>
+        <comment>All Calls Cost</comment>
+        <translation>Custo total</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CALL_COST_SETUP</source>
+        <comment>Call Cost Setup</comment>
+        <translation>Ajuste de custos</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_RECENT_DATA_SESSION</source>
+        <comment>Current Data Session</comment>
+        <translation>Sessão de dados atual</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_GPRS_DATA_SESSION_1</source>
+        <comment>GPRS Data Session 1</comment>
+        <translation>Sessão de dados GPRS 1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_GPRS_DATA_SESSION_2</source>
+        <comment>GPRS Data Session 2</comment>
+        <translation>Sessão de dados GPRS 2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_GPRS_DATA_SESSION_3</source>
+        <comment>GPRS Data Session 3</comment>
+        <translation>Sessão de dados GPRS 3</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_ALL_DATA_SESSIONS</source>
+        <comment>All Data Sessions</comment>
+        <translation>Todas as sessões</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_TOTAL_TIME</source>
+        <comment>Total Time</comment>
+        <translation>Duração total</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ALL_DATA_SESSIONS</source>
+        <comment>Reset All Data Sessions</comment>
+        <translation>Repor sessões a zero</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_SENT</source>
+        <comment>Sent</comment>
+        <translation>Enviados</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RECEIVED</source>
+        <comment>Received</comment>
+        <translation>Recebidos</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_SUM</source>
+        <comment>Sum</comment>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_TOTAL_DATA_TRANSFERRED</source>
+        <comment>Total Data Transferred</comment>
+        <translation>Total transferido</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_GPRS_DATA_SESSION_1</source>
+        <comment>GPRS Data Session 1</comment>
+        <translation>Sessão de dados GPRS 1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_GPRS_DATA_SESSION_2</source>
+        <comment>GPRS Data Session 2</comment>
+        <translation>Sessão de dados GPRS 2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_GPRS_DATA_SESSION_3</source>
+        <comment>GPRS Data Session 3</comment>
+        <translation>Sessão de dados GPRS 3</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LAST_CALL</source>
+        <comment>Last Call</comment>
+        <translation>Última chamada</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_DIALED_CALLS</source>
+        <comment>Dialed Calls</comment>
+        <translation>Chamadas efetuadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ANSWERED_CALLS</source>
+        <comment>Answered Calls</comment>
+        <translation>Chamadas atendidas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CIRCUIT_SWITCH_DATA_CALLS</source>
+        <comment>Data Calls</comment>
+        <translation>Chamadas de dados</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ALL_CALLS</source>
+        <comment>All Calls</comment>
+        <translation>Todas as chamadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
+        <comment>Lifetime Calls</comment>
+        <translation>Total de chamadas</translation>
+    </message>
+</context>
+<context>
+    <name>SETUP_SECURITY_Util</name>
+    <message>
+        <source>TXT_RID_HEADER_PIN1</source>
+        <comment>PIN1</comment>
+        <translation>PIN1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ENTER_PIN1</source>
+        <comment>Enter PIN1</comment>
+        <translation>Introduza o PIN1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_WRONG_PIN1</source>
+        <comment>Wrong PIN1</comment>
+        <translation>PIN1 errado</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_PIN1_IS_BLOCKED</source>
+        <comment>PIN1 is blocked. Only PUK1 can unblock it.</comment>
+        <translation>O PIN1 está bloqueado. Só o PUK1 o pode desbloquear.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_SIM_CANNOT_BE_ASKED_PIN1</source>
+        <comment>The SIM card cannot be asked for PIN1.</comment>
+        <translation>Não é possível pedir o PIN1 ao cartão SIM.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_PIN2</source>
+        <comment>PIN2</comment>
+        <translation>PIN2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ENTER_PIN2</source>
+        <comment>Enter PIN2</comment>
+        <translation>Introduza o PIN2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_WRONG_PIN2</source>
+        <comment>Wrong PIN2</comment>
+        <translation>PIN2 errado</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_PIN2_IS_BLOCKED</source>
+        <comment>PIN2 is blocked. Only PUK2 can unblock it.</comment>
+        <translation>O PIN2 está bloqueado. Só o PUK2 o pode desbloquear.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_SIM_CANNOT_BE_ASKED_PIN2</source>
+        <comment>The SIM card cannot be asked for PIN2.</comment>
+        <translation>Não é possível pedir o PIN2 ao cartão SIM.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_CANCEL</source>
+        <comment>Cancel</comment>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_TRIES_LEFT_1</source>
+        <comment>Tries left: %1</comment>
+        <translation>Tentativas: %1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_4_TO_8_DIGITS</source>
+        <comment>4 to 8 digits</comment>
+        <translation>De 4 a 8 dígitos</translation>
+    </message>
+</context>
+<context>
+    <name>ZMessageDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_YES</source>
+        <comment>Yes</comment>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_NO</source>
+        <comment>No</comment>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ZNoticeDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>ZSingleCaptureDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_CANCEL</source>
+        <comment>Cancel</comment>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ZSingleSelectDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_SELECT</source>
+        <comment>Select</comment>
+        <translation>Escolher</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_CANCEL</source>
+        <comment>Cancel</comment>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>host::AccountSection</name>
+    <message>
+        <source>Nothing has been paid in.</source>
+        <translation>Ainda nada foi depositado.</translation>
+    </message>
+    <message>
+        <source>Credit: %1</source>
+        <translation>Crédito: %1</translation>
+    </message>
+    <message>
+        <source>Last deposit: %1, good until %2</source>
+        <translation>Último depósito: %1, válido até %2</translation>
+    </message>
+    <message>
+        <source>Prepaid account</source>
+        <translation>Conta pré-paga</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>Crédito</translation>
+    </message>
+    <message>
+        <source>Last deposit</source>
+        <translation>Último depósito</translation>
+    </message>
+    <message>
+        <source>Amount to pay in</source>
+        <translation>Montante a depositar</translation>
+    </message>
+    <message>
+        <source>In units or in the currency, as costs are</source>
+        <translation>Em unidades ou na moeda, tal como os custos</translation>
+    </message>
+    <message>
+        <source>Why nothing was paid in</source>
+        <translation>Por que nada foi depositado</translation>
+    </message>
+    <message>
+        <source>Good until</source>
+        <translation>Válido até</translation>
+    </message>
+    <message>
+        <source>Until when the deposit is good: year, month, day</source>
+        <translation>Até quando o depósito é válido: ano, mês, dia</translation>
+    </message>
+    <message>
+        <source>&amp;Top up</source>
+        <translation>Ca&amp;rregar</translation>
+    </message>
+    <message>
+        <source>Pays the amount in</source>
+        <translation>Deposita o montante</translation>
+    </message>
+    <message>
+        <source>until</source>
+        <translation>até</translation>
+    </message>
+</context>
+<context>
+    <name>host::CallsModel</name>
+    <message>
+        <source>Dialed, not answered</source>
+        <translation>Efetuada, não atendida</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>Perdida</translation>
+    </message>
+    <message>
+        <source>Data call</source>
+        <translation>Chamada de dados</translation>
+    </message>
+    <message>
+        <source>Dialed</source>
+        <translation>Efetuada</translation>
+    </message>
+    <message>
+        <source>Answered</source>
+        <translation>Atendida</translation>
+    </message>
+    <message>
+        <source>number withheld</source>
+        <translation>número oculto</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Sentido</translation>
+    </message>
+    <message>
+        <source>Number and time</source>
+        <translation>Número e hora</translation>
+    </message>
+    <message>
+        <source>Duration and cost</source>
+        <translation>Duração e custo</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unidades</translation>
+    </message>
+</context>
+<context>
+    <name>host::CostSection</name>
+    <message>
+        <source>not available</source>
+        <translation>não disponível</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unidades</translation>
+    </message>
+    <message>
+        <source>Costs</source>
+        <translation>Custos</translation>
+    </message>
+    <message>
+        <source>Costs are in</source>
+        <translation>Custos em</translation>
+    </message>
+    <message>
+        <source>the currency</source>
+        <translation>a moeda</translation>
+    </message>
+    <message>
+        <source>Price of a unit</source>
+        <translation>Preço da unidade</translation>
+    </message>
+    <message>
+        <source>The price of a unit, as 0.23</source>
+        <translation>O preço de uma unidade, por exemplo 0.23</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Moeda</translation>
+    </message>
+    <message>
+        <source>The currency's code, at most three characters</source>
+        <translation>O código da moeda, três caracteres no máximo</translation>
+    </message>
+    <message>
+        <source>Credit limit</source>
+        <translation>Limite de crédito</translation>
+    </message>
+    <message>
+        <source>Cost of the call</source>
+        <translation>Custo da chamada</translation>
+    </message>
+    <message>
+        <source>Why the costs were not set</source>
+        <translation>Por que os custos não foram ajustados</translation>
+    </message>
+    <message>
+        <source>Set &amp;price</source>
+        <translation>Fixar &amp;preço</translation>
+    </message>
+    <message>
+        <source>Writes price and currency to the SIM card</source>
+        <translation>Escreve o preço e a moeda no cartão SIM</translation>
+    </message>
+    <message>
+        <source>This call</source>
+        <translation>Esta chamada</translation>
+    </message>
+    <message>
+        <source>Last call</source>
+        <translation>Última chamada</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desligado</translation>
+    </message>
+    <message>
+        <source>%1; units left: %2</source>
+        <translation>%1; unidades restantes: %2</translation>
+    </message>
+    <message>
+        <source>The modem's advice of charge says what calls cost.</source>
+        <translation>O aviso de tarifação do modem diz quanto custam as chamadas.</translation>
+    </message>
+    <message>
+        <source>This telephone charges no calls by itself.</source>
+        <translation>Este telefone não cobra, ele próprio, nenhuma chamada.</translation>
+    </message>
+</context>
+<context>
+    <name>host::Display</name>
+    <message>
+        <source>Display of the phone</source>
+        <translation>Ecrã do telefone</translation>
+    </message>
+</context>
+<context>
+    <name>host::FailuresSection</name>
+    <message>
+        <source>Failures</source>
+        <translation>Falhas</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operação</translation>
+    </message>
+    <message>
+        <source>Let it &amp;fail</source>
+        <translation>Fazer &amp;falhar</translation>
+    </message>
+    <message>
+        <source>From now on the operation only answers the code</source>
+        <translation>A partir de agora a operação só responde com o código</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>&amp;Retirar</translation>
+    </message>
+    <message>
+        <source>The chosen operation works again</source>
+        <translation>A operação escolhida volta a funcionar</translation>
+    </message>
+    <message>
+        <source>Remove a&amp;ll</source>
+        <translation>Retirar &amp;todas</translation>
+    </message>
+    <message>
+        <source>Every operation works again</source>
+        <translation>Todas as operações voltam a funcionar</translation>
+    </message>
+    <message>
+        <source>What the phone's libraries ask of the telephone</source>
+        <translation>O que as bibliotecas do telefone lhe pedem</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>Código</translation>
+    </message>
+    <message>
+        <source>What the operation answers: a name, or a number; not Success</source>
+        <translation>O que a operação responde: um nome ou um número; não Success</translation>
+    </message>
+    <message>
+        <source>Operations that fail</source>
+        <translation>Operações que falham</translation>
+    </message>
+    <message>
+        <source>Failing now</source>
+        <translation>Falha agora</translation>
+    </message>
+</context>
+<context>
+    <name>host::FiguresSection</name>
+    <message>
+        <source>Last call</source>
+        <translation>Última chamada</translation>
+    </message>
+    <message>
+        <source>Dialed calls</source>
+        <translation>Chamadas efetuadas</translation>
+    </message>
+    <message>
+        <source>Answered calls</source>
+        <translation>Chamadas atendidas</translation>
+    </message>
+    <message>
+        <source>Data calls</source>
+        <translation>Chamadas de dados</translation>
+    </message>
+    <message>
+        <source>All calls</source>
+        <translation>Todas as chamadas</translation>
+    </message>
+    <message>
+        <source>Lifetime calls</source>
+        <translation>Total de chamadas</translation>
+    </message>
+    <message>
+        <source>Call timers</source>
+        <translation>Contadores de chamadas</translation>
+    </message>
+    <message>
+        <source>Add a &amp;ready-made history</source>
+        <translation>Juntar um &amp;histórico pronto</translation>
+    </message>
+    <message>
+        <source>Adds a dozen calls of the last days to the call log</source>
+        <translation>Junta ao registo uma dúzia de chamadas dos últimos dias</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>não disponível</translation>
+    </message>
+</context>
+<context>
+    <name>host::Keypad</name>
+    <message>
+        <source>Left softkey</source>
+        <translation>Tecla esquerda</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Para cima</translation>
+    </message>
+    <message>
+        <source>Right softkey</source>
+        <translation>Tecla direita</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Escolher</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Ligar</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Desligar</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Para baixo</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Apagar</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>Asterisco</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>Cardinal</translation>
+    </message>
+</context>
+<context>
+    <name>host::Line</name>
+    <message>
+        <source>Dialing</source>
+        <translation>A marcar</translation>
+    </message>
+    <message>
+        <source>Ringing</source>
+        <translation>A tocar</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Em espera</translation>
+    </message>
+    <message>
+        <source>On hold %1</source>
+        <translation>Retida %1</translation>
+    </message>
+    <message>
+        <source>Connected %1</source>
+        <translation>Ligada %1</translation>
+    </message>
+    <message>
+        <source>No modem</source>
+        <translation>Sem modem</translation>
+    </message>
+    <message>
+        <source>number withheld</source>
+        <translation>número oculto</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>Livre</translation>
+    </message>
+    <message>
+        <source>The credit limit is reached in %1 s.</source>
+        <translation>O limite de crédito será atingido em %1 s.</translation>
+    </message>
+    <message>
+        <source>The credit is used up in %1 s.</source>
+        <translation>O crédito esgota-se em %1 s.</translation>
+    </message>
+    <message>
+        <source>The telephone has ended the call: the credit limit is reached.</source>
+        <translation>O telefone terminou a chamada: o limite de crédito foi atingido.</translation>
+    </message>
+    <message>
+        <source>The telephone has ended the call: the credit is used up.</source>
+        <translation>O telefone terminou a chamada: o crédito esgotou-se.</translation>
+    </message>
+    <message>
+        <source>This telephone cannot be driven from here.</source>
+        <translation>Este telefone não pode ser comandado daqui.</translation>
+    </message>
+    <message>
+        <source>data call</source>
+        <translation>chamada de dados</translation>
+    </message>
+    <message>
+        <source>voice call</source>
+        <translation>chamada de voz</translation>
+    </message>
+    <message>
+        <source>The call log cannot be written. The end of a call or a packet-data session is kept in memory, and written as soon as it can be.</source>
+        <translation>Não é possível escrever no registo de chamadas. O fim de uma chamada ou de uma sessão de dados fica na memória e será escrito logo que possível.</translation>
+    </message>
+</context>
+<context>
+    <name>host::LineSection</name>
+    <message>
+        <source>&amp;Dial</source>
+        <translation>&amp;Marcar</translation>
+    </message>
+    <message>
+        <source>Calls the number from this phone</source>
+        <translation>Liga para o número a partir deste telefone</translation>
+    </message>
+    <message>
+        <source>&amp;Other side answers</source>
+        <translation>O &amp;outro lado atende</translation>
+    </message>
+    <message>
+        <source>The called side answers; the call is connected</source>
+        <translation>O outro lado atende; a chamada fica ligada</translation>
+    </message>
+    <message>
+        <source>Dial d&amp;ata call</source>
+        <translation>Chamada de &amp;dados</translation>
+    </message>
+    <message>
+        <source>Sets up a circuit-switched data call to the number</source>
+        <translation>Estabelece uma chamada de dados por circuitos com o número</translation>
+    </message>
+    <message>
+        <source>&amp;Incoming call</source>
+        <translation>Chamada &amp;recebida</translation>
+    </message>
+    <message>
+        <source>The number calls this phone; empty for a withheld number</source>
+        <translation>O número liga para este telefone; vazio para um número oculto</translation>
+    </message>
+    <message>
+        <source>&amp;Hang up</source>
+        <translation>Des&amp;ligar</translation>
+    </message>
+    <message>
+        <source>Ends the call on the line, whatever its state</source>
+        <translation>Termina a chamada na linha, seja qual for o estado</translation>
+    </message>
+    <message>
+        <source>A&amp;nswer</source>
+        <translation>Ate&amp;nder</translation>
+    </message>
+    <message>
+        <source>Answers the incoming call; the call is connected</source>
+        <translation>Atende a chamada recebida; a chamada fica ligada</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linha</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>O que o telefone comunicou</translation>
+    </message>
+    <message>
+        <source>State of the line</source>
+        <translation>Estado da linha</translation>
+    </message>
+    <message>
+        <source>End of charging</source>
+        <translation>Fim da tarifação</translation>
+    </message>
+    <message>
+        <source>What is not in the call log yet</source>
+        <translation>O que ainda não está no registo de chamadas</translation>
+    </message>
+    <message>
+        <source>Digits, +, * and #</source>
+        <translation>Dígitos, +, * e #</translation>
+    </message>
+    <message>
+        <source>N&amp;umber</source>
+        <translation>N&amp;úmero</translation>
+    </message>
+</context>
+<context>
+    <name>host::MenuScreen</name>
+    <message>
+        <source>TXT_RID_HEADER_RECENT_CALLS</source>
+        <comment>Recent Calls</comment>
+        <translation>Chamadas recentes</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_OPEN</source>
+        <comment>Open</comment>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_EXIT</source>
+        <comment>Exit</comment>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_TIMES</source>
+        <comment>Call Times</comment>
+        <translation>Duração das chamadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_COSTS</source>
+        <comment>Call Costs</comment>
+        <translation>Custo das chamadas</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_TIMES</source>
+        <comment>Data Times</comment>
+        <translation>Duração dos dados</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_VOLUMES</source>
+        <comment>Data Volumes</comment>
+        <translation>Volume de dados</translation>
+    </message>
+</context>
+<context>
+    <name>host::ModemSection</name>
+    <message>
+        <source>call times</source>
+        <translation>duração das chamadas</translation>
+    </message>
+    <message>
+        <source>all calls</source>
+        <translation>todas as chamadas</translation>
+    </message>
+    <message>
+        <source>data calls</source>
+        <translation>chamadas de dados</translation>
+    </message>
+    <message>
+        <source>data sessions</source>
+        <translation>sessões de dados</translation>
+    </message>
+    <message>
+        <source>advice of charge</source>
+        <translation>aviso de tarifação</translation>
+    </message>
+    <message>
+        <source>PIN2</source>
+        <translation>PIN2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>nada</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>ligado</translation>
+    </message>
+    <message>
+        <source>, %1 B sent, %2 B received</source>
+        <translation>, %1 B enviados, %2 B recebidos</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>não ligado</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Dados</translation>
+    </message>
+    <message>
+        <source>Charged by</source>
+        <translation>Cobrado por</translation>
+    </message>
+    <message>
+        <source>Recorded by</source>
+        <translation>Registado por</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Não disponível</translation>
+    </message>
+    <message>
+        <source>%1, through %2</source>
+        <translation>%1, através de %2</translation>
+    </message>
+    <message>
+        <source>the modem's advice of charge</source>
+        <translation>o aviso de tarifação do modem</translation>
+    </message>
+    <message>
+        <source>the tariff of this telephone</source>
+        <translation>o tarifário deste telefone</translation>
+    </message>
+    <message>
+        <source>this window</source>
+        <translation>esta janela</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>outro processo</translation>
+    </message>
+    <message>
+        <source>nobody: the call log cannot be written</source>
+        <translation>ninguém: não é possível escrever no registo de chamadas</translation>
+    </message>
+</context>
+<context>
+    <name>host::OpeningProgress</name>
+    <message>
+        <source>Opening the telephone</source>
+        <translation>A abrir o telefone</translation>
+    </message>
+    <message>
+        <source>What is being done</source>
+        <translation>O que está a ser feito</translation>
+    </message>
+    <message>
+        <source>How far it is</source>
+        <translation>Até onde chegou</translation>
+    </message>
+</context>
+<context>
+    <name>host::PacketSection</name>
+    <message>
+        <source>%1 B sent, %2 B received</source>
+        <translation>%1 B enviados, %2 B recebidos</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vazia</translation>
+    </message>
+    <message>
+        <source>%1 (id %2), %3
+%4</source>
+        <translation>%1 (id %2), %3
+%4</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>não disponível</translation>
+    </message>
+    <message>
+        <source>%1, %2 B
+%3</source>
+        <translation>%1, %2 B
+%3</translation>
+    </message>
+    <message>
+        <source>Packet data</source>
+        <translation>Dados por pacotes</translation>
+    </message>
+    <message>
+        <source>Access point name</source>
+        <translation>Nome do ponto de acesso</translation>
+    </message>
+    <message>
+        <source>1 to 101 characters</source>
+        <translation>1 a 101 caracteres</translation>
+    </message>
+    <message>
+        <source>Bytes sent each second</source>
+        <translation>Bytes enviados em cada segundo</translation>
+    </message>
+    <message>
+        <source>Bytes received each second</source>
+        <translation>Bytes recebidos em cada segundo</translation>
+    </message>
+    <message>
+        <source>&amp;Start session</source>
+        <translation>&amp;Iniciar sessão</translation>
+    </message>
+    <message>
+        <source>Begins a session, which counts bytes and time</source>
+        <translation>Começa uma sessão, que conta bytes e tempo</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p session</source>
+        <translation>&amp;Parar sessão</translation>
+    </message>
+    <message>
+        <source>Ends the session</source>
+        <translation>Termina a sessão</translation>
+    </message>
+    <message>
+        <source>Why the session was not changed</source>
+        <translation>Por que a sessão não foi alterada</translation>
+    </message>
+    <message>
+        <source>All sessions</source>
+        <translation>Todas as sessões</translation>
+    </message>
+    <message>
+        <source>Bytes sent a second</source>
+        <translation>Bytes enviados por segundo</translation>
+    </message>
+    <message>
+        <source>Bytes received a second</source>
+        <translation>Bytes recebidos por segundo</translation>
+    </message>
+    <message>
+        <source>Session %1</source>
+        <translation>Sessão %1</translation>
+    </message>
+    <message>
+        <source>Session %1:</source>
+        <translation>Sessão %1:</translation>
+    </message>
+    <message>
+        <source>All sessions:</source>
+        <translation>Todas as sessões:</translation>
+    </message>
+    <message>
+        <source>S&amp;end update</source>
+        <translation>&amp;Enviar atualização</translation>
+    </message>
+    <message>
+        <source>Tells the screens that the figures have changed</source>
+        <translation>Diz aos ecrãs que os valores mudaram</translation>
+    </message>
+</context>
+<context>
+    <name>host::Panel</name>
+    <message>
+        <source>Sides of the telephone</source>
+        <translation>Lados do telefone</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>Chamadas</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Tarifação</translation>
+    </message>
+    <message>
+        <source>SIM</source>
+        <translation>SIM</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Dados</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Recentes</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>Falhas</translation>
+    </message>
+</context>
+<context>
+    <name>host::PhoneWindow</name>
+    <message>
+        <source>Recent Calls</source>
+        <translation>Chamadas recentes</translation>
+    </message>
+</context>
+<context>
+    <name>host::Pin2Section</name>
+    <message>
+        <source>Blocked for good.</source>
+        <translation>Bloqueado para sempre.</translation>
+    </message>
+    <message>
+        <source>Blocked: only PUK2 helps.</source>
+        <translation>Bloqueado: só o PUK2 ajuda.</translation>
+    </message>
+    <message>
+        <source>Off: nobody is asked for it.</source>
+        <translation>Desligado: não é pedido a ninguém.</translation>
+    </message>
+    <message>
+        <source>On, and entered.</source>
+        <translation>Ligado, e introduzido.</translation>
+    </message>
+    <message>
+        <source>On, not entered.</source>
+        <translation>Ligado, não introduzido.</translation>
+    </message>
+    <message>
+        <source>Tries left: PIN2 %1, PUK2 %2.</source>
+        <translation>Tentativas restantes: PIN2 %1, PUK2 %2.</translation>
+    </message>
+    <message>
+        <source>PIN2</source>
+        <translation>PIN2</translation>
+    </message>
+    <message>
+        <source>State of PIN2</source>
+        <translation>Estado do PIN2</translation>
+    </message>
+    <message>
+        <source>PIN2 is on</source>
+        <translation>PIN2 ligado</translation>
+    </message>
+    <message>
+        <source>Four to eight digits</source>
+        <translation>De quatro a oito dígitos</translation>
+    </message>
+    <message>
+        <source>PUK2</source>
+        <translation>PUK2</translation>
+    </message>
+    <message>
+        <source>Eight digits</source>
+        <translation>Oito dígitos</translation>
+    </message>
+    <message>
+        <source>New PIN2</source>
+        <translation>Novo PIN2</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>The phone asks for it where a file is written with PIN2</source>
+        <translation>O telefone pede-o quando um ficheiro se escreve com o PIN2</translation>
+    </message>
+    <message>
+        <source>&amp;Switch off and on</source>
+        <translation>&amp;Desligar e ligar</translation>
+    </message>
+    <message>
+        <source>Forgets that PIN2 has been entered</source>
+        <translation>Esquece que o PIN2 foi introduzido</translation>
+    </message>
+    <message>
+        <source>&amp;Enter</source>
+        <translation>&amp;Introduzir</translation>
+    </message>
+    <message>
+        <source>Presents PIN2 to the card, as the phone does; a wrong one costs a try</source>
+        <translation>Apresenta o PIN2 ao cartão, como o telefone; um errado custa uma tentativa</translation>
+    </message>
+    <message>
+        <source>Un&amp;block</source>
+        <translation>Des&amp;bloquear</translation>
+    </message>
+    <message>
+        <source>Sets the new PIN2 and gives all tries back</source>
+        <translation>Fixa o novo PIN2 e devolve todas as tentativas</translation>
+    </message>
+    <message>
+        <source>PIN2 has been entered.</source>
+        <translation>O PIN2 foi introduzido.</translation>
+    </message>
+    <message>
+        <source>Wrong PIN2.</source>
+        <translation>PIN2 errado.</translation>
+    </message>
+    <message>
+        <source>The new PIN2 counts.</source>
+        <translation>O novo PIN2 está em vigor.</translation>
+    </message>
+    <message>
+        <source>Wrong PUK2.</source>
+        <translation>PUK2 errado.</translation>
+    </message>
+</context>
+<context>
+    <name>host::RecentCallsSection</name>
+    <message>
+        <source>Recent calls</source>
+        <translation>Chamadas recentes</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen call; the totals stay</source>
+        <translation>Elimina a chamada escolhida; os totais mantêm-se</translation>
+    </message>
+    <message>
+        <source>Delete a&amp;ll ...</source>
+        <translation>Eliminar &amp;todas ...</translation>
+    </message>
+    <message>
+        <source>Deletes every call that is over; the totals stay</source>
+        <translation>Elimina todas as chamadas terminadas; os totais mantêm-se</translation>
+    </message>
+    <message>
+        <source>Why the calls were not read or deleted</source>
+        <translation>Por que as chamadas não foram lidas ou eliminadas</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Não é possível ler o registo de chamadas.</translation>
+    </message>
+    <message>
+        <source>Delete all calls that are over? The totals stay as they are.</source>
+        <translation>Eliminar todas as chamadas terminadas? Os totais ficam como estão.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>Eliminar &amp;todas</translation>
+    </message>
+</context>
+<context>
+    <name>host::SimFilesSection</name>
+    <message>
+        <source>%1  =  %2 units</source>
+        <translation>%1  =  %2 unidades</translation>
+    </message>
+    <message>
+        <source>  (newest)</source>
+        <translation>  (o mais recente)</translation>
+    </message>
+    <message>
+        <source>%1  =  no limit</source>
+        <translation>%1  =  sem limite</translation>
+    </message>
+    <message>
+        <source>no currency</source>
+        <translation>sem moeda</translation>
+    </message>
+    <message>
+        <source>%1  =  %2, %3 a unit</source>
+        <translation>%1  =  %2, %3 por unidade</translation>
+    </message>
+    <message>
+        <source>call meter</source>
+        <translation>contador de chamadas</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>máximo</translation>
+    </message>
+    <message>
+        <source>price</source>
+        <translation>preço</translation>
+    </message>
+    <message>
+        <source>freely</source>
+        <translation>livremente</translation>
+    </message>
+    <message>
+        <source>with PIN2</source>
+        <translation>com PIN2</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>nunca</translation>
+    </message>
+    <message>
+        <source>Files of the SIM card</source>
+        <translation>Ficheiros do cartão SIM</translation>
+    </message>
+    <message>
+        <source>Why the SIM card was not changed</source>
+        <translation>Por que o cartão SIM não foi alterado</translation>
+    </message>
+    <message>
+        <source>written: %1</source>
+        <translation>escrita: %1</translation>
+    </message>
+    <message>
+        <source>Who may write %1</source>
+        <translation>Quem pode escrever: %1</translation>
+    </message>
+</context>
+<context>
+    <name>host::StateSection</name>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>In memory; gone when the window closes.</source>
+        <translation>Na memória; perde-se quando a janela fecha.</translation>
+    </message>
+    <message>
+        <source>Kept in %1</source>
+        <translation>Guardado em %1</translation>
+    </message>
+    <message>
+        <source>Where the state is kept</source>
+        <translation>Onde o estado é guardado</translation>
+    </message>
+</context>
+<context>
+    <name>host::StatusText</name>
+    <message>
+        <source>the number is not one that can be dialed</source>
+        <translation>o número não pode ser marcado</translation>
+    </message>
+    <message>
+        <source>the line is in another state</source>
+        <translation>a linha está noutro estado</translation>
+    </message>
+    <message>
+        <source>not allowed now: nothing more may be charged</source>
+        <translation>agora não é permitido: nada mais pode ser cobrado</translation>
+    </message>
+    <message>
+        <source>an amount of at least one unit, and not more than the account holds</source>
+        <translation>um montante de pelo menos uma unidade, e não mais do que cabe na conta</translation>
+    </message>
+    <message>
+        <source>not possible now</source>
+        <translation>agora não é possível</translation>
+    </message>
+    <message>
+        <source>not allowed</source>
+        <translation>não é permitido</translation>
+    </message>
+    <message>
+        <source>no price, or a currency of more than three characters</source>
+        <translation>nenhum preço, ou uma moeda com mais de três caracteres</translation>
+    </message>
+    <message>
+        <source>the SIM card refuses</source>
+        <translation>o cartão SIM recusa</translation>
+    </message>
+    <message>
+        <source>an access point name has 1 to 101 Latin-1 characters</source>
+        <translation>um ponto de acesso tem 1 a 101 caracteres Latin-1</translation>
+    </message>
+    <message>
+        <source>a session is running, or none is</source>
+        <translation>há uma sessão em curso, ou não há nenhuma</translation>
+    </message>
+    <message>
+        <source>PUK2 has eight digits, a PIN2 four to eight</source>
+        <translation>o PUK2 tem oito dígitos, um PIN2 de quatro a oito</translation>
+    </message>
+    <message>
+        <source>PUK2 is blocked, too</source>
+        <translation>o PUK2 também está bloqueado</translation>
+    </message>
+    <message>
+        <source>a PIN2 has four to eight digits</source>
+        <translation>um PIN2 tem de quatro a oito dígitos</translation>
+    </message>
+    <message>
+        <source>PIN2 is blocked</source>
+        <translation>o PIN2 está bloqueado</translation>
+    </message>
+    <message>
+        <source>the call is not kept any more</source>
+        <translation>a chamada já não está guardada</translation>
+    </message>
+    <message>
+        <source>the call is still running</source>
+        <translation>a chamada ainda está em curso</translation>
+    </message>
+    <message>
+        <source>there is no such rule</source>
+        <translation>não existe tal regra</translation>
+    </message>
+    <message>
+        <source>the network knows no such tariff</source>
+        <translation>a rede não conhece tal tarifário</translation>
+    </message>
+    <message>
+        <source>the telephone cannot do this</source>
+        <translation>o telefone não consegue fazê-lo</translation>
+    </message>
+    <message>
+        <source>the call log cannot be written</source>
+        <translation>não é possível escrever no registo de chamadas</translation>
+    </message>
+    <message>
+        <source>another process records the calls</source>
+        <translation>outro processo regista as chamadas</translation>
+    </message>
+    <message>
+        <source>Not done: %1.</source>
+        <translation>Não efetuado: %1.</translation>
+    </message>
+    <message>
+        <source>Not done: the telephone answers %1.</source>
+        <translation>Não efetuado: o telefone responde %1.</translation>
+    </message>
+    <message>
+        <source>a value is out of range</source>
+        <translation>um valor está fora dos limites</translation>
+    </message>
+    <message>
+        <source>it is not possible now</source>
+        <translation>agora não é possível</translation>
+    </message>
+    <message>
+        <source>the SIM or the network does not allow it</source>
+        <translation>o SIM ou a rede não o permite</translation>
+    </message>
+</context>
+<context>
+    <name>host::TariffSection</name>
+    <message>
+        <source>Free</source>
+        <translation>Grátis</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Unidades</translation>
+    </message>
+    <message>
+        <source>for each</source>
+        <translation>a cada</translation>
+    </message>
+    <message>
+        <source>at the start</source>
+        <translation>no início</translation>
+    </message>
+    <message>
+        <source>Dialed calls</source>
+        <translation>Chamadas efetuadas</translation>
+    </message>
+    <message>
+        <source>Answered calls</source>
+        <translation>Chamadas atendidas</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Tariff</source>
+        <translation>Tarifário</translation>
+    </message>
+    <message>
+        <source>Why the tariff was not set</source>
+        <translation>Por que o tarifário não foi ajustado</translation>
+    </message>
+    <message>
+        <source>%1 are free</source>
+        <translation>%1: grátis</translation>
+    </message>
+    <message>
+        <source>Nothing is charged for them</source>
+        <translation>Nada é cobrado por elas</translation>
+    </message>
+    <message>
+        <source>Units for each interval</source>
+        <translation>Unidades por intervalo</translation>
+    </message>
+    <message>
+        <source>Interval in seconds</source>
+        <translation>Intervalo em segundos</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Units when the call is connected</source>
+        <translation>Unidades quando a chamada é ligada</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitNotice</name>
+    <message>
+        <source>Please wait ...</source>
+        <translation>Aguarde, por favor ...</translation>
+    </message>
+</context>
+</TS>
