@@ -3294,7 +3294,7 @@
     </message>
     <message>
         <source>&amp;Switch off and on</source>
-        <translation>Aus- und &amp;einschalten</translation>
+        <translation>Aus und &amp;ein</translation>
     </message>
     <message>
         <source>Forgets that PIN2 has been entered</source>
@@ -3396,7 +3396,7 @@
     </message>
     <message>
         <source>call meter</source>
-        <translation>Anrufzähler</translation>
+        <translation>Zähler</translation>
     </message>
     <message>
         <source>maximum</source>

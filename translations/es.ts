@@ -2717,11 +2717,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Llamadas realizadas</translation>
+        <translation>Realizadas</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Llamadas recibidas</translation>
+        <translation>Recibidas</translation>
     </message>
     <message>
         <source>Data calls</source>
@@ -3204,7 +3204,7 @@
     </message>
     <message>
         <source>Charging</source>
-        <translation>Tarificación</translation>
+        <translation>Cobro</translation>
     </message>
     <message>
         <source>SIM</source>
@@ -3396,7 +3396,7 @@
     </message>
     <message>
         <source>call meter</source>
-        <translation>contador de llamadas</translation>
+        <translation>contador</translation>
     </message>
     <message>
         <source>maximum</source>
@@ -3408,7 +3408,7 @@
     </message>
     <message>
         <source>freely</source>
-        <translation>libremente</translation>
+        <translation>libre</translation>
     </message>
     <message>
         <source>with PIN2</source>
@@ -3581,11 +3581,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Llamadas realizadas</translation>
+        <translation>Realizadas</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Llamadas recibidas</translation>
+        <translation>Recibidas</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -3204,7 +3204,7 @@
     </message>
     <message>
         <source>Charging</source>
-        <translation>Taxation</translation>
+        <translation>Coûts</translation>
     </message>
     <message>
         <source>SIM</source>
@@ -3294,7 +3294,7 @@
     </message>
     <message>
         <source>&amp;Switch off and on</source>
-        <translation>Éteindre et &amp;rallumer</translation>
+        <translation>Éteindre, &amp;rallumer</translation>
     </message>
     <message>
         <source>Forgets that PIN2 has been entered</source>
@@ -3396,7 +3396,7 @@
     </message>
     <message>
         <source>call meter</source>
-        <translation>compteur d'appels</translation>
+        <translation>compteur</translation>
     </message>
     <message>
         <source>maximum</source>
@@ -3408,7 +3408,7 @@
     </message>
     <message>
         <source>freely</source>
-        <translation>librement</translation>
+        <translation>libre</translation>
     </message>
     <message>
         <source>with PIN2</source>

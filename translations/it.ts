@@ -3294,7 +3294,7 @@
     </message>
     <message>
         <source>&amp;Switch off and on</source>
-        <translation>&amp;Spegni e riaccendi</translation>
+        <translation>&amp;Spegni e accendi</translation>
     </message>
     <message>
         <source>Forgets that PIN2 has been entered</source>
@@ -3396,7 +3396,7 @@
     </message>
     <message>
         <source>call meter</source>
-        <translation>contatore delle chiamate</translation>
+        <translation>contatore</translation>
     </message>
     <message>
         <source>maximum</source>
@@ -3408,7 +3408,7 @@
     </message>
     <message>
         <source>freely</source>
-        <translation>liberamente</translation>
+        <translation>libera</translation>
     </message>
     <message>
         <source>with PIN2</source>

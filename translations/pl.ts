@@ -2658,7 +2658,7 @@
     <name>host::FailuresSection</name>
     <message>
         <source>Failures</source>
-        <translation>Usterki</translation>
+        <translation>Błędy</translation>
     </message>
     <message>
         <source>Operation</source>
@@ -2717,11 +2717,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Połączenia wybierane</translation>
+        <translation>Wybierane</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Połączenia odebrane</translation>
+        <translation>Odebrane</translation>
     </message>
     <message>
         <source>Data calls</source>
@@ -3200,7 +3200,7 @@
     </message>
     <message>
         <source>Calls</source>
-        <translation>Połączenia</translation>
+        <translation>Rozmowy</translation>
     </message>
     <message>
         <source>Charging</source>
@@ -3216,11 +3216,11 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>Ostatnie</translation>
+        <translation>Rejestr</translation>
     </message>
     <message>
         <source>Failures</source>
-        <translation>Usterki</translation>
+        <translation>Błędy</translation>
     </message>
 </context>
 <context>
@@ -3408,7 +3408,7 @@
     </message>
     <message>
         <source>freely</source>
-        <translation>swobodnie</translation>
+        <translation>dowolny</translation>
     </message>
     <message>
         <source>with PIN2</source>
@@ -3581,11 +3581,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Połączenia wybierane</translation>
+        <translation>Wybierane</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Połączenia odebrane</translation>
+        <translation>Odebrane</translation>
     </message>
     <message>
         <source>%1: %2</source>

@@ -2658,7 +2658,7 @@
     <name>host::FailuresSection</name>
     <message>
         <source>Failures</source>
-        <translation>Falhas</translation>
+        <translation>Erros</translation>
     </message>
     <message>
         <source>Operation</source>
@@ -2717,11 +2717,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Chamadas efetuadas</translation>
+        <translation>Efetuadas</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Chamadas atendidas</translation>
+        <translation>Atendidas</translation>
     </message>
     <message>
         <source>Data calls</source>
@@ -3204,7 +3204,7 @@
     </message>
     <message>
         <source>Charging</source>
-        <translation>Tarifação</translation>
+        <translation>Preços</translation>
     </message>
     <message>
         <source>SIM</source>
@@ -3216,11 +3216,11 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>Recentes</translation>
+        <translation>Últimas</translation>
     </message>
     <message>
         <source>Failures</source>
-        <translation>Falhas</translation>
+        <translation>Erros</translation>
     </message>
 </context>
 <context>
@@ -3396,7 +3396,7 @@
     </message>
     <message>
         <source>call meter</source>
-        <translation>contador de chamadas</translation>
+        <translation>contador</translation>
     </message>
     <message>
         <source>maximum</source>
@@ -3408,7 +3408,7 @@
     </message>
     <message>
         <source>freely</source>
-        <translation>livremente</translation>
+        <translation>livre</translation>
     </message>
     <message>
         <source>with PIN2</source>
@@ -3581,11 +3581,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Chamadas efetuadas</translation>
+        <translation>Efetuadas</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Chamadas atendidas</translation>
+        <translation>Atendidas</translation>
     </message>
     <message>
         <source>%1: %2</source>

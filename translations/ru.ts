@@ -2717,11 +2717,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Исходящие вызовы</translation>
+        <translation>Исходящие</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Входящие вызовы</translation>
+        <translation>Входящие</translation>
     </message>
     <message>
         <source>Data calls</source>
@@ -3200,11 +3200,11 @@
     </message>
     <message>
         <source>Calls</source>
-        <translation>Вызовы</translation>
+        <translation>Звонки</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation>Тарификация</translation>
+        <translation>Цены</translation>
     </message>
     <message>
         <source>SIM</source>
@@ -3216,7 +3216,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>Последние</translation>
+        <translation>Журнал</translation>
     </message>
     <message>
         <source>Failures</source>
@@ -3581,11 +3581,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Исходящие вызовы</translation>
+        <translation>Исходящие</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Входящие вызовы</translation>
+        <translation>Входящие</translation>
     </message>
     <message>
         <source>%1: %2</source>

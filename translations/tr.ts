@@ -2717,11 +2717,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Yapılan aramalar</translation>
+        <translation>Yapılan</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Yanıtlanan aramalar</translation>
+        <translation>Yanıtlanan</translation>
     </message>
     <message>
         <source>Data calls</source>
@@ -3204,7 +3204,7 @@
     </message>
     <message>
         <source>Charging</source>
-        <translation>Ücretlendirme</translation>
+        <translation>Ücret</translation>
     </message>
     <message>
         <source>SIM</source>
@@ -3216,7 +3216,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>Son aramalar</translation>
+        <translation>Son</translation>
     </message>
     <message>
         <source>Failures</source>
@@ -3408,7 +3408,7 @@
     </message>
     <message>
         <source>freely</source>
-        <translation>serbestçe</translation>
+        <translation>serbest</translation>
     </message>
     <message>
         <source>with PIN2</source>
@@ -3581,11 +3581,11 @@
     </message>
     <message>
         <source>Dialed calls</source>
-        <translation>Yapılan aramalar</translation>
+        <translation>Yapılan</translation>
     </message>
     <message>
         <source>Answered calls</source>
-        <translation>Yanıtlanan aramalar</translation>
+        <translation>Yanıtlanan</translation>
     </message>
     <message>
         <source>%1: %2</source>

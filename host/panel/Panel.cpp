@@ -65,8 +65,8 @@ Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
-    setMinimumWidth(usualWidth);
     setWidget(content);
+    makeRoom();
     connect(&line, &Line::changed, this, &Panel::refresh);
     connect(&tick, &QTimer::timeout, this, &Panel::refresh);
 }
@@ -127,6 +127,14 @@ void Panel::showPage(int index)
         if (page.widget)
             page.widget->setVisible(page.widget == shown);
     }
+    if (widget())
+        makeRoom();
+}
+
+// Nothing leads to what would be cut off at the side.
+void Panel::makeRoom()
+{
+    setMinimumWidth(sizeHint().width());
 }
 
 void Panel::choosePage(int index)

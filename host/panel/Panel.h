@@ -62,6 +62,7 @@ private:
     void addPages(const Setup &setup);
     void addPage(const QString &title, MakeSections makeSections);
     void showPage(int index);
+    void makeRoom();
     QWidget *makePage(const Page &page);
     PanelSection *keep(PanelSection *section);
     void refresh();

@@ -1,0 +1,3634 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>PHONE_UI_RecentCallCostSetupView</name>
+    <message>
+        <source>TXT_RID_SETTING_A_CREDIT_LIMIT</source>
+        <comment>Credit Limit</comment>
+        <translation>حد الرصيد</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
+        <comment>Currency Type</comment>
+        <translation>نوع العملة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>All costs have been reset to 0.00 units.</comment>
+        <translation>تم تصفير جميع التكاليف إلى 0.00 وحدة.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ALL_CALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>All call costs have been reset to 0.00 units.</comment>
+        <translation>تم تصفير تكاليف كل المكالمات إلى 0.00 وحدة.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_DIALED_CALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>Dialed call costs have been reset to 0.00 units.</comment>
+        <translation>تم تصفير تكاليف المكالمات الصادرة إلى 0.00 وحدة.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ANSWERED_CALL_COSTS_RESET_TO_000_UNITS</source>
+        <comment>Answered call costs have been reset to 0.00 units.</comment>
+        <translation>تم تصفير تكاليف المكالمات المستلمة إلى 0.00 وحدة.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_B_ON</source>
+        <comment>On</comment>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_B_OFF</source>
+        <comment>Off</comment>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ON</source>
+        <comment>On</comment>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_OFF</source>
+        <comment>Off</comment>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CUSTOM</source>
+        <comment>Custom</comment>
+        <translation>مخصصة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_SAVE</source>
+        <comment>Save</comment>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_RESET_CALLS</source>
+        <comment>Reset Calls</comment>
+        <translation>تصفير المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CURRENCY</source>
+        <comment>Currency</comment>
+        <translation>العملة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CHOOSE_TYPE</source>
+        <comment>Choose Type</comment>
+        <translation>اختيار النوع</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CURRENCY_TYPE</source>
+        <comment>Currency Type</comment>
+        <translation>نوع العملة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_COST_PER_MINUTE</source>
+        <comment>Cost Per Minute</comment>
+        <translation>سعر الدقيقة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ADJUST_CREDIT_LIMIT</source>
+        <comment>Adjust Credit Limit</comment>
+        <translation>ضبط حد الرصيد</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_COST_SETUP</source>
+        <comment>Call-Cost Setup</comment>
+        <translation>إعداد التكلفة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>رجوع</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UNITED_ARAB_EMIRATES_DIRHAM_AED</source>
+        <comment>UNITED ARAB EMIRATES  DIRHAM  (AED)</comment>
+        <translation>الإمارات العربية المتحدة: درهم (AED)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AFGHANISTAN_AFGHANI_AFA</source>
+        <comment>AFGHANISTAN  AFGHANI  (AFA)</comment>
+        <translation>أفغانستان: أفغاني (AFA)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ALBANIA_LEK_ALL</source>
+        <comment>ALBANIA  LEK  (ALL)</comment>
+        <translation>ألبانيا: ليك (ALL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARMENIA_DRAM_AMD</source>
+        <comment>ARMENIA  DRAM  (AMD)</comment>
+        <translation>أرمينيا: درام (AMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NETHERLANDS_ANTILLES_GUILDER_ANG</source>
+        <comment>NETHERLANDS ANTILLES  GUILDER  (ANG)</comment>
+        <translation>جزر الأنتيل الهولندية: غيلدر (ANG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANGOLA_NEW_KWANZA_AON</source>
+        <comment>ANGOLA  NEW KWANZA  (AON)</comment>
+        <translation>أنغولا: كوانزا جديدة (AON)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARGENTINA_PESO_ARS</source>
+        <comment>ARGENTINA  PESO  (ARS)</comment>
+        <translation>الأرجنتين: بيزو (ARS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AUSTRIA_SCHILLING_ATS</source>
+        <comment>AUSTRIA  SCHILLING  (ATS)</comment>
+        <translation>النمسا: شلن (ATS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AUSTRALIA_KIRIBATI_DOLLAR_AUD</source>
+        <comment>AUSTRALIA KIRIBATI  DOLLAR  (AUD)</comment>
+        <translation>أستراليا، كيريباتي: دولار (AUD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARUBA_FLORIN_AWG</source>
+        <comment>ARUBA  FLORIN  (AWG)</comment>
+        <translation>أروبا: فلورن (AWG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AZERBAIJAN_MANAT_AZM</source>
+        <comment>AZERBAIJAN  MANAT  (AZM)</comment>
+        <translation>أذربيجان: مانات (AZM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BARBADOS_DOLLAR_BBD</source>
+        <comment>BARBADOS  DOLLAR  (BBD)</comment>
+        <translation>بربادوس: دولار (BBD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BANGLADESH_TAKA_BDT</source>
+        <comment>BANGLADESH  TAKA  (BDT)</comment>
+        <translation>بنغلاديش: تاكا (BDT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BELGIUM_FRANC_BEF</source>
+        <comment>BELGIUM  FRANC  (BEF)</comment>
+        <translation>بلجيكا: فرنك (BEF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BULGARIA_LEW_BGN</source>
+        <comment>BULGARIA  LEW  (BGN)</comment>
+        <translation>بلغاريا: ليف (BGN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BAHRAIN_DINAR_BHD</source>
+        <comment>BAHRAIN  DINAR  (BHD)</comment>
+        <translation>البحرين: دينار (BHD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BURUNDI_FRANC_BIF</source>
+        <comment>BURUNDI  FRANC  (BIF)</comment>
+        <translation>بوروندي: فرنك (BIF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BERMUDA_DOLLAR_BMD</source>
+        <comment>BERMUDA  DOLLAR  (BMD)</comment>
+        <translation>برمودا: دولار (BMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BRUNEI_DOLLAR_BND</source>
+        <comment>BRUNEI  DOLLAR  (BND)</comment>
+        <translation>بروناي: دولار (BND)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BOLIVIA_BOLIVIANO_BOB</source>
+        <comment>BOLIVIA  BOLIVIANO  (BOB)</comment>
+        <translation>بوليفيا: بوليفيانو (BOB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BRAZIL_REAL_BRL</source>
+        <comment>BRAZIL  REAL  (BRL)</comment>
+        <translation>البرازيل: ريال (BRL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BAHAMAS_DOLLAR_BSD</source>
+        <comment>BAHAMAS  DOLLAR  (BSD)</comment>
+        <translation>البهاما: دولار (BSD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BHUTAN_NGULTRUM_BTN</source>
+        <comment>BHUTAN  NGULTRUM  (BTN)</comment>
+        <translation>بوتان: نولتوم (BTN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BOTSWANA_PULA_BWP</source>
+        <comment>BOTSWANA  PULA  (BWP)</comment>
+        <translation>بوتسوانا: بولا (BWP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BELORUS_ROUBLE_BYR</source>
+        <comment>BELORUS  ROUBLE  (BYR)</comment>
+        <translation>بيلاروس: روبل (BYR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BELIZE_DOLLAR_BZD</source>
+        <comment>BELIZE  DOLLAR  (BZD)</comment>
+        <translation>بليز: دولار (BZD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CANADA_DOLLAR_CAD</source>
+        <comment>CANADA  DOLLAR  (CAD)</comment>
+        <translation>كندا: دولار (CAD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SWITZERLAND_LIECHTENSTEIN_FRANC_CHF</source>
+        <comment>SWITZERLAND; LIECHTENSTEIN  FRANC  (CHF)</comment>
+        <translation>سويسرا، ليختنشتاين: فرنك (CHF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CHILE_PESO_CLP</source>
+        <comment>CHILE  PESO  (CLP)</comment>
+        <translation>تشيلي: بيزو (CLP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CHINA_RENMINBI_YUAN_CNY</source>
+        <comment>CHINA  RENMINBI ¥UAN  (CNY)</comment>
+        <translation>الصين: يوان رنمينبي (CNY)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COLUMBIA_PESO_COP</source>
+        <comment>COLUMBIA  PESO  (COP)</comment>
+        <translation>كولومبيا: بيزو (COP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COSTA_RICA_COLON_CRC</source>
+        <comment>COSTA RICA  COLÓN  (CRC)</comment>
+        <translation>كوستاريكا: كولون (CRC)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CUBA_PESO_CUP</source>
+        <comment>CUBA  PESO  (CUP)</comment>
+        <translation>كوبا: بيزو (CUP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAPE_VERDE_ESCUDO_CVE</source>
+        <comment>CAPE VERDE  ESCUDO  (CVE)</comment>
+        <translation>الرأس الأخضر: إسكودو (CVE)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CYPRUS_POUND_CYP</source>
+        <comment>CYPRUS  POUND  (CYP)</comment>
+        <translation>قبرص: جنيه (CYP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CZECH_REPUBLIC_KRONER_CZK</source>
+        <comment>CZECH REPUBLIC  KRONER  (CZK)</comment>
+        <translation>التشيك: كورونا (CZK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GERMANY_MARK_DEM</source>
+        <comment>GERMANY  MARK  (DEM)</comment>
+        <translation>ألمانيا: مارك (DEM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DJIBUTI_FRANC_DJF</source>
+        <comment>DJIBUTI  FRANC  (DJF)</comment>
+        <translation>جيبوتي: فرنك (DJF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DENMARK_KRONE_DKK</source>
+        <comment>DENMARK  KRONE  (DKK)</comment>
+        <translation>الدنمارك: كرون (DKK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DOMINICAN_REPUBLIC_PESO_DOP</source>
+        <comment>DOMINICAN REPUBLIC  PESO  (DOP)</comment>
+        <translation>جمهورية الدومينيكان: بيزو (DOP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ALGERIA_DINAR_DZD</source>
+        <comment>ALGERIA  DINAR  (DZD)</comment>
+        <translation>الجزائر: دينار (DZD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ECUADOR_SUCRE_ECS</source>
+        <comment>ECUADOR  SUCRE  (ECS)</comment>
+        <translation>الإكوادور: سوكري (ECS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ESTONIA_KROON_EEK</source>
+        <comment>ESTONIA  KROON  (EEK)</comment>
+        <translation>إستونيا: كرون (EEK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EGYPT_POUND_EGP</source>
+        <comment>EGYPT  POUND  (EGP)</comment>
+        <translation>مصر: جنيه (EGP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SPAIN_ANDORRA_PESETA_ESP</source>
+        <comment>SPAIN ANDORRA  PESETA  (ESP)</comment>
+        <translation>إسبانيا، أندورا: بيزيتا (ESP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ETHIOPIA_BIRR_ETB</source>
+        <comment>ETHIOPIA  BIRR  (ETB)</comment>
+        <translation>إثيوبيا: بر (ETB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FINLAND_MARK_FIM</source>
+        <comment>FINLAND  MARK  (FIM)</comment>
+        <translation>فنلندا: مارك (FIM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FIJI_DOLLAR_FJD</source>
+        <comment>FIJI  DOLLAR  (FJD)</comment>
+        <translation>فيجي: دولار (FJD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FALKLAND_ISLES_POUND_FKP</source>
+        <comment>FALKLAND ISLES  POUND  (FKP)</comment>
+        <translation>جزر فوكلاند: جنيه (FKP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FRANCE_FRANC_FRF</source>
+        <comment>FRANCE  FRANC  (FRF)</comment>
+        <translation>فرنسا: فرنك (FRF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UNITED_KINGDOM_GREAT_BRITAIN_POUND_STERLING_GBP</source>
+        <comment>UNITED KINGDOM (GREAT BRITAIN)  POUND STERLING  (GBP)</comment>
+        <translation>المملكة المتحدة: جنيه إسترليني (GBP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GEORGIA_COUPON_GEK</source>
+        <comment>GEORGIA  COUPON  (GEK)</comment>
+        <translation>جورجيا: كوبون (GEK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GHANA_CEDI_GHC</source>
+        <comment>GHANA  CEDI  (GHC)</comment>
+        <translation>غانا: سيدي (GHC)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GIBRALTAR_POUND_GIP</source>
+        <comment>GIBRALTAR  POUND  (GIP)</comment>
+        <translation>جبل طارق: جنيه (GIP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GAMBIA_DALASI_GMD</source>
+        <comment>GAMBIA  DALASI  (GMD)</comment>
+        <translation>غامبيا: دالاسي (GMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUINEA_FRANC_GNF</source>
+        <comment>GUINEA  FRANC  (GNF)</comment>
+        <translation>غينيا: فرنك (GNF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GREECE_DRACHMA_GRD</source>
+        <comment>GREECE  DRACHMA  (GRD)</comment>
+        <translation>اليونان: دراخما (GRD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUATEMALA_QUETZAL_GTQ</source>
+        <comment>GUATEMALA  QUETZAL  (GTQ)</comment>
+        <translation>غواتيمالا: كتزال (GTQ)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUINEA_BISSAU_PESO_GWP</source>
+        <comment>GUINEA-BISSAU  PESO  (GWP)</comment>
+        <translation>غينيا بيساو: بيزو (GWP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GUYANA_DOLLAR_GYD</source>
+        <comment>GUYANA  DOLLAR  (GYD)</comment>
+        <translation>غيانا: دولار (GYD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HONG_KONG_DOLLAR_HKD</source>
+        <comment>HONG KONG  DOLLAR  (HKD)</comment>
+        <translation>هونغ كونغ: دولار (HKD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HONDURAS_LEMPIRA_HNL</source>
+        <comment>HONDURAS  LEMPIRA  (HNL)</comment>
+        <translation>هندوراس: لمبيرا (HNL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CROATIA_KUNA_HRK</source>
+        <comment>CROATIA  KUNA  (HRK)</comment>
+        <translation>كرواتيا: كونا (HRK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HAITI_GOURDE_HTG</source>
+        <comment>HAITI  GOURDE  (HTG)</comment>
+        <translation>هايتي: غورد (HTG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HUNGARY_FORINT_HUF</source>
+        <comment>HUNGARY  FORINT  (HUF)</comment>
+        <translation>هنغاريا: فورنت (HUF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_INDONESIA_RUPIAH_IDR</source>
+        <comment>INDONESIA  RUPIAH  (IDR)</comment>
+        <translation>إندونيسيا: روبية (IDR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRELAND_PUNT_IEP</source>
+        <comment>IRELAND  PUNT  (IEP)</comment>
+        <translation>أيرلندا: جنيه (IEP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ISRAEL_NEW_SHEKEL_ILS</source>
+        <comment>ISRAEL  NEW SHEKEL  (ILS)</comment>
+        <translation>إسرائيل: شيكل جديد (ILS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_INDIA_BHUTAN_RUPEE_INR</source>
+        <comment>INDIA; BHUTAN  RUPEE  (INR)</comment>
+        <translation>الهند، بوتان: روبية (INR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRAQ_DINAR_IQD</source>
+        <comment>IRAQ  DINAR  (IQD)</comment>
+        <translation>العراق: دينار (IQD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRAN_RIAL_IRR</source>
+        <comment>IRAN  RIAL  (IRR)</comment>
+        <translation>إيران: ريال (IRR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ICELAND_KRONER_ISK</source>
+        <comment>ICELAND  KRONER  (ISK)</comment>
+        <translation>آيسلندا: كرون (ISK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ITALY_LIRA_ITL</source>
+        <comment>ITALY  LIRA  (ITL)</comment>
+        <translation>إيطاليا: ليرة (ITL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JAMAICA_DOLLAR_JMD</source>
+        <comment>JAMAICA  DOLLAR  (JMD)</comment>
+        <translation>جامايكا: دولار (JMD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JORDAN_DINAR_JOD</source>
+        <comment>JORDAN  DINAR  (JOD)</comment>
+        <translation>الأردن: دينار (JOD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JAPAN_YEN_JPY</source>
+        <comment>JAPAN  YEN  (JPY)</comment>
+        <translation>اليابان: ين (JPY)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KENYA_SHILLING_KES</source>
+        <comment>KENYA  SHILLING  (KES)</comment>
+        <translation>كينيا: شلن (KES)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KIRGIZISTAN_SOM_KGS</source>
+        <comment>KIRGIZISTAN  SOM  (KGS)</comment>
+        <translation>قيرغيزستان: سوم (KGS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAMBODIA_RIEL_KHR</source>
+        <comment>CAMBODIA  RIEL  (KHR)</comment>
+        <translation>كمبوديا: رييل (KHR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COMORES_FRANC_KMF</source>
+        <comment>COMORES  FRANC  (KMF)</comment>
+        <translation>جزر القمر: فرنك (KMF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KOREA_DEMOCRATIC_PEOPLES_REPUBLIC_WON_KPW</source>
+        <comment>KOREA, DEMOCRATIC PEOPLE'S REPUBLIC  WON  (KPW)</comment>
+        <translation>كوريا الشمالية: وون (KPW)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KOREA_REPUBLIC_SOUTH_KOREA_WON_KRW</source>
+        <comment>KOREA, REPUBLIC (SOUTH KOREA)  WON  (KRW)</comment>
+        <translation>كوريا الجنوبية: وون (KRW)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KUWAIT_DINAR_KWD</source>
+        <comment>KUWAIT  DINAR  (KWD)</comment>
+        <translation>الكويت: دينار (KWD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAYMAN_ISLANDS_DOLLAR_KYD</source>
+        <comment>CAYMAN ISLANDS  DOLLAR  (KYD)</comment>
+        <translation>جزر كايمان: دولار (KYD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KAZAKHSTAN_TENGE_KZT</source>
+        <comment>KAZAKHSTAN  TENGE  (KZT)</comment>
+        <translation>كازاخستان: تنغي (KZT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LAOS_KIP_LAK</source>
+        <comment>LAOS  KIP  (LAK)</comment>
+        <translation>لاوس: كيب (LAK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LEBANON_POUND_LBP</source>
+        <comment>LEBANON  POUND  (LBP)</comment>
+        <translation>لبنان: جنيه (LBP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SRI_LANKA_RUPEE_LKR</source>
+        <comment>SRI LANKA  RUPEE  (LKR)</comment>
+        <translation>سريلانكا: روبية (LKR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LIBERIA_DOLLAR_LRD</source>
+        <comment>LIBERIA  DOLLAR  (LRD)</comment>
+        <translation>ليبيريا: دولار (LRD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LESOTHO_LOTI_PL_MALOTI_LSL</source>
+        <comment>LESOTHO  LOTI (Pl.: MALOTI)  (LSL)</comment>
+        <translation>ليسوتو: لوتي (LSL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LITHUANIA_LITAS_LTL</source>
+        <comment>LITHUANIA  LITAS  (LTL)</comment>
+        <translation>ليتوانيا: ليتاس (LTL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LUXEMBOURG_FRANC_LUF</source>
+        <comment>LUXEMBOURG  FRANC  (LUF)</comment>
+        <translation>لوكسمبورغ: فرنك (LUF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LATVIA_LAT_LVL</source>
+        <comment>LATVIA  LAT  (LVL)</comment>
+        <translation>لاتفيا: لاتس (LVL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LIBYA_DINAR_LYD</source>
+        <comment>LIBYA  DINAR  (LYD)</comment>
+        <translation>ليبيا: دينار (LYD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAROC_DIRHAM_MAD</source>
+        <comment>MAROC  DIRHAM  (MAD)</comment>
+        <translation>المغرب: درهم (MAD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MOLDAVIA_LEU_MDL</source>
+        <comment>MOLDAVIA  LEU  (MDL)</comment>
+        <translation>مولدوفا: ليو (MDL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MADAGASCAR_FRANC_MGF</source>
+        <comment>MADAGASCAR  FRANC  (MGF)</comment>
+        <translation>مدغشقر: فرنك (MGF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MACEDONIA_DENAR_MKD</source>
+        <comment>MACEDONIA  DENAR  (MKD)</comment>
+        <translation>مقدونيا: دينار (MKD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MYANMAR_KYAT_MMK</source>
+        <comment>MYANMAR  KYAT  (MMK)</comment>
+        <translation>ميانمار: كيات (MMK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MONGOLIA_TUGRIK_MNT</source>
+        <comment>MONGOLIA  TUGRIK  (MNT)</comment>
+        <translation>منغوليا: توغروغ (MNT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MACAU_PATACA_MOP</source>
+        <comment>MACAU  PATACA  (MOP)</comment>
+        <translation>ماكاو: باتاكا (MOP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAURETANIA_OUGUIYA_MRO</source>
+        <comment>MAURETANIA  OUGUIYA  (MRO)</comment>
+        <translation>موريتانيا: أوقية (MRO)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALTA_LIRA_MTL</source>
+        <comment>MALTA  LIRA  (MTL)</comment>
+        <translation>مالطا: ليرة (MTL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAURITIUS_RUPEE_MUR</source>
+        <comment>MAURITIUS  RUPEE  (MUR)</comment>
+        <translation>موريشيوس: روبية (MUR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALDIVE_ISLES_RUFIYAA_MVR</source>
+        <comment>MALDIVE ISLES  RUFIYAA  (MVR)</comment>
+        <translation>المالديف: روفية (MVR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALAWI_KWACHA_MWK</source>
+        <comment>MALAWI  KWACHA  (MWK)</comment>
+        <translation>ملاوي: كواشا (MWK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MEXICO_NEW_PESO_MXN</source>
+        <comment>MEXICO  NEW PESO  (MXN)</comment>
+        <translation>المكسيك: بيزو جديد (MXN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALAYSIA_RINGGIT_MYR</source>
+        <comment>MALAYSIA  RINGGIT  (MYR)</comment>
+        <translation>ماليزيا: رينغيت (MYR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MOZAMBIQUE_METICAL_MZM</source>
+        <comment>MOZAMBIQUE  METICAL  (MZM)</comment>
+        <translation>موزمبيق: متكال (MZM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NAMIBIA_DOLLAR_NAD</source>
+        <comment>NAMIBIA  DOLLAR  (NAD)</comment>
+        <translation>ناميبيا: دولار (NAD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NIGERIA_NAIRA_NGN</source>
+        <comment>NIGERIA  NAIRA  (NGN)</comment>
+        <translation>نيجيريا: نايرا (NGN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NICARAGUA_GOLD_CORDOBA_NIO</source>
+        <comment>NICARAGUA  GOLD CÓRDOBA  (NIO)</comment>
+        <translation>نيكاراغوا: كوردوبا ذهبي (NIO)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NETHERLANDS_GUILDER_NLG</source>
+        <comment>NETHERLANDS  GUILDER  (NLG)</comment>
+        <translation>هولندا: غيلدر (NLG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NORWAY_KRONA_NOK</source>
+        <comment>NORWAY  KRONA  (NOK)</comment>
+        <translation>النرويج: كرون (NOK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NEPAL_RUPEE_NPW</source>
+        <comment>NEPAL  RUPEE  (NPW)</comment>
+        <translation>نيبال: روبية (NPW)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NEW_ZEALAND_DOLLAR_NZD</source>
+        <comment>NEW ZEALAND  DOLLAR  (NZD)</comment>
+        <translation>نيوزيلندا: دولار (NZD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_OMAN_RIAL_OMR</source>
+        <comment>OMAN  RIAL  (OMR)</comment>
+        <translation>عُمان: ريال (OMR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PANAMA_BALBOA_PAB</source>
+        <comment>PANAMA  BALBOA  (PAB)</comment>
+        <translation>بنما: بالبوا (PAB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PERU_NEW_SOL_PEN</source>
+        <comment>PERU  NEW SOL  (PEN)</comment>
+        <translation>بيرو: سول جديد (PEN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PAPUA_NEW_GUINEA_KINA_PGK</source>
+        <comment>PAPUA NEW GUINEA  KINA  (PGK)</comment>
+        <translation>بابوا غينيا الجديدة: كينا (PGK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PHILIPPINES_PESO_PHP</source>
+        <comment>PHILIPPINES  PESO  (PHP)</comment>
+        <translation>الفلبين: بيزو (PHP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PAKISTAN_RUPEE_PYK</source>
+        <comment>PAKISTAN  RUPEE  (PYK)</comment>
+        <translation>باكستان: روبية (PYK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_POLAND_ZLOTY_PLN</source>
+        <comment>POLAND  ZLOTY  (PLN)</comment>
+        <translation>بولندا: زلوتي (PLN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PORTUGAL_ESCUDO_PTE</source>
+        <comment>PORTUGAL  ESCUDO  (PTE)</comment>
+        <translation>البرتغال: إسكودو (PTE)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PARAGUAY_GUARANI_PYG</source>
+        <comment>PARAGUAY  GUARANI  (PYG)</comment>
+        <translation>باراغواي: غواراني (PYG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_QATAR_RIYAL_QAR</source>
+        <comment>QATAR  RIYAL  (QAR)</comment>
+        <translation>قطر: ريال (QAR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ROMANIA_LEU_ROL</source>
+        <comment>ROMANIA  LEU  (ROL)</comment>
+        <translation>رومانيا: ليو (ROL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_AZERBAIJAN_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION AZERBAIJAN  ROUBLE  (RUB)</comment>
+        <translation>روسيا الاتحادية، أذربيجان: روبل (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_BELARUS_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION BELARUS  ROUBLE  (RUB)</comment>
+        <translation>روسيا الاتحادية، بيلاروس: روبل (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_TADZIKISTAN_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION TADZIKISTAN  ROUBLE  (RUB)</comment>
+        <translation>روسيا الاتحادية، طاجيكستان: روبل (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUSSIAN_FEDERATION_UZBEKISTAN_ROUBLE_RUB</source>
+        <comment>RUSSIAN FEDERATION UZBEKISTAN  ROUBLE  (RUB)</comment>
+        <translation>روسيا الاتحادية، أوزبكستان: روبل (RUB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUANDA_FRANC_RWF</source>
+        <comment>RUANDA  FRANC  (RWF)</comment>
+        <translation>رواندا: فرنك (RWF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAUDI_ARABIA_RIYAL_SAR</source>
+        <comment>SAUDI ARABIA  RIYAL  (SAR)</comment>
+        <translation>السعودية: ريال (SAR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SALOMON_ISLES_DOLLAR_SBD</source>
+        <comment>SALOMON ISLES  DOLLAR  (SBD)</comment>
+        <translation>جزر سليمان: دولار (SBD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SEYCHELLES_RUPEE_SCR</source>
+        <comment>SEYCHELLES  RUPEE  (SCR)</comment>
+        <translation>سيشل: روبية (SCR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SUDAN_DINAR_SDD</source>
+        <comment>SUDAN  DINAR  (SDD)</comment>
+        <translation>السودان: دينار (SDD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SWEDEN_KRONER_SEK</source>
+        <comment>SWEDEN  KRONER  (SEK)</comment>
+        <translation>السويد: كرون (SEK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SINGAPORE_DOLLAR_SGD</source>
+        <comment>SINGAPORE  DOLLAR  (SGD)</comment>
+        <translation>سنغافورة: دولار (SGD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_HELENS_POUND_SHP</source>
+        <comment>ST. HELENS  POUND  (SHP)</comment>
+        <translation>سانت هيلينا: جنيه (SHP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SLOVENIA_TOLAR_SIT</source>
+        <comment>SLOVENIA  TOLAR  (SIT)</comment>
+        <translation>سلوفينيا: تولار (SIT)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SLOVAKIA_KORUNA_SKK</source>
+        <comment>SLOVAKIA  KORUNA  (SKK)</comment>
+        <translation>سلوفاكيا: كورونا (SKK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SIERRA_LEONE_LEONE_SLL</source>
+        <comment>SIERRA LEONE  LEONE  (SLL)</comment>
+        <translation>سيراليون: ليون (SLL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOMALIA_SHILLING_SOS</source>
+        <comment>SOMALIA  SHILLING  (SOS)</comment>
+        <translation>الصومال: شلن (SOS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SURINAM_GUILDER_SRG</source>
+        <comment>SURINAM  GUILDER  (SRG)</comment>
+        <translation>سورينام: غيلدر (SRG)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAO_TOME_PRINCIPE_DOBRA_SRD</source>
+        <comment>SÃO TOMÉ; PRINCIPE  DOBRA  (SRD)</comment>
+        <translation>ساو تومي، برينسيبي: دوبرا (SRD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EL_SALVADOR_COLON_SVC</source>
+        <comment>EL SALVADOR  COLÓN  (SVC)</comment>
+        <translation>السلفادور: كولون (SVC)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SYRIA_POUND_SYP</source>
+        <comment>SYRIA  POUND  (SYP)</comment>
+        <translation>سوريا: جنيه (SYP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SWAZILAND_LILANGENI_PL_EMALANGENI_SZL</source>
+        <comment>SWAZILAND  LILANGENI (Pl.: EMALANGENI)  (SZL)</comment>
+        <translation>سوازيلند: ليلانغيني (SZL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_THAILAND_BAHT_THB</source>
+        <comment>THAILAND  BAHT  (THB)</comment>
+        <translation>تايلاند: بات (THB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TURKMENISTAN_MANAT_TMM</source>
+        <comment>TURKMENISTAN  MANAT  (TMM)</comment>
+        <translation>تركمانستان: مانات (TMM)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TUNESIA_DINAR_TND</source>
+        <comment>TUNESIA  DINAR  (TND)</comment>
+        <translation>تونس: دينار (TND)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TONGA_PAANGA_TOP</source>
+        <comment>TONGA  PA'ANGA  (TOP)</comment>
+        <translation>تونغا: بانغا (TOP)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TURKEY_LIRA_TRL</source>
+        <comment>TURKEY  LIRA  (TRL)</comment>
+        <translation>تركيا: ليرة (TRL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TRINIDAD_TOBAGO_DOLLAR_TTD</source>
+        <comment>TRINIDAD; TOBAGO  DOLLAR  (TTD)</comment>
+        <translation>ترينيداد، توباغو: دولار (TTD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TAIWAN_DOLLAR_TWD</source>
+        <comment>TAIWAN  DOLLAR  (TWD)</comment>
+        <translation>تايوان: دولار (TWD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TANZANIA_SHILLING_TZS</source>
+        <comment>TANZANIA  SHILLING  (TZS)</comment>
+        <translation>تنزانيا: شلن (TZS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UKRAINE_HRYVNIA_UAH</source>
+        <comment>UKRAINE  HRYVNIA  (UAH)</comment>
+        <translation>أوكرانيا: هريفنيا (UAH)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UGANDA_SHILLING_UGX</source>
+        <comment>UGANDA  SHILLING  (UGX)</comment>
+        <translation>أوغندا: شلن (UGX)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_USA_DOLLAR_USD</source>
+        <comment>USA  DOLLAR  (USD)</comment>
+        <translation>الولايات المتحدة: دولار (USD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_URUGUAY_PESO_UYU</source>
+        <comment>URUGUAY  PESO  (UYU)</comment>
+        <translation>أوروغواي: بيزو (UYU)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UZBEKISTAN_SUM_UZS</source>
+        <comment>UZBEKISTAN  SUM  (UZS)</comment>
+        <translation>أوزبكستان: سوم (UZS)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VENEZUELA_BOLIVAR_VEB</source>
+        <comment>VENEZUELA  BOLIVAR  (VEB)</comment>
+        <translation>فنزويلا: بوليفار (VEB)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VIETNAM_DONG_VND</source>
+        <comment>VIETNAM  DONG  (VND)</comment>
+        <translation>فيتنام: دونغ (VND)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VANUATU_VATU_VUV</source>
+        <comment>VANUATU  VATU  (VUV)</comment>
+        <translation>فانواتو: فاتو (VUV)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAMOA_TALA_WST</source>
+        <comment>SAMOA  TALA  (WST)</comment>
+        <translation>ساموا: تالا (WST)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_CHAD_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC CHAD CFA-FRANC  (XAF)</comment>
+        <translation>جمهورية أفريقيا الوسطى، تشاد: فرنك CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_EQUATORIAL_GUINEA_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC EQUATORIAL GUINEA CFA-FRANC  (XAF)</comment>
+        <translation>جمهورية أفريقيا الوسطى، غينيا الاستوائية: فرنك CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_GABUN_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC GABUN CFA-FRANC  (XAF)</comment>
+        <translation>جمهورية أفريقيا الوسطى، الغابون: فرنك CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_CAMEROON_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC CAMEROON CFA-FRANC  (XAF)</comment>
+        <translation>جمهورية أفريقيا الوسطى، الكاميرون: فرنك CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CENTRAL_AFRICAN_REPUBLIC_CONGO_CFA_FRANC_XAF</source>
+        <comment>CENTRAL AFRICAN REPUBLIC CONGO  CFA-FRANC  (XAF)</comment>
+        <translation>جمهورية أفريقيا الوسطى، الكونغو: فرنك CFA (XAF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANGUILLA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ANGUILLA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>أنغويلا: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANTIGUA_AND_BARBUDA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ANTIGUA AND BARBUDA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>أنتيغوا وبربودا: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DOMINICA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>DOMINICA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>دومينيكا: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GRENADA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>GRENADA EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>غرينادا: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MONTSERRAT_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>MONTSERRAT EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>مونتسرات: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_KITTS_AND_NEVIS_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ST. KITTS AND NEVIS EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>سانت كيتس ونيفيس: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_LUCIA_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ST. LUCIA  EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>سانت لوسيا: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ST_VINCENT_AND_GRENADINES_EAST_CARIBBEAN_DOLLAR_XCD</source>
+        <comment>ST. VINCENT AND GRENADINES  EAST CARIBBEAN DOLLAR  (XCD)</comment>
+        <translation>سانت فنسنت وغرينادين: دولار شرق الكاريبي (XCD)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EUROPEAN_UNION_EUROPEAN_CURRENCY_UNIT_XEU</source>
+        <comment>EUROPEAN UNION  EUROPEAN CURRENCY UNIT  (XEU)</comment>
+        <translation>الاتحاد الأوروبي: وحدة النقد الأوروبية (XEU)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BENIN_CFA_FRANC_XOF</source>
+        <comment>BENIN  CFA-FRANC  (XOF)</comment>
+        <translation>بنين: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BURKINA_FASO_CFA_FRANC_XOF</source>
+        <comment>BURKINA FASO CFA-FRANC  (XOF)</comment>
+        <translation>بوركينا فاسو: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IVORY_COAST_CFA_FRANC_XOF</source>
+        <comment>IVORY COAST CFA-FRANC  (XOF) </comment>
+        <translation>ساحل العاج: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MALI_CFA_FRANC_XOF</source>
+        <comment>MALI CFA-FRANC  (XOF)</comment>
+        <translation>مالي: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NIGER_CFA_FRANC_XOF</source>
+        <comment>NIGER CFA-FRANC  (XOF)</comment>
+        <translation>النيجر: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SENEGAL_CFA_FRANC_XOF</source>
+        <comment>SENEGAL CFA-FRANC  (XOF) </comment>
+        <translation>السنغال: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TOGO_CFA_FRANC_XOF</source>
+        <comment>TOGO  CFA-FRANC  (XOF)</comment>
+        <translation>توغو: فرنك CFA (XOF)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YEMEN_RIAL_YER</source>
+        <comment>YEMEN  RIAL  (YER)</comment>
+        <translation>اليمن: ريال (YER)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YUGOSLAVIA_DINAR_YUN</source>
+        <comment>YUGOSLAVIA  DINAR  (YUN)</comment>
+        <translation>يوغوسلافيا: دينار (YUN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOUTH_AFRICA_LESOTHO_RAND_FINANCE_ZAL</source>
+        <comment>SOUTH AFRICA; LESOTHO  RAND (FINANCE)  (ZAL)</comment>
+        <translation>جنوب أفريقيا، ليسوتو: راند مالي (ZAL)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOUTH_AFRICA_LESOTHO_NAMIBIA_RAND_ZAR</source>
+        <comment>SOUTH AFRICA; LESOTHO; (NAMIBIA) RAND  (ZAR)</comment>
+        <translation>جنوب أفريقيا، ليسوتو، ناميبيا: راند (ZAR)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAMBIA_KWACHA_ZMK</source>
+        <comment>SAMBIA  KWACHA  (ZMK)</comment>
+        <translation>زامبيا: كواشا (ZMK)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZAIRE_NEW_ZAIRE_ZRN</source>
+        <comment>ZAIRE  NEW ZAIRE  (ZRN)</comment>
+        <translation>زائير: زائير جديد (ZRN)</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZIMBABWE_DOLLAR_ZWD</source>
+        <comment>ZIMBABWE  DOLLAR  (ZWD)</comment>
+        <translation>زيمبابوي: دولار (ZWD)</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallCostsView</name>
+    <message>
+        <source>TXT_RID_HEADER_CREDIT_AVAILABLE</source>
+        <comment>Credit Available</comment>
+        <translation>الرصيد المتاح</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_CURRENT_CREDIT_AVAILABLE_IS_2</source>
+        <comment>Your current credit available is %1 units</comment>
+        <translation>رصيدك المتاح حالياً هو ⁨%1⁩ وحدة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_EXPIRATION_DATE</source>
+        <comment>Expiration Date</comment>
+        <translation>تاريخ الانتهاء</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_REMAINING_CREDIT_WILL_EXPIRE_ON_1</source>
+        <comment>Your remaining credit will expire on %1</comment>
+        <translation>ينتهي رصيدك المتبقي في ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_LAST_DEPOSIT</source>
+        <comment>Last Deposit</comment>
+        <translation>آخر إيداع</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_LAST_DEPOSIT_AMOUNT_WAS_1_UNITS</source>
+        <comment>Your last deposit amount was %1</comment>
+        <translation>كان مبلغ آخر إيداع لك ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_LAST_CALL</source>
+        <comment>Last Call</comment>
+        <translation>آخر مكالمة</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_LAST_CALL_WAS_1_UNITS</source>
+        <comment>The cost of your last call was %1</comment>
+        <translation>كانت تكلفة آخر مكالمة لك ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DIALED_CALLS</source>
+        <comment>Dialed Calls</comment>
+        <translation>المكالمات الصادرة</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_DIALED_CALLS_IS_1_UNITS</source>
+        <comment>The cost of your dialed calls is %1</comment>
+        <translation>تكلفة مكالماتك الصادرة هي ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ANSWERED_CALLS</source>
+        <comment>Answered Calls</comment>
+        <translation>المكالمات المستلمة</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_ANSWERED_CALLS_IS_1_UNITS</source>
+        <comment>The cost of your answered calls is %1</comment>
+        <translation>تكلفة مكالماتك المستلمة هي ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ALL_CALLS</source>
+        <comment>All Calls</comment>
+        <translation>كل المكالمات</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_COST_OF_ALL_CALLS_IS_1_UNITS</source>
+        <comment>The cost of all your calls is %1</comment>
+        <translation>تكلفة كل مكالماتك هي ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_COSTS</source>
+        <comment>Call Costs</comment>
+        <translation>تكاليف المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>رجوع</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallDataTimesView</name>
+    <message>
+        <source>TXT_RID_HEADER_DATA_TIMES</source>
+        <comment>Data Times</comment>
+        <translation>مدة البيانات</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_CURRENT_2_DATA_SESSION_TIME_IS_1</source>
+        <comment>The current Data Session time for %2 is %1.</comment>
+        <translation>مدة جلسة البيانات الحالية لـ ⁨%2⁩ هي ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_THE_TOTAL_TIME_FOR_ALL_YOUR_GPRS_DATA_SESSIONS_IS_1</source>
+        <comment>The total time for all your data sessions is %1.</comment>
+        <translation>المدة الإجمالية لكل جلسات البيانات هي ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_RESET</source>
+        <comment>Reset</comment>
+        <translation>تصفير</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ARE_YOU_SURE_YOU_WANT_TO_RESET_DATA_SESSIONS_TIMER</source>
+        <comment>Are you sure you want to reset the data sessions timer?</comment>
+        <translation>هل تريد حقاً تصفير عداد مدة جلسات البيانات؟</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>رجوع</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallDataVolumesDetailView</name>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_YOUR_SENT_DATA_VOLUME_IS_1</source>
+        <comment>Your sent data volume is %1</comment>
+        <translation>حجم بياناتك المرسلة هو ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_YOUR_RECEIVED_DATA_VOLUME_IS_1</source>
+        <comment>Your received data volume is %1</comment>
+        <translation>حجم بياناتك المستلمة هو ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_YOUR_TOTAL_DATA_TRANSFER_VOLUME_IS_1</source>
+        <comment>Your total data transfer volume is %1</comment>
+        <translation>الحجم الإجمالي للبيانات المنقولة هو ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_VOLUME</source>
+        <comment>Data Volume</comment>
+        <translation>حجم البيانات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>رجوع</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallDataVolumesView</name>
+    <message>
+        <source>TXT_RID_HEADER_RESET</source>
+        <comment>Reset</comment>
+        <translation>تصفير</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_ARE_YOU_SURE_YOU_WANT_TO_RESET_DATA_SESSIONS_VOLUME</source>
+        <comment>Are you sure you want to reset the data sessions volume?</comment>
+        <translation>هل تريد حقاً تصفير حجم جلسات البيانات؟</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_VOLUMES</source>
+        <comment>Data Volumes</comment>
+        <translation>حجم البيانات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>رجوع</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallMeter</name>
+    <message>
+        <source>TXT_RID_LIST_A_UNITS</source>
+        <comment>units</comment>
+        <translation>وحدات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AED</source>
+        <comment>AED</comment>
+        <translation>AED</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AFA</source>
+        <comment>AFA</comment>
+        <translation>AFA</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ALL</source>
+        <comment>ALL</comment>
+        <translation>ALL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AMD</source>
+        <comment>AMD</comment>
+        <translation>AMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ANG</source>
+        <comment>ANG</comment>
+        <translation>ANG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AON</source>
+        <comment>AON</comment>
+        <translation>AON</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ARS</source>
+        <comment>ARS</comment>
+        <translation>ARS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AUD</source>
+        <comment>AUD</comment>
+        <translation>AUD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AWG</source>
+        <comment>AWG</comment>
+        <translation>AWG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_AZM</source>
+        <comment>AZM</comment>
+        <translation>AZM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BBD</source>
+        <comment>BBD</comment>
+        <translation>BBD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BDT</source>
+        <comment>BDT</comment>
+        <translation>BDT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BEF</source>
+        <comment>BEF</comment>
+        <translation>BEF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BGN</source>
+        <comment>BGN</comment>
+        <translation>BGN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BHD</source>
+        <comment>BHD</comment>
+        <translation>BHD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BIF</source>
+        <comment>BIF</comment>
+        <translation>BIF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BMD</source>
+        <comment>BMD</comment>
+        <translation>BMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BOB</source>
+        <comment>BOB</comment>
+        <translation>BOB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BRL</source>
+        <comment>BRL</comment>
+        <translation>BRL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BSD</source>
+        <comment>BSD</comment>
+        <translation>BSD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BTN</source>
+        <comment>BTN</comment>
+        <translation>BTN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BWP</source>
+        <comment>BWP</comment>
+        <translation>BWP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BYR</source>
+        <comment>BYR</comment>
+        <translation>BYR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_BZD</source>
+        <comment>BZD</comment>
+        <translation>BZD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CAD</source>
+        <comment>CAD</comment>
+        <translation>CAD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CHF</source>
+        <comment>CHF</comment>
+        <translation>CHF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CLP</source>
+        <comment>CLP</comment>
+        <translation>CLP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CNY</source>
+        <comment>CNY</comment>
+        <translation>CNY</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_COP</source>
+        <comment>COP</comment>
+        <translation>COP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CRC</source>
+        <comment>CRC</comment>
+        <translation>CRC</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CUP</source>
+        <comment>CUP</comment>
+        <translation>CUP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CVE</source>
+        <comment>CVE</comment>
+        <translation>CVE</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CYP</source>
+        <comment>CYP</comment>
+        <translation>CYP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_CZK</source>
+        <comment>CZK</comment>
+        <translation>CZK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DEM</source>
+        <comment>DEM</comment>
+        <translation>DEM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DJF</source>
+        <comment>DJF</comment>
+        <translation>DJF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DKK</source>
+        <comment>DKK</comment>
+        <translation>DKK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DOP</source>
+        <comment>DOP</comment>
+        <translation>DOP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_DZD</source>
+        <comment>DZD</comment>
+        <translation>DZD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ECS</source>
+        <comment>ECS</comment>
+        <translation>ECS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EEK</source>
+        <comment>EEK</comment>
+        <translation>EEK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_EGP</source>
+        <comment>EGP</comment>
+        <translation>EGP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ESP</source>
+        <comment>ESP</comment>
+        <translation>ESP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ETB</source>
+        <comment>ETB</comment>
+        <translation>ETB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FIM</source>
+        <comment>FIM</comment>
+        <translation>FIM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FJD</source>
+        <comment>FJD</comment>
+        <translation>FJD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FKP</source>
+        <comment>FKP</comment>
+        <translation>FKP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_FRF</source>
+        <comment>FRF</comment>
+        <translation>FRF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GBP</source>
+        <comment>GBP</comment>
+        <translation>GBP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GEK</source>
+        <comment>GEK</comment>
+        <translation>GEK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GHC</source>
+        <comment>GHC</comment>
+        <translation>GHC</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GIP</source>
+        <comment>GIP</comment>
+        <translation>GIP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GMD</source>
+        <comment>GMD</comment>
+        <translation>GMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GNF</source>
+        <comment>GNF</comment>
+        <translation>GNF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GRD</source>
+        <comment>GRD</comment>
+        <translation>GRD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GTQ</source>
+        <comment>GTQ</comment>
+        <translation>GTQ</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GWP</source>
+        <comment>GWP</comment>
+        <translation>GWP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_GYD</source>
+        <comment>GYD</comment>
+        <translation>GYD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HKD</source>
+        <comment>HKD</comment>
+        <translation>HKD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HNL</source>
+        <comment>HNL</comment>
+        <translation>HNL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HRK</source>
+        <comment>HRK</comment>
+        <translation>HRK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HTG</source>
+        <comment>HTG</comment>
+        <translation>HTG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_HUF</source>
+        <comment>HUF</comment>
+        <translation>HUF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IDR</source>
+        <comment>IDR</comment>
+        <translation>IDR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IEP</source>
+        <comment>IEP</comment>
+        <translation>IEP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ILS</source>
+        <comment>ILS</comment>
+        <translation>ILS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_INR</source>
+        <comment>INR</comment>
+        <translation>INR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IQD</source>
+        <comment>IQD</comment>
+        <translation>IQD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_IRR</source>
+        <comment>IRR</comment>
+        <translation>IRR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ISK</source>
+        <comment>ISK</comment>
+        <translation>ISK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ITL</source>
+        <comment>ITL</comment>
+        <translation>ITL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JMD</source>
+        <comment>JMD</comment>
+        <translation>JMD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JOD</source>
+        <comment>JOD</comment>
+        <translation>JOD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_JPY</source>
+        <comment>JPY</comment>
+        <translation>JPY</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KES</source>
+        <comment>KES</comment>
+        <translation>KES</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KGS</source>
+        <comment>KGS</comment>
+        <translation>KGS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KHR</source>
+        <comment>KHR</comment>
+        <translation>KHR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KMF</source>
+        <comment>KMF</comment>
+        <translation>KMF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KPW</source>
+        <comment>KPW</comment>
+        <translation>KPW</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KRW</source>
+        <comment>KRW</comment>
+        <translation>KRW</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KWD</source>
+        <comment>KWD</comment>
+        <translation>KWD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KYD</source>
+        <comment>KYD</comment>
+        <translation>KYD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_KZT</source>
+        <comment>KZT</comment>
+        <translation>KZT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LAK</source>
+        <comment>LAK</comment>
+        <translation>LAK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LBP</source>
+        <comment>LBP</comment>
+        <translation>LBP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LKR</source>
+        <comment>LKR</comment>
+        <translation>LKR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LRD</source>
+        <comment>LRD</comment>
+        <translation>LRD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LSL</source>
+        <comment>LSL</comment>
+        <translation>LSL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LTL</source>
+        <comment>LTL</comment>
+        <translation>LTL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LUF</source>
+        <comment>LUF</comment>
+        <translation>LUF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LVL</source>
+        <comment>LVL</comment>
+        <translation>LVL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_LYD</source>
+        <comment>LYD</comment>
+        <translation>LYD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MAD</source>
+        <comment>MAD</comment>
+        <translation>MAD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MDL</source>
+        <comment>MDL</comment>
+        <translation>MDL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MGF</source>
+        <comment>MGF</comment>
+        <translation>MGF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MKD</source>
+        <comment>MKD</comment>
+        <translation>MKD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MMK</source>
+        <comment>MMK</comment>
+        <translation>MMK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MNT</source>
+        <comment>MNT</comment>
+        <translation>MNT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MOP</source>
+        <comment>MOP</comment>
+        <translation>MOP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MRO</source>
+        <comment>MRO</comment>
+        <translation>MRO</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MTL</source>
+        <comment>MTL</comment>
+        <translation>MTL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MUR</source>
+        <comment>MUR</comment>
+        <translation>MUR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MVR</source>
+        <comment>MVR</comment>
+        <translation>MVR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MWK</source>
+        <comment>MWK</comment>
+        <translation>MWK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MXN</source>
+        <comment>MXN</comment>
+        <translation>MXN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MYR</source>
+        <comment>MYR</comment>
+        <translation>MYR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_MZM</source>
+        <comment>MZM</comment>
+        <translation>MZM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NAD</source>
+        <comment>NAD</comment>
+        <translation>NAD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NGN</source>
+        <comment>NGN</comment>
+        <translation>NGN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NIO</source>
+        <comment>NIO</comment>
+        <translation>NIO</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NLG</source>
+        <comment>NLG</comment>
+        <translation>NLG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NOK</source>
+        <comment>NOK</comment>
+        <translation>NOK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NPW</source>
+        <comment>NPW</comment>
+        <translation>NPW</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_NZD</source>
+        <comment>NZD</comment>
+        <translation>NZD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_OMR</source>
+        <comment>OMR</comment>
+        <translation>OMR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PAB</source>
+        <comment>PAB</comment>
+        <translation>PAB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PEN</source>
+        <comment>PEN</comment>
+        <translation>PEN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PGK</source>
+        <comment>PGK</comment>
+        <translation>PGK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PHP</source>
+        <comment>PHP</comment>
+        <translation>PHP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PYK</source>
+        <comment>PYK</comment>
+        <translation>PYK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PLN</source>
+        <comment>PLN</comment>
+        <translation>PLN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PTE</source>
+        <comment>PTE</comment>
+        <translation>PTE</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_PYG</source>
+        <comment>PYG</comment>
+        <translation>PYG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_QAR</source>
+        <comment>QAR</comment>
+        <translation>QAR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ROL</source>
+        <comment>ROL</comment>
+        <translation>ROL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RUB</source>
+        <comment>RUB</comment>
+        <translation>RUB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_RWF</source>
+        <comment>RWF</comment>
+        <translation>RWF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SAR</source>
+        <comment>SAR</comment>
+        <translation>SAR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SBD</source>
+        <comment>SBD</comment>
+        <translation>SBD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SCR</source>
+        <comment>SCR</comment>
+        <translation>SCR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SDD</source>
+        <comment>SDD</comment>
+        <translation>SDD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SEK</source>
+        <comment>SEK</comment>
+        <translation>SEK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SGD</source>
+        <comment>SGD</comment>
+        <translation>SGD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SHP</source>
+        <comment>SHP</comment>
+        <translation>SHP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SIT</source>
+        <comment>SIT</comment>
+        <translation>SIT</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SKK</source>
+        <comment>SKK</comment>
+        <translation>SKK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SLL</source>
+        <comment>SLL</comment>
+        <translation>SLL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SOS</source>
+        <comment>SOS</comment>
+        <translation>SOS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SRG</source>
+        <comment>SRG</comment>
+        <translation>SRG</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SRD</source>
+        <comment>SRD</comment>
+        <translation>SRD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SVC</source>
+        <comment>SVC</comment>
+        <translation>SVC</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SYP</source>
+        <comment>SYP</comment>
+        <translation>SYP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_SZL</source>
+        <comment>SZL</comment>
+        <translation>SZL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_THB</source>
+        <comment>THB</comment>
+        <translation>THB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TMM</source>
+        <comment>TMM</comment>
+        <translation>TMM</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TND</source>
+        <comment>TND</comment>
+        <translation>TND</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TOP</source>
+        <comment>TOP</comment>
+        <translation>TOP</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TRL</source>
+        <comment>TRL</comment>
+        <translation>TRL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TTD</source>
+        <comment>TTD</comment>
+        <translation>TTD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TWD</source>
+        <comment>TWD</comment>
+        <translation>TWD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_TZS</source>
+        <comment>TZS</comment>
+        <translation>TZS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UAH</source>
+        <comment>UAH</comment>
+        <translation>UAH</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UGX</source>
+        <comment>UGX</comment>
+        <translation>UGX</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_USD</source>
+        <comment>USD</comment>
+        <translation>USD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UYU</source>
+        <comment>UYU</comment>
+        <translation>UYU</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_UZS</source>
+        <comment>UZS</comment>
+        <translation>UZS</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VEB</source>
+        <comment>VEB</comment>
+        <translation>VEB</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VND</source>
+        <comment>VND</comment>
+        <translation>VND</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_VUV</source>
+        <comment>VUV</comment>
+        <translation>VUV</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_WST</source>
+        <comment>WST</comment>
+        <translation>WST</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XAF</source>
+        <comment>XAF</comment>
+        <translation>XAF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XCD</source>
+        <comment>XCD</comment>
+        <translation>XCD</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XEU</source>
+        <comment>XEU</comment>
+        <translation>XEU</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_XOF</source>
+        <comment>XOF</comment>
+        <translation>XOF</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YER</source>
+        <comment>YER</comment>
+        <translation>YER</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_YUN</source>
+        <comment>YUN</comment>
+        <translation>YUN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZAL</source>
+        <comment>ZAL</comment>
+        <translation>ZAL</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZAR</source>
+        <comment>ZAR</comment>
+        <translation>ZAR</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZMK</source>
+        <comment>ZMK</comment>
+        <translation>ZMK</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZRN</source>
+        <comment>ZRN</comment>
+        <translation>ZRN</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LIST_A_ZWD</source>
+        <comment>ZWD</comment>
+        <translation>ZWD</translation>
+    </message>
+</context>
+<context>
+    <name>PHONE_UI_RecentCallTimesView</name>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_DIALED_CALLS_TIMER</source>
+        <comment>Would you like to reset the Dialed Calls timer?</comment>
+        <translation>هل تريد تصفير عداد المكالمات الصادرة؟</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_ANSWERED_CALLS_TIMER</source>
+        <comment>Would you like to reset the Answered Calls timer?</comment>
+        <translation>هل تريد تصفير عداد المكالمات المستلمة؟</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_CIRCUIT_SWITCHING_DATA_CALLS_TIMER</source>
+        <comment>Would you like to reset the Circuit Switching Data Calls timer?</comment>
+        <translation>هل تريد تصفير عداد مكالمات البيانات بتبديل الدوائر؟</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_RESET_ALL_CALLS_TIMER</source>
+        <comment>Would you like to reset the All Calls timer?</comment>
+        <translation>هل تريد تصفير عداد كل المكالمات؟</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_RESET_TIMER</source>
+        <comment>Reset Timer</comment>
+        <translation>تصفير العداد</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_CURRENT_REQUEST_CANNOT_BE_COMPLETED_WHILE_YOU_ARE_IN_CALLING</source>
+        <comment>Current request cannot be completed, while you are in calling. </comment>
+        <translation>لا يمكن تنفيذ الطلب الحالي أثناء المكالمة.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_TIMES</source>
+        <comment>Call Times</comment>
+        <translation>مدة المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_BACK</source>
+        <comment>Back</comment>
+        <translation>رجوع</translation>
+    </message>
+</context>
+<context>
+    <name>QGuiApplication</name>
+    <message>
+        <source>QT_LAYOUT_DIRECTION</source>
+        <translation>RTL</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ALL</source>
+        <comment>Reset All</comment>
+        <translation>تصفير الكل</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ALL_CALL_COSTS</source>
+        <comment>Reset All Call Costs</comment>
+        <translation>تصفير كل التكاليف</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_DIALED_CALL_COSTS</source>
+        <comment>Reset Dialed Call Costs</comment>
+        <translation>تصفير تكلفة الصادرة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ANSWERED_CALL_COSTS</source>
+        <comment>Reset Answered Call Costs</comment>
+        <translation>تصفير تكلفة المستلمة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CREDIT_LIMIT</source>
+        <comment>Credit Limit</comment>
+        <translation>حد الرصيد</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ADJUST_CREDIT_LIMIT</source>
+        <comment>Adjust Credit Limit</comment>
+        <translation>ضبط حد الرصيد</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CURRENCY</source>
+        <comment>Currency</comment>
+        <translation>العملة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
+        <comment>Currency Type</comment>
+        <translation>نوع العملة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_COST_PER_MINUTE</source>
+        <comment>Cost Per Minute</comment>
+        <translation>سعر الدقيقة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CREDIT_AVAILABLE</source>
+        <comment>Credit Available</comment>
+        <translation>الرصيد المتاح</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_EXPIRATION_DATE</source>
+        <comment>Expiration Date</comment>
+        <translation>تاريخ الانتهاء</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LAST_DEPOSIT</source>
+        <comment>Last Deposit</comment>
+        <translation>آخر إيداع</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LAST_CALL_COST</source>
+        <comment>Last Call Cost</comment>
+        <translation>تكلفة آخر مكالمة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_DIALED_CALLS_COST</source>
+        <comment>Dialed Calls Cost</comment>
+        <translation>تكلفة الصادرة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ANSWERED_CALLS_COST</source>
+        <comment>Answered Calls Cost</comment>
+        <translation>تكلفة المستلمة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ALL_CALLS_COST</source>
+        <comment>All Calls Cost</comment>
+        <translation>تكلفة كل المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CALL_COST_SETUP</source>
+        <comment>Call Cost Setup</comment>
+        <translation>إعداد التكلفة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_RECENT_DATA_SESSION</source>
+        <comment>Current Data Session</comment>
+        <translation>جلسة البيانات الحالية</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_GPRS_DATA_SESSION_1</source>
+        <comment>GPRS Data Session 1</comment>
+        <translation>جلسة بيانات GPRS 1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_GPRS_DATA_SESSION_2</source>
+        <comment>GPRS Data Session 2</comment>
+        <translation>جلسة بيانات GPRS 2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_GPRS_DATA_SESSION_3</source>
+        <comment>GPRS Data Session 3</comment>
+        <translation>جلسة بيانات GPRS 3</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_ALL_DATA_SESSIONS</source>
+        <comment>All Data Sessions</comment>
+        <translation>كل جلسات البيانات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_TOTAL_TIME</source>
+        <comment>Total Time</comment>
+        <translation>المدة الإجمالية</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RESET_ALL_DATA_SESSIONS</source>
+        <comment>Reset All Data Sessions</comment>
+        <translation>تصفير كل الجلسات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_SENT</source>
+        <comment>Sent</comment>
+        <translation>المرسلة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_RECEIVED</source>
+        <comment>Received</comment>
+        <translation>المستلمة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_SUM</source>
+        <comment>Sum</comment>
+        <translation>المجموع</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_TOTAL_DATA_TRANSFERRED</source>
+        <comment>Total Data Transferred</comment>
+        <translation>إجمالي المنقول</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_GPRS_DATA_SESSION_1</source>
+        <comment>GPRS Data Session 1</comment>
+        <translation>جلسة بيانات GPRS 1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_GPRS_DATA_SESSION_2</source>
+        <comment>GPRS Data Session 2</comment>
+        <translation>جلسة بيانات GPRS 2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SEPARATOR_GPRS_DATA_SESSION_3</source>
+        <comment>GPRS Data Session 3</comment>
+        <translation>جلسة بيانات GPRS 3</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LAST_CALL</source>
+        <comment>Last Call</comment>
+        <translation>آخر مكالمة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_DIALED_CALLS</source>
+        <comment>Dialed Calls</comment>
+        <translation>المكالمات الصادرة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ANSWERED_CALLS</source>
+        <comment>Answered Calls</comment>
+        <translation>المكالمات المستلمة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_CIRCUIT_SWITCH_DATA_CALLS</source>
+        <comment>Data Calls</comment>
+        <translation>مكالمات البيانات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_ALL_CALLS</source>
+        <comment>All Calls</comment>
+        <translation>كل المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
+        <comment>Lifetime Calls</comment>
+        <translation>إجمالي المكالمات</translation>
+    </message>
+</context>
+<context>
+    <name>SETUP_SECURITY_Util</name>
+    <message>
+        <source>TXT_RID_HEADER_PIN1</source>
+        <comment>PIN1</comment>
+        <translation>PIN1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ENTER_PIN1</source>
+        <comment>Enter PIN1</comment>
+        <translation>أدخل PIN1</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_WRONG_PIN1</source>
+        <comment>Wrong PIN1</comment>
+        <translation>رمز PIN1 خاطئ</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_PIN1_IS_BLOCKED</source>
+        <comment>PIN1 is blocked. Only PUK1 can unblock it.</comment>
+        <translation>رمز PIN1 محظور. لا يفك حظره إلا PUK1.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_SIM_CANNOT_BE_ASKED_PIN1</source>
+        <comment>The SIM card cannot be asked for PIN1.</comment>
+        <translation>لا يمكن طلب PIN1 من بطاقة SIM.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_PIN2</source>
+        <comment>PIN2</comment>
+        <translation>PIN2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_ENTER_PIN2</source>
+        <comment>Enter PIN2</comment>
+        <translation>أدخل PIN2</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_WRONG_PIN2</source>
+        <comment>Wrong PIN2</comment>
+        <translation>رمز PIN2 خاطئ</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_PIN2_IS_BLOCKED</source>
+        <comment>PIN2 is blocked. Only PUK2 can unblock it.</comment>
+        <translation>رمز PIN2 محظور. لا يفك حظره إلا PUK2.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_SIM_CANNOT_BE_ASKED_PIN2</source>
+        <comment>The SIM card cannot be asked for PIN2.</comment>
+        <translation>لا يمكن طلب PIN2 من بطاقة SIM.</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_CANCEL</source>
+        <comment>Cancel</comment>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>FMT_RID_INSTRUCTIONALTXT_TRIES_LEFT_1</source>
+        <comment>Tries left: %1</comment>
+        <translation>المحاولات: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>TXT_RID_INSTRUCTIONALTXT_4_TO_8_DIGITS</source>
+        <comment>4 to 8 digits</comment>
+        <translation>من 4 إلى 8 أرقام</translation>
+    </message>
+</context>
+<context>
+    <name>ZMessageDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_YES</source>
+        <comment>Yes</comment>
+        <translation>نعم</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_NO</source>
+        <comment>No</comment>
+        <translation>لا</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>موافق</translation>
+    </message>
+</context>
+<context>
+    <name>ZNoticeDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>موافق</translation>
+    </message>
+</context>
+<context>
+    <name>ZSingleCaptureDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_OK</source>
+        <comment>OK</comment>
+        <translation>موافق</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_CANCEL</source>
+        <comment>Cancel</comment>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>ZSingleSelectDlg</name>
+    <message>
+        <source>TXT_RID_SOFTKEY_SELECT</source>
+        <comment>Select</comment>
+        <translation>اختيار</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_CANCEL</source>
+        <comment>Cancel</comment>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>host::AccountSection</name>
+    <message>
+        <source>Nothing has been paid in.</source>
+        <translation>لم يتم إيداع أي شيء.</translation>
+    </message>
+    <message>
+        <source>Credit: %1</source>
+        <translation>الرصيد: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Last deposit: %1, good until %2</source>
+        <translation>آخر إيداع: ⁨%1⁩، صالح حتى ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Prepaid account</source>
+        <translation>حساب مسبق الدفع</translation>
+    </message>
+    <message>
+        <source>Credit</source>
+        <translation>الرصيد</translation>
+    </message>
+    <message>
+        <source>Last deposit</source>
+        <translation>آخر إيداع</translation>
+    </message>
+    <message>
+        <source>Amount to pay in</source>
+        <translation>المبلغ المراد إيداعه</translation>
+    </message>
+    <message>
+        <source>In units or in the currency, as costs are</source>
+        <translation>بالوحدات أو بالعملة، كما هي التكاليف</translation>
+    </message>
+    <message>
+        <source>Why nothing was paid in</source>
+        <translation>لماذا لم يتم إيداع شيء</translation>
+    </message>
+    <message>
+        <source>Good until</source>
+        <translation>صالح حتى</translation>
+    </message>
+    <message>
+        <source>Until when the deposit is good: year, month, day</source>
+        <translation>حتى متى يكون الإيداع صالحاً: سنة، شهر، يوم</translation>
+    </message>
+    <message>
+        <source>&amp;Top up</source>
+        <translation>&amp;شحن</translation>
+    </message>
+    <message>
+        <source>Pays the amount in</source>
+        <translation>يودع المبلغ</translation>
+    </message>
+    <message>
+        <source>until</source>
+        <translation>حتى</translation>
+    </message>
+</context>
+<context>
+    <name>host::CallsModel</name>
+    <message>
+        <source>Dialed, not answered</source>
+        <translation>صادرة بلا رد</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>فائتة</translation>
+    </message>
+    <message>
+        <source>Data call</source>
+        <translation>مكالمة بيانات</translation>
+    </message>
+    <message>
+        <source>Dialed</source>
+        <translation>صادرة</translation>
+    </message>
+    <message>
+        <source>Answered</source>
+        <translation>مستلمة</translation>
+    </message>
+    <message>
+        <source>number withheld</source>
+        <translation>رقم محجوب</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>الاتجاه</translation>
+    </message>
+    <message>
+        <source>Number and time</source>
+        <translation>الرقم والوقت</translation>
+    </message>
+    <message>
+        <source>Duration and cost</source>
+        <translation>المدة والتكلفة</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>وحدات</translation>
+    </message>
+</context>
+<context>
+    <name>host::CostSection</name>
+    <message>
+        <source>not available</source>
+        <translation>غير متاح</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>وحدات</translation>
+    </message>
+    <message>
+        <source>Costs</source>
+        <translation>التكاليف</translation>
+    </message>
+    <message>
+        <source>Costs are in</source>
+        <translation>التكاليف بـ</translation>
+    </message>
+    <message>
+        <source>the currency</source>
+        <translation>العملة</translation>
+    </message>
+    <message>
+        <source>Price of a unit</source>
+        <translation>سعر الوحدة</translation>
+    </message>
+    <message>
+        <source>The price of a unit, as 0.23</source>
+        <translation>سعر الوحدة، مثل 0.23</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>العملة</translation>
+    </message>
+    <message>
+        <source>The currency's code, at most three characters</source>
+        <translation>رمز العملة، ثلاثة أحرف على الأكثر</translation>
+    </message>
+    <message>
+        <source>Credit limit</source>
+        <translation>حد الرصيد</translation>
+    </message>
+    <message>
+        <source>Cost of the call</source>
+        <translation>تكلفة المكالمة</translation>
+    </message>
+    <message>
+        <source>Why the costs were not set</source>
+        <translation>لماذا لم يتم ضبط التكاليف</translation>
+    </message>
+    <message>
+        <source>Set &amp;price</source>
+        <translation>ضبط ال&amp;سعر</translation>
+    </message>
+    <message>
+        <source>Writes price and currency to the SIM card</source>
+        <translation>يكتب السعر والعملة على بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>This call</source>
+        <translation>هذه المكالمة</translation>
+    </message>
+    <message>
+        <source>Last call</source>
+        <translation>آخر مكالمة</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>متوقف</translation>
+    </message>
+    <message>
+        <source>%1; units left: %2</source>
+        <translation>‏⁨%1⁩؛ الوحدات المتبقية: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>The modem's advice of charge says what calls cost.</source>
+        <translation>إشعار الرسوم في المودم يبيّن تكلفة المكالمات.</translation>
+    </message>
+    <message>
+        <source>This telephone charges no calls by itself.</source>
+        <translation>هذا الهاتف لا يحتسب المكالمات بنفسه.</translation>
+    </message>
+</context>
+<context>
+    <name>host::Display</name>
+    <message>
+        <source>Display of the phone</source>
+        <translation>شاشة الهاتف</translation>
+    </message>
+</context>
+<context>
+    <name>host::FailuresSection</name>
+    <message>
+        <source>Failures</source>
+        <translation>الأعطال</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>العملية</translation>
+    </message>
+    <message>
+        <source>Let it &amp;fail</source>
+        <translation>اجعلها ت&amp;فشل</translation>
+    </message>
+    <message>
+        <source>From now on the operation only answers the code</source>
+        <translation>من الآن لا تجيب العملية إلا بالرمز</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <translation>إ&amp;زالة</translation>
+    </message>
+    <message>
+        <source>The chosen operation works again</source>
+        <translation>تعمل العملية المختارة من جديد</translation>
+    </message>
+    <message>
+        <source>Remove a&amp;ll</source>
+        <translation>إزالة ال&amp;كل</translation>
+    </message>
+    <message>
+        <source>Every operation works again</source>
+        <translation>تعمل كل العمليات من جديد</translation>
+    </message>
+    <message>
+        <source>What the phone's libraries ask of the telephone</source>
+        <translation>ما تطلبه مكتبات الهاتف منه</translation>
+    </message>
+    <message>
+        <source>Code</source>
+        <translation>الرمز</translation>
+    </message>
+    <message>
+        <source>What the operation answers: a name, or a number; not Success</source>
+        <translation>ما تجيب به العملية: اسم أو رقم؛ ليس Success</translation>
+    </message>
+    <message>
+        <source>Operations that fail</source>
+        <translation>عمليات تفشل</translation>
+    </message>
+    <message>
+        <source>Failing now</source>
+        <translation>تفشل الآن</translation>
+    </message>
+</context>
+<context>
+    <name>host::FiguresSection</name>
+    <message>
+        <source>Last call</source>
+        <translation>آخر مكالمة</translation>
+    </message>
+    <message>
+        <source>Dialed calls</source>
+        <translation>المكالمات الصادرة</translation>
+    </message>
+    <message>
+        <source>Answered calls</source>
+        <translation>المكالمات المستلمة</translation>
+    </message>
+    <message>
+        <source>Data calls</source>
+        <translation>مكالمات البيانات</translation>
+    </message>
+    <message>
+        <source>All calls</source>
+        <translation>كل المكالمات</translation>
+    </message>
+    <message>
+        <source>Lifetime calls</source>
+        <translation>إجمالي المكالمات</translation>
+    </message>
+    <message>
+        <source>Call timers</source>
+        <translation>عدادات المكالمات</translation>
+    </message>
+    <message>
+        <source>Add a &amp;ready-made history</source>
+        <translation>إضافة سجل &amp;جاهز</translation>
+    </message>
+    <message>
+        <source>Adds a dozen calls of the last days to the call log</source>
+        <translation>يضيف إلى السجل اثنتي عشرة مكالمة من الأيام الأخيرة</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>غير متاح</translation>
+    </message>
+</context>
+<context>
+    <name>host::Keypad</name>
+    <message>
+        <source>Left softkey</source>
+        <translation>المفتاح الأيسر</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>أعلى</translation>
+    </message>
+    <message>
+        <source>Right softkey</source>
+        <translation>المفتاح الأيمن</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>اختيار</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>أسفل</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Star</source>
+        <translation>نجمة</translation>
+    </message>
+    <message>
+        <source>Hash</source>
+        <translation>مربع</translation>
+    </message>
+</context>
+<context>
+    <name>host::Line</name>
+    <message>
+        <source>Dialing</source>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>Ringing</source>
+        <translation>يرن</translation>
+    </message>
+    <message>
+        <source>Waiting</source>
+        <translation>في الانتظار</translation>
+    </message>
+    <message>
+        <source>On hold %1</source>
+        <translation>معلقة ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Connected %1</source>
+        <translation>متصل ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>No modem</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>number withheld</source>
+        <translation>رقم محجوب</translation>
+    </message>
+    <message>
+        <source>Idle</source>
+        <translation>خامل</translation>
+    </message>
+    <message>
+        <source>The credit limit is reached in %1 s.</source>
+        <translation>سيتم بلوغ حد الرصيد خلال ⁨%1⁩ ث.</translation>
+    </message>
+    <message>
+        <source>The credit is used up in %1 s.</source>
+        <translation>سينفد الرصيد خلال ⁨%1⁩ ث.</translation>
+    </message>
+    <message>
+        <source>The telephone has ended the call: the credit limit is reached.</source>
+        <translation>أنهى الهاتف المكالمة: تم بلوغ حد الرصيد.</translation>
+    </message>
+    <message>
+        <source>The telephone has ended the call: the credit is used up.</source>
+        <translation>أنهى الهاتف المكالمة: نفد الرصيد.</translation>
+    </message>
+    <message>
+        <source>This telephone cannot be driven from here.</source>
+        <translation>لا يمكن التحكم بهذا الهاتف من هنا.</translation>
+    </message>
+    <message>
+        <source>data call</source>
+        <translation>مكالمة بيانات</translation>
+    </message>
+    <message>
+        <source>voice call</source>
+        <translation>مكالمة صوتية</translation>
+    </message>
+    <message>
+        <source>The call log cannot be written. The end of a call or a packet-data session is kept in memory, and written as soon as it can be.</source>
+        <translation>لا يمكن الكتابة في سجل المكالمات. تُحفظ نهاية المكالمة أو جلسة البيانات في الذاكرة وتُكتب حالما يمكن ذلك.</translation>
+    </message>
+</context>
+<context>
+    <name>host::LineSection</name>
+    <message>
+        <source>&amp;Dial</source>
+        <translation>&amp;اتصال</translation>
+    </message>
+    <message>
+        <source>Calls the number from this phone</source>
+        <translation>يتصل بالرقم من هذا الهاتف</translation>
+    </message>
+    <message>
+        <source>&amp;Other side answers</source>
+        <translation>ال&amp;طرف الآخر يجيب</translation>
+    </message>
+    <message>
+        <source>The called side answers; the call is connected</source>
+        <translation>يجيب الطرف المتصل به؛ تكون المكالمة متصلة</translation>
+    </message>
+    <message>
+        <source>Dial d&amp;ata call</source>
+        <translation>اتصال &amp;بيانات</translation>
+    </message>
+    <message>
+        <source>Sets up a circuit-switched data call to the number</source>
+        <translation>يجري مع الرقم مكالمة بيانات بتبديل الدوائر</translation>
+    </message>
+    <message>
+        <source>&amp;Incoming call</source>
+        <translation>مكالمة &amp;واردة</translation>
+    </message>
+    <message>
+        <source>The number calls this phone; empty for a withheld number</source>
+        <translation>يتصل الرقم بهذا الهاتف؛ فارغ للرقم المحجوب</translation>
+    </message>
+    <message>
+        <source>&amp;Hang up</source>
+        <translation>إن&amp;هاء المكالمة</translation>
+    </message>
+    <message>
+        <source>Ends the call on the line, whatever its state</source>
+        <translation>ينهي المكالمة على الخط مهما كانت حالتها</translation>
+    </message>
+    <message>
+        <source>A&amp;nswer</source>
+        <translation>&amp;رد</translation>
+    </message>
+    <message>
+        <source>Answers the incoming call; the call is connected</source>
+        <translation>يرد على المكالمة الواردة؛ تكون المكالمة متصلة</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>الخط</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>ما أبلغ عنه الهاتف</translation>
+    </message>
+    <message>
+        <source>State of the line</source>
+        <translation>حالة الخط</translation>
+    </message>
+    <message>
+        <source>End of charging</source>
+        <translation>نهاية الاحتساب</translation>
+    </message>
+    <message>
+        <source>What is not in the call log yet</source>
+        <translation>ما لم يُكتب بعد في سجل المكالمات</translation>
+    </message>
+    <message>
+        <source>Digits, +, * and #</source>
+        <translation>أرقام و+ و* و#</translation>
+    </message>
+    <message>
+        <source>N&amp;umber</source>
+        <translation>ال&amp;رقم</translation>
+    </message>
+</context>
+<context>
+    <name>host::MenuScreen</name>
+    <message>
+        <source>TXT_RID_HEADER_RECENT_CALLS</source>
+        <comment>Recent Calls</comment>
+        <translation>المكالمات الأخيرة</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_OPEN</source>
+        <comment>Open</comment>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>TXT_RID_SOFTKEY_EXIT</source>
+        <comment>Exit</comment>
+        <translation>خروج</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_TIMES</source>
+        <comment>Call Times</comment>
+        <translation>مدة المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_CALL_COSTS</source>
+        <comment>Call Costs</comment>
+        <translation>تكاليف المكالمات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_TIMES</source>
+        <comment>Data Times</comment>
+        <translation>مدة البيانات</translation>
+    </message>
+    <message>
+        <source>TXT_RID_HEADER_DATA_VOLUMES</source>
+        <comment>Data Volumes</comment>
+        <translation>حجم البيانات</translation>
+    </message>
+</context>
+<context>
+    <name>host::ModemSection</name>
+    <message>
+        <source>call times</source>
+        <translation>مدة المكالمات</translation>
+    </message>
+    <message>
+        <source>all calls</source>
+        <translation>كل المكالمات</translation>
+    </message>
+    <message>
+        <source>data calls</source>
+        <translation>مكالمات البيانات</translation>
+    </message>
+    <message>
+        <source>data sessions</source>
+        <translation>جلسات البيانات</translation>
+    </message>
+    <message>
+        <source>advice of charge</source>
+        <translation>إشعار الرسوم</translation>
+    </message>
+    <message>
+        <source>PIN2</source>
+        <translation>PIN2</translation>
+    </message>
+    <message>
+        <source>nothing</source>
+        <translation>لا شيء</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>, %1 B sent, %2 B received</source>
+        <translation>، أُرسل ⁨%1⁩ بايت، استُلم ⁨%2⁩ بايت</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>لا يوجد</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>المودم</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>البيانات</translation>
+    </message>
+    <message>
+        <source>Charged by</source>
+        <translation>يحتسب الرسوم</translation>
+    </message>
+    <message>
+        <source>Recorded by</source>
+        <translation>يسجّل</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>غير متاح</translation>
+    </message>
+    <message>
+        <source>%1, through %2</source>
+        <translation>‏⁨%1⁩، عبر ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>the modem's advice of charge</source>
+        <translation>إشعار الرسوم في المودم</translation>
+    </message>
+    <message>
+        <source>the tariff of this telephone</source>
+        <translation>تعرفة هذا الهاتف</translation>
+    </message>
+    <message>
+        <source>this window</source>
+        <translation>هذه النافذة</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>عملية أخرى</translation>
+    </message>
+    <message>
+        <source>nobody: the call log cannot be written</source>
+        <translation>لا أحد: لا يمكن الكتابة في سجل المكالمات</translation>
+    </message>
+</context>
+<context>
+    <name>host::OpeningProgress</name>
+    <message>
+        <source>Opening the telephone</source>
+        <translation>جارٍ فتح الهاتف</translation>
+    </message>
+    <message>
+        <source>What is being done</source>
+        <translation>ما يجري الآن</translation>
+    </message>
+    <message>
+        <source>How far it is</source>
+        <translation>مقدار ما تم</translation>
+    </message>
+</context>
+<context>
+    <name>host::PacketSection</name>
+    <message>
+        <source>%1 B sent, %2 B received</source>
+        <translation>أُرسل ⁨%1⁩ بايت، استُلم ⁨%2⁩ بايت</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>فارغة</translation>
+    </message>
+    <message>
+        <source>%1 (id %2), %3
+%4</source>
+        <translation>‏⁨%1⁩ (المعرّف ⁨%2⁩)، ⁨%3⁩
+⁨%4⁩</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>غير متاح</translation>
+    </message>
+    <message>
+        <source>%1, %2 B
+%3</source>
+        <translation>‏⁨%1⁩، ⁨%2⁩ بايت
+⁨%3⁩</translation>
+    </message>
+    <message>
+        <source>Packet data</source>
+        <translation>بيانات الحزم</translation>
+    </message>
+    <message>
+        <source>Access point name</source>
+        <translation>اسم نقطة الوصول</translation>
+    </message>
+    <message>
+        <source>1 to 101 characters</source>
+        <translation>من 1 إلى 101 حرف</translation>
+    </message>
+    <message>
+        <source>Bytes sent each second</source>
+        <translation>البايتات المرسلة كل ثانية</translation>
+    </message>
+    <message>
+        <source>Bytes received each second</source>
+        <translation>البايتات المستلمة كل ثانية</translation>
+    </message>
+    <message>
+        <source>&amp;Start session</source>
+        <translation>&amp;بدء جلسة</translation>
+    </message>
+    <message>
+        <source>Begins a session, which counts bytes and time</source>
+        <translation>يبدأ جلسة تعدّ البايتات والوقت</translation>
+    </message>
+    <message>
+        <source>Sto&amp;p session</source>
+        <translation>إ&amp;يقاف الجلسة</translation>
+    </message>
+    <message>
+        <source>Ends the session</source>
+        <translation>ينهي الجلسة</translation>
+    </message>
+    <message>
+        <source>Why the session was not changed</source>
+        <translation>لماذا لم تتغير الجلسة</translation>
+    </message>
+    <message>
+        <source>All sessions</source>
+        <translation>كل الجلسات</translation>
+    </message>
+    <message>
+        <source>Bytes sent a second</source>
+        <translation>البايتات المرسلة في الثانية</translation>
+    </message>
+    <message>
+        <source>Bytes received a second</source>
+        <translation>البايتات المستلمة في الثانية</translation>
+    </message>
+    <message>
+        <source>Session %1</source>
+        <translation>الجلسة ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Session %1:</source>
+        <translation>الجلسة ⁨%1⁩:</translation>
+    </message>
+    <message>
+        <source>All sessions:</source>
+        <translation>كل الجلسات:</translation>
+    </message>
+    <message>
+        <source>S&amp;end update</source>
+        <translation>إرسال &amp;تحديث</translation>
+    </message>
+    <message>
+        <source>Tells the screens that the figures have changed</source>
+        <translation>يخبر الشاشات بأن القيم تغيرت</translation>
+    </message>
+</context>
+<context>
+    <name>host::Panel</name>
+    <message>
+        <source>Sides of the telephone</source>
+        <translation>جوانب الهاتف</translation>
+    </message>
+    <message>
+        <source>Calls</source>
+        <translation>المكالمات</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>الاحتساب</translation>
+    </message>
+    <message>
+        <source>SIM</source>
+        <translation>SIM</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>البيانات</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>الأخيرة</translation>
+    </message>
+    <message>
+        <source>Failures</source>
+        <translation>الأعطال</translation>
+    </message>
+</context>
+<context>
+    <name>host::PhoneWindow</name>
+    <message>
+        <source>Recent Calls</source>
+        <translation>المكالمات الأخيرة</translation>
+    </message>
+</context>
+<context>
+    <name>host::Pin2Section</name>
+    <message>
+        <source>Blocked for good.</source>
+        <translation>محظور نهائياً.</translation>
+    </message>
+    <message>
+        <source>Blocked: only PUK2 helps.</source>
+        <translation>محظور: لا يفيد إلا PUK2.</translation>
+    </message>
+    <message>
+        <source>Off: nobody is asked for it.</source>
+        <translation>متوقف: لا يُطلب من أحد.</translation>
+    </message>
+    <message>
+        <source>On, and entered.</source>
+        <translation>مفعّل، وتم إدخاله.</translation>
+    </message>
+    <message>
+        <source>On, not entered.</source>
+        <translation>مفعّل، ولم يتم إدخاله.</translation>
+    </message>
+    <message>
+        <source>Tries left: PIN2 %1, PUK2 %2.</source>
+        <translation>المحاولات المتبقية: ⁦PIN2: %1⁩، ⁦PUK2: %2⁩.</translation>
+    </message>
+    <message>
+        <source>PIN2</source>
+        <translation>PIN2</translation>
+    </message>
+    <message>
+        <source>State of PIN2</source>
+        <translation>حالة PIN2</translation>
+    </message>
+    <message>
+        <source>PIN2 is on</source>
+        <translation>PIN2 مفعّل</translation>
+    </message>
+    <message>
+        <source>Four to eight digits</source>
+        <translation>من أربعة إلى ثمانية أرقام</translation>
+    </message>
+    <message>
+        <source>PUK2</source>
+        <translation>PUK2</translation>
+    </message>
+    <message>
+        <source>Eight digits</source>
+        <translation>ثمانية أرقام</translation>
+    </message>
+    <message>
+        <source>New PIN2</source>
+        <translation>PIN2 جديد</translation>
+    </message>
+    <message>
+        <source>What came of it</source>
+        <translation>النتيجة</translation>
+    </message>
+    <message>
+        <source>The phone asks for it where a file is written with PIN2</source>
+        <translation>يطلبه الهاتف حيث يُكتب ملف باستخدام PIN2</translation>
+    </message>
+    <message>
+        <source>&amp;Switch off and on</source>
+        <translation>إيقاف وتشغيل (&amp;S)</translation>
+    </message>
+    <message>
+        <source>Forgets that PIN2 has been entered</source>
+        <translation>ينسى أنه تم إدخال PIN2</translation>
+    </message>
+    <message>
+        <source>&amp;Enter</source>
+        <translation>إ&amp;دخال</translation>
+    </message>
+    <message>
+        <source>Presents PIN2 to the card, as the phone does; a wrong one costs a try</source>
+        <translation>يقدّم PIN2 إلى البطاقة كما يفعل الهاتف؛ والخاطئ يكلف محاولة</translation>
+    </message>
+    <message>
+        <source>Un&amp;block</source>
+        <translation>&amp;فك الحظر</translation>
+    </message>
+    <message>
+        <source>Sets the new PIN2 and gives all tries back</source>
+        <translation>يضبط PIN2 الجديد ويعيد كل المحاولات</translation>
+    </message>
+    <message>
+        <source>PIN2 has been entered.</source>
+        <translation>تم إدخال PIN2.</translation>
+    </message>
+    <message>
+        <source>Wrong PIN2.</source>
+        <translation>رمز PIN2 خاطئ.</translation>
+    </message>
+    <message>
+        <source>The new PIN2 counts.</source>
+        <translation>رمز PIN2 الجديد ساري المفعول.</translation>
+    </message>
+    <message>
+        <source>Wrong PUK2.</source>
+        <translation>رمز PUK2 خاطئ.</translation>
+    </message>
+</context>
+<context>
+    <name>host::RecentCallsSection</name>
+    <message>
+        <source>Recent calls</source>
+        <translation>المكالمات الأخيرة</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;حذف</translation>
+    </message>
+    <message>
+        <source>Deletes the chosen call; the totals stay</source>
+        <translation>يحذف المكالمة المختارة؛ تبقى المجاميع</translation>
+    </message>
+    <message>
+        <source>Delete a&amp;ll ...</source>
+        <translation>حذف ال&amp;كل ...</translation>
+    </message>
+    <message>
+        <source>Deletes every call that is over; the totals stay</source>
+        <translation>يحذف كل المكالمات المنتهية؛ تبقى المجاميع</translation>
+    </message>
+    <message>
+        <source>Why the calls were not read or deleted</source>
+        <translation>لماذا لم تُقرأ المكالمات أو لم تُحذف</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>لا يمكن قراءة سجل المكالمات.</translation>
+    </message>
+    <message>
+        <source>Delete all calls that are over? The totals stay as they are.</source>
+        <translation>هل تريد حذف كل المكالمات المنتهية؟ تبقى المجاميع كما هي.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete all</source>
+        <translation>حذف ال&amp;كل</translation>
+    </message>
+</context>
+<context>
+    <name>host::SimFilesSection</name>
+    <message>
+        <source>%1  =  %2 units</source>
+        <translation>‏⁨%1⁩  =  ⁨%2⁩ وحدة</translation>
+    </message>
+    <message>
+        <source>  (newest)</source>
+        <translation>  (الأحدث)</translation>
+    </message>
+    <message>
+        <source>%1  =  no limit</source>
+        <translation>‏⁨%1⁩  =  بلا حد</translation>
+    </message>
+    <message>
+        <source>no currency</source>
+        <translation>بلا عملة</translation>
+    </message>
+    <message>
+        <source>%1  =  %2, %3 a unit</source>
+        <translation>‏⁨%1⁩  =  ⁨%2⁩، ⁨%3⁩ للوحدة</translation>
+    </message>
+    <message>
+        <source>call meter</source>
+        <translation>عداد المكالمات</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>الحد الأقصى</translation>
+    </message>
+    <message>
+        <source>price</source>
+        <translation>السعر</translation>
+    </message>
+    <message>
+        <source>freely</source>
+        <translation>بحرية</translation>
+    </message>
+    <message>
+        <source>with PIN2</source>
+        <translation>باستخدام PIN2</translation>
+    </message>
+    <message>
+        <source>never</source>
+        <translation>أبداً</translation>
+    </message>
+    <message>
+        <source>Files of the SIM card</source>
+        <translation>ملفات بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>Why the SIM card was not changed</source>
+        <translation>لماذا لم تتغير بطاقة SIM</translation>
+    </message>
+    <message>
+        <source>written: %1</source>
+        <translation>الكتابة: ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Who may write %1</source>
+        <translation>من يمكنه كتابة ⁨%1⁩</translation>
+    </message>
+</context>
+<context>
+    <name>host::StateSection</name>
+    <message>
+        <source>State</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>In memory; gone when the window closes.</source>
+        <translation>في الذاكرة؛ تزول عند إغلاق النافذة.</translation>
+    </message>
+    <message>
+        <source>Kept in %1</source>
+        <translation>محفوظة في ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>Where the state is kept</source>
+        <translation>مكان حفظ الحالة</translation>
+    </message>
+</context>
+<context>
+    <name>host::StatusText</name>
+    <message>
+        <source>the number is not one that can be dialed</source>
+        <translation>لا يمكن الاتصال بهذا الرقم</translation>
+    </message>
+    <message>
+        <source>the line is in another state</source>
+        <translation>الخط في حالة أخرى</translation>
+    </message>
+    <message>
+        <source>not allowed now: nothing more may be charged</source>
+        <translation>غير مسموح الآن: لا يمكن احتساب المزيد</translation>
+    </message>
+    <message>
+        <source>an amount of at least one unit, and not more than the account holds</source>
+        <translation>مبلغ لا يقل عن وحدة واحدة ولا يزيد عما يتسع له الحساب</translation>
+    </message>
+    <message>
+        <source>not possible now</source>
+        <translation>غير ممكن الآن</translation>
+    </message>
+    <message>
+        <source>not allowed</source>
+        <translation>غير مسموح</translation>
+    </message>
+    <message>
+        <source>no price, or a currency of more than three characters</source>
+        <translation>لا يوجد سعر، أو عملة بأكثر من ثلاثة أحرف</translation>
+    </message>
+    <message>
+        <source>the SIM card refuses</source>
+        <translation>بطاقة SIM ترفض</translation>
+    </message>
+    <message>
+        <source>an access point name has 1 to 101 Latin-1 characters</source>
+        <translation>اسم نقطة الوصول من 1 إلى 101 من أحرف Latin-1</translation>
+    </message>
+    <message>
+        <source>a session is running, or none is</source>
+        <translation>هناك جلسة جارية، أو لا توجد أي جلسة</translation>
+    </message>
+    <message>
+        <source>PUK2 has eight digits, a PIN2 four to eight</source>
+        <translation>PUK2 من ثمانية أرقام، وPIN2 من أربعة إلى ثمانية</translation>
+    </message>
+    <message>
+        <source>PUK2 is blocked, too</source>
+        <translation>PUK2 محظور أيضاً</translation>
+    </message>
+    <message>
+        <source>a PIN2 has four to eight digits</source>
+        <translation>PIN2 من أربعة إلى ثمانية أرقام</translation>
+    </message>
+    <message>
+        <source>PIN2 is blocked</source>
+        <translation>PIN2 محظور</translation>
+    </message>
+    <message>
+        <source>the call is not kept any more</source>
+        <translation>لم تعد المكالمة محفوظة</translation>
+    </message>
+    <message>
+        <source>the call is still running</source>
+        <translation>ما زالت المكالمة جارية</translation>
+    </message>
+    <message>
+        <source>there is no such rule</source>
+        <translation>لا توجد قاعدة كهذه</translation>
+    </message>
+    <message>
+        <source>the network knows no such tariff</source>
+        <translation>الشبكة لا تعرف تعرفة كهذه</translation>
+    </message>
+    <message>
+        <source>the telephone cannot do this</source>
+        <translation>لا يستطيع الهاتف ذلك</translation>
+    </message>
+    <message>
+        <source>the call log cannot be written</source>
+        <translation>لا يمكن الكتابة في سجل المكالمات</translation>
+    </message>
+    <message>
+        <source>another process records the calls</source>
+        <translation>عملية أخرى تسجل المكالمات</translation>
+    </message>
+    <message>
+        <source>Not done: %1.</source>
+        <translation>لم يتم: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>Not done: the telephone answers %1.</source>
+        <translation>لم يتم: يجيب الهاتف ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>a value is out of range</source>
+        <translation>قيمة خارج النطاق</translation>
+    </message>
+    <message>
+        <source>it is not possible now</source>
+        <translation>غير ممكن الآن</translation>
+    </message>
+    <message>
+        <source>the SIM or the network does not allow it</source>
+        <translation>بطاقة SIM أو الشبكة لا تسمح بذلك</translation>
+    </message>
+</context>
+<context>
+    <name>host::TariffSection</name>
+    <message>
+        <source>Free</source>
+        <translation>مجاني</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>الوحدات</translation>
+    </message>
+    <message>
+        <source>for each</source>
+        <translation>لكل</translation>
+    </message>
+    <message>
+        <source>at the start</source>
+        <translation>في البداية</translation>
+    </message>
+    <message>
+        <source>Dialed calls</source>
+        <translation>المكالمات الصادرة</translation>
+    </message>
+    <message>
+        <source>Answered calls</source>
+        <translation>المكالمات المستلمة</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>‏⁨%1⁩: ⁨%2⁩</translation>
+    </message>
+    <message>
+        <source>Tariff</source>
+        <translation>التعرفة</translation>
+    </message>
+    <message>
+        <source>Why the tariff was not set</source>
+        <translation>لماذا لم يتم ضبط التعرفة</translation>
+    </message>
+    <message>
+        <source>%1 are free</source>
+        <translation>‏⁨%1⁩ مجانية</translation>
+    </message>
+    <message>
+        <source>Nothing is charged for them</source>
+        <translation>لا يُحتسب عليها شيء</translation>
+    </message>
+    <message>
+        <source>Units for each interval</source>
+        <translation>الوحدات لكل فترة</translation>
+    </message>
+    <message>
+        <source>Interval in seconds</source>
+        <translation>الفترة بالثواني</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> ث</translation>
+    </message>
+    <message>
+        <source>Units when the call is connected</source>
+        <translation>الوحدات عند اتصال المكالمة</translation>
+    </message>
+</context>
+<context>
+    <name>host::WaitNotice</name>
+    <message>
+        <source>Please wait ...</source>
+        <translation>يرجى الانتظار ...</translation>
+    </message>
+</context>
+</TS>
