@@ -106,7 +106,7 @@ QString readAlert(const QCommandLineParser &parser, Options &options)
         QStringList{QStringLiteral("COST"), QStringLiteral("TIME"), QStringLiteral("BYTES")}.indexOf(
             words.constFirst().toUpper());
     bool isNumber = false;
-    const double amount = words.value(1).toDouble(&isNumber);
+    const double amount = words.value(1).replace(u',', u'.').toDouble(&isNumber);
     if (kind < 0 || words.size() != 2 || !isNumber || !std::isfinite(amount) || amount < 0)
         return QStringLiteral("Option 'alert' wants COST, TIME or BYTES, and a number.");
     options.alert = Alert{static_cast<Alert::Kind>(kind), amount};

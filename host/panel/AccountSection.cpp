@@ -68,6 +68,7 @@ void AccountSection::addTopUp(QVBoxLayout *column)
     expires->setAccessibleName(tr("Good until"));
     expires->setToolTip(tr("Until when the deposit is good: year, month, day"));
     expires->setDisplayFormat(QStringLiteral("yyyy-MM-dd"));
+    expires->setLayoutDirection(Qt::LeftToRight); // else the day would stand first
     expires->setFocusPolicy(Qt::StrongFocus);
     leaveWheelToPanel(expires);
     amount->setText(QStringLiteral("20.00"));
@@ -88,7 +89,8 @@ void AccountSection::topUp()
     const handset::Date until{static_cast<quint16>(day.year()), static_cast<quint8>(day.month()),
                               static_cast<quint8>(day.day())};
     Line::Charging *charging = line.charging();
-    const int status = charging ? charging->topUp(amount->text(), until) : static_cast<int>(handset::NotAvailable);
+    const int status =
+        charging ? charging->topUp(plainNumber(amount->text()), until) : static_cast<int>(handset::NotAvailable);
     tell(failure, refusalText(status, accountMeaning));
     refresh();
 }

@@ -65,7 +65,32 @@ QLineEdit *makeEntry(const char *name, const QString &accessible, const QString 
     entry->setAccessibleName(accessible);
     entry->setToolTip(toolTip);
     entry->setMinimumWidth(narrowest);
+    entry->setLayoutDirection(Qt::LeftToRight);
     return entry;
+}
+
+QString plainNumber(const QString &typed)
+{
+    constexpr QChar arabicDecimalSeparator(0x066b);
+    QString plain = typed;
+    for (QChar &character : plain) {
+        if (character.isDigit())
+            character = QChar(u'0' + character.digitValue());
+        else if (character == u',' || character == arabicDecimalSeparator)
+            character = u'.';
+    }
+    return plain;
+}
+
+QValidator::State DecimalBox::validate(QString &text, int &place) const
+{
+    QString plain = plainNumber(text);
+    return QDoubleSpinBox::validate(plain, place);
+}
+
+double DecimalBox::valueFromText(const QString &text) const
+{
+    return QDoubleSpinBox::valueFromText(plainNumber(text));
 }
 
 void leaveWheelToPanel(QWidget *control)

@@ -1,6 +1,7 @@
 // The controls that the sections are made of, so that all look and behave alike.
 #pragma once
 
+#include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QLabel>
 
 class QComboBox;
@@ -16,7 +17,22 @@ QLabel *makeValue(const char *name, const QString &accessible);
 QPushButton *makeButton(const QString &text, const QString &toolTip);
 /// A choice, likewise.
 QComboBox *makeChoice(const char *name, const QString &accessible, const QStringList &items);
+/// For numbers, codes and names that are written from left to right in every language.
 QLineEdit *makeEntry(const char *name, const QString &accessible, const QString &toolTip);
+
+/// A number as the phone writes it, 0.23, of one as it is typed in any language: the decimal sign may be a comma, the
+/// digits those of the keyboard. What is no number stays none.
+QString plainNumber(const QString &typed);
+
+/// Takes what is typed as plainNumber() does.
+class DecimalBox : public QDoubleSpinBox
+{
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+    QValidator::State validate(QString &text, int &place) const override;
+    double valueFromText(const QString &text) const override;
+};
 
 /// The wheel turns the panel and not the choice or number that happens to be under it, unless that has the focus.
 void leaveWheelToPanel(QWidget *control);

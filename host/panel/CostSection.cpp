@@ -104,7 +104,7 @@ void CostSection::setType(int chosen)
 void CostSection::setPrice()
 {
     AdviceOfCharge *advice = line.handset().adviceOfCharge();
-    const int status = advice ? advice->setPriceAndCurrency(price->text(), currency->text())
+    const int status = advice ? advice->setPriceAndCurrency(plainNumber(price->text()), currency->text())
                               : static_cast<int>(handset::NotAvailable);
     tell(failure, refusalText(status, costMeaning));
     if (status == handset::Success) {

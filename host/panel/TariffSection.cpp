@@ -54,7 +54,7 @@ quint16 tenths(const QDoubleSpinBox *box)
 
 QDoubleSpinBox *makeBox(const ColumnPlan &plan, const char *what, const QString &toolTip, double least)
 {
-    auto *box = new QDoubleSpinBox;
+    auto *box = new DecimalBox;
     box->setObjectName(QStringLiteral("tariff %1 %2").arg(QLatin1StringView(plan.name), QLatin1StringView(what)));
     box->setAccessibleName(TariffSection::tr("%1: %2").arg(TariffSection::tr(plan.title), toolTip));
     box->setToolTip(toolTip);

@@ -157,6 +157,8 @@ private slots:
     void whatIsBeingTypedIsNotTakenAway();
     void theChargeTypeIsSetAndShown();
     void priceAndCurrencyAreSetAndShownAsTheSimKeepsThem();
+    void aNumberIsTakenAsAnyLanguageTypesIt_data();
+    void aNumberIsTakenAsAnyLanguageTypesIt();
     void aPriceThatIsNoneOrThatTheSimRefusesIsToldAndForgotten();
     void theCreditLimitIsShown();
     void theAccountIsToppedUp();
@@ -551,6 +553,45 @@ void TestPanel::theChargeTypeIsSetAndShown()
     QCOMPARE(type, quint8{AdviceOfCharge::InUnits});
     QCOMPARE(owner->adviceOfCharge()->setChargeType(AdviceOfCharge::InCurrency), 0);
     QCOMPARE(control<QComboBox>("charge type")->currentIndex(), 1);
+}
+
+void TestPanel::aNumberIsTakenAsAnyLanguageTypesIt_data()
+{
+    QTest::addColumn<QString>("price");
+    QTest::addColumn<QString>("units");
+    QTest::addColumn<QString>("deposit");
+    QTest::newRow("with a comma") << "0,23"
+                                  << "2,5"
+                                  << "12,50";
+    QTest::newRow("with Arabic digits and their decimal sign")
+        << QString::fromUtf8("\u0660\u066b\u0662\u0663") << QString::fromUtf8("\u0662\u066b\u0665")
+        << QString::fromUtf8("\u0661\u0662\u066b\u0665\u0660");
+    QTest::newRow("as it is shown") << "0.23"
+                                    << "2.5"
+                                    << "12.50";
+}
+
+void TestPanel::aNumberIsTakenAsAnyLanguageTypesIt()
+{
+    QFETCH(QString, price);
+    QFETCH(QString, units);
+    QFETCH(QString, deposit);
+    showTab("Charging");
+    control<QLineEdit>("price")->setText(price);
+    click("Set price");
+    QString kept;
+    QString currency;
+    QCOMPARE(owner->adviceOfCharge()->priceAndCurrency(kept, currency), 0);
+    QCOMPARE(kept, "0.23");
+    auto *box = control<QDoubleSpinBox>("tariff dialed units");
+    box->findChild<QLineEdit *>()->setText(units);
+    QTest::keyClick(box, Qt::Key_Return);
+    QCOMPARE(charging().tariff(CallDirection::Dialed).unitsPerInterval, quint16{25});
+    QCOMPARE(box->text(), "2.5");
+    control<QLineEdit>("top-up amount")->setText(deposit);
+    click("Top up");
+    QCOMPARE(label("account failure"), "");
+    QCOMPARE(label("credit"), "Credit: 12.00 units"); // in whole units
 }
 
 void TestPanel::priceAndCurrencyAreSetAndShownAsTheSimKeepsThem()

@@ -249,6 +249,8 @@ void TestMeter::exitCodesTellOfLimitsAndAlerts()
     makeHistory(state.path());
     QCOMPARE(run(state.path(), {"--alert", "COST", "8"}).code, 6);
     QCOMPARE(run(state.path(), {"--alert", "COST", "8.5"}).code, 0);
+    QCOMPARE(run(state.path(), {"--alert", "COST", "8,5"}).code, 0);
+    QCOMPARE(run(state.path(), {"--alert", "COST", "7,5"}).code, 6);
     QCOMPARE(run(state.path(), {"--alert", "TIME", "100"}).code, 6);
     QCOMPARE(run(state.path(), {"--alert", "TIME", "101"}).code, 0);
     QCOMPARE(run(state.path(), {"--alert", "BYTES", "132000"}).code, 6);
