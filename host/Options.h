@@ -24,6 +24,8 @@ struct Options {
     QString script;        ///< what the tour plays
 
     bool isTour() const { return !tourDirectory.isEmpty(); }
+    /// Of a tour, which takes no language from the locale.
+    bool isInEnglish() const { return translation.isEmpty() && (language.isEmpty() || language == u"en"); }
 };
 
 struct CommandLine {

@@ -186,6 +186,15 @@ int readScript(const QString &fileName, tour::Script &script)
     return script.mistakes.isEmpty() ? ExitSuccess : ExitBadScript;
 }
 
+// The shipped tour says what is to be seen in English; in another language it is for its photographs.
+void passOverEnglish(const Options &options, tour::Script &script)
+{
+    if (options.isInEnglish() || !options.script.startsWith(u':'))
+        return;
+    script.steps.removeIf(
+        [](const tour::Step &step) { return std::holds_alternative<tour::Expect>(step.action); });
+}
+
 int runTour(const Options &options, const EndSignals &endSignals)
 {
     ScreenLibrary library;
@@ -194,6 +203,7 @@ int runTour(const Options &options, const EndSignals &endSignals)
     tour::Script script;
     if (const int code = readScript(options.script, script))
         return code;
+    passOverEnglish(options, script);
     if (const int code = startTrace(options.traceFile))
         return code;
     QTextStream output(stdout);

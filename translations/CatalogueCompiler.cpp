@@ -77,10 +77,10 @@ QList<Message> readMessages(QXmlStreamReader &xml)
 
 // --- the pseudo-language
 
-// What is read to the program and not to people.
+// What the program reads, and the codes of currencies.
 bool isKept(const Message &message)
 {
-    return message.source == "QT_LAYOUT_DIRECTION" || message.comment.size() == 3;
+    return message.source == "QT_LAYOUT_DIRECTION" || message.source == "TXT_RID_LIST_A_" + message.comment;
 }
 
 QString accented(const QString &english)

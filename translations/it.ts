@@ -1079,7 +1079,7 @@
     <message>
         <source>FMT_RID_INSTRUCTIONALTXT_CURRENT_CREDIT_AVAILABLE_IS_2</source>
         <comment>Your current credit available is %1 units</comment>
-        <translation>Il credito disponibile è di %1 unità</translation>
+        <translation>Il credito disponibile è di %1</translation>
     </message>
     <message>
         <source>TXT_RID_HEADER_EXPIRATION_DATE</source>

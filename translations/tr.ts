@@ -1079,7 +1079,7 @@
     <message>
         <source>FMT_RID_INSTRUCTIONALTXT_CURRENT_CREDIT_AVAILABLE_IS_2</source>
         <comment>Your current credit available is %1 units</comment>
-        <translation>Kalan krediniz %1 birim</translation>
+        <translation>Kalan krediniz: %1</translation>
     </message>
     <message>
         <source>TXT_RID_HEADER_EXPIRATION_DATE</source>

@@ -8,10 +8,11 @@ namespace host::tour {
 
 namespace {
 
-// "Call Times" -> "call-times"
+// "Call Times" -> "call-times", in any script
 QString fileNamePart(const QString &name)
 {
-    static const QRegularExpression unusable(QStringLiteral("[^a-z0-9]+"));
+    static const QRegularExpression unusable(QStringLiteral("[^\\p{L}\\p{M}\\p{N}]+"),
+                                             QRegularExpression::UseUnicodePropertiesOption);
     QString part = name.toLower().replace(unusable, QStringLiteral("-"));
     while (part.startsWith(u'-'))
         part.remove(0, 1);
