@@ -54,9 +54,11 @@ private slots:
     void aSignalEndsTheWindowWithItsCallWritten_data();
     void aSignalEndsTheWindowWithItsCallWritten();
     void theQuestionWhetherTheDisplayAnswersEndsNoServer();
+    void theWindowSpeaksTheLanguageOfTheLocale_data();
+    void theWindowSpeaksTheLanguageOfTheLocale();
 
 private:
-    void start();
+    void start(const QString &title = QStringLiteral("Recent Calls"), const QByteArray &locale = {});
     void xdotool(const QStringList &arguments);
     void press(const char *keys);
     QImage photograph() const;
@@ -102,15 +104,21 @@ std::shared_ptr<Handset> TestWindow::reopenState()
     return opened.handset;
 }
 
-void TestWindow::start()
+void TestWindow::start(const QString &title, const QByteArray &locale)
 {
     host = std::make_unique<QProcess>();
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (!locale.isEmpty()) {
+        environment.remove(QStringLiteral("LANGUAGE"));
+        environment.insert(QStringLiteral("LC_ALL"), QString::fromLatin1(locale));
+    }
+    host->setProcessEnvironment(environment);
     host->setProcessChannelMode(QProcess::ForwardedChannels);
     host->start(QStringLiteral(KAV_HOST), {QStringLiteral("--state"), state->path()});
     QVERIFY2(host->waitForStarted(patience), qPrintable(host->errorString()));
     // Without a window manager the focus is given by hand, to the window once it is there.
     xdotool({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
-             QStringLiteral("--name"), QStringLiteral("^Recent Calls$"), QStringLiteral("windowmove"),
+             QStringLiteral("--name"), QStringLiteral("^%1$").arg(title), QStringLiteral("windowmove"),
              QStringLiteral("0"), QStringLiteral("0"), QStringLiteral("windowfocus"), QStringLiteral("--sync")});
 }
 
@@ -310,6 +318,22 @@ void TestWindow::theQuestionWhetherTheDisplayAnswersEndsNoServer()
     const QByteArray errors = program.readAllStandardError();
     QVERIFY2(program.exitStatus() == QProcess::NormalExit, errors.constData());
     QCOMPARE(program.exitCode(), 0);
+}
+
+void TestWindow::theWindowSpeaksTheLanguageOfTheLocale_data()
+{
+    QTest::addColumn<QByteArray>("locale");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("of another country") << QByteArray("de_AT.UTF-8") << "Letzte Anrufe";
+    QTest::newRow("one without a catalogue") << QByteArray("eo.UTF-8") << "Recent Calls";
+}
+
+void TestWindow::theWindowSpeaksTheLanguageOfTheLocale()
+{
+    QFETCH(QByteArray, locale);
+    QFETCH(QString, title);
+    start(title, locale);
+    leave();
 }
 
 KAV_TEST_GROUP(TestWindow, ApplicationOnItsOwnServer);
