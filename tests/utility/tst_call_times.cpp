@@ -484,6 +484,7 @@ void TestCallTimes::anAnswerWithoutAQuestionDoesNothing()
 {
     QFETCH(const QByteArray, slot);
     open();
+    QCOMPARE(screen()->*exposed(ResetRow()), -1);
     journal.clear();
     QVERIFY(QMetaObject::invokeMethod(screen(), slot.constData()));
     QCOMPARE(journal.lines(), QStringList());

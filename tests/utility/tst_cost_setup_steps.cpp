@@ -13,8 +13,10 @@
 #include "support/ScreenClock.h"
 #include "support/ToolkitRecorder.h"
 
+#include "log/aplog.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZListBox.h"
+#include "toolkit/ZNoticeDlg.h"
 #include "toolkit/ZPopup.h"
 #include "toolkit/ZSettingItem.h"
 
@@ -22,6 +24,7 @@
 #include <QtCore/QPointer>
 #include <QtTest/QSignalSpy>
 
+#include <cstdio>
 #include <dlfcn.h>
 
 using ZKeys::PhoneKey;
@@ -162,6 +165,51 @@ QStringList entrySteps(int number, const QString &header, const QString &methods
                 dialog + ".show()"});
 }
 
+// While it lives, the message of every trace in the long form goes into the journal, in its place among the steps.
+class JournalledTraces
+{
+public:
+    JournalledTraces()
+        : previous(libaplog_to_module_ptr)
+        , stream(fopencookie(this, "w", {nullptr, &JournalledTraces::write, nullptr, nullptr}))
+    {
+        std::setvbuf(stream, nullptr, _IONBF, 0); // a trace is one write
+        libaplog_to_module_ptr = stream;
+    }
+    ~JournalledTraces()
+    {
+        libaplog_to_module_ptr = previous;
+        std::fclose(stream);
+    }
+    Q_DISABLE_COPY_MOVE(JournalledTraces)
+
+private:
+    static ssize_t write(void *, const char *text, size_t size)
+    {
+        const QString trace = QString::fromLatin1(text, qsizetype(size));
+        if (trace.startsWith(QLatin1Char('\n')))
+            Journal::shared().record("trace " + trace.section(QLatin1Char('"'), 1, 1));
+        return ssize_t(size);
+    }
+
+    FILE *previous;
+    FILE *stream;
+};
+
+// Tells when a notice comes on show whether its time already runs.
+class NoticeWatch : public QObject
+{
+public:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Show && qobject_cast<ZNoticeDlg *>(object))
+            timersThen.append(int(ScreenClock::pending().size()));
+        return false;
+    }
+
+    QList<int> timersThen;
+};
+
 int enginesAsked = 0;
 
 } // namespace
@@ -203,6 +251,9 @@ private slots:
     void theEngineIsFetchedBeforeEveryCall();
     void theEnginesSignalsAreConnectedToNothing();
     void theMeterGoesWithTheScreen();
+    void everyTraceStandsInItsPlaceAmongTheSteps_data();
+    void everyTraceStandsInItsPlaceAmongTheSteps();
+    void theNoticeIsOnShowBeforeItsTimeRuns();
 
     void withoutAMeterTheListStaysEmpty();
     void whatCannotBeMadeIsNotShown_data();
@@ -530,6 +581,96 @@ void TestCostSetupSteps::theMeterGoesWithTheScreen()
     QVERIFY(!meter->parent());
     view.reset();
     QVERIFY(!meter);
+}
+
+void TestCostSetupSteps::everyTraceStandsInItsPlaceAmongTheSteps_data()
+{
+    QTest::addColumn<QString>("before");
+    QTest::addColumn<QString>("trace");
+    QTest::addColumn<QString>("behind");
+    QTest::newRow("the rules") << "AdviceOfCharge::updateRule(64)"
+                               << "initAccessRule done for 3 EFs, each are: EFACM: 0, EFACMMAX: 0, EFPUCT: 0"
+                               << "ZSettingItem(list, null)";
+    QTest::newRow("a title") << "ZSettingItem(list, null)"
+                             << "in makeCategoryString(), type: [0]"
+                             << "row 0.appendSubItem(0, \"Reset All\", false, 0)";
+    QTest::newRow("a value") << "row 4.appendSubItem(0, \"Credit Limit\", false, 0)"
+                             << "in makeCategoryItem(), type: [4]"
+                             << "row 4.appendSubItem(0, \"On\", false, 1)";
+    QTest::newRow("the unit") << "trace PHONE_UI_RecentCallMeter::TranslateCurrency string=GBP.\\n"
+                              << "showData(), the unitText: [GBP]"
+                              << "AdviceOfCharge::meterMaximum";
+    QTest::newRow("the limit that was read") << "AdviceOfCharge::meterMaximum"
+                                             << "res: [0], preMeterMax: [100], preCMMEnable: [1]"
+                                             << "trace CMMEnable: [1]";
+    QTest::newRow("the limit's switch") << "trace res: [0], preMeterMax: [100], preCMMEnable: [1]"
+                                        << "CMMEnable: [1]"
+                                        << "row 4.setSubItem(0, 1, \"On\", false, 1)";
+    QTest::newRow("the charge type that was read") << "AdviceOfCharge::chargeType"
+                                                   << "res: [0], preChargeType: [1]"
+                                                   << "trace ChargeType: [1]";
+    QTest::newRow("the currency's switch") << "trace res: [0], preChargeType: [1]"
+                                           << "ChargeType: [1]"
+                                           << "row 6.setSubItem(0, 1, \"On\", false, 1)";
+    QTest::newRow("the price that was read") << "AdviceOfCharge::priceAndCurrency"
+                                             << "res: [0], prePricePerUnit: [0.10], preCurrencyTable: [GBP]"
+                                             << "row 7.setSubItem(0, 1, \"GBP\", false, 1)";
+    QTest::newRow("the row that is chosen")
+        << "SimSecurity::pinStatus(1)"
+        << "index: [4]"
+        << "ZSingleSelectDlg(\"Credit Limit\", null, screen, null, true, 0, 0)";
+    QTest::newRow("a choice") << "connect(dialog 1, \"2rightSoftkeyClicked()\", screen, \"1slotClose()\")"
+                              << "curCallSetType: [2], curCallSetType: [2]"
+                              << "choices.setItemType(\"%I%M\")";
+    QTest::newRow("an entry") << "dialog 2.setSoftkeyTextLeft(\"Save\")"
+                              << "in RCCostSetupView::showCaptureDlg(), curCallSetType: [0]"
+                              << "dialog 2.getMultiLineEdit()";
+    QTest::newRow("what is entered") << ""
+                                     << "curText: [5], curCallSetType: [0]"
+                                     << "delete dialog 2";
+    QTest::newRow("what is to be written") << "trace preMeterMaxChanged: [1], preCMMEnableChanged: [0], "
+                                              "preChargeTypeChanged: [0]"
+                                           << "preCurrencyTableChanged: [0], prePricePerUnitChanged: [0]"
+                                           << "AdviceOfCharge::setMeterMaximum(5)";
+    QTest::newRow("what is written") << "AdviceOfCharge::setMeterMaximum(5)"
+                                     << "result: [0]"
+                                     << "AdviceOfCharge::chargeType";
+}
+
+void TestCostSetupSteps::everyTraceStandsInItsPlaceAmongTheSteps()
+{
+    QFETCH(const QString, before);
+    QFETCH(const QString, trace);
+    QFETCH(const QString, behind);
+    const JournalledTraces traced;
+    view = std::make_unique<View>(host.get(), "setup");
+    host->show();
+    view->show();
+    ZListBox *list = PhoneScreen::list(view.get());
+    for (const int row : {limitRow, adjustRow}) {
+        list->setSelected(row, true);
+        PhoneScreen::press(PhoneKey::Select);
+        if (row == limitRow)
+            PhoneScreen::press(PhoneKey::RightSoftkey);
+    }
+    ZApplication::pressKey(Qt::Key_5);
+    PhoneScreen::press(PhoneKey::LeftSoftkey);
+    const QStringList steps = journal.lines();
+    const qsizetype at = steps.indexOf("trace " + trace);
+    QVERIFY2(at >= 0, qPrintable(steps.join(QLatin1Char('\n'))));
+    if (!before.isEmpty())
+        QCOMPARE(steps.value(at - 1), before);
+    QCOMPARE(steps.value(at + 1), behind);
+}
+
+void TestCostSetupSteps::theNoticeIsOnShowBeforeItsTimeRuns()
+{
+    open();
+    NoticeWatch watch;
+    qApp->installEventFilter(&watch);
+    choose(0);
+    QCOMPARE(watch.timersThen, QList<int>{0});
+    QCOMPARE(ScreenClock::pending().size(), 1);
 }
 
 // --- memory that runs out

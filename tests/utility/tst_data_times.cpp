@@ -24,6 +24,8 @@ using DataTimes = HostedScreen<View>;
 
 KAV_EXPOSE(OpenDlg, &View::openDlg);
 KAV_EXPOSE(TimesMeter, &View::meter);
+KAV_EXPOSE(ItemTitle, &View::getItemTitle);
+KAV_EXPOSE(ItemValue, &View::getItemValue);
 
 namespace {
 
@@ -66,6 +68,7 @@ private slots:
 
     void sessionsAreCalledByTheirAccessPoint();
     void aSessionWithoutAnAccessPointHasItsFallbackName();
+    void aRowOutsideTheTableHasNoTitleAndNoValue();
     void sessionsAreAskedBeforeTheTotalAndOnceOnly();
     void theFrameIsTheCommonOne();
     void theScreenIsAFrameOfItsOwnClass();
@@ -135,6 +138,15 @@ void TestDataTimes::aSessionWithoutAnAccessPointHasItsFallbackName()
     open();
     QCOMPARE(PhoneScreen::rows(screen()),
              rows("GPRS Data Session 1", "GPRS Data Session 2", "GPRS Data Session 3"));
+}
+
+void TestDataTimes::aRowOutsideTheTableHasNoTitleAndNoValue()
+{
+    open();
+    for (const int row : {-1, 7, 8}) {
+        QVERIFY((screen()->*exposed(ItemTitle()))(row).isNull());
+        QVERIFY((screen()->*exposed(ItemValue()))(row).isNull());
+    }
 }
 
 void TestDataTimes::sessionsAreAskedBeforeTheTotalAndOnceOnly()

@@ -31,6 +31,7 @@ using DataVolumes = HostedScreen<View>;
 KAV_EXPOSE(OpenDlg, &View::openDlg);
 KAV_EXPOSE(OpenDetail, &View::detailView);
 KAV_EXPOSE(VolumesMeter, &View::meter);
+KAV_EXPOSE(ItemTitle, &View::getItemTitle);
 KAV_EXPOSE(DetailDlg, &DetailView::openDlg);
 KAV_EXPOSE(DetailMeter, &DetailView::meter);
 KAV_EXPOSE(SentText, &DetailView::sentText);
@@ -118,6 +119,7 @@ private slots:
 
     void rowsShowNamesOnlyAndSessionsAreAskedOnce();
     void aSessionWithoutAnAccessPointHasTheSeparatorsFallback();
+    void aRowOutsideTheTableHasNoTitle();
     void theFrameIsTheCommonOne();
     void bothScreensAreFramesOfTheirOwnClasses();
     void slotsAndSignalsHaveTheirOrder();
@@ -257,6 +259,13 @@ void TestDataVolumes::aSessionWithoutAnAccessPointHasTheSeparatorsFallback()
              "QObject/TXT_RID_SEPARATOR_GPRS_DATA_SESSION_2", "QObject/TXT_RID_SEPARATOR_GPRS_DATA_SESSION_3",
              "QObject/TXT_RID_SEPARATOR_ALL_DATA_SESSIONS", "QObject/TXT_RID_SETTING_A_TOTAL_DATA_TRANSFERRED",
              "QObject/TXT_RID_SETTING_A_RESET_ALL_DATA_SESSIONS"}));
+}
+
+void TestDataVolumes::aRowOutsideTheTableHasNoTitle()
+{
+    open();
+    for (const int row : {-1, 7, 8})
+        QVERIFY((screen()->*exposed(ItemTitle()))(row).isNull());
 }
 
 void TestDataVolumes::theFrameIsTheCommonOne()
