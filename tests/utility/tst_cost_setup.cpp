@@ -163,7 +163,7 @@ private slots:
     void withoutACurrentRowTheSwitchIsOff();
     void withoutACurrentRowTheCodeIsEmpty();
     void anEntryForAnotherEditorStoresNothing();
-    void theEntryGoesBeforeItIsWritten();
+    void theEntryIsStoredThenGoesThenIsWritten();
 
 private:
     std::unique_ptr<View> view;
@@ -816,15 +816,18 @@ void TestCostSetup::anEntryForAnotherEditorStoresNothing()
     }
 }
 
-void TestCostSetup::theEntryGoesBeforeItIsWritten()
+void TestCostSetup::theEntryIsStoredThenGoesThenIsWritten()
 {
     open();
     choose(Price);
     const QPointer<ZPopup> entry = dialog();
+    QString stored; // when it goes
+    connect(entry, &QObject::destroyed, this, [&] { stored = view.get()->*exposed(PricePerUnit()); });
     bool wasGone = false;
     script().whenCalled("AdviceOfCharge::setPriceAndCurrency", [&] { wasGone = !entry && !dialog(); });
     traces->take();
     type(QStringLiteral("0.35"));
+    QCOMPARE(stored, QString("0.35"));
     QVERIFY(wasGone);
     QVERIFY(traces->take().startsWith(traced("slotSave", "curText: [0.35], curCallSetType: [1]")));
 }
