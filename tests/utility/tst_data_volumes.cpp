@@ -34,6 +34,7 @@ KAV_EXPOSE(VolumesMeter, &View::meter);
 KAV_EXPOSE(ItemTitle, &View::getItemTitle);
 KAV_EXPOSE(DetailDlg, &DetailView::openDlg);
 KAV_EXPOSE(DetailMeter, &DetailView::meter);
+KAV_EXPOSE(DetailItemTitle, &DetailView::getItemTitle);
 KAV_EXPOSE(SentText, &DetailView::sentText);
 KAV_EXPOSE(ReceivedText, &DetailView::receivedText);
 KAV_EXPOSE(SumText, &DetailView::sumText);
@@ -785,6 +786,8 @@ void TestDataVolumes::aDetailOfNoSlotHasNoFiguresAndStillANotice()
             QVERIFY(text.isEmpty());
             QVERIFY(!text.isNull());
         }
+        for (const int row : {-1, 5, 6, 1'000'000, -1'000'000})
+            QVERIFY((view.*exposed(DetailItemTitle()))(row).isNull());
         for (const int row : {2, 3, 4}) {
             PhoneScreen::chooseRow(&view, row);
             const QPointer<ZMessageDlg> notice = view.*exposed(DetailDlg());
