@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>سجل المكالمات تالف. يبدأ التشغيل التالي سجلاً جديداً بما يمكن قراءته منه.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>سجل المكالمات تالف، ولا يمكن تدوين ذلك للتشغيل التالي.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>جارٍ نسخ سجل المكالمات</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>تُعاد قراءة سجل المكالمات التالف</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>جارٍ كتابة السجل الجديد على القرص</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>جارٍ فحص السجل الجديد</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>جارٍ البحث عن نهاية التلف</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>جارٍ عدّ ما تمت قراءته</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>جارٍ تحديث سجل المكالمات</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>يخص مستخدماً آخر</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>يمكن لمستخدمين آخرين الكتابة فيه</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>دليل الحالة "⁨%1⁩" ⁨%2⁩، ويمكنهم تغيير ما يُحفظ فيه.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>يقع دليل الحالة "⁨%1⁩" في دليل يمكن لمستخدمين آخرين الكتابة فيه، ويمكنهم وضع غيره مكانه.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>في انتظار ⁨%1⁩</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>عملية أخرى</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager لا يجيب</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>لا يمكن إجراء المكالمة</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>لا يمكن إجراء المكالمة: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>لا يمكن الرد على المكالمة</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>لا يمكن إنهاء المكالمة</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>إنه مشغول</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>إنه غير جاهز لذلك</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>لا يستطيع المودم ذلك</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>ليس هذا رقماً يُتصل به</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>لا توجد شبكة</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>لا يُسمح لهذا المستخدم</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>إنه لا يجيب</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>فشل (⁨%1⁩)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>لم توصل الشبكة المكالمة.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>الهاتف لا يتصل: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>الهاتف لا يرد على المكالمة: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>الهاتف لا ينهي المكالمة: ⁨%1⁩.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

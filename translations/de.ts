@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>Die Anrufliste ist beschädigt. Der nächste Start beginnt eine neue, mit dem, was lesbar ist.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>Die Anrufliste ist beschädigt, und das lässt sich für den nächsten Start nicht vermerken.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Die Anrufliste wird kopiert</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Die beschädigte Anrufliste wird noch einmal gelesen</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Die neue Anrufliste wird auf die Platte geschrieben</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Die neue Anrufliste wird geprüft</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Das Ende des Schadens wird gesucht</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Was gelesen wurde, wird gezählt</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Die Anrufliste wird auf den neuen Stand gebracht</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>gehört einem anderen Benutzer</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>darf von anderen Benutzern beschrieben werden</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>Das Zustandsverzeichnis "%1" %2; sie können ändern, was darin aufbewahrt ist.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>Das Zustandsverzeichnis "%1" liegt in einem, das andere Benutzer beschreiben dürfen; sie können ein anderes an seine Stelle setzen.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Warten auf %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>einen anderen Prozess</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager antwortet nicht</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>Der Anruf ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>Der Anruf ist nicht möglich: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>Der Anruf lässt sich nicht annehmen</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>Der Anruf lässt sich nicht beenden</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>es ist beschäftigt</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>es ist dafür nicht bereit</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>das Modem kann das nicht</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>das ist keine Nummer, die man anrufen kann</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>es gibt kein Netz</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>dieser Benutzer darf das nicht</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>es antwortet nicht</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>es schlug fehl (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>Das Netz hat den Anruf nicht durchgestellt.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>Das Telefon wählt nicht: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>Das Telefon nimmt den Anruf nicht an: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>Das Telefon beendet den Anruf nicht: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>El registro de llamadas está dañado. El próximo inicio empezará uno nuevo, con lo que se pueda leer de él.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>El registro de llamadas está dañado, y no se puede anotar para el próximo inicio.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Copiando el registro de llamadas</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Leyendo otra vez el registro dañado</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Escribiendo el registro nuevo en el disco</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Comprobando el registro nuevo</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Buscando el final del daño</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Contando lo que se ha leído</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Actualizando el registro de llamadas</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>pertenece a otro usuario</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>puede ser escrito por otros usuarios</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>El directorio de estado "%1" %2, que pueden cambiar lo que contiene.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>El directorio de estado "%1" está en otro en el que pueden escribir otros usuarios, que pueden poner otro en su lugar.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Esperando a %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>otro proceso</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager no responde</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>No se puede hacer la llamada</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>No se puede hacer la llamada: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>No se puede contestar la llamada</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>No se puede terminar la llamada</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>está ocupado</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>no está listo para eso</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>el módem no puede hacerlo</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>no es un número al que llamar</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>no hay red</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>este usuario no tiene permiso</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>no responde</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>ha fallado (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>La red no ha cursado la llamada.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>El teléfono no marca: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>El teléfono no contesta la llamada: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>El teléfono no termina la llamada: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>Le journal des appels est endommagé. Le prochain démarrage en commence un nouveau, avec ce qui peut en être lu.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>Le journal des appels est endommagé, et cela ne peut pas être noté pour le prochain démarrage.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Copie du journal des appels</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Nouvelle lecture du journal endommagé</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Écriture du nouveau journal sur le disque</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Vérification du nouveau journal</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Recherche de la fin des dommages</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Comptage de ce qui a été lu</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Mise à jour du journal des appels</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>appartient à un autre utilisateur</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>peut être écrit par d'autres utilisateurs</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>Le répertoire d'état "%1" %2, qui peuvent changer ce qui y est conservé.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>Le répertoire d'état "%1" est dans un répertoire que d'autres utilisateurs peuvent écrire, et qui peuvent en mettre un autre à sa place.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>En attente de %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>un autre processus</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager ne répond pas</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>L'appel ne peut pas être émis</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>L'appel ne peut pas être émis : %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>L'appel ne peut pas être pris</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>L'appel ne peut pas être terminé</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>il est occupé</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>il n'est pas prêt pour cela</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>le modem ne sait pas le faire</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>ce n'est pas un numéro à appeler</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>il n'y a pas de réseau</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>cet utilisateur n'en a pas le droit</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>il ne répond pas</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>échec (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>Le réseau n'a pas acheminé l'appel.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>Le téléphone ne compose pas : %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>Le téléphone ne prend pas l'appel : %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>Le téléphone ne termine pas l'appel : %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

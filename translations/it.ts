@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>Il registro delle chiamate è danneggiato. Il prossimo avvio ne comincia uno nuovo, con ciò che se ne può leggere.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>Il registro delle chiamate è danneggiato, e non lo si può annotare per il prossimo avvio.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Copia del registro delle chiamate</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Nuova lettura del registro danneggiato</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Scrittura del nuovo registro sul disco</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Verifica del nuovo registro</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Ricerca della fine del danno</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Conteggio di ciò che è stato letto</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Aggiornamento del registro delle chiamate</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>appartiene a un altro utente</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>può essere scritta da altri utenti</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>La cartella di stato "%1" %2, che possono cambiare ciò che contiene.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>La cartella di stato "%1" si trova in una che altri utenti possono scrivere, e questi possono mettere un'altra al suo posto.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>In attesa di %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>un altro processo</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager non risponde</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>Impossibile effettuare la chiamata</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>Impossibile effettuare la chiamata: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>Impossibile rispondere alla chiamata</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>Impossibile terminare la chiamata</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>è occupato</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>non è pronto per questo</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>il modem non può farlo</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>non è un numero da chiamare</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>non c'è rete</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>questo utente non può</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>non risponde</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>non è riuscito (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>La rete non ha inoltrato la chiamata.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>Il telefono non compone: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>Il telefono non risponde alla chiamata: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>Il telefono non termina la chiamata: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>Rejestr połączeń jest uszkodzony. Następne uruchomienie założy nowy, z tym, co da się odczytać.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>Rejestr połączeń jest uszkodzony i nie można tego odnotować na następne uruchomienie.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Kopiowanie rejestru połączeń</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Ponowny odczyt uszkodzonego rejestru</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Zapisywanie nowego rejestru na dysku</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Sprawdzanie nowego rejestru</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Szukanie końca uszkodzenia</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Liczenie tego, co odczytano</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Aktualizowanie rejestru połączeń</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>należy do innego użytkownika</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>może być zapisywany przez innych użytkowników</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>Katalog stanu "%1" %2, a oni mogą zmienić jego zawartość.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>Katalog stanu "%1" leży w katalogu, który mogą zapisywać inni użytkownicy, a oni mogą podstawić inny na jego miejsce.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Oczekiwanie na %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>inny proces</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager nie odpowiada</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>Nie można zadzwonić</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>Nie można zadzwonić: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>Nie można odebrać połączenia</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>Nie można zakończyć połączenia</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>jest zajęty</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>nie jest na to gotowy</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>modem tego nie potrafi</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>pod ten numer nie można zadzwonić</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>brak sieci</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>ten użytkownik nie może</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>nie odpowiada</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>nie powiodło się (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>Sieć nie zestawiła połączenia.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>Telefon nie wybiera numeru: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>Telefon nie odbiera połączenia: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>Telefon nie kończy połączenia: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

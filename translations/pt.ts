@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>O registo de chamadas está danificado. O próximo arranque começa um novo, com o que se puder ler dele.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>O registo de chamadas está danificado, e isso não pode ser anotado para o próximo arranque.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>A copiar o registo de chamadas</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>A ler mais uma vez o registo danificado</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>A escrever o novo registo no disco</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>A verificar o novo registo</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>A procurar o fim do dano</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>A contar o que foi lido</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>A atualizar o registo de chamadas</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>pertence a outro utilizador</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>pode ser escrito por outros utilizadores</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>O diretório de estado "%1" %2, que podem alterar o que ele contém.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>O diretório de estado "%1" está noutro em que outros utilizadores podem escrever, e estes podem pôr outro no seu lugar.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>À espera de %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>outro processo</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>O ModemManager não responde</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>Não é possível fazer a chamada</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>Não é possível fazer a chamada: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>Não é possível atender a chamada</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>Não é possível terminar a chamada</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>está ocupado</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>não está pronto para isso</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>o modem não consegue fazê-lo</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>isso não é um número para ligar</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>não há rede</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>este utilizador não tem permissão</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>não responde</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>falhou (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>A rede não encaminhou a chamada.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>O telefone não marca: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>O telefone não atende a chamada: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>O telefone não termina a chamada: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

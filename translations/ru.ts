@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>Журнал вызовов повреждён. При следующем запуске будет начат новый, с тем, что удастся прочитать.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>Журнал вызовов повреждён, и это не удаётся отметить для следующего запуска.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Копирование журнала вызовов</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Повторное чтение повреждённого журнала</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Запись нового журнала на диск</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Проверка нового журнала</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Поиск конца повреждения</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Подсчёт прочитанного</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Обновление журнала вызовов</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>принадлежит другому пользователю</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>доступен для записи другим пользователям</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>Каталог состояния "%1" %2; его содержимое могут изменить.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>Каталог состояния "%1" лежит в каталоге, доступном для записи другим пользователям; они могут подменить его.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>Ожидается %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>другой процесс</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager не отвечает</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>Не удаётся позвонить</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>Не удаётся позвонить: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>Не удаётся ответить на вызов</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>Не удаётся завершить вызов</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>он занят</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>он к этому не готов</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>модем этого не умеет</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>на такой номер нельзя позвонить</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>нет сети</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>этому пользователю нельзя</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>он не отвечает</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>не удалось (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>Сеть не установила соединение.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>Телефон не набирает: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>Телефон не отвечает на вызов: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>Телефон не завершает вызов: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

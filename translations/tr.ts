@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>Arama kaydı bozuk. Sonraki başlatma, okunabilenlerle yeni bir kayıt başlatır.</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>Arama kaydı bozuk ve bu, sonraki başlatma için not edilemiyor.</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>Arama kaydı kopyalanıyor</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>Bozuk arama kaydı yeniden okunuyor</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>Yeni arama kaydı diske yazılıyor</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>Yeni arama kaydı denetleniyor</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>Bozukluğun sonu aranıyor</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>Okunanlar sayılıyor</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>Arama kaydı güncelleniyor</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>başka bir kullanıcınındır</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>başka kullanıcılarca yazılabilir</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>"%1" durum dizini %2; onlar içindekileri değiştirebilir.</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>"%1" durum dizini, başka kullanıcıların yazabildiği bir dizinde; onlar yerine başkasını koyabilir.</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>%1 bekleniyor</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>başka bir süreç</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>Arama yapılamıyor</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>Arama yapılamıyor: %1.</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>Arama yanıtlanamıyor</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>Arama bitirilemiyor</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>meşgul</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>buna hazır değil</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>modem bunu yapamaz</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>bu aranacak bir numara değil</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>şebeke yok</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>bu kullanıcının izni yok</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>başarısız oldu (%1)</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>Şebeke aramayı bağlamadı.</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>Telefon aramıyor: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>Telefon aramayı yanıtlamıyor: %1.</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>Telefon aramayı bitirmiyor: %1.</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

@@ -2463,6 +2463,137 @@
     </message>
 </context>
 <context>
+    <name>handset</name>
+    <message>
+        <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
+        <translation>通话记录已损坏。下次启动将新建记录，并保留可读取的内容。</translation>
+    </message>
+    <message>
+        <source>The call log is damaged, and that cannot be noted for the next start.</source>
+        <translation>通话记录已损坏，且无法为下次启动作标记。</translation>
+    </message>
+    <message>
+        <source>Copying the call log</source>
+        <translation>正在复制通话记录</translation>
+    </message>
+    <message>
+        <source>Reading the damaged call log once more</source>
+        <translation>正在重新读取损坏的通话记录</translation>
+    </message>
+    <message>
+        <source>Writing the new call log to the disk</source>
+        <translation>正在将新通话记录写入磁盘</translation>
+    </message>
+    <message>
+        <source>Checking the new call log</source>
+        <translation>正在检查新通话记录</translation>
+    </message>
+    <message>
+        <source>Looking for the end of the damage</source>
+        <translation>正在查找损坏的结尾</translation>
+    </message>
+    <message>
+        <source>Counting what was read</source>
+        <translation>正在统计已读取的内容</translation>
+    </message>
+    <message>
+        <source>Bringing the call log up to date</source>
+        <translation>正在更新通话记录</translation>
+    </message>
+    <message>
+        <source>belongs to another user</source>
+        <translation>属于另一用户</translation>
+    </message>
+    <message>
+        <source>may be written by other users</source>
+        <translation>可被其他用户写入</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" %2, who can change what is kept in it.</source>
+        <translation>状态目录“%1”%2，他们可以更改其中的内容。</translation>
+    </message>
+    <message>
+        <source>The state directory "%1" lies in one that may be written by other users, who can put another in its place.</source>
+        <translation>状态目录“%1”位于其他用户可写的目录中，他们可以用别的目录替换它。</translation>
+    </message>
+    <message>
+        <source>Waiting for %1</source>
+        <translation>正在等待 %1</translation>
+    </message>
+    <message>
+        <source>another process</source>
+        <translation>另一个进程</translation>
+    </message>
+    <message>
+        <source>ModemManager does not answer</source>
+        <translation>ModemManager 没有响应</translation>
+    </message>
+    <message>
+        <source>The call cannot be made</source>
+        <translation>无法拨打电话</translation>
+    </message>
+    <message>
+        <source>The call cannot be made: %1.</source>
+        <translation>无法拨打电话：%1。</translation>
+    </message>
+    <message>
+        <source>The call cannot be answered</source>
+        <translation>无法接听电话</translation>
+    </message>
+    <message>
+        <source>The call cannot be ended</source>
+        <translation>无法挂断电话</translation>
+    </message>
+    <message>
+        <source>it is busy</source>
+        <translation>它正忙</translation>
+    </message>
+    <message>
+        <source>it is not ready for that</source>
+        <translation>它尚未就绪</translation>
+    </message>
+    <message>
+        <source>the modem cannot do that</source>
+        <translation>调制解调器做不到</translation>
+    </message>
+    <message>
+        <source>that is no number to call</source>
+        <translation>该号码无法呼叫</translation>
+    </message>
+    <message>
+        <source>there is no network</source>
+        <translation>没有网络</translation>
+    </message>
+    <message>
+        <source>this user may not</source>
+        <translation>该用户无此权限</translation>
+    </message>
+    <message>
+        <source>it does not answer</source>
+        <translation>它没有响应</translation>
+    </message>
+    <message>
+        <source>it failed (%1)</source>
+        <translation>失败（%1）</translation>
+    </message>
+    <message>
+        <source>The network has not put the call through.</source>
+        <translation>网络未接通该通话。</translation>
+    </message>
+    <message>
+        <source>The telephone does not dial: %1.</source>
+        <translation>电话没有拨号：%1。</translation>
+    </message>
+    <message>
+        <source>The telephone does not take the call: %1.</source>
+        <translation>电话没有接听：%1。</translation>
+    </message>
+    <message>
+        <source>The telephone does not end the call: %1.</source>
+        <translation>电话没有挂断：%1。</translation>
+    </message>
+</context>
+<context>
     <name>host::AccountSection</name>
     <message>
         <source>Nothing has been paid in.</source>

@@ -1,4 +1,5 @@
 // What every language has to keep, whatever it says.
+#include "handset/Handset.h"
 #include "host/Catalogue.h"
 #include "host/Languages.h"
 #include "support/TestGroup.h"
@@ -118,6 +119,8 @@ private slots:
     void noTextIsWiderThanItsPlaceWhereItIsNotCut();
     void theProgramSpeaksIt_data() { languages(); }
     void theProgramSpeaksIt();
+    void theTelephonesNoticesAreInIt_data() { languages(); }
+    void theTelephonesNoticesAreInIt();
     void theLocaleChoosesTheLanguage_data();
     void theLocaleChoosesTheLanguage();
     void aLanguageThatThereIsNotIsRefusedWithThoseThatThereAre();
@@ -229,6 +232,26 @@ void TestLanguages::theProgramSpeaksIt()
                                      script.fileName(), "--language", language});
     QVERIFY(program.waitForFinished(60'000));
     QVERIFY2(program.exitCode() == 0, program.readAllStandardError());
+}
+
+void TestLanguages::theTelephonesNoticesAreInIt()
+{
+    QFETCH(QString, language);
+    host::Catalogue catalogue;
+    QCOMPARE(catalogue.install(catalogueOf(language)), QString());
+    const QTemporaryDir state;
+    const auto anybody = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther |
+                         QFile::WriteOther | QFile::ExeOther;
+    QVERIFY(QFile::setPermissions(state.path(), anybody));
+    const handset::Opened opened = handset::open({QStringLiteral("simulated"), state.path()});
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    const QByteArray english = "The state directory \"%1\" %2, who can change what is kept in it.";
+    const auto isIt = [&english](auto &text) { return text.source == QLatin1StringView(english); };
+    const auto own = std::find_if(texts(language).begin(), texts(language).end(), isIt);
+    QVERIFY(own != texts(language).end() && own->translation != QLatin1StringView(english));
+    const QString who = QCoreApplication::translate("handset", "may be written by other users");
+    QVERIFY(!who.contains(QLatin1StringView("may be")));
+    QCOMPARE(opened.notice, own->translation.arg(state.path(), who));
 }
 
 void TestLanguages::theLocaleChoosesTheLanguage_data()

@@ -1,5 +1,6 @@
 #include "calllog/CheckBeside.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMetaObject>
@@ -124,9 +125,10 @@ void CheckBeside::finish(const CheckedLog &checked)
     switch (checked.finding.verdict) {
     case Verdict::Damaged:
         text = mark(file) == 0
-                   ? QStringLiteral("The call log is damaged. The next start begins a new one, with what can "
-                                    "be read of it.")
-                   : QStringLiteral("The call log is damaged, and that cannot be noted for the next start.");
+                   ? QCoreApplication::translate("handset", "The call log is damaged. The next start begins a new "
+                                                            "one, with what can be read of it.")
+                   : QCoreApplication::translate(
+                         "handset", "The call log is damaged, and that cannot be noted for the next start.");
         break;
     case Verdict::Usable:
         if (saysMore(checked.unknown))

@@ -1,5 +1,7 @@
 #include "calllog/Schema.h"
 
+#include <QtCore/QCoreApplication>
+
 #include <array>
 
 namespace handset::calllog {
@@ -157,7 +159,7 @@ qint64 countCalls(Database &database, qint64 version)
 
 bool runStep(Database &database, Migration step, qint64 version, const ProgressListener &listener)
 {
-    Progress progress(listener, QStringLiteral("Bringing the call log up to date"),
+    Progress progress(listener, QCoreApplication::translate("handset", "Bringing the call log up to date"),
                       countCalls(database, version - 1));
     const auto countCall = [&progress] {
         progress.oneIsDone();

@@ -2,6 +2,7 @@
 
 #include "calllog/Finding.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -188,9 +189,10 @@ QString unusable(const QString &path, const QString &why)
 QString whoElseMayWrite(const struct stat &directory)
 {
     if (directory.st_uid != ::geteuid())
-        return QStringLiteral("belongs to another user");
-    return (directory.st_mode & (S_IWGRP | S_IWOTH)) != 0 ? QStringLiteral("may be written by other users")
-                                                          : QString();
+        return QCoreApplication::translate("handset", "belongs to another user");
+    return (directory.st_mode & (S_IWGRP | S_IWOTH)) != 0
+               ? QCoreApplication::translate("handset", "may be written by other users")
+               : QString();
 }
 
 // Who may write the directory above may give this one another name; where that has the sticky bit, only the owner may.
@@ -459,11 +461,14 @@ QString StateDirectory::notice() const
     if (::stat(encoded(path).constData(), &status) != 0)
         return {};
     if (const QString who = whoElseMayWrite(status); !who.isEmpty())
-        return QStringLiteral("The state directory \"%1\" %2, who can change what is kept in it.").arg(path, who);
+        return QCoreApplication::translate("handset",
+                                           "The state directory \"%1\" %2, who can change what is kept in it.")
+            .arg(path, who);
     struct stat above = {};
     if (::stat(encoded(path + QStringLiteral("/..")).constData(), &above) != 0 || !maySomebodyElseRename(above))
         return {};
-    return QStringLiteral("The state directory \"%1\" lies in one that may be written by other users, who can put "
+    return QCoreApplication::translate(
+               "handset", "The state directory \"%1\" lies in one that may be written by other users, who can put "
                           "another in its place.")
         .arg(path);
 }

@@ -1,5 +1,6 @@
 #include "calllog/Waiting.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QThread>
 
 #include <algorithm>
@@ -61,7 +62,8 @@ void Waiting::tell(const Holders &holders)
         return;
     toldMs = waitedMs;
     const QString names = holders();
-    step = QStringLiteral("Waiting for %1").arg(names.isEmpty() ? QStringLiteral("another process") : names);
+    step = QCoreApplication::translate("handset", "Waiting for %1")
+               .arg(names.isEmpty() ? QCoreApplication::translate("handset", "another process") : names);
     listener(step, static_cast<int>(std::min<qint64>(qint64{100} * waitedMs / patience, 99)));
 }
 

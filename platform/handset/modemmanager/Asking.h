@@ -1,6 +1,7 @@
 // What the daemon is asked for its properties with, and what its errors come to.
 #pragma once
 
+#include <QtCore/QCoreApplication>
 #include <QtDBus/QDBusError>
 #include <QtDBus/QDBusMessage>
 
@@ -31,7 +32,8 @@ inline bool isForTheMoment(const QDBusError &error)
 /// Part of a sentence for the user.
 inline QString inWords(const QDBusError &error)
 {
-    return isNoAnswer(error) ? QStringLiteral("ModemManager does not answer") : error.message();
+    return isNoAnswer(error) ? QCoreApplication::translate("handset", "ModemManager does not answer")
+                             : error.message();
 }
 
 } // namespace handset::modemmanager

@@ -6,6 +6,7 @@
 #include <CallProxy.h>
 #include <VoiceProxy.h>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusPendingReply>
@@ -252,8 +253,8 @@ int VoiceCalls::dial(const QString &number)
     if (!isDialable(number))
         return InvalidArgument;
     const QVariantMap call{{QStringLiteral("number"), number}};
-    ask([this, call] { return voice->CreateCall(call); }, QStringLiteral("The call cannot be made"),
-        QDeadlineTimer(patience.answerMs),
+    ask([this, call] { return voice->CreateCall(call); },
+        QCoreApplication::translate("handset", "The call cannot be made"), QDeadlineTimer(patience.answerMs),
         [this](const QDBusMessage &answer) {
             begin(answer.arguments().value(0).value<QDBusObjectPath>().path());
         });
@@ -275,7 +276,8 @@ void VoiceCalls::begin(const QString &path)
             return;
         if (!isNoAnswer(answer->error()))
             voice->DeleteCall(QDBusObjectPath(path));
-        emit refused(QStringLiteral("The call cannot be made: %1.").arg(inWords(answer->error())));
+        emit refused(
+            QCoreApplication::translate("handset", "The call cannot be made: %1.").arg(inWords(answer->error())));
     });
 }
 
@@ -296,7 +298,8 @@ int VoiceCalls::answer(const QString &id)
     const Question question = [this, id, isWaiting]() -> QDBusPendingCall {
         return isWaiting ? QDBusPendingCall(voice->HoldAndAccept()) : onCall(id, &CallProxy::Accept);
     };
-    ask(question, QStringLiteral("The call cannot be answered"), QDeadlineTimer(patience.answerMs));
+    ask(question, QCoreApplication::translate("handset", "The call cannot be answered"),
+        QDeadlineTimer(patience.answerMs));
     return Success;
 }
 
@@ -304,8 +307,8 @@ int VoiceCalls::hangUp(const QString &id)
 {
     if (!calls.contains(id))
         return InvalidArgument;
-    ask([this, id] { return onCall(id, &CallProxy::Hangup); }, QStringLiteral("The call cannot be ended"),
-        QDeadlineTimer(patience.answerMs));
+    ask([this, id] { return onCall(id, &CallProxy::Hangup); },
+        QCoreApplication::translate("handset", "The call cannot be ended"), QDeadlineTimer(patience.answerMs));
     return Success;
 }
 

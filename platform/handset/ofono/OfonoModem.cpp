@@ -3,6 +3,7 @@
 #include "handset/DialedNumber.h"
 #include "ofono/OfonoProxies.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
 #include <QtDBus/QDBusMetaType>
 #include <QtDBus/QDBusPendingReply>
@@ -73,18 +74,18 @@ bool isNoAnswer(const QDBusError &error)
 QString reasonOf(const QDBusError &error)
 {
     static const QHash<QString, QString> reasons{
-        {QStringLiteral("InProgress"), QStringLiteral("it is busy")},
-        {QStringLiteral("NotAvailable"), QStringLiteral("it is not ready for that")},
-        {QStringLiteral("NotImplemented"), QStringLiteral("the modem cannot do that")},
-        {QStringLiteral("NotSupported"), QStringLiteral("the modem cannot do that")},
-        {QStringLiteral("InvalidFormat"), QStringLiteral("that is no number to call")},
-        {QStringLiteral("NotRegistered"), QStringLiteral("there is no network")},
-        {QStringLiteral("AccessDenied"), QStringLiteral("this user may not")},
+        {QStringLiteral("InProgress"), QCoreApplication::translate("handset", "it is busy")},
+        {QStringLiteral("NotAvailable"), QCoreApplication::translate("handset", "it is not ready for that")},
+        {QStringLiteral("NotImplemented"), QCoreApplication::translate("handset", "the modem cannot do that")},
+        {QStringLiteral("NotSupported"), QCoreApplication::translate("handset", "the modem cannot do that")},
+        {QStringLiteral("InvalidFormat"), QCoreApplication::translate("handset", "that is no number to call")},
+        {QStringLiteral("NotRegistered"), QCoreApplication::translate("handset", "there is no network")},
+        {QStringLiteral("AccessDenied"), QCoreApplication::translate("handset", "this user may not")},
     };
     if (isNoAnswer(error))
-        return QStringLiteral("it does not answer");
+        return QCoreApplication::translate("handset", "it does not answer");
     const QString name = error.name().section(QLatin1Char('.'), -1);
-    return reasons.value(name, QStringLiteral("it failed (%1)").arg(name));
+    return reasons.value(name, QCoreApplication::translate("handset", "it failed (%1)").arg(name));
 }
 
 QVariant unpacked(const QVariant &value)
@@ -463,7 +464,7 @@ void OfonoModem::report(Call &call)
 void OfonoModem::sayWhyNotConnected(const Call &call)
 {
     if (call.wasDialed && call.reason == QLatin1String("network"))
-        emit refused(QStringLiteral("The network has not put the call through."));
+        emit refused(QCoreApplication::translate("handset", "The network has not put the call through."));
 }
 
 void OfonoModem::sayWhenRefused(const QDBusPendingCall &asked, const QString &what)
@@ -482,7 +483,8 @@ int OfonoModem::dial(const QString &number)
         return InvalidArgument;
     const auto manager = proxy<OrgOfonoVoiceCallManagerInterface>();
     manager->setTimeout(patience.dialingMs);
-    sayWhenRefused(manager->Dial(number, QString()), QStringLiteral("The telephone does not dial: %1."));
+    sayWhenRefused(manager->Dial(number, QString()),
+                   QCoreApplication::translate("handset", "The telephone does not dial: %1."));
     return Success;
 }
 
@@ -497,7 +499,7 @@ int OfonoModem::answer(const QString &id)
     const QDBusPendingCall asked = call->phase == CallPhase::Waiting
                                        ? proxy<OrgOfonoVoiceCallManagerInterface>()->HoldAndAnswer()
                                        : proxy<OrgOfonoVoiceCallInterface>(id)->Answer();
-    sayWhenRefused(asked, QStringLiteral("The telephone does not take the call: %1."));
+    sayWhenRefused(asked, QCoreApplication::translate("handset", "The telephone does not take the call: %1."));
     return Success;
 }
 
@@ -508,7 +510,7 @@ int OfonoModem::hangUp(const QString &id)
     if (!calls.contains(id))
         return InvalidArgument;
     sayWhenRefused(proxy<OrgOfonoVoiceCallInterface>(id)->Hangup(),
-                   QStringLiteral("The telephone does not end the call: %1."));
+                   QCoreApplication::translate("handset", "The telephone does not end the call: %1."));
     return Success;
 }
 

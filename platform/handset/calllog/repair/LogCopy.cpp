@@ -3,6 +3,7 @@
 #include "calllog/Schema.h"
 #include "calllog/repair/FileHeader.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
 #include <cerrno>
@@ -113,8 +114,8 @@ Finding LogCopy::make()
     Finding space = findSpace(directory, spaceOfNewLog + 2 * directory.size(databaseFile()));
     if (space.verdict != Verdict::Usable)
         return space;
-    Progress copying(progress, QStringLiteral("Copying the call log"), directory.size(databaseFile()),
-                     Progress::bytes);
+    Progress copying(progress, QCoreApplication::translate("handset", "Copying the call log"),
+                     directory.size(databaseFile()), Progress::bytes);
     if (const int error = directory.copy(databaseFile(), file, copying))
         return {Verdict::Blocked, QStringLiteral("it cannot be copied: %1").arg(blocked(error, file).reason)};
     Finding mended = mend();
@@ -150,8 +151,8 @@ Finding LogCopy::open()
 Finding LogCopy::check() const
 {
     const QString file = QString::fromLatin1(name);
-    Progress reading(progress, QStringLiteral("Reading the damaged call log once more"), directory.size(file),
-                     Progress::bytes);
+    Progress reading(progress, QCoreApplication::translate("handset", "Reading the damaged call log once more"),
+                     directory.size(file), Progress::bytes);
     const int error = directory.readThrough(file, reading);
     return error == 0 ? Finding{} : blocked(error, file);
 }

@@ -6,6 +6,7 @@
 #include "calllog/repair/LogCopy.h"
 #include "calllog/repair/Salvage.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 
 #include <cerrno>
@@ -167,11 +168,11 @@ Finding makeUnfinished(StateDirectory &directory, LogCopy &copy, const Replaced 
     }
     if (finding.verdict != Verdict::Usable)
         return finding;
-    Progress writing(old.progress, QStringLiteral("Writing the new call log to the disk"), directory.size(name),
-                     Progress::bytes);
+    Progress writing(old.progress, QCoreApplication::translate("handset", "Writing the new call log to the disk"),
+                     directory.size(name), Progress::bytes);
     if (const int error = directory.sync(name, writing))
         return blocked(error);
-    finding = readBack(path, {old.progress, QStringLiteral("Checking the new call log"),
+    finding = readBack(path, {old.progress, QCoreApplication::translate("handset", "Checking the new call log"),
                               timesRead * directory.size(name), Progress::bytes});
     if (finding.verdict == Verdict::Usable && directory.hasLeftovers(name))
         return {Verdict::Blocked, QStringLiteral("its write-ahead log is left")};

@@ -1,6 +1,7 @@
 #include "calllog/repair/RowSalvage.h"
 
 #include <QtCore/QByteArrayList>
+#include <QtCore/QCoreApplication>
 
 #include <algorithm>
 
@@ -101,7 +102,8 @@ std::optional<qint64> RowSalvage::firstOfTail(const QByteArray &rest)
 {
     const QByteArray sql = statements.select + rest;
     Statement rows(source.connection().handle(), sql.constData());
-    Progress search = progress.overTheRest(QStringLiteral("Looking for the end of the damage"));
+    Progress search =
+        progress.overTheRest(QCoreApplication::translate("handset", "Looking for the end of the damage"));
     std::optional<qint64> first;
     while (rows.next()) {
         search.oneIsDone();

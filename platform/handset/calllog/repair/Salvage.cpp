@@ -6,6 +6,8 @@
 #include "calllog/repair/TablesOnly.h"
 #include "handset/PacketData.h"
 
+#include <QtCore/QCoreApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -58,7 +60,8 @@ bool putTotals(LedgerTables &tables, std::span<const TotalPlace> places, const R
 // In big logs this takes as long as the reading.
 CheckedLog countRows(Database &target, const Salvaged &salvaged, const ProgressListener &listener)
 {
-    Progress progress(listener, QStringLiteral("Counting what was read"), salvaged.calls + salvaged.sessions);
+    Progress progress(listener, QCoreApplication::translate("handset", "Counting what was read"),
+                      salvaged.calls + salvaged.sessions);
     CheckedLog checked = checkSums(target.handle(), progress);
     progress.finish();
     return checked;
