@@ -87,6 +87,17 @@ class Files(unittest.TestCase):
         program = re.search("^Exec=(.+)$", entry.read_text(), re.M).group(1)
         self.assertTrue((tree / "bin" / program.split()[0]).is_file())
 
+    def test_the_desktop_names_the_program_in_every_language_that_it_speaks(self):
+        share = tree / "share"
+        languages = [file.stem for file in (share / "kavcallmeter/translations").glob("*.qm")]
+        self.assertGreaterEqual(len(languages), 10)
+        entry = (share / "applications/kavrecentcalls.desktop").read_text("utf-8")
+        metadata = (share / "metainfo/kavrecentcalls.metainfo.xml").read_text("utf-8")
+        for language in languages:
+            for key in ("Name", "GenericName", "Comment"):
+                self.assertIn(f"\n{key}[{language}]=", entry)
+            self.assertIn(f'<name xml:lang="{language}">', metadata)
+
 
 class Manuals(unittest.TestCase):
     def options(self, program):
