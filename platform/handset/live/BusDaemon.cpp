@@ -1,12 +1,12 @@
 #include "live/BusDaemon.h"
 
+#include "live/Question.h"
 #include "qt/qcop/BusProbe.h"
 
 #include <QtCore/QTimer>
 #include <QtDBus/QDBusError>
 #include <QtDBus/QDBusMessage>
-#include <QtDBus/QDBusPendingCallWatcher>
-#include <QtDBus/QDBusPendingReply>
+#include <QtDBus/QDBusReply>
 
 #include <algorithm>
 #include <chrono>
@@ -124,12 +124,10 @@ void BusDaemon::askForOwner()
     QDBusMessage question =
         QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetNameOwner"));
     question << service;
-    auto *const answer = new QDBusPendingCallWatcher(connection.asyncCall(question), this);
     const QString asked = connectionName;
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, asked] {
-        answer->deleteLater();
-        const QDBusPendingReply<QString> owner = *answer;
-        if (!owner.isError() && asked == connectionName)
+    ask(connection, question, -1, this, [this, asked](const QDBusMessage &answer) {
+        const QDBusReply<QString> owner = answer;
+        if (owner.isValid() && asked == connectionName)
             setOwner(owner.value());
     });
 }

@@ -1,11 +1,11 @@
 #include "modemmanager/Bearers.h"
 
+#include "live/Question.h"
 #include "modemmanager/Asking.h"
 
 #include <QtCore/QDateTime>
 #include <QtDBus/QDBusArgument>
-#include <QtDBus/QDBusPendingCallWatcher>
-#include <QtDBus/QDBusPendingReply>
+#include <QtDBus/QDBusReply>
 
 #include <algorithm>
 #include <limits>
@@ -84,17 +84,15 @@ void Bearers::setPaths(const QStringList &paths)
 
 void Bearers::getProperties(const QString &path)
 {
-    auto *const answer = new QDBusPendingCallWatcher(
-        source.bus().asyncCall(allProperties(source.owner(), path, bearerInterface), patience.answerMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, path] {
-        answer->deleteLater();
+    const QDBusMessage question = allProperties(source.owner(), path, bearerInterface);
+    live::ask(source.bus(), question, patience.answerMs, this, [this, path](const QDBusMessage &answer) {
         const auto followed = bearers.find(path);
         if (followed == bearers.end())
             return;
-        const QDBusPendingReply<QVariantMap> properties = *answer;
-        if (properties.isError() && isNoAnswer(properties.error()))
+        const QDBusReply<QVariantMap> properties = answer;
+        if (!properties.isValid() && isNoAnswer(properties.error()))
             return getProperties(path);
-        if (properties.isError())
+        if (!properties.isValid())
             return;
         followed->isKnown = true;
         followed->properties = properties.value();

@@ -1,12 +1,12 @@
 #include "modemmanager/ModemManagerModem.h"
 
+#include "live/Question.h"
 #include "modemmanager/Asking.h"
 #include "modemmanager/Bearers.h"
 #include "modemmanager/VoiceCalls.h"
 
 #include <QtDBus/QDBusArgument>
 #include <QtDBus/QDBusObjectPath>
-#include <QtDBus/QDBusPendingCallWatcher>
 
 #include <algorithm>
 
@@ -111,21 +111,17 @@ void ModemManagerModem::daemonAppeared()
 void ModemManagerModem::listModems()
 {
     const QString asked = source.owner();
-    auto *const answer = new QDBusPendingCallWatcher(
-        source.bus().asyncCall(
-            QDBusMessage::createMethodCall(asked, rootPath, objectManager, QStringLiteral("GetManagedObjects")),
-            patience.answerMs),
-        this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, asked] {
-        answer->deleteLater();
+    const QDBusMessage question =
+        QDBusMessage::createMethodCall(asked, rootPath, objectManager, QStringLiteral("GetManagedObjects"));
+    live::ask(source.bus(), question, patience.answerMs, this, [this, asked](const QDBusMessage &answer) {
         if (asked != source.owner())
             return;
-        if (answer->isError() && isNoAnswer(answer->error()))
+        const bool isError = answer.type() == QDBusMessage::ErrorMessage;
+        if (isError && isNoAnswer(QDBusError(answer)))
             return listModems();
-        const QDBusMessage reply = answer->reply();
-        const std::optional<Objects> objects = objectsIn(reply);
+        const std::optional<Objects> objects = objectsIn(answer);
         if (!objects)
-            return reading.warn("GetManagedObjects", answer->isError() ? reply.errorMessage() : reply.signature());
+            return reading.warn("GetManagedObjects", isError ? answer.errorMessage() : answer.signature());
         manager = Manager::Known;
         for (auto object = objects->begin(); object != objects->end(); ++object)
             add(object.key().path(), object.value());

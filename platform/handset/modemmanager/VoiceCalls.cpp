@@ -1,6 +1,7 @@
 #include "modemmanager/VoiceCalls.h"
 
 #include "handset/DialedNumber.h"
+#include "live/Question.h"
 #include "modemmanager/Asking.h"
 
 #include <CallProxy.h>
@@ -9,7 +10,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
 #include <QtDBus/QDBusPendingCallWatcher>
-#include <QtDBus/QDBusPendingReply>
+#include <QtDBus/QDBusReply>
 
 namespace handset::modemmanager {
 
@@ -88,13 +89,13 @@ VoiceCalls::VoiceCalls(const live::BusDaemon &daemon, const QString &modem, Read
 // Until it is answered: whatever the daemon is busy with, the calls are there.
 void VoiceCalls::list()
 {
-    auto *const answer = new QDBusPendingCallWatcher(voice->ListCalls(), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-        answer->deleteLater();
-        const QDBusPendingReply<QList<QDBusObjectPath>> paths = *answer;
-        if (paths.isError() && isNoAnswer(paths.error()))
+    const QDBusMessage question = QDBusMessage::createMethodCall(
+        source.owner(), modemPath, QLatin1String(VoiceProxy::staticInterfaceName()), QStringLiteral("ListCalls"));
+    live::ask(source.bus(), question, patience.answerMs, this, [this](const QDBusMessage &answer) {
+        const QDBusReply<QList<QDBusObjectPath>> paths = answer;
+        if (!paths.isValid() && isNoAnswer(paths.error()))
             return list();
-        if (paths.isError())
+        if (!paths.isValid())
             return reading.warn("ListCalls", paths.error().message());
         for (const QDBusObjectPath &path : paths.value())
             follow(path.path(), true);
@@ -113,19 +114,17 @@ void VoiceCalls::follow(const QString &path, bool isFound)
 
 void VoiceCalls::getProperties(const QString &path)
 {
-    auto *const answer = new QDBusPendingCallWatcher(
-        source.bus().asyncCall(allProperties(source.owner(), path, callInterface), patience.answerMs), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, path] {
-        answer->deleteLater();
+    const QDBusMessage question = allProperties(source.owner(), path, callInterface);
+    live::ask(source.bus(), question, patience.answerMs, this, [this, path](const QDBusMessage &answer) {
         const auto followed = calls.find(path);
         if (followed == calls.end())
             return;
-        const QDBusPendingReply<QVariantMap> properties = *answer;
-        if (properties.isError() && isNoAnswer(properties.error()))
+        const QDBusReply<QVariantMap> properties = answer;
+        if (!properties.isValid() && isNoAnswer(properties.error()))
             return getProperties(path);
-        if (properties.isError() && followed->before.isEmpty())
+        if (!properties.isValid() && followed->before.isEmpty())
             return forget(path);
-        learn(*followed, properties.isError() ? QVariantMap() : properties.value());
+        learn(*followed, properties.isValid() ? properties.value() : QVariantMap());
     });
 }
 

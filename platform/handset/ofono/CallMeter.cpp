@@ -6,7 +6,6 @@
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
-#include <QtDBus/QDBusPendingReply>
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +14,9 @@ namespace handset::ofono {
 
 namespace {
 
-bool isError(const QDBusPendingCall &answer, const char *name)
+bool isNamed(const QDBusError &error, const char *name)
 {
-    return answer.isError() && answer.error().name() == QStringLiteral("org.ofono.Error.") + QLatin1String(name);
+    return error.name() == QStringLiteral("org.ofono.Error.") + QLatin1String(name);
 }
 
 CallMeter::Outcome outcomeOf(const QDBusPendingCall &answer)
@@ -25,9 +24,9 @@ CallMeter::Outcome outcomeOf(const QDBusPendingCall &answer)
     using Outcome = CallMeter::Outcome;
     if (!answer.isError())
         return Outcome::Written;
-    if (isError(answer, "InvalidFormat") || isError(answer, "InvalidArguments"))
+    if (isNamed(answer.error(), "InvalidFormat") || isNamed(answer.error(), "InvalidArguments"))
         return Outcome::Malformed;
-    if (isError(answer, "NotImplemented") || answer.error().type() == QDBusError::UnknownObject ||
+    if (isNamed(answer.error(), "NotImplemented") || answer.error().type() == QDBusError::UnknownObject ||
         answer.error().type() == QDBusError::UnknownMethod ||
         answer.error().type() == QDBusError::UnknownInterface)
         return Outcome::NotThere;
@@ -117,13 +116,13 @@ void CallMeter::refresh()
 {
     if (!life)
         return;
-    OfonoModem::whenAnswered(modem.proxy<OrgOfonoCallMeterInterface>()->GetProperties(), life.get(),
-                             [this](const QDBusPendingReply<QVariantMap> &answer) {
-                                 if (!answer.isError())
-                                     takeAll(answer.value());
-                                 else if (isError(answer, "InProgress"))
-                                     QTimer::singleShot(retryMs, life.get(), [this] { refresh(); });
-                             });
+    OfonoModem::whenTold<QVariantMap>(modem.proxy<OrgOfonoCallMeterInterface>(), "GetProperties", life.get(),
+                                      [this](const QDBusReply<QVariantMap> &answer) {
+                                          if (answer.isValid())
+                                              takeAll(answer.value());
+                                          else if (isNamed(answer.error(), "InProgress"))
+                                              QTimer::singleShot(retryMs, life.get(), [this] { refresh(); });
+                                      });
 }
 
 void CallMeter::takeSim(const QString &name, const QVariant &value)
@@ -142,13 +141,14 @@ void CallMeter::askSim()
 {
     if (!modem.has("SimManager"))
         return;
-    OfonoModem::whenAnswered(modem.proxy<OrgOfonoSimManagerInterface>()->GetProperties(), this,
-                             [this](const QDBusPendingReply<QVariantMap> &answer) {
-                                 const QVariantMap all = answer.isError() ? QVariantMap() : answer.value();
-                                 for (auto value = all.begin(); value != all.end(); ++value)
-                                     takeSim(value.key(), value.value());
-                                 emit changed();
-                             });
+    OfonoModem::whenTold<QVariantMap>(modem.proxy<OrgOfonoSimManagerInterface>(), "GetProperties", this,
+                                      [this](const QDBusReply<QVariantMap> &answer) {
+                                          const QVariantMap all =
+                                              answer.isValid() ? answer.value() : QVariantMap();
+                                          for (auto value = all.begin(); value != all.end(); ++value)
+                                              takeSim(value.key(), value.value());
+                                          emit changed();
+                                      });
 }
 
 // --- waiting
@@ -195,17 +195,17 @@ CallMeter::Outcome CallMeter::ask(const Send &send)
     std::function<void()> tryIt;
     waitFor([&](QObject *context, const std::function<void()> &done) {
         const auto readAgain = [this, context, done] {
-            OfonoModem::whenAnswered(modem.proxy<OrgOfonoCallMeterInterface>()->GetProperties(), context,
-                                     [this, done](const QDBusPendingReply<QVariantMap> &answer) {
-                                         if (!answer.isError())
-                                             takeAll(answer.value());
-                                         done();
-                                     });
+            OfonoModem::whenTold<QVariantMap>(modem.proxy<OrgOfonoCallMeterInterface>(), "GetProperties", context,
+                                              [this, done](const QDBusReply<QVariantMap> &answer) {
+                                                  if (answer.isValid())
+                                                      takeAll(answer.value());
+                                                  done();
+                                              });
         };
         tryIt = [&, context, done, readAgain] {
             OfonoModem::whenAnswered(send(), context,
                                      [&, context, done, readAgain](const QDBusPendingCall &answer) {
-                                         if (isError(answer, "InProgress")) {
+                                         if (isNamed(answer.error(), "InProgress")) {
                                              QTimer::singleShot(retryMs, context, [&tryIt] { tryIt(); });
                                              return;
                                          }

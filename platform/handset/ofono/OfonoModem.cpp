@@ -6,7 +6,6 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDateTime>
 #include <QtDBus/QDBusMetaType>
-#include <QtDBus/QDBusPendingReply>
 
 #include <algorithm>
 #include <array>
@@ -245,21 +244,21 @@ void OfonoModem::propertyHeard(const QString &interface, const QString &path, co
 // Until it is answered, by this daemon.
 void OfonoModem::askForModems()
 {
-    whenAnswered(proxy<OrgOfonoManagerInterface>(QStringLiteral("/"))->GetModems(), serviceLife.get(),
-                 [this](const QDBusPendingReply<Objects> &answer) {
-                     if (answer.isError() && isNoAnswer(answer.error())) {
-                         askForModems();
-                         return;
-                     }
-                     if (answer.isError()) {
-                         properties.warn(QStringLiteral("its modems"));
-                         return;
-                     }
-                     for (const Object &modem : answer.value())
-                         modemAdded(modem.path.path(), modem.properties);
-                     knowsModems = true;
-                     choose();
-                 });
+    whenTold<Objects>(proxy<OrgOfonoManagerInterface>(QStringLiteral("/")), "GetModems", serviceLife.get(),
+                      [this](const QDBusReply<Objects> &answer) {
+                          if (!answer.isValid() && isNoAnswer(answer.error())) {
+                              askForModems();
+                              return;
+                          }
+                          if (!answer.isValid()) {
+                              properties.warn(QStringLiteral("its modems"));
+                              return;
+                          }
+                          for (const Object &modem : answer.value())
+                              modemAdded(modem.path.path(), modem.properties);
+                          knowsModems = true;
+                          choose();
+                      });
 }
 
 OfonoModem::Known *OfonoModem::known(const QString &path)
@@ -372,15 +371,15 @@ live::ModemState OfonoModem::state() const
 void OfonoModem::beginVoice()
 {
     voice = std::make_unique<QObject>();
-    whenAnswered(proxy<OrgOfonoVoiceCallManagerInterface>()->GetCalls(), voice.get(),
-                 [this](const QDBusPendingReply<Objects> &answer) {
-                     if (answer.isError()) {
-                         properties.warn(QStringLiteral("the calls that there are"));
-                         return;
-                     }
-                     for (const Object &call : answer.value())
-                         callAdded(call.path.path(), call.properties, !calls.contains(call.path.path()));
-                 });
+    whenTold<Objects>(proxy<OrgOfonoVoiceCallManagerInterface>(), "GetCalls", voice.get(),
+                      [this](const QDBusReply<Objects> &answer) {
+                          if (!answer.isValid()) {
+                              properties.warn(QStringLiteral("the calls that there are"));
+                              return;
+                          }
+                          for (const Object &call : answer.value())
+                              callAdded(call.path.path(), call.properties, !calls.contains(call.path.path()));
+                      });
 }
 
 void OfonoModem::endVoice()
@@ -519,16 +518,16 @@ int OfonoModem::hangUp(const QString &id)
 void OfonoModem::beginData()
 {
     data = std::make_unique<QObject>();
-    whenAnswered(proxy<OrgOfonoConnectionManagerInterface>()->GetContexts(), data.get(),
-                 [this](const QDBusPendingReply<Objects> &answer) {
-                     if (answer.isError()) {
-                         properties.warn(QStringLiteral("the data connections that there are"));
-                         return;
-                     }
-                     for (const Object &context : answer.value())
-                         contextAdded(context.path.path(), context.properties,
-                                      !contexts.contains(context.path.path()));
-                 });
+    whenTold<Objects>(proxy<OrgOfonoConnectionManagerInterface>(), "GetContexts", data.get(),
+                      [this](const QDBusReply<Objects> &answer) {
+                          if (!answer.isValid()) {
+                              properties.warn(QStringLiteral("the data connections that there are"));
+                              return;
+                          }
+                          for (const Object &context : answer.value())
+                              contextAdded(context.path.path(), context.properties,
+                                           !contexts.contains(context.path.path()));
+                      });
 }
 
 void OfonoModem::endData()
@@ -594,12 +593,12 @@ void OfonoModem::report(const QString &path, Context &context)
 void OfonoModem::beginNetwork()
 {
     registration = std::make_unique<QObject>();
-    whenAnswered(proxy<OrgOfonoNetworkRegistrationInterface>()->GetProperties(), registration.get(),
-                 [this](const QDBusPendingReply<QVariantMap> &answer) {
-                     const QVariantMap values = answer.isError() ? QVariantMap() : answer.value();
-                     for (auto value = values.begin(); value != values.end(); ++value)
-                         setNetworkProperty(value.key(), value.value());
-                 });
+    whenTold<QVariantMap>(proxy<OrgOfonoNetworkRegistrationInterface>(), "GetProperties", registration.get(),
+                          [this](const QDBusReply<QVariantMap> &answer) {
+                              const QVariantMap values = answer.isValid() ? answer.value() : QVariantMap();
+                              for (auto value = values.begin(); value != values.end(); ++value)
+                                  setNetworkProperty(value.key(), value.value());
+                          });
 }
 
 void OfonoModem::endNetwork()

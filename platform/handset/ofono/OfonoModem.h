@@ -3,6 +3,7 @@
 
 #include "live/BusDaemon.h"
 #include "live/Modem.h"
+#include "live/Question.h"
 #include "ofono/PropertyReader.h"
 #include "ofono/Types.h"
 
@@ -10,6 +11,7 @@
 #include <QtCore/QStringList>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusPendingCallWatcher>
+#include <QtDBus/QDBusReply>
 
 #include <functional>
 #include <memory>
@@ -58,6 +60,15 @@ public:
             answered->deleteLater();
             work(static_cast<const QDBusPendingCall &>(*answered));
         });
+    }
+    /// Likewise what a method without arguments tells of the daemon's state, in its place among the signals.
+    template <typename Value, typename Proxy, typename Work>
+    static void whenTold(const std::unique_ptr<Proxy> &proxy, const char *method, QObject *context, Work work)
+    {
+        const QDBusMessage question = QDBusMessage::createMethodCall(proxy->service(), proxy->path(),
+                                                                     proxy->interface(), QLatin1String(method));
+        live::ask(proxy->connection(), question, proxy->timeout(), context,
+                  [work](const QDBusMessage &answer) { work(QDBusReply<Value>(answer)); });
     }
 
 signals:
