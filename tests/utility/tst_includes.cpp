@@ -27,6 +27,7 @@ constexpr Rule rules[] = {
     {"meter/",
      "meter/ platform/handset platform/handset/calllog platform/handset/charging platform/process platform/qt",
      "the meters are a handset and a ledger without a window"},
+    {"translations/", "translations/", "the build's compiler of catalogues knows the format of those alone"},
     {"platform/qt/", "platform/qt/", "names over the installed Qt, nothing of the phone"},
     {"platform/toolkit/", "platform/toolkit/ platform/qt", "widgets know no telephony"},
     {"platform/telephony/", "platform/telephony/ platform/handset", "a shim over the telephone's interfaces"},
