@@ -319,6 +319,9 @@ void TestCurrencies::anUnknownCodeComesBackAsItIs_data()
     QTest::newRow("four letters") << "USDX";
     QTest::newRow("what the two blank-ended rows give") << "OF)";
     QTest::newRow("letters whose low bytes spell a code") << QString(QChar(0x155)) + QChar(0x153) + QChar(0x144);
+    QTest::newRow("a first letter whose low byte is that of a code's") << QStringLiteral("\u0155SD");
+    QTest::newRow("a second letter whose low byte is that of a code's") << QStringLiteral("U\u0153D");
+    QTest::newRow("a third letter whose low byte is that of a code's") << QStringLiteral("US\u0144");
     QTest::newRow("full-width letters") << QString::fromUtf8("ＵＳＤ");
     QTest::newRow("very long") << QString(100'000, QLatin1Char('A'));
 }
