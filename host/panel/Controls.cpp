@@ -2,6 +2,8 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QRegularExpression>
+#include <QtGui/QAccessible>
+#include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
@@ -10,7 +12,8 @@ namespace host {
 
 namespace {
 
-constexpr int narrowest = 40; // the panel is
+constexpr int narrowest = 40;         // the panel is
+constexpr QChar placeToBreak(0x200b); // which is not seen
 
 class WheelFilter : public QObject
 {
@@ -26,13 +29,49 @@ public:
     }
 };
 
+class SpokenValue : public QAccessibleWidget
+{
+public:
+    explicit SpokenValue(Value *shown)
+        : QAccessibleWidget(shown, QAccessible::StaticText)
+        , value(shown)
+    {}
+
+    QString text(QAccessible::Text which) const override
+    {
+        return which == QAccessible::Name ? value->spoken() : QAccessibleWidget::text(which);
+    }
+
+private:
+    const Value *const value;
+};
+
+QAccessibleInterface *speak(const QString &, QObject *object)
+{
+    auto *value = qobject_cast<Value *>(object);
+    return value ? new SpokenValue(value) : nullptr;
+}
+
 } // namespace
+
+// An accessible name would be read in place of the text.
+Value::Value(const char *name, const QString &itsTitle)
+    : title(itsTitle)
+{
+    [[maybe_unused]] static const bool isInstalled = (QAccessible::installFactory(speak), true);
+    setObjectName(QString::fromLatin1(name));
+}
+
+QString Value::spoken() const
+{
+    QString shown = text();
+    shown.remove(placeToBreak);
+    return title.isEmpty() || shown.isEmpty() ? title + shown : title + QStringLiteral(": ") + shown;
+}
 
 QLabel *makeValue(const char *name, const QString &accessible)
 {
-    auto *label = new QLabel;
-    label->setObjectName(QString::fromLatin1(name));
-    label->setAccessibleName(accessible);
+    auto *label = new Value(name, accessible);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -102,7 +141,7 @@ QString breakableAnywhere(const QString &text)
 {
     QString broken;
     for (const QChar character : text)
-        broken += QString(character) + QChar(0x200b);
+        broken += QString(character) + placeToBreak;
     return broken;
 }
 

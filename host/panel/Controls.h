@@ -10,7 +10,23 @@ class QPushButton;
 
 namespace host {
 
-/// A text that changes and can be selected with the pointer. `name` (untranslated) is its object name, `accessible`
+/// A text that changes. Read aloud, it is "title: text"; without a title it is the text alone. `name` (untranslated)
+/// is its object name.
+class Value : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit Value(const char *name, const QString &title = {});
+
+    /// What is read aloud now.
+    QString spoken() const;
+
+private:
+    const QString title;
+};
+
+/// A value that can be selected with the pointer. `name` (untranslated) is its object name, `accessible`
 /// what it is called aloud.
 QLabel *makeValue(const char *name, const QString &accessible);
 /// The pointer leaves the keys with the phone; the Tab key reaches it. `text` may have a mnemonic.

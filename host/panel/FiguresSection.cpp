@@ -4,6 +4,7 @@
 #include "handset/CallService.h"
 #include "handset/DataCalls.h"
 #include "handset/Handset.h"
+#include "host/panel/Controls.h"
 
 #include <QtWidgets/QFormLayout>
 #include <QtWidgets/QLabel>
@@ -76,11 +77,10 @@ FiguresSection::FiguresSection(Line &drivenLine)
     auto *form = new QFormLayout(this);
     form->setVerticalSpacing(6);
     for (std::size_t index = 0; index < figures.size(); ++index) {
-        auto *value = new QLabel;
+        const QByteArray name = QByteArray("figure ") + figures[index].label;
+        auto *value = new Value(name.constData(), tr(figures[index].label));
         value->setAlignment(Qt::AlignRight);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        value->setAccessibleName(tr(figures[index].label));
-        value->setObjectName(QStringLiteral("figure ") + QLatin1StringView(figures[index].label));
         form->addRow(tr(figures[index].label), value);
         values[index] = value;
     }

@@ -39,11 +39,11 @@ constexpr std::array<ButtonPlan, 6> buttonPlans{{
 LineSection::LineSection(Line &drivenLine)
     : PanelSection(tr("Line"))
     , line(drivenLine)
-    , state(new QLabel)
-    , notice(new QLabel)
-    , record(new QLabel)
+    , state(new Value("line state", tr("State of the line")))
+    , notice(new Value("charge notice", tr("End of charging")))
+    , record(new Value("record notice", tr("What is not in the call log yet")))
     , told(makeValue("told notice", tr("What the telephone has told")))
-    , failure(new QLabel)
+    , failure(new Value("line failure"))
     , number(new QLineEdit(drivenLine.number()))
 {
     auto *column = new QVBoxLayout(this);
@@ -51,26 +51,19 @@ LineSection::LineSection(Line &drivenLine)
     QFont bold = state->font();
     bold.setBold(true);
     state->setFont(bold);
-    state->setObjectName(QStringLiteral("line state"));
-    state->setAccessibleName(tr("State of the line"));
     state->setWordWrap(true);
     column->addWidget(state);
     addNumber(column);
     addButtons(column); // above what comes and goes: they keep their places
-    notice->setObjectName(QStringLiteral("charge notice"));
-    notice->setAccessibleName(tr("End of charging"));
     notice->setFont(bold);
     notice->setWordWrap(true);
     column->addWidget(notice);
-    record->setObjectName(QStringLiteral("record notice"));
-    record->setAccessibleName(tr("What is not in the call log yet"));
     record->setFont(bold);
     record->setWordWrap(true);
     column->addWidget(record);
     told->setFont(bold);
     column->addWidget(told);
     failure->setWordWrap(true);
-    failure->setObjectName(QStringLiteral("line failure"));
     column->addWidget(failure);
 }
 

@@ -26,6 +26,7 @@
 #include <QtCore/QScopeGuard>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
+#include <QtGui/QAccessible>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QGroupBox>
@@ -78,6 +79,7 @@ private slots:
     void stateDirectoryAndNoticeAreShown();
     void anotherHandsetThanTheSimulatedIsSaid();
     void everyControlHasANameAndATabStop();
+    void aValueOfThePanelIsReadWithItsTitle();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft();
     void theKeypadLooksTheSameRightToLeft();
@@ -708,8 +710,27 @@ void TestWindow::everyControlHasANameAndATabStop()
         if (isPhoneKey)
             QVERIFY(!control->accessibleName().isEmpty());
     }
-    for (const char *name : {"line state", "figure Last call", "state directory"})
-        QVERIFY2(!window->findChild<QLabel *>(name)->accessibleName().isEmpty(), name);
+}
+
+static QString spokenName(QObject *object)
+{
+    const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(object);
+    return interface ? interface->text(QAccessible::Name) : QStringLiteral("(none)");
+}
+
+void TestWindow::aValueOfThePanelIsReadWithItsTitle()
+{
+    openWindow(owner, QStringLiteral("/some/where"));
+    const auto spoken = [this](const char *name) { return spokenName(window->findChild<QLabel *>(name)); };
+    QCOMPARE(spoken("line state"), "State of the line: " + label("line state"));
+    QCOMPARE(spoken("state directory"), "Where the state is kept: Kept in /some/where");
+    click("Incoming call");
+    click("Answer");
+    clock->advance(65000);
+    click("Hang up");
+    QCOMPARE(spoken("figure Last call"), "Last call: 00:01:05");
+    QCOMPARE(QAccessible::queryAccessibleInterface(window->findChild<QLabel *>("line state"))->role(),
+             QAccessible::StaticText);
 }
 
 // A caption of the display's softkey bar, as the user sees it.
