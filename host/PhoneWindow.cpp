@@ -14,6 +14,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QHBoxLayout>
 
 #include <utility>
@@ -40,6 +41,7 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
     connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
     menu->show();
     menu->takeFocus();
+    qApp->installEventFilter(this);
 }
 
 PhoneWindow::PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset)
@@ -169,10 +171,38 @@ void PhoneWindow::choosePage(int index)
 void PhoneWindow::keyPressEvent(QKeyEvent *event)
 {
     const bool fromPhone = body->isAncestorOf(focusWidget());
-    if (fromPhone || ZKeys::phoneKey(event->key()) == ZKeys::PhoneKey::None)
+    const bool isShortcut = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (fromPhone)
         QWidget::keyPressEvent(event);
-    else
+    else if (ZKeys::phoneKey(event->key()) != ZKeys::PhoneKey::None)
         ZApplication::pressKey(event->key());
+    else if (!isShortcut && Keypad::keyOf(event->key()) != 0)
+        body->keypad()->press(event->key());
+    else
+        QWidget::keyPressEvent(event);
+}
+
+// A list takes digits to look for a row, and a dialog is a window of its own: the phone is told before either.
+bool PhoneWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isTyped =
+        event->type() == QEvent::KeyPress && event->spontaneous() && watched == QApplication::focusWidget();
+    return isTyped && takeKeyboard(*static_cast<QKeyEvent *>(event));
+}
+
+// Answers whether the key was one that no screen knows.
+bool PhoneWindow::takeKeyboard(const QKeyEvent &event)
+{
+    const bool isShortcut = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    const int key = Keypad::keyOf(event.key());
+    if (!line || isShortcut || event.isAutoRepeat() || key == 0)
+        return false;
+    const bool isColoured = key == Qt::Key_Call || key == Qt::Key_Hangup;
+    if (isColoured)
+        body->keypad()->press(key);
+    else if (body->isAncestorOf(QApplication::focusWidget()))
+        body->keypad()->tellTyped(key);
+    return isColoured;
 }
 
 } // namespace host

@@ -63,8 +63,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     /// Keys that nothing in the panel takes go to the phone.
     void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool takeKeyboard(const QKeyEvent &event);
     void layOut();
     void showProgress(const QString &step, int percent);
     void connectHandset();

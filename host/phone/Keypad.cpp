@@ -63,6 +63,11 @@ PhoneKey *makeKey(const KeyPlan &plan, QWidget *parent)
     return key;
 }
 
+bool isNumberKey(int qtKey)
+{
+    return (qtKey >= Qt::Key_0 && qtKey <= Qt::Key_9) || qtKey == Qt::Key_Asterisk || qtKey == Qt::Key_NumberSign;
+}
+
 bool dialogHasKeys()
 {
     QWidget *widget = ZApplication::keyTarget();
@@ -89,6 +94,19 @@ Keypad::Keypad(QWidget *parent)
     }
 }
 
+int Keypad::keyOf(int qtKey)
+{
+    switch (qtKey) {
+    case callKey:
+    case Qt::Key_F3:
+        return callKey;
+    case hangUpKey:
+    case Qt::Key_F4:
+        return hangUpKey;
+    }
+    return isNumberKey(qtKey) ? qtKey : 0;
+}
+
 void Keypad::press(int qtKey)
 {
     if (qtKey == callKey) {
@@ -96,12 +114,17 @@ void Keypad::press(int qtKey)
     } else if (qtKey == hangUpKey) {
         emit hangUpPressed();
     } else {
-        const bool isText = qtKey < Qt::Key_Escape; // above are the keys that stand for no character
-        const bool isNumber = isText && !dialogHasKeys();
+        const bool isNumber = isNumberKey(qtKey) && !dialogHasKeys();
         ZApplication::pressKey(qtKey);
         if (isNumber)
             emit numberTyped(QChar(static_cast<char16_t>(qtKey)));
     }
+}
+
+void Keypad::tellTyped(int qtKey)
+{
+    if (isNumberKey(qtKey) && !dialogHasKeys())
+        emit numberTyped(QChar(static_cast<char16_t>(qtKey)));
 }
 
 } // namespace host

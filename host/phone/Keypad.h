@@ -13,14 +13,19 @@ class Keypad : public QWidget
 public:
     explicit Keypad(QWidget *parent = nullptr);
 
+    /// The key of the phone that a desktop keyboard's `qtKey` stands for beside those of a screen: the green key for
+    /// F3, the red one for F4, a digit, "*" or "#" for itself. 0 for none.
+    static int keyOf(int qtKey);
+    /// Presses the phone's key that `qtKey` (a Qt::Key) names.
+    void press(int qtKey);
+    /// Emits numberTyped() for a digit, "*" or "#" that whatever has the keys gets from the keyboard itself.
+    void tellTyped(int qtKey);
+
 signals:
     void callPressed();
     void hangUpPressed();
     /// A digit, "*" or "#" was pressed where nobody asks for text: on a screen, not in a dialog.
     void numberTyped(QChar digit);
-
-private:
-    void press(int qtKey);
 };
 
 } // namespace host

@@ -80,6 +80,8 @@ private slots:
     void anotherHandsetThanTheSimulatedIsSaid();
     void everyControlHasANameAndATabStop();
     void aValueOfThePanelIsReadWithItsTitle();
+    void digitsOfTheKeyboardAreThePhones();
+    void theKeyboardHasTheColouredKeys();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft();
     void theKeypadLooksTheSameRightToLeft();
@@ -731,6 +733,40 @@ void TestWindow::aValueOfThePanelIsReadWithItsTitle()
     QCOMPARE(spoken("figure Last call"), "Last call: 00:01:05");
     QCOMPARE(QAccessible::queryAccessibleInterface(window->findChild<QLabel *>("line state"))->role(),
              QAccessible::StaticText);
+}
+
+void TestWindow::digitsOfTheKeyboardAreThePhones()
+{
+    for (const Qt::Key key : {Qt::Key_Asterisk, Qt::Key_1, Qt::Key_0, Qt::Key_0, Qt::Key_NumberSign})
+        QTest::keyClick(window->windowHandle(), key);
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "*100#");
+    button("Dial")->setFocus();
+    QTest::keyClick(window->windowHandle(), Qt::Key_7); // no field has the focus
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "*100#7");
+    auto *number = window->findChild<QLineEdit *>();
+    number->setFocus();
+    number->selectAll();
+    QTest::keyClick(window->windowHandle(), Qt::Key_8); // types it once
+    QCOMPARE(number->text(), "8");
+    window->openScreen(0);
+    clickKey("Down");
+    clickKey("Select"); // a dialog: what is typed is meant for it
+    QTest::keyClick(ZApplication::keyTarget(), Qt::Key_9);
+    QCOMPARE(number->text(), "8");
+}
+
+void TestWindow::theKeyboardHasTheColouredKeys()
+{
+    QTest::keyClick(window->windowHandle(), Qt::Key_F3);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Dialing);
+    QTest::keyClick(window->windowHandle(), Qt::Key_F4);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
+    click("Incoming call");
+    window->findChild<QLineEdit *>()->setFocus(); // from anywhere in the window
+    QTest::keyClick(window->windowHandle(), Qt::Key_F3);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Connected);
+    QTest::keyClick(window->windowHandle(), Qt::Key_F4);
+    QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
 }
 
 // A caption of the display's softkey bar, as the user sees it.
