@@ -54,6 +54,13 @@ int ZListBox::Private::rowOf(const ZListItem *item)
     return it->second.row;
 }
 
+// The list that the pointer went down on last.
+static QPointer<const ZListBox> &lastPressed()
+{
+    static QPointer<const ZListBox> list;
+    return list;
+}
+
 void ZListBox::Private::renumber()
 {
     int row = 0;
@@ -348,6 +355,7 @@ void ZListBox::step(int direction, bool wrap)
 void ZListBox::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
+    lastPressed() = this;
     d->rowBeforeClear = -1;
     d->pressed = QPersistentModelIndex();
     d->pressedBeforeClear = -1;
@@ -374,7 +382,10 @@ void ZListBox::mouseReleaseEvent(QMouseEvent *event)
 
 void ZListBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    mousePressEvent(event);
+    if (lastPressed() == this)
+        mousePressEvent(event);
+    else
+        event->accept(); // its first click opened the screen that this list is on
 }
 
 // The list may be gone after either signal: nothing may follow a call of this.

@@ -82,6 +82,7 @@ private slots:
     void aValueOfThePanelIsReadWithItsTitle();
     void digitsOfTheKeyboardAreThePhones();
     void theKeyboardHasTheColouredKeys();
+    void aDoubleClickOnAMenuRowOpensOneScreen();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft();
     void theKeypadLooksTheSameRightToLeft();
@@ -767,6 +768,19 @@ void TestWindow::theKeyboardHasTheColouredKeys()
     QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Connected);
     QTest::keyClick(window->windowHandle(), Qt::Key_F4);
     QCOMPARE(handset->lineState(), SimulatedHandset::LineState::Idle);
+}
+
+void TestWindow::aDoubleClickOnAMenuRowOpensOneScreen()
+{
+    const auto *menu = window->findChild<ZListBox *>();
+    const auto *rows = menu->viewport();
+    for (int row = 0; row < menu->count(); ++row) {
+        QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {},
+                           rows->mapTo(window.get(), menu->visualRect(menu->model()->index(row, 0)).center()));
+        QCOMPARE(title(), menu->item(row)->title());
+        QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+        QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
+    }
 }
 
 // A caption of the display's softkey bar, as the user sees it.
