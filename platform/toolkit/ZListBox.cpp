@@ -12,6 +12,7 @@
 #include <QtCore/qlogging.h>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <unordered_map>
@@ -54,12 +55,22 @@ int ZListBox::Private::rowOf(const ZListItem *item)
     return it->second.row;
 }
 
-// The list that the pointer went down on last.
-static QPointer<const ZListBox> &lastPressed()
-{
-    static QPointer<const ZListBox> list;
-    return list;
-}
+namespace {
+
+// Where the pointer went down last.
+struct LastPress {
+    QPointer<const ZListBox> list;
+    quint64 atMs = 0; ///< of the events' clock
+
+    /// Whether a double click on `other` began on this list, which has opened the screen that `other` is on.
+    bool hasOpened(const ZListBox *other, quint64 nowMs) const
+    {
+        return list && list != other && nowMs - atMs <= static_cast<quint64>(QApplication::doubleClickInterval());
+    }
+};
+LastPress lastPress;
+
+} // namespace
 
 void ZListBox::Private::renumber()
 {
@@ -355,7 +366,7 @@ void ZListBox::step(int direction, bool wrap)
 void ZListBox::mousePressEvent(QMouseEvent *event)
 {
     event->accept();
-    lastPressed() = this;
+    lastPress = {this, event->timestamp()};
     d->rowBeforeClear = -1;
     d->pressed = QPersistentModelIndex();
     d->pressedBeforeClear = -1;
@@ -382,10 +393,10 @@ void ZListBox::mouseReleaseEvent(QMouseEvent *event)
 
 void ZListBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (lastPressed() == this)
-        mousePressEvent(event);
+    if (lastPress.hasOpened(this, event->timestamp()))
+        event->accept();
     else
-        event->accept(); // its first click opened the screen that this list is on
+        mousePressEvent(event);
 }
 
 // The list may be gone after either signal: nothing may follow a call of this.
