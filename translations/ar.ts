@@ -3048,10 +3048,6 @@
         <translation>الخط</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>ما أبلغ عنه الهاتف</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>حالة الخط</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>ما لم يُكتب بعد في سجل المكالمات</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>ما أبلغ عنه الهاتف</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

@@ -3048,10 +3048,6 @@
         <translation>Leitung</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Was das Telefon gemeldet hat</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Zustand der Leitung</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Was noch nicht in der Anrufliste steht</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Was das Telefon gemeldet hat</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

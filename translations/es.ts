@@ -3048,10 +3048,6 @@
         <translation>Línea</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Lo que ha comunicado el teléfono</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Estado de la línea</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Lo que aún no está en el registro de llamadas</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Lo que ha comunicado el teléfono</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

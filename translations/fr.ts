@@ -3048,10 +3048,6 @@
         <translation>Ligne</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Ce que le téléphone a signalé</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>État de la ligne</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Ce qui n'est pas encore dans le journal</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Ce que le téléphone a signalé</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

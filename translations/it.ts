@@ -3048,10 +3048,6 @@
         <translation>Linea</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Che cosa ha comunicato il telefono</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Stato della linea</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Che cosa non è ancora nel registro</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Che cosa ha comunicato il telefono</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

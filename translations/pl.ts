@@ -3048,10 +3048,6 @@
         <translation>Linia</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Co zgłosił telefon</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Stan linii</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Czego jeszcze nie ma w rejestrze połączeń</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Co zgłosił telefon</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

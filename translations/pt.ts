@@ -3048,10 +3048,6 @@
         <translation>Linha</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>O que o telefone comunicou</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Estado da linha</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>O que ainda não está no registo de chamadas</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>O que o telefone comunicou</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

@@ -3048,10 +3048,6 @@
         <translation>Линия</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Что сообщил телефон</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Состояние линии</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Чего ещё нет в журнале вызовов</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Что сообщил телефон</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

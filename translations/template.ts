@@ -3048,10 +3048,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3061,6 +3057,10 @@
     </message>
     <message>
         <source>What is not in the call log yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -3048,10 +3048,6 @@
         <translation>Hat</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>Telefonun bildirdikleri</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>Hattın durumu</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>Arama kaydında henüz olmayanlar</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>Telefonun bildirdikleri</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>

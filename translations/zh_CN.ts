@@ -3048,10 +3048,6 @@
         <translation>线路</translation>
     </message>
     <message>
-        <source>What the telephone has told</source>
-        <translation>电话的通知</translation>
-    </message>
-    <message>
         <source>State of the line</source>
         <translation>线路状态</translation>
     </message>
@@ -3062,6 +3058,10 @@
     <message>
         <source>What is not in the call log yet</source>
         <translation>尚未写入通话记录的内容</translation>
+    </message>
+    <message>
+        <source>What the telephone has told</source>
+        <translation>电话的通知</translation>
     </message>
     <message>
         <source>Digits, +, * and #</source>
