@@ -34,14 +34,17 @@ CallRetention::CallRetention(Handset &handset, int days, std::shared_ptr<Clock> 
     , lookMs(everyMs)
     , clock(std::move(clocks))
 {
-    timer.setTimerType(Qt::VeryCoarseTimer);
     QObject::connect(&timer, &QTimer::timeout, &timer, [this] { look(); });
-    timer.start(0);
+    timer.setTimerType(Qt::VeryCoarseTimer);
+    timer.setInterval(lookMs);
+    // No timer: a program that only shows a window once may end before that fires.
+    QMetaObject::invokeMethod(
+        &timer, [this] { look(); }, Qt::QueuedConnection);
 }
 
 void CallRetention::look()
 {
-    timer.setInterval(lookMs);
+    timer.start();
     const qint64 now = clock->wallMs();
     if (doneAtWallMs && std::llabs(now - *doneAtWallMs) < dayMs)
         return;
