@@ -134,7 +134,7 @@ void Panel::showPage(int index)
 // Nothing leads to what would be cut off at the side.
 void Panel::makeRoom()
 {
-    setMinimumWidth(sizeHint().width());
+    setMinimumWidth(Panel::sizeHint().width());
 }
 
 void Panel::choosePage(int index)
