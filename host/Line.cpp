@@ -1,5 +1,6 @@
 #include "host/Line.h"
 
+#include "host/LeftToRight.h"
 #include "host/StatusText.h"
 #include "simulated/ReadyMadeHistory.h"
 
@@ -109,7 +110,7 @@ QString describe(const LineReport &report)
         return Line::tr("No modem");
     QStringList calls;
     for (const LineCall &call : report.calls) {
-        const QString number = call.number.isEmpty() ? Line::tr("number withheld") : call.number;
+        const QString number = call.number.isEmpty() ? Line::tr("number withheld") : leftToRight(call.number);
         calls << phaseText(call) + QStringLiteral(", ") + number;
     }
     return calls.isEmpty() ? Line::tr("Idle") : calls.join(QLatin1Char('\n'));
@@ -324,7 +325,7 @@ QString Line::describeState() const
     QStringList parts{stateWord(state, simulated->connectedMs())};
     if (state != LineState::Idle) {
         parts << (simulated->callKind() == CallKind::Data ? tr("data call") : tr("voice call"));
-        parts << (simulated->number().isEmpty() ? tr("number withheld") : simulated->number());
+        parts << (simulated->number().isEmpty() ? tr("number withheld") : leftToRight(simulated->number()));
     }
     return parts.join(QStringLiteral(", "));
 }

@@ -3,6 +3,7 @@
 #include "charging/AmountText.h"
 #include "handset/AdviceOfCharge.h"
 #include "handset/Status.h"
+#include "host/LeftToRight.h"
 #include "host/panel/Controls.h"
 
 #include <QtCore/QDateTime>
@@ -71,8 +72,10 @@ QStringList CallsModel::texts(const KeptCall &kept, int column) const
     case Direction:
         return {directionText(kept)};
     case Call:
-        return {call.number.isEmpty() ? tr("number withheld") : call.number,
-                QDateTime::fromMSecsSinceEpoch(call.startWallMs).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"))};
+        return {
+            call.number.isEmpty() ? tr("number withheld") : leftToRight(call.number),
+            leftToRight(
+                QDateTime::fromMSecsSinceEpoch(call.startWallMs).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")))};
     case Amount:
         return {clockText(call.durationMs / 1000), costText(call.units)};
     case ColumnCount:

@@ -72,6 +72,7 @@ void LineSection::addNumber(QVBoxLayout *column)
     static const QRegularExpression dialable(QStringLiteral("[0-9+*#]{0,80}"));
     number->setValidator(new QRegularExpressionValidator(dialable, number));
     number->setObjectName(QStringLiteral("number"));
+    number->setLayoutDirection(Qt::LeftToRight); // "+4930", also where texts are read from right to left
     number->setToolTip(tr("Digits, +, * and #"));
     number->setClearButtonEnabled(true);
     auto *label = new QLabel(tr("N&umber"));

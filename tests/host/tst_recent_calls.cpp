@@ -15,6 +15,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollBar>
@@ -89,6 +90,7 @@ private slots:
 
     void theCallsAreListedNewestFirstWithAllThatIsKnownOfThem();
     void costsAreShownInTheCurrencyWhereThatIsChosen();
+    void aNumberIsReadFromLeftToRightAmongTextThatIsNot();
     void aCallWithoutAnAnswerIsToldFromOneWith_data();
     void aCallWithoutAnAnswerIsToldFromOneWith();
     void aRunningCallIsListedUpToNowAndCannotBeDeleted();
@@ -148,6 +150,7 @@ void TestRecentCalls::init()
 void TestRecentCalls::cleanup()
 {
     window.reset();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
     handset::install(nullptr);
     owner.reset();
 }
@@ -241,6 +244,21 @@ void TestRecentCalls::costsAreShownInTheCurrencyWhereThatIsChosen()
     QCOMPARE(text(0, CallsModel::Amount), "00:01:05\n6.00 units");
     QCOMPARE(handset->adviceOfCharge()->setChargeType(handset::AdviceOfCharge::InCurrency), 0);
     QCOMPARE(text(0, CallsModel::Amount), "00:01:05\n1.38 EUR");
+}
+
+void TestRecentCalls::aNumberIsReadFromLeftToRightAmongTextThatIsNot()
+{
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(handset->addHistory({pastCall(CallDirection::Dialed, "+4930123456", 65'000)}), 0);
+    const QString isolate(QChar(0x2066));
+    const QString popped(QChar(0x2069));
+    QCOMPARE(text(0, CallsModel::Call),
+             isolate + "+4930123456" + popped + '\n' + isolate + "2026-03-04 05:06:07" + popped);
+    QCOMPARE(handset->dial("*#99", CallKind::Voice), 0);
+    const auto *const state = window->findChild<QLabel *>("line state");
+    QVERIFY(state);
+    QTRY_VERIFY2(state->text().contains(isolate + "*#99" + popped), qPrintable(state->text()));
+    QCOMPARE(window->findChild<QLineEdit *>("number")->layoutDirection(), Qt::LeftToRight);
 }
 
 void TestRecentCalls::aCallWithoutAnAnswerIsToldFromOneWith_data()
