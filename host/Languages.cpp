@@ -32,9 +32,13 @@ bool isSpokenIn(const QString &language, const QLocale &locale)
 QStringList languageNames()
 {
     QStringList names{english()};
-    const QStringList files = folder().entryList({QStringLiteral("*.qm")}, QDir::Files);
-    for (const QString &file : files)
-        names << file.chopped(3);
+    const QLatin1StringView ending(".qm");
+    const QStringList files =
+        folder().entryList(QDir::Files); // a pattern of names would cost the start more than this
+    for (const QString &file : files) {
+        if (file.endsWith(ending))
+            names << file.chopped(ending.size());
+    }
     names.sort();
     return names;
 }

@@ -12,6 +12,7 @@
 #include <QtCore/QFile>
 
 #include <algorithm>
+#include <array>
 
 namespace host {
 
@@ -95,6 +96,36 @@ int pageIndex(const QString &name)
     return found == pageNames.end() ? -1 : static_cast<int>(found - pageNames.begin());
 }
 
+QString allBackendNames()
+{
+    return handset::backendNames().join(QStringLiteral(", "));
+}
+
+/// What stands in an option's text for what the program finds out.
+struct FoundOut {
+    const char *mark;
+    QString (*text)();
+};
+
+constexpr std::array foundOut{
+    FoundOut{"%1", &handset::defaultStateDirectory},
+    FoundOut{"%2", &allBackendNames},
+    FoundOut{"%3", &screenNames},
+    FoundOut{"%4", &allPageNames},
+    FoundOut{"%5", &allLanguageNames},
+};
+
+// Only what is asked for is found out, as every start pays for it.
+QString completed(QString text)
+{
+    for (const FoundOut &found : foundOut) {
+        const QLatin1StringView mark(found.mark);
+        if (text.contains(mark))
+            text.replace(mark, found.text());
+    }
+    return text;
+}
+
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(QLatin1StringView(description));
@@ -102,13 +133,8 @@ void describe(QCommandLineParser &parser)
     parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
     parser.addVersionOption();
     for (const OptionText &option : optionTexts) {
-        const QString text = QString::fromLatin1(option.text)
-                                 .replace(QStringLiteral("%1"), handset::defaultStateDirectory())
-                                 .replace(QStringLiteral("%2"), handset::backendNames().join(QStringLiteral(", ")))
-                                 .replace(QStringLiteral("%3"), screenNames())
-                                 .replace(QStringLiteral("%4"), allPageNames())
-                                 .replace(QStringLiteral("%5"), allLanguageNames());
-        parser.addOption({QString::fromLatin1(option.name), text, QString::fromLatin1(option.value)});
+        parser.addOption({QString::fromLatin1(option.name), completed(QString::fromLatin1(option.text)),
+                          QString::fromLatin1(option.value)});
     }
 }
 
