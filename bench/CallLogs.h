@@ -15,6 +15,8 @@ namespace bench {
 inline constexpr auto logName = "calllog.db";
 
 // Calls.
+inline constexpr int readAtOnceLog =
+    5'000; ///< just below the size up to which the whole is read before the first screen
 inline constexpr int usualLog = 1'000'000;  ///< of someone who has had the handset for decades
 inline constexpr int largeLog = 10'000'000; ///< built only when it is asked for, and not kept
 

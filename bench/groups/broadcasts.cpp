@@ -19,6 +19,7 @@
 #include <array>
 #include <chrono>
 #include <memory>
+#include <string>
 
 namespace bench {
 
@@ -346,6 +347,98 @@ void sendMany(benchmark::State &state)
         state.SkipWithError("an update was not sent");
 }
 
+// --- sending from a process that subscribes
+
+/// What has come back here: each that is sent, in its turn.
+bool hasCome(const int &received)
+{
+    const QDeadlineTimer deadline(patienceMs);
+    while (received < sentAtOnce && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+    return received == sentAtOnce;
+}
+
+/// Counts what it is told.
+class Arrivals : public QObject
+{
+    Q_OBJECT
+
+public:
+    int count = 0;
+
+public slots:
+    void take(const QCString &, const QByteArray &) { ++count; }
+};
+
+template <bool (*send)(), typename Subscription>
+void sendToItself(benchmark::State &state, Subscription &subscription)
+{
+    useFixedHandset();
+    Arrivals arrivals;
+    QObject::connect(&subscription, SIGNAL(received(QCString, QByteArray)), &arrivals,
+                     SLOT(take(QCString, QByteArray)));
+    if (!QCopBus::instance()->waitFor(std::chrono::milliseconds(patienceMs)))
+        return state.SkipWithError("there is no bus");
+    for (auto _ : state) {
+        arrivals.count = 0;
+        const Counted counted;
+        for (int i = 0; i < sentAtOnce; ++i)
+            send();
+        if (!hasCome(arrivals.count))
+            return state.SkipWithError("not each that was sent has come");
+    }
+}
+
+void channelToItself(benchmark::State &state)
+{
+    QCopChannel channel{QCString(channelName)};
+    sendToItself<&sendOnChannel>(state, channel);
+}
+
+void plainToItself(benchmark::State &state)
+{
+    PlainReceiver receiver;
+    sendToItself<&sendPlain>(state, receiver);
+}
+
+// Takes what has come on the lean connection. Returns how many of them are the updates.
+int takeLean()
+{
+    int updates = 0;
+    while (DBusMessage *message = dbus_connection_pop_message(leanConnection())) {
+        const char *bytes = nullptr;
+        int size = 0;
+        if (dbus_message_is_signal(message, plainInterface, plainMember) &&
+            dbus_message_get_args(message, nullptr, DBUS_TYPE_ARRAY, DBUS_TYPE_BYTE, &bytes, &size,
+                                  DBUS_TYPE_INVALID))
+            ++updates;
+        dbus_message_unref(message);
+    }
+    return updates;
+}
+
+void leanToItself(benchmark::State &state)
+{
+    if (!leanConnection())
+        return state.SkipWithError("there is no bus");
+    const std::string rule = std::string("type='signal',interface='") + plainInterface + "'";
+    dbus_bus_add_match(leanConnection(), rule.c_str(), nullptr);
+    for (auto _ : state) {
+        int received = 0;
+        const Counted counted;
+        for (int i = 0; i < sentAtOnce; ++i)
+            sendLean();
+        const QDeadlineTimer deadline(patienceMs);
+        while (received < sentAtOnce && !deadline.hasExpired()) {
+            dbus_connection_read_write(leanConnection(), 100);
+            received += takeLean();
+        }
+        if (received != sentAtOnce)
+            return state.SkipWithError("not each that was sent has come");
+    }
+    dbus_bus_remove_match(leanConnection(), rule.c_str(), nullptr);
+}
+
 } // namespace
 
 std::vector<Comparison> broadcastComparisons()
@@ -371,6 +464,14 @@ std::vector<Comparison> broadcastComparisons()
     sending.iterations = 20;
     sending.operations = sentAtOnce;
 
+    Comparison sendingToItself;
+    sendingToItself.name = "Sending an update from a process that has subscribed, until it has come there";
+    sendingToItself.ours = {"channel", &channelToItself};
+    sendingToItself.beside = {{{"libdbus signal", &leanToItself}, Bar{1.8, 1.3}},
+                              {{"Qt D-Bus signal", &plainToItself}}};
+    sendingToItself.iterations = 20;
+    sendingToItself.operations = sentAtOnce;
+
     Comparison many;
     many.name = "10,000 broadcasts across processes, none lost";
     many.ours = {"channel", &manyOnTheChannel};
@@ -379,7 +480,7 @@ std::vector<Comparison> broadcastComparisons()
     many.iterations = 1;
     many.operations = burst;
     many.countsInstructions = false;
-    return {within, across, sending, many};
+    return {within, across, sending, sendingToItself, many};
 }
 
 } // namespace bench

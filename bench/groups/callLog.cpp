@@ -51,6 +51,15 @@ int askDataTotal()
     return result;
 }
 
+template <int (*query)(char *)>
+int askCost()
+{
+    std::array<char, TAPI_AMOUNT_TEXT_SIZE> text = {};
+    const int result = query(text.data());
+    benchmark::DoNotOptimize(text);
+    return result;
+}
+
 constexpr std::array figures{
     Figure{"last call", &askTime<&TAPI_LOG_GetLastCallTime>},
     Figure{"dialed calls", &askTime<&TAPI_LOG_GetDialedCallsTime>},
@@ -58,8 +67,10 @@ constexpr std::array figures{
     Figure{"data calls", &askDataTotal},
     Figure{"all calls", &askTime<&TAPI_CS_GetTotalCallTime>},
     Figure{"lifetime calls", &askTime<&TAPI_LOG_GetLifetimeCallsTime>},
+    Figure{"cost of the last call", &askCost<&TAPI_CS_GetLastCallCost>},
+    Figure{"cost of dialed calls", &askCost<&TAPI_LOG_GetDialedCallsCost>},
 };
-static_assert(figures.size() == 6);
+static_assert(figures.size() == 8);
 
 // A call as it is made: two transactions, both on the disk when they are over.
 int recordCall(const BenchedHandset &benched)

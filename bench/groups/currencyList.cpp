@@ -1,11 +1,17 @@
-// Opening the list of currencies beside a list view with a delegate and the same texts.
+// Opening the list of currencies beside a list view with a delegate and the same texts, and beside the bare limit.
+#include "bench/BarePainting.h"
+#include "bench/Counted.h"
+#include "bench/FixedHandset.h"
 #include "bench/Groups.h"
 #include "bench/ListScreen.h"
 #include "bench/Opening.h"
+#include "bench/ScreenTable.h"
+#include "bench/Stage.h"
 #include "toolkit/ZListBox.h"
 #include "toolkit/ZListItem.h"
 #include "toolkit/ZSettingItem.h"
 #include "toolkit/ZSingleSelectDlg.h"
+#include "toolkit/ZSkinService.h"
 #include "utility/PHONE_UI_RecentCallCostSetupView.h"
 
 namespace bench {
@@ -33,6 +39,8 @@ public:
     void close() override { emit dialog()->rightSoftkeyClicked(); }
     const char *fault() override { return texts().size() == choices ? nullptr : "it has not all the currencies"; }
 
+    QString title() const { return dialog()->header(); }
+
     QStringList texts() const
     {
         QStringList all;
@@ -56,14 +64,14 @@ public:
         : PluginList(display)
     {
         PluginList::open();
-        title = dialog()->header();
+        heading = title();
         currencies = texts();
         PluginList::close();
     }
 
     void open() override
     {
-        handMade = std::make_unique<ListDialog>(title, currencies, screen.get());
+        handMade = std::make_unique<ListDialog>(heading, currencies, screen.get());
         handMade->show();
     }
     void close() override { handMade.reset(); }
@@ -74,7 +82,7 @@ public:
     }
 
 private:
-    QString title;
+    QString heading;
     QStringList currencies;
     std::unique_ptr<ListDialog> handMade;
 };
@@ -85,6 +93,36 @@ Side side(const char *label)
     return {label, openingSide([](QWidget *display) { return std::make_unique<List>(display); })};
 }
 
+// The title, the keys and as many currencies as the display shows.
+ScreenTexts shownTexts(QWidget *display)
+{
+    PluginList list(display);
+    list.open();
+    ScreenTexts shown{list.title(), QStringLiteral("Select"), QStringLiteral("Cancel"), {}};
+    const QStringList currencies = list.texts();
+    constexpr int rowsShown = (ZSkinService::DisplayHeight - ZSkinService::TitleBarHeight -
+                               ZSkinService::SoftkeyBarHeight + ZSkinService::RowHeight - 1) /
+                              ZSkinService::RowHeight;
+    for (const QString &currency : currencies.first(rowsShown))
+        shown.rows.append({currency, {}});
+    list.close();
+    return shown;
+}
+
+Side bareLimit()
+{
+    return {"bare limit: texts on an image", [](benchmark::State &state) {
+                useFixedHandset();
+                Stage stage;
+                const ScreenTexts texts = shownTexts(&stage);
+                BarePainting painting;
+                for (auto _ : state) {
+                    const Counted counted;
+                    painting.paint(texts);
+                }
+            }};
+}
+
 } // namespace
 
 std::vector<Comparison> currencyListComparisons()
@@ -92,7 +130,7 @@ std::vector<Comparison> currencyListComparisons()
     Comparison row;
     row.name = "Opening the currency list, to the first whole paint";
     row.ours = side<PluginList>("plug-in");
-    row.beside = {{side<HandMadeList>("list view and delegate"), Bar{1.1, 0.8}}};
+    row.beside = {{side<HandMadeList>("list view and delegate"), Bar{1.1, 0.8}}, {bareLimit(), Bar{2.3, 1.7}}};
     return {row};
 }
 
