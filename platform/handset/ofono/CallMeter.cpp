@@ -239,7 +239,11 @@ CallMeter::Outcome CallMeter::write(const QString &property, const QVariant &val
 
 CallMeter::Outcome CallMeter::reset(const QByteArray &pin2)
 {
-    return ask([&] { return modem.proxy<OrgOfonoCallMeterInterface>()->Reset(QString::fromLatin1(pin2)); });
+    const Outcome outcome =
+        ask([&] { return modem.proxy<OrgOfonoCallMeterInterface>()->Reset(QString::fromLatin1(pin2)); });
+    if (outcome == Outcome::Written)
+        emit zeroed();
+    return outcome;
 }
 
 // The daemon asks the card for them after it has told the failure.

@@ -68,6 +68,8 @@ signals:
     void waiting(bool waits);
     /// The accumulated meter has been read: units.
     void accumulatedRead(quint32 units);
+    /// The accumulated meter has been reset from here.
+    void zeroed();
     /// The meter of the call that is on has been told: units.
     void currentTold(quint32 units);
 

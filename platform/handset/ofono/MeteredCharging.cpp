@@ -1,6 +1,7 @@
 #include "ofono/MeteredCharging.h"
 
 #include "charging/AmountText.h"
+#include "charging/ChargeUnits.h"
 #include "charging/Pin2.h"
 #include "charging/Puct.h"
 
@@ -268,7 +269,9 @@ int MeteredFigures::allCallsCost(QByteArray &text)
 {
     if (!meter.isThere())
         return CallFigures::allCallsCost(text);
-    return meter.accumulated() ? charging.amount(*meter.accumulated(), text) : int{NotAvailable};
+    if (!meter.accumulated())
+        return NotAvailable;
+    return charging.amount(charging::addUnits(*meter.accumulated(), unread), text);
 }
 
 int MeteredFigures::resetAllCallsCost()

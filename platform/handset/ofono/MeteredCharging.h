@@ -77,6 +77,9 @@ public:
         , charging(charges)
     {}
 
+    /// Units of the call that is on, which the accumulated meter has come to since it was read.
+    void setUnread(quint32 units) { unread = units; }
+
     int allCallsCost(QByteArray &text) override;
     int resetAllCallsCost() override;
     int resetAll() override;
@@ -90,6 +93,7 @@ protected:
 private:
     CallMeter &meter;
     MeteredCharging &charging;
+    quint32 unread = 0;
 };
 
 } // namespace handset::ofono

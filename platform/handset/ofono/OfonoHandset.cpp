@@ -20,8 +20,10 @@ OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_
         running.clear();
         known.clear();
         ended.reset();
+        setGiven(0);
     });
     connect(&meter, &CallMeter::accumulatedRead, this, &OfonoHandset::accumulatedRead);
+    connect(&meter, &CallMeter::zeroed, this, [this] { setGiven(0); });
     connect(&meter, &CallMeter::waiting, this, &OfonoHandset::tellWait);
     connect(&meter, &CallMeter::currentTold, this, &OfonoHandset::currentTold);
     connect(&meter, &CallMeter::changed, this, [this] {
@@ -46,6 +48,8 @@ void OfonoHandset::callReported(const live::ReportedCall &call)
     const Metered cost = calls().costOf(call.id);
     if (!cost || running.contains(call.id))
         return;
+    if (running.isEmpty())
+        setGiven(0);
     running.insert(call.id, cost);
     connectedLast = call.id;
     ended.reset();
@@ -59,6 +63,7 @@ void OfonoHandset::callEnded(const QString &id)
         return;
     ended = *call;
     running.erase(call);
+    setGiven(given);
     meter.refresh();
 }
 
@@ -67,15 +72,23 @@ void OfonoHandset::accumulatedRead(quint32 units)
 {
     const quint32 last = before.value_or(units);
     const quint32 more = units < last ? 0 : units - last;
-    const quint32 rest = more - std::min(more, given);
+    const quint32 seen = std::min(more, given);
     before = units;
-    given = 0;
+    setGiven(units < last ? 0 : given - seen);
+    const quint32 rest = more - seen;
     if (rest == 0)
         return;
     if (ended)
         charge(ended, rest);
     else if (const auto call = running.find(connectedLast); call != running.end())
         charge(*call, rest);
+}
+
+// The card may count when the call is over only: then it still has to come to what is given.
+void OfonoHandset::setGiven(quint32 units)
+{
+    given = units;
+    figures.setUnread(running.isEmpty() ? 0 : given);
 }
 
 // Of one call, while it is the only one.
@@ -85,7 +98,7 @@ void OfonoHandset::currentTold(quint32 units)
         return;
     const Metered call = *running.begin();
     const quint32 more = std::max(units, call->units) - call->units;
-    given += more;
+    setGiven(given + more);
     charge(call, more);
 }
 

@@ -36,6 +36,7 @@ private:
     void callEnded(const QString &id);
     void accumulatedRead(quint32 units);
     void currentTold(quint32 units);
+    void setGiven(quint32 units);
 
     CallMeter meter;
     MeteredCharging charges;
@@ -45,7 +46,7 @@ private:
     QString connectedLast;           ///< of those
     Metered ended;                   ///< the last one, until another is connected; then null
     std::optional<quint32> before;   ///< the accumulated meter as it was read last
-    quint32 given = 0;               ///< of what it has come to since then
+    quint32 given = 0;               ///< to calls, and not yet seen in it
 };
 
 } // namespace handset::ofono

@@ -47,6 +47,8 @@ FakeModemManager::FakeModemManager(const QString &busAddress)
 
 FakeModemManager::~FakeModemManager()
 {
+    // Qt's own thread closes the connection later, and would look at a virtual object that has gone.
+    bus.unregisterObject(root, QDBusConnection::UnregisterTree);
     QDBusConnection::disconnectFromBus(connectionName);
 }
 

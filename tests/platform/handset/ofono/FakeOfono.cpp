@@ -48,8 +48,12 @@ void FakeOfono::appear()
 
 void FakeOfono::disappear()
 {
-    if (!connectionName.isEmpty())
-        QDBusConnection(connectionName).unregisterService(QStringLiteral("org.ofono"));
+    if (!connectionName.isEmpty()) {
+        QDBusConnection bus(connectionName);
+        bus.unregisterService(QStringLiteral("org.ofono"));
+        // Qt's own thread closes the connection later, and would look at a virtual object that has gone.
+        bus.unregisterObject(QStringLiteral("/"), QDBusConnection::UnregisterTree);
+    }
     QDBusConnection::disconnectFromBus(connectionName);
     connectionName.clear();
 }

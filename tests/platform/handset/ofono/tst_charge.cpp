@@ -157,6 +157,8 @@ private slots:
     void aDialedCallCostsWhatTheMeterComesToMore();
     void anAnsweredCallCostsLikewise();
     void theCurrentMeterIsShownWhileTheCallIsOn();
+    void aCardThatCountsAtTheEndIsNotCountedTwice();
+    void aMeterThatIsResetInACallShowsTheRestOfIt();
     void aMeterThatIsLateIsStillTheEndedCalls();
     void callsAtOnceCostTogetherWhatTheMeterSays();
     void aMeterThatFallsCostsNothing();
@@ -323,10 +325,47 @@ void TestCharge::theCurrentMeterIsShownWhileTheCallIsOn()
     QVERIFY(desk.isReady());
     QVERIFY(desk.connectCall(one, "dialing"));
     desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
-    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 40.00");
+    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
     desk.count(46);
     desk.end(one);
     QTRY_COMPARE(desk.costs(), "6.00 6.00 0.00 46.00"); // counted once
+}
+
+// A second call has the meter read in the middle of the first one.
+void TestCharge::aCardThatCountsAtTheEndIsNotCountedTwice()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.connectCall(one, "dialing"));
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
+    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
+    const int reads = desk.readings();
+    desk.fake.addCall(two, callIn("waiting"));
+    QTRY_COMPARE(desk.readings(), reads + 1);
+    desk.end(two);
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 5U); // comes behind what was read
+    QTRY_COMPARE(desk.costs(), "5.00 5.00 0.00 45.00");
+    desk.count(46);
+    desk.end(one);
+    QTRY_COMPARE(desk.costs(), "6.00 6.00 0.00 46.00");
+}
+
+void TestCharge::aMeterThatIsResetInACallShowsTheRestOfIt()
+{
+    Desk desk;
+    desk.count(0);
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.connectCall(one, "dialing"));
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
+    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 4.00");
+    QVERIFY(desk.enterPin());
+    QCOMPARE(desk.log().resetAllCallsCost(), int(Success));
+    QCOMPARE(desk.costs(), "4.00 4.00 0.00 0.00");
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 7U);
+    QTRY_COMPARE(desk.costs(), "7.00 7.00 0.00 3.00");
+    desk.count(3);
+    desk.end(one);
+    QTRY_COMPARE(desk.costs(), "7.00 7.00 0.00 3.00");
 }
 
 void TestCharge::aMeterThatIsLateIsStillTheEndedCalls()
@@ -413,7 +452,7 @@ void TestCharge::aCallThatIsBegunLateCostsWhatTheMeterSays()
     }
     desk.tick();
     QVERIFY(desk.phone->calls().rowOf(one) != 0);
-    QCOMPARE(desk.costs(), "4.00 4.00 0.00 40.00");
+    QCOMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
     desk.count(46);
     desk.end(one);
     QTRY_COMPARE(desk.costs(), "6.00 6.00 0.00 46.00");
@@ -432,7 +471,7 @@ void TestCharge::whatACallCostsIsWrittenAsSoonAsItCanBe()
     }
     desk.tick();
     QVERIFY(!desk.phone->owesRecord());
-    QCOMPARE(desk.costs(), "4.00 4.00 0.00 40.00");
+    QCOMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
 }
 
 void TestCharge::withoutACallMeterTheOwnTariffCharges()
