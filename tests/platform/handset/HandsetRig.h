@@ -1,11 +1,14 @@
 // How the contract test makes calls on a backend.
 #pragma once
 
+#include "handset/AdviceOfCharge.h"
 #include "handset/Call.h"
 #include "handset/Date.h"
 #include "handset/Handset.h"
+#include "handset/SimSecurity.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -25,10 +28,25 @@ public:
     /// The roles that the backend has not, as the operations name them ("PacketData").
     virtual QStringList lackingRoles() const { return {}; }
     bool hasDataCalls() const { return !lackingRoles().contains(QStringLiteral("DataCalls")); }
-    bool hasSimSecurity() const { return !lackingRoles().contains(QStringLiteral("SimSecurity")); }
     /// The files of the SIM's advice of charge can be read and written; else each is NotAvailable, and a charge type
     /// in the currency as well.
     virtual bool hasSimFiles() const { return true; }
+    /// Rules that a SIM file may have.
+    virtual QList<quint8> updateRules() const
+    {
+        return {AdviceOfCharge::UpdateUnderPin2, AdviceOfCharge::NoUpdate, AdviceOfCharge::FreeUpdate};
+    }
+    /// Nothing is written to the SIM without PIN2, and each entry is good for one write.
+    virtual bool asksForPin2EachTime() const { return false; }
+    /// Then it is entered, for one write; else nothing is done. False when the entry fails.
+    bool allowWrite()
+    {
+        bool accepted = !asksForPin2EachTime();
+        return accepted ||
+               (handset().simSecurity()->verifyPin(SimSecurity::Pin2, pin2(), accepted) == 0 && accepted);
+    }
+    /// Calls are paid from the phone's own account; else its figures are NotAvailable.
+    virtual bool hasAccount() const { return true; }
 
     /// The call is being set up, but not connected; false when that fails, as for all the others.
     virtual bool begin(CallKind kind, CallDirection direction) = 0;
@@ -51,7 +69,7 @@ public:
 };
 
 /// The rig of the backend that this program is built for, with an empty state of its own and a new SIM: no limit, no
-/// price, every file free to update, PIN2 switched on and never tried; nothing has been paid in.
+/// price, every file free to update where there is such a rule, PIN2 switched on and never tried; nothing has been paid in.
 std::unique_ptr<HandsetRig> makeRig();
 
 } // namespace handset::test

@@ -1,8 +1,13 @@
-// Makes calls on a handset over a modem, for the contract test: what its daemon would report is said here.
+// Makes calls on a handset over a modem, for the contract test: a daemon that is not real says what the rig wants.
 #pragma once
 
 #include "handset/HandsetRig.h"
 #include "handset/live/LiveDesk.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtTest/QSignalSpy>
+
+#include <functional>
 
 namespace handset::test {
 
@@ -11,8 +16,7 @@ class LiveRig : public HandsetRig
 public:
     bool open() override
     {
-        make();
-        return desk.phone != nullptr;
+        return makePhone() && until([this] { return isReady(); });
     }
     void close() override { desk.close(); }
     Handset &handset() override { return *desk.phone; }
@@ -27,27 +31,22 @@ public:
     {
         if (kind != CallKind::Voice)
             return false;
-        call = {QStringLiteral("call%1").arg(++calls),
-                direction == CallDirection::Dialed ? CallPhase::Dialing : CallPhase::Incoming,
-                direction,
-                QStringLiteral("0301234"),
-                {},
-                false};
-        emit modem().callReported(call);
-        return true;
+        ++calls;
+        addCall(direction);
+        return until([this] { return !desk.phone->calls().reported().isEmpty(); });
     }
     bool connectCall() override
     {
-        call.phase = CallPhase::Active;
-        emit modem().callReported(call);
-        return true;
+        answerCall();
+        return until([this] {
+            const QList<live::ReportedCall> all = desk.phone->calls().reported();
+            return all.size() == 1 && desk.phone->calls().connectedMs(all.constFirst().id);
+        });
     }
     bool end() override
     {
-        call.phase = CallPhase::Over;
-        emit modem().callReported(call);
-        emit modem().callGone(call.id);
-        return true;
+        endCall();
+        return until([this] { return desk.phone->calls().reported().isEmpty(); });
     }
     /// The bytes are the kernel's, of an interface that has carried some before.
     bool beginSession(const QByteArray &apn, quint32 sentPerSecond, quint32 receivedPerSecond) override
@@ -55,17 +54,15 @@ public:
         perSecond = {sentPerSecond, receivedPerSecond};
         sessionMs = 0;
         count();
-        session.id = QStringLiteral("session%1").arg(++sessions);
-        session.apn = apn;
-        session.interface = QStringLiteral("wwan0");
-        emit modem().sessionReported(session);
-        return true;
+        ++sessions;
+        addSession(QString::fromLatin1(apn), QStringLiteral("wwan0"));
+        return until([this] { return !desk.phone->sessions().reported().isEmpty(); });
     }
     bool endSession() override
     {
-        emit modem().sessionGone(session.id);
+        removeSession();
         perSecond = {};
-        return true;
+        return until([this] { return desk.phone->sessions().reported().isEmpty(); });
     }
     void pass(qint64 ms) override
     {
@@ -90,10 +87,32 @@ public:
     QByteArray pin2() const override { return {}; }
 
 protected:
-    virtual void make() = 0;
-    live::Modem &modem() { return desk.phone->modem(); }
+    /// The daemon is there with a modem, and the handset over it is opened.
+    virtual bool makePhone() = 0;
+    virtual bool isReady() = 0;
+    virtual void addCall(CallDirection direction) = 0;
+    virtual void answerCall() = 0;
+    virtual void endCall() = 0;
+    virtual void addSession(const QString &apn, const QString &interface) = 0;
+    virtual void removeSession() = 0;
+
+    /// Waits for what the daemon says; the handset tells of it.
+    bool until(const std::function<bool()> &state) const
+    {
+        constexpr int longestMs = 60'000;
+        QElapsedTimer since;
+        since.start();
+        QSignalSpy changed(desk.phone.get(), &live::LiveHandset::changed);
+        while (!state())
+            if (since.hasExpired(longestMs) || (!changed.wait(longestMs) && !state()))
+                return false;
+        return true;
+    }
 
     LiveDesk desk;
+    int calls = 0; ///< made until now; so the sessions
+    int sessions = 0;
+    static inline const QString number = QStringLiteral("0301234");
 
 private:
     void count() const
@@ -103,12 +122,8 @@ private:
                           before + perSecond.received * sessionMs / second);
     }
 
-    live::ReportedCall call;
-    live::ReportedSession session;
     live::Bytes perSecond;
     qint64 sessionMs = 0;
-    int calls = 0;
-    int sessions = 0;
 };
 
 } // namespace handset::test
