@@ -124,10 +124,13 @@ void BusDaemon::askForOwner()
     QDBusMessage question =
         QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetNameOwner"));
     question << service;
+    hasAnswered = false;
     const QString asked = connectionName;
     ask(connection, question, -1, this, [this, asked](const QDBusMessage &answer) {
-        const QDBusReply<QString> owner = answer;
-        if (owner.isValid() && asked == connectionName)
+        if (asked != connectionName)
+            return;
+        hasAnswered = true;
+        if (const QDBusReply<QString> owner = answer; owner.isValid())
             setOwner(owner.value());
     });
 }

@@ -48,6 +48,8 @@ public:
     const QDBusConnection &bus() const { return connection; }
     /// The unique name of the daemon; empty while it is not there.
     const QString &owner() const { return ownerName; }
+    /// The bus has said whether the daemon is there.
+    bool isOwnerKnown() const { return hasAnswered; }
 
 signals:
     /// The daemon is there, and knows nothing of what was asked of the one before.
@@ -69,6 +71,7 @@ private:
     QString connectionName;
     QDBusConnection connection;
     QString ownerName;
+    bool hasAnswered = false; ///< the bus, when it was asked for the owner
     QString whyNot;
     QTimer *reconnect;               ///< runs while there is no bus
     std::unique_ptr<BusProbe> probe; ///< while the bus is asked whether it answers

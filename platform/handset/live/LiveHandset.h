@@ -54,6 +54,7 @@ public:
     void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
 
     Modem &modem() { return *source; }
+    const Modem &modem() const { return *source; }
     const CallRecorder &calls() const { return callRecorder; }
     const SessionRecorder &sessions() const { return sessionRecorder; }
     bool isRecording() const { return ledger->record(); }

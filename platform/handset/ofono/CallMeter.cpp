@@ -65,6 +65,7 @@ void CallMeter::appearOrVanish()
 {
     if (isThere() != (life != nullptr)) {
         values = {};
+        isMeterAsked = isThere();
         life.reset(isThere() ? new QObject : nullptr);
         refresh();
         emit changed();
@@ -72,6 +73,7 @@ void CallMeter::appearOrVanish()
     const bool hasSim = modem.has("SimManager");
     if (hasSim != hadSim) {
         hadSim = hasSim;
+        isSimAsked = hasSim;
         pin2Tries.reset();
         required.clear();
         askSim();
@@ -118,10 +120,13 @@ void CallMeter::refresh()
         return;
     OfonoModem::whenTold<QVariantMap>(modem.proxy<OrgOfonoCallMeterInterface>(), "GetProperties", life.get(),
                                       [this](const QDBusReply<QVariantMap> &answer) {
+                                          if (isNamed(answer.error(), "InProgress")) {
+                                              QTimer::singleShot(retryMs, life.get(), [this] { refresh(); });
+                                              return;
+                                          }
+                                          isMeterAsked = false;
                                           if (answer.isValid())
                                               takeAll(answer.value());
-                                          else if (isNamed(answer.error(), "InProgress"))
-                                              QTimer::singleShot(retryMs, life.get(), [this] { refresh(); });
                                       });
 }
 
@@ -143,6 +148,7 @@ void CallMeter::askSim()
         return;
     OfonoModem::whenTold<QVariantMap>(modem.proxy<OrgOfonoSimManagerInterface>(), "GetProperties", this,
                                       [this](const QDBusReply<QVariantMap> &answer) {
+                                          isSimAsked = false;
                                           const QVariantMap all =
                                               answer.isValid() ? answer.value() : QVariantMap();
                                           for (auto value = all.begin(); value != all.end(); ++value)

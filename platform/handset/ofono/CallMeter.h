@@ -38,6 +38,8 @@ public:
     explicit CallMeter(OfonoModem &owner, int longestWaitMs = usualWaitMs);
 
     bool isThere() const { return modem.has("CallMeter"); }
+    /// The daemon has answered, with an error perhaps, what it was asked for when the interfaces appeared.
+    bool isAnswered() const { return !isMeterAsked && !isSimAsked; }
     /// Units. Nothing as long as the daemon has not told them; so all that follow.
     std::optional<quint32> accumulated() const { return values.accumulated; }
     std::optional<quint32> maximum() const { return values.maximum; } ///< 0: none
@@ -96,6 +98,8 @@ private:
     Values values;
     std::optional<int> pin2Tries;
     QString required;
+    bool isMeterAsked = false;
+    bool isSimAsked = false;
     bool isWaiting = false;
     bool isSeries = false;
     qint64 deadlineMs = 0;

@@ -12,9 +12,14 @@ Opened open(const Settings &settings)
     auto modem = std::make_unique<OfonoModem>();
     if (const QString error = modem->connectToBus(); !error.isEmpty())
         return {nullptr, error, {}};
-    return live::open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {
-        return std::make_shared<OfonoHandset>(std::move(ledger), settings.clock, std::move(modem));
+    std::shared_ptr<OfonoHandset> handset;
+    const Opened opened = live::open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {
+        handset = std::make_shared<OfonoHandset>(std::move(ledger), settings.clock, std::move(modem));
+        return handset;
     });
+    if (handset)
+        handset->awaitFigures(settings.patience.operation);
+    return opened;
 }
 
 Awaited await(const std::function<void()> &here)

@@ -1,5 +1,9 @@
 #include "ofono/OfonoHandset.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QTimer>
+
 #include <algorithm>
 #include <utility>
 
@@ -32,6 +36,15 @@ OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_
             before.reset();
         emit changed();
     });
+}
+
+void OfonoHandset::awaitFigures(int longestMs) const
+{
+    const auto &behind = static_cast<const OfonoModem &>(modem());
+    const QDeadlineTimer limit(longestMs);
+    QTimer::singleShot(longestMs, &meter, [] {}); // ends the last wait
+    while ((!behind.isKnown() || !meter.isAnswered()) && !limit.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
 }
 
 // At its beginning the meter is read once more, as it may have been late with the call before.

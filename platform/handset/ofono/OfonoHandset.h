@@ -25,6 +25,9 @@ public:
     SimSecurity *simSecurity() override { return meter.isThere() ? &charges : nullptr; }
 
     const CallMeter &callMeter() const { return meter; }
+    /// Waits until the daemon has told the figures that it has, `longestMs` at most, with nobody's input taken: a screen that
+    /// is opened at once would show them as missing. At once where no daemon runs.
+    void awaitFigures(int longestMs) const;
 
 protected:
     bool isChargedByModem() const override { return meter.isThere(); }

@@ -39,6 +39,8 @@ public:
     int answer(const QString &id) override;
     int hangUp(const QString &id) override;
 
+    /// Nobody is asked any more which modem there is, and what it has.
+    bool isKnown() const { return service.isOwnerKnown() && (owner.isEmpty() || knowsModems); }
     /// Whether the modem has that interface ("CallMeter") now.
     bool has(const char *interface) const;
     /// A proxy of qdbusxml2cpp's for the modem, or for another object of the daemon's.

@@ -63,6 +63,8 @@ private slots:
     void aSilentDaemonIsToldAndNothingWaits();
     void aCallThatTheNetworkRefusesIsTold();
     void theBackendIsALibraryThatTheFactoryFinds();
+    void theFiguresAreThereWhenItIsOpened();
+    void openingWaitsForNobodyAndForNobodyLong();
 };
 
 void TestModem::aCallIsFollowedFromItsFirstState()
@@ -562,6 +564,51 @@ void TestModem::theBackendIsALibraryThatTheFactoryFinds()
         return opened.handset->callLog()->dialedCallsTime(time) == Success && time.seconds > 0;
     };
     QTRY_VERIFY(counts());
+}
+
+// Without a turn of the event loop: a screen may be opened at once.
+void TestModem::theFiguresAreThereWhenItIsOpened()
+{
+    FakeOfono fake(systemBus().address());
+    fake.answers["CallMeter"] = {{"AccumulatedCallMeter", 40U},
+                                 {"AccumulatedCallMeterMaximum", 100U},
+                                 {"PricePerUnit", 0.25},
+                                 {"Currency", "EUR"}};
+    fake.answers["SimManager"] = {
+        {"PinRequired", "none"},
+        {"Retries", QVariant::fromValue(QMap<QString, uchar>{{QStringLiteral("pin2"), uchar{2}}})}};
+    fake.errors["CallMeter.GetProperties"] = QStringList("InProgress"); // at first
+    fake.setInterfaces({"SimManager", "CallMeter"});
+    fake.appear();
+    Settings settings;
+    settings.backend = QStringLiteral("ofono");
+    settings.patience.operation = 60'000;
+    const Opened opened = handset::open(settings);
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    QString maximum;
+    bool enabled = false;
+    QCOMPARE(opened.handset->adviceOfCharge()->meterMaximum(maximum, enabled), int(Success));
+    QCOMPARE(maximum, QStringLiteral("100.00"));
+    int tries = 0;
+    QCOMPARE(opened.handset->simSecurity()->triesLeft(SimSecurity::Pin2, tries), int(Success));
+    QCOMPARE(tries, 2);
+}
+
+void TestModem::openingWaitsForNobodyAndForNobodyLong()
+{
+    Settings settings;
+    settings.backend = QStringLiteral("ofono");
+    settings.patience.operation = 600'000;
+    QVERIFY(handset::open(settings).handset); // no daemon
+    FakeOfono fake(systemBus().address());
+    fake.setInterfaces({"SimManager", "CallMeter"});
+    fake.silent.insert("CallMeter.GetProperties");
+    fake.appear();
+    settings.patience.operation = 200;
+    const Opened opened = handset::open(settings);
+    QVERIFY(opened.handset);
+    QString text;
+    QCOMPARE(opened.handset->adviceOfCharge()->priceAndCurrency(text, text), int(NotAvailable));
 }
 
 KAV_TEST_GROUP(TestModem, QCoreApplication);
