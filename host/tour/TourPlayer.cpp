@@ -161,6 +161,10 @@ void TourPlayer::scheduleTurn()
 
 void TourPlayer::turn()
 {
+    if (handsetWaits) {
+        isHeld = true;
+        return;
+    }
     if (turnsToWait > 0) {
         --turnsToWait;
         scheduleTurn();
@@ -177,9 +181,16 @@ void TourPlayer::turn()
         loop.quit();
         return;
     }
-    scheduleTurn(); // before it is done: the next move may be what ends it
+    const Move &move = moves[nextMove++];
     turnsToWait = settlingTurns;
-    act(moves[nextMove++]);
+    // Before it is done: the next move may be what ends it. None is to come while a handset is opened, which may let
+    // events run.
+    const bool opensHandset = !move.key && std::holds_alternative<SetState>(move.step->action);
+    if (!opensHandset)
+        scheduleTurn();
+    act(move);
+    if (opensHandset)
+        scheduleTurn();
 }
 
 bool TourPlayer::isAtEnd() const
@@ -278,9 +289,18 @@ void TourPlayer::openHandset(const QString &directory)
         return;
     }
     owner = opened.handset;
+    owner->setWaitListener([this](bool waits) { holdWhile(waits); });
     handset = dynamic_cast<handset::simulated::SimulatedHandset *>(owner.get());
     installed = std::make_shared<FaultyHandset>(owner);
     handset::install(installed);
+}
+
+// Nobody's keys are taken while the handset waits for its daemon, those of the tour neither.
+void TourPlayer::holdWhile(bool waits)
+{
+    handsetWaits = waits;
+    if (!waits && std::exchange(isHeld, false))
+        scheduleTurn();
 }
 
 void TourPlayer::freshDisplay()

@@ -93,6 +93,7 @@ private:
     void photographWhatIsMet();
     void print(const ScreenText &text);
     ScreenText read() const;
+    void holdWhile(bool waits);
     void checkStatus(int status);
     void fail(const QString &expected, const QString &seen);
     void stop(int code, const QString &message);
@@ -117,7 +118,9 @@ private:
     QList<Move> moves;
     qsizetype nextMove = 0;
     int turnsToWait = 0;
-    int loopLevel = 0; // of the loop that the tour is played in
+    bool handsetWaits = false; // for its daemon
+    bool isHeld = false;       // the next turn, until that is over
+    int loopLevel = 0;         // of the loop that the tour is played in
     QEventLoop loop;
     QString place; // of the step that is played
     ScreenText met;

@@ -109,7 +109,8 @@ struct Awaited {
 Awaited awaitModem(const std::function<void(const QString &backend)> &here);
 
 /// Opens a handset. Never throws; a backend name that is not known, a library that has no backend, a state directory that cannot be used, and a
-/// state that has to be made, migrated or replaced while another process uses it, are errors.
+/// state that has to be made, migrated or replaced while another process uses it, are errors. Events may run meanwhile, without
+/// the user's input.
 Opened open(const Settings &settings);
 
 /// Where the default handset keeps its state: a directory of the user's own data directory.

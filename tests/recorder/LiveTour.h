@@ -9,9 +9,9 @@
 
 namespace handset::test {
 
-/// All screens, with the times that the recorder has written; a reset of the dialed calls at last. Nothing here is to
-/// come from the daemon, which may not have told it by then.
-inline QByteArray liveTour(const RecorderProcess &bench)
+/// All screens, with the times that the recorder has written, and the resets of the phone's own figures. `costs` are the
+/// steps through Call Costs and its set-up, which the modem makes different.
+inline QByteArray liveTour(const RecorderProcess &bench, const QByteArray &costs)
 {
     const auto time = [&](const char *of) {
         const qint64 ms = bench.value(QStringLiteral("SELECT ") + QLatin1String(of)).toLongLong();
@@ -34,25 +34,104 @@ inline QByteArray liveTour(const RecorderProcess &bench)
            "expect title Call Costs\n"
            "expect row 0 Credit Available | 0.00 units\n"
            "expect row 1 Expiration Date | 2000/00/00\n"
-           "press up select\n"
-           "expect title Call-Cost Setup\n"
-           "expect rows 9\n"
+           "expect row 2 Last Deposit | 0.00 units\n" +
+           costs +
            "open dataTime\n"
            "expect title Data Times\n"
-           "expect row 1 GPRS Data Session 1 | 00:00:00\n"
+           "expect row 1 " +
+           bench.value(QStringLiteral("SELECT apn FROM sessions")).toByteArray() + " | " +
+           time("duration_ms FROM sessions") + "\nexpect row 5 Total Time | " + time("duration_ms FROM sessions") +
+           "\npress up select\n"
+           "expect message Are you sure you want to reset the data sessions timer?\n"
+           "press left\n"
+           "expect row 5 Total Time | 00:00:00\n"
            "open dataVolume\n"
            "expect title Data Volumes\n"
            "press select\n"
            "expect title Data Volume\n"
-           "expect row 4 Sum | 0 B\n";
+           "expect row 4 Sum | 0 B\n"
+           "open dataVolume\n"
+           "press up select\n"
+           "expect message Are you sure you want to reset the data sessions volume?\n"
+           "press left\n"
+           "expect title Data Volumes\n";
+}
+
+/// Without advice of charge: the own tariff, which is not set, and nothing of the SIM, for which the screen shows what it
+/// begins with.
+inline QByteArray costsOfTheOwnTariff()
+{
+    return "expect row 6 All Calls Cost | 0.00 units\n"
+           "press up select\n"
+           "expect title Call-Cost Setup\n"
+           "expect rows 9\n"
+           "expect row 4 Credit Limit | On\n"
+           "expect row 6 Currency | On\n";
+}
+
+/// Of a card at 40 units, whose price is 0.25 EUR, with calls of 5 units each way: PIN2 before each write, a wrong one once.
+inline QByteArray costsOfTheCard()
+{
+    return "expect row 3 Last Call Cost | 5.00 units\n"
+           "expect row 4 Dialed Calls Cost | 5.00 units\n"
+           "expect row 5 Answered Calls Cost | 5.00 units\n"
+           "expect row 6 All Calls Cost | 50.00 units\n"
+           "press up select\n"
+           "expect title Call-Cost Setup\n"
+           "expect rows 9\n"
+           "expect row 4 Credit Limit | Off\n"
+           "expect row 6 Currency | Off\n"
+           "press down*6 select\n"
+           "expect header Enter PIN2\n"
+           "press 9 9 9 9 left\n"
+           "expect header Enter PIN2\n"
+           "press 1 2 3 4 left\n"
+           "expect header Currency\n"
+           "press select\n"
+           "expect row 6 Currency | On\n"
+           "expect row 7 Currency Type | EUR\n"
+           "expect row 8 Cost Per Minute | 0.25 EUR\n"
+           "press down select\n"
+           "expect header Choose Type\n"
+           "press 4 left\n"
+           "expect row 7 Currency Type | DEM\n"
+           "expect row 8 Cost Per Minute | 0.25 DEM\n"
+           "press down select\n"
+           "expect header Enter PIN2\n"
+           "press 1 2 3 4 left\n"
+           "expect header Cost Per Minute\n"
+           "press 0 * 5 0 left\n"
+           "expect row 8 Cost Per Minute | 0.5 DEM\n"
+           "press up*4 select\n"
+           "expect header Enter PIN2\n"
+           "press 1 2 3 4 left\n"
+           "expect header Credit Limit\n"
+           "press left\n"
+           "expect row 4 Credit Limit | On\n"
+           "press down select\n"
+           "expect header Adjust Credit Limit\n"
+           "press 3 0 left\n"
+           "expect row 5 Adjust Credit Limit | 30.00 DEM\n"
+           "press right\n"
+           "expect title Call Costs\n"
+           "expect row 3 Last Call Cost | 2.50 DEM\n"
+           "expect row 6 All Calls Cost | 25.00 DEM\n"
+           "press select down select\n"
+           "expect header Enter PIN2\n"
+           "press 1 2 3 4 left\n"
+           "expect header Reset Calls\n"
+           "press left right\n"
+           "expect row 5 Answered Calls Cost | 2.50 DEM\n"
+           "expect row 6 All Calls Cost | 0.00 DEM\n";
 }
 
 /// Plays it on the backend, whose daemon is at `busAddress`; the recorder has ended.
-inline HostResult playLiveTour(const RecorderProcess &bench, const QString &backend, const QString &busAddress)
+inline HostResult playLiveTour(const RecorderProcess &bench, const QString &backend, const QString &busAddress,
+                               const QByteArray &costs)
 {
     const QTemporaryDir home;
     const QString file = home.filePath(QStringLiteral("live.tour"));
-    if (!writeFile(file, liveTour(bench)))
+    if (!writeFile(file, liveTour(bench, costs)))
         return {};
     QProcessEnvironment environment = hostEnvironment(home.path());
     environment.remove(QStringLiteral("QT_QPA_PLATFORM")); // the tour sees to that itself

@@ -4,6 +4,7 @@
 #include "support/TestGroup.h"
 
 #include <QtCore/QElapsedTimer>
+#include <QtDBus/QDBusObjectPath>
 
 using namespace handset::test;
 using AtPhone = atmodem::Phone;
@@ -22,19 +23,41 @@ class TestRecorderOverModemManager : public QObject
 
 private slots:
     void aCallThatComesInIsRecordedAndShown();
+
+private:
+    void recordSession();
+
+    RealModemManager daemon;
+    RecorderProcess bench;
 };
 
 #define COMES_ABOUT(...) QVERIFY2(comesAbout([&] { return __VA_ARGS__; }), daemon.story().constData())
+
+// The first thing that is recorded: from then on the modem is followed.
+void TestRecorderOverModemManager::recordSession()
+{
+    const auto sessions = [&] {
+        return bench.value(QStringLiteral("SELECT group_concat(state, ' ') FROM sessions"));
+    };
+    const QDBusMessage connected = daemon.onModem(
+        "Modem.Simple", "Connect", {QVariantMap{{QStringLiteral("apn"), QStringLiteral("internet")}}});
+    QCOMPARE(connected.errorName(), QString());
+    COMES_ABOUT(sessions() == QLatin1String("0"));
+    const QVariant bearer = QVariant::fromValue(QDBusObjectPath(valueOf(connected).toString()));
+    QCOMPARE(daemon.onModem("Modem.Simple", "Disconnect", {bearer}).errorName(), QString());
+    COMES_ABOUT(sessions() == QLatin1String("1"));
+}
 
 // How long it has been on is held against what is certain on any machine: no less than between its row and the word to
 // hang up, no more than from the word to take it to the end of its row.
 void TestRecorderOverModemManager::aCallThatComesInIsRecordedAndShown()
 {
-    RealModemManager daemon;
-    RecorderProcess bench;
     bench.startOn(daemon.busAddress()); // the bus is there, and nothing else
     QVERIFY2(daemon.bringUp(), daemon.story().constData());
     COMES_ABOUT(QFile::exists(bench.state.database())); // the modem has been found
+    recordSession();
+    if (QTest::currentTestFailed())
+        return;
     daemon.modem().withPhone([](AtPhone &phone) { phone.ring("5551234"); });
     COMES_ABOUT(daemon.calls().size() == 1);
     const QString call = daemon.calls().constFirst();
@@ -61,8 +84,9 @@ void TestRecorderOverModemManager::aCallThatComesInIsRecordedAndShown()
     QCOMPARE(bench.recorder.exitCode(), 0);
     QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
 
-    const HostResult tour = playLiveTour(bench, QStringLiteral("modemmanager"), daemon.busAddress());
-    QVERIFY2(tour.code == 0, qPrintable(tour.output + tour.errors));
+    const HostResult tour =
+        playLiveTour(bench, QStringLiteral("modemmanager"), daemon.busAddress(), costsOfTheOwnTariff());
+    QVERIFY2(tour.code == 0, qPrintable(tour.errors + tour.output));
     QCOMPARE(tour.errors, QString());
 }
 

@@ -132,6 +132,18 @@ void LiveHandset::tellElsewhere()
 {
     if (onChange)
         onChange();
+    else
+        hasKept = keepsChanges;
+}
+
+void LiveHandset::setChangeListener(const std::function<void()> &listener)
+{
+    onChange = listener;
+    if (!onChange)
+        return;
+    keepsChanges = false;
+    if (std::exchange(hasKept, false))
+        onChange();
 }
 
 void LiveHandset::tellHere()

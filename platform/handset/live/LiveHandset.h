@@ -46,7 +46,7 @@ public:
     LineControl *lineControl() override { return this; }
     calllog::Charging *charging() override { return &charges; }
     KeptCalls *keptCalls() override { return &kept; }
-    void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
+    void setChangeListener(const std::function<void()> &listener) override;
     void changedElsewhere() override;
     void setWaitListener(const std::function<void(bool waits)> &listener) override { onWait = listener; }
 
@@ -78,6 +78,8 @@ protected:
     }
     /// As CallRecorder::charge(); tells of it.
     void charge(const std::shared_ptr<CallRecorder::Cost> &cost, quint32 more);
+    /// Until the first listener to changes is there, as where events run before there is one: it is told of what they change.
+    void keepChanges() { keepsChanges = true; }
     /// Of calls that are connected from now on: by the own tariff (Unlimited, as long as nothing else is said), or by who
     /// says what they cost.
     void setCharge(calllog::Charge charge) { callRecorder.setCharge(charge); }
@@ -109,8 +111,10 @@ private:
     CallRecorder callRecorder;
     SessionRecorder sessionRecorder;
     QTimer *timer;
-    qint64 writtenAtMs = 0; ///< of the boot clock: the last checkpoint
-    bool records = true;    ///< as of the last runTimer()
+    qint64 writtenAtMs = 0;    ///< of the boot clock: the last checkpoint
+    bool records = true;       ///< as of the last runTimer()
+    bool keepsChanges = false; ///< for the first listener
+    bool hasKept = false;
     std::function<void()> onChange;
     std::function<void(bool)> onWait;
     std::function<void(const QString &)> onRefusal;

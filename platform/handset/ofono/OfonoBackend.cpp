@@ -18,7 +18,7 @@ Opened open(const Settings &settings)
         return handset;
     });
     if (handset)
-        handset->awaitFigures(settings.patience.operation);
+        handset->awaitFigures(settings.patience.operation, settings.isGivenUp);
     return opened;
 }
 

@@ -38,12 +38,16 @@ OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_
     });
 }
 
-void OfonoHandset::awaitFigures(int longestMs) const
+void OfonoHandset::awaitFigures(int longestMs, const std::function<bool()> &isGivenUp)
 {
+    keepChanges();
     const auto &behind = static_cast<const OfonoModem &>(modem());
     const QDeadlineTimer limit(longestMs);
+    const auto waits = [&] {
+        return (!behind.isKnown() || !meter.isAnswered()) && !limit.hasExpired() && !(isGivenUp && isGivenUp());
+    };
     QTimer::singleShot(longestMs, &meter, [] {}); // ends the last wait
-    while ((!behind.isKnown() || !meter.isAnswered()) && !limit.hasExpired())
+    while (waits())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -26,8 +26,9 @@ public:
 
     const CallMeter &callMeter() const { return meter; }
     /// Waits until the daemon has told the figures that it has, `longestMs` at most, with nobody's input taken: a screen that
-    /// is opened at once would show them as missing. At once where no daemon runs.
-    void awaitFigures(int longestMs) const;
+    /// is opened at once would show them as missing. At once where no daemon runs, and when `isGivenUp`, which may be null,
+    /// says so.
+    void awaitFigures(int longestMs, const std::function<bool()> &isGivenUp = {});
 
 protected:
     bool isChargedByModem() const override { return meter.isThere(); }

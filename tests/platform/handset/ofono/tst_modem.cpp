@@ -64,6 +64,7 @@ private slots:
     void aCallThatTheNetworkRefusesIsTold();
     void theBackendIsALibraryThatTheFactoryFinds();
     void theFiguresAreThereWhenItIsOpened();
+    void whatHappensWhileItIsOpenedIsTold();
     void openingWaitsForNobodyAndForNobodyLong();
 };
 
@@ -592,6 +593,26 @@ void TestModem::theFiguresAreThereWhenItIsOpened()
     int tries = 0;
     QCOMPARE(opened.handset->simSecurity()->triesLeft(SimSecurity::Pin2, tries), int(Success));
     QCOMPARE(tries, 2);
+}
+
+// Figures that come late keep the opening waiting; the call is the recorder's by then, before anybody listens.
+void TestModem::whatHappensWhileItIsOpenedIsTold()
+{
+    FakeOfono fake(systemBus().address());
+    fake.setInterfaces({"VoiceCallManager", "CallMeter"});
+    fake.silent.insert("CallMeter.GetProperties");
+    fake.addCall(one, callIn("active"));
+    fake.appear();
+    Settings settings;
+    settings.backend = QStringLiteral("ofono");
+    const Opened opened = handset::open(settings);
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    int told = 0;
+    opened.handset->setChangeListener([&] { ++told; });
+    QCOMPARE(told, 1);
+    opened.handset->setChangeListener([&] { ++told; });
+    QCOMPARE(told, 1);
+    opened.handset->setChangeListener({});
 }
 
 void TestModem::openingWaitsForNobodyAndForNobodyLong()
