@@ -3,6 +3,7 @@
 #include "calllog/Saturating.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace handset::live {
 
@@ -101,7 +102,7 @@ PastCall CallRecorder::asPast(const Followed &followed, qint64 ms) const
     past.direction = followed.direction;
     past.number = followed.call.number;
     past.startWallMs = followed.startWallMs;
-    past.durationMs = ms;
+    past.durationMs = calllog::elapsed(followed.othersMs, ms);
     past.isLate = followed.isLate;
     return past;
 }
@@ -120,12 +121,26 @@ bool CallRecorder::takeOffKnown(PastCall &call, const std::shared_ptr<Cost> &cos
     return true;
 }
 
+// What began nobody knows when cannot be found in the rows of the one who has recorded it until now: it counts from now on.
+void CallRecorder::takeOver(Followed &followed) const
+{
+    if (!std::exchange(followed.isOthers, false))
+        return;
+    followed.mayBeKnown = false;
+    followed.othersMs = connectedMs(followed);
+    if (followed.cost)
+        followed.cost->known = followed.cost->units;
+}
+
 void CallRecorder::begin(Followed &followed)
 {
     if (!ledger.record()) {
         followed.mayBeKnown = true;
+        followed.isOthers =
+            followed.isOthers || (followed.isLate && ledger.whyNotRecording() == RecordedElsewhere);
         return;
     }
+    takeOver(followed);
     ledger.repeat(again, [&] {
         PastCall call = asPast(followed, connectedMs(followed));
         if (followed.mayBeKnown && !takeOffKnown(call, followed.cost, followed.call.isFound))
@@ -163,6 +178,8 @@ void CallRecorder::finish(Followed &followed)
             return;
         followed.mayBeKnown = true;
     }
+    if (followed.isOthers)
+        return;
     unwritten.append({asPast(followed, followed.connectedAtMs ? connectedMs(followed) : 0), followed.charge,
                       followed.mayBeKnown && followed.connectedAtMs.has_value(), followed.cost});
     writeUnwritten();

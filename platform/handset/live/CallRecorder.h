@@ -61,6 +61,8 @@ private:
         bool isLate = false;
         calllog::Charge charge = calllog::Charge::Unlimited;
         bool mayBeKnown = false; ///< another recorder may have counted some of it
+        bool isOthers = false;   ///< another one records it, and nobody knows since when
+        qint64 othersMs = 0;     ///< of it, by that one
         qint64 row = 0;
         std::shared_ptr<Cost> cost = {};
     };
@@ -77,6 +79,7 @@ private:
     PastCall asPast(const Followed &followed, qint64 ms) const;
     qint64 connectedMs(const Followed &followed) const;
     void finish(Followed &followed);
+    void takeOver(Followed &followed) const;
     bool takeOffKnown(PastCall &call, const std::shared_ptr<Cost> &cost, bool isFound);
     bool writeUnwritten();
     bool writeCosts();

@@ -4,6 +4,8 @@
 #include "handset/PacketData.h"
 #include "handset/Status.h"
 
+#include <utility>
+
 namespace handset::live {
 
 namespace {
@@ -79,6 +81,7 @@ SessionRecorder::Over SessionRecorder::asOver(const Followed &followed) const
               followed.mayBeKnown};
     if (followed.session.isFound)
         over.amounts.ms = calllog::saturatingSum(over.amounts.ms, followed.session.ms.value_or(0));
+    over.amounts.ms = calllog::elapsed(followed.othersMs, over.amounts.ms);
     return over;
 }
 
@@ -99,13 +102,27 @@ int SessionRecorder::insert(Over over, qint64 &row)
     return ledger.beginSession(over.apn, 0, 0, row, over.amounts);
 }
 
+// As of calls.
+void SessionRecorder::takeOver(Followed &followed) const
+{
+    read(followed);
+    if (!std::exchange(followed.isOthers, false))
+        return;
+    followed.mayBeKnown = false;
+    followed.othersMs = asOver(followed).amounts.ms;
+    followed.unwritten = {};
+}
+
 void SessionRecorder::begin(Followed &followed)
 {
     if (!ledger.record()) {
         followed.mayBeKnown = true;
+        const bool isOfUnknownStart = followed.session.isFound && !followed.session.sinceWallMs;
+        followed.isOthers =
+            followed.isOthers || (isOfUnknownStart && ledger.whyNotRecording() == RecordedElsewhere);
         return;
     }
-    read(followed);
+    takeOver(followed);
     ledger.repeat(again, [&] { return insert(asOver(followed), followed.row); });
     if (followed.row != 0)
         followed.unwritten = {};
@@ -150,6 +167,8 @@ void SessionRecorder::finish(Followed &followed)
             return;
         followed.mayBeKnown = true;
     }
+    if (followed.isOthers)
+        return;
     unwritten.append(asOver(followed));
     writeUnwritten();
 }

@@ -47,6 +47,8 @@ private:
         Bytes unwritten;           ///< read, and not in the row yet
         Bytes all;                 ///< read since its beginning
         qint64 row = 0;
+        bool isOthers = false;   ///< another recorder has it, and nobody knows since when
+        qint64 othersMs = 0;     ///< of it, by that one
         bool mayBeKnown = false; ///< as of a call
     };
     /// A session that is over, and in no row.
@@ -62,6 +64,7 @@ private:
     void begin(Followed &followed);
     bool write(Followed &followed);
     void finish(Followed &followed);
+    void takeOver(Followed &followed) const;
     Over asOver(const Followed &followed) const;
     int insert(Over over, qint64 &row);
     bool writeUnwritten();

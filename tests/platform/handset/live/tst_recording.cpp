@@ -43,16 +43,25 @@ public:
     ScriptedModem *modem = nullptr;
 };
 
-/// A desk beside another process that records the same call, which is connected now.
+/// A desk beside another process that records the same call, which is connected now; or has been for two minutes when the
+/// desk comes, with a session, and is found by it.
 class Beside : public Desk
 {
 public:
-    Beside()
+    enum class Comes { Before, Later };
+
+    explicit Beside(Comes comes = Comes::Before)
     {
         close();
         recorder = std::make_unique<OtherProcess>(state.path());
         isReady = recorder->firstLine() == "holding" &&
                   recorder->ask("wall " + QByteArray::number(clock->wallMs())) == "0";
+        if (comes == Comes::Later) {
+            isReady = isReady && recorder->ask("dial 5550123") == "0" && recorder->ask("connect") == "0" &&
+                      recorder->ask("start-session") == "0" && passBoth(2 * minute);
+            open();
+            return;
+        }
         open();
         isReady = isReady && !phone->isRecording() && recorder->ask("dial 5550123") == "0" &&
                   recorder->ask("connect") == "0";
@@ -98,6 +107,9 @@ private slots:
     void aCallThatWasFoundCountsFromItsStart();
     void aCallThatWasFoundWithoutAStartIsMarkedLate();
     void aCallGoesOnUnderTheNextRecorderWithoutCountingTwice();
+    void aCallThatIsFoundBesideItsRecorderIsCountedOnce_data();
+    void aCallThatIsFoundBesideItsRecorderIsCountedOnce();
+    void whoTakesTheRecordingOverTellsAndWritesOnTime();
     void aWallClockThatIsSetChangesNoDuration();
     void aCallThatCannotBeBegunIsWrittenLater();
     void aCallThatEndsBeforeItCouldBeWrittenIsNotLost();
@@ -113,6 +125,8 @@ private slots:
     void anotherInterfaceDoesNotBringItsOldBytes();
     void aSessionThatLosesItsInterfaceKeepsWhatThatHadCounted();
     void aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice();
+    void aSessionThatIsFoundBesideItsRecorderIsCountedOnce_data();
+    void aSessionThatIsFoundBesideItsRecorderIsCountedOnce();
     void twoSessionsAtOnceCountTheirOwn();
     void aSessionThatEndsBeforeItCouldBeWrittenIsNotLost();
     void theBytesOfASessionThatEndsOnAFullDiskAreKept();
@@ -295,6 +309,59 @@ void TestRecording::aCallGoesOnUnderTheNextRecorderWithoutCountingTwice()
     QCOMPARE(desk.dialed(), 28u);
     desk.call(one, CallPhase::Over);
     QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:3 0:5550123:8000:1"));
+}
+
+void TestRecording::aCallThatIsFoundBesideItsRecorderIsCountedOnce_data()
+{
+    QTest::addColumn<bool>("endsAtOnce");
+    QTest::addColumn<QString>("calls");
+    // The other one has ended its call as interrupted.
+    QTest::newRow("it goes on") << false << QStringLiteral("0:5550123:150000:3 0:5550123:10000:1");
+    QTest::newRow("it ends before anybody has noticed") << true << QStringLiteral("0:5550123:150000:3");
+}
+
+// Nobody knows when it began, and so which rows of the other's are its own.
+void TestRecording::aCallThatIsFoundBesideItsRecorderIsCountedOnce()
+{
+    QFETCH(bool, endsAtOnce);
+    Beside desk(Beside::Comes::Later);
+    QVERIFY(desk.isReady);
+    emit desk.modem->callReported(
+        {one, CallPhase::Active, CallDirection::Dialed, QStringLiteral("5550123"), {}, true});
+    QVERIFY(desk.passBoth(30 * second));
+    desk.tick();
+    desk.recorder->kill();
+    if (!endsAtOnce) {
+        desk.tick();
+        desk.pass(10 * second);
+    }
+    QCOMPARE(desk.phone->calls().connectedMs(one), (endsAtOnce ? 30 : 40) * second);
+    desk.call(one, CallPhase::Over);
+    desk.tick();
+    QTEST(desk.calls(), "calls");
+}
+
+void TestRecording::whoTakesTheRecordingOverTellsAndWritesOnTime()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    int told = 0;
+    desk.phone->setChangeListener([&] { ++told; });
+    const auto interval = [&] { return desk.phone->findChild<QTimer *>()->interval(); };
+    QVERIFY(desk.passBoth(10 * second));
+    desk.tick();
+    QVERIFY(!desk.phone->isRecording());
+    QCOMPARE(interval(), live::LiveHandset::shownIntervalMs);
+    desk.recorder->kill();
+    desk.tick();
+    QVERIFY(desk.phone->isRecording());
+    QVERIFY(desk.phone->lineControl()->report().isRecorder);
+    QCOMPARE(told, 1);
+    QCOMPARE(interval(), calllog::Ledger::checkpointIntervalMs); // nobody looks
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:10000:3 0:5550123:0:0"));
+    desk.pass(calllog::Ledger::checkpointIntervalMs);
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:10000:3 0:5550123:4000:0"));
+    desk.phone->setChangeListener({});
 }
 
 void TestRecording::aWallClockThatIsSetChangesNoDuration()
@@ -521,6 +588,37 @@ void TestRecording::aSessionGoesOnUnderTheNextRecorderWithoutCountingTwice()
     desk.pass(10 * second);
     QCOMPARE(desk.sessions(), QStringLiteral("internet:20000:10:20:3 internet:15000:5:5:0"));
     QCOMPARE(sessionTotalsOf(*desk.phone), QStringLiteral("35 15 25 40"));
+}
+
+void TestRecording::aSessionThatIsFoundBesideItsRecorderIsCountedOnce_data()
+{
+    QTest::addColumn<bool>("endsAtOnce");
+    QTest::addColumn<QString>("sessions");
+    QTest::newRow("it goes on") << false << QStringLiteral("x:150000:1500:3000:3 x:10000:100:200:1");
+    QTest::newRow("it ends before anybody has noticed") << true << QStringLiteral("x:150000:1500:3000:3");
+}
+
+// As of a call. The bytes are the interface's, of which the other counts the same.
+void TestRecording::aSessionThatIsFoundBesideItsRecorderIsCountedOnce()
+{
+    QFETCH(bool, endsAtOnce);
+    Beside desk(Beside::Comes::Later);
+    QVERIFY(desk.isReady);
+    const QString id = QStringLiteral("/b");
+    desk.setInterface(QStringLiteral("wwan0"), 1200, 2400);
+    emit desk.modem->sessionReported({id, "x", QStringLiteral("wwan0"), {}, {}, {}, true});
+    QVERIFY(desk.passBoth(30 * second));
+    desk.setInterface(QStringLiteral("wwan0"), 1500, 3000);
+    desk.tick();
+    desk.recorder->kill();
+    if (!endsAtOnce) {
+        desk.tick();
+        desk.setInterface(QStringLiteral("wwan0"), 1600, 3200);
+        desk.pass(10 * second);
+    }
+    emit desk.modem->sessionGone(id);
+    desk.tick();
+    QTEST(desk.sessions(), "sessions");
 }
 
 void TestRecording::twoSessionsAtOnceCountTheirOwn()

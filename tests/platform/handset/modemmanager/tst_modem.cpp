@@ -106,6 +106,7 @@ private slots:
     void aCallIsOverWhenTheBusGoesAndTheNextOneIsFollowed();
     void theDaemonMayComeLater();
     void theModemMayComeLater();
+    void aModemThatIsUnpluggedAndComesBackIsFollowedAgain();
     void aModemWithCallsGoesBeforeOneWithout();
     void anotherModemTakesThePlaceOfTheOneThatHasGone();
     void bytesAreThoseOfTheDaemonWhereItCanReadThem();
@@ -364,6 +365,46 @@ void TestModem::theModemMayComeLater()
     QCOMPARE(desk.modem->dial(QStringLiteral("1")), int(NotAvailable));
     desk.fake.addInterface(desk.fake.modem, QStringLiteral("Modem.Voice"));
     QTRY_COMPARE(desk.modem->dial(QStringLiteral("1")), int(Success));
+}
+
+// The daemon lives, and says nothing of what the modem was doing.
+void TestModem::aModemThatIsUnpluggedAndComesBackIsFollowedAgain()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 0, 0);
+    desk.openAndSettle();
+    const QVariantMap connected{{QStringLiteral("Connected"), true},
+                                {QStringLiteral("Interface"), QStringLiteral("wwan0")}};
+    desk.fake.addCall(one, Outgoing, Dialing, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.fake.addBearer(bearer, connected);
+    desk.settle();
+    desk.setInterface(QStringLiteral("wwan0"), 10, 20);
+    desk.pass(3 * second);
+    desk.fake.removeModem(desk.fake.modem);
+    QTRY_VERIFY(!desk.modemState().isThere);
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:3000:1"));
+    QCOMPARE(desk.sessions(), QStringLiteral("-:3000:10:20:1"));
+    desk.clock->advance(hour);
+
+    desk.fake.objects.clear();
+    desk.fake.callPaths.clear();
+    desk.fake.modem = QStringLiteral("/org/freedesktop/ModemManager1/Modem/1");
+    desk.fake.addModem(desk.fake.modem);
+    QTRY_VERIFY(desk.modemState().isThere);
+    desk.setInterface(QStringLiteral("wwan0"), 0, 0); // made again
+    desk.fake.addCall(two, Incoming, RingingIn, QStringLiteral("2"));
+    desk.fake.moveCall(two, Active);
+    desk.fake.addBearer(bearer, connected);
+    desk.settle();
+    desk.setInterface(QStringLiteral("wwan0"), 3, 4);
+    desk.pass(5 * second);
+    desk.fake.moveCall(two, Terminated);
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), false}});
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("0:1:3000:1 1:2:5000:1"));
+    QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("0 0"));
+    QCOMPARE(desk.sessions(), QStringLiteral("-:3000:10:20:1 -:5000:3:4:1"));
 }
 
 void TestModem::aModemWithCallsGoesBeforeOneWithout()

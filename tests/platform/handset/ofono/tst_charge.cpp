@@ -151,6 +151,8 @@ private slots:
     void theFiguresAreTheCards();
     void withoutACallMeterNothingIsInvented();
     void aCallMeterThatVanishesTakesItsFiguresWithIt();
+    void aModemThatIsUnpluggedComesBackWithItsMeter_data();
+    void aModemThatIsUnpluggedComesBackWithItsMeter();
     void aFigureThatIsNotToldIsNotAvailable();
     void aFigureOfAWrongTypeIsNotAvailableAndToldOnce_data();
     void aFigureOfAWrongTypeIsNotAvailableAndToldOnce();
@@ -243,6 +245,43 @@ void TestCharge::aCallMeterThatVanishesTakesItsFiguresWithIt()
     QTRY_COMPARE(desk.price(), "0.25 EUR");
     QVERIFY(desk.costs().endsWith(" 10.00"));
     QCOMPARE(desk.pinStatus(), "1/3"); // a PIN2 that was entered before is forgotten
+}
+
+void TestCharge::aModemThatIsUnpluggedComesBackWithItsMeter_data()
+{
+    QTest::addColumn<bool>("isRemoved");
+    QTest::newRow("the daemon removes it") << true;
+    QTest::newRow("its interfaces vanish, and nothing is said of its call") << false;
+}
+
+// The daemon lives. What the card has counted meanwhile is nobody's.
+void TestCharge::aModemThatIsUnpluggedComesBackWithItsMeter()
+{
+    QFETCH(bool, isRemoved);
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.connectCall(one, "dialing"));
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
+    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
+    if (isRemoved)
+        desk.fake.removeModem(FakeOfono::modem);
+    else
+        desk.fake.setInterfaces({});
+    QTRY_VERIFY(desk.phone->calls().reported().isEmpty());
+    QCOMPARE(desk.maximum(), QStringLiteral("-%1").arg(NotAvailable));
+    QVERIFY(!desk.phone->simSecurity());
+    desk.fake.removeCall(one);
+    desk.count(60);
+    if (isRemoved)
+        desk.fake.addModem(FakeOfono::modem, {{"Online", true}});
+    desk.fake.setInterfaces(all);
+    QVERIFY(desk.isReady());
+    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 60.00");
+    QVERIFY(desk.connectCall(two, "incoming"));
+    desk.count(62);
+    desk.end(two);
+    QTRY_COMPARE(desk.costs(), "2.00 4.00 2.00 62.00");
+    QVERIFY(desk.enterPin());
 }
 
 void TestCharge::aFigureThatIsNotToldIsNotAvailable()

@@ -43,7 +43,7 @@ private slots:
     void threeWrongPin2BlockIt();
     void bytesAreThoseOfTheInterface();
     void aCallEndsWithTheDaemonAndTheNextOneIsSeen();
-    void aCallEndsWithTheModemThatIsUnplugged();
+    void aCallEndsWithTheModemThatIsUnpluggedAndTheNextOneIsSeen();
 
 private:
     void lead(const std::function<void(AtPhone &)> &how) { daemon->modem().withPhone(how); }
@@ -330,7 +330,7 @@ void TestReal::aCallEndsWithTheDaemonAndTheNextOneIsSeen()
     COMES_ABOUT(phase() == CallPhase::Incoming);
 }
 
-void TestReal::aCallEndsWithTheModemThatIsUnplugged()
+void TestReal::aCallEndsWithTheModemThatIsUnpluggedAndTheNextOneIsSeen()
 {
     lead([](AtPhone &there) { there.dialed = Dialed::Answered; });
     QCOMPARE(phone->modem().dial("5550001"), int(Success));
@@ -340,6 +340,15 @@ void TestReal::aCallEndsWithTheModemThatIsUnplugged()
     QCOMPARE(row(), "0:5550001:1");
     daemon->modem().with([](atmodem::Modem &all) { all.plugIn(); });
     QVERIFY2(daemon->bringUpModem(), daemon->story().constData());
+    COMES_ABOUT(phone->modem().state().status == "registered" && phone->callMeter().accumulated() &&
+                phone->callMeter().tries());
+    lead([](AtPhone &there) { there.ring("5550006"); });
+    COMES_ABOUT(phase() == CallPhase::Incoming);
+    QCOMPARE(phone->modem().answer(onlyCall()), int(Success));
+    COMES_ABOUT(phase() == CallPhase::Active);
+    lead([](AtPhone &there) { there.hangUpThere(); });
+    COMES_ABOUT(!phase());
+    QCOMPARE(row(), "1:5550006:1");
 }
 
 KAV_TEST_GROUP(TestReal, QCoreApplication);
