@@ -12,6 +12,8 @@ namespace bench {
 std::vector<Comparison> getterComparisons();
 std::vector<Comparison> currencyListComparisons();
 std::vector<Comparison> screenComparisons();
+/// `directory` as of coldStartComparisons().
+std::vector<Comparison> overModemComparisons(const QString &directory);
 std::vector<Comparison> broadcastComparisons();
 std::vector<Comparison> fanOutComparisons();
 /// `directory` keeps the logs that are measured; they are built on first use.

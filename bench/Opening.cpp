@@ -41,17 +41,19 @@ const char *faultOf(Opening &opening, Stage &stage)
 
 } // namespace
 
-std::function<void(benchmark::State &)> openingSide(MakeOpening make)
+std::function<void(benchmark::State &)> openingSide(MakeOpening make, Figures figures)
 {
-    return [make](benchmark::State &state) {
-        useFixedHandset();
+    return [make, figures](benchmark::State &state) {
+        useFixedHandset(); // which opens the traces, too
+        if (figures.use)
+            figures.use();
         Stage stage;
         const std::unique_ptr<Opening> opening = make(&stage);
         stage.paint();
         if (const char *fault = faultOf(*opening, stage))
             state.SkipWithError(fault);
         for (auto _ : state) {
-            changeFigures();
+            figures.change ? figures.change() : changeFigures();
             {
                 const Counted counted;
                 opening->open();

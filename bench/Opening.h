@@ -27,8 +27,14 @@ public:
 /// Everything happens inside `display`.
 using MakeOpening = std::function<std::unique_ptr<Opening>(QWidget *display)>;
 
-/// Measures opening up to the end of the first paint, with the handset whose figures cost nothing. They are others
-/// every time, as a user finds them. Closing is not measured.
-std::function<void(benchmark::State &)> openingSide(MakeOpening make);
+/// What the screens show.
+struct Figures {
+    std::function<void()> use;    ///< makes its handset the installed one
+    std::function<void()> change; ///< they are others from now on
+};
+
+/// Measures opening up to the end of the first paint. Without figures of its own the handset is the one whose figures cost
+/// nothing. They are others every time, as a user finds them. Closing is not measured.
+std::function<void(benchmark::State &)> openingSide(MakeOpening make, Figures figures = {});
 
 } // namespace bench

@@ -34,11 +34,11 @@ void ownSurroundings(const char *home)
 std::vector<bench::Comparison> allComparisons(const bench::Options &options)
 {
     std::vector<bench::Comparison> all;
-    for (const auto &group :
-         {bench::getterComparisons(), bench::screenComparisons(), bench::currencyListComparisons(),
-          bench::broadcastComparisons(), bench::coldStartComparisons(options.directory),
-          bench::fanOutComparisons(), bench::callLogComparisons(options.directory),
-          bench::reopeningComparisons(options.directory, options.largestLog)})
+    for (const auto &group : {bench::getterComparisons(), bench::screenComparisons(),
+                              bench::overModemComparisons(options.directory), bench::currencyListComparisons(),
+                              bench::broadcastComparisons(), bench::coldStartComparisons(options.directory),
+                              bench::fanOutComparisons(), bench::callLogComparisons(options.directory),
+                              bench::reopeningComparisons(options.directory, options.largestLog)})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }

@@ -5,6 +5,7 @@
 #include "bench/Groups.h"
 #include "bench/ListScreen.h"
 #include "bench/Opening.h"
+#include "bench/PluginScreen.h"
 #include "bench/ScreenTable.h"
 
 namespace bench {
@@ -13,31 +14,6 @@ namespace {
 
 constexpr Bar barBesideList{0.85, 0.7};
 constexpr Bar barBesideLimit{2.1, 1.7};
-
-class PluginScreen final : public Opening
-{
-public:
-    PluginScreen(const ScreenEntry &screenEntry, QWidget *where)
-        : entry(screenEntry)
-        , display(where)
-    {}
-
-    void open() override
-    {
-        screen = entry.create(display);
-        screen->show();
-    }
-    void close() override { entry.destroy(screen); }
-    const char *fault() override
-    {
-        return textsOn(screen) == entry.texts() ? nullptr : "it has other texts than what is beside it";
-    }
-
-private:
-    const ScreenEntry &entry;
-    QWidget *display;
-    QWidget *screen = nullptr;
-};
 
 class HandMadeScreen final : public Opening
 {

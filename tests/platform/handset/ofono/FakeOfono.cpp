@@ -192,5 +192,3 @@ bool FakeOfono::handleMessage(const QDBusMessage &message, const QDBusConnection
 }
 
 } // namespace handset::test
-
-#include "moc_FakeOfono.cpp"

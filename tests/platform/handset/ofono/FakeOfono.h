@@ -13,8 +13,6 @@ namespace handset::test {
 /// On a bus of the test's own, with a connection of its own. Interfaces are named without "org.ofono.".
 class FakeOfono final : public QDBusVirtualObject
 {
-    Q_OBJECT
-
 public:
     static inline const QString modem = QStringLiteral("/fake_0");
 
