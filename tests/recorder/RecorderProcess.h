@@ -35,6 +35,14 @@ public:
         ::kill(static_cast<pid_t>(recorder.processId()), signal);
         QTRY_COMPARE_WITH_TIMEOUT(recorder.state(), QProcess::NotRunning, limitMs);
     }
+    /// What has become of it, and what it has said.
+    QByteArray story()
+    {
+        const QByteArray fate = recorder.state() == QProcess::Running
+                                    ? QByteArrayLiteral("runs")
+                                    : "has ended with " + QByteArray::number(recorder.exitCode());
+        return "The recorder " + fate + ".\n" + recorder.readAllStandardError() + recorder.readAllStandardOutput();
+    }
     /// The states of all rows.
     QString calls() const { return all(QStringLiteral("state")); }
     QString all(const QString &column) const

@@ -102,20 +102,21 @@ void TestAuto::theFirstThatHasAModemIsTaken_data()
     QTest::addColumn<Daemon>("ofono");
     QTest::addColumn<QString>("backend");
     const QString simulated = QStringLiteral("simulated");
-    const QString first = QStringLiteral("modemmanager");
-    const QString second = QStringLiteral("ofono");
+    const QString modemManager = QStringLiteral("modemmanager");
+    const QString ofono = QStringLiteral("ofono");
     QTest::newRow("no daemon") << Daemon::Missing << Daemon::Missing << simulated;
-    QTest::newRow("ModemManager alone") << Daemon::WithModem << Daemon::Missing << first;
-    QTest::newRow("oFono alone") << Daemon::Missing << Daemon::WithModem << second;
-    QTest::newRow("both") << Daemon::WithModem << Daemon::WithModem << first;
+    QTest::newRow("ModemManager alone") << Daemon::WithModem << Daemon::Missing << modemManager;
+    QTest::newRow("oFono alone") << Daemon::Missing << Daemon::WithModem << ofono;
+    QTest::newRow("both") << Daemon::WithModem << Daemon::WithModem << modemManager;
     QTest::newRow("ModemManager without a modem") << Daemon::WithoutModem << Daemon::Missing << simulated;
     QTest::newRow("oFono without a modem") << Daemon::Missing << Daemon::WithoutModem << simulated;
     QTest::newRow("both without a modem") << Daemon::WithoutModem << Daemon::WithoutModem << simulated;
-    QTest::newRow("oFono has the modem, ModemManager none") << Daemon::WithoutModem << Daemon::WithModem << second;
+    QTest::newRow("oFono has the modem, ModemManager none") << Daemon::WithoutModem << Daemon::WithModem << ofono;
     QTest::newRow("ModemManager is silent") << Daemon::Silent << Daemon::Missing << simulated;
     QTest::newRow("oFono is silent") << Daemon::Missing << Daemon::Silent << simulated;
     QTest::newRow("both are silent") << Daemon::Silent << Daemon::Silent << simulated;
-    QTest::newRow("ModemManager has the modem, oFono is silent") << Daemon::WithModem << Daemon::Silent << first;
+    QTest::newRow("ModemManager has the modem, oFono is silent")
+        << Daemon::WithModem << Daemon::Silent << modemManager;
 }
 
 void TestAuto::theFirstThatHasAModemIsTaken()
@@ -133,12 +134,13 @@ void TestAuto::aModemThatComesLaterIsToldOf_data()
     QTest::addColumn<Daemon>("modemManager");
     QTest::addColumn<Daemon>("ofono");
     QTest::addColumn<QString>("backend");
-    const QString first = QStringLiteral("modemmanager");
-    const QString second = QStringLiteral("ofono");
-    QTest::newRow("with ModemManager") << Daemon::WithModem << Daemon::Missing << first;
-    QTest::newRow("with oFono") << Daemon::Missing << Daemon::WithModem << second;
-    QTest::newRow("to ModemManager, which has been there") << Daemon::WithoutModem << Daemon::Missing << first;
-    QTest::newRow("to oFono, which has been there") << Daemon::Missing << Daemon::WithoutModem << second;
+    const QString modemManager = QStringLiteral("modemmanager");
+    const QString ofono = QStringLiteral("ofono");
+    QTest::newRow("with ModemManager") << Daemon::WithModem << Daemon::Missing << modemManager;
+    QTest::newRow("with oFono") << Daemon::Missing << Daemon::WithModem << ofono;
+    QTest::newRow("to ModemManager, which has been there")
+        << Daemon::WithoutModem << Daemon::Missing << modemManager;
+    QTest::newRow("to oFono, which has been there") << Daemon::Missing << Daemon::WithoutModem << ofono;
 }
 
 void TestAuto::aModemThatComesLaterIsToldOf()
@@ -170,8 +172,8 @@ void TestAuto::whoHasEndedTheWaitIsToldOfNothing()
         ended << name;
         first = {};
     });
-    const Awaited second = awaitModem([&](const QString &name) { kept << name; });
-    QVERIFY(first.watch && second.watch);
+    const Awaited last = awaitModem([&](const QString &name) { kept << name; });
+    QVERIFY(first.watch && last.watch);
     appear(Daemon::WithModem, Daemon::WithModem);
     QTRY_VERIFY_WITH_TIMEOUT(
         kept.contains(QStringLiteral("modemmanager")) && kept.contains(QStringLiteral("ofono")), limitMs);

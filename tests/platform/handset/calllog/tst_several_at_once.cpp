@@ -306,8 +306,8 @@ void TestSeveralAtOnce::whatTheMeterSaysOfAnEarlierCallIsNotTheLastOnes()
     Books books;
     const qint64 first = books.begin(answered(), Charge::Measured);
     QCOMPARE(books->endCall(first), int(Success));
-    const qint64 second = books.begin(dialed(), Charge::Measured);
-    QCOMPARE(books->setUnits(second, 1), int(Success));
+    const qint64 next = books.begin(dialed(), Charge::Measured);
+    QCOMPARE(books->setUnits(next, 1), int(Success));
     QCOMPARE(books->setUnits(first, 5), int(Success));
     QCOMPARE(books.costs(), QList<qint64>({1, 1, 5}));
 }

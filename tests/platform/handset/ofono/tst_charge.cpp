@@ -28,6 +28,13 @@ QVariant retries(int pin2)
     return QVariant::fromValue(QMap<QString, uchar>{{QStringLiteral("pin2"), static_cast<uchar>(pin2)}});
 }
 
+/// However busy the machine is.
+template <typename Condition>
+bool waitFor(Condition condition)
+{
+    return QTest::qWaitFor(condition, 60'000);
+}
+
 /// A telephone over the fake daemon, whose card has a price of 0.25 and a maximum of 100.
 class Desk
 {
@@ -52,7 +59,11 @@ public:
     /// The daemon has told all that there is.
     bool isReady()
     {
-        return QTest::qWaitFor([this] { return phone->callMeter().maximum() && phone->callMeter().tries(); });
+        const bool hasTold =
+            waitFor([this] { return phone->callMeter().maximum() && phone->callMeter().tries(); });
+        if (!hasTold)
+            qInfo().noquote() << "the daemon was asked" << fake.asked.join(QStringLiteral(", "));
+        return hasTold;
     }
     AdviceOfCharge &advice() { return *phone->adviceOfCharge(); }
     SimSecurity &sim() { return *phone->simSecurity(); }
@@ -109,7 +120,7 @@ public:
         const int reads = readings();
         fake.addCall(path, callIn(firstState));
         fake.setCall(path, "State", "active");
-        return QTest::qWaitFor([&] { return phone->calls().rowOf(path) != 0 && readings() > reads; });
+        return waitFor([&] { return phone->calls().rowOf(path) != 0 && readings() > reads; });
     }
     void end(const QString &path)
     {
@@ -120,7 +131,7 @@ public:
     bool answer(const QString &path)
     {
         fake.setCall(path, "State", "active");
-        return QTest::qWaitFor([&] { return phone->calls().connectedMs(path).has_value(); });
+        return waitFor([&] { return phone->calls().connectedMs(path).has_value(); });
     }
     /// What could not be written is tried again.
     void tick() const

@@ -24,7 +24,7 @@ int inProcess(Work work)
         ::alarm(mostSeconds);
         work();
         std::fflush(nullptr);
-        ::_exit(0);
+        std::exit(0); // not _exit(): a build that counts what is run writes its counts at the end
     }
     ::close(lives[1]);
     int status = -1;

@@ -248,7 +248,7 @@ public:
             ::close(turns[1]);
             ::close(answers[0]);
             live();
-            ::_exit(0);
+            std::exit(0); // not _exit(): a build that counts what is run writes its counts at the end
         }
         ::close(turns[0]);
         ::close(answers[1]);
