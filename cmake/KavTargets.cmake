@@ -26,6 +26,10 @@ if(KAV_SANITIZE)
     endif()
 endif()
 
+if(KAV_COVERAGE)
+    target_link_options(kav_options INTERFACE -fprofile-instr-generate)
+endif()
+
 # The tests' own code waits longer for the compiler than it ever runs.
 add_library(kav_test_options INTERFACE)
 target_link_libraries(kav_test_options INTERFACE kav_options)
@@ -46,6 +50,9 @@ check_pie_supported(LANGUAGES CXX)
 # library, so calls into the platform stay replaceable. Optimised builds only: checked copies need the optimiser, and
 # the sanitizers check more.
 function(kav_harden target)
+    if(KAV_COVERAGE)
+        target_compile_options(${target} PRIVATE -fprofile-instr-generate -fcoverage-mapping)
+    endif()
     if(KAV_SANITIZE)
         return()
     endif()

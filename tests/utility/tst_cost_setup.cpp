@@ -150,6 +150,8 @@ private slots:
     void everySelectionIsTraced();
     void aScreenDestroyedWhileThePinIsAskedForIsSafe();
     void aRowBehindTheLastDoesNothing();
+    void aSelectionOfNoRowAsksNothing();
+    void aRowOfAnotherListIsTracedAndDoesNothing();
 
     void everySetOfChangesIsWrittenInOrder_data();
     void everySetOfChangesIsWrittenInOrder();
@@ -613,6 +615,32 @@ void TestCostSetup::aRowBehindTheLastDoesNothing()
     QCOMPARE(journal.lines(), QStringList("SimSecurity::pinStatus(1)"));
     QCOMPARE(view.get()->*exposed(CurIndex()), 9);
     QCOMPARE(view.get()->*exposed(CurCallSetType()), editor);
+    QVERIFY(!dialog());
+}
+
+void TestCostSetup::aSelectionOfNoRowAsksNothing()
+{
+    open();
+    journal.clear();
+    const int chosen = view.get()->*exposed(CurIndex());
+    emit PhoneScreen::list(view.get())->selected(nullptr);
+    QCOMPARE(journal.lines(), QStringList());
+    QCOMPARE(view.get()->*exposed(CurIndex()), chosen);
+    QVERIFY(!dialog());
+}
+
+void TestCostSetup::aRowOfAnotherListIsTracedAndDoesNothing()
+{
+    script().answer("AdviceOfCharge::updateRule", quint8(4)); // of no file of its own
+    script().answer("SimSecurity::pinStatus", quint32(1));
+    open();
+    ZListBox *list = PhoneScreen::list(view.get());
+    const std::unique_ptr<ZSettingItem> stranger(new ZSettingItem(list, QString()));
+    QVERIFY(stranger->enabled());
+    journal.clear();
+    emit list->selected(stranger.get());
+    QCOMPARE(journal.lines(), QStringList("SimSecurity::pinStatus(1)"));
+    QCOMPARE(view.get()->*exposed(CurIndex()), -1);
     QVERIFY(!dialog());
 }
 
