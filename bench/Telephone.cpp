@@ -2,10 +2,10 @@
 
 #include "bench/CallLogs.h"
 #include "bench/SessionBus.h"
+#include "bench/daemons/FakeModemManager.h"
+#include "bench/daemons/FakeOfono.h"
 #include "calllog/OpenLedger.h"
 #include "handset/AdviceOfCharge.h"
-#include "handset/modemmanager/FakeModemManager.h"
-#include "handset/ofono/FakeOfono.h"
 #include "modemmanager/ModemManagerModem.h"
 #include "ofono/OfonoHandset.h"
 

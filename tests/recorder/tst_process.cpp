@@ -1,6 +1,6 @@
 // The recorder, run as its unit runs it.
-#include "handset/modemmanager/FakeModemManager.h"
-#include "handset/ofono/FakeOfono.h"
+#include "bench/daemons/FakeModemManager.h"
+#include "bench/daemons/FakeOfono.h"
 #include "recorder/RecorderProcess.h"
 #include "support/TestGroup.h"
 

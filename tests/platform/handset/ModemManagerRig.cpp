@@ -1,6 +1,6 @@
 // The handset as the backend of ModemManager puts it together: no advice of charge, so the own tariff charges.
+#include "bench/daemons/FakeModemManager.h"
 #include "handset/live/LiveRig.h"
-#include "handset/modemmanager/FakeModemManager.h"
 #include "modemmanager/ModemManagerModem.h"
 #include "qt/qcop/PrivateBus.h"
 

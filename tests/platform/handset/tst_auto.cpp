@@ -1,7 +1,7 @@
 // The backend "auto": which of the daemons has a modem, asked of daemons that are not real.
+#include "bench/daemons/FakeModemManager.h"
+#include "bench/daemons/FakeOfono.h"
 #include "handset/HandsetTestKit.h"
-#include "handset/modemmanager/FakeModemManager.h"
-#include "handset/ofono/FakeOfono.h"
 #include "qt/qcop/FakeBus.h"
 #include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"

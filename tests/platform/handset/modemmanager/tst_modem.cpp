@@ -1,6 +1,6 @@
 // A modem behind a ModemManager that does what it should not, recorded as its calls and connections were.
+#include "bench/daemons/FakeModemManager.h"
 #include "handset/live/LiveDesk.h"
-#include "handset/modemmanager/FakeModemManager.h"
 #include "modemmanager/ModemManagerModem.h"
 #include "qt/qcop/BusSocket.h"
 #include "qt/qcop/PrivateBus.h"

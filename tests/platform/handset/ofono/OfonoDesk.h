@@ -1,7 +1,7 @@
 // What the tests over the fake oFono share: a bus, the daemon, and a modem that is listened to.
 #pragma once
 
-#include "handset/ofono/FakeOfono.h"
+#include "bench/daemons/FakeOfono.h"
 #include "ofono/OfonoModem.h"
 #include "qt/qcop/PrivateBus.h"
 

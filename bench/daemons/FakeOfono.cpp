@@ -1,4 +1,4 @@
-#include "handset/ofono/FakeOfono.h"
+#include "bench/daemons/FakeOfono.h"
 
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusMetaType>

@@ -1,4 +1,4 @@
-// A service org.ofono that says what a test wants, beside what the real one can be made to say.
+// A service org.ofono that says what a test or benchmark wants, beside what the real one can be made to say.
 #pragma once
 
 #include "ofono/Types.h"

@@ -1,4 +1,4 @@
-#include "handset/modemmanager/FakeModemManager.h"
+#include "bench/daemons/FakeModemManager.h"
 
 #include <QtDBus/QDBusArgument>
 #include <QtDBus/QDBusMessage>
