@@ -187,7 +187,8 @@ bool FakeOfono::handleMessage(const QDBusMessage &message, const QDBusConnection
     }
     QDBusMessage answer = error.isEmpty()
                               ? message.createReply(listed(what))
-                              : message.createErrorReply(QStringLiteral("org.ofono.Error.") + error, what);
+                              : message.createErrorReply(
+                                    error.contains(u'.') ? error : full(QStringLiteral("Error.") + error), what);
     return connection.send(answer);
 }
 

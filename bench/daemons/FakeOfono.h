@@ -42,7 +42,8 @@ public:
     void setInterfaces(const QStringList &names, const QString &path = modem);
     void tell(const QString &path, const char *interface, const char *name, const QVariantList &values);
 
-    /// Instead of an answer, for as many times as there are names; an empty one answers as ever.
+    /// Instead of an answer, for as many times as there are names; an empty one answers as ever. Those of
+    /// oFono without what they begin with.
     QMap<QString, QStringList> errors; ///< by "VoiceCallManager.Dial"
     QSet<QString> silent;              ///< never answered; likewise
     QStringList asked;                 ///< "VoiceCallManager.Dial 5550123 "

@@ -120,8 +120,13 @@ void ModemManagerModem::listModems()
         if (isError && isNoAnswer(QDBusError(answer)))
             return listModems();
         const std::optional<Objects> objects = objectsIn(answer);
-        if (!objects)
-            return reading.warn("GetManagedObjects", isError ? answer.errorMessage() : answer.signature());
+        if (!objects) {
+            const bool isDenied = isError && QDBusError(answer).type() == QDBusError::AccessDenied;
+            manager = isDenied ? Manager::Closed : Manager::Unreadable;
+            reading.warn("GetManagedObjects", isError ? answer.errorMessage() : answer.signature());
+            emit stateChanged();
+            return;
+        }
         manager = Manager::Known;
         for (auto object = objects->begin(); object != objects->end(); ++object)
             add(object.key().path(), object.value());
@@ -245,16 +250,28 @@ void ModemManagerModem::propertiesChanged(const QDBusMessage &message)
         emit stateChanged();
 }
 
+QString ModemManagerModem::whyNoModem() const
+{
+    switch (manager) {
+    case Manager::Missing:
+        return QStringLiteral("ModemManager is not running");
+    case Manager::Asked:
+        return QStringLiteral("asking ModemManager");
+    case Manager::Known:
+        return QStringLiteral("no modem");
+    case Manager::Closed:
+        return QStringLiteral("ModemManager does not let this user talk to it");
+    case Manager::Unreadable:
+        return QStringLiteral("ModemManager does not tell its modems");
+    }
+    return {};
+}
+
 live::ModemState ModemManagerModem::state() const
 {
     live::ModemState now;
-    if (source.owner().isEmpty()) {
-        now.status = QStringLiteral("ModemManager is not running");
-        return now;
-    }
     if (modemPath.isEmpty()) {
-        now.status =
-            manager == Manager::Known ? QStringLiteral("no modem") : QStringLiteral("asking ModemManager");
+        now.status = whyNoModem();
         return now;
     }
     const QVariantMap modem = modems.value(modemPath).value(modemInterface);

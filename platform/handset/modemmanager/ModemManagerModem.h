@@ -43,7 +43,7 @@ private slots:
 
 private:
     using Interfaces = QMap<QString, QVariantMap>; ///< properties of each
-    enum class Manager { Missing, Asked, Known };
+    enum class Manager { Missing, Asked, Known, Closed, Unreadable };
 
     void daemonAppeared();
     void listModems();
@@ -52,6 +52,7 @@ private:
     void loseModem();
     void followVoice();
     void readModem();
+    QString whyNoModem() const;
 
     live::BusDaemon source;
     const live::Patience patience;

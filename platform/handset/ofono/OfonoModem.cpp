@@ -152,6 +152,7 @@ void OfonoModem::vanished()
     modems.clear();
     knowsModems = false;
     owner.clear();
+    refusal.clear();
     choose();
 }
 
@@ -251,7 +252,11 @@ void OfonoModem::askForModems()
                               return;
                           }
                           if (!answer.isValid()) {
-                              properties.warn(QStringLiteral("its modems"));
+                              refusal = answer.error().type() == QDBusError::AccessDenied
+                                            ? QStringLiteral("oFono does not let this user talk to it")
+                                            : QStringLiteral("oFono does not tell its modems");
+                              properties.warn(QStringLiteral("its modems"), answer.error().message());
+                              emit stateChanged();
                               return;
                           }
                           for (const Object &modem : answer.value())
@@ -356,9 +361,10 @@ live::ModemState OfonoModem::state() const
 {
     const Known *const modem = currentModem();
     if (!modem) {
-        const QString why = owner.isEmpty() ? QStringLiteral("oFono is not running")
-                            : knowsModems   ? QStringLiteral("no modem")
-                                            : QStringLiteral("asking oFono");
+        const QString why = owner.isEmpty()      ? QStringLiteral("oFono is not running")
+                            : !refusal.isEmpty() ? refusal
+                            : knowsModems        ? QStringLiteral("no modem")
+                                                 : QStringLiteral("asking oFono");
         return {false, {}, {}, why};
     }
     const QString made = (modem->maker + QLatin1Char(' ') + modem->model).trimmed();

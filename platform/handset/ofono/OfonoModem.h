@@ -40,7 +40,10 @@ public:
     int hangUp(const QString &id) override;
 
     /// Nobody is asked any more which modem there is, and what it has.
-    bool isKnown() const { return service.isOwnerKnown() && (owner.isEmpty() || knowsModems); }
+    bool isKnown() const
+    {
+        return service.isOwnerKnown() && (owner.isEmpty() || knowsModems || !refusal.isEmpty());
+    }
     /// Whether the modem has that interface ("CallMeter") now.
     bool has(const char *interface) const;
     /// A proxy of qdbusxml2cpp's for the modem, or for another object of the daemon's.
@@ -154,6 +157,7 @@ private:
     QString current; ///< the modem's path; likewise
     QList<Known> modems;
     bool knowsModems = false; ///< the daemon has said which there are
+    QString refusal;          ///< or why it has not, in words
     QStringList followed;     ///< the interfaces that the modem had last
     QHash<QString, Call> calls;
     QHash<QString, Context> contexts;

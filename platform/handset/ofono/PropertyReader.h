@@ -34,6 +34,8 @@ public:
         return false;
     }
     void warn(const QString &name);
+    /// Likewise that the daemon does not tell it at all.
+    void warn(const QString &name, const QString &error);
 
 private:
     static bool holdsMap(const QVariant &value, const char *signature);

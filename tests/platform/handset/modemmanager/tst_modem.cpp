@@ -61,13 +61,10 @@ public:
     void settle()
     {
         for (int turn = 0; turn < 3; ++turn) {
-            const int before = stateChanges;
-            const auto counting =
-                QObject::connect(modem, &live::Modem::stateChanged, modem, [this] { ++stateChanges; });
+            QSignalSpy changed(modem, &live::Modem::stateChanged);
             fake.set(fake.modem, QStringLiteral("Modem.Modem3gpp"),
                      {{QStringLiteral("OperatorName"), QStringLiteral("Network %1").arg(++marks)}});
-            QTRY_VERIFY(stateChanges > before);
-            QObject::disconnect(counting);
+            QVERIFY(changed.wait(60'000)); // does not look every 10 ms only
         }
     }
     live::ModemState modemState() const { return phone->modem().state(); }
@@ -80,7 +77,6 @@ public:
 
 private:
     int marks = 0;
-    int stateChanges = 0;
 };
 
 } // namespace
@@ -117,6 +113,7 @@ private slots:
     void aBearerThatIsTakenAwayIsOver();
     void aValueOfAWrongTypeIsIgnoredWithOneWarning();
     void aDaemonThatSaysNothingHoldsNothingUp();
+    void aDaemonThatDoesNotLetThisUserTalkToItIsSaidToBeSo();
     void aDaemonThatAnswersLateIsAskedAgain();
     void dialingAsksForACallAndBeginsIt();
     void aCallIsAnsweredAndHungUp();
@@ -601,6 +598,20 @@ void TestModem::aDaemonThatSaysNothingHoldsNothingUp()
     QCOMPARE(desk.phone->callService() != nullptr, true);
     desk.close(); // and does not wait for the answer either
     QVERIFY(!desk.phone);
+}
+
+void TestModem::aDaemonThatDoesNotLetThisUserTalkToItIsSaidToBeSo()
+{
+    Desk desk;
+    desk.fake.errors[QStringLiteral("GetManagedObjects")] =
+        QStringLiteral("org.freedesktop.DBus.Error.AccessDenied: not you");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("not you")));
+    desk.open();
+    QTRY_COMPARE(desk.modemState().status, QStringLiteral("ModemManager does not let this user talk to it"));
+    desk.fake.errors.clear();
+    desk.fake.vanish();
+    desk.fake.appear();
+    QTRY_VERIFY(desk.modemState().isThere);
 }
 
 void TestModem::aDaemonThatAnswersLateIsAskedAgain()

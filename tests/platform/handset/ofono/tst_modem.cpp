@@ -63,6 +63,7 @@ private slots:
     void aSilentDaemonIsToldAndNothingWaits();
     void aCallThatTheNetworkRefusesIsTold();
     void theBackendIsALibraryThatTheFactoryFinds();
+    void aDaemonThatDoesNotLetThisUserTalkToItIsSaidToBeSo();
     void theFiguresAreThereWhenItIsOpened();
     void whatHappensWhileItIsOpenedIsTold();
     void openingWaitsForNobodyAndForNobodyLong();
@@ -565,6 +566,22 @@ void TestModem::theBackendIsALibraryThatTheFactoryFinds()
         return opened.handset->callLog()->dialedCallsTime(time) == Success && time.seconds > 0;
     };
     QTRY_VERIFY(counts());
+}
+
+// As the usual policy of the bus has it for who is neither root nor at the console.
+void TestModem::aDaemonThatDoesNotLetThisUserTalkToItIsSaidToBeSo()
+{
+    OfonoDesk desk;
+    desk.fake.errors["Manager.GetModems"] = QStringList("org.freedesktop.DBus.Error.AccessDenied");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("oFono does not tell its modems"));
+    desk.start();
+    QTRY_COMPARE(desk.modem->state().status, "oFono does not let this user talk to it");
+    QVERIFY(desk.modem->isKnown());
+    QVERIFY(!desk.modem->state().isThere);
+    desk.fake.disappear();
+    QTRY_COMPARE(desk.modem->state().status, "oFono is not running");
+    desk.fake.appear();
+    QTRY_VERIFY(desk.modem->state().isThere);
 }
 
 // Without a turn of the event loop: a screen may be opened at once.
