@@ -216,6 +216,15 @@ class Developers(unittest.TestCase):
         self.assertIn("example", run(tree / "bin/kavrecentcalls", "--help"))
         run(tree / "bin/kavrecentcalls", "--backend", "example", "--state", "none", "--photo", scratch / "p.png")
 
+    def test_a_modem_from_outside_is_found_by_auto(self):
+        run(CMAKE, "--install", self.built)
+        script = scratch / "auto.tour"
+        # The simulated telephone would say "0.00 units".
+        script.write_text('open callCost\nexpect row 0 Credit Available | "0.00 "\n')
+        tour = ("--tour", scratch / "auto", "--script", script)
+        run(tree / "bin/kavrecentcalls", "--backend", "auto", "--state", "none", *tour, code=1)
+        run(tree / "bin/kavrecentcalls", "--backend", "auto", "--state", "none", *tour, EXAMPLE_MODEM="Mine")
+
     def test_pkg_config_leads_to_every_header_and_library(self):
         folder = libraries() / "pkgconfig"
         names = sorted(file.stem for file in folder.glob("*.pc"))
