@@ -3137,6 +3137,10 @@
         <translation>PIN2</translation>
     </message>
     <message>
+        <source>credit</source>
+        <translation>crédito</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>nada</translation>
     </message>

@@ -3137,6 +3137,10 @@
         <translation>PIN2</translation>
     </message>
     <message>
+        <source>credit</source>
+        <translation>credito</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>niente</translation>
     </message>

@@ -3137,6 +3137,10 @@
         <translation>PIN2</translation>
     </message>
     <message>
+        <source>credit</source>
+        <translation>средства</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>ничего</translation>
     </message>

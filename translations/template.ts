@@ -3137,6 +3137,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>credit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation type="unfinished"></translation>
     </message>

@@ -3137,6 +3137,10 @@
         <translation>PIN2</translation>
     </message>
     <message>
+        <source>credit</source>
+        <translation>余额</translation>
+    </message>
+    <message>
         <source>nothing</source>
         <translation>无</translation>
     </message>

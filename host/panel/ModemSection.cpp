@@ -1,6 +1,9 @@
 #include "host/panel/ModemSection.h"
 
+#include "handset/AdviceOfCharge.h"
+#include "handset/CallService.h"
 #include "handset/Handset.h"
+#include "handset/Status.h"
 #include "host/panel/Controls.h"
 
 #include <QtWidgets/QFormLayout>
@@ -21,15 +24,31 @@ struct Figures {
     bool (*isThere)(Handset &handset);
 };
 
-constexpr std::array<Figures, 6> roles{{
+// Over a modem without it the role answers for the phone's own setting, and the files of the SIM are not there.
+bool hasAdviceOfCharge(Handset &handset)
+{
+    QString maximum;
+    bool enabled = false;
+    handset::AdviceOfCharge *const advice = handset.adviceOfCharge();
+    return advice && advice->meterMaximum(maximum, enabled) == handset::Success;
+}
+
+bool hasCredit(Handset &handset)
+{
+    QByteArray text;
+    handset::CallService *const service = handset.callService();
+    return service && service->remainingCredit(text) == handset::Success;
+}
+
+constexpr std::array<Figures, 7> roles{{
     {QT_TRANSLATE_NOOP("host::ModemSection", "call times"), [](Handset &h) { return h.callLog() != nullptr; }},
     {QT_TRANSLATE_NOOP("host::ModemSection", "all calls"), [](Handset &h) { return h.callService() != nullptr; }},
     {QT_TRANSLATE_NOOP("host::ModemSection", "data calls"), [](Handset &h) { return h.dataCalls() != nullptr; }},
     {QT_TRANSLATE_NOOP("host::ModemSection", "data sessions"),
      [](Handset &h) { return h.packetData() != nullptr; }},
-    {QT_TRANSLATE_NOOP("host::ModemSection", "advice of charge"),
-     [](Handset &h) { return h.adviceOfCharge() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "advice of charge"), &hasAdviceOfCharge},
     {QT_TRANSLATE_NOOP("host::ModemSection", "PIN2"), [](Handset &h) { return h.simSecurity() != nullptr; }},
+    {QT_TRANSLATE_NOOP("host::ModemSection", "credit"), &hasCredit},
 }};
 
 QString missingText(Handset &handset)

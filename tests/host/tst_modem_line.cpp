@@ -206,7 +206,7 @@ void TestModemLine::theSectionSaysWhatIsBehindAndWhatIsMissing()
     handset->now.isRecordedElsewhere = true;
     emit handset->changed();
     QCOMPARE(label("recorded by"), "another process");
-    QCOMPARE(label("not available"), "data calls, PIN2");
+    QCOMPARE(label("not available"), "data calls, advice of charge, PIN2, credit");
     handset->now.isChargedByModem = true;
     handset->now.isRecorder = true;
     handset->now.status = QStringLiteral("searching");

@@ -6,6 +6,7 @@
 
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTime>
+#include <QtGui/QImage>
 
 namespace handset::test {
 
@@ -141,6 +142,24 @@ inline HostResult playLiveTour(const RecorderProcess &bench, const QString &back
                     QStringLiteral("--tour"), home.filePath(QStringLiteral("photographs")),
                     QStringLiteral("--script"), file},
                    environment);
+}
+
+/// The host's window as it is when the screen has been opened at once, of the backend whose daemon is at `busAddress`.
+inline QImage photographScreen(const RecorderProcess &bench, const QString &screen, const QString &backend,
+                               const QString &busAddress)
+{
+    const QTemporaryDir home;
+    const QString file = home.filePath(QStringLiteral("window.png"));
+    QProcessEnvironment environment = hostEnvironment(home.path());
+    environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), busAddress);
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), busAddress);
+    const HostResult shown =
+        runHost({QStringLiteral("--backend"), backend, QStringLiteral("--state"), bench.state.path(),
+                 QStringLiteral("--screen"), screen, QStringLiteral("--photo"), file},
+                environment);
+    if (shown.code != 0 || !shown.errors.isEmpty())
+        qWarning("the host ended with %d: %s", shown.code, qPrintable(shown.errors));
+    return QImage(file);
 }
 
 } // namespace handset::test

@@ -162,7 +162,13 @@ void TestRecorderOverOfono::callsBothWaysAreRecordedToldOnceAndShown()
     listener.terminate();
     QVERIFY(listener.waitForFinished(limitMs));
 
-    const HostResult tour = playLiveTour(bench, QStringLiteral("ofono"), daemon.busAddress(), costsOfTheCard());
+    const QString backend = QStringLiteral("ofono");
+    const QImage window = photographScreen(bench, QStringLiteral("callCost"), backend, daemon.busAddress());
+    QVERIFY(!window.isNull());
+    const PrivateBus nobody;
+    QVERIFY(window != photographScreen(bench, QStringLiteral("callCost"), backend, nobody.address()));
+
+    const HostResult tour = playLiveTour(bench, backend, daemon.busAddress(), costsOfTheCard());
     QVERIFY2(tour.code == 0, qPrintable(tour.errors + tour.output));
     QCOMPARE(tour.errors, QString());
     daemon.modem().withPhone([](AtPhone &phone) {
