@@ -60,11 +60,12 @@ public:
     /// Waits until everything that the daemon has sent until now has come, and what was asked then is answered.
     void settle()
     {
+        QSignalSpy changed(modem, &live::Modem::stateChanged);
         for (int turn = 0; turn < 3; ++turn) {
-            QSignalSpy changed(modem, &live::Modem::stateChanged);
-            fake.set(fake.modem, QStringLiteral("Modem.Modem3gpp"),
-                     {{QStringLiteral("OperatorName"), QStringLiteral("Network %1").arg(++marks)}});
-            QVERIFY(changed.wait(60'000)); // does not look every 10 ms only
+            const QString mark = QStringLiteral("Network %1").arg(++marks);
+            fake.set(fake.modem, QStringLiteral("Modem.Modem3gpp"), {{QStringLiteral("OperatorName"), mark}});
+            while (modemState().network != mark)
+                QVERIFY(changed.wait(60'000)); // does not look every 10 ms only
         }
     }
     live::ModemState modemState() const { return phone->modem().state(); }
