@@ -19,6 +19,9 @@ constexpr const char *exitCodes = "\nExit codes:\n"
                                   "  2  the command line is wrong\n"
                                   "  3  there is no system bus, or the telephone cannot be opened\n";
 
+/// Nobody waits for the recorder, and where a machine has just been started its bus may be busy.
+constexpr int busPatienceMs = 10'000;
+
 struct Options {
     QString backend;
     QString stateDirectory;
@@ -87,7 +90,11 @@ private:
             if (const QString error = open(backend); !error.isEmpty())
                 QCoreApplication::exit(complain(endSignals.haveCome() ? ExitSuccess : ExitNoHandset, error));
         });
-        return awaited.error;
+        if (!awaited.watch)
+            return awaited.error;
+        if (!awaited.error.isEmpty())
+            complain(ExitSuccess, awaited.error + QStringLiteral("; it is looked for."));
+        return {};
     }
 
     QString open(const QString &backend) const
@@ -95,6 +102,7 @@ private:
         handset::Settings settings;
         settings.backend = backend;
         settings.stateDirectory = options.stateDirectory;
+        settings.patience.bus = busPatienceMs;
         settings.keptDays = options.keptDays;
         settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
         settings.progress = [](const QString &step, int percent) {

@@ -6,7 +6,7 @@
 namespace handset {
 
 /// Changes with every change of the interfaces in this folder: a library that was built for others is not used.
-inline constexpr int interfaceVersion = 3;
+inline constexpr int interfaceVersion = 4;
 
 /// Opens a handset, as handset::open(); the clock is not null. Throws nothing.
 using OpenBackend = void (*)(const Settings &settings, Opened &opened);

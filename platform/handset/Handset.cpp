@@ -244,7 +244,6 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here)
             continue;
         Awaited awaited;
         await([here, name] { here(name); }, awaited);
-        // A bus that was too slow for one of them is looked for again.
         if (awaited.watch)
             watches->push_back(std::move(awaited.watch));
         if (awaited.error.isEmpty())
@@ -252,7 +251,7 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here)
         else
             error = awaited.error;
     }
-    return isBusThere ? Awaited{watches, {}} : Awaited{nullptr, error};
+    return watches->empty() ? Awaited{nullptr, error} : Awaited{watches, isBusThere ? QString() : error};
 }
 
 Opened open(const Settings &settings)

@@ -98,14 +98,15 @@ QStringList backendNames();
 /// `patience.operation` at most; one that does not answer in that time counts as one without a modem.
 QString presentBackend(const Patience &patience = {});
 
-/// What waits for a modem, as long as it is kept; or one sentence that says why nothing can be waited for.
+/// What waits for a modem, as long as it is kept, and one sentence that says why there is none to be seen yet: with a watch
+/// the system bus is there and does not answer, and is looked for further; without one there is nothing to wait for.
 struct Awaited {
     std::shared_ptr<void> watch;
     QString error;
 };
 /// Calls `here`, from the event loop, with the name of a backend whose modem is there; more than once for as long as the
-/// watch is kept, which may end with the first call. Nothing wakes up until a daemon says something. An error where
-/// there is no system bus; one that goes later is looked for.
+/// watch is kept, which may end with the first call. Nothing wakes up until a daemon says something, but for a look
+/// every five seconds for a bus that does not answer or has gone.
 Awaited awaitModem(const std::function<void(const QString &backend)> &here);
 
 /// Opens a handset. Never throws; a backend name that is not known, a library that has no backend, a state directory that cannot be used, and a

@@ -101,6 +101,7 @@ private slots:
     void withoutAModemItWaitsForOne();
     void aSignalEndsTheWait();
     void withoutABusItSaysSo();
+    void aBusThatIsSilentAtTheStartIsLookedFor();
     void theCommandLineIsChecked_data();
     void theCommandLineIsChecked();
 };
@@ -373,6 +374,24 @@ void TestRecorder::withoutABusItSaysSo()
     QTRY_COMPARE_WITH_TIMEOUT(bench.recorder.state(), QProcess::NotRunning, limitMs);
     QCOMPARE(bench.recorder.exitCode(), 3);
     QVERIFY(bench.recorder.readAllStandardError().startsWith("kavcallrecorder: There is no system bus: "));
+}
+
+// As one that has much to do when the machine starts.
+void TestRecorder::aBusThatIsSilentAtTheStartIsLookedFor()
+{
+    Bench bench;
+    bench.bus.halt();
+    bench.start();
+    QByteArray said;
+    QTRY_VERIFY_WITH_TIMEOUT((said += bench.recorder.readAllStandardError()).endsWith("; it is looked for.\n"),
+                             limitMs);
+    QCOMPARE(said, QByteArrayLiteral(
+                       "kavcallrecorder: There is no system bus: it does not answer; it is looked for.\n"));
+    bench.bus.goOn();
+    QTRY_VERIFY_WITH_TIMEOUT(bench.fake.asked.contains(QStringLiteral("ListCalls")), limitMs);
+    bench.beginCall(call);
+    bench.end(SIGTERM);
+    QCOMPARE(bench.recorder.exitCode(), 0);
 }
 
 void TestRecorder::theCommandLineIsChecked_data()

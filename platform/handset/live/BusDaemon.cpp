@@ -1,5 +1,6 @@
 #include "live/BusDaemon.h"
 
+#include "handset/Patience.h"
 #include "live/Question.h"
 #include "qt/qcop/BusProbe.h"
 
@@ -19,13 +20,13 @@ namespace {
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
-constexpr int busPatienceMs = 250;
+constexpr int busPatienceMs = handset::Patience().bus;
 const QString itIsSilent = QStringLiteral("it does not answer");
 
 // Qt waits without end for a bus that takes a connection and says nothing. Where nobody is there, Qt knows why.
 bool isSilent(const QString &address, int longestMs)
 {
-    const auto deadline = BusProbe::Clock::now() + std::chrono::milliseconds(std::min(longestMs, busPatienceMs));
+    const auto deadline = BusProbe::Clock::now() + std::chrono::milliseconds(longestMs);
     return BusProbe::ofBus(address.toLocal8Bit()).answer(deadline) == BusProbe::Answer::Silence;
 }
 
@@ -40,7 +41,7 @@ QString systemBusAddress()
 QDBusMessage askAndWait(const QString &service, const QString &path, const QString &interface,
                         const QString &method, int longestMs)
 {
-    if (isSilent(systemBusAddress(), longestMs))
+    if (isSilent(systemBusAddress(), std::min(longestMs, busPatienceMs)))
         return QDBusMessage::createError(QDBusError::NoReply, itIsSilent);
     const QString name = QStringLiteral("kav-presence");
     QDBusMessage question = QDBusMessage::createMethodCall(service, path, interface, method);
@@ -68,11 +69,12 @@ BusDaemon::~BusDaemon()
         QDBusConnection::disconnectFromBus(connectionName);
 }
 
-bool BusDaemon::start()
+bool BusDaemon::start(int longestMs)
 {
-    if (!isSilent(busAddress, busPatienceMs))
+    if (!isSilent(busAddress, longestMs))
         return connectToBus();
     whyNot = itIsSilent;
+    wasSilent = true;
     reconnect->start();
     return false;
 }

@@ -40,10 +40,12 @@ public:
     ~BusDaemon() override;
 
     /// False when there is no bus or it is silent; it is then looked for until there is one. This alone waits, for the
-    /// bus itself, a quarter of a second at most.
-    bool start();
+    /// bus itself, `longestMs`.
+    bool start(int longestMs);
     /// Why start() has found no bus, part of a sentence.
     QString error() const { return whyNot; }
+    /// Whether it has found one that takes a connection and says nothing.
+    bool isBusSilent() const { return wasSilent; }
     /// That of the bus while there is one; another one after the bus has gone and come back.
     const QDBusConnection &bus() const { return connection; }
     /// The unique name of the daemon; empty while it is not there.
@@ -73,6 +75,7 @@ private:
     QString ownerName;
     bool hasAnswered = false; ///< the bus, when it was asked for the owner
     QString whyNot;
+    bool wasSilent = false;
     QTimer *reconnect;               ///< runs while there is no bus
     std::unique_ptr<BusProbe> probe; ///< while the bus is asked whether it answers
 };

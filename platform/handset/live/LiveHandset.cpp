@@ -214,7 +214,7 @@ Awaited await(std::unique_ptr<Modem> modem, const std::function<void()> &here)
     };
     QObject::connect(awaited.get(), &Modem::stateChanged, awaited.get(), tell, Qt::QueuedConnection);
     awaited->start();
-    return {awaited, error};
+    return {error.isEmpty() || awaited->isBusSilent() ? awaited : nullptr, error};
 }
 
 Opened open(const Settings &settings, std::unique_ptr<Modem> modem)

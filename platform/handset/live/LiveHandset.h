@@ -121,8 +121,7 @@ private:
     std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
 
-/// Calls `here` from the event loop when the state of `modem` has changed and it is there. As handset::awaitModem(); with
-/// an error the bus is not there yet, and looked for as long as the watch is kept.
+/// Calls `here` from the event loop when the state of `modem` has changed and it is there. As handset::awaitModem().
 Awaited await(std::unique_ptr<Modem> modem, const std::function<void()> &here);
 
 /// Opens a handset over `modem`, with the ledger of the settings' state directory. As handset::open().

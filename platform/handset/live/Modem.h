@@ -3,6 +3,7 @@
 
 #include "handset/Call.h"
 #include "handset/LineControl.h"
+#include "handset/Patience.h"
 #include "handset/Status.h"
 
 #include <QtCore/QObject>
@@ -60,8 +61,11 @@ public:
     /// The daemon: "ModemManager".
     virtual QString daemon() const = 0;
     virtual ModemState state() const = 0;
-    /// Looks for the bus; an error, in words, where there is none. start() does that where it was not done before.
-    virtual QString connectToBus() { return {}; }
+    /// Looks for the bus, and waits `longestMs` for one that is silent; an error, in words, where there is none. start()
+    /// does that where it was not done before.
+    virtual QString connectToBus(int /*longestMs*/ = handset::Patience().bus) { return {}; }
+    /// Whether that found a bus that takes a connection and says nothing: it may be busy, and is looked for further.
+    virtual bool isBusSilent() const { return false; }
     /// Begins to look. What is there already is reported through the event loop.
     virtual void start() = 0;
 

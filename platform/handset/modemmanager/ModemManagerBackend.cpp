@@ -10,7 +10,7 @@ namespace {
 Opened open(const Settings &settings)
 {
     auto modem = std::make_unique<ModemManagerModem>();
-    if (const QString error = modem->connectToBus(); !error.isEmpty())
+    if (const QString error = modem->connectToBus(settings.patience.bus); !error.isEmpty())
         return {nullptr, error, {}};
     return live::open(settings, std::move(modem));
 }

@@ -80,10 +80,10 @@ ModemManagerModem::ModemManagerModem(const QString &address, live::Patience wait
 
 ModemManagerModem::~ModemManagerModem() = default;
 
-QString ModemManagerModem::connectToBus()
+QString ModemManagerModem::connectToBus(int longestMs)
 {
     isStarted = true;
-    return source.start() ? QString() : QStringLiteral("There is no system bus: %1").arg(source.error());
+    return source.start(longestMs) ? QString() : QStringLiteral("There is no system bus: %1").arg(source.error());
 }
 
 void ModemManagerModem::start()

@@ -30,7 +30,8 @@ public:
 
     QString daemon() const override { return QStringLiteral("ModemManager"); }
     live::ModemState state() const override;
-    QString connectToBus() override;
+    QString connectToBus(int longestMs = handset::Patience().bus) override;
+    bool isBusSilent() const override { return source.isBusSilent(); }
     void start() override;
     int dial(const QString &number) override;
     int answer(const QString &id) override;

@@ -10,7 +10,7 @@ namespace {
 Opened open(const Settings &settings)
 {
     auto modem = std::make_unique<OfonoModem>();
-    if (const QString error = modem->connectToBus(); !error.isEmpty())
+    if (const QString error = modem->connectToBus(settings.patience.bus); !error.isEmpty())
         return {nullptr, error, {}};
     std::shared_ptr<OfonoHandset> handset;
     const Opened opened = live::open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {

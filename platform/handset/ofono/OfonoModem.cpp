@@ -124,10 +124,11 @@ OfonoModem::OfonoModem(const live::Patience &howPatient)
 
 // --- the daemon
 
-QString OfonoModem::connectToBus()
+QString OfonoModem::connectToBus(int longestMs)
 {
     isStarted = true;
-    return service.start() ? QString() : QStringLiteral("There is no system bus: %1").arg(service.error());
+    return service.start(longestMs) ? QString()
+                                    : QStringLiteral("There is no system bus: %1").arg(service.error());
 }
 
 void OfonoModem::start()

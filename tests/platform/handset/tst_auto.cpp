@@ -45,6 +45,7 @@ private slots:
     void aSilentBusIsToldAndNotWaitedFor_data();
     void aSilentBusIsToldAndNotWaitedFor();
     // The last ones, as they end the bus.
+    void aBusThatAnswersLateIsWaitedForAsLongAsSaid();
     void withoutABusItIsTheSimulation();
     void withoutABusNothingIsWaitedFor();
 
@@ -208,8 +209,32 @@ void TestAuto::aSilentBusIsToldAndNotWaitedFor()
         settings.backend = backend;
         QCOMPARE(open(settings).error, error);
     }
-    QCOMPARE(awaitModem([](const QString &) {}).error, error);
+    const Awaited awaited = awaitModem([](const QString &) {});
+    QCOMPARE(awaited.error, error);
+    QVERIFY(awaited.watch); // it is looked for, and nothing waits
     QCOMPARE(presentBackend(), QStringLiteral("simulated"));
+}
+
+void TestAuto::aBusThatAnswersLateIsWaitedForAsLongAsSaid()
+{
+    appear(Daemon::WithModem, Daemon::WithModem);
+    for (const QString &backend : {QStringLiteral("modemmanager"), QStringLiteral("ofono")}) {
+        bus.halt();
+        const std::unique_ptr<QThread> later(QThread::create([this] {
+            QThread::msleep(3 * static_cast<unsigned long>(Patience().bus)); // longer than is waited usually
+            bus.goOn();
+        }));
+        later->start();
+        const StateDir state;
+        Settings settings;
+        settings.backend = backend;
+        settings.stateDirectory = state.path();
+        settings.patience.bus = limitMs;
+        const Opened opened = open(settings);
+        later->wait();
+        QCOMPARE(opened.error, QString());
+        QVERIFY(opened.handset);
+    }
 }
 
 void TestAuto::withoutABusItIsTheSimulation()

@@ -12,7 +12,8 @@ class ScriptedModem final : public live::Modem
 public:
     QString daemon() const override { return QStringLiteral("script"); }
     live::ModemState state() const override { return {true, QStringLiteral("Modem"), {}, {}}; }
-    QString connectToBus() override { return busError; }
+    QString connectToBus(int /*longestMs*/) override { return busError; }
+    bool isBusSilent() const override { return isSilent; }
     void start() override { asked << QStringLiteral("start"); }
     int dial(const QString &number) override { return note(QStringLiteral("dial ") + number); }
     int answer(const QString &id) override { return note(QStringLiteral("answer ") + id); }
@@ -20,6 +21,7 @@ public:
 
     QStringList asked;
     QString busError; ///< at the start
+    bool isSilent = false;
 
 private:
     int note(const QString &what)

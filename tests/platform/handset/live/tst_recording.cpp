@@ -93,6 +93,7 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
     void aBusThatIsSilentAtTheStartIsWaitedFor();
+    void aBusThatIsNotThereAtTheStartIsNotWaitedFor();
 
     void aDialedCallCountsFromItsConnection();
     void anAnsweredCallIsTheOtherSides();
@@ -827,6 +828,7 @@ void TestRecording::aBusThatIsSilentAtTheStartIsWaitedFor()
 {
     auto late = std::make_unique<ScriptedModem>();
     late->busError = QStringLiteral("it does not answer");
+    late->isSilent = true;
     ScriptedModem &modem = *late;
     bool isHere = false;
     const Awaited awaited = live::await(std::move(late), [&] { isHere = true; });
@@ -834,6 +836,15 @@ void TestRecording::aBusThatIsSilentAtTheStartIsWaitedFor()
     QVERIFY(awaited.watch);
     emit modem.stateChanged();
     QTRY_VERIFY(isHere);
+}
+
+void TestRecording::aBusThatIsNotThereAtTheStartIsNotWaitedFor()
+{
+    auto none = std::make_unique<ScriptedModem>();
+    none->busError = QStringLiteral("nobody is there");
+    const Awaited awaited = live::await(std::move(none), [] {});
+    QCOMPARE(awaited.error, QStringLiteral("nobody is there"));
+    QVERIFY(!awaited.watch);
 }
 
 void TestRecording::theLineShowsAndAsksForWhatTheDaemonHas()
