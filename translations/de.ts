@@ -2463,6 +2463,19 @@
     </message>
 </context>
 <context>
+    <name>ZSoftKey</name>
+    <message>
+        <source>TXT_RID_LABEL_LEFT_SOFTKEY</source>
+        <comment>Left softkey</comment>
+        <translation>Linke Taste</translation>
+    </message>
+    <message>
+        <source>TXT_RID_LABEL_RIGHT_SOFTKEY</source>
+        <comment>Right softkey</comment>
+        <translation>Rechte Taste</translation>
+    </message>
+</context>
+<context>
     <name>handset</name>
     <message>
         <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
@@ -2925,6 +2938,10 @@
         <source>Hash</source>
         <translation>Raute</translation>
     </message>
+    <message>
+        <source>Keypad</source>
+        <translation>Tastenfeld</translation>
+    </message>
 </context>
 <context>
     <name>host::Line</name>
@@ -3066,6 +3083,10 @@
     <message>
         <source>Digits, +, * and #</source>
         <translation>Ziffern, +, * und #</translation>
+    </message>
+    <message>
+        <source>Clear the number</source>
+        <translation>Nummer löschen</translation>
     </message>
     <message>
         <source>N&amp;umber</source>

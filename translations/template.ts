@@ -2463,6 +2463,19 @@
     </message>
 </context>
 <context>
+    <name>ZSoftKey</name>
+    <message>
+        <source>TXT_RID_LABEL_LEFT_SOFTKEY</source>
+        <comment>Left softkey</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TXT_RID_LABEL_RIGHT_SOFTKEY</source>
+        <comment>Right softkey</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>handset</name>
     <message>
         <source>The call log is damaged. The next start begins a new one, with what can be read of it.</source>
@@ -2925,6 +2938,10 @@
         <source>Hash</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Keypad</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::Line</name>
@@ -3065,6 +3082,10 @@
     </message>
     <message>
         <source>Digits, +, * and #</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the number</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -4,8 +4,10 @@
 #include "toolkit/ZSkinService.h"
 #include "toolkit/ZSoftKey.h"
 
+#include <QtGui/QAccessible>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QStyle>
 
 #include <algorithm>
@@ -51,6 +53,34 @@ protected:
 
 private:
     const PinDigits &digits;
+};
+
+// A screen reader takes it for what it looks like.
+class DigitFieldAccess : public QAccessibleWidget
+{
+public:
+    explicit DigitFieldAccess(QWidget *field)
+        : QAccessibleWidget(field, QAccessible::EditableText)
+    {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.passwordEdit = true;
+        return state;
+    }
+
+    static QAccessibleInterface *of(const QString &, QObject *object)
+    {
+        auto *field = dynamic_cast<DigitField *>(object);
+        return field ? new DigitFieldAccess(field) : nullptr;
+    }
+
+    struct Factory {
+        Factory() { QAccessible::installFactory(of); }
+        ~Factory() { QAccessible::removeFactory(of); }
+        Q_DISABLE_COPY_MOVE(Factory)
+    };
 };
 
 // The notice and the tries over the field, over what can be typed.
@@ -140,6 +170,7 @@ PinEntryDlg::PinEntryDlg(const QString &header, const QString &range, QWidget *p
     : ZPopup(header, parent, nullptr, true, 0)
     , d(std::make_unique<Private>())
 {
+    [[maybe_unused]] static const DigitFieldAccess::Factory factory;
     d->body = new EntryBody(d->digits, range, this);
     d->body->nameField(header);
     setBody(d->body);

@@ -1,5 +1,6 @@
 #include "toolkit/ZKbMainWidget.h"
 
+#include "toolkit/ZAccessible.h"
 #include "toolkit/ZKeys.h"
 #include "toolkit/ZLayers.h"
 #include "toolkit/ZSkinService.h"
@@ -59,6 +60,7 @@ ZKbMainWidget::ZKbMainWidget(QWidget *parent, const char *name, unsigned int fla
     : QWidget(parent, Qt::WindowFlags::fromInt(flags))
     , d(std::make_unique<Private>())
 {
+    ZAccessible::install();
     if (name)
         setObjectName(QString::fromLatin1(name));
     if (parent)

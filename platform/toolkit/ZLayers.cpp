@@ -1,5 +1,7 @@
 #include "toolkit/ZLayers.h"
 
+#include "toolkit/ZPopup.h"
+
 #include <QtCore/QList>
 #include <QtCore/QPointer>
 #include <QtWidgets/QApplication>
@@ -169,6 +171,27 @@ QWidget *ZLayers::covering(const QWidget *layer)
             return it->widget;
     }
     return nullptr;
+}
+
+// A dialog that is a window of its own is not in the window that it lies over.
+bool ZLayers::isHidden(QWidget *widget)
+{
+    const QWidget *layer = layerOf(widget);
+    if (!layer)
+        return false;
+    const auto placed = [](const QWidget *shown) {
+        return QRect(shown->mapToGlobal(QPoint(0, 0)), shown->size());
+    };
+    const QList<Layer> &list = layers();
+    const bool isDialogWindow = qobject_cast<const ZPopup *>(layer->window());
+    for (auto it = list.crbegin(); it != list.crend(); ++it) {
+        if (it->widget == layer && isDialogWindow)
+            break;
+        const bool isOver = it->kind == Kind::ModalDialog && it->widget->isWindow() && it->widget->isVisible();
+        if (isOver && it->widget != layer->window() && placed(it->widget).intersects(placed(layer)))
+            return true;
+    }
+    return covering(layer) != nullptr;
 }
 
 QWidget *ZLayers::keyTarget(QWidget *layer)

@@ -27,6 +27,9 @@ QWidget *outermostScreen();
 /// The layer on top of those that keep the keys from `layer`, or null.
 QWidget *covering(const QWidget *layer);
 
+/// Whether `widget` is on a layer that a screen or a dialog covers: nobody sees it or gets at it.
+bool isHidden(QWidget *widget);
+
 /// The widget of `layer` that takes its keys: the one that last had the focus, else the first that can have it,
 /// else the layer.
 QWidget *keyTarget(QWidget *layer);

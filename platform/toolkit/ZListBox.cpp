@@ -1,5 +1,6 @@
 #include "toolkit/ZListBox.h"
 
+#include "toolkit/ZAccessible.h"
 #include "toolkit/ZKeys.h"
 #include "toolkit/ZListItemPrivate.h"
 #include "toolkit/ZListModel.h"
@@ -83,6 +84,7 @@ ZListBox::ZListBox(QString type, QWidget *parent, unsigned int flags, ZSkinServi
     : QListView(parent)
     , d(std::make_unique<Private>())
 {
+    ZAccessible::install();
     d->type = type;
     d->skinClass = skinClass;
     d->model = new ZListModel(this);
@@ -147,6 +149,7 @@ void ZListBox::insertItem(const ZListItem *item, int index, bool show)
         d->rowBeforeClear = rowBeforeClear;
     if (row == d->pressedBeforeClear && item->title() == d->pressedTitle)
         d->pressed = d->model->index(row);
+    ZAccessible::rowAdded(this, row);
     layOutBeforePainting();
     if (show)
         viewport()->update();
@@ -258,6 +261,7 @@ void ZListBox::itemChanged(ZListItem *item)
     if (row < 0)
         return;
     d->model->rowChanged(row);
+    ZAccessible::rowChanged(this, row);
     if (row == currentItem())
         leaveSeparator(row);
 }
@@ -303,6 +307,12 @@ bool ZListBox::viewportEvent(QEvent *event)
     if (event->type() == QEvent::Paint)
         executeDelayedItemsLayout();
     return QListView::viewportEvent(event);
+}
+
+void ZListBox::focusInEvent(QFocusEvent *event)
+{
+    QListView::focusInEvent(event);
+    ZAccessible::focusCame(this);
 }
 
 void ZListBox::keyPressEvent(QKeyEvent *event)

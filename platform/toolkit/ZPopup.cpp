@@ -1,5 +1,6 @@
 #include "toolkit/ZPopup.h"
 
+#include "toolkit/ZAccessible.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZKeys.h"
 #include "toolkit/ZLayers.h"
@@ -109,6 +110,7 @@ ZPopup::ZPopup(const QString &header, QWidget *parent, const char *name, bool mo
     : QWidget(parent, windowFlagsFor(parent, flags))
     , d(std::make_unique<Private>())
 {
+    ZAccessible::install();
     if (name)
         setObjectName(QString::fromLatin1(name));
     d->header = header;

@@ -1,5 +1,6 @@
 #include "toolkit/ZSoftKey.h"
 
+#include "toolkit/ZAccessible.h"
 #include "toolkit/ZKeys.h"
 #include "toolkit/ZSkinService.h"
 #include "toolkit/ZText.h"
@@ -53,8 +54,14 @@ public:
             captions.erase(priority);
         else
             captions[priority] = caption;
-        if (accessibleName() != this->caption())
+        const QString before = accessibleName();
+        if (before != this->caption()) {
             setAccessibleName(this->caption());
+            if (before.isEmpty())
+                ZAccessible::keyAppeared(this);
+            else if (accessibleName().isEmpty())
+                ZAccessible::keyVanished(this);
+        }
         update();
     }
 
@@ -105,6 +112,7 @@ ZSoftKey::ZSoftKey(const QString &layout, QWidget *parent, QWidget *target)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
+    ZAccessible::install();
     if (layout != QLatin1String("CST_2A"))
         qWarning() << "ZSoftKey: unknown layout" << layout << "taken as CST_2A";
     d->buttons = {new CaptionButton(this, Qt::AlignLeft), new CaptionButton(this, Qt::AlignRight)};

@@ -56,6 +56,11 @@ void ZTextPane::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+QString ZTextPane::message() const
+{
+    return text.text().replace(QChar::LineSeparator, QLatin1Char('\n'));
+}
+
 bool ZTextPane::hasHeightForWidth() const
 {
     return true;

@@ -11,6 +11,9 @@ class ZTextPane : public QWidget
 public:
     ZTextPane(const QString &text, QWidget *parent);
 
+    /// What it shows, a line a paragraph.
+    QString message() const;
+
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
