@@ -1,5 +1,6 @@
 #include "host/PhoneWindow.h"
 
+#include "host/AccessibleRole.h"
 #include "host/MenuScreen.h"
 #include "host/OpeningProgress.h"
 #include "host/WaitNotice.h"
@@ -34,6 +35,7 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
     , menu(new MenuScreen(body->display()))
     , screens(library, body->display())
 {
+    giveAccessibleRole<PhoneWindow, QAccessible::Window>();
     setWindowTitle(tr("Recent Calls"));
     layOut();
     connect(menu, &MenuScreen::chosen, this, &PhoneWindow::openScreen);

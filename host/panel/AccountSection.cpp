@@ -49,17 +49,16 @@ AccountSection::AccountSection(Line &drivenLine)
     : PanelSection(tr("Prepaid account"))
     , line(drivenLine)
     , credit(makeValue("credit", tr("Credit")))
-    , deposit(makeValue("deposit", tr("Last deposit")))
+    , deposit(makeAnnouncement("deposit", tr("Last deposit")))
     , amount(makeEntry("top-up amount", tr("Amount to pay in"), tr("In units or in the currency, as costs are")))
     , expires(new QDateEdit(QDate::currentDate().addYears(1)))
-    , failure(makeValue("account failure", tr("Why nothing was paid in")))
+    , failure(makeAnnouncement("account failure", tr("Why nothing was paid in")))
 {
     auto *column = new QVBoxLayout(this);
     column->addWidget(credit);
     column->addWidget(deposit);
     addTopUp(column);
     column->addWidget(failure);
-    tell(failure, {});
 }
 
 void AccountSection::addTopUp(QVBoxLayout *column)
@@ -91,7 +90,7 @@ void AccountSection::topUp()
     Line::Charging *charging = line.charging();
     const int status =
         charging ? charging->topUp(plainNumber(amount->text()), until) : static_cast<int>(handset::NotAvailable);
-    tell(failure, refusalText(status, accountMeaning));
+    failure->say(refusalText(status, accountMeaning));
     refresh();
 }
 
@@ -100,12 +99,12 @@ void AccountSection::refresh()
     setEnabled(line.charging() != nullptr);
     if (!isEnabled()) {
         credit->setText(notCharging(line));
-        tell(deposit, {});
-        tell(failure, {});
+        deposit->say({});
+        failure->say({});
         return;
     }
     credit->setText(creditText(line.handset()));
-    tell(deposit, depositText(line.handset()));
+    deposit->say(depositText(line.handset()));
 }
 
 } // namespace host

@@ -11,6 +11,8 @@ class QVBoxLayout;
 
 namespace host {
 
+class Announcement;
+
 class AccountSection : public PanelSection
 {
     Q_OBJECT
@@ -25,10 +27,10 @@ private:
 
     Line &line;
     QLabel *credit;
-    QLabel *deposit;
+    Announcement *deposit;
     QLineEdit *amount;
     QDateEdit *expires;
-    QLabel *failure;
+    Announcement *failure;
 };
 
 } // namespace host

@@ -1,5 +1,7 @@
 #include "host/panel/Controls.h"
 
+#include "host/panel/LiveRegion.h"
+
 #include <QtCore/QEvent>
 #include <QtCore/QRegularExpression>
 #include <QtGui/QAccessible>
@@ -7,6 +9,8 @@
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+
+#include <utility>
 
 namespace host {
 
@@ -66,16 +70,43 @@ QString Value::spoken() const
 {
     QString shown = text();
     shown.remove(placeToBreak);
-    return title.isEmpty() || shown.isEmpty() ? title + shown : title + QStringLiteral(": ") + shown;
+    if (shown.startsWith(title)) // on its own in the panel, it says itself what it is
+        return shown;
+    return shown.isEmpty() ? title : title + QStringLiteral(": ") + shown;
 }
+
+void Announcement::say(const QString &text, const QString &gist)
+{
+    setText(text);
+    setVisible(!text.isEmpty());
+    if (std::exchange(told, gist) != gist && isVisible())
+        LiveRegion::tell(window(), spoken());
+}
+
+namespace {
+
+void prepare(Value *value)
+{
+    value->setTextFormat(Qt::PlainText);
+    value->setWordWrap(true);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+}
+
+} // namespace
 
 QLabel *makeValue(const char *name, const QString &accessible)
 {
-    auto *label = new Value(name, accessible);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    return label;
+    auto *value = new Value(name, accessible);
+    prepare(value);
+    return value;
+}
+
+Announcement *makeAnnouncement(const char *name, const QString &accessible)
+{
+    auto *announcement = new Announcement(name, accessible);
+    prepare(announcement);
+    announcement->hide();
+    return announcement;
 }
 
 QPushButton *makeButton(const QString &text, const QString &toolTip)
@@ -91,6 +122,7 @@ QComboBox *makeChoice(const char *name, const QString &accessible, const QString
     auto *choice = new QComboBox;
     choice->setObjectName(QString::fromLatin1(name));
     choice->setAccessibleName(accessible);
+    choice->setAccessibleDescription(accessible); // its name is read as what is chosen
     choice->setFocusPolicy(Qt::TabFocus);
     choice->addItems(items);
     leaveWheelToPanel(choice);
@@ -158,12 +190,6 @@ QString breakableWords(const QString &text)
     }
     broken += text.mid(end);
     return broken;
-}
-
-void tell(QLabel *label, const QString &text)
-{
-    label->setText(text);
-    label->setVisible(!text.isEmpty());
 }
 
 } // namespace host

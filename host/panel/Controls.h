@@ -26,9 +26,29 @@ private:
     const QString title;
 };
 
+/// A value that is told without being asked for: a state, a refusal, a countdown, a result. It takes room only while
+/// there is a text.
+class Announcement : public Value
+{
+    Q_OBJECT
+
+public:
+    using Value::Value;
+
+    /// Shows `text`, and tells it aloud unless it was told already with the same `gist`: what of a text that changes all
+    /// the time is news.
+    void say(const QString &text, const QString &gist);
+    void say(const QString &text) { say(text, text); }
+
+private:
+    QString told;
+};
+
 /// A value that can be selected with the pointer. `name` (untranslated) is its object name, `accessible`
 /// what it is called aloud.
 QLabel *makeValue(const char *name, const QString &accessible);
+/// The same that is told when it changes. Hidden until it has a text.
+Announcement *makeAnnouncement(const char *name, const QString &accessible);
 /// The pointer leaves the keys with the phone; the Tab key reaches it. `text` may have a mnemonic.
 QPushButton *makeButton(const QString &text, const QString &toolTip);
 /// A choice, likewise.
@@ -58,9 +78,6 @@ QString breakableAnywhere(const QString &text);
 
 /// `text` with such places within words that are longer than a line of the panel.
 QString breakableWords(const QString &text);
-
-/// Shows `text` and takes room only while there is one.
-void tell(QLabel *label, const QString &text);
 
 /// While it lives, changes to a control are the program's and not the user's.
 template <typename Control>

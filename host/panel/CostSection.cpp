@@ -61,7 +61,7 @@ CostSection::CostSection(Line &drivenLine)
     , limit(makeValue("credit limit", tr("Credit limit")))
     , callLabel(new QLabel)
     , callCost(makeValue("call cost", tr("Cost of the call")))
-    , failure(makeValue("cost failure", tr("Why the costs were not set")))
+    , failure(makeAnnouncement("cost failure", tr("Why the costs were not set")))
 {
     auto *grid = new QGridLayout(this);
     grid->setVerticalSpacing(6);
@@ -74,7 +74,6 @@ CostSection::CostSection(Line &drivenLine)
     grid->addWidget(callLabel, 3, 0);
     grid->addWidget(callCost, 3, 1, 1, 3);
     grid->addWidget(failure, 4, 0, 1, 4);
-    tell(failure, {});
     connect(type, &QComboBox::activated, this, &CostSection::setType);
 }
 
@@ -96,8 +95,8 @@ void CostSection::setType(int chosen)
 {
     AdviceOfCharge *advice = line.handset().adviceOfCharge();
     const auto chargeType = static_cast<quint8>(chosen);
-    tell(failure,
-         refusalText(advice ? advice->setChargeType(chargeType) : int{handset::NotAvailable}, costMeaning));
+    failure->say(
+        refusalText(advice ? advice->setChargeType(chargeType) : int{handset::NotAvailable}, costMeaning));
     refresh();
 }
 
@@ -106,7 +105,7 @@ void CostSection::setPrice()
     AdviceOfCharge *advice = line.handset().adviceOfCharge();
     const int status = advice ? advice->setPriceAndCurrency(plainNumber(price->text()), currency->text())
                               : static_cast<int>(handset::NotAvailable);
-    tell(failure, refusalText(status, costMeaning));
+    failure->say(refusalText(status, costMeaning));
     if (status == handset::Success) {
         price->setModified(false); // what the SIM could keep is shown from now on
         currency->setModified(false);

@@ -12,6 +12,8 @@ class QPushButton;
 
 namespace host {
 
+class Announcement;
+
 class CostSection : public PanelSection
 {
     Q_OBJECT
@@ -34,7 +36,7 @@ private:
     QLabel *limit;
     QLabel *callLabel;
     QLabel *callCost;
-    QLabel *failure;
+    Announcement *failure;
 };
 
 /// `amount` and the unit that `handset` shows behind it: "12.50 EUR", "3.00 units".

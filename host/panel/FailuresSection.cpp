@@ -139,6 +139,7 @@ void FailuresSection::fillList()
         auto *item = new QListWidgetItem(
             QStringLiteral("%1: %2").arg(breakableAtColons(name), statusName(faults.code(index))), failing);
         item->setToolTip(name);
+        item->setData(Qt::AccessibleTextRole, QStringLiteral("%1: %2").arg(name, statusName(faults.code(index))));
         item->setData(operationRole, index);
     }
     list->setCurrentRow(std::min(std::max(before, 0), failing->count() - 1));

@@ -7,6 +7,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QToolButton>
 
 namespace host {
 
@@ -34,16 +35,39 @@ constexpr std::array<ButtonPlan, 6> buttonPlans{{
      QT_TRANSLATE_NOOP("host::LineSection", "Answers the incoming call; the call is connected"), true},
 }};
 
+// A state is news, each second of it is none.
+QString withoutClocks(QString text)
+{
+    static const QRegularExpression clock(QStringLiteral("\\d+:\\d\\d:\\d\\d"));
+    return text.remove(clock);
+}
+
+// A countdown is news at 30, 20, 10 and 5 seconds, and not in between.
+QString atTheMark(const QString &text)
+{
+    static const QRegularExpression number(QStringLiteral("\\d+"));
+    const QRegularExpressionMatch seconds = number.match(text);
+    if (!seconds.hasMatch())
+        return text;
+    int mark = 0;
+    for (const int passed : {5, 10, 20, 30}) {
+        mark = passed;
+        if (seconds.captured().toInt() <= passed)
+            break;
+    }
+    return QString(text).replace(seconds.capturedStart(), seconds.capturedLength(), QString::number(mark));
+}
+
 } // namespace
 
 LineSection::LineSection(Line &drivenLine)
     : PanelSection(tr("Line"))
     , line(drivenLine)
-    , state(new Value("line state", tr("State of the line")))
-    , notice(new Value("charge notice", tr("End of charging")))
-    , record(new Value("record notice", tr("What is not in the call log yet")))
-    , told(makeValue("told notice", tr("What the telephone has told")))
-    , failure(new Value("line failure"))
+    , state(new Announcement("line state", tr("State of the line")))
+    , notice(new Announcement("charge notice", tr("End of charging")))
+    , record(new Announcement("record notice", tr("What is not in the call log yet")))
+    , told(makeAnnouncement("told notice", tr("What the telephone has told")))
+    , failure(new Announcement("line failure"))
     , number(new QLineEdit(drivenLine.number()))
 {
     auto *column = new QVBoxLayout(this);
@@ -75,6 +99,7 @@ void LineSection::addNumber(QVBoxLayout *column)
     number->setLayoutDirection(Qt::LeftToRight); // "+4930", also where texts are read from right to left
     number->setToolTip(tr("Digits, +, * and #"));
     number->setClearButtonEnabled(true);
+    number->findChild<QToolButton *>()->setAccessibleName(tr("Clear the number"));
     auto *label = new QLabel(tr("N&umber"));
     label->setBuddy(number);
     auto *row = new QHBoxLayout;
@@ -107,14 +132,12 @@ void LineSection::addButtons(QVBoxLayout *column)
 
 void LineSection::refresh()
 {
-    state->setText(breakableWords(line.describeState()));
-    notice->setText(line.chargeNotice());
-    notice->setVisible(!line.chargeNotice().isEmpty());
-    record->setText(line.recordNotice());
-    record->setVisible(!line.recordNotice().isEmpty());
-    tell(told, line.toldNotice());
-    failure->setText(line.failure());
-    failure->setVisible(!line.failure().isEmpty());
+    const QString described = line.describeState();
+    state->say(breakableWords(described), withoutClocks(described));
+    notice->say(line.chargeNotice(), atTheMark(line.chargeNotice()));
+    record->say(line.recordNotice());
+    told->say(line.toldNotice());
+    failure->say(line.failure());
     for (std::size_t index = 0; index < buttonPlans.size(); ++index) {
         if (buttons[index])
             buttons[index]->setEnabled(line.permits(buttonPlans[index].action));

@@ -6,12 +6,13 @@
 
 #include <array>
 
-class QLabel;
 class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
 
 namespace host {
+
+class Announcement;
 
 class LineSection : public PanelSection
 {
@@ -26,11 +27,11 @@ private:
     void addButtons(QVBoxLayout *column);
 
     Line &line;
-    QLabel *state;
-    QLabel *notice;
-    QLabel *record;
-    QLabel *told;
-    QLabel *failure;
+    Announcement *state;
+    Announcement *notice;
+    Announcement *record;
+    Announcement *told;
+    Announcement *failure;
     QLineEdit *number;
     std::array<QPushButton *, 6> buttons{}; ///< null: what the line cannot do
 };

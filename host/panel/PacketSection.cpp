@@ -85,7 +85,7 @@ PacketSection::PacketSection(Line &drivenLine)
     , received(makeRate("received rate", tr("Bytes received each second"), usualReceived))
     , startButton(makeButton(tr("&Start session"), tr("Begins a session, which counts bytes and time")))
     , stopButton(makeButton(tr("Sto&p session"), tr("Ends the session")))
-    , failure(makeValue("packet failure", tr("Why the session was not changed")))
+    , failure(makeAnnouncement("packet failure", tr("Why the session was not changed")))
     , total(makeValue("packet total", tr("All sessions")))
 {
     auto *grid = new QGridLayout(this);
@@ -94,7 +94,6 @@ PacketSection::PacketSection(Line &drivenLine)
     grid->setColumnStretch(1, 1);
     addControls(grid);
     addFigures(grid, 5);
-    tell(failure, {});
     connect(startButton, &QPushButton::clicked, this, &PacketSection::start);
     connect(apn, &QLineEdit::returnPressed, this, &PacketSection::start);
     connect(stopButton, &QPushButton::clicked, this, &PacketSection::stop);
@@ -146,7 +145,7 @@ void PacketSection::stop()
 
 void PacketSection::told(int status)
 {
-    tell(failure, refusalText(status, packetMeaning));
+    failure->say(refusalText(status, packetMeaning));
     refresh();
 }
 

@@ -14,6 +14,8 @@ class QSpinBox;
 
 namespace host {
 
+class Announcement;
+
 class PacketSection : public PanelSection
 {
     Q_OBJECT
@@ -35,7 +37,7 @@ private:
     QSpinBox *received;
     QPushButton *startButton;
     QPushButton *stopButton;
-    QLabel *failure;
+    Announcement *failure;
     std::array<QLabel *, 3> records{};
     QLabel *total;
 };

@@ -54,12 +54,12 @@ QString triesText(const Pin2 &pin)
 Pin2Section::Pin2Section(Line &drivenLine)
     : PanelSection(tr("PIN2"))
     , line(drivenLine)
-    , state(makeValue("pin2 state", tr("State of PIN2")))
+    , state(makeAnnouncement("pin2 state", tr("State of PIN2")))
     , isOn(new QCheckBox(tr("PIN2 is on")))
     , pin(makeCode("pin2", tr("PIN2"), tr("Four to eight digits")))
     , puk(makeCode("puk2", tr("PUK2"), tr("Eight digits")))
     , newPin(makeCode("new pin2", tr("New PIN2"), tr("Four to eight digits")))
-    , outcome(makeValue("pin2 outcome", tr("What came of it")))
+    , outcome(makeAnnouncement("pin2 outcome", tr("What came of it")))
 {
     auto *grid = new QGridLayout(this);
     grid->setVerticalSpacing(6);
@@ -69,7 +69,6 @@ Pin2Section::Pin2Section(Line &drivenLine)
     addEntering(grid);
     addUnblocking(grid);
     grid->addWidget(outcome, 5, 0, 1, 3);
-    say({});
 }
 
 void Pin2Section::addSwitches(QGridLayout *grid)
@@ -110,7 +109,7 @@ void Pin2Section::addUnblocking(QGridLayout *grid)
 
 void Pin2Section::say(const QString &text)
 {
-    tell(outcome, text);
+    outcome->say(text);
 }
 
 void Pin2Section::setOn(bool on)
@@ -161,7 +160,7 @@ void Pin2Section::refresh()
     if (!isEnabled())
         return;
     const Pin2 pin2 = line.simulatedHandset()->simCard().card().pin2();
-    state->setText(stateText(pin2) + u'\n' + triesText(pin2));
+    state->say(stateText(pin2) + u'\n' + triesText(pin2));
     Quietly(isOn)->setChecked(pin2.isEnabled());
 }
 

@@ -6,11 +6,11 @@
 
 class QCheckBox;
 class QGridLayout;
-class QLabel;
 class QPushButton;
 
 namespace host {
 
+class Announcement;
 class CodeField;
 
 class Pin2Section : public PanelSection
@@ -32,12 +32,12 @@ private:
     void say(const QString &text);
 
     Line &line;
-    QLabel *state;
+    Announcement *state;
     QCheckBox *isOn;
     CodeField *pin;
     CodeField *puk;
     CodeField *newPin;
-    QLabel *outcome;
+    Announcement *outcome;
 };
 
 } // namespace host

@@ -31,7 +31,7 @@ RecentCallsSection::RecentCallsSection(Line &drivenLine)
     , table(new QTreeView)
     , removeButton(makeButton(tr("&Delete"), tr("Deletes the chosen call; the totals stay")))
     , removeAllButton(makeButton(tr("Delete a&ll ..."), tr("Deletes every call that is over; the totals stay")))
-    , failure(makeValue("recent calls failure", tr("Why the calls were not read or deleted")))
+    , failure(makeAnnouncement("recent calls failure", tr("Why the calls were not read or deleted")))
 {
     prepareTable();
     auto *grid = new QGridLayout(this);
@@ -39,7 +39,6 @@ RecentCallsSection::RecentCallsSection(Line &drivenLine)
     grid->addWidget(removeButton, 1, 0);
     grid->addWidget(removeAllButton, 1, 1);
     grid->addWidget(failure, 2, 0, 1, 2);
-    tell(failure, {});
     connect(removeButton, &QPushButton::clicked, this, &RecentCallsSection::removeChosen);
     connect(removeAllButton, &QPushButton::clicked, this, &RecentCallsSection::askToRemoveAll);
     connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -75,7 +74,7 @@ void RecentCallsSection::refresh()
     const bool isKept = line.handset().keptCalls() != nullptr;
     setEnabled(isKept);
     calls->refresh();
-    tell(failure, calls->isRead() ? refused : tr("The call log cannot be read."));
+    failure->say(calls->isRead() ? refused : tr("The call log cannot be read."));
     showButtons();
 }
 

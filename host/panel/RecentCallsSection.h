@@ -4,12 +4,12 @@
 #include "host/Line.h"
 #include "host/panel/PanelSection.h"
 
-class QLabel;
 class QPushButton;
 class QTreeView;
 
 namespace host {
 
+class Announcement;
 class CallsModel;
 
 class RecentCallsSection : public PanelSection
@@ -33,7 +33,7 @@ private:
     QTreeView *table;
     QPushButton *removeButton;
     QPushButton *removeAllButton;
-    QLabel *failure;
+    Announcement *failure;
     QString refused; ///< why the last deletion was
 };
 

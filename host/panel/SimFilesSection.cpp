@@ -95,7 +95,7 @@ int choiceOf(quint8 rule)
 SimFilesSection::SimFilesSection(Line &drivenLine)
     : PanelSection(tr("Files of the SIM card"))
     , line(drivenLine)
-    , failure(makeValue("sim failure", tr("Why the SIM card was not changed")))
+    , failure(makeAnnouncement("sim failure", tr("Why the SIM card was not changed")))
 {
     QStringList choices;
     for (const RuleChoice &rule : rules)
@@ -114,14 +114,13 @@ SimFilesSection::SimFilesSection(Line &drivenLine)
         connect(rows[i].rule, &QComboBox::activated, this, [this, i](int choice) { setRule(i, choice); });
     }
     grid->addWidget(failure, static_cast<int>(rows.size()) * 2, 0, 1, 2);
-    tell(failure, {});
 }
 
 void SimFilesSection::setRule(std::size_t row, int choice)
 {
     const quint8 rule = rules[static_cast<std::size_t>(choice)].rule;
-    tell(failure,
-         refusalText(line.simulatedHandset()->simCard().setUpdateRule(files[row].file, rule), simFileMeaning));
+    failure->say(
+        refusalText(line.simulatedHandset()->simCard().setUpdateRule(files[row].file, rule), simFileMeaning));
     refresh();
 }
 

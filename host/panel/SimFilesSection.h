@@ -11,6 +11,8 @@ class QLabel;
 
 namespace host {
 
+class Announcement;
+
 class SimFilesSection : public PanelSection
 {
     Q_OBJECT
@@ -29,7 +31,7 @@ private:
 
     Line &line;
     std::array<Row, 3> rows{};
-    QLabel *failure;
+    Announcement *failure;
 };
 
 } // namespace host

@@ -71,7 +71,7 @@ QDoubleSpinBox *makeBox(const ColumnPlan &plan, const char *what, const QString 
 TariffSection::TariffSection(Line &drivenLine)
     : PanelSection(tr("Tariff"))
     , line(drivenLine)
-    , failure(makeValue("tariff failure", tr("Why the tariff was not set")))
+    , failure(makeAnnouncement("tariff failure", tr("Why the tariff was not set")))
 {
     auto *grid = new QGridLayout(this);
     grid->setVerticalSpacing(6);
@@ -82,7 +82,6 @@ TariffSection::TariffSection(Line &drivenLine)
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(2, 1);
     grid->addWidget(failure, static_cast<int>(rowTexts.size()) + 1, 0, 1, 3);
-    tell(failure, {});
 }
 
 void TariffSection::addColumn(QGridLayout *grid, Column &column, int number)
@@ -133,7 +132,7 @@ void TariffSection::set(const Column &column, const Tariff &tariff)
     Line::Charging *charging = line.charging();
     const int status =
         charging ? charging->setTariff(column.direction, tariff) : static_cast<int>(handset::NotAvailable);
-    tell(failure, refusalText(status, tariffMeaning));
+    failure->say(refusalText(status, tariffMeaning));
     refresh();
 }
 
@@ -141,11 +140,11 @@ void TariffSection::refresh()
 {
     if (line.charging() == nullptr) {
         setEnabled(false);
-        tell(failure, notCharging(line));
+        failure->say(notCharging(line));
         return;
     }
     if (!isEnabled())
-        tell(failure, {});
+        failure->say({});
     setEnabled(true);
     for (const Column &column : columns)
         show(column);

@@ -9,9 +9,10 @@
 class QCheckBox;
 class QDoubleSpinBox;
 class QGridLayout;
-class QLabel;
 
 namespace host {
+
+class Announcement;
 
 class TariffSection : public PanelSection
 {
@@ -39,7 +40,7 @@ private:
 
     Line &line;
     std::array<Column, 2> columns{};
-    QLabel *failure;
+    Announcement *failure;
 };
 
 } // namespace host

@@ -1,5 +1,6 @@
 #include "host/phone/Display.h"
 
+#include "host/AccessibleRole.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZPopup.h"
 #include "toolkit/ZSkinService.h"
@@ -29,6 +30,7 @@ Display::Display(QWidget *parent)
     : QWidget(parent)
 {
     setFixedSize(ZSkinService::DisplayWidth, ZSkinService::DisplayHeight);
+    giveAccessibleRole<Display, QAccessible::Pane>();
     setAccessibleName(tr("Display of the phone"));
     ZApplication::setDisplay(this);
 }

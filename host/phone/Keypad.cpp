@@ -1,5 +1,6 @@
 #include "host/phone/Keypad.h"
 
+#include "host/AccessibleRole.h"
 #include "host/phone/PhoneKey.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZPopup.h"
@@ -81,6 +82,8 @@ bool dialogHasKeys()
 Keypad::Keypad(QWidget *parent)
     : QWidget(parent)
 {
+    giveAccessibleRole<Keypad, QAccessible::Grouping>();
+    setAccessibleName(tr("Keypad"));
     // A phone's keys are where they are in every language, as are the captions of the softkeys above them.
     setLayoutDirection(Qt::LeftToRight);
     auto *grid = new QGridLayout(this);

@@ -12,6 +12,7 @@
 #include "host/PhoneWindow.h"
 #include "host/faults/FaultyHandset.h"
 #include "host/panel/CodeField.h"
+#include "host/panel/Controls.h"
 #include "host/panel/Panel.h"
 #include "host/phone/PhoneKey.h"
 #include "simulated/SimulatedHandset.h"
@@ -133,6 +134,8 @@ QStringList textsOf(const QWidget *widget)
         texts << widget->property(property).toString();
     if (qobject_cast<const QLabel *>(widget) || qobject_cast<const QAbstractButton *>(widget))
         texts << widget->property("text").toString();
+    if (const auto *value = qobject_cast<const Value *>(widget))
+        texts << value->spoken();
     return texts + itemsOf(widget);
 }
 
