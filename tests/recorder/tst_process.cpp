@@ -95,6 +95,7 @@ private slots:
     void itGoesOnWhenTheDaemonHasBeenRestarted();
     void itGoesOnWhenTheModemHasBeenUnplugged();
     void itGoesOnWhenTheBusHasBeenRestarted();
+    void itGoesOnWhenTheBusHasBeenSilent();
     void itSendsTheUpdateBroadcast();
     void nothingWakesItUpWhileNothingRuns();
     void withoutAModemItWaitsForOne_data();
@@ -258,6 +259,21 @@ void TestRecorder::itGoesOnWhenTheBusHasBeenRestarted()
     next.addCall(other, Incoming, RingingIn, QStringLiteral("1"));
     next.moveCall(other, Active);
     QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("1 0"), limitMs);
+    bench.end(SIGTERM);
+    QCOMPARE(bench.recorder.exitCode(), 0);
+}
+
+void TestRecorder::itGoesOnWhenTheBusHasBeenSilent()
+{
+    Bench bench;
+    bench.startAndSettle();
+    bench.beginCall(call);
+    bench.bus.halt();
+    const qint64 counted = bench.countedMs();
+    QTRY_VERIFY_WITH_TIMEOUT(bench.countedMs() > counted, limitMs); // the running call is written all the same
+    bench.bus.goOn();
+    bench.fake.moveCall(call, Terminated);
+    QTRY_COMPARE_WITH_TIMEOUT(bench.calls(), QStringLiteral("1"), limitMs);
     bench.end(SIGTERM);
     QCOMPARE(bench.recorder.exitCode(), 0);
 }
