@@ -110,10 +110,15 @@ bool displayAnswers()
     return hasError(connection.get()) == 0;
 }
 
-// An X display: the phone's dialogs place themselves, which a Wayland compositor does not let them.
 bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY") && displayAnswers();
+}
+
+// Where that alone is named: with both, Qt is left to choose. Whether the compositor answers, Qt says itself.
+bool hasCompositor()
+{
+    return qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
 QString missingDisplay()
@@ -326,6 +331,8 @@ extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
     namePlatform(ofQt);
     if (options.isTour() || !options.photo.isEmpty())
         fixSurroundings(options.isTour());
+    else if (!hasPlatform() && hasCompositor())
+        qputenv("QT_QPA_PLATFORM", "wayland");
     else if (!hasPlatform() && !hasDisplay())
         return complain(ExitNoDisplay, missingDisplay());
     // The phone and the SIM card write 0.23 everywhere; the panel beside them does as they do.
