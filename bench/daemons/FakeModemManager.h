@@ -63,7 +63,9 @@ public:
     QMap<QString, QString> errors;   ///< "Name: text" by method
     QMap<QString, int> errorsLeft;   ///< how often; without an entry always
     QMap<QString, QVariant> answers; ///< in place of the right one, by method
-    QStringList asked;               ///< methods in their order, with the path's last part or the number
+    /// A method of any object that does nothing, and is answered after all that was asked before it.
+    static inline const QString settleMethod = QStringLiteral("Settle");
+    QStringList asked; ///< methods in their order, with the path's last part or the number
     QString modem = QStringLiteral("/org/freedesktop/ModemManager1/Modem/0");
 
 private:

@@ -59,7 +59,7 @@ public:
     const SessionRecorder &sessions() const { return sessionRecorder; }
     bool isRecording() const { return ledger->record(); }
     /// An end, or a whole call, is still to be written.
-    bool owesRecord() const override;
+    bool owesRecord() const final;
 
 signals:
     /// Calls, connections, owesRecord() or isRecording() have changed, or a figure otherwise than by the passing of time.

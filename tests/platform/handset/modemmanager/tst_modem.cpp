@@ -8,6 +8,7 @@
 
 #include <QtCore/QFile>
 #include <QtDBus/QDBusObjectPath>
+#include <QtDBus/QDBusPendingCallWatcher>
 #include <QtTest/QSignalSpy>
 
 #include <poll.h>
@@ -57,16 +58,30 @@ public:
         QTRY_VERIFY(fake.asked.contains(QStringLiteral("ListCalls")));
         settle();
     }
-    /// Waits until everything that the daemon has sent until now has come, and what was asked then is answered.
+    /// Waits until everything that the daemon has sent until now has come, and what was asked then is answered: by asking
+    /// it on the modem's own connection, whose answers come in their order.
     void settle()
     {
-        QSignalSpy changed(modem, &live::Modem::stateChanged);
         for (int turn = 0; turn < 3; ++turn) {
-            const QString mark = QStringLiteral("Network %1").arg(++marks);
-            fake.set(fake.modem, QStringLiteral("Modem.Modem3gpp"), {{QStringLiteral("OperatorName"), mark}});
-            while (modemState().network != mark)
-                QVERIFY(changed.wait(60'000)); // does not look every 10 ms only
+            const QDBusMessage question = QDBusMessage::createMethodCall(
+                QStringLiteral("org.freedesktop.ModemManager1"), fake.modem, QString(), fake.settleMethod);
+            const QDBusPendingCallWatcher answer(ofModem().asyncCall(question));
+            QSignalSpy answered(&answer, &QDBusPendingCallWatcher::finished);
+            QVERIFY(answered.wait(60'000));
         }
+    }
+    /// The connection that the modem has made last; they are numbered in the process.
+    static QDBusConnection ofModem()
+    {
+        static int newest = 1;
+        const auto numbered = [](int number) {
+            return QDBusConnection(QStringLiteral("kav-org.freedesktop.ModemManager1-%1").arg(number));
+        };
+        constexpr int mostBetween = 100;
+        for (int number = newest + mostBetween; number > newest; --number)
+            if (numbered(number).isConnected())
+                newest = number;
+        return numbered(newest);
     }
     live::ModemState modemState() const { return phone->modem().state(); }
     qsizetype running() const { return phone->calls().reported().size(); }
@@ -75,9 +90,6 @@ public:
     FakeModemManager fake;
     modemmanager::ModemManagerModem *modem = nullptr;
     QStringList refused;
-
-private:
-    int marks = 0;
 };
 
 } // namespace
