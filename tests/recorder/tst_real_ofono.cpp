@@ -143,8 +143,13 @@ void TestRecorderOverOfono::callsBothWaysAreRecordedToldOnceAndShown()
     listenToChanges();
     startRecorder();
     recordReceivedCall();
-    if (!QTest::currentTestFailed())
-        recordDialedCall();
+    if (QTest::currentTestFailed())
+        return;
+    // It may have come while the recorder was beginning, which is told then, all at once. Its costs have been written behind.
+    COMES_ABOUT(tell("between()") && hasTold("between"));
+    QVERIFY(told.contains(changedMessage) && told.count(changedMessage) <= 3);
+    told.clear();
+    recordDialedCall();
     if (QTest::currentTestFailed())
         return;
     QCOMPARE(bench.all(QStringLiteral("direction || ':' || number || ':' || late")),
@@ -154,11 +159,11 @@ void TestRecorderOverOfono::callsBothWaysAreRecordedToldOnceAndShown()
     QCOMPARE(bench.recorder.exitCode(), 0);
     QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
 
-    // What is sent now comes behind all that the recorder has sent: the beginning of each call, its connection, its end; and
+    // What is sent now comes behind all that the recorder has sent: the beginning of the call, its connection, its end; and
     // of the session.
     QVERIFY(tell("over()"));
     COMES_ABOUT(hasTold("over"));
-    QCOMPARE(told.count(changedMessage), 2 * 3 + 2);
+    QCOMPARE(told.count(changedMessage), 3 + 2);
     listener.terminate();
     QVERIFY(listener.waitForFinished(limitMs));
 
