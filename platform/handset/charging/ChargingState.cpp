@@ -44,7 +44,7 @@ constexpr std::array tariffElements{
     &Tariff::firstInterval,
 };
 
-constexpr auto tariffRecordSize = static_cast<qsizetype>(tariffElements.size() * sizeof(quint16));
+constexpr auto tariffRecordSize = static_cast<qsizetype>(tariffElements.size()) * qsizetype{sizeof(quint16)};
 
 QJsonArray toJson(const Tariff &tariff)
 {
