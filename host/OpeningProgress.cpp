@@ -9,7 +9,7 @@ namespace host {
 
 OpeningProgress::OpeningProgress(QWidget *parent)
     : QGroupBox(tr("Opening the telephone"), parent)
-    , text(makeValue("opening step", tr("What is being done")))
+    , text(makeAnnouncement("opening step", tr("What is being done")))
     , bar(new QProgressBar)
 {
     bar->setAccessibleName(tr("How far it is"));
@@ -20,7 +20,7 @@ OpeningProgress::OpeningProgress(QWidget *parent)
 
 void OpeningProgress::showStep(const QString &step, int percent)
 {
-    text->setText(step);
+    text->say(step);
     bar->setValue(percent);
 }
 

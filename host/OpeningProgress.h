@@ -3,10 +3,11 @@
 
 #include <QtWidgets/QGroupBox>
 
-class QLabel;
 class QProgressBar;
 
 namespace host {
+
+class Announcement;
 
 class OpeningProgress : public QGroupBox
 {
@@ -19,7 +20,7 @@ public:
     void showStep(const QString &step, int percent);
 
 private:
-    QLabel *text;
+    Announcement *text;
     QProgressBar *bar;
 };
 

@@ -1,6 +1,7 @@
 #include "host/WaitNotice.h"
 
-#include <QtGui/QAccessible>
+#include "host/panel/LiveRegion.h"
+
 #include <QtWidgets/QApplication>
 
 namespace host {
@@ -53,8 +54,7 @@ void WaitNotice::appear()
     const QRect place = parentWidget()->rect();
     move(parentWidget()->mapToGlobal(place.center()) - rect().center());
     show();
-    QAccessibleEvent said(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&said);
+    LiveRegion::tell(parentWidget()->window(), text());
 }
 
 } // namespace host

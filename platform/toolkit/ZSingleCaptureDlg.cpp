@@ -88,8 +88,17 @@ private:
             message->setGeometry(0, 0, width(), top);
         edit->setGeometry(padding, top + 1, std::max(0, width() - 2 * padding), fieldHeight);
         if (ZKeypadInput *input = ZKeypadInput::of(edit))
-            connect(input, &ZKeypadInput::indicatorChanged, this, qOverload<>(&QWidget::update),
+            connect(input, &ZKeypadInput::indicatorChanged, this, &CaptureBody::showIndicator,
                     Qt::UniqueConnection);
+        showIndicator();
+    }
+
+    void showIndicator()
+    {
+        const ZKeypadInput *input = ZKeypadInput::of(edit);
+        const QString indicator = input ? input->indicator() : QString();
+        if (edit->accessibleDescription() != indicator)
+            edit->setAccessibleDescription(indicator);
         update();
     }
 

@@ -2,8 +2,11 @@
 #include "handset/AdviceOfCharge.h"
 #include "handset/Clock.h"
 #include "handset/Handset.h"
+#include "host/OpeningProgress.h"
 #include "host/PhoneWindow.h"
+#include "host/WaitNotice.h"
 #include "host/panel/Panel.h"
+#include "host/phone/Display.h"
 #include "simulated/SimulatedHandset.h"
 #include "support/ScreenReader.h"
 #include "support/TestGroup.h"
@@ -58,6 +61,8 @@ private slots:
     void aRefusalIsTold();
     void aCountdownIsToldAtItsMarks();
     void whatComesOfItIsTold();
+    void aWaitIsTold();
+    void stepsOfTheOpeningAreTold();
     void nothingIsToldOfAPageThatIsNotSeen();
     void nobodyIsToldWhereNobodyListens();
 
@@ -424,6 +429,27 @@ void TestAccessibleWindow::whatComesOfItIsTold()
     const QStringList deposit = heard();
     QVERIFY2(deposit.size() == 1 && deposit.first().startsWith("Last deposit: 20.00 units, good until "),
              qPrintable(deposit.join(u'|')));
+}
+
+void TestAccessibleWindow::aWaitIsTold()
+{
+    const Listening listening;
+    QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+    WaitNotice notice(window->findChild<host::Display *>());
+    notice.setWaiting(true);
+    QTRY_VERIFY_WITH_TIMEOUT(namesTold(QAccessible::Alert).contains("Please wait ..."), patience);
+}
+
+void TestAccessibleWindow::stepsOfTheOpeningAreTold()
+{
+    const Listening listening;
+    OpeningProgress progress(window.get());
+    progress.show();
+    progress.showStep("Reading the calls", 10);
+    progress.showStep("Reading the calls", 20);
+    QCOMPARE(heard(), QStringList("What is being done: Reading the calls"));
+    progress.showStep("Adding up", 30);
+    QCOMPARE(heard(), QStringList("What is being done: Adding up"));
 }
 
 void TestAccessibleWindow::nothingIsToldOfAPageThatIsNotSeen()

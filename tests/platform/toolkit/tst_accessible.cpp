@@ -3,6 +3,7 @@
 #include "support/TestGroup.h"
 #include "toolkit/DialogTestKit.h"
 #include "toolkit/ToolkitTestKit.h"
+#include "toolkit/ZApplication.h"
 #include "toolkit/ZMultiLineEdit.h"
 #include "toolkit/ZNoticeDlg.h"
 #include "toolkit/ZSingleCaptureDlg.h"
@@ -51,6 +52,7 @@ private slots:
     void aDialogIsModalIfItsScreenIsOutOfReach();
     void everyKindOfDialogIsSound_data();
     void everyKindOfDialogIsSound();
+    void anEntryIsDescribedByWhatIsTyped();
     void whatADialogCoversIsNotShown();
     void whatADialogsWindowCoversIsNotShown();
     void whatASubScreenCoversIsNotShown();
@@ -342,6 +344,22 @@ void TestAccessible::everyKindOfDialogIsSound()
     QAccessibleInterface *focus = told(&screen)->focusChild();
     QVERIFY(focus && !name(focus).isEmpty());
     QVERIFY(focus == told(dialog) || told(dialog)->focusChild() == focus);
+}
+
+void TestAccessible::anEntryIsDescribedByWhatIsTyped()
+{
+    ListScreen screen;
+    QVERIFY(screen.open(1));
+    ZSingleCaptureDlg dialog("Header", "Message", ZSingleCaptureDlg::TextCaptureDlg, &screen, nullptr, isModal, 0,
+                             0);
+    dialog.show();
+    QAccessibleInterface *field = told(dialog.getMultiLineEdit());
+    QCOMPARE(field->text(QAccessible::Description), QString());
+    constexpr QUuid letters(0x637a8c00, 0x1098, 0x42ca, 0x96, 0x9a, 0x2b, 0xf1, 0x63, 0xcd, 0x3c, 0x12);
+    ZApplication::setInputMethods(dialog.getMultiLineEdit(), letters, {letters}, 0, QString());
+    QTRY_COMPARE_WITH_TIMEOUT(field->text(QAccessible::Description), QStringLiteral("ABC"), patience);
+    DialogTestKit::pressKey(Qt::Key_Asterisk);
+    QCOMPARE(field->text(QAccessible::Description), QStringLiteral("abc"));
 }
 
 void TestAccessible::whatADialogCoversIsNotShown()
