@@ -127,7 +127,10 @@ Finding beginWithNothing(const Database &source, Database &target)
 
 Finding salvage(Database &source, Database &target, Salvaged &salvaged, const ProgressListener &progress)
 {
-    if (!leaveOnlyTables(source) && !leaveOnlyTables(source))
+    bool isLeft = leaveOnlyTables(source);
+    if (!isLeft)
+        isLeft = leaveOnlyTables(source); // a read that failed once may not fail again
+    if (!isLeft)
         return beginWithNothing(source, target);
     DamagedLog damaged(source);
     RowSalvage calls(damaged, target, callTable, progress);
