@@ -13,7 +13,7 @@ Opened open(const Settings &settings)
     if (const QString error = modem->connectToBus(settings.patience.bus); !error.isEmpty())
         return {nullptr, error, {}};
     std::shared_ptr<OfonoHandset> handset;
-    const Opened opened = live::open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {
+    Opened opened = live::open(settings, [&](std::unique_ptr<calllog::Ledger> ledger) {
         handset = std::make_shared<OfonoHandset>(std::move(ledger), settings.clock, std::move(modem));
         return handset;
     });
