@@ -504,13 +504,12 @@ int Ledger::addHistory(const QList<PastCall> &calls, Charge charge, qint64 *last
         return InvalidArgument;
     if (const int status = writeOwedCall())
         return status;
-    return transact([&](Entry &entry) {
-        qint64 row = 0;
-        const int status = database->status(putHistory(calls, charge, entry, row));
-        if (lastRow && status == Success)
-            *lastRow = row;
-        return status;
-    });
+    qint64 row = 0;
+    const int status =
+        transact([&](Entry &entry) { return database->status(putHistory(calls, charge, entry, row)); });
+    if (lastRow && status == Success)
+        *lastRow = row;
+    return status;
 }
 
 // --- sessions

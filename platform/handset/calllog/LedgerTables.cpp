@@ -355,14 +355,16 @@ bool LedgerTables::recent(int most, QList<SessionRow> &sessions)
 template <typename... Values>
 bool LedgerTables::list(QList<SessionRow> &sessions, const char *select, const Values &...values)
 {
-    sessions.clear();
     if (!database.run(select, values...))
         return false;
+    QList<SessionRow> read;
     Statement &row = database.statement(select);
     for (bool more = row.hasRow(); more; more = row.next())
-        sessions.append(sessionAt(row, 0));
+        read.append(sessionAt(row, 0));
     const bool done = row.error() == 0 || database.fail();
     row.finish();
+    if (done)
+        sessions = read;
     return done;
 }
 
@@ -458,16 +460,18 @@ bool LedgerTables::sessionTotalsAt(const Moments &moments, SessionAmounts &amoun
         return false;
     Statement &row = database.statement(sessionTotalsSql);
     const bool isWhole = !row.isNull(0) && !row.isNull(1) && !row.isNull(2);
-    amounts = {row.number(0), row.number(1), row.number(2)};
+    SessionAmounts read{row.number(0), row.number(1), row.number(2)};
     for (bool more = !row.isNull(3); more; more = row.next()) {
         const SessionRow session = sessionAt(row, 3);
         const SessionAmounts all = session.amountsAt(moments.of(session.id));
         const SessionAmounts &written = session.amounts;
-        amounts = sum(amounts, {all.ms - written.ms, all.sent - written.sent, all.received - written.received});
+        read = sum(read, {all.ms - written.ms, all.sent - written.sent, all.received - written.received});
     }
-    const bool isRead = row.error() == 0 || database.fail();
+    const bool isRight = (row.error() == 0 || database.fail()) && (isWhole || database.missesRow());
     row.finish();
-    return isRead && (isWhole || database.missesRow());
+    if (isRight)
+        amounts = read;
+    return isRight;
 }
 
 bool LedgerTables::put(Total total, qint64 value)

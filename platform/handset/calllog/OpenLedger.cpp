@@ -193,18 +193,19 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     if (!attempt.database)
         return cannotBeUsed(*directory, explain(attempt.finding));
     waiting.arrive();
-    const QString untold = untoldNotice(*attempt.database);
+    const std::optional<QString> untold = untoldNotice(*attempt.database);
     const StateDirectory &place = *directory;
     auto ledger = std::make_unique<Ledger>(std::move(attempt.database), std::move(directory), clock);
-    QStringList notices{place.notice(), untold};
+    QStringList notices{place.notice(), untold.value_or(QString())};
     QString problem = load(*ledger, notices);
     if (problem.isEmpty() && !ledger->record() && ledger->whyNotRecording() == StorageFailed)
         problem = explain(failure(ledger->connection()));
     waiting.goOn();
     if (!problem.isEmpty())
         return cannotBeUsed(place, problem);
-    // Now that nothing else can fail: of an opening that does only the error is told.
-    if (!untoldNotice(ledger->connection()).isEmpty())
+    // Now that nothing else can fail: of an opening that does only the error is told. What could not be read is left to
+    // the next one.
+    if (untold && !untoldNotice(ledger->connection()).value_or(QString()).isEmpty())
         ledger->noticeIsTold();
     ledger->connection().setPatience(patience.operation);
     OpenedLedger done = opened(std::move(ledger), notices);

@@ -282,11 +282,11 @@ Finding finishReplacement(StateDirectory &directory)
     return error == 0 ? Finding{} : blocked(error, ready);
 }
 
-QString untoldNotice(Database &database)
+std::optional<QString> untoldNotice(Database &database)
 {
     QByteArray notice;
-    LedgerTables(database).kept(QString::fromLatin1(keptNotice), notice);
-    return QString::fromUtf8(notice);
+    const bool isRead = LedgerTables(database).kept(QString::fromLatin1(keptNotice), notice);
+    return isRead ? std::optional(QString::fromUtf8(notice)) : std::nullopt;
 }
 
 } // namespace handset::calllog

@@ -5,6 +5,8 @@
 #include "calllog/StateDirectory.h"
 #include "calllog/repair/Progress.h"
 
+#include <optional>
+
 namespace handset::calllog {
 
 /// For every verdict but Usable and Blocked. What is there is kept under a new name, and what can be read of a damaged
@@ -18,8 +20,8 @@ bool hasRemains(const StateDirectory &directory);
 /// To be called before anything else of a replacement. Blocked when that must be left alone for now.
 Finding finishReplacement(StateDirectory &directory);
 
-/// What has not been told yet of the log that this one replaced; empty for nothing. It is told again until whoever
-/// tells it empties it.
-QString untoldNotice(Database &database);
+/// What has not been told yet of the log that this one replaced; empty for nothing, none where it cannot be read. It is
+/// told again until whoever tells it empties it.
+std::optional<QString> untoldNotice(Database &database);
 
 } // namespace handset::calllog
