@@ -10,6 +10,8 @@
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTimer>
 
+#include <limits>
+
 using namespace handset;
 using namespace handset::test;
 
@@ -201,6 +203,22 @@ private slots:
     void aSilentDaemonFailsTheWriteAndTheWindowGoesOn();
     void aMeterThatVanishesEndsTheWait();
     void onlyOneWriteWaits();
+    void everyFailureOfAWriteHasItsStatus_data();
+    void everyFailureOfAWriteHasItsStatus();
+    void whereNobodyCountsTheTriesAFailureIsAWrongPin2();
+    void theStatusOfPin1IsWhatTheSimRequires_data();
+    void theStatusOfPin1IsWhatTheSimRequires();
+    void aSimThatRequiresPuk2HasABlockedPin2();
+    void aPriceThatNoCardHoldsIsNotAvailable_data();
+    void aPriceThatNoCardHoldsIsNotAvailable();
+    void inACurrencyWithoutAPriceNothingIsReckoned();
+    void aPriceThatIsRefusedIsNotFollowedByItsCurrency();
+    void aPriceThatNobodyKnewIsNotWrittenBack();
+    void aMeterThatIsNotToldIsNotAvailable();
+    void aWriteThatCannotBeReadBackIsOne();
+    void anotherInterfaceThatComesDoesNotEndTheWait();
+    void aMeterThatVanishesBetweenTwoWritesEndsBoth();
+    void aCurrentMeterOfAWrongTypeChangesNothing();
 };
 
 void TestCharge::theFiguresAreTheCards()
@@ -822,6 +840,212 @@ void TestCharge::onlyOneWriteWaits()
     QCOMPARE(desk.advice().setMeterMaximum("5"), int(StorageFailed));
     QCOMPARE(within, int(StorageFailed));
     QCOMPARE(desk.fake.asked.filter("SetProperty").size(), 2);
+}
+
+void TestCharge::everyFailureOfAWriteHasItsStatus_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::addColumn<int>("status");
+    const auto row = [](const char *error, int status) {
+        QTest::newRow(error) << QString::fromLatin1(error) << status;
+    };
+    row("InvalidFormat", InvalidArgument);
+    row("InvalidArguments", InvalidArgument);
+    row("NotImplemented", NotAvailable);
+    row("org.freedesktop.DBus.Error.UnknownObject", NotAvailable);
+    row("org.freedesktop.DBus.Error.UnknownMethod", NotAvailable);
+    row("org.freedesktop.DBus.Error.UnknownInterface", NotAvailable);
+    row("org.freedesktop.DBus.Error.NoReply", StorageFailed);
+    row("org.freedesktop.DBus.Error.Timeout", StorageFailed);
+    row("org.freedesktop.DBus.Error.Disconnected", StorageFailed);
+    row("org.freedesktop.DBus.Error.ServiceUnknown", StorageFailed);
+    row("Failed", StorageFailed); // the tries say that it was not PIN2
+}
+
+void TestCharge::everyFailureOfAWriteHasItsStatus()
+{
+    QFETCH(const QString, error);
+    QFETCH(const int, status);
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.enterPin());
+    desk.fake.errors["CallMeter.SetProperty"] << error;
+    QCOMPARE(desk.advice().setMeterMaximum("5"), status);
+    QCOMPARE(desk.maximum(), "100.00 on");
+    QCOMPARE(desk.pinStatus(), "1/3"); // PIN2 has been used, whatever became of the write
+}
+
+void TestCharge::whereNobodyCountsTheTriesAFailureIsAWrongPin2()
+{
+    Desk desk;
+    desk.fake.answers["SimManager"] = {{"PinRequired", "none"}};
+    QTRY_VERIFY(desk.phone->callMeter().maximum() && desk.phone->callMeter().pinRequired() == "none");
+    bool accepted = true;
+    QCOMPARE(desk.sim().verifyPin(SimSecurity::Pin2, "4321", accepted), int(Success));
+    QVERIFY(!accepted);
+    QVERIFY(desk.enterPin());
+    int tries = -1;
+    QCOMPARE(desk.sim().triesLeft(SimSecurity::Pin2, tries), int(NotAvailable));
+    desk.fake.errors["CallMeter.SetProperty"] << "Failed";
+    QCOMPARE(desk.advice().disableMeterMaximum(), int(NotAllowed));
+}
+
+void TestCharge::theStatusOfPin1IsWhatTheSimRequires_data()
+{
+    QTest::addColumn<QString>("required");
+    QTest::addColumn<quint32>("expected");
+    QTest::newRow("pin") << "pin" << quint32(SimSecurity::EntryNeeded);
+    QTest::newRow("puk") << "puk" << quint32(SimSecurity::Blocked);
+    QTest::newRow("none") << "none" << quint32(SimSecurity::NoEntryNeeded);
+}
+
+void TestCharge::theStatusOfPin1IsWhatTheSimRequires()
+{
+    QFETCH(const QString, required);
+    QFETCH(const quint32, expected);
+    Desk desk;
+    desk.fake.answers["SimManager"]["PinRequired"] = required;
+    QVERIFY(desk.isReady());
+    quint32 status = 77;
+    QCOMPARE(desk.sim().pinStatus(SimSecurity::Pin1, status), int(Success));
+    QCOMPARE(status, expected);
+    QCOMPARE(desk.sim().pinStatus(9, status), int(InvalidArgument));
+}
+
+void TestCharge::aSimThatRequiresPuk2HasABlockedPin2()
+{
+    Desk desk;
+    desk.fake.answers["SimManager"]["PinRequired"] = "puk2";
+    QVERIFY(desk.isReady());
+    QCOMPARE(desk.pinStatus(), "2/3");
+}
+
+void TestCharge::aPriceThatNoCardHoldsIsNotAvailable_data()
+{
+    QTest::addColumn<double>("price");
+    QTest::newRow("below 0") << -0.5;
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN();
+    QTest::newRow("without an end") << std::numeric_limits<double>::infinity();
+    QTest::newRow("larger than the file has digits for") << 1e30;
+}
+
+void TestCharge::aPriceThatNoCardHoldsIsNotAvailable()
+{
+    QFETCH(const double, price);
+    Desk desk;
+    desk.fake.answers["CallMeter"]["PricePerUnit"] = price;
+    desk.fake.answers["CallMeter"]["Vendor"] = "of no meaning";
+    QVERIFY(desk.isReady());
+    QCOMPARE(desk.price(), "-2");
+    QCOMPARE(desk.maximum(), "100.00 on");
+}
+
+void TestCharge::inACurrencyWithoutAPriceNothingIsReckoned()
+{
+    Desk desk;
+    desk.fake.answers["CallMeter"].remove("PricePerUnit");
+    QVERIFY(desk.isReady());
+    QCOMPARE(desk.advice().setChargeType(AdviceOfCharge::InCurrency), int(Success));
+    QCOMPARE(desk.maximum(), "-2");
+    QCOMPARE(desk.costs(), "-2 -2 -2 -2");
+    QVERIFY(desk.enterPin());
+    desk.fake.asked.clear();
+    QCOMPARE(desk.advice().setMeterMaximum("5"), int(NotAvailable));
+    QVERIFY(desk.fake.asked.filter("SetProperty").isEmpty());
+}
+
+void TestCharge::aPriceThatIsRefusedIsNotFollowedByItsCurrency()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.enterPin());
+    desk.fake.asked.clear();
+    desk.fake.errors["CallMeter.SetProperty"] << "Failed";
+    QCOMPARE(desk.advice().setPriceAndCurrency("2", "CHF"), int(StorageFailed));
+    QCOMPARE(desk.fake.asked.filter("SetProperty"), QStringList{"CallMeter.SetProperty PricePerUnit 2 1234"});
+    QCOMPARE(desk.price(), "0.25 EUR");
+}
+
+void TestCharge::aPriceThatNobodyKnewIsNotWrittenBack()
+{
+    Desk desk;
+    desk.fake.answers["CallMeter"].remove("PricePerUnit");
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.enterPin());
+    desk.fake.asked.clear();
+    desk.fake.errors["CallMeter.SetProperty"] << QString() << "Failed";
+    QCOMPARE(desk.advice().setPriceAndCurrency("2", "CHF"), int(StorageFailed));
+    QCOMPARE(desk.fake.asked.filter("SetProperty").size(), 2);
+    QCOMPARE(desk.price(), "2 EUR"); // what stands there is what is shown
+}
+
+void TestCharge::aMeterThatIsNotToldIsNotAvailable()
+{
+    Desk desk;
+    desk.fake.errors["CallMeter.GetProperties"] << "Failed";
+    desk.fake.errors["SimManager.GetProperties"] << "Failed";
+    QTRY_VERIFY(desk.phone->callMeter().isThere() && desk.phone->callMeter().isAnswered());
+    QCOMPARE(desk.maximum(), "-2");
+    QCOMPARE(desk.price(), "-2");
+    QCOMPARE(desk.pinStatus(), "?");
+}
+
+void TestCharge::aWriteThatCannotBeReadBackIsOne()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.enterPin());
+    desk.fake.errors["CallMeter.GetProperties"] << "Failed";
+    QCOMPARE(desk.advice().setMeterMaximum("5"), int(Success));
+    QCOMPARE(desk.fake.answers["CallMeter"]["AccumulatedCallMeterMaximum"].toUInt(), 5U);
+    QVERIFY(desk.enterPin());
+    desk.fake.answers["CallMeter"].remove("AccumulatedCallMeter");
+    QCOMPARE(desk.advice().setMeterMaximum("6"), int(Success));
+    QCOMPARE(desk.maximum(), "6.00 on");
+    QCOMPARE(desk.costs(), "0.00 0.00 0.00 40.00"); // of which nothing new was told
+}
+
+void TestCharge::anotherInterfaceThatComesDoesNotEndTheWait()
+{
+    Desk desk(all, longestWaitMs);
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.enterPin());
+    desk.fake.errors["CallMeter.SetProperty"] << "InProgress";
+    QTimer::singleShot(0, &desk.fake, [&] { desk.fake.setInterfaces(all + QStringList{"MessageManager"}); });
+    QCOMPARE(desk.advice().setMeterMaximum("5"), int(Success));
+    QCOMPARE(desk.maximum(), "5.00 on");
+}
+
+void TestCharge::aMeterThatVanishesBetweenTwoWritesEndsBoth()
+{
+    Desk desk(all, 600'000);
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.enterPin());
+    desk.fake.asked.clear();
+    int waits = 0;
+    QObject::connect(&desk.phone->callMeter(), &ofono::CallMeter::waiting, &desk.fake, [&](bool isWaiting) {
+        if (!isWaiting || ++waits != 2)
+            return;
+        desk.fake.silent.insert("CallMeter.SetProperty");
+        QTimer::singleShot(0, &desk.fake, [&] { desk.fake.setInterfaces({"VoiceCallManager", "SimManager"}); });
+    });
+    QCOMPARE(desk.advice().setPriceAndCurrency("2", "CHF"), int(NotAvailable));
+    QCOMPARE(desk.price(), "-2");
+    QCOMPARE(waits, 2); // for the old price there is no meter to wait for
+}
+
+void TestCharge::aCurrentMeterOfAWrongTypeChangesNothing()
+{
+    Desk desk;
+    QVERIFY(desk.isReady());
+    QVERIFY(desk.connectCall(one, "dialing"));
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", 4U);
+    QTRY_COMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("oFono says something of CallMeter.CallMeter"));
+    desk.fake.set(FakeOfono::modem, "CallMeter", "CallMeter", QStringLiteral("9"));
+    desk.fake.set(FakeOfono::modem, "SimManager", "PinRequired", "puk");
+    QTRY_COMPARE(desk.phone->callMeter().pinRequired(), "puk");
+    QCOMPARE(desk.costs(), "4.00 4.00 0.00 44.00");
 }
 
 KAV_TEST_GROUP(TestCharge, QCoreApplication);
