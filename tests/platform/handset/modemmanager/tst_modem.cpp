@@ -11,6 +11,8 @@
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtTest/QSignalSpy>
 
+#include <limits>
+
 #include <poll.h>
 #include <unistd.h>
 
@@ -139,6 +141,20 @@ private slots:
     void theStateOfTheModemIsInWords();
     void withoutABusThereIsAnError();
     void aBusThatComesBackSilentHoldsNothingUp();
+    void aDaemonThatDoesNotTellItsModemsIsSaidToBeSo_data();
+    void aDaemonThatDoesNotTellItsModemsIsSaidToBeSo();
+    void whatComesBeforeTheListOfModemsIsInTheList();
+    void whatComesAndGoesBesideTheModemChangesNothing();
+    void withoutCallsThereIsNothingToAnswerOrEnd();
+    void callsThatAreNotListedAreFollowedWhenTheyAreTold();
+    void aCallThatGoesWhileItIsLookedAtIsNone();
+    void aNumberThatComesLaterIsTheCallsNumber();
+    void aCallThatIsNotToldIsFollowedByItsStates();
+    void bytesThatAreToldByHalfAreNotCounted();
+    void aStartThatNoClockHasIsNone();
+    void aBearerThatIsNotToldOrNotConnectedIsNoSession();
+    void whatCannotBeDoneForTooLongIsTold();
+    void aCallThatWasNotMadeIsNotBegun();
 };
 
 void TestModem::callsAreRecordedInBothDirections()
@@ -757,6 +773,8 @@ void TestModem::theStateOfTheModemIsInWords_data()
     QTest::addColumn<QString>("words");
     QTest::newRow("failed") << -1 << 1u << QStringLiteral("failed");
     QTest::newRow("locked by the PIN") << 2 << 2u << QStringLiteral("locked: PIN");
+    QTest::newRow("above all that are known") << 99 << 1u << QStringLiteral("unknown");
+    QTest::newRow("below all that are known") << -7 << 1u << QStringLiteral("unknown");
     QTest::newRow("locked by the PUK") << 2 << 4u << QStringLiteral("locked: PUK");
     QTest::newRow("locked by something else") << 2 << 99u << QStringLiteral("locked");
     QTest::newRow("searching") << 7 << 1u << QStringLiteral("searching");
@@ -816,6 +834,240 @@ void TestModem::aBusThatComesBackSilentHoldsNothingUp()
     started.addModem(started.modem);
     started.appear();
     QTRY_VERIFY_WITH_TIMEOUT(modem.state().isThere, 60'000);
+}
+
+void TestModem::aDaemonThatDoesNotTellItsModemsIsSaidToBeSo_data()
+{
+    QTest::addColumn<QString>("error");
+    QTest::newRow("an error") << QStringLiteral("org.freedesktop.DBus.Error.Failed: out of order");
+    QTest::newRow("an answer to something else") << QString();
+}
+
+void TestModem::aDaemonThatDoesNotTellItsModemsIsSaidToBeSo()
+{
+    QFETCH(QString, error);
+    Desk desk;
+    const QString method = QStringLiteral("GetManagedObjects");
+    if (error.isEmpty())
+        desk.fake.answers[method] = 7;
+    else
+        desk.fake.errors[method] = error;
+    QTest::ignoreMessage(QtWarningMsg, error.isEmpty()
+                                           ? "ModemManager's GetManagedObjects cannot be used: i"
+                                           : "ModemManager's GetManagedObjects cannot be used: out of order");
+    desk.open();
+    QTRY_COMPARE(desk.modemState().status, QStringLiteral("ModemManager does not tell its modems"));
+    QVERIFY(!desk.modemState().isThere);
+    // What it says of them nonetheless is of a list that nobody has.
+    desk.fake.addModem(desk.fake.modem);
+    desk.fake.removeInterfaces(desk.fake.modem, {QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice")});
+    desk.settle();
+    QVERIFY(!desk.modemState().isThere);
+}
+
+void TestModem::whatComesBeforeTheListOfModemsIsInTheList()
+{
+    Desk desk;
+    desk.fake.silent.insert(QStringLiteral("GetManagedObjects"));
+    desk.open({100, 60'000, 50});
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("GetManagedObjects")));
+    const QString other = QStringLiteral("/org/freedesktop/ModemManager1/Modem/1");
+    desk.fake.addModem(other);
+    desk.fake.removeModem(desk.fake.modem);
+    desk.settle();
+    QCOMPARE(desk.modemState().status, QStringLiteral("asking ModemManager"));
+    desk.fake.silent.clear();
+    desk.fake.modem = other;
+    QTRY_VERIFY(desk.modemState().isThere);
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"));
+    QTRY_COMPARE(desk.running(), 1);
+}
+
+void TestModem::whatComesAndGoesBesideTheModemChangesNothing()
+{
+    Desk desk;
+    const QString other = QStringLiteral("/org/freedesktop/ModemManager1/Modem/1");
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"));
+    QTRY_COMPARE(desk.running(), 1);
+    desk.fake.addModem(other);
+    desk.fake.set(other, QStringLiteral("Modem"), {{QStringLiteral("Model"), QStringLiteral("Two")}});
+    desk.fake.set(other, QStringLiteral("Modem.Signal"), {{QStringLiteral("Rate"), 5u}}); // which it has not
+    desk.fake.set(QStringLiteral("/org/freedesktop/ModemManager1/Modem/2"), QStringLiteral("Modem"),
+                  {{QStringLiteral("Model"), QStringLiteral("Three")}}); // of which nobody was told
+    desk.fake.addInterface(desk.fake.modem, QStringLiteral("Modem.Location"));
+    desk.settle();
+    QCOMPARE(desk.modemState().name, QStringLiteral("Fake One"));
+    desk.fake.removeModem(other);
+    desk.fake.removeModem(other); // again
+    desk.settle();
+    QCOMPARE(desk.modemState().name, QStringLiteral("Fake One"));
+    QCOMPARE(desk.running(), 1);
+    desk.pass(3 * second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.calls(), QStringLiteral("1:1:3000:1"));
+}
+
+void TestModem::withoutCallsThereIsNothingToAnswerOrEnd()
+{
+    Desk desk;
+    desk.fake.removeInterfaces(desk.fake.modem, {QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice")});
+    desk.open();
+    QTRY_VERIFY(desk.modemState().isThere);
+    QCOMPARE(desk.modem->dial(QStringLiteral("5550123")), int(NotAvailable));
+    QCOMPARE(desk.modem->answer(one), int(NotAvailable));
+    QCOMPARE(desk.modem->hangUp(one), int(NotAvailable));
+    QVERIFY(!desk.fake.asked.contains(QStringLiteral("CreateCall")));
+}
+
+void TestModem::callsThatAreNotListedAreFollowedWhenTheyAreTold()
+{
+    Desk desk;
+    desk.fake.errors[QStringLiteral("ListCalls")] = refusal;
+    QTest::ignoreMessage(QtWarningMsg, "ModemManager's ListCalls cannot be used: no carrier");
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"));
+    QTRY_COMPARE(desk.running(), 1);
+}
+
+void TestModem::aCallThatGoesWhileItIsLookedAtIsNone()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.addCall(one, Incoming, RingingIn, QStringLiteral("1"));
+    desk.fake.deleteCall(one); // before it is asked for what it is
+    desk.settle();
+    QCOMPARE(desk.running(), 0);
+    // Nor one that does not say, of whose states nothing is heard.
+    desk.fake.errors[QStringLiteral("GetAll")] = refusal;
+    desk.fake.addCall(two, Incoming, RingingIn, QStringLiteral("2"));
+    desk.settle();
+    QCOMPARE(desk.running(), 0);
+    desk.fake.deleteCall(two);
+    desk.settle();
+    QCOMPARE(desk.calls(), QString());
+}
+
+void TestModem::aNumberThatComesLaterIsTheCallsNumber()
+{
+    Desk desk;
+    desk.openAndSettle();
+    const auto tell = [&](const char *name, const QString &value) {
+        desk.fake.set(one, QStringLiteral("Call"), {{QLatin1String(name), value}});
+    };
+    desk.fake.addCall(one, Outgoing, Unknown, QString());
+    desk.settle();
+    tell("Number", QStringLiteral("4"));
+    desk.settle();
+    QCOMPARE(desk.running(), 0); // it has not begun
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    tell("Number", QStringLiteral("42"));
+    tell("Number", QStringLiteral("42"));
+    tell("AudioPort", QStringLiteral("none"));
+    desk.settle();
+    desk.pass(second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.rows(QStringLiteral("duration_ms")), QStringLiteral("1000"));
+}
+
+void TestModem::aCallThatIsNotToldIsFollowedByItsStates()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.errors[QStringLiteral("GetAll")] = refusal;
+    desk.fake.addCall(one, Incoming, RingingIn, QStringLiteral("1"));
+    desk.fake.moveCall(one, Active);
+    desk.settle();
+    desk.pass(2 * second);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    QCOMPARE(desk.rows(QStringLiteral("duration_ms || ':' || state")), QStringLiteral("2000:1"));
+}
+
+void TestModem::bytesThatAreToldByHalfAreNotCounted()
+{
+    Desk desk;
+    desk.openAndSettle();
+    for (const char *missing : {"tx-bytes", "rx-bytes"}) {
+        QVariantMap half = stats(1000, 2000);
+        half.remove(QLatin1String(missing));
+        desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true},
+                                     {QStringLiteral("ReloadStatsSupported"), true},
+                                     {QStringLiteral("Stats"), half}});
+        desk.settle();
+        desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), false}});
+        desk.settle();
+        desk.fake.set(desk.fake.modem, QStringLiteral("Modem"),
+                      {{QStringLiteral("Bearers"), QVariant::fromValue(QList<QDBusObjectPath>())}});
+        desk.settle();
+    }
+    QCOMPARE(desk.sessions(), QStringLiteral("-:0:0:0:1 -:0:0:0:1"));
+}
+
+void TestModem::aStartThatNoClockHasIsNone()
+{
+    Desk desk;
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true},
+                                 {QStringLiteral("ReloadStatsSupported"), true},
+                                 {QStringLiteral("Stats"), stats(5, 6, std::numeric_limits<quint64>::max(), 60)}});
+    desk.openAndSettle();
+    desk.pass(second);
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), false}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QStringLiteral("-:61000:5:6:1"));
+}
+
+void TestModem::aBearerThatIsNotToldOrNotConnectedIsNoSession()
+{
+    Desk desk;
+    desk.openAndSettle();
+    const QVariant none = QVariant::fromValue(QList<QDBusObjectPath>());
+    desk.fake.errors[QStringLiteral("GetAll")] = refusal;
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), true}});
+    desk.settle();
+    desk.fake.set(bearer, QStringLiteral("Bearer"), {{QStringLiteral("Connected"), true}});
+    desk.fake.set(bearer + u'7', QStringLiteral("Bearer"), {{QStringLiteral("Connected"), true}}); // nobody's
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"), {{QStringLiteral("Bearers"), none}});
+    desk.settle();
+    desk.fake.errors.clear();
+    desk.fake.objects.remove(bearer + u'7');
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), false}});
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"),
+                  {{QStringLiteral("Bearers"), none}}); // while it is asked
+    desk.settle();
+    desk.fake.addBearer(bearer, {{QStringLiteral("Connected"), false}});
+    desk.settle();
+    desk.fake.set(desk.fake.modem, QStringLiteral("Modem"), {{QStringLiteral("Bearers"), none}});
+    desk.settle();
+    QCOMPARE(desk.sessions(), QString());
+}
+
+void TestModem::whatCannotBeDoneForTooLongIsTold()
+{
+    Desk desk;
+    desk.open({1'000, 60'000, 50});
+    QTRY_VERIFY(desk.modemState().isThere);
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"));
+    QTRY_COMPARE(desk.running(), 1);
+    desk.fake.errors.insert(QStringLiteral("Hangup"),
+                            QStringLiteral("org.freedesktop.ModemManager1.Error.Core.Retry: later"));
+    QCOMPARE(desk.modem->hangUp(one), int(Success));
+    QTRY_COMPARE(desk.refused, QStringList{QStringLiteral("The call cannot be ended: later.")});
+    QVERIFY(desk.fake.asked.count(QStringLiteral("Hangup 1")) > 1);
+}
+
+void TestModem::aCallThatWasNotMadeIsNotBegun()
+{
+    Desk desk;
+    desk.openAndSettle();
+    desk.fake.answers[QStringLiteral("CreateCall")] = QStringLiteral("done");
+    QCOMPARE(desk.modem->dial(QStringLiteral("5550123")), int(Success));
+    QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("CreateCall")));
+    desk.settle();
+    QVERIFY(desk.fake.asked.filter(QStringLiteral("Start")).isEmpty());
 }
 
 KAV_TEST_GROUP(TestModem, QCoreApplication);
