@@ -135,6 +135,18 @@ private slots:
     void aRunningCallIsWrittenOnTimeByATickThatIsEarly();
     void aCallThatIsWrittenAtLastIsAnnounced();
     void onlyTheRecorderTellsOfSessions();
+    void whoDoesNotRecordSaysWhoDoes();
+    void aCallOfADeadRecorderIsWrittenWhenTheLogCanBeRead();
+    void aSessionOfADeadRecorderIsWrittenWhenTheLogCanBeRead();
+    void aSessionThatItsRecorderHasCountedWholeGetsNoRow();
+    void aCallThatEndsUnansweredAfterItsRecorderDiedIsLogged();
+    void aSessionThatIsCountedByAnotherThanBeforeBeginsThere();
+    void bytesThatCannotBeWrittenAreWrittenLater();
+    void severalThatCouldNotBeWrittenAreWrittenTogether();
+    void aCounterThatIsNoneCountsNothing_data();
+    void aCounterThatIsNoneCountsNothing();
+    void theReportListsSessionsInTheirOrder();
+    void whatIsGoneOrUnknownChangesNothing();
     void whatAReaderChangesIsAnnounced();
     void nothingWakesUpWhileNothingRuns();
     void whatTheModemDoesNotHaveIsNotAvailable();
@@ -886,6 +898,205 @@ void TestRecording::theLineShowsAndAsksForWhatTheDaemonHas()
     line->setRefusalListener({});
     emit desk.modem->refused(QStringLiteral("Never."));
     QCOMPARE(refusals, QStringList("No."));
+}
+
+void TestRecording::whoDoesNotRecordSaysWhoDoes()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    QVERIFY(!desk.phone->lineControl()->report().isRecorder);
+    QVERIFY(desk.phone->lineControl()->report().isRecordedElsewhere);
+    desk.recorder->kill();
+    desk.tick();
+    QVERIFY(desk.phone->lineControl()->report().isRecorder);
+    QVERIFY(!desk.phone->lineControl()->report().isRecordedElsewhere);
+}
+
+// While the table is away, as when it cannot be read.
+void TestRecording::aCallOfADeadRecorderIsWrittenWhenTheLogCanBeRead()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    QVERIFY(desk.passBoth(20 * second));
+    const LogFile log(desk.state.database());
+    desk.recorder->kill();
+    QVERIFY(desk.phone->isRecording());
+    QVERIFY(log.run(QStringLiteral("ALTER TABLE calls RENAME TO away")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed: no such table")));
+    desk.clock->advance(2 * second);
+    desk.call(two, CallPhase::Incoming);
+    desk.call(one, CallPhase::Over);
+    QVERIFY(desk.phone->owesRecord());
+    desk.pass(5 * second);
+    QVERIFY(desk.phone->owesRecord());
+    QVERIFY(log.run(QStringLiteral("ALTER TABLE away RENAME TO calls")));
+    desk.pass(5 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:20000:3 0:5550123:2000:1"));
+}
+
+void TestRecording::aSessionOfADeadRecorderIsWrittenWhenTheLogCanBeRead()
+{
+    Beside desk(Beside::Comes::Later);
+    QVERIFY(desk.isReady);
+    const QString id = QStringLiteral("/b");
+    emit desk.modem->sessionReported(
+        {id, "x", {}, Bytes{1210, 2420}, 2 * minute, desk.clock->wallMs() - 2 * minute, true});
+    const LogFile log(desk.state.database());
+    desk.recorder->kill();
+    QVERIFY(desk.phone->isRecording());
+    QVERIFY(log.run(QStringLiteral("ALTER TABLE sessions RENAME TO away")));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed: no such table")));
+    desk.clock->advance(second);
+    emit desk.modem->sessionGone(id);
+    QVERIFY(desk.phone->owesRecord());
+    QVERIFY(log.run(QStringLiteral("ALTER TABLE away RENAME TO sessions")));
+    desk.pass(5 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.sessions(), QStringLiteral("x:120000:1200:2400:3 x:1000:10:20:1"));
+}
+
+void TestRecording::aSessionThatItsRecorderHasCountedWholeGetsNoRow()
+{
+    Beside desk(Beside::Comes::Later);
+    QVERIFY(desk.isReady);
+    const QString before = desk.sessions();
+    const QString id = QStringLiteral("/b");
+    emit desk.modem->sessionReported(
+        {id, "x", {}, Bytes{0, 0}, 2 * minute, desk.clock->wallMs() - 2 * minute, true});
+    desk.recorder->kill();
+    emit desk.modem->sessionGone(id);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.sessions().count(QLatin1Char(' ')), before.count(QLatin1Char(' ')));
+}
+
+void TestRecording::aCallThatEndsUnansweredAfterItsRecorderDiedIsLogged()
+{
+    Beside desk;
+    QVERIFY(desk.isReady);
+    desk.call(two, CallPhase::Incoming, QStringLiteral("42"));
+    desk.recorder->kill();
+    {
+        const support::FullDisk full(0);
+        desk.call(two, CallPhase::Over, {});
+        desk.tick();
+        QVERIFY(desk.phone->owesRecord());
+    }
+    desk.pass(5 * second);
+    QVERIFY(!desk.phone->owesRecord());
+    QCOMPARE(desk.calls(), QStringLiteral("0:5550123:0:3 1:42:0:2 0:5550123:5000:0"));
+}
+
+void TestRecording::aSessionThatIsCountedByAnotherThanBeforeBeginsThere()
+{
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 100, 200);
+    const auto report = [&](std::optional<Bytes> counted) {
+        desk.session(QStringLiteral("/b"), counted, QStringLiteral("wwan0"));
+    };
+    report(Bytes{10, 20}); // by the daemon
+    report({});            // by the interface, which shows what has gone before
+    desk.setInterface(QStringLiteral("wwan0"), 101, 202);
+    desk.pass(5 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:5000:11:22:0"));
+}
+
+void TestRecording::bytesThatCannotBeWrittenAreWrittenLater()
+{
+    Desk desk;
+    const QString id = QStringLiteral("/b");
+    desk.session(id, Bytes{0, 0});
+    desk.session(id, Bytes{0, 5}); // one way alone
+    desk.pass(5 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:5000:0:5:0"));
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        desk.session(id, Bytes{7, 5});
+        desk.pass(5 * second);
+    }
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:5000:0:5:0"));
+    desk.pass(5 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:15000:7:5:0"));
+}
+
+void TestRecording::severalThatCouldNotBeWrittenAreWrittenTogether()
+{
+    Desk desk;
+    int told = 0;
+    {
+        const support::FullDisk full(0);
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("call log failed")));
+        for (const QString &id : {one, two}) {
+            desk.call(id, CallPhase::Incoming);
+            desk.call(id, CallPhase::Active);
+        }
+        desk.session(QStringLiteral("/a"), Bytes{0, 0});
+        desk.session(QStringLiteral("/b"), Bytes{0, 0});
+    }
+    QObject::connect(desk.phone.get(), &live::LiveHandset::changed, [&told] { ++told; });
+    desk.pass(5 * second);
+    QVERIFY(told > 0);
+    QCOMPARE(desk.calls(), QStringLiteral("1:5550123:5000:0 1:5550123:5000:0"));
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:5000:0:0:0 internet:5000:0:0:0"));
+    desk.session(QStringLiteral("/a"), Bytes{1, 1});
+    desk.session(QStringLiteral("/b"), Bytes{1, 1});
+    desk.pass(5 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:10000:1:1:0 internet:10000:1:1:0"));
+}
+
+void TestRecording::aCounterThatIsNoneCountsNothing_data()
+{
+    QTest::addColumn<QString>("interface");
+    QTest::newRow("one that says a word") << "word";
+    QTest::newRow("one way alone") << "half";
+    QTest::newRow("a name that leads up") << "../wwan0";
+    QTest::newRow("a name that leads to the folder itself") << ".";
+    QTest::newRow("a name of two folders") << "wwan0/x";
+}
+
+void TestRecording::aCounterThatIsNoneCountsNothing()
+{
+    QFETCH(QString, interface);
+    Desk desk;
+    desk.setInterface(QStringLiteral("wwan0"), 1, 1);
+    for (const char *name : {"word", "half"})
+        desk.setInterface(QLatin1String(name), 1, 1);
+    QVERIFY(writeFile(desk.interfaces.filePath("word/statistics/tx_bytes"), "many\n"));
+    QVERIFY(QFile::remove(desk.interfaces.filePath("half/statistics/rx_bytes")));
+    desk.session(QStringLiteral("/b"), {}, interface);
+    desk.pass(5 * second);
+    QCOMPARE(desk.sessions(), QStringLiteral("internet:5000:0:0:0"));
+}
+
+void TestRecording::theReportListsSessionsInTheirOrder()
+{
+    Desk desk;
+    const auto report = [&](const char *id, const char *apn, const char *interface) {
+        emit desk.modem->sessionReported(
+            {QString::fromLatin1(id), apn, QString::fromLatin1(interface), Bytes{1, 2}, {}, {}, false});
+    };
+    report("/c", "b", "wwan1");
+    report("/a", "b", "wwan0");
+    report("/b", "a", "wwan2");
+    QStringList lines;
+    for (const LineSession &session : desk.phone->lineControl()->report().sessions)
+        lines << QStringLiteral("%1 %2 %3")
+                     .arg(QString::fromLatin1(session.apn), session.interface)
+                     .arg(session.sent.value_or(-1));
+    QCOMPARE(lines, QStringList({"a wwan2 1", "b wwan0 1", "b wwan1 1"}));
+}
+
+void TestRecording::whatIsGoneOrUnknownChangesNothing()
+{
+    Desk desk;
+    emit desk.modem->sessionGone(QStringLiteral("/nothing"));
+    emit desk.modem->callGone(QStringLiteral("/nothing"));
+    QVERIFY(!desk.phone->calls().connectedMs(QStringLiteral("/nothing")));
+    QVERIFY(!desk.phone->sessions().bytesOf(QStringLiteral("/nothing")));
+    QCOMPARE(desk.calls() + desk.sessions(), QString());
 }
 
 KAV_TEST_GROUP(TestRecording, QCoreApplication);

@@ -27,6 +27,7 @@ namespace {
 
 /// The call of SQLite that fails, counted from when this was set; 0 for none.
 int failsAt = 0;
+bool failsForGood = false;  ///< and every later one
 bool hasFailed = false;     ///< that one has
 bool isLastError = false;   ///< and none has been made since
 bool failsInMemory = false; ///< also where a log's tables are compared with new ones: a hundred statements alike
@@ -42,6 +43,8 @@ public:
         if (++depth > 1 || (!failsInMemory && (!file || *file == '\0')))
             return;
         fails = isLastError = failsAt > 0 && --failsAt == 0;
+        if (fails && failsForGood)
+            failsAt = 1;
         hasFailed = hasFailed || fails;
     }
     ~Call() { --depth; }
@@ -332,12 +335,17 @@ void putClosedLog(const QString &directory)
 class Failing
 {
 public:
-    explicit Failing(int call)
+    explicit Failing(int call, bool isForGood = false)
     {
         failsAt = call;
+        failsForGood = isForGood;
         hasFailed = false;
     }
-    ~Failing() { failsAt = 0; }
+    ~Failing()
+    {
+        failsAt = 0;
+        failsForGood = false;
+    }
     Q_DISABLE_COPY_MOVE(Failing)
 };
 
@@ -363,6 +371,9 @@ private slots:
     void anOperationFailsWholeAndIsTold();
     void anEndThatCannotBeWrittenIsOwed_data();
     void anEndThatCannotBeWrittenIsOwed();
+    void callsOfThePastAreAddedWholeOrNotAtAll();
+    void whileAnEndIsOwedNothingElseIsWritten();
+    void amountsBelowZeroBeginNothing();
     void anOpeningSaysWhyAndLosesNothing_data();
     void anOpeningSaysWhyAndLosesNothing();
     void aLogInMemorySaysWhy();
@@ -462,6 +473,92 @@ void TestFailingStatements::anEndThatCannotBeWrittenIsOwed()
     }
 }
 
+// While none runs, so that the last of them is the last call.
+void TestFailingStatements::callsOfThePastAreAddedWholeOrNotAtAll()
+{
+    PastCall measured = callTo("7", 5000);
+    measured.units = 12;
+    PastCall answered = callTo("8", 6000);
+    answered.direction = CallDirection::Answered;
+    answered.units = 3;
+    Desk desk;
+    desk.ledger().endCall(desk.running);
+    desk.ledger().endCall(desk.measured);
+    const QString untouched = desk.all();
+    for (int call = 1;; ++call) {
+        qint64 row = unwritten;
+        int status = Success;
+        {
+            const Failing failing(call);
+            status = desk.ledger().addHistory({measured, answered}, Charge::Measured, &row);
+        }
+        if (!hasFailed)
+            break;
+        QCOMPARE(status, int{StorageFailed});
+        QCOMPARE(row, unwritten);
+        QCOMPARE(desk.all(), untouched);
+    }
+    qint64 ms = 0;
+    qint64 units = 0;
+    QCOMPARE(desk.ledger().figure(Total::LastTime, ms), int{Success});
+    QCOMPARE(desk.ledger().figure(Total::LastCost, units), int{Success});
+    QCOMPARE(ms, qint64{6000});
+    QCOMPARE(units, qint64{3});
+}
+
+// Nothing can be written: what has ended is written before anything else is, as soon as that is possible.
+void TestFailingStatements::whileAnEndIsOwedNothingElseIsWritten()
+{
+    Desk desk;
+    Ledger &ledger = desk.ledger();
+    desk.ledger().addUnconnected(callTo("10"));
+    const Failing failing(1, true);
+    QCOMPARE(ledger.endCall(desk.running), int{StorageFailed});
+    QCOMPARE(ledger.endSession(desk.session), int{StorageFailed});
+    QCOMPARE(ledger.endCall(desk.running), int{WrongState});
+    QCOMPARE(ledger.endSession(desk.session), int{WrongState});
+    QCOMPARE(ledger.addBytes(desk.session, 1, 1), int{WrongState});
+    qint64 id = unwritten;
+    QCOMPARE(ledger.beginCall(callTo("9"), id), int{StorageFailed});
+    QCOMPARE(ledger.beginSession("mms", 0, 0, id), int{StorageFailed});
+    QCOMPARE(id, unwritten);
+    QCOMPARE(ledger.setUnits(desk.measured, 40), int{StorageFailed});
+    QCOMPARE(ledger.addHistory({callTo("7", 5000)}), int{StorageFailed});
+    QCOMPARE(ledger.reset({Total::AllTime}), int{StorageFailed});
+    QCOMPARE(ledger.resetSessions({Total::BytesSent}), int{StorageFailed});
+    QCOMPARE(ledger.checkpoint(), int{StorageFailed});
+    QCOMPARE(ledger.checkpointSession(), int{StorageFailed});
+    QCOMPARE(ledger.addUnconnected(callTo("11")), int{StorageFailed});
+    QCOMPARE(warnings.filter(QStringLiteral("The call log failed: disk I/O error")).size(), 2); // the two ends
+    failsAt = 0;
+    const qint64 told = unwritten;
+    qint64 before = told;
+    QCOMPARE(ledger.figure(Total::AllTime, before), int{Success});
+    desk.clock->advance(minute);
+    QCOMPARE(ledger.endCall(desk.measured), int{Success});
+    QCOMPARE(ledger.checkpointSession(), int{Success});
+    QVERIFY(!ledger.owesCall() && !ledger.owesSession());
+    qint64 after = told;
+    QCOMPARE(ledger.figure(Total::AllTime, after), int{Success});
+    QCOMPARE(after, before + minute); // of the call that has gone on
+}
+
+void TestFailingStatements::amountsBelowZeroBeginNothing()
+{
+    Desk desk;
+    const QString untouched = desk.all();
+    qint64 id = unwritten;
+    for (const SessionAmounts &below :
+         {SessionAmounts{-1, 0, 0}, SessionAmounts{0, -1, 0}, SessionAmounts{0, 0, -1}})
+        QCOMPARE(desk.ledger().beginSession("mms", 0, 0, id, below), int{InvalidArgument});
+    QCOMPARE(id, unwritten);
+    QCOMPARE(desk.all(), untouched);
+    QCOMPARE(desk.ledger().beginSession("mms", 0, 0, id, {0, 0, 3}), int{Success});
+    SessionAmounts sums;
+    QCOMPARE(desk.ledger().sessionTotals(sums), int{Success});
+    QCOMPARE(sums.received, qint64{6500 + 3});
+}
+
 void TestFailingStatements::anOpeningSaysWhyAndLosesNothing_data()
 {
     QTest::addColumn<QString>("directory");
@@ -476,6 +573,18 @@ void TestFailingStatements::anOpeningSaysWhyAndLosesNothing_data()
         copyState(desk.state.path(), directory);
     });
     row("a log that was closed", &putClosedLog);
+    const auto change = [](const char *statement) {
+        return [statement](const QString &directory) {
+            putClosedLog(directory);
+            if (!LogFile(directory + QLatin1String("/calllog.db")).run(QString::fromLatin1(statement)))
+                QTest::qFail(statement, __FILE__, __LINE__);
+        };
+    };
+    row("a log whose card cannot be read", change("UPDATE kept SET content = x'00' WHERE name = 'card'"));
+    row("a log without an account", change("DELETE FROM kept WHERE name = 'charging'"));
+    row("a log whose card was kept already",
+        change("INSERT INTO kept VALUES ('card-kept-1', x'00'), ('notice', 'Told before.'), ('card', x'00')"
+               " ON CONFLICT (name) DO UPDATE SET content = excluded.content"));
     row("a log of the third version", [](const QString &directory) {
         putClosedLog(directory);
         takeBackTo(directory + QLatin1String("/calllog.db"), 3);
