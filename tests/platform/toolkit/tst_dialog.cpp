@@ -117,6 +117,9 @@ private slots:
     void aLongMessageScrollsByKeyAndWheel();
     void aMessageOfAnyLengthAndContentDoesNoHarm();
     void itGoesWithItsScreen();
+    void aLongMirroredMessageHasItsScrollBarOnTheLeft();
+    void linesBreakAtEverySeparator();
+    void anotherTimerDoesNotAnswer();
 };
 
 void TestDialog::init()
@@ -807,6 +810,57 @@ void TestDialog::itGoesWithItsScreen()
     }
     QVERIFY(!dialog);
     QVERIFY(!ZApplication::keyTarget());
+}
+
+void TestDialog::aLongMirroredMessageHasItsScrollBarOnTheLeft()
+{
+    ListScreen screen;
+    screen.show();
+    const auto left = [&](Qt::LayoutDirection direction) {
+        screen.setLayoutDirection(direction);
+        ZMessageDlg dialog(QString(), QStringLiteral("word ").repeated(300), ZMessageDlg::InformationDlg, 0,
+                           &screen, nullptr, true, 0);
+        dialog.show();
+        settle();
+        const auto *const bar = dialog.findChild<QScrollBar *>();
+        return bar && bar->isVisible() ? bar->x() : -1;
+    };
+    QCOMPARE(left(Qt::RightToLeft), 0);
+    QVERIFY(left(Qt::LeftToRight) > 100);
+}
+
+void TestDialog::linesBreakAtEverySeparator()
+{
+    ListScreen screen;
+    screen.show();
+    const auto shown = [&screen](const QString &text) {
+        ZMessageDlg dialog(QString(), text, ZMessageDlg::InformationDlg, 0, &screen, nullptr, true, 0);
+        dialog.show();
+        settle();
+        return dialog.grab().toImage();
+    };
+    const QImage expected = shown(QStringLiteral("one\ntwo"));
+    QVERIFY(expected != shown(QStringLiteral("one two")));
+    for (const QChar separator : {QChar(u'\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
+        QCOMPARE(shown(QStringLiteral("one") + separator + QStringLiteral("two")), expected);
+    QCOMPARE(shown(QStringLiteral("one\r\ntwo")), expected);
+    // A word without an end is broken somewhere, and not within what one sees as a character.
+    const QString word = QStringLiteral("w").repeated(999) + QString::fromUcs4(U"\U0001F4DE");
+    QVERIFY(!shown(word).isNull());
+}
+
+void TestDialog::anotherTimerDoesNotAnswer()
+{
+    ListScreen screen;
+    screen.show();
+    ZMessageDlg dialog(QString(), QStringLiteral("?"), ZMessageDlg::InformationDlg, 600'000, &screen, nullptr,
+                       true, 0);
+    DialogTestKit::Answers answers(&dialog);
+    dialog.show();
+    QTimerEvent other(dialog.startTimer(600'000));
+    QCoreApplication::sendEvent(&dialog, &other);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(answers.given, QStringList());
 }
 
 KAV_TEST_GROUP(TestDialog, QApplication);

@@ -71,6 +71,9 @@ private slots:
     void onlyBoxAndSoftkeysArePainted();
     void aScreenThatDeletesItInItsDestructorLeavesNothingBehind();
     void theDisplayIsWhatWasSetOrElseTheOutermostScreen();
+    void itHidesWithAPhoneThatIsMinimizedAndComesBackWithIt();
+    void itStaysWhenItsDisplayHasGone();
+    void aScreenThatComesLaterDoesNotTakeItsKeys();
 };
 
 void TestDialogWindow::init()
@@ -315,6 +318,62 @@ void TestDialogWindow::theDisplayIsWhatWasSetOrElseTheOutermostScreen()
         QCOMPARE(ZApplication::display(), &chosen);
     }
     QCOMPARE(ZApplication::display(), &screen);
+}
+
+void TestDialogWindow::itHidesWithAPhoneThatIsMinimizedAndComesBackWithIt()
+{
+    Phone phone;
+    Notice notice;
+    ZMessageDlg inside(QString(), QStringLiteral("?"), ZMessageDlg::QuestionDlg, 0, &phone.screen, nullptr, true,
+                       0);
+    QVERIFY(QTest::qWaitForWindowExposed(&phone.around, 60'000));
+    inside.show();
+    notice.show();
+    phone.around.showMinimized();
+    QTRY_VERIFY(!notice.isVisible());
+    phone.around.showNormal();
+    QTRY_VERIFY(notice.isVisible());
+    QCOMPARE(notice.geometry(), phone.displayOnDesktop());
+    // It is still the dialog's turn.
+    QVERIFY(ZApplication::pressKey(Qt::Key_Select));
+    QVERIFY(!notice.isVisible());
+    QVERIFY(inside.isVisible());
+    QSignalSpy left(&inside, &ZPopup::leftSoftkeyClicked);
+    QVERIFY(ZApplication::pressKey(Qt::Key_Context1));
+    QCOMPARE(left.count(), 1);
+}
+
+void TestDialogWindow::itStaysWhenItsDisplayHasGone()
+{
+    QWidget around;
+    around.setGeometry(100, 80, 500, 420);
+    auto *const display = new QWidget(&around);
+    display->setGeometry(30, 40, 240, 320);
+    ZApplication::setDisplay(display);
+    around.show();
+    Notice notice;
+    notice.show();
+    delete display;
+    ZApplication::setDisplay(nullptr);
+    around.resize(520, 440);
+    around.hide();
+    settle();
+    QVERIFY(notice.isVisible());
+    QCOMPARE(notice.size(), QSize(240, 320));
+}
+
+void TestDialogWindow::aScreenThatComesLaterDoesNotTakeItsKeys()
+{
+    Phone phone;
+    Notice notice;
+    notice.show();
+    ListScreen later(&phone.display);
+    later.addRows(2);
+    later.show();
+    QVERIFY(ZApplication::pressKey(Qt::Key_Select));
+    QVERIFY(!notice.isVisible());
+    QVERIFY(ZApplication::pressKey(Qt::Key_Down));
+    QCOMPARE(later.list->currentItem(), 1);
 }
 
 KAV_TEST_GROUP(TestDialogWindow, QApplication);

@@ -38,6 +38,8 @@ private slots:
     void theTabKeyStaysWhenThereIsNowhereToGo();
     void hiddenScreensDoNotTakeTheFocusFromTheWindowAround();
     void randomComingAndGoingLeavesTheKeysWithTheOneOnTop();
+    void theTabKeyPassesOverWhatCannotTakeIt();
+    void aDisabledFieldOrAWindowOfItsOwnDoesNotGetTheKeys();
 };
 
 void TestFocus::init()
@@ -317,6 +319,48 @@ void TestFocus::randomComingAndGoingLeavesTheKeysWithTheOneOnTop()
             focus = focus->parentWidget();
         QVERIFY2(focus == seen, qPrintable(QStringLiteral("another one is on top in step %1").arg(step)));
     }
+}
+
+void TestFocus::theTabKeyPassesOverWhatCannotTakeIt()
+{
+    QWidget around;
+    around.resize(600, 400);
+    QLineEdit disabled(&around);
+    disabled.setGeometry(300, 0, 100, 30);
+    disabled.setEnabled(false);
+    QWidget proxied(&around);
+    proxied.setGeometry(300, 40, 100, 30);
+    proxied.setFocusPolicy(Qt::StrongFocus);
+    QLineEdit last(&around);
+    last.setGeometry(300, 80, 100, 30);
+    proxied.setFocusProxy(&last);
+    ListScreen screen(&around);
+    screen.addRows(2);
+    around.show();
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
+    screen.list->setFocus();
+    clickInWindow(&around, Qt::Key_Tab);
+    QVERIFY(last.hasFocus());
+}
+
+void TestFocus::aDisabledFieldOrAWindowOfItsOwnDoesNotGetTheKeys()
+{
+    QWidget around;
+    around.resize(600, 400);
+    ListScreen screen(&around);
+    auto *const disabled = new QLineEdit(&screen);
+    disabled->setEnabled(false);
+    auto *const window = new QWidget(&screen, Qt::Window);
+    window->setFocusPolicy(Qt::StrongFocus);
+    for (QWidget *widget : {static_cast<QWidget *>(disabled), window})
+        widget->lower(); // the first that is found
+    screen.addRows(2);
+    around.show();
+    screen.show();
+    QVERIFY(QTest::qWaitForWindowActive(&around, 60'000));
+    QVERIFY(ZApplication::pressKey(Qt::Key_Down));
+    QCOMPARE(screen.list->currentItem(), 1);
 }
 
 KAV_TEST_GROUP(TestFocus, QApplication);

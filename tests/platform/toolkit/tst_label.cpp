@@ -6,8 +6,11 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QColor>
 #include <QtGui/QImage>
+#include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
+
+#include <cstdlib>
 
 using namespace ToolkitTestKit;
 
@@ -24,6 +27,11 @@ private slots:
     void markupAndAmpersandsAreText();
     void aHeadingHasItsOwnGround();
     void aMirroredLabelBeginsAtTheRight();
+    void aTextInTheMiddleHasAsMuchGroundOnEitherSide();
+    void aLabelTooNarrowForATextShowsNone_data();
+    void aLabelTooNarrowForATextShowsNone();
+    void aDisabledLabelIsGreyed();
+    void anEnlargedLabelHasTheSameText();
 };
 
 void TestLabel::theWholeTextCanBeReadBack_data()
@@ -91,6 +99,63 @@ void TestLabel::aMirroredLabelBeginsAtTheRight()
     ZLabel label(QStringLiteral("x"), &parent, nullptr, 0, ZSkinService::HeadingLabelClass);
     label.setGeometry(0, 0, 240, 20);
     QVERIFY(firstInk(label.grab().toImage(), ZSkinService::color(ZSkinService::HeadingColor)) > 200);
+}
+
+void TestLabel::aTextInTheMiddleHasAsMuchGroundOnEitherSide()
+{
+    QWidget parent;
+    ZLabel label(QStringLiteral("xox"), &parent, nullptr, 0, ZSkinService::HeadingLabelClass);
+    label.setGeometry(0, 0, 240, 20);
+    label.setAlignment(Qt::AlignHCenter);
+    const QColor ground = ZSkinService::color(ZSkinService::HeadingColor);
+    const QImage image = label.grab().toImage();
+    QVERIFY(std::abs(firstInk(image, ground) - (239 - lastInk(image, ground))) <= 2);
+}
+
+void TestLabel::aLabelTooNarrowForATextShowsNone_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("no room between the margins") << 2 * ZSkinService::RowMargin;
+    QTest::newRow("less than the margins") << ZSkinService::RowMargin;
+    QTest::newRow("less than an ellipsis") << 2 * ZSkinService::RowMargin + 2;
+}
+
+void TestLabel::aLabelTooNarrowForATextShowsNone()
+{
+    QFETCH(int, width);
+    QWidget parent;
+    ZLabel label(QStringLiteral("WWW"), &parent, nullptr, 0, ZSkinService::HeadingLabelClass);
+    label.setGeometry(0, 0, width, 20);
+    QVERIFY(lastInk(label.grab().toImage(), ZSkinService::color(ZSkinService::HeadingColor)) < 0);
+    label.setGeometry(0, 0, 240, 20);
+    QVERIFY(lastInk(label.grab().toImage(), ZSkinService::color(ZSkinService::HeadingColor)) > 0);
+}
+
+void TestLabel::aDisabledLabelIsGreyed()
+{
+    QWidget parent;
+    ZLabel label(QStringLiteral("xox"), &parent, nullptr, 0, ZSkinService::SettingListClass);
+    label.setGeometry(0, 0, 240, 20);
+    const QImage enabled = label.grab().toImage();
+    label.setEnabled(false);
+    const QImage disabled = label.grab().toImage();
+    QVERIFY(disabled != enabled);
+    QVERIFY(lastInk(disabled, disabled.pixelColor(239, 0)) > 0);
+}
+
+void TestLabel::anEnlargedLabelHasTheSameText()
+{
+    QWidget parent;
+    ZLabel label(QStringLiteral("xox"), &parent, nullptr, 0, ZSkinService::HeadingLabelClass);
+    label.setGeometry(0, 0, 240, 20);
+    const QColor ground = ZSkinService::color(ZSkinService::HeadingColor);
+    const int plain = lastInk(label.grab().toImage(), ground);
+    QImage large(480, 40, QImage::Format_RGB32);
+    QPainter painter(&large);
+    painter.scale(2, 2);
+    label.render(&painter);
+    painter.end();
+    QVERIFY(std::abs(lastInk(large, ground) - 2 * plain) < 6);
 }
 
 KAV_TEST_GROUP(TestLabel, QApplication);

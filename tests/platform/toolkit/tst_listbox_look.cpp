@@ -11,6 +11,7 @@
 #include <QtGui/QFontMetrics>
 #include <QtGui/QImage>
 #include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QPalette>
 #include <QtGui/QPixmap>
 #include <QtGui/QRegion>
@@ -78,6 +79,12 @@ private slots:
     void aMirroredDisplayHasTheTitleOnTheRightAndTheValueOnTheLeft();
     void anIconStandsBeforeTheTitleAndNeverOutgrowsItsRow();
     void theLookDoesNotDependOnTheApplicationAround();
+    void anIconThatFitsKeepsItsSize();
+    void anIconWithoutRoomIsNotDrawn();
+    void twoIconsDoNotLookAlike();
+    void aTitleIsCutWhereTheListSays();
+    void anEnlargedOrOddDisplayShowsTheSameRows_data();
+    void anEnlargedOrOddDisplayShowsTheSameRows();
 };
 
 void TestListBoxLook::init()
@@ -524,6 +531,112 @@ void TestListBoxLook::theLookDoesNotDependOnTheApplicationAround()
     around.show();
     screen.show();
     QCOMPARE(screen.grab().toImage(), expected);
+}
+
+void TestListBoxLook::anIconThatFitsKeepsItsSize()
+{
+    ListScreen screen;
+    QPixmap small(6, 4);
+    small.fill(Qt::red);
+    QPixmap high(4, ZSkinService::RowHeight * 2);
+    high.fill(Qt::red);
+    for (const QPixmap *icon : {&small, &high}) {
+        auto *item = new ZSettingItem(screen.list, QString());
+        item->setSeparator(QStringLiteral("Heading"), icon);
+        screen.list->insertItem(item, -1, true);
+    }
+    const auto redPixels = [&](int index) {
+        const QImage row = lookOfRow(screen.list, index);
+        int count = 0;
+        for (int x = 0; x < row.width(); ++x)
+            for (int y = 0; y < row.height(); ++y)
+                count += row.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+        return count;
+    };
+    QCOMPARE(redPixels(0), 24);
+    const int shrunk = redPixels(1);
+    QVERIFY2(shrunk > 0 && shrunk <= 4 * ZSkinService::RowHeight, qPrintable(QString::number(shrunk)));
+}
+
+void TestListBoxLook::anIconWithoutRoomIsNotDrawn()
+{
+    ListScreen screen;
+    QPixmap icon(6, 4);
+    icon.fill(Qt::red);
+    auto *item = new ZSettingItem(screen.list, QString());
+    item->setSeparator(QStringLiteral("Heading"), &icon);
+    screen.list->insertItem(item, -1, true);
+    screen.list->resize(2 * ZSkinService::RowMargin, 100);
+    settle();
+    QVERIFY(lastInk(lookOfRow(screen.list, 0), color(ZSkinService::HeadingColor)) < 0);
+}
+
+void TestListBoxLook::twoIconsDoNotLookAlike()
+{
+    ListScreen screen;
+    QList<QImage> looks;
+    for (const QColor &filled : {QColor(Qt::red), QColor(Qt::blue)}) {
+        QPixmap icon(8, 8);
+        icon.fill(filled);
+        auto *item = new ZSettingItem(screen.list, QString());
+        item->setSeparator(QStringLiteral("Same"), &icon);
+        screen.list->insertItem(item, -1, true);
+        looks << lookOfRow(screen.list, screen.list->count() - 1);
+    }
+    QVERIFY(looks[0] != looks[1]);
+    QCOMPARE(lookOfRow(screen.list, 0), looks[0]);
+}
+
+void TestListBoxLook::aTitleIsCutWhereTheListSays()
+{
+    ListScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(endless);
+    const QImage cutAtTheEnd = lookOfRow(screen.list, 1);
+    screen.list->setTextElideMode(Qt::ElideLeft);
+    const QImage cutAtTheBeginning = lookOfRow(screen.list, 1);
+    QVERIFY(cutAtTheBeginning != cutAtTheEnd);
+    screen.list->setTextElideMode(Qt::ElideRight);
+    QCOMPARE(lookOfRow(screen.list, 1), cutAtTheEnd);
+}
+
+void TestListBoxLook::anEnlargedOrOddDisplayShowsTheSameRows_data()
+{
+    QTest::addColumn<qreal>("scale");
+    QTest::addColumn<qreal>("pixelRatio");
+    QTest::newRow("enlarged by the painter") << 2.0 << 1.0;
+    QTest::newRow("with half pixels") << 1.0 << 1.5;
+}
+
+// Where no picture of a row stands for it, the row is painted.
+void TestListBoxLook::anEnlargedOrOddDisplayShowsTheSameRows()
+{
+    QFETCH(qreal, scale);
+    QFETCH(qreal, pixelRatio);
+    ListScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("Title"), QStringLiteral("00:01:05"));
+    showSettled(screen);
+    const QImage plain = screen.grab().toImage();
+    const qreal factor = scale * pixelRatio;
+    QImage large((QSizeF(screen.size()) * factor).toSize(), QImage::Format_RGB32);
+    large.setDevicePixelRatio(pixelRatio);
+    QPainter painter(&large);
+    painter.scale(scale, scale);
+    screen.render(&painter);
+    painter.end();
+    const QRect row(screen.list->mapTo(&screen, QPoint(0, ZSkinService::RowHeight)),
+                    QSize(screen.list->width(), ZSkinService::RowHeight - 1));
+    const QImage expected = plain.copy(row);
+    const QImage found = large.copy(
+        QRectF(row.x() * factor, row.y() * factor, row.width() * factor, row.height() * factor).toAlignedRect());
+    const auto isNear = [&](int (*ink)(const QImage &, const QColor &)) {
+        const int there = ink(found, color(ZSkinService::ScreenColor));
+        const int here = ink(expected, color(ZSkinService::ScreenColor));
+        return here > 0 && std::abs(there - here * factor) < 4 * factor;
+    };
+    QVERIFY(isNear(&firstInk));
+    QVERIFY(isNear(&lastInk));
 }
 
 KAV_TEST_GROUP(TestListBoxLook, QApplication);
