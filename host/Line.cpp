@@ -7,7 +7,10 @@
 #include <QtCore/QDateTime>
 
 #include <algorithm>
+#include <array>
 #include <initializer_list>
+#include <iterator>
+#include <utility>
 
 namespace host {
 
@@ -114,6 +117,21 @@ QString describe(const LineReport &report)
         calls << phaseText(call) + QStringLiteral(", ") + number;
     }
     return calls.isEmpty() ? Line::tr("Idle") : calls.join(QLatin1Char('\n'));
+}
+
+CallPhase phaseOf(LineState state)
+{
+    switch (state) {
+    case LineState::Dialing:
+        return CallPhase::Dialing;
+    case LineState::Ringing:
+        return CallPhase::Incoming;
+    case LineState::Connected:
+        return CallPhase::Active;
+    case LineState::Idle:
+        break;
+    }
+    return CallPhase::Over;
 }
 
 QString stateWord(LineState state, qint64 connectedMs)
@@ -233,6 +251,23 @@ void Line::takeBackDigit()
         changeNumber(nextNumber.chopped(1));
 }
 
+QList<LineCall> Line::calls() const
+{
+    QList<LineCall> there;
+    if (control)
+        there = control->report().calls;
+    else if (simulated)
+        there = {{{}, phaseOf(simulated->lineState()), simulated->number(), simulated->connectedMs()}};
+    constexpr std::array order{CallPhase::Incoming, CallPhase::Waiting, CallPhase::Dialing,
+                               CallPhase::Alerting, CallPhase::Active,  CallPhase::Held};
+    QList<LineCall> ordered;
+    for (const CallPhase phase : order) {
+        std::copy_if(there.cbegin(), there.cend(), std::back_inserter(ordered),
+                     [phase](const LineCall &call) { return call.phase == phase; });
+    }
+    return ordered;
+}
+
 bool Line::permits(Action action) const
 {
     const bool needsNumber = action == Action::Dial || action == Action::DialData;
@@ -300,7 +335,11 @@ void Line::pressCallKey()
 
 void Line::pressHangUpKey()
 {
-    perform(Action::HangUp);
+    if (permits(Action::HangUp)) {
+        perform(Action::HangUp);
+    } else if (std::exchange(typing, false)) {
+        emit changed();
+    }
 }
 
 void Line::addReadyMadeHistory()

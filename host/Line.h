@@ -48,12 +48,17 @@ public:
     /// Takes back the last digit of a number that typeNumber() has begun; nothing after a call or setNumber().
     void takeBackDigit();
 
+    /// What typeNumber() has begun, until a call or pressHangUpKey(); else empty.
+    QString typedNumber() const { return typing ? nextNumber : QString(); }
+
+    /// The calls that are there, the one that asks for an answer first, then the one that is being set up, or is spoken.
+    QList<handset::LineCall> calls() const;
     /// Whether the line is in the state that `action` needs.
     bool permits(Action action) const;
     void perform(Action action);
     /// The green key: answers, or dials the number.
     void pressCallKey();
-    /// The red key.
+    /// The red key: ends a call. Without one, a number that is being typed is no longer: the next digit begins another.
     void pressHangUpKey();
     /// Adds the ready-made calls to the log.
     void addReadyMadeHistory();

@@ -4,6 +4,7 @@
 #include "qt/translation.h"
 #include "toolkit/ZListBox.h"
 #include "toolkit/ZSettingItem.h"
+#include "toolkit/ZSkinService.h"
 #include "toolkit/ZSoftKey.h"
 
 namespace host {
@@ -40,6 +41,11 @@ void MenuScreen::fillList()
         item->appendSubItem(0, text(entry.key, entry.english), false, ZSettingItem::TitleRegion);
         list->insertItem(item, -1, true);
     }
+}
+
+int MenuScreen::rowsHeight() const
+{
+    return list->count() * ZSkinService::RowHeight;
 }
 
 void MenuScreen::takeFocus()

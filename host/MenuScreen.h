@@ -17,6 +17,8 @@ public:
     /// One row for each row of the screen table.
     explicit MenuScreen(QWidget *parent);
 
+    /// What the rows take of the content; below them there is nothing.
+    int rowsHeight() const;
     /// Gives the keys to the list.
     void takeFocus();
 

@@ -5,6 +5,7 @@
 #include "host/OpeningProgress.h"
 #include "host/WaitNotice.h"
 #include "host/panel/Panel.h"
+#include "host/phone/CallNotice.h"
 #include "host/phone/Display.h"
 #include "host/phone/Keypad.h"
 #include "host/phone/PhoneBody.h"
@@ -137,6 +138,10 @@ bool PhoneWindow::complete()
 
 void PhoneWindow::connectHandset()
 {
+    calls = new CallNotice(*line, menu->getContentWidget(true), menu->rowsHeight());
+    // Before the line is told: a call that one of these ends is news.
+    connect(menu, &MenuScreen::clearKeyClicked, calls, &CallNotice::dismiss);
+    connect(body->keypad(), &Keypad::hangUpPressed, calls, &CallNotice::dismiss);
     connect(menu, &MenuScreen::clearKeyClicked, line.get(), &Line::takeBackDigit);
     connect(body->keypad(), &Keypad::callPressed, line.get(), &Line::pressCallKey);
     connect(body->keypad(), &Keypad::hangUpPressed, line.get(), &Line::pressHangUpKey);
@@ -159,7 +164,10 @@ void PhoneWindow::makePanel()
 
 bool PhoneWindow::openScreen(int index)
 {
-    return complete() && screens.open(index);
+    if (!complete() || !screens.open(index))
+        return false;
+    calls->dismiss();
+    return true;
 }
 
 void PhoneWindow::choosePage(int index)

@@ -17,6 +17,7 @@ class QSpacerItem;
 
 namespace host {
 
+class CallNotice;
 class Faults;
 class MenuScreen;
 class OpeningProgress;
@@ -82,6 +83,7 @@ private:
     OpeningProgress *opening = nullptr; ///< until the panel is there; made when there is something to show
     Panel *panel = nullptr;
     MenuScreen *menu;
+    CallNotice *calls = nullptr; ///< until complete()
     ScreenHost screens;
 };
 

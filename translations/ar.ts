@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>مكالمة واردة</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>مكالمة في الانتظار</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>معلقة</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>رقم محجوب</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>مكالمة</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>الرقم المراد طلبه</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>انتهت المكالمة</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>لم يُرد عليها</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Wählt</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Eingehender Anruf</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Anruf wartet</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Gehalten</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Nummer unterdrückt</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anruf</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Zu wählende Nummer</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Anruf beendet</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Nicht angenommen</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

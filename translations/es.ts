@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Marcando</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Llamada entrante</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Llamada en espera</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Retenida</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Número oculto</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamada</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Número que marcar</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Llamada finalizada</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Sin respuesta</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Numérotation</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Appel entrant</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Appel en attente</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>En garde</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Numéro masqué</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Appel</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Numéro à composer</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Appel terminé</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Sans réponse</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Composizione</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Chiamata in arrivo</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Chiamata in attesa</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Trattenuta</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connessa</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Numero nascosto</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Chiamata</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Numero da comporre</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Chiamata terminata</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Senza risposta</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Wybieranie</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Połączenie przychodzące</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Połączenie oczekujące</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Zawieszone</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Numer zastrzeżony</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Połączenie</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Numer do wybrania</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Połączenie zakończone</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Nieodebrane</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

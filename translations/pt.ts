@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>A marcar</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Chamada recebida</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Chamada em espera</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Retida</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Ligada</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Número oculto</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Chamada</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Número a marcar</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Chamada terminada</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Não atendida</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Набор номера</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Входящий вызов</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Ожидающий вызов</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>На удержании</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Соединение</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Номер скрыт</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Вызов</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Набираемый номер</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Вызов завершён</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Без ответа</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>Aranıyor</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>Gelen arama</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>Bekleyen arama</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>Beklemede</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Bağlı</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>Gizli numara</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Arama</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>Aranacak numara</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>Arama sona erdi</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>Yanıtlanmadı</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

@@ -2666,6 +2666,49 @@
     </message>
 </context>
 <context>
+    <name>host::CallNotice</name>
+    <message>
+        <source>Dialing</source>
+        <translation>正在拨号</translation>
+    </message>
+    <message>
+        <source>Incoming call</source>
+        <translation>来电</translation>
+    </message>
+    <message>
+        <source>Call waiting</source>
+        <translation>来电等待中</translation>
+    </message>
+    <message>
+        <source>On hold</source>
+        <translation>已保持</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已接通</translation>
+    </message>
+    <message>
+        <source>Number withheld</source>
+        <translation>号码已隐藏</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>通话</translation>
+    </message>
+    <message>
+        <source>Number to dial</source>
+        <translation>待拨号码</translation>
+    </message>
+    <message>
+        <source>Call ended</source>
+        <translation>通话已结束</translation>
+    </message>
+    <message>
+        <source>Not answered</source>
+        <translation>未接听</translation>
+    </message>
+</context>
+<context>
     <name>host::CallsModel</name>
     <message>
         <source>Dialed, not answered</source>

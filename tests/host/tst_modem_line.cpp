@@ -111,6 +111,7 @@ private slots:
     void whatIsNotDoneAtOnceIsToldAtOnce();
     void dataSessionsAreShownWithTheirBytes();
     void aNumberOfEightyDigitsPushesNothingOut();
+    void thePhoneTellsOfAModemsCalls();
     void aWindowThatGoesIsToldNothingMore();
 
 private:
@@ -409,6 +410,31 @@ void TestModemLine::aNumberOfEightyDigitsPushesNothingOut()
     handset->setCalls({call});
     QCOMPARE(window->findChild<Panel *>()->widget()->minimumSizeHint().width(), width);
     QCOMPARE(label("line state"), "Connected 00:00:01, " + call.number);
+}
+
+void TestModemLine::thePhoneTellsOfAModemsCalls()
+{
+    handset->setCalls({callIn(CallPhase::Alerting)});
+    QCOMPARE(label("call state"), "Dialing");
+    LineCall held = callIn(CallPhase::Held, "1", 65'000);
+    LineCall active = callIn(CallPhase::Active, "2", 5'000);
+    active.number = QStringLiteral("5550000");
+    handset->setCalls({held, active});
+    QCOMPARE(label("call state"), "Connected");
+    QCOMPARE(label("call number"), "5550000");
+    QCOMPARE(label("call clock"), "00:00:05");
+    QCOMPARE(label("other calls"), "On hold, 5551234");
+    handset->setCalls({held, callIn(CallPhase::Waiting, "3")}); // what wants an answer comes first
+    QCOMPARE(label("call state"), "Call waiting");
+    handset->setCalls({held});
+    QCOMPARE(label("call state"), "On hold");
+    handset->setCalls({});
+    QCOMPARE(label("call state"), "Call ended");
+    QCOMPARE(label("call clock"), "00:01:05"); // without a call log, as it was seen last
+    QVERIFY(!control<QLabel>("call cost so far")->isVisible());
+    handset->setCalls({callIn(CallPhase::Incoming)});
+    handset->setCalls({});
+    QCOMPARE(label("call state"), "Not answered");
 }
 
 void TestModemLine::aWindowThatGoesIsToldNothingMore()

@@ -86,6 +86,14 @@ private slots:
     void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft();
     void theKeypadLooksTheSameRightToLeft();
+    void thePhoneTellsOfACallFromItsDigitsToItsCost();
+    void thePhoneTellsWhoCallsAndWhomNobodyAnswered();
+    void thePhoneWarnsBeforeItEndsACallAndSaysWhyItDid();
+    void whatACallHasCostGoesWhenTheUserGoesOn_data();
+    void whatACallHasCostGoesWhenTheUserGoesOn();
+    void aTypedNumberIsForgottenByTheRedKeyAndStaysInThePanel();
+    void aNumberOfEightySignsFitsOnTheDisplay();
+    void callsAreToldBelowTheRowsAndUnderTheScreens();
 
 private:
     void openWindow(const std::shared_ptr<handset::Handset> &handset, const QString &directory = {},
@@ -103,6 +111,8 @@ private:
     QString label(const char *name) const { return window->findChild<QLabel *>(name)->text(); }
     QStringList enabledButtons() const;
     QString title() const;
+    QStringList toldOfCalls() const;
+    void type(const char *digits) const;
 
     ScreenLibrary library;
     std::shared_ptr<handset::ManualClock> clock;
@@ -850,6 +860,140 @@ void TestWindow::theKeypadLooksTheSameRightToLeft()
     QGuiApplication::setLayoutDirection(Qt::RightToLeft);
     openWindow(owner);
     QCOMPARE(window->findChild<Keypad *>()->grab().toImage(), direct);
+}
+
+// What stands at the foot of the menu, from above; nothing where it is not on show.
+QStringList TestWindow::toldOfCalls() const
+{
+    QStringList texts;
+    const auto *notice = window->findChild<QWidget *>("call notice");
+    for (const QLabel *label : notice->findChildren<QLabel *>()) {
+        if (label->isVisible())
+            texts << label->text().remove(QChar(0x200b)); // a place to break the line
+    }
+    return texts;
+}
+
+void TestWindow::type(const char *digits) const
+{
+    for (const char *digit = digits; *digit; ++digit)
+        QTest::keyClick(window->windowHandle(), *digit);
+}
+
+void TestWindow::thePhoneTellsOfACallFromItsDigitsToItsCost()
+{
+    QVERIFY(handset->simCard().setPriceAndCurrency("0.23", "EUR") == 0 &&
+            handset->simCard().setChargeType(1) == 0);
+    QCOMPARE(handset->charging()->setTariff(handset::CallDirection::Dialed, {10, 100}), 0);
+    QCOMPARE(toldOfCalls(), QStringList());
+    type("555");
+    QCOMPARE(toldOfCalls(), QStringList({"Number to dial", "555"}));
+    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+    QCOMPARE(toldOfCalls(), QStringList({"Number to dial", "55"}));
+    QTest::keyClick(window->windowHandle(), Qt::Key_F3);
+    QCOMPARE(toldOfCalls(), QStringList({"Dialing", "55"}));
+    click("Other side answers");
+    QCOMPARE(toldOfCalls(), QStringList({"Connected", "55", "00:00:00", "0.00 EUR"}));
+    clock->advance(65'000);
+    QTRY_COMPARE_WITH_TIMEOUT(toldOfCalls(), QStringList({"Connected", "55", "00:01:05", "1.38 EUR"}), patienceMs);
+    type("7");
+    QCOMPARE(toldOfCalls().last(), "7");
+    QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
+    QTest::keyClick(window->windowHandle(), Qt::Key_F4);
+    QCOMPARE(toldOfCalls(), QStringList({"Call ended", "55", "00:01:05", "1.38 EUR"}));
+}
+
+void TestWindow::thePhoneTellsWhoCallsAndWhomNobodyAnswered()
+{
+    click("Incoming call");
+    QCOMPARE(toldOfCalls(), QStringList({"Incoming call", "5550123"}));
+    clickKey("Hang up");
+    QCOMPARE(toldOfCalls(), QStringList({"Not answered", "5550123"}));
+    window->findChild<QLineEdit *>()->clear();
+    click("Incoming call");
+    QCOMPARE(toldOfCalls(), QStringList({"Incoming call", "Number withheld"}));
+    clickKey("Call");
+    QCOMPARE(toldOfCalls(), QStringList({"Connected", "Number withheld", "00:00:00", "0.00 units"}));
+}
+
+void TestWindow::thePhoneWarnsBeforeItEndsACallAndSaysWhyItDid()
+{
+    QCOMPARE(handset->charging()->setTariff(handset::CallDirection::Dialed, {10, 100}), 0);
+    QCOMPARE(handset->charging()->topUp("10", {2007, 3, 9}), 0);
+    clickKey("Call");
+    click("Other side answers");
+    QCOMPARE(toldOfCalls(), QStringList({"Connected", "5550123", "00:00:00", "0.00 units"}));
+    clock->advance(82'000);
+    QTRY_COMPARE_WITH_TIMEOUT(
+        toldOfCalls(),
+        QStringList({"Connected", "5550123", "00:01:22", "8.00 units", "The credit is used up in 18 s."}),
+        patienceMs);
+    clock->advance(18'000);
+    QTRY_COMPARE_WITH_TIMEOUT(toldOfCalls(),
+                              QStringList({"Call ended", "5550123", "00:01:40", "10.00 units",
+                                           "The telephone has ended the call: the credit is used up."}),
+                              patienceMs);
+}
+
+void TestWindow::whatACallHasCostGoesWhenTheUserGoesOn_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::newRow("with the red key") << "Hang up";
+    QTest::newRow("with the clear key") << "Clear";
+    QTest::newRow("with the next number") << "5";
+    QTest::newRow("with the next call") << "Call";
+    QTest::newRow("with a screen") << "Select";
+}
+
+void TestWindow::whatACallHasCostGoesWhenTheUserGoesOn()
+{
+    QFETCH(QString, key);
+    click("Incoming call");
+    clickKey("Call");
+    clickKey("Hang up");
+    clickKey("Down"); // reads on
+    QCOMPARE(toldOfCalls().first(), "Call ended");
+    clickKey(qPrintable(key));
+    clickKey("Clear"); // leaves the screen, takes back the digit
+    QTRY_COMPARE_WITH_TIMEOUT(title(), "Recent Calls", patienceMs);
+    clickKey("Hang up");
+    const QStringList told = toldOfCalls();
+    QVERIFY2(told.isEmpty() || told.first() == "Not answered", qPrintable(told.join(u',')));
+}
+
+void TestWindow::aTypedNumberIsForgottenByTheRedKeyAndStaysInThePanel()
+{
+    type("555");
+    QTest::keyClick(window->windowHandle(), Qt::Key_F4);
+    QCOMPARE(toldOfCalls(), QStringList());
+    QCOMPARE(window->findChild<QLineEdit *>()->text(), "555");
+    type("7");
+    QCOMPARE(toldOfCalls(), QStringList({"Number to dial", "7"}));
+}
+
+void TestWindow::aNumberOfEightySignsFitsOnTheDisplay()
+{
+    type(QByteArray(80, '#').constData());
+    QCOMPARE(toldOfCalls().last(), QString(80, u'#'));
+    const auto *number = window->findChild<QLabel *>("call number");
+    QVERIFY(number->height() >= number->heightForWidth(number->width()));
+    clickKey("Call");
+    click("Other side answers");
+    const auto *notice = window->findChild<QWidget *>("call notice");
+    QVERIFY(notice->rect().contains(window->findChild<QWidget *>("call cost so far")->geometry()));
+}
+
+void TestWindow::callsAreToldBelowTheRowsAndUnderTheScreens()
+{
+    click("Incoming call");
+    const auto *notice = window->findChild<QWidget *>("call notice");
+    const auto *list = window->findChild<ZListBox *>();
+    const QRect lastRow = list->visualRect(list->model()->index(list->count() - 1, 0));
+    QVERIFY(notice->mapTo(window.get(), QPoint()).y() >
+            list->viewport()->mapTo(window.get(), lastRow.bottomLeft()).y());
+    QVERIFY(!notice->visibleRegion().isEmpty());
+    window->openScreen(0);
+    QVERIFY(notice->visibleRegion().isEmpty());
 }
 
 KAV_TEST_GROUP(TestWindow, QApplication);
