@@ -8,6 +8,7 @@
 #include "host/phone/CallNotice.h"
 #include "host/phone/Display.h"
 #include "host/phone/Keypad.h"
+#include "host/phone/KeysFrame.h"
 #include "host/phone/PhoneBody.h"
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZKeys.h"
@@ -138,6 +139,7 @@ bool PhoneWindow::complete()
 
 void PhoneWindow::connectHandset()
 {
+    new KeysFrame(body->display());
     calls = new CallNotice(*line, menu->getContentWidget(true), menu->rowsHeight());
     // Before the line is told: a call that one of these ends is news.
     connect(menu, &MenuScreen::clearKeyClicked, calls, &CallNotice::dismiss);

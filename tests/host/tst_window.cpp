@@ -94,6 +94,7 @@ private slots:
     void aTypedNumberIsForgottenByTheRedKeyAndStaysInThePanel();
     void aNumberOfEightySignsFitsOnTheDisplay();
     void callsAreToldBelowTheRowsAndUnderTheScreens();
+    void oneSeesWhetherTheKeysGoToThePhone();
 
 private:
     void openWindow(const std::shared_ptr<handset::Handset> &handset, const QString &directory = {},
@@ -994,6 +995,21 @@ void TestWindow::callsAreToldBelowTheRowsAndUnderTheScreens()
     QVERIFY(!notice->visibleRegion().isEmpty());
     window->openScreen(0);
     QVERIFY(notice->visibleRegion().isEmpty());
+}
+
+void TestWindow::oneSeesWhetherTheKeysGoToThePhone()
+{
+    const auto *frame = window->findChild<QWidget *>("keys frame");
+    QVERIFY(frame->isVisible());
+    window->findChild<QLineEdit *>()->setFocus();
+    QVERIFY(!frame->isVisible());
+    window->openScreen(0); // has the keys
+    QVERIFY(frame->isVisible());
+    clickKey("Down");
+    clickKey("Select"); // a dialog, whatever window it is in
+    QVERIFY(frame->isVisible());
+    const QWidget *display = ZApplication::display();
+    QVERIFY(frame->parentWidget() == display->parentWidget() && frame->geometry().contains(display->geometry()));
 }
 
 KAV_TEST_GROUP(TestWindow, QApplication);
