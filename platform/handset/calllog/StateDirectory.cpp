@@ -538,7 +538,7 @@ int StateDirectory::readBeginning(const QString &name, qint64 most, QByteArray &
     const Descriptor file(filePath(name), O_RDONLY | O_NOFOLLOW);
     if (!file.isOpen())
         return errno;
-    bytes.resize(std::min(most, static_cast<qint64>(status.st_size)));
+    bytes.resize(static_cast<qsizetype>(std::min<qint64>(most, status.st_size)));
     qsizetype length = 0;
     if (const int error = readUpTo(file.number(), bytes, length))
         return error;
