@@ -5,6 +5,10 @@ target_compile_features(kav_options INTERFACE cxx_std_20)
 target_compile_options(kav_options INTERFACE
     -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor $<$<BOOL:${KAV_WERROR}>:-Werror> -Werror=switch)
 target_compile_definitions(kav_options INTERFACE QT_NO_FOREACH QT_DEPRECATED_WARNINGS)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # Files and inodes beyond 32 bits, and times after the year 2038.
+    target_compile_definitions(kav_options INTERFACE _FILE_OFFSET_BITS=64 _TIME_BITS=64)
+endif()
 # Calls into the platform libraries must stay replaceable at load time: no symbolic binding, no inlining across
 # an exported entry point.
 target_compile_options(kav_options INTERFACE -fsemantic-interposition)
@@ -26,6 +30,11 @@ if(KAV_SANITIZE)
     endif()
 endif()
 
+if(KAV_FUZZ)
+    target_compile_options(kav_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(kav_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
 if(KAV_COVERAGE)
     target_link_options(kav_options INTERFACE -fprofile-instr-generate)
 endif()
@@ -34,6 +43,10 @@ endif()
 add_library(kav_test_options INTERFACE)
 target_link_libraries(kav_test_options INTERFACE kav_options)
 target_compile_options(kav_test_options INTERFACE -O0)
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # A file may be larger there than an array; those of the tests are small.
+    target_compile_options(kav_test_options INTERFACE -Wno-error=conversion)
+endif()
 # Nor does it need what the default linker takes five times as long for. (Clang's linker is in its preset.)
 find_program(KAV_GOLD ld.gold)
 if(KAV_GOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")

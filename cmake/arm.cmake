@@ -1,0 +1,32 @@
+# Cross-builds for the processors of phones, by Debian's cross-compilers: the presets arm64 and armhf, which say KAV_ARM.
+# The target's libraries are those of KAV_ARM_ROOT (scripts/arm-root), and what was built is run by Qemu.
+set(CMAKE_SYSTEM_NAME Linux)
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES KAV_ARM KAV_ARM_ROOT)
+if(KAV_ARM STREQUAL "arm64")
+    set(CMAKE_SYSTEM_PROCESSOR aarch64)
+    set(triple aarch64-linux-gnu)
+    set(emulator qemu-aarch64-static)
+elseif(KAV_ARM STREQUAL "armhf")
+    set(CMAKE_SYSTEM_PROCESSOR armv7l)
+    set(triple arm-linux-gnueabihf)
+    set(emulator qemu-arm-static)
+else()
+    message(FATAL_ERROR "KAV_ARM is arm64 or armhf, not \"${KAV_ARM}\".")
+endif()
+set(CMAKE_C_COMPILER ${triple}-gcc)
+set(CMAKE_CXX_COMPILER ${triple}-g++)
+set(CMAKE_LIBRARY_ARCHITECTURE ${triple})
+set(CMAKE_SYSROOT ${KAV_ARM_ROOT})
+set(CMAKE_FIND_ROOT_PATH ${KAV_ARM_ROOT})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${emulator} -L ${KAV_ARM_ROOT})
+# What Qt makes sources with is this machine's.
+set(QT_HOST_PATH /usr)
+file(GLOB QT_HOST_PATH_CMAKE_DIR /usr/lib/${CMAKE_HOST_SYSTEM_PROCESSOR}-linux-gnu/cmake)
+list(APPEND CMAKE_PROGRAM_PATH /usr/lib/qt6/bin)
+# A program that is run by Qemu has what that lacks.
+set(CMAKE_EXE_LINKER_FLAGS_INIT
+    "-Wl,--push-state,--no-as-needed ${KAV_ARM_ROOT}/usr/lib/libkav-emulator.so -Wl,--pop-state")
