@@ -67,6 +67,13 @@ private slots:
     void theFiguresAreThereWhenItIsOpened();
     void whatHappensWhileItIsOpenedIsTold();
     void openingWaitsForNobodyAndForNobodyLong();
+    void aDaemonThatDoesNotTellItsModemsIsSaidToBeSo();
+    void whatIsSaidOfNobodyKnownChangesNothing();
+    void aCallIsDialedByItsFirstStateAndFoundWhenItIsOn_data();
+    void aCallIsDialedByItsFirstStateAndFoundWhenItIsOn();
+    void withoutCallsThereIsNothingToAnswerOrEnd();
+    void dataConnectionsThatAreNotListedAreFollowedWhenTheyAreTold();
+    void aNetworkThatIsNotToldIsNone();
 };
 
 void TestModem::aCallIsFollowedFromItsFirstState()
@@ -647,6 +654,103 @@ void TestModem::openingWaitsForNobodyAndForNobodyLong()
     QVERIFY(opened.handset);
     QString text;
     QCOMPARE(opened.handset->adviceOfCharge()->priceAndCurrency(text, text), int(NotAvailable));
+}
+
+void TestModem::aDaemonThatDoesNotTellItsModemsIsSaidToBeSo()
+{
+    OfonoDesk desk;
+    desk.fake.errors["Manager.GetModems"] << "org.freedesktop.DBus.Error.Failed";
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("^oFono does not tell its modems: "));
+    desk.start();
+    QTRY_COMPARE(desk.modem->state().status, QStringLiteral("oFono does not tell its modems"));
+    QVERIFY(!desk.modem->state().isThere);
+    // A modem that it tells of then is there all the same.
+    desk.fake.addModem("/later", {{"Online", true}});
+    desk.fake.setInterfaces({"VoiceCallManager"}, "/later");
+    desk.fake.disappear();
+    desk.fake.appear();
+    QTRY_VERIFY(desk.modem->state().isThere);
+}
+
+void TestModem::whatIsSaidOfNobodyKnownChangesNothing()
+{
+    OfonoDesk desk;
+    desk.fake.setInterfaces({"VoiceCallManager", "ConnectionManager", "NetworkRegistration"});
+    desk.start();
+    QTRY_VERIFY(desk.fake.asked.contains("VoiceCallManager.GetCalls") &&
+                desk.fake.asked.contains("ConnectionManager.GetContexts"));
+    desk.fake.addCall(one, callIn("active"));
+    QTRY_VERIFY(!desk.heard->told.isEmpty());
+    const QStringList before = desk.heard->told;
+    desk.fake.tell("/other_9", "Modem", "PropertyChanged",
+                   {"Name", QVariant::fromValue(QDBusVariant(QStringLiteral("Nobody")))});
+    desk.fake.tell("/other_9/context1", "ConnectionContext", "PropertyChanged",
+                   {"Active", QVariant::fromValue(QDBusVariant(true))});
+    desk.fake.tell("/other_9/voicecall01", "VoiceCall", "DisconnectReason", {"remote"});
+    desk.fake.tell("/other_9", "NetworkRegistration", "PropertyChanged",
+                   {"Name", QVariant::fromValue(QDBusVariant(QStringLiteral("Elsewhere")))});
+    desk.fake.tell("/other_9", "CallMeter", "PropertyChanged",
+                   {"CallMeter", QVariant::fromValue(QDBusVariant(9U))});
+    desk.fake.tell(one, "VoiceCall", "PropertyChanged",
+                   {"State", QVariant::fromValue(QDBusVariant(QStringLiteral("held")))});
+    QTRY_VERIFY(desk.heard->last().contains("held"));
+    QCOMPARE(desk.heard->told.size(), before.size() + 1);
+    QVERIFY(desk.modem->state().network != "Elsewhere");
+}
+
+void TestModem::aCallIsDialedByItsFirstStateAndFoundWhenItIsOn_data()
+{
+    QTest::addColumn<QByteArray>("state");
+    QTest::addColumn<QString>("told");
+    QTest::newRow("held") << QByteArray("held") << "voicecall01 held 5550123 found";
+    QTest::newRow("alerting") << QByteArray("alerting") << "voicecall01 alerting 5550123";
+}
+
+void TestModem::aCallIsDialedByItsFirstStateAndFoundWhenItIsOn()
+{
+    QFETCH(const QByteArray, state);
+    QFETCH(const QString, told);
+    OfonoDesk desk;
+    desk.fake.setInterfaces({"VoiceCallManager"});
+    desk.start();
+    QTRY_VERIFY(desk.fake.asked.contains("VoiceCallManager.GetCalls"));
+    desk.fake.addCall(one, callIn(state.constData()));
+    QTRY_COMPARE(desk.heard->last(), told);
+}
+
+void TestModem::withoutCallsThereIsNothingToAnswerOrEnd()
+{
+    OfonoDesk desk;
+    desk.fake.setInterfaces({"NetworkRegistration"});
+    desk.start();
+    QTRY_VERIFY(desk.modem->state().isThere);
+    QCOMPARE(desk.modem->answer(one), int(NotAvailable));
+    QCOMPARE(desk.modem->hangUp(one), int(NotAvailable));
+    QCOMPARE(desk.modem->dial("5550123"), int(NotAvailable));
+}
+
+void TestModem::dataConnectionsThatAreNotListedAreFollowedWhenTheyAreTold()
+{
+    OfonoDesk desk;
+    desk.fake.errors["ConnectionManager.GetContexts"] << "Failed";
+    desk.fake.setInterfaces({"ConnectionManager"});
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("the data connections that there are"));
+    desk.start();
+    QTRY_VERIFY(desk.fake.asked.contains("ConnectionManager.GetContexts"));
+    desk.fake.addContext(OfonoDesk::context, {{"AccessPointName", "internet"}, {"Active", true}});
+    QTRY_VERIFY(desk.heard->last().startsWith("context1 internet"));
+}
+
+void TestModem::aNetworkThatIsNotToldIsNone()
+{
+    OfonoDesk desk;
+    desk.fake.answers["NetworkRegistration"] = {{"Name", "Network"}, {"Status", "registered"}};
+    desk.fake.errors["NetworkRegistration.GetProperties"] << "Failed";
+    desk.fake.setInterfaces({"NetworkRegistration"});
+    desk.start();
+    QTRY_VERIFY(desk.fake.asked.contains("NetworkRegistration.GetProperties"));
+    desk.fake.set(FakeOfono::modem, "NetworkRegistration", "Name", "Told");
+    QTRY_COMPARE(desk.modem->state().network, QStringLiteral("Told"));
 }
 
 KAV_TEST_GROUP(TestModem, QCoreApplication);

@@ -5,9 +5,11 @@
 #include "handset/HandsetTestKit.h"
 #include "handset/Status.h"
 #include "handset/calllog/repair/DamagedLogs.h"
+#include "support/FullDisk.h"
 #include "support/Sample.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 
 #include <sys/stat.h>
@@ -30,6 +32,9 @@ private slots:
     void everyLongStepOfAReplacementSaysHowFarItIs();
     void aReplacementThatIsGivenUpInAnyStepLeavesEverythingAsItWas();
     void aReadingThatTakesNoTimeSaysNothing();
+    void aMarkThatCannotBeMadeIsSaid_data();
+    void aMarkThatCannotBeMadeIsSaid();
+    void aBigLogThatIsSoundIsReadThroughWithoutAWord();
     void aMarkOfAnotherLogIsNoDamage_data();
     void aMarkOfAnotherLogIsNoDamage();
     void aPipeInThePlaceOfTheMarkIsNotWaitedFor();
@@ -256,6 +261,45 @@ void TestBigDamagedLog::aReadingThatTakesNoTimeSaysNothing()
     const Phone phone(state.path());
     QVERIFY(!phone.opened.notice.isEmpty());
     QVERIFY(phone.progress.isEmpty());
+}
+
+void TestBigDamagedLog::aMarkThatCannotBeMadeIsSaid_data()
+{
+    QTest::addColumn<bool>("isFull");
+    QTest::newRow("something else in its place") << false;
+    QTest::newRow("a full disk") << true;
+}
+
+void TestBigDamagedLog::aMarkThatCannotBeMadeIsSaid()
+{
+    QFETCH(bool, isFull);
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(20'000)), int(Success));
+    QVERIFY(damage(state.database(), false));
+    if (!isFull)
+        QVERIFY(QDir().mkpath(state.file(QStringLiteral("calllog.db-damaged"))));
+    QStringList told;
+    Phone phone(state.path(), nullptr, [&](const QString &notice) { told << notice; });
+    QVERIFY2(phone, qPrintable(phone.opened.error));
+    {
+        const support::FullDisk full(isFull ? 0 : RLIM_INFINITY);
+        QTRY_COMPARE(told.size(), 1);
+    }
+    QCOMPARE(told.first(),
+             QStringLiteral("The call log is damaged, and that cannot be noted for the next start."));
+    QVERIFY(phone.dialed(second)); // it is used as it is
+}
+
+void TestBigDamagedLog::aBigLogThatIsSoundIsReadThroughWithoutAWord()
+{
+    const StateDir state;
+    QCOMPARE(Phone(state.path())->addHistory(manyCalls(20'000)), int(Success));
+    // What is not known is measured on the way, which shows that it has been read through.
+    QVERIFY(LogFile(state.database()).run(QStringLiteral("UPDATE lost SET value = NULL")));
+    QStringList told;
+    const Phone phone(state.path(), nullptr, [&](const QString &notice) { told << notice; });
+    QTRY_COMPARE(LogFile(state.database()).value(QStringLiteral("SELECT count(value) FROM lost")).toInt(), 5);
+    QCOMPARE(told, QStringList());
 }
 
 void TestBigDamagedLog::aMarkOfAnotherLogIsNoDamage_data()

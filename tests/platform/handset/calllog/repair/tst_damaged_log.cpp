@@ -141,6 +141,7 @@ private slots:
     void aLogInUseByAnotherProgramIsLeftAlone();
     void aReplacementThatWasInterruptedIsMadeUpFor_data();
     void aReplacementThatWasInterruptedIsMadeUpFor();
+    void aWriteAheadLogThatIsAllThereIsIsKept();
     void aDiskThatIsFullIsAnErrorAndChangesNothing();
 
     void aLogWithWrongSessionTablesIsReplaced_data();
@@ -702,6 +703,8 @@ void TestDamagedLog::aReplacementThatWasInterruptedIsMadeUpFor_data()
         << QStringList{log, unfinished, unfinished + QStringLiteral("-wal"), QStringLiteral("calllog-copy.db")}
         << onlyTheLog;
     QTest::newRow("while the very first was made") << QStringList{ready, unfinished} << onlyTheLog;
+    QTest::newRow("while the new one was made, whose write-ahead log alone is there")
+        << QStringList{log, unfinished + QStringLiteral("-wal")} << onlyTheLog;
     QTest::newRow("before the old one made way") << QStringList{log, ready} << onlyTheLog;
     QTest::newRow("before the new one took its place") << QStringList{ready} << onlyTheLog;
     QTest::newRow("before the write-ahead log followed the old one")
@@ -723,6 +726,16 @@ void TestDamagedLog::aReplacementThatWasInterruptedIsMadeUpFor()
     QCOMPARE(phone.figures(), sample.figures);
     phone.close();
     QCOMPARE(state.names(), left);
+}
+
+void TestDamagedLog::aWriteAheadLogThatIsAllThereIsIsKept()
+{
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(writeFile(state.file(QStringLiteral("calllog-new.db-wal")), "calls of which nobody knows"));
+    QVERIFY(Phone(state.path()).dialed(second));
+    QCOMPARE(state.names(), QStringList({"calllog-new-kept-1.db-wal", "calllog.db"}));
+    QCOMPARE(readFile(state.file(QStringLiteral("calllog-new-kept-1.db-wal"))), "calls of which nobody knows");
 }
 
 void TestDamagedLog::aDiskThatIsFullIsAnErrorAndChangesNothing()
