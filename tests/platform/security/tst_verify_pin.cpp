@@ -3,8 +3,11 @@
 #include "handset/DecoratedHandset.h"
 #include "security/PinEntryDlg.h"
 #include "security/SETUP_SECURITY_Util.h"
+#include "support/RecordingTranslator.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
+#include "toolkit/ZLabel.h"
+#include "toolkit/ZSkinService.h"
 
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QPoint>
@@ -198,6 +201,9 @@ private slots:
     void withoutAScreenTheEntryLiesOverTheDisplay();
     void anotherHandsetInstalledMeanwhileIsTheOneAsked();
     void theEntryCanBeOpenedByAKeyPress();
+    void everyTextIsAskedForByItsKeyAndItsEnglish_data();
+    void everyTextIsAskedForByItsKeyAndItsEnglish();
+    void theEntryHasItsFieldInAFrameAndItsLegendBelow();
 
 private:
     std::shared_ptr<SimOnlyHandset> handset;
@@ -648,6 +654,103 @@ void TestVerifyPin::theEntryCanBeOpenedByAKeyPress()
         QVERIFY(user.isDone());
     }
     QCOMPARE(answers, QList<bool>({true, false}));
+}
+
+void TestVerifyPin::everyTextIsAskedForByItsKeyAndItsEnglish_data()
+{
+    QTest::addColumn<int>("pin");
+    QTest::newRow("PIN1") << int(SETUP_SECURITY_PIN1);
+    QTest::newRow("PIN2") << int(SETUP_SECURITY_PIN2);
+}
+
+void TestVerifyPin::everyTextIsAskedForByItsKeyAndItsEnglish()
+{
+    QFETCH(int, pin);
+    const auto which = static_cast<SETUP_SECURITY_PINTYPE_E>(pin);
+    RecordingTranslator translator;
+    handset->sim.tries = 2;
+    User user({keys("0000"), key(Qt::Key_Select), keys("0000"), key(Qt::Key_Select), key(Qt::Key_Select)});
+    QCOMPARE(verify(screen.get(), which).error, SETUP_SECURITY_VERIFY_BLOCKED);
+    QVERIFY(user.isDone());
+    handset->sim.statusOfPinStatus = handset::NotAvailable;
+    User other({key(Qt::Key_Select)});
+    QCOMPARE(verify(screen.get(), which).error, SETUP_SECURITY_VERIFY_FAILED);
+    QStringList asked = lines(translator.take()).filter(QStringLiteral("SETUP_SECURITY_Util"));
+    asked.removeDuplicates();
+    asked.sort();
+    const QString name = QTest::currentDataTag();
+    QStringList expected;
+    const auto expect = [&](const QString &text, const QString &english) {
+        expected << QStringLiteral("SETUP_SECURITY_Util, %1, %2").arg(text, english);
+    };
+    expect("TXT_RID_HEADER_" + name, name);
+    expect("TXT_RID_HEADER_ENTER_" + name, "Enter " + name);
+    expect("TXT_RID_INSTRUCTIONALTXT_WRONG_" + name, "Wrong " + name);
+    expect("TXT_RID_INSTRUCTIONALTXT_" + name + "_IS_BLOCKED",
+           name + " is blocked. Only PUK" + name.last(1) + " can unblock it.");
+    expect("TXT_RID_INSTRUCTIONALTXT_SIM_CANNOT_BE_ASKED_" + name,
+           "The SIM card cannot be asked for " + name + '.');
+    expect("TXT_RID_INSTRUCTIONALTXT_4_TO_8_DIGITS", "4 to 8 digits");
+    expect("FMT_RID_INSTRUCTIONALTXT_TRIES_LEFT_1", "Tries left: %1");
+    expect("TXT_RID_SOFTKEY_OK", "OK");
+    expect("TXT_RID_SOFTKEY_CANCEL", "Cancel");
+    expected.sort();
+    QCOMPARE(asked, expected);
+}
+
+void TestVerifyPin::theEntryHasItsFieldInAFrameAndItsLegendBelow()
+{
+    QRect field;
+    QRect legend;
+    QRect erase;
+    QRect first;
+    QSize body;
+    QImage look;
+    QImage eraseLook;
+    QString name;
+    bool areFontsRight = true;
+    const auto measure = [&] {
+        const auto labels = shownPopup()->findChildren<ZLabel *>();
+        for (ZLabel *label : labels) {
+            if (label->text().startsWith(u'#') || label->text() == QStringLiteral("4 to 8 digits"))
+                areFontsRight = areFontsRight && label->font() == ZSkinService::font(ZSkinService::HeadingFont);
+            if (label->text() == QStringLiteral("4 to 8 digits"))
+                legend = label->geometry();
+            if (label->text().startsWith(u'#')) {
+                erase = label->geometry();
+                eraseLook = label->grab().toImage();
+                body = label->parentWidget()->size();
+            }
+            if (label->text().startsWith(QStringLiteral("Tries left")))
+                first = label->geometry();
+        }
+        const auto widgets = shownPopup()->findChildren<QWidget *>();
+        for (QWidget *widget : widgets)
+            if (widget->accessibleDescription() == QString(2, QChar(0x2022)) && !qobject_cast<ZPopup *>(widget)) {
+                field = widget->geometry();
+                name = widget->accessibleName();
+                look = widget->grab().toImage();
+            }
+    };
+    User user({keys("123#"), measure, key(Qt::Key_Context2)});
+    verify(screen.get());
+    QVERIFY(user.isDone());
+    QVERIFY(field.isValid() && legend.isValid() && erase.isValid());
+    QCOMPARE(name, QStringLiteral("Enter PIN2"));
+    QVERIFY(areFontsRight);
+    QCOMPARE(body.width() - 1 - field.right(), field.left());
+    QVERIFY(first.bottom() < field.top() && field.bottom() < legend.top());
+    QCOMPARE(legend.top(), erase.top());
+    QCOMPARE(legend.right() + 1, erase.left());
+    QCOMPARE(legend.left(), field.left());
+    QCOMPARE(erase.right(), field.right());
+    QCOMPARE(body.height() - 1 - legend.bottom(), first.top()); // as much room below as above
+    for (const QPoint &corner :
+         {look.rect().topLeft(), look.rect().topRight(), look.rect().bottomLeft(), look.rect().bottomRight()})
+        QCOMPARE(look.pixelColor(corner), ZSkinService::color(ZSkinService::RowValueColor));
+    QCOMPARE(look.pixelColor(1, 1), ZSkinService::color(ZSkinService::ScreenColor));
+    QCOMPARE(look.pixelColor(look.width() - 2, look.height() - 2), ZSkinService::color(ZSkinService::ScreenColor));
+    QVERIFY(lastInk(eraseLook, eraseLook.pixelColor(0, 0)) >= eraseLook.width() - 3);
 }
 
 KAV_TEST_GROUP(TestVerifyPin, QApplication);

@@ -59,6 +59,9 @@ private slots:
     void whatIsCoveredIsNotPressed();
     void aScreenOfItsOwnIsAWindow();
     void widgetsThatAreMadeWhileSomebodyListensAreTheSame();
+    void aHeadingWithoutATextIsASeparator();
+    void whatIsAskedOfStrangersIsNothing();
+    void anActionThatASoftkeyHasNotDoesNothing();
 };
 
 void TestAccessible::aListHasTheTitleOfItsScreen()
@@ -461,6 +464,49 @@ void TestAccessible::widgetsThatAreMadeWhileSomebodyListensAreTheSame()
     QVERIFY(canBePressed(told(dialog.getListBox())->child(1)));
     QVERIFY(keyOf(screen.bar, ZSoftKey::LeftKey)->state().invisible);
     QCOMPARE(faultsFrom(told(&screen)), QString());
+}
+
+void TestAccessible::aHeadingWithoutATextIsASeparator()
+{
+    ListScreen screen;
+    screen.addRow("bar");
+    screen.addSeparator(QString());
+    QCOMPARE(told(screen.list)->child(1)->role(), QAccessible::Separator);
+}
+
+void TestAccessible::whatIsAskedOfStrangersIsNothing()
+{
+    ListScreen screen;
+    ListScreen other;
+    QVERIFY(screen.open(2));
+    other.addRows(2);
+    QAccessibleInterface *const list = told(screen.list);
+    QAccessibleInterface *const bar = told(screen.bar);
+    QCOMPARE(list->indexOfChild(list->child(1)), 1);
+    QCOMPARE(list->indexOfChild(told(other.list)->child(1)), -1);
+    QCOMPARE(list->indexOfChild(bar), -1);
+    QCOMPARE(list->indexOfChild(nullptr), -1);
+    QCOMPARE(bar->indexOfChild(bar->child(0)), 0);
+    QCOMPARE(bar->indexOfChild(list), -1);
+    QCOMPARE(bar->indexOfChild(nullptr), -1);
+    QAccessibleInterface *const last = list->child(1);
+    QVERIFY(last->isValid());
+    delete screen.list->item(1);
+    QVERIFY(!list->child(1));
+}
+
+void TestAccessible::anActionThatASoftkeyHasNotDoesNothing()
+{
+    ListScreen screen;
+    QVERIFY(screen.open(2));
+    QAccessibleInterface *const key = told(screen.bar)->child(1);
+    QSignalSpy clicked(qobject_cast<QAbstractButton *>(key->object()), &QAbstractButton::clicked);
+    QAccessibleActionInterface *const softkey = key->actionInterface();
+    softkey->doAction(QAccessibleActionInterface::toggleAction());
+    settle();
+    QCOMPARE(clicked.count(), 0);
+    softkey->doAction(QAccessibleActionInterface::pressAction());
+    QTRY_COMPARE_WITH_TIMEOUT(clicked.count(), 1, patience);
 }
 
 KAV_TEST_GROUP(TestAccessible, QApplication);

@@ -4,6 +4,8 @@
 #include "toolkit/ZApplication.h"
 #include "toolkit/ZSingleSelectDlg.h"
 
+#include <QtCore/QElapsedTimer>
+#include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
 using namespace DialogTestKit;
@@ -36,6 +38,10 @@ private slots:
     void anotherKeyInBetweenStartsTheNumberKeyAnew();
     void numberKeysAreDigitsWhereRowsBeginWithThem();
     void lettersDoNotAnswer();
+    void aHeadingIsPassedOver();
+    void aLetterTypedLaterBeginsAnew();
+    void keysWithAnotherMeaningMoveNothing_data();
+    void keysWithAnotherMeaningMoveNothing();
 
 private:
     std::unique_ptr<ListScreen> screen;
@@ -134,6 +140,52 @@ void TestChoiceByLetter::lettersDoNotAnswer()
         type(list, QLatin1Char(letter));
     pressKeys("1234567890*#");
     QVERIFY(answers.given.isEmpty());
+    QVERIFY(dialog->isVisible());
+}
+
+void TestChoiceByLetter::aHeadingIsPassedOver()
+{
+    auto *const heading = new ZSettingItem(list, QString());
+    heading->setSeparator(QStringLiteral("UNITS"), nullptr);
+    list->insertItem(heading, 6, true);
+    type(list, QLatin1Char('u'));
+    QCOMPARE(chosen(list), QStringLiteral("UGANDA"));
+}
+
+void TestChoiceByLetter::aLetterTypedLaterBeginsAnew()
+{
+    QApplication::setKeyboardInputInterval(0);
+    type(list, QLatin1Char('u'));
+    QElapsedTimer since;
+    since.start();
+    QTRY_VERIFY(since.hasExpired(0));
+    type(list, QLatin1Char('z'));
+    QCOMPARE(chosen(list), QStringLiteral("ZAMBIA"));
+}
+
+void TestChoiceByLetter::keysWithAnotherMeaningMoveNothing_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<Qt::KeyboardModifiers>("modifiers");
+    QTest::addColumn<QString>("text");
+    const auto row = [](const char *name, int key, Qt::KeyboardModifiers modifiers, const char *text) {
+        QTest::newRow(name) << key << modifiers << QString::fromLatin1(text);
+    };
+    row("a shortcut", Qt::Key_U, Qt::ControlModifier, "u");
+    row("another shortcut", Qt::Key_U, Qt::AltModifier, "u");
+    row("a shortcut with a number", Qt::Key_8, Qt::MetaModifier, "8");
+    row("a control character", Qt::Key_unknown, Qt::NoModifier, "\x07");
+    row("no text", Qt::Key_F7, Qt::NoModifier, "");
+}
+
+void TestChoiceByLetter::keysWithAnotherMeaningMoveNothing()
+{
+    QFETCH(int, key);
+    QFETCH(Qt::KeyboardModifiers, modifiers);
+    QFETCH(QString, text);
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+    QCoreApplication::sendEvent(list, &press);
+    QCOMPARE(chosen(list), QStringLiteral("Custom"));
     QVERIFY(dialog->isVisible());
 }
 

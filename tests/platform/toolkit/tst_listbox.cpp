@@ -13,10 +13,13 @@
 #include <QtCore/QSize>
 #include <QtGui/QAccessible>
 #include <QtGui/QAccessibleInterface>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyledItemDelegate>
 #include <QtWidgets/QWidget>
 
 #include <array>
@@ -87,6 +90,9 @@ class TestListBox : public QObject
     Q_OBJECT
 
 private slots:
+    void aDelegateOfAHostPaintsTheRows();
+    void flagsAreThoseOfAWindow();
+    void aControlCharacterIsNotTyped();
     void init();
 
     void rowsAreKeptInTheOrderOfTheirInsertion();
@@ -884,6 +890,41 @@ void TestListBox::randomInsertionsAndDeletionsAgreeWithAPlainList()
         if (step % 100 == 0)
             settle();
     }
+}
+
+void TestListBox::aDelegateOfAHostPaintsTheRows()
+{
+    class Red : public QStyledItemDelegate
+    {
+    public:
+        using QStyledItemDelegate::QStyledItemDelegate;
+        void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &) const override
+        {
+            painter->fillRect(option.rect, Qt::red);
+        }
+    };
+    ListScreen screen;
+    screen.addRows(2);
+    screen.list->setItemDelegate(new Red(screen.list));
+    QCOMPARE(lookOfRow(screen.list, 1).pixelColor(20, 4), QColor(Qt::red));
+}
+
+void TestListBox::flagsAreThoseOfAWindow()
+{
+    QWidget parent;
+    const ZListBox inside(QStringLiteral("%I"), &parent, 0, ZSkinService::SettingListClass);
+    const ZListBox window(QStringLiteral("%I"), &parent, Qt::Tool, ZSkinService::SettingListClass);
+    QVERIFY(!inside.isWindow());
+    QVERIFY(window.isWindow());
+}
+
+void TestListBox::aControlCharacterIsNotTyped()
+{
+    ListScreen screen;
+    QVERIFY(screen.open(3));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("\x07"));
+    QCoreApplication::sendEvent(screen.list, &press);
+    QCOMPARE(screen.list->currentItem(), 0);
 }
 
 KAV_TEST_GROUP(TestListBox, QApplication);

@@ -147,6 +147,8 @@ private slots:
     void aCounterThatIsNoneCountsNothing();
     void theReportListsSessionsInTheirOrder();
     void whatIsGoneOrUnknownChangesNothing();
+    void aLogThatCannotBeOpenedIsAnErrorAndNoTelephone();
+    void aBigLogIsReadThroughBesideItsUse();
     void whatAReaderChangesIsAnnounced();
     void nothingWakesUpWhileNothingRuns();
     void whatTheModemDoesNotHaveIsNotAvailable();
@@ -1097,6 +1099,39 @@ void TestRecording::whatIsGoneOrUnknownChangesNothing()
     QVERIFY(!desk.phone->calls().connectedMs(QStringLiteral("/nothing")));
     QVERIFY(!desk.phone->sessions().bytesOf(QStringLiteral("/nothing")));
     QCOMPARE(desk.calls() + desk.sessions(), QString());
+}
+
+void TestRecording::aLogThatCannotBeOpenedIsAnErrorAndNoTelephone()
+{
+    const StateDir state;
+    QVERIFY(writeFile(state.path(), "in its place"));
+    Settings settings;
+    settings.stateDirectory = state.path();
+    settings.clock = std::make_shared<ManualClock>();
+    const Opened opened = live::open(settings, std::make_unique<ScriptedModem>());
+    QVERIFY(!opened.handset);
+    QCOMPARE(opened.error,
+             QStringLiteral("The state directory \"%1\" cannot be used: Not a directory.").arg(state.path()));
+}
+
+void TestRecording::aBigLogIsReadThroughBesideItsUse()
+{
+    const StateDir state;
+    QList<PastCall> calls;
+    for (int i = 0; i < 20'000; ++i)
+        calls.append({CallKind::Voice, CallDirection::Dialed, QString::number(i), i * minute, second});
+    QCOMPARE(Phone(state.path())->addHistory(calls), int(Success));
+    const LogFile log(state.database());
+    QVERIFY(log.run(QStringLiteral("UPDATE totals SET ms = ms + 1 WHERE counter = 'lifetime'")));
+    QStringList told;
+    Settings settings;
+    settings.stateDirectory = state.path();
+    settings.clock = std::make_shared<ManualClock>();
+    settings.tell = [&told](const QString &notice) { told << notice; };
+    const Opened opened = live::open(settings, std::make_unique<ScriptedModem>());
+    QVERIFY2(opened.handset, qPrintable(opened.error));
+    QTRY_COMPARE(told.size(), 1);
+    QVERIFY(told.constFirst().startsWith(QStringLiteral("The call log is damaged. The next start begins")));
 }
 
 KAV_TEST_GROUP(TestRecording, QCoreApplication);
