@@ -200,7 +200,7 @@ void TestRandomKeys::nothingFallsOverAndTheHeapStaysFlat()
     handset->addHistory(handset::simulated::readyMadeHistory(clock->wallMs()));
     installed = std::make_shared<FaultyHandset>(owner);
     handset::install(installed);
-    const quint32 seed = qEnvironmentVariableIntValue("KAV_SEED") ? qEnvironmentVariableIntValue("KAV_SEED") : 1;
+    const quint32 seed = std::max(1U, static_cast<quint32>(qEnvironmentVariableIntValue("KAV_SEED")));
     random.seed(seed);
     openWindow();
 
