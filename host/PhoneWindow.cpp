@@ -17,8 +17,9 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QBoxLayout>
 
 #include <utility>
 
@@ -27,12 +28,23 @@ namespace host {
 namespace {
 
 constexpr int deskMargin = 24;
+constexpr int leastDeskMargin = 8; // above and below, on a low screen
+
+// As large as it wants to be, or as its screen lets it: some of a low screen is for the window's title.
+QSize sizeOnScreen(const QWidget &window)
+{
+    constexpr int titleHeight = 40;
+    const QSize wanted = window.sizeHint();
+    const QSize screen = window.screen()->availableSize();
+    return wanted.height() <= screen.height() ? wanted.boundedTo(screen)
+                                              : wanted.boundedTo(screen - QSize(0, titleHeight));
+}
 
 } // namespace
 
 PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
     : openHandset(std::move(open))
-    , row(new QHBoxLayout(this))
+    , row(new QHBoxLayout)
     , body(new PhoneBody(this))
     , menu(new MenuScreen(body->display()))
     , screens(library, body->display())
@@ -63,11 +75,21 @@ PhoneWindow::~PhoneWindow()
 
 void PhoneWindow::layOut()
 {
-    row->setContentsMargins(deskMargin, deskMargin, deskMargin, deskMargin);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(deskMargin, leastDeskMargin, deskMargin, leastDeskMargin);
+    column->setSpacing(0);
+    const auto addDesk = [column] {
+        column->addItem(
+            new QSpacerItem(0, deskMargin - leastDeskMargin, QSizePolicy::Minimum, QSizePolicy::Maximum));
+    };
+    addDesk();
+    column->addLayout(row, 1);
+    addDesk();
     row->setSpacing(deskMargin);
     row->addWidget(body, 0, Qt::AlignTop);
     placeOfPanel = new QSpacerItem(deskMargin + Panel::usualWidth, 0, QSizePolicy::MinimumExpanding);
     row->addItem(placeOfPanel);
+    resize(sizeOnScreen(*this));
 }
 
 // In the panel's place: as wide as a panel at the least, so that the window keeps its size.
@@ -161,7 +183,7 @@ void PhoneWindow::makePanel()
     delete std::exchange(opening, nullptr);
     putBeside(panel);
     // For texts that are longer than usual in their language.
-    resize(size().expandedTo(sizeHint()));
+    resize(size().expandedTo(sizeOnScreen(*this)));
 }
 
 bool PhoneWindow::openScreen(int index)

@@ -10,6 +10,7 @@
 #include "host/QtStart.h"
 #include "host/ReadFile.h"
 #include "host/ScreenLibrary.h"
+#include "host/WindowPlace.h"
 #include "host/faults/FaultyHandset.h"
 #include "host/tour/TourPlayer.h"
 #include "log/aplog.h"
@@ -285,6 +286,8 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
         QCoreApplication::exit(ExitSuccess); // also while something else is open
     });
     window.choosePage(options.page);
+    if (options.photo.isEmpty())
+        takePlace(window);
     window.show();
     const bool needsHandset = !options.screen.isEmpty() || !options.photo.isEmpty();
     if (needsHandset && !window.complete())
@@ -294,6 +297,7 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
     if (!options.photo.isEmpty())
         return photographWindow(window, options.photo);
     const int code = endSignals.haveCome() ? ExitSuccess : QApplication::exec();
+    keepPlace(window);
     return openingCode == ExitSuccess ? code : openingCode;
 }
 

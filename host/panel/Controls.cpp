@@ -4,11 +4,13 @@
 
 #include <QtCore/QEvent>
 #include <QtCore/QRegularExpression>
+#include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtWidgets/QAccessibleWidget>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
 
 #include <utility>
 
@@ -79,8 +81,20 @@ void Announcement::say(const QString &text, const QString &gist)
 {
     setText(text);
     setVisible(!text.isEmpty());
-    if (std::exchange(told, gist) != gist && isVisible())
-        LiveRegion::tell(window(), spoken());
+    if (std::exchange(told, gist) == gist || !isVisible())
+        return;
+    LiveRegion::tell(window(), spoken());
+    // Once it has its place.
+    QTimer::singleShot(0, this, &Announcement::comeIntoView);
+}
+
+void Announcement::comeIntoView()
+{
+    QWidget *widget = this;
+    while (widget && !qobject_cast<QScrollArea *>(widget))
+        widget = widget->parentWidget();
+    if (widget && isVisible())
+        static_cast<QScrollArea *>(widget)->ensureWidgetVisible(this, 0);
 }
 
 namespace {

@@ -27,7 +27,7 @@ private:
 };
 
 /// A value that is told without being asked for: a state, a refusal, a countdown, a result. It takes room only while
-/// there is a text.
+/// there is a text, and is scrolled into view when that is news.
 class Announcement : public Value
 {
     Q_OBJECT
@@ -41,6 +41,8 @@ public:
     void say(const QString &text) { say(text, text); }
 
 private:
+    void comeIntoView();
+
     QString told;
 };
 

@@ -15,6 +15,7 @@
 
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QProxyStyle>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QVBoxLayout>
 
@@ -49,23 +50,24 @@ QVBoxLayout *makeColumn(QWidget *owner)
 } // namespace
 
 Panel::Panel(Line &drivenLine, const Setup &setup, QWidget *parent)
-    : QScrollArea(parent)
+    : QWidget(parent)
     , line(drivenLine)
     , tabs(new QTabBar)
+    , scrolled(new QScrollArea)
 {
-    auto *content = new QWidget;
-    QVBoxLayout *column = makeColumn(content);
+    QVBoxLayout *column = makeColumn(this);
     column->addWidget(keep(new LineSection(line)));
     column->addWidget(tabs);
-    pageColumn = makeColumn(nullptr);
-    column->addLayout(pageColumn);
-    column->addStretch();
+    column->addWidget(scrolled, 1);
+    auto *content = new QWidget;
+    pageColumn = makeColumn(content);
     addPages(setup); // before the column is laid out: tabs that come later find no room
-    setFrameShape(NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
-    setWidget(content);
+    pageColumn->addStretch();
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    scrolled->setWidgetResizable(true);
+    scrolled->setWidget(content);
     makeRoom();
     connect(&line, &Line::changed, this, &Panel::refresh);
     connect(&tick, &QTimer::timeout, this, &Panel::refresh);
@@ -112,7 +114,7 @@ QWidget *Panel::makePage(const Page &page)
     const QList<PanelSection *> ofPage = page.makeSections();
     for (PanelSection *section : ofPage)
         inPage->addWidget(keep(section));
-    pageColumn->addWidget(widget);
+    pageColumn->insertWidget(0, widget);
     return widget;
 }
 
@@ -127,7 +129,7 @@ void Panel::showPage(int index)
         if (page.widget)
             page.widget->setVisible(page.widget == shown);
     }
-    if (widget())
+    if (scrolled->widget())
         makeRoom();
 }
 
@@ -142,10 +144,11 @@ void Panel::choosePage(int index)
     tabs->setCurrentIndex(index);
 }
 
+// As high as the phone beside it, or whatever there is.
 QSize Panel::sizeHint() const
 {
-    const int least = widget()->minimumSizeHint().width();
-    return {std::max(usualWidth, least), QScrollArea::sizeHint().height()};
+    const QSize least = layout()->minimumSize();
+    return {std::max({usualWidth, least.width(), scrolled->widget()->minimumSizeHint().width()}), least.height()};
 }
 
 PanelSection *Panel::keep(PanelSection *section)
@@ -167,7 +170,7 @@ void Panel::refresh()
 // Return in a field, or a Backspace that finds nothing to take back, is not meant for the phone.
 void Panel::keyPressEvent(QKeyEvent *event)
 {
-    QScrollArea::keyPressEvent(event);
+    QWidget::keyPressEvent(event);
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

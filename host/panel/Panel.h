@@ -5,11 +5,12 @@
 
 #include <QtCore/QList>
 #include <QtCore/QTimer>
-#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QWidget>
 
 #include <array>
 #include <functional>
 
+class QScrollArea;
 class QTabBar;
 class QVBoxLayout;
 
@@ -22,8 +23,9 @@ class PanelSection;
 inline constexpr std::array<const char *, 6> pageNames{"calls", "charging", "sim", "data", "recent", "failures"};
 
 /// The line, and under it a page for each side of the handset: a column of sections, each a class of its own. A new
-/// role of the handset is a new section. A page is made when it is shown for the first time.
-class Panel : public QScrollArea
+/// role of the handset is a new section. A page is made when it is shown for the first time. Where there is no room for all
+/// of it the page is scrolled, and the line stays.
+class Panel : public QWidget
 {
     Q_OBJECT
 
@@ -69,6 +71,7 @@ private:
 
     Line &line;
     QTabBar *tabs;
+    QScrollArea *scrolled; ///< the pages
     QVBoxLayout *pageColumn;
     QList<Page> pages;
     QList<PanelSection *> sections; ///< of the line and of the pages that are made

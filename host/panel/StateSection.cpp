@@ -10,10 +10,13 @@ namespace host {
 
 namespace {
 
-// A path has no blanks to break at; an invisible one behind each slash lets it wrap there.
-QString breakable(QString path)
+// A path has no blanks to break at; an invisible one behind each slash lets it wrap there, and others within a long name.
+QString breakable(const QString &path)
 {
-    return path.replace(QLatin1Char('/'), QStringLiteral("/\u200b"));
+    QStringList names = path.split(QLatin1Char('/'));
+    for (QString &name : names)
+        name = breakableWords(name);
+    return names.join(QStringLiteral("/\u200b"));
 }
 
 } // namespace

@@ -6,17 +6,40 @@
 
 #include <QtGui/QPainter>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
 
 constexpr int sideMargin = 26;
 constexpr int bezel = 8;
-constexpr int displayTop = 48;
-constexpr int keypadTop = displayTop + ZSkinService::DisplayHeight + bezel + 14;
-constexpr int keypadHeight = 264;
+constexpr int displayToKeys = bezel + 14;
 constexpr int bodyWidth = ZSkinService::DisplayWidth + 2 * sideMargin;
-constexpr int bodyHeight = keypadTop + keypadHeight + 24;
+
+/// What may be lower where there is little room, each from its least to its usual height.
+struct Heights {
+    int head; ///< above the display
+    int keys;
+    int foot;
+
+    constexpr int body() const { return head + ZSkinService::DisplayHeight + displayToKeys + keys + foot; }
+};
+constexpr Heights usual{48, 264, 24};
+constexpr Heights least{20, 164, 12}; // with the desk around it, this fits a window on a screen of 600
+
+int between(int from, int to, int height)
+{
+    return from + (to - from) * (height - least.body()) / (usual.body() - least.body());
+}
+
+Heights heightsIn(int height)
+{
+    const int given = std::clamp(height, least.body(), usual.body());
+    const int head = between(least.head, usual.head, given);
+    const int foot = between(least.foot, usual.foot, given);
+    return {head, given - Heights{head, 0, foot}.body(), foot};
+}
 
 constexpr QColor bodyTop(0x39, 0x41, 0x4d);
 constexpr QColor bodyFoot(0x22, 0x27, 0x2f);
@@ -37,11 +60,14 @@ void paintCase(QPainter &painter, const QRectF &outline)
     painter.drawRoundedRect(outline.adjusted(3.5, 3.5, -3.5, -3.5), 31, 31);
 }
 
-void paintSpeaker(QPainter &painter)
+// Not where the display is too near to the edge.
+void paintSpeaker(QPainter &painter, int head)
 {
+    if (head < 40)
+        return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(glass);
-    painter.drawRoundedRect(QRectF(bodyWidth / 2.0 - 28, 20, 56, 7), 3.5, 3.5);
+    painter.drawRoundedRect(QRectF(bodyWidth / 2.0 - 28, head - 28, 56, 7), 3.5, 3.5);
 }
 
 } // namespace
@@ -51,9 +77,28 @@ PhoneBody::PhoneBody(QWidget *parent)
     , phoneDisplay(new Display(this))
     , phoneKeypad(new Keypad(this))
 {
-    setFixedSize(bodyWidth, bodyHeight);
-    phoneDisplay->move(sideMargin, displayTop);
-    phoneKeypad->setGeometry(sideMargin, keypadTop, ZSkinService::DisplayWidth, keypadHeight);
+    setFixedWidth(bodyWidth);
+    setMinimumHeight(least.body());
+    setMaximumHeight(usual.body());
+    resize(sizeHint());
+}
+
+QSize PhoneBody::sizeHint() const
+{
+    return {bodyWidth, usual.body()};
+}
+
+QSize PhoneBody::minimumSizeHint() const
+{
+    return {bodyWidth, least.body()};
+}
+
+void PhoneBody::resizeEvent(QResizeEvent *)
+{
+    const Heights heights = heightsIn(height());
+    phoneDisplay->move(sideMargin, heights.head);
+    phoneKeypad->setGeometry(sideMargin, heights.head + ZSkinService::DisplayHeight + displayToKeys,
+                             ZSkinService::DisplayWidth, heights.keys);
 }
 
 void PhoneBody::paintEvent(QPaintEvent *)
@@ -61,7 +106,7 @@ void PhoneBody::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintCase(painter, rect());
-    paintSpeaker(painter);
+    paintSpeaker(painter, phoneDisplay->y());
     painter.setBrush(glass);
     painter.drawRoundedRect(QRectF(phoneDisplay->geometry()).adjusted(-bezel, -bezel, bezel, bezel), 8, 8);
 }

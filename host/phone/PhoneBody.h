@@ -1,4 +1,4 @@
-// The phone as it lies on the desk: a body around the display and the keypad.
+// The phone as it lies on the desk: a body around the display and the keypad. On a low screen it is shorter, its keys lower.
 #pragma once
 
 #include <QtWidgets/QWidget>
@@ -18,7 +18,11 @@ public:
     Display *display() const { return phoneDisplay; }
     Keypad *keypad() const { return phoneKeypad; }
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
+    void resizeEvent(QResizeEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

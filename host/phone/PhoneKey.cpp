@@ -4,6 +4,8 @@
 #include <QtGui/QPainterPath>
 #include <QtGui/QPixmapCache>
 
+#include <algorithm>
+
 namespace host {
 
 namespace {
@@ -109,7 +111,7 @@ QPixmap PhoneKey::face() const
 void PhoneKey::paintText(QPainter &painter) const
 {
     painter.setPen(printed);
-    painter.setFont(printFont(15, true));
+    painter.setFont(printFont(std::min(15, height() - 4), true));
     if (letters.isEmpty()) {
         painter.drawText(rect(), Qt::AlignCenter, text());
         return;

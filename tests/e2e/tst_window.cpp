@@ -250,7 +250,7 @@ void TestWindow::theNoticeOfARunningDataCallLiesOverTheDisplayAndGoesWithItsKey(
     press("Return");
     verifyDisplay(QStringLiteral("data-calls-kept"));
     press("F2");
-    verifyDisplay(QStringLiteral("menu"));
+    verifyDisplay(QStringLiteral("menu-while-dialing"));
     leave();
 
     quint32 seconds = 0;

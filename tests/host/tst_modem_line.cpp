@@ -403,12 +403,12 @@ void TestModemLine::dataSessionsAreShownWithTheirBytes()
 
 void TestModemLine::aNumberOfEightyDigitsPushesNothingOut()
 {
-    const int width = window->findChild<Panel *>()->widget()->minimumSizeHint().width();
+    const int width = window->findChild<Panel *>()->sizeHint().width();
     LineCall call = callIn(CallPhase::Active, "a", 1'000);
     call.number = QString(80, QLatin1Char('8'));
     handset->now.modem = QString(200, QLatin1Char('m'));
     handset->setCalls({call});
-    QCOMPARE(window->findChild<Panel *>()->widget()->minimumSizeHint().width(), width);
+    QCOMPARE(window->findChild<Panel *>()->sizeHint().width(), width);
     QCOMPARE(label("line state"), "Connected 00:00:01, " + call.number);
 }
 

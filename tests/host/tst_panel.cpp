@@ -13,6 +13,7 @@
 #include "host/faults/FaultyHandset.h"
 #include "host/panel/CodeField.h"
 #include "host/panel/Controls.h"
+#include "host/panel/LineSection.h"
 #include "host/panel/Panel.h"
 #include "host/phone/PhoneKey.h"
 #include "simulated/SimulatedHandset.h"
@@ -41,6 +42,8 @@
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QListWidget>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
 #include <QtWidgets/QTabBar>
 #include <QtWidgets/QTreeView>
 
@@ -203,6 +206,9 @@ private slots:
     void theWheelTurnsThePanelAndNoNumber();
     void nothingIsCutOffInANarrowPanel_data();
     void nothingIsCutOffInANarrowPanel();
+    void theLineStaysWhereItIsWhileAPageIsScrolled();
+    void aRefusalOutOfSightComesIntoView();
+    void aLongPathIsBrokenAndPushesNothingOut();
     void aCatalogueTranslatesAllThatThePanelSays();
     void aCatalogueTranslatesWhatIsRefused();
     void aCatalogueTranslatesTheLineAndTheEndOfCharging();
@@ -1272,15 +1278,18 @@ void TestPanel::nothingIsCutOffInANarrowPanel()
     clock->advance(3600000);
     QCOMPARE(handset->packets().stopSession(), 0);
     Line line(owner);
-    Panel panel(line, {QStringLiteral("/home/somebody/.local/share/kavcallmeter"), {}, &installed->faults()});
+    QWidget desk;
+    Panel panel(line, {QStringLiteral("/home/somebody/.local/share/kavcallmeter"), {}, &installed->faults()},
+                &desk);
     panel.resize(340, 400); // so that there is a scroll bar, too
-    panel.show();
+    desk.show();
     auto *tabs = panel.findChild<QTabBar *>();
     while (tabs->tabText(tabs->currentIndex()) != QString::fromLatin1(tab))
         tabs->setCurrentIndex(tabs->currentIndex() + 1);
     QCoreApplication::processEvents();
     QCOMPARE(panel.width(), 340);
-    QVERIFY2(panel.widget()->width() <= panel.viewport()->width(), "it would have to be scrolled sideways");
+    const auto *pages = panel.findChild<QScrollArea *>();
+    QVERIFY2(pages->widget()->width() <= pages->viewport()->width(), "it would have to be scrolled sideways");
     QVERIFY(tabs->width() > tabs->tabRect(tabs->count() - 1).right());
     const QList<QWidget *> widgets = panel.findChildren<QWidget *>();
     for (const QWidget *widget : widgets) {
@@ -1292,6 +1301,45 @@ void TestPanel::nothingIsCutOffInANarrowPanel()
         if (label && label->isVisible() && label->wordWrap())
             QVERIFY2(label->height() >= label->heightForWidth(label->width()), qPrintable(label->objectName()));
     }
+}
+
+void TestPanel::theLineStaysWhereItIsWhileAPageIsScrolled()
+{
+    window->resize(704, 560);
+    window->choosePage(1);
+    auto *pages = window->findChild<QScrollArea *>();
+    QTRY_VERIFY(pages->verticalScrollBar()->maximum() > 0);
+    const auto *line = window->findChild<LineSection *>();
+    const QRect whole = line->rect();
+    QCOMPARE(line->visibleRegion().boundingRect(), whole);
+    pages->verticalScrollBar()->setValue(pages->verticalScrollBar()->maximum());
+    QCOMPARE(line->visibleRegion().boundingRect(), whole);
+    QVERIFY(!pages->isAncestorOf(line));
+}
+
+void TestPanel::aRefusalOutOfSightComesIntoView()
+{
+    window->resize(704, 560);
+    window->choosePage(1);
+    auto *pages = window->findChild<QScrollArea *>();
+    QTRY_VERIFY(pages->verticalScrollBar()->maximum() > 0);
+    control<QLineEdit>("top-up amount")->setText("nothing");
+    pages->verticalScrollBar()->setValue(0);
+    const auto *failure = control<QLabel>("account failure");
+    QVERIFY(failure->visibleRegion().isEmpty());
+    QTest::keyClick(control<QLineEdit>("top-up amount"), Qt::Key_Return);
+    QTRY_COMPARE(failure->visibleRegion().boundingRect(), failure->rect());
+    QVERIFY(!failure->text().isEmpty());
+}
+
+void TestPanel::aLongPathIsBrokenAndPushesNothingOut()
+{
+    Line line(owner);
+    QWidget desk;
+    const Panel usual(line, {}, &desk);
+    const Panel panel(line, {QStringLiteral("/home/") + QString(200, QLatin1Char('p')), {}, nullptr}, &desk);
+    QCOMPARE(panel.sizeHint().width(), usual.sizeHint().width());
+    QCOMPARE(panel.findChild<QLabel *>("state directory")->toolTip().size(), 206);
 }
 
 // All that the panel's pages say.

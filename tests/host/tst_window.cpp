@@ -8,8 +8,10 @@
 #include "handset/Status.h"
 #include "host/Line.h"
 #include "host/PhoneWindow.h"
+#include "host/WindowPlace.h"
 #include "host/doubles/RecordingPlugin.h"
 #include "host/panel/Panel.h"
+#include "host/phone/Display.h"
 #include "host/phone/Keypad.h"
 #include "host/phone/PhoneKey.h"
 #include "simulated/SimulatedHandset.h"
@@ -21,9 +23,12 @@
 #include "toolkit/ZListItem.h"
 #include "toolkit/ZSoftKey.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QLibrary>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QScopeGuard>
+#include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtCore/QTimer>
 #include <QtGui/QAccessible>
@@ -86,6 +91,9 @@ private slots:
     void theKeyUnderACaptionAnswersItAlsoRightToLeft_data();
     void theKeyUnderACaptionAnswersItAlsoRightToLeft();
     void theKeypadLooksTheSameRightToLeft();
+    void theWholePhoneIsSeenOnALowScreen();
+    void placeAndSizeAreKept();
+    void aPlaceThatCannotBeReadIsNone();
     void thePhoneTellsOfACallFromItsDigitsToItsCost();
     void thePhoneTellsWhoCallsAndWhomNobodyAnswered();
     void thePhoneWarnsBeforeItEndsACallAndSaysWhyItDid();
@@ -1010,6 +1018,56 @@ void TestWindow::oneSeesWhetherTheKeysGoToThePhone()
     QVERIFY(frame->isVisible());
     const QWidget *display = ZApplication::display();
     QVERIFY(frame->parentWidget() == display->parentWidget() && frame->geometry().contains(display->geometry()));
+}
+
+// 1024 x 600, of which a title takes its part.
+void TestWindow::theWholePhoneIsSeenOnALowScreen()
+{
+    window->resize(1024, 560);
+    const auto *display = window->findChild<host::Display *>();
+    QTRY_COMPARE(window->height(), 560);
+    QCOMPARE(display->size(), QSize(240, 320));
+    QVERIFY(window->rect().contains(QRect(display->mapTo(window.get(), QPoint()), display->size())));
+    const QList<PhoneKey *> keys = window->findChildren<PhoneKey *>();
+    QCOMPARE(keys.size(), 20);
+    for (const PhoneKey *key : keys) {
+        QCOMPARE(key->visibleRegion().boundingRect(), key->rect());
+        QVERIFY(key->height() >= 16);
+        QVERIFY(key->mapTo(window.get(), QPoint()).y() >
+                display->mapTo(window.get(), display->rect().bottomLeft()).y());
+    }
+}
+
+void TestWindow::placeAndSizeAreKept()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    const auto back = qScopeGuard([] { QStandardPaths::setTestModeEnabled(false); });
+    window->setGeometry(30, 40, 760, 740);
+    const QPoint place = window->pos();
+    keepPlace(*window);
+    makeWindow([] {});
+    QVERIFY(window->size() != QSize(760, 740));
+    takePlace(*window);
+    showWindow();
+    QCOMPARE(window->size(), QSize(760, 740));
+    QCOMPARE(window->pos(), place);
+}
+
+void TestWindow::aPlaceThatCannotBeReadIsNone()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    const auto back = qScopeGuard([] { QStandardPaths::setTestModeEnabled(false); });
+    QFile kept(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + "/kavcallmeter/window");
+    const QRect usual = window->geometry();
+    for (const QByteArray &content : {QByteArray(), QByteArray("nonsense"), QByteArray(100'000, '\1')}) {
+        QVERIFY(QDir().mkpath(QFileInfo(kept).path()));
+        QVERIFY(kept.open(QIODevice::WriteOnly));
+        kept.write(content);
+        kept.close();
+        takePlace(*window);
+        QCOMPARE(window->geometry(), usual);
+    }
+    QVERIFY(kept.remove());
 }
 
 KAV_TEST_GROUP(TestWindow, QApplication);
