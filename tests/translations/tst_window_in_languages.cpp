@@ -19,6 +19,7 @@
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
 #include <QtWidgets/QTabBar>
 
 namespace {
@@ -129,6 +130,7 @@ void TestWindowInLanguages::everyTextOfThePanelHasItsPlace()
     openWindow(language);
     const auto *panel = window->findChild<host::Panel *>();
     const auto *tabs = panel->findChild<QTabBar *>();
+    const auto *pages = panel->findChild<QScrollArea *>();
     QStringList tooWide;
     // All at once: none has to be scrolled to.
     if (!tabs->rect().contains(tabs->tabRect(tabs->count() - 1)))
@@ -136,11 +138,11 @@ void TestWindowInLanguages::everyTextOfThePanelHasItsPlace()
     for (int page = 0; page < tabs->count(); ++page) {
         window->choosePage(page);
         QCoreApplication::processEvents();
-        if (panel->widget()->width() > panel->viewport()->width())
+        if (pages->widget()->width() > pages->viewport()->width())
             tooWide << QStringLiteral("page %1: %2 of %3")
                            .arg(page)
-                           .arg(panel->widget()->width())
-                           .arg(panel->viewport()->width());
+                           .arg(pages->widget()->width())
+                           .arg(pages->viewport()->width());
         for (const QWidget *control : controlsOf(*panel)) {
             if (control->isVisible() && control->width() < control->minimumSizeHint().width())
                 tooWide << control->property("text").toString();
