@@ -2,9 +2,10 @@
 
 #include "handset/CallRetention.h"
 #include "handset/Handset.h"
-#include "host/Languages.h"
 #include "host/ScreenTable.h"
 #include "host/panel/Panel.h"
+#include "language/Catalogue.h"
+#include "language/Languages.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -21,11 +22,13 @@ namespace {
 constexpr const char *defaultPlugin = "libkavcallmeter.so.1";
 constexpr const char *shippedTour = ":/tours/tour.tour";
 
-constexpr const char *description =
+constexpr const char *description = QT_TRANSLATE_NOOP(
+    "kavrecentcalls",
     "Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel\n"
-    "that makes calls on the simulated telephone.";
+    "that makes calls on the simulated telephone.");
 
-constexpr const char *exitCodes =
+constexpr const char *exitCodes = QT_TRANSLATE_NOOP(
+    "kavrecentcalls",
     "\nExit codes:\n"
     "  0  all went well\n"
     "  1  a tour saw something else than its script expects\n"
@@ -37,7 +40,7 @@ constexpr const char *exitCodes =
     "  7  a photograph, the text of a tour, or what was asked for cannot be written\n"
     "  8  the translation catalogue cannot be loaded\n"
     "  9  there is no display to show the window on, or no such platform of Qt\n"
-    " 10  a tour was ended by a signal before its end\n";
+    " 10  a tour was ended by a signal before its end\n");
 
 struct OptionText {
     const char *name;
@@ -46,25 +49,38 @@ struct OptionText {
 };
 
 constexpr OptionText optionTexts[] = {
-    {"state", "DIR", "Keep the telephone's state in DIR between starts; \"none\" keeps it in memory. Default: %1"},
+    {"state", "DIR",
+     QT_TRANSLATE_NOOP(
+         "kavrecentcalls",
+         "Keep the telephone's state in DIR between starts; \"none\" keeps it in memory. Default: %1")},
     {"trace", "FILE",
-     "Append the traces to FILE; \"-\" is standard output. Default: trace.log in the state "
-     "directory; no trace where the state is in memory, and on a tour."},
+     QT_TRANSLATE_NOOP("kavrecentcalls",
+                       "Append the traces to FILE; \"-\" is standard output. Default: trace.log in the state "
+                       "directory; no trace where the state is in memory, and on a tour.")},
     {"backend", "NAME",
-     "The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else "
-     "simulated. Default: simulated."},
+     QT_TRANSLATE_NOOP(
+         "kavrecentcalls",
+         "The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else "
+         "simulated. Default: simulated.")},
     {"keep-calls", "DAYS",
-     "Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and "
-     "stay in the totals. Default: all are kept."},
-    {"plugin", "NAME", "The plug-in library. Default: libkavcallmeter.so.1"},
-    {"screen", "NAME", "Open this screen at once: %3."},
-    {"page", "NAME", "Show this page of the panel: %4."},
-    {"translation", "FILE", "Load the texts of the catalogue FILE (.qm)."},
-    {"language", "NAME", "Speak this language: %5. Default: the locale's; English on a tour and with --photo."},
-    {"photo", "FILE", "Photograph the window as PNG to FILE and end."},
+     QT_TRANSLATE_NOOP("kavrecentcalls", "Keep the calls of the last DAYS days, 0 to 100000; older ones are "
+                                         "deleted at the start and once a day, and "
+                                         "stay in the totals. Default: all are kept.")},
+    {"plugin", "NAME", QT_TRANSLATE_NOOP("kavrecentcalls", "The plug-in library. Default: libkavcallmeter.so.1")},
+    {"screen", "NAME", QT_TRANSLATE_NOOP("kavrecentcalls", "Open this screen at once: %3.")},
+    {"page", "NAME", QT_TRANSLATE_NOOP("kavrecentcalls", "Show this page of the panel: %4.")},
+    {"translation", "FILE", QT_TRANSLATE_NOOP("kavrecentcalls", "Load the texts of the catalogue FILE (.qm).")},
+    {"language", "NAME",
+     QT_TRANSLATE_NOOP("kavrecentcalls",
+                       "Speak this language: %5. Default: the locale's; English on a tour and with --photo.")},
+    {"photo", "FILE", QT_TRANSLATE_NOOP("kavrecentcalls", "Photograph the window as PNG to FILE and end.")},
     {"tour", "DIR",
-     "Play a tour without a display: put photographs of the screens into DIR and print their texts."},
-    {"script", "FILE", "Play this script instead of the tour of all screens; only with --tour."},
+     QT_TRANSLATE_NOOP(
+         "kavrecentcalls",
+         "Play a tour without a display: put photographs of the screens into DIR and print their texts.")},
+    {"script", "FILE",
+     QT_TRANSLATE_NOOP("kavrecentcalls",
+                       "Play this script instead of the tour of all screens; only with --tour.")},
 };
 
 QString screenNames()
@@ -85,7 +101,7 @@ QString allPageNames()
 
 QString allLanguageNames()
 {
-    return languageNames().join(QStringLiteral(", "));
+    return language::languageNames().join(QStringLiteral(", "));
 }
 
 // -1 for none.
@@ -115,7 +131,6 @@ constexpr std::array foundOut{
     FoundOut{"%5", &allLanguageNames},
 };
 
-// Only what is asked for is found out, as every start pays for it.
 QString completed(QString text)
 {
     for (const FoundOut &found : foundOut) {
@@ -126,15 +141,22 @@ QString completed(QString text)
     return text;
 }
 
-void describe(QCommandLineParser &parser)
+// What the options mean is asked for by --help alone, and every other start would pay for it.
+enum class Texts { Without, With };
+
+void describe(QCommandLineParser &parser, Texts texts)
 {
-    parser.setApplicationDescription(QLatin1StringView(description));
+    const auto text = [texts](const char *english) {
+        return texts == Texts::With ? QCoreApplication::translate("kavrecentcalls", english) : QString();
+    };
+    parser.setApplicationDescription(text(description));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Shows this help.")});
+    parser.addOption({{QStringLiteral("h"), QStringLiteral("help")},
+                      text(QT_TRANSLATE_NOOP("kavrecentcalls", "Shows this help."))});
     parser.addVersionOption();
     for (const OptionText &option : optionTexts) {
-        parser.addOption({QString::fromLatin1(option.name), completed(QString::fromLatin1(option.text)),
-                          QString::fromLatin1(option.value)});
+        parser.addOption(
+            {QString::fromLatin1(option.name), completed(text(option.text)), QString::fromLatin1(option.value)});
     }
 }
 
@@ -149,7 +171,7 @@ QString findEmptyValue(const QCommandLineParser &parser)
     for (const OptionText &option : optionTexts) {
         const QString name = QString::fromLatin1(option.name);
         if (parser.isSet(name) && parser.value(name).isEmpty())
-            return QStringLiteral("Option '%1' has an empty value.").arg(name);
+            return QCoreApplication::translate("kavrecentcalls", "Option '%1' has an empty value.").arg(name);
     }
     return {};
 }
@@ -163,7 +185,8 @@ QString findUnreadableName(const QCommandLineParser &parser)
         const QString value = parser.value(option);
         if (value.contains(QChar(QChar::ReplacementCharacter)) ||
             QFile::decodeName(QFile::encodeName(value)) != value)
-            return QStringLiteral("The name that option '%1' gives is not UTF-8.").arg(option);
+            return QCoreApplication::translate("kavrecentcalls", "The name that option '%1' gives is not UTF-8.")
+                .arg(option);
     }
     return {};
 }
@@ -172,35 +195,43 @@ QString findUnknownName(const QCommandLineParser &parser)
 {
     const QString screen = parser.value(QStringLiteral("screen"));
     if (!screen.isEmpty() && !knowsScreen(screen))
-        return QStringLiteral("Unknown screen '%1'; there is: %2.").arg(screen, screenNames());
+        return QCoreApplication::translate("kavrecentcalls", "Unknown screen '%1'; there is: %2.")
+            .arg(screen, screenNames());
     const QString page = parser.value(QStringLiteral("page"));
     if (!page.isEmpty() && pageIndex(page) < 0)
-        return QStringLiteral("Unknown page '%1'; there is: %2.").arg(page, allPageNames());
+        return QCoreApplication::translate("kavrecentcalls", "Unknown page '%1'; there is: %2.")
+            .arg(page, allPageNames());
     const QString language = parser.value(QStringLiteral("language"));
-    if (!language.isEmpty() && !languageNames().contains(language))
-        return QStringLiteral("Unknown language '%1'; there is: %2.").arg(language, allLanguageNames());
+    if (!language.isEmpty() && !language::languageNames().contains(language))
+        return QCoreApplication::translate("kavrecentcalls", "Unknown language '%1'; there is: %2.")
+            .arg(language, allLanguageNames());
     return {};
 }
 
 QString findMistake(const QCommandLineParser &parser)
 {
     if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("Unexpected argument '%1'.").arg(parser.positionalArguments().constFirst());
+        return QCoreApplication::translate("kavrecentcalls", "Unexpected argument '%1'.")
+            .arg(parser.positionalArguments().constFirst());
     if (QString mistake = findEmptyValue(parser); !mistake.isEmpty())
         return mistake;
     if (QString mistake = findUnreadableName(parser); !mistake.isEmpty())
         return mistake;
     if (parser.isSet(QStringLiteral("script")) && !parser.isSet(QStringLiteral("tour")))
-        return QStringLiteral("Option 'script' needs option 'tour'.");
+        return QCoreApplication::translate("kavrecentcalls", "Option 'script' needs option 'tour'.");
     const QString keptDays = QStringLiteral("keep-calls");
     if (parser.isSet(keptDays) && !handset::keptDaysFrom(parser.value(keptDays)))
-        return QStringLiteral("Option 'keep-calls' wants a number of days, 0 to %1.").arg(handset::mostKeptDays);
+        return QCoreApplication::translate("kavrecentcalls",
+                                           "Option 'keep-calls' wants a number of days, 0 to %1.")
+            .arg(handset::mostKeptDays);
     for (const char *name : {"screen", "page", "photo", "keep-calls"}) {
         if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
-            return QStringLiteral("Option '%1' does not go with option 'tour'.").arg(QLatin1StringView(name));
+            return QCoreApplication::translate("kavrecentcalls", "Option '%1' does not go with option 'tour'.")
+                .arg(QLatin1StringView(name));
     }
     if (parser.isSet(QStringLiteral("language")) && parser.isSet(QStringLiteral("translation")))
-        return QStringLiteral("Option 'language' does not go with option 'translation'.");
+        return QCoreApplication::translate("kavrecentcalls",
+                                           "Option 'language' does not go with option 'translation'.");
     return findUnknownName(parser);
 }
 
@@ -237,24 +268,33 @@ Options readOptions(const QCommandLineParser &parser)
     return options;
 }
 
+CommandLine parse(const QStringList &arguments, Texts texts)
+{
+    QCommandLineParser parser;
+    describe(parser, texts);
+    const bool parsed = parser.parse(arguments);
+    if (parsed && parser.isSet(QStringLiteral("help")))
+        return {{}, parser.helpText() + QCoreApplication::translate("kavrecentcalls", exitCodes), {}};
+    if (parsed && parser.isSet(QStringLiteral("version"))) {
+        const QString version = QCoreApplication::applicationVersion();
+        return {{}, QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), version), {}};
+    }
+    const QString mistake = parsed ? findMistake(parser) : parser.errorText();
+    if (mistake.isEmpty())
+        return {readOptions(parser), {}, {}};
+    return {{}, {}, mistake + u' ' + QCoreApplication::translate("kavrecentcalls", "See kavrecentcalls --help.")};
+}
+
 } // namespace
 
 CommandLine parseCommandLine(const QStringList &arguments)
 {
-    QCommandLineParser parser;
-    describe(parser);
-    const bool parsed = parser.parse(arguments);
-    if (!parsed)
-        return {{}, {}, parser.errorText()};
-    if (parser.isSet(QStringLiteral("help")))
-        return {{}, parser.helpText() + QLatin1StringView(exitCodes), {}};
-    if (parser.isSet(QStringLiteral("version"))) {
-        const QString version = QCoreApplication::applicationVersion();
-        return {{}, QStringLiteral("%1 %2\n").arg(QCoreApplication::applicationName(), version), {}};
-    }
-    if (QString mistake = findMistake(parser); !mistake.isEmpty())
-        return {{}, {}, mistake};
-    return {readOptions(parser), {}, {}};
+    CommandLine line = parse(arguments, Texts::Without);
+    if (line.options)
+        return line;
+    language::Catalogue catalogue;
+    catalogue.installLanguage(language::languageFor(arguments));
+    return parse(arguments, Texts::With);
 }
 
 } // namespace host

@@ -31,11 +31,11 @@ struct Options {
 struct CommandLine {
     std::optional<Options> options; ///< null when there is nothing more to do
     QString output;                 ///< then: for standard output
-    QString error;                  ///< then: one sentence for the user; the program ends with ExitBadCommandLine
+    QString error;                  ///< then: for the user; the program ends with ExitBadCommandLine
 };
 
 /// Reads `arguments`, the first of which is the program's name. Needs an application object, asks nothing of the
-/// handset.
+/// handset. Help and mistakes are in the language for the user of `arguments`.
 CommandLine parseCommandLine(const QStringList &arguments);
 
 } // namespace host

@@ -2,17 +2,17 @@
 
 #include "handset/Handset.h"
 #include "host/AccessibilityBus.h"
-#include "host/Catalogue.h"
 #include "host/ExitCode.h"
-#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/PhoneWindow.h"
 #include "host/QtStart.h"
-#include "host/ReadFile.h"
 #include "host/ScreenLibrary.h"
 #include "host/WindowPlace.h"
 #include "host/faults/FaultyHandset.h"
 #include "host/tour/TourPlayer.h"
+#include "language/Catalogue.h"
+#include "language/Languages.h"
+#include "language/ReadFile.h"
 #include "log/aplog.h"
 #include "process/EndSignals.h"
 #include "qt/BusGuard.h"
@@ -58,6 +58,16 @@ int print(const QString &text)
     return complain(ExitNotWritten, QStringLiteral("The standard output cannot be written to."));
 }
 
+// With the texts of the user's language, for as long as there is an application object.
+QString qtOptionOnTour(const QStringList &arguments, const QString &option)
+{
+    language::Catalogue catalogue;
+    catalogue.installLanguage(language::languageFor(arguments));
+    return QCoreApplication::translate("kavrecentcalls", "Option '%1' of Qt does not go with option 'tour'.")
+               .arg(option) +
+           u' ' + QCoreApplication::translate("kavrecentcalls", "See kavrecentcalls --help.");
+}
+
 // Before the GUI's application object, which would want a display even for --help. `ofQt` becomes what that is given.
 CommandLine readCommandLine(int argc, char **argv, QStringList &ofQt)
 {
@@ -68,7 +78,7 @@ CommandLine readCommandLine(int argc, char **argv, QStringList &ofQt)
     CommandLine line = parseCommandLine(arguments.own);
     // Its pictures are the same everywhere.
     if (line.options && line.options->isTour() && ofQt.size() > 1)
-        return {{}, {}, QStringLiteral("Option '%1' of Qt does not go with option 'tour'.").arg(ofQt[1])};
+        return {{}, {}, qtOptionOnTour(arguments.own, ofQt[1])};
     return line;
 }
 
@@ -122,12 +132,18 @@ bool hasCompositor()
     return qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-QString missingDisplay()
+QString missingDisplay(int argc, char **argv)
 {
+    const QCoreApplication application(argc, argv);
+    language::Catalogue catalogue;
+    catalogue.installLanguage(language::languageFor(QCoreApplication::arguments()));
     const QString name = qEnvironmentVariable("DISPLAY");
-    const QString problem = name.isEmpty() ? QStringLiteral("There is no display to show the phone on")
-                                           : QStringLiteral("The display \"%1\" cannot be reached").arg(name);
-    return problem + QStringLiteral("; --tour DIR needs none.");
+    if (name.isEmpty())
+        return QCoreApplication::translate("kavrecentcalls",
+                                           "There is no display to show the phone on; --tour DIR needs none.");
+    return QCoreApplication::translate("kavrecentcalls",
+                                       "The display \"%1\" cannot be reached; --tour DIR needs none.")
+        .arg(name);
 }
 
 // Photographs must come out the same on every machine.
@@ -149,8 +165,9 @@ int startTrace(const QString &file)
     const int error = libaplog_open(path.constData());
     if (error == 0)
         return ExitSuccess;
-    return complain(ExitNoTrace, QStringLiteral("The trace file \"%1\" cannot be opened: %2.")
-                                     .arg(file, QString::fromLocal8Bit(std::strerror(error))));
+    return complain(ExitNoTrace,
+                    QCoreApplication::translate("kavrecentcalls", "The trace file \"%1\" cannot be opened: %2.")
+                        .arg(file, QString::fromLocal8Bit(std::strerror(error))));
 }
 
 // Photographs do not depend on whose machine they are made on.
@@ -159,12 +176,13 @@ QString catalogueFile(const Options &options)
     if (!options.translation.isEmpty())
         return options.translation;
     if (!options.language.isEmpty())
-        return catalogueOf(options.language);
+        return language::catalogueOf(options.language);
     const bool isPhotograph = options.isTour() || !options.photo.isEmpty();
-    return isPhotograph ? QString() : catalogueOf(suitableLanguage(QLocale::system().uiLanguages()));
+    return isPhotograph ? QString()
+                        : language::catalogueOf(language::suitableLanguage(QLocale::system().uiLanguages()));
 }
 
-int loadTranslation(Catalogue &catalogue, const QString &file)
+int loadTranslation(language::Catalogue &catalogue, const QString &file)
 {
     const QString problem = file.isEmpty() ? QString() : catalogue.install(file);
     return problem.isEmpty() ? ExitSuccess : complain(ExitNoTranslation, problem);
@@ -181,10 +199,11 @@ int loadScreens(ScreenLibrary &library, const QString &name)
 int readScript(const QString &fileName, tour::Script &script)
 {
     QByteArray text;
-    const QString problem = readFile(fileName, largestScript, text);
+    const QString problem = language::readFile(fileName, largestScript, text);
     if (!problem.isEmpty())
         return complain(ExitBadScript,
-                        QStringLiteral("The script \"%1\" cannot be read: %2.").arg(fileName, problem));
+                        QCoreApplication::translate("kavrecentcalls", "The script \"%1\" cannot be read: %2.")
+                            .arg(fileName, problem));
     const QString name = fileName.startsWith(u':') ? QFileInfo(fileName).fileName() : fileName;
     script = tour::parseScript(name, QString::fromUtf8(text));
     for (const QString &mistake : std::as_const(script.mistakes))
@@ -272,7 +291,9 @@ int photographWindow(PhoneWindow &window, const QString &file)
     QCoreApplication::processEvents();
     if (window.grab().save(file, "PNG"))
         return ExitSuccess;
-    return complain(ExitNotWritten, QStringLiteral("The photograph \"%1\" cannot be written.").arg(file));
+    return complain(
+        ExitNotWritten,
+        QCoreApplication::translate("kavrecentcalls", "The photograph \"%1\" cannot be written.").arg(file));
 }
 
 int showWindow(const Options &options, const QStringList &findings, const EndSignals &endSignals)
@@ -293,7 +314,9 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
     if (needsHandset && !window.complete())
         return openingCode;
     if (!options.screen.isEmpty() && !window.openScreen(screenIndex(options.screen)))
-        return complain(ExitNoPlugin, QStringLiteral("The plug-in gives no screen \"%1\".").arg(options.screen));
+        return complain(ExitNoPlugin,
+                        QCoreApplication::translate("kavrecentcalls", "The plug-in gives no screen \"%1\".")
+                            .arg(options.screen));
     if (!options.photo.isEmpty())
         return photographWindow(window, options.photo);
     const int code = endSignals.haveCome() ? ExitSuccess : QApplication::exec();
@@ -311,7 +334,7 @@ int runWindow(const Options &options, const QStringList &findings, const EndSign
 int run(const Options &options, const QStringList &findings)
 {
     const EndSignals endSignals; // outlives the handset, whose call is to be written
-    Catalogue catalogue;
+    language::Catalogue catalogue;
     if (const int code = loadTranslation(catalogue, catalogueFile(options)))
         return code;
     const int code = options.isTour() ? runTour(options, endSignals) : runWindow(options, findings, endSignals);
@@ -328,7 +351,7 @@ extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
     QStringList ofQt;
     const CommandLine line = readCommandLine(argc, argv, ofQt);
     if (!line.error.isEmpty())
-        return complain(ExitBadCommandLine, line.error + QStringLiteral(" See kavrecentcalls --help."));
+        return complain(ExitBadCommandLine, line.error);
     if (!line.options)
         return print(line.output);
     const Options &options = *line.options;
@@ -338,7 +361,7 @@ extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
     else if (!hasPlatform() && hasCompositor())
         qputenv("QT_QPA_PLATFORM", "wayland");
     else if (!hasPlatform() && !hasDisplay())
-        return complain(ExitNoDisplay, missingDisplay());
+        return complain(ExitNoDisplay, missingDisplay(argc, argv));
     // The phone and the SIM card write 0.23 everywhere; the panel beside them does as they do.
     QLocale::setDefault(QLocale::c());
     BusGuard buses;

@@ -2,7 +2,9 @@
 
 #include "handset/CallRetention.h"
 #include "handset/Handset.h"
+#include "language/Languages.h"
 #include "meter/Figures.h"
+#include "meter/Text.h"
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QCoreApplication>
@@ -15,21 +17,22 @@ namespace meter {
 
 namespace {
 
-constexpr const char *description =
-    "Shows the meters of the phone: times and costs of calls, times and bytes of packet data.\n\n"
-    "Commands:\n"
-    "  figures [NAME ...]   all figures, or these; the default\n"
-    "  settings             advice of charge: how costs are counted, the credit limit, the price\n"
-    "  calls                the calls that are kept\n"
-    "  sessions             the packet-data sessions that are kept\n"
-    "  totals               what is kept, by month or as --by and --cycle-day say\n"
-    "  reset NAME           sets to zero: %1\n"
-    "  delete ID|all        deletes a call, or all that are over; totals stay\n"
-    "  export FILE          writes the whole state as JSON; \"-\" is standard output\n"
-    "  import FILE          makes a new state of such a file\n\n"
-    "Figures: %2.";
+constexpr const char *description = QT_TRANSLATE_NOOP(
+    "kavmeter", "Shows the meters of the phone: times and costs of calls, times and bytes of packet data.\n\n"
+                "Commands:\n"
+                "  figures [NAME ...]   all figures, or these; the default\n"
+                "  settings             advice of charge: how costs are counted, the credit limit, the price\n"
+                "  calls                the calls that are kept\n"
+                "  sessions             the packet-data sessions that are kept\n"
+                "  totals               what is kept, by month or as --by and --cycle-day say\n"
+                "  reset NAME           sets to zero: %1\n"
+                "  delete ID|all        deletes a call, or all that are over; totals stay\n"
+                "  export FILE          writes the whole state as JSON; \"-\" is standard output\n"
+                "  import FILE          makes a new state of such a file\n\n"
+                "Figures: %2.");
 
-constexpr const char *exitCodes = "\nExit codes:\n"
+constexpr const char *exitCodes =
+    QT_TRANSLATE_NOOP("kavmeter", "\nExit codes:\n"
                                   "  0  all went well\n"
                                   "  1  the telephone refuses, or the call log cannot be read or written\n"
                                   "  2  the command line is wrong, or a change was asked for without --yes\n"
@@ -37,7 +40,7 @@ constexpr const char *exitCodes = "\nExit codes:\n"
                                   "  4  a figure that was named is not available\n"
                                   "  5  the credit limit is reached, or the credit used up\n"
                                   "  6  the figure of --alert is reached\n"
-                                  "  7  a file, or the output, cannot be read or written, or has a mistake\n";
+                                  "  7  a file, or the output, cannot be read or written, or has a mistake\n");
 
 struct Command {
     const char *name;
@@ -54,36 +57,38 @@ constexpr std::array commands{
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
-        QString::fromLatin1(description)
+        Text::tr(description)
             .arg(resetNames().join(QStringLiteral(", ")), figureNames().join(QStringLiteral(", "))));
     parser.addHelpOption();
     parser.addVersionOption();
     const QString state = handset::defaultStateDirectory();
     parser.addOptions({
-        {QStringLiteral("state"), QStringLiteral("The telephone's state is in DIR. Default: %1").arg(state),
+        {QStringLiteral("state"), Text::tr("The telephone's state is in DIR. Default: %1").arg(state),
          QStringLiteral("DIR"), state},
         {QStringLiteral("backend"),
-         QStringLiteral("The telephone: %1, or the path of a library that has one. Default: simulated.")
+         Text::tr("The telephone: %1, or the path of a library that has one. Default: simulated.")
              .arg(handset::backendNames().join(QStringLiteral(", "))),
          QStringLiteral("NAME"), QStringLiteral("simulated")},
-        {QStringLiteral("json"), QStringLiteral("Print JSON.")},
-        {QStringLiteral("csv"), QStringLiteral("Print comma-separated values.")},
-        {QStringLiteral("yes"), QStringLiteral("Reset or delete indeed; nothing is asked.")},
-        {QStringLiteral("watch"), QStringLiteral("Print anew whenever something changes, until a signal comes.")},
-        {QStringLiteral("by"), QStringLiteral("Totals by day, month or cycle."), QStringLiteral("PERIOD"),
+        {QStringLiteral("language"),
+         Text::tr("Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.")
+             .arg(language::languageNames().join(QStringLiteral(", "))),
+         QStringLiteral("NAME")},
+        {QStringLiteral("json"), Text::tr("Print JSON.")},
+        {QStringLiteral("csv"), Text::tr("Print comma-separated values.")},
+        {QStringLiteral("yes"), Text::tr("Reset or delete indeed; nothing is asked.")},
+        {QStringLiteral("watch"), Text::tr("Print anew whenever something changes, until a signal comes.")},
+        {QStringLiteral("by"), Text::tr("Totals by day, month or cycle."), QStringLiteral("PERIOD"),
          QStringLiteral("month")},
-        {QStringLiteral("cycle-day"),
-         QStringLiteral("The billing cycle begins on day N, 1 to 28; totals by cycle."), QStringLiteral("N"),
-         QStringLiteral("1")},
-        {QStringLiteral("keep-calls"), QStringLiteral("With delete all: keep the calls of the last DAYS days."),
+        {QStringLiteral("cycle-day"), Text::tr("The billing cycle begins on day N, 1 to 28; totals by cycle."),
+         QStringLiteral("N"), QStringLiteral("1")},
+        {QStringLiteral("keep-calls"), Text::tr("With delete all: keep the calls of the last DAYS days."),
          QStringLiteral("DAYS")},
         {QStringLiteral("alert"),
-         QStringLiteral("COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N "
-                        "seconds or more, or N bytes or more have gone both ways."),
+         Text::tr("COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N "
+                  "seconds or more, or N bytes or more have gone both ways."),
          QStringLiteral("KIND N")},
     });
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("What to do."),
-                                 QStringLiteral("[command]"));
+    parser.addPositionalArgument(QStringLiteral("command"), Text::tr("What to do."), QStringLiteral("[command]"));
 }
 
 // "--alert COST 5" has two values, of which the parser takes one.
@@ -108,7 +113,7 @@ QString readAlert(const QCommandLineParser &parser, Options &options)
     bool isNumber = false;
     const double amount = words.value(1).replace(u',', u'.').toDouble(&isNumber);
     if (kind < 0 || words.size() != 2 || !isNumber || !std::isfinite(amount) || amount < 0)
-        return QStringLiteral("Option 'alert' wants COST, TIME or BYTES, and a number.");
+        return Text::tr("Option 'alert' wants COST, TIME or BYTES, and a number.");
     options.alert = Alert{static_cast<Alert::Kind>(kind), amount};
     return {};
 }
@@ -119,16 +124,16 @@ QString readPeriod(const QCommandLineParser &parser, Options &options)
     const qsizetype place =
         QStringList{QStringLiteral("day"), QStringLiteral("month"), QStringLiteral("cycle")}.indexOf(by);
     if (place < 0)
-        return QStringLiteral("Option 'by' wants day, month or cycle.");
+        return Text::tr("Option 'by' wants day, month or cycle.");
     options.by = static_cast<By>(place);
     if (!parser.isSet(QStringLiteral("cycle-day")))
         return {};
     bool isNumber = false;
     options.cycleDay = parser.value(QStringLiteral("cycle-day")).toInt(&isNumber);
     if (!isNumber || options.cycleDay < 1 || options.cycleDay > 28)
-        return QStringLiteral("Option 'cycle-day' wants a day from 1 to 28.");
+        return Text::tr("Option 'cycle-day' wants a day from 1 to 28.");
     if (parser.isSet(QStringLiteral("by")) && options.by != By::Cycle)
-        return QStringLiteral("Option 'cycle-day' goes with --by cycle.");
+        return Text::tr("Option 'cycle-day' goes with --by cycle.");
     options.by = By::Cycle;
     return {};
 }
@@ -139,9 +144,9 @@ QString readKeptDays(const QCommandLineParser &parser, Options &options)
         return {};
     options.keptDays = handset::keptDaysFrom(parser.value(QStringLiteral("keep-calls")));
     if (!options.keptDays)
-        return QStringLiteral("Option 'keep-calls' wants a number of days.");
+        return Text::tr("Option 'keep-calls' wants a number of days.");
     if (parser.positionalArguments() != QStringList{QStringLiteral("delete"), QStringLiteral("all")})
-        return QStringLiteral("Option 'keep-calls' goes with delete all.");
+        return Text::tr("Option 'keep-calls' goes with delete all.");
     return {};
 }
 
@@ -153,18 +158,18 @@ QString readCommand(const QCommandLineParser &parser, Options &options)
     const auto isIt = [&](const Command &command) { return options.command == QLatin1String(command.name); };
     const auto *const command = std::find_if(commands.begin(), commands.end(), isIt);
     if (command == commands.end())
-        return QStringLiteral("There is no command '%1'.").arg(options.command);
+        return Text::tr("There is no command '%1'.").arg(options.command);
     if (options.words.size() < command->least || options.words.size() > command->most)
-        return QStringLiteral("The command '%1' has a word missing or too many.").arg(options.command);
+        return Text::tr("The command '%1' has a word missing or too many.").arg(options.command);
     const bool isFigures = options.command == QLatin1String("figures");
     if (isFigures || options.command == QLatin1String("reset"))
         for (const QString &word : options.words)
             if (!(isFigures ? figureNames() : resetNames()).contains(word))
-                return QStringLiteral("There is no '%1' to show or to reset.").arg(word);
+                return Text::tr("There is no '%1' to show or to reset.").arg(word);
     if ((parser.isSet(QStringLiteral("watch")) || options.alert) && !isFigures)
-        return QStringLiteral("Options 'watch' and 'alert' go with figures.");
+        return Text::tr("Options 'watch' and 'alert' go with figures.");
     if (command->changes && !options.isSure)
-        return QStringLiteral("Nothing was changed: '%1' wants --yes.").arg(options.command);
+        return Text::tr("Nothing was changed: '%1' wants --yes.").arg(options.command);
     return {};
 }
 
@@ -173,9 +178,13 @@ QString read(const QCommandLineParser &parser, Options &options)
     options.stateDirectory = parser.value(QStringLiteral("state"));
     options.backend = parser.value(QStringLiteral("backend"));
     if (options.stateDirectory.isEmpty() || options.backend.isEmpty())
-        return QStringLiteral("Options 'state' and 'backend' want a value.");
+        return Text::tr("Options 'state' and 'backend' want a value.");
+    const QString language = parser.value(QStringLiteral("language"));
+    if (parser.isSet(QStringLiteral("language")) && !language::languageNames().contains(language))
+        return Text::tr("Unknown language '%1'; there is: %2.")
+            .arg(language, language::languageNames().join(QStringLiteral(", ")));
     if (parser.isSet(QStringLiteral("json")) && parser.isSet(QStringLiteral("csv")))
-        return QStringLiteral("Options 'json' and 'csv' do not go together.");
+        return Text::tr("Options 'json' and 'csv' do not go together.");
     if (parser.isSet(QStringLiteral("json")))
         options.format = Format::Json;
     else if (parser.isSet(QStringLiteral("csv")))
@@ -201,7 +210,7 @@ CommandLine parse(QStringList arguments)
     if (!parser.parse(arguments))
         return {{}, {}, parser.errorText()};
     if (parser.isSet(QStringLiteral("help")))
-        return {{}, parser.helpText() + QLatin1String(exitCodes), {}};
+        return {{}, parser.helpText() + Text::tr(exitCodes), {}};
     if (parser.isSet(QStringLiteral("version")))
         return {{}, QStringLiteral("kavmeter %1\n").arg(QCoreApplication::applicationVersion()), {}};
     Options options;

@@ -6,6 +6,7 @@
 #include "handset/DataCalls.h"
 #include "handset/Handset.h"
 #include "handset/PacketData.h"
+#include "meter/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -165,6 +166,15 @@ constexpr std::array resets{
     Reset{"call-log", &zero<&Handset::callLog, &CallLog::resetAll>},
 };
 
+// A code of a currency is the same everywhere.
+QString shown(const QString &unit)
+{
+    for (const char *own : {QT_TRANSLATE_NOOP("kavmeter", "units"), QT_TRANSLATE_NOOP("kavmeter", "bytes")})
+        if (unit == QLatin1String(own))
+            return Text::tr(own);
+    return unit;
+}
+
 } // namespace
 
 std::vector<Figure> figuresOf(Handset &handset, const QStringList &names)
@@ -181,17 +191,18 @@ std::vector<Figure> settingsOf(Handset &handset)
     AdviceOfCharge *const advice = handset.adviceOfCharge();
     quint8 type = AdviceOfCharge::InUnits;
     const int ofType = run(advice, &AdviceOfCharge::chargeType, type);
-    const QString typeName =
-        type == AdviceOfCharge::InUnits ? QStringLiteral("units") : QStringLiteral("currency");
+    const char *const typeName = type == AdviceOfCharge::InUnits ? QT_TRANSLATE_NOOP("kavmeter", "units")
+                                                                 : QT_TRANSLATE_NOOP("kavmeter", "currency");
     QString maximum;
     bool isOn = false;
     const int ofLimit = run(advice, &AdviceOfCharge::meterMaximum, maximum, isOn);
-    const QString limitState = isOn ? QStringLiteral("on") : QStringLiteral("off");
+    const char *const limitState =
+        isOn ? QT_TRANSLATE_NOOP("kavmeter", "on") : QT_TRANSLATE_NOOP("kavmeter", "off");
     QString price;
     QString currency;
     const int ofPrice = run(advice, &AdviceOfCharge::priceAndCurrency, price, currency);
-    return {make(QStringLiteral("charge-type"), ofType, textCell(typeName)),
-            make(QStringLiteral("credit-limit"), ofLimit, textCell(limitState)),
+    return {make(QStringLiteral("charge-type"), ofType, wordCell(typeName)),
+            make(QStringLiteral("credit-limit"), ofLimit, wordCell(limitState)),
             make(QStringLiteral("credit-limit-amount"), ofLimit, textCell(maximum), unitOfCosts(handset)),
             make(QStringLiteral("price"), ofPrice, textCell(price), currency),
             make(QStringLiteral("currency"), ofPrice, textCell(currency))};
@@ -219,7 +230,8 @@ Table tableOf(const std::vector<Figure> &figures)
     for (const Figure &figure : figures) {
         // A time is read by a person as it stands.
         const bool isPlain = figure.unit == QLatin1String("s") || figure.status != 0;
-        table.rows.append({textCell(figure.name), figure.cell, {isPlain ? QString() : figure.unit, figure.unit}});
+        table.rows.append(
+            {textCell(figure.name), figure.cell, {isPlain ? QString() : shown(figure.unit), figure.unit}});
     }
     return table;
 }

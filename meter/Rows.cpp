@@ -38,13 +38,13 @@ Cell stateCell(CallState state)
 {
     switch (state) {
     case CallState::Running:
-        return textCell(QStringLiteral("running"));
+        return wordCell(QT_TRANSLATE_NOOP("kavmeter", "running"));
     case CallState::Finished:
-        return textCell(QStringLiteral("finished"));
+        return wordCell(QT_TRANSLATE_NOOP("kavmeter", "finished"));
     case CallState::NotConnected:
-        return textCell(QStringLiteral("not connected"));
+        return wordCell(QT_TRANSLATE_NOOP("kavmeter", "not connected"));
     case CallState::Interrupted:
-        return textCell(QStringLiteral("interrupted"));
+        return wordCell(QT_TRANSLATE_NOOP("kavmeter", "interrupted"));
     }
     return notAvailable();
 }
@@ -52,14 +52,15 @@ Cell stateCell(CallState state)
 Cell kindCell(const PastCall &call)
 {
     if (call.kind == CallKind::Data)
-        return textCell(QStringLiteral("data"));
-    return textCell(QStringLiteral("voice"));
+        return wordCell(QT_TRANSLATE_NOOP("kavmeter", "data"));
+    return wordCell(QT_TRANSLATE_NOOP("kavmeter", "voice"));
 }
 
 Cell directionCell(const PastCall &call)
 {
     const bool isDialed = call.direction == CallDirection::Dialed;
-    return textCell(isDialed ? QStringLiteral("dialed") : QStringLiteral("answered"));
+    return wordCell(isDialed ? QT_TRANSLATE_NOOP("kavmeter", "dialed")
+                             : QT_TRANSLATE_NOOP("kavmeter", "answered"));
 }
 
 QDate dayOf(qint64 wallMs)

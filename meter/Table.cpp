@@ -1,5 +1,7 @@
 #include "meter/Table.h"
 
+#include "meter/Text.h"
+
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -45,6 +47,12 @@ QByteArray printCsv(const Table &table)
     return text.toUtf8();
 }
 
+// How many places of a terminal it takes: a Han character two.
+qsizetype widthOf(const QString &text)
+{
+    return text.size() + std::count_if(text.begin(), text.end(), [](QChar c) { return c.unicode() >= 0x2e80; });
+}
+
 // Columns are as wide as their longest text.
 QByteArray printTable(const Table &table)
 {
@@ -58,12 +66,12 @@ QByteArray printTable(const Table &table)
     QList<qsizetype> widths(table.columns.size(), 0);
     for (const QStringList &line : lines)
         for (qsizetype i = 0; i < line.size(); ++i)
-            widths[i] = std::max(widths[i], line[i].size());
+            widths[i] = std::max(widths[i], widthOf(line[i]));
     QString text;
     for (const QStringList &line : lines) {
         QString row;
         for (qsizetype i = 0; i < line.size(); ++i)
-            row += line[i].leftJustified(widths[i] + 2);
+            row += line[i] + QString(widths[i] + 2 - widthOf(line[i]), u' ');
         while (row.endsWith(u' '))
             row.chop(1);
         text += row + u'\n';
@@ -91,9 +99,14 @@ Cell textCell(const QString &text)
     return {text, text};
 }
 
+Cell wordCell(const char *english)
+{
+    return {Text::tr(english), QString::fromLatin1(english)};
+}
+
 Cell notAvailable()
 {
-    return {QStringLiteral("not available"), QJsonValue::Null};
+    return {Text::tr("not available"), QJsonValue::Null};
 }
 
 QByteArray print(const Table &table, Format format)

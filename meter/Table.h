@@ -19,6 +19,8 @@ Cell timeCell(qint64 ms);
 Cell numberCell(qint64 number);
 /// A text for both.
 Cell textCell(const QString &text);
+/// A word of the program's own, which a person reads translated and a program in English.
+Cell wordCell(const char *english);
 Cell notAvailable();
 
 struct Table {

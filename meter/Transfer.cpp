@@ -4,6 +4,7 @@
 #include "charging/ChargingState.h"
 #include "handset/Clock.h"
 #include "handset/Status.h"
+#include "meter/Text.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -131,14 +132,13 @@ QString mistakeIn(const QJsonValue &value, const Column &column)
         return {};
     switch (column.type) {
     case Type::Integer:
-        return value.toVariant().typeId() == QMetaType::LongLong ? QString()
-                                                                 : QStringLiteral("is no whole number");
+        return value.toVariant().typeId() == QMetaType::LongLong ? QString() : Text::tr("is no whole number");
     case Type::Text:
-        return value.isString() ? QString() : QStringLiteral("is no text");
+        return value.isString() ? QString() : Text::tr("is no text");
     case Type::Bytes: {
         const QByteArray hex = value.toString().toLatin1();
         const bool isRight = value.isString() && QByteArray::fromHex(hex).toHex() == hex.toLower();
-        return isRight ? QString() : QStringLiteral("has no pairs of hexadecimal digits");
+        return isRight ? QString() : Text::tr("has no pairs of hexadecimal digits");
     }
     }
     return {};
@@ -149,7 +149,7 @@ QString mistakeIn(const QJsonObject &row, const Rows &table, const QString &plac
     for (const Column &column : table.columns) {
         const QString name = QString::fromLatin1(column.name);
         if (!row.contains(name))
-            return QStringLiteral("%1.%2 is missing").arg(place, name);
+            return Text::tr("%1.%2 is missing").arg(place, name);
         const QString mistake = mistakeIn(row.value(name), column);
         if (!mistake.isEmpty())
             return QStringLiteral("%1.%2 %3").arg(place, name, mistake);
@@ -157,7 +157,7 @@ QString mistakeIn(const QJsonObject &row, const Rows &table, const QString &plac
     for (const QString &name : row.keys()) {
         const auto isIt = [&](const Column &column) { return name == QLatin1String(column.name); };
         if (std::none_of(table.columns.begin(), table.columns.end(), isIt))
-            return QStringLiteral("%1.%2 is not known").arg(place, name);
+            return Text::tr("%1.%2 is not known").arg(place, name);
     }
     return {};
 }
@@ -173,7 +173,7 @@ QString mistakeInKept(const QJsonArray &kept)
                              : name == QLatin1String(keptChargingName) ? charging::readCharging(content, state)
                                                                        : true;
         if (!isRight)
-            return QStringLiteral("kept[%1].content cannot be read").arg(i);
+            return Text::tr("kept[%1].content cannot be read").arg(i);
     }
     return {};
 }
@@ -181,18 +181,18 @@ QString mistakeInKept(const QJsonArray &kept)
 QString mistakeIn(const QJsonObject &file)
 {
     if (file.value(QStringLiteral("format")).toString() != QLatin1String(formatName))
-        return QStringLiteral("format is not \"%1\"").arg(QLatin1String(formatName));
+        return Text::tr("format is not \"%1\"").arg(QLatin1String(formatName));
     if (file.value(QStringLiteral("version")).toInteger() != formatVersion)
-        return QStringLiteral("version is not %1").arg(formatVersion);
+        return Text::tr("version is not %1").arg(formatVersion);
     for (const Rows &table : tables) {
         const QString name = QString::fromLatin1(table.table);
         if (!file.value(name).isArray())
-            return QStringLiteral("%1 is no list").arg(name);
+            return Text::tr("%1 is no list").arg(name);
         const QJsonArray rows = file.value(name).toArray();
         for (qsizetype i = 0; i < rows.size(); ++i) {
             const QString place = QStringLiteral("%1[%2]").arg(name).arg(i);
             QString mistake = rows[i].isObject() ? mistakeIn(rows[i].toObject(), table, place)
-                                                 : place + QStringLiteral(" is no row");
+                                                 : Text::tr("%1 is no row").arg(place);
             if (!mistake.isEmpty())
                 return mistake;
         }
@@ -229,7 +229,7 @@ QString writeTables(Database &database, const QJsonObject &file)
             const QJsonArray rows = file.value(QLatin1String(table.table)).toArray();
             for (qsizetype i = 0; i < rows.size(); ++i)
                 if (!writeRow(database, table, rows[i].toObject())) {
-                    mistake = QStringLiteral("%1[%2] is not possible").arg(QLatin1String(table.table)).arg(i);
+                    mistake = Text::tr("%1[%2] is not possible").arg(QLatin1String(table.table)).arg(i);
                     return false;
                 }
         }
@@ -250,7 +250,7 @@ QString makeState(const QString &directory, const QJsonObject &file)
             return mistake;
     }
     const OpenedLedger made = openLedger(directory, clock);
-    return made.ledger && made.notice.isEmpty() ? QString() : QStringLiteral("its totals contradict its rows");
+    return made.ledger && made.notice.isEmpty() ? QString() : Text::tr("its totals contradict its rows");
 }
 
 qsizetype lineAt(const QByteArray &text, qsizetype offset)
@@ -268,7 +268,7 @@ QString putInPlace(const QString &made, const QString &directory)
 {
     if (std::rename(QFile::encodeName(made).constData(), QFile::encodeName(directory).constData()) == 0)
         return {};
-    return QStringLiteral("\"%1\" cannot be made: %2.").arg(directory, systemReason());
+    return Text::tr("\"%1\" cannot be made: %2.").arg(directory, systemReason());
 }
 
 } // namespace
@@ -303,22 +303,19 @@ QString writeFile(const QString &name, const QByteArray &text)
     if (file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner) &&
         file.write(text) == text.size() && file.commit())
         return {};
-    return QStringLiteral("\"%1\" cannot be written: %2.").arg(name, file.errorString());
+    return Text::tr("\"%1\" cannot be written: %2.").arg(name, file.errorString());
 }
 
 QString importState(const QString &name, const QString &directory)
 {
     QFile input(name);
     if (!input.open(QIODevice::ReadOnly))
-        return QStringLiteral("\"%1\" cannot be read: %2.").arg(name, input.errorString());
+        return Text::tr("\"%1\" cannot be read: %2.").arg(name, input.errorString());
     const QByteArray text = input.readAll();
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError)
-        return QStringLiteral("\"%1\", line %2: %3.")
-            .arg(name)
-            .arg(lineAt(text, error.offset))
-            .arg(error.errorString());
+        return Text::tr("\"%1\", line %2: %3.").arg(name).arg(lineAt(text, error.offset)).arg(error.errorString());
     const QString wrong = QStringLiteral("\"%1\": %2.");
     if (const QString mistake = mistakeIn(document.object()); !mistake.isEmpty())
         return wrong.arg(name, mistake);
@@ -326,10 +323,10 @@ QString importState(const QString &name, const QString &directory)
     if (QFileInfo::exists(place) &&
         (!QFileInfo(place).isDir() ||
          !QDir(place).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot)))
-        return QStringLiteral("\"%1\" is not empty: a state is imported into a new directory.").arg(directory);
+        return Text::tr("\"%1\" is not empty: a state is imported into a new directory.").arg(directory);
     QTemporaryDir beside(place + QStringLiteral(".import-XXXXXX"));
     if (!beside.isValid())
-        return QStringLiteral("\"%1\" cannot be made: %2.").arg(directory, beside.errorString());
+        return Text::tr("\"%1\" cannot be made: %2.").arg(directory, beside.errorString());
     if (const QString mistake = makeState(beside.path(), document.object()); !mistake.isEmpty())
         return wrong.arg(name, mistake);
     QString problem = putInPlace(beside.path(), place);

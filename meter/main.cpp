@@ -6,10 +6,13 @@
 #include "handset/Handset.h"
 #include "handset/Status.h"
 #include "handset/UpdateBroadcast.h"
+#include "language/Catalogue.h"
+#include "language/Languages.h"
 #include "meter/CommandLine.h"
 #include "meter/ExitCode.h"
 #include "meter/Figures.h"
 #include "meter/Rows.h"
+#include "meter/Text.h"
 #include "meter/Transfer.h"
 #include "meter/Watch.h"
 #include "process/EndSignals.h"
@@ -62,7 +65,7 @@ int exitCodeOf(int status)
 
 int print(const QByteArray &text)
 {
-    return write(text) ? ExitSuccess : complain(ExitBadFile, QStringLiteral("The output cannot be written."));
+    return write(text) ? ExitSuccess : complain(ExitBadFile, Text::tr("The output cannot be written."));
 }
 
 // Who only looks makes no state: what is not there is an error.
@@ -70,7 +73,7 @@ QString missing(const Options &options)
 {
     if (QFile::exists(QDir(options.stateDirectory).filePath(QStringLiteral("calllog.db"))))
         return {};
-    return QStringLiteral("There is no state in \"%1\".").arg(options.stateDirectory);
+    return Text::tr("There is no state in \"%1\".").arg(options.stateDirectory);
 }
 
 template <typename Act>
@@ -138,7 +141,7 @@ int judge(handset::Handset &handset, const Options &options, const std::vector<F
     if (options.alert) {
         const std::optional<bool> reached = isReached(handset, *options.alert);
         if (!reached)
-            return complain(ExitNotAvailable, QStringLiteral("The figure of the alert is not available."));
+            return complain(ExitNotAvailable, Text::tr("The figure of the alert is not available."));
         if (*reached)
             return ExitAlert;
     }
@@ -178,7 +181,7 @@ int showRows(const Options &options)
         if (status == handset::Success)
             status = handset::calllog::listSessions(ledger, {}, sessions);
         if (status != handset::Success)
-            return complain(ExitFailed, QStringLiteral("The call log cannot be read."));
+            return complain(ExitFailed, Text::tr("The call log cannot be read."));
         if (options.command == QLatin1String("calls"))
             return print(meter::print(tableOf(calls), options.format));
         if (options.command == QLatin1String("sessions"))
@@ -193,7 +196,7 @@ int report(const Options &options, int status)
         handset::broadcastChange();
         return ExitSuccess;
     }
-    return complain(exitCodeOf(status), QStringLiteral("Nothing was changed: %1 %2: %3.")
+    return complain(exitCodeOf(status), Text::tr("Nothing was changed: %1 %2: %3.")
                                             .arg(options.command, options.words.constFirst(), nameOf(status)));
 }
 
@@ -210,7 +213,7 @@ int deleteRows(const Options &options)
     const QString word = options.words.constFirst();
     const qint64 id = word.toLongLong(&isNumber);
     if (word != QLatin1String("all") && (!isNumber || id < 1))
-        return complain(ExitBadCommandLine, QStringLiteral("delete wants the id of a call, or all."));
+        return complain(ExitBadCommandLine, Text::tr("delete wants the id of a call, or all."));
     return withLedger(options, [&](handset::calllog::Ledger &ledger) {
         qint64 count = 0;
         handset::calllog::Period period;
@@ -226,7 +229,7 @@ int exportTo(const Options &options)
     return withLedger(options, [&](handset::calllog::Ledger &ledger) {
         QByteArray text;
         if (exportState(ledger, text) != handset::Success)
-            return complain(ExitFailed, QStringLiteral("The call log cannot be read."));
+            return complain(ExitFailed, Text::tr("The call log cannot be read."));
         const QString file = options.words.constFirst();
         if (file == QLatin1String("-"))
             return print(text);
@@ -273,8 +276,12 @@ int main(int argc, char **argv)
     const QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kavmeter"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAV_VERSION));
+    language::Catalogue catalogue;
+    const QString language = language::languageFor(QCoreApplication::arguments());
+    if (const QString problem = catalogue.installLanguage(language); !problem.isEmpty())
+        complain(ExitSuccess, problem); // figures are worth more than their language
     const CommandLine commandLine = parse(QCoreApplication::arguments());
     if (!commandLine.error.isEmpty())
-        return complain(ExitBadCommandLine, commandLine.error + QStringLiteral(" See kavmeter --help."));
+        return complain(ExitBadCommandLine, commandLine.error + u' ' + Text::tr("See kavmeter --help."));
     return commandLine.options ? run(*commandLine.options) : print(commandLine.output.toUtf8());
 }

@@ -1,6 +1,8 @@
 // kavcallrecorder records the calls and data connections of a modem while no window is open.
 #include "handset/CallRetention.h"
 #include "handset/Handset.h"
+#include "language/Catalogue.h"
+#include "language/Languages.h"
 #include "process/EndSignals.h"
 
 #include <QtCore/QCommandLineParser>
@@ -11,13 +13,19 @@
 
 namespace {
 
+/// What it says, in the catalogues' context of the program.
+struct Text {
+    Q_DECLARE_TR_FUNCTIONS(kavcallrecorder)
+};
+
 /// Those of the phone's window.
 enum ExitCode : int { ExitSuccess = 0, ExitBadCommandLine = 2, ExitNoHandset = 3 };
 
-constexpr const char *exitCodes = "\nExit codes:\n"
-                                  "  0  a signal has ended it, and what ran is written\n"
-                                  "  2  the command line is wrong\n"
-                                  "  3  there is no system bus, or the telephone cannot be opened\n";
+constexpr const char *exitCodes =
+    QT_TRANSLATE_NOOP("kavcallrecorder", "\nExit codes:\n"
+                                         "  0  a signal has ended it, and what ran is written\n"
+                                         "  2  the command line is wrong\n"
+                                         "  3  there is no system bus, or the telephone cannot be opened\n");
 
 /// Nobody waits for the recorder, and where a machine has just been started its bus may be busy.
 constexpr int busPatienceMs = 10'000;
@@ -34,26 +42,30 @@ int complain(int code, const QString &message)
     return code;
 }
 
+int complainOfCommandLine(const QString &mistake)
+{
+    return complain(ExitBadCommandLine, mistake + u' ' + Text::tr("See kavcallrecorder --help."));
+}
+
 void describe(QCommandLineParser &parser)
 {
     parser.setApplicationDescription(
-        QStringLiteral("Records the calls and data connections of a modem while no window is open."));
+        Text::tr("Records the calls and data connections of a modem while no window is open."));
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addOption(
         {QStringLiteral("backend"),
-         QStringLiteral("The telephone: %1, the path of a library that has one, or auto: the first over which a "
-                        "modem is there, now or later. Default: auto.")
+         Text::tr("The telephone: %1, the path of a library that has one, or auto: the first over which a "
+                  "modem is there, now or later. Default: auto.")
              .arg(handset::backendNames().join(QStringLiteral(", "))),
          QStringLiteral("NAME"), QStringLiteral("auto")});
     parser.addOption({QStringLiteral("state"),
-                      QStringLiteral("Record in DIR. Default: %1").arg(handset::defaultStateDirectory()),
+                      Text::tr("Record in DIR. Default: %1").arg(handset::defaultStateDirectory()),
                       QStringLiteral("DIR"), handset::defaultStateDirectory()});
-    parser.addOption(
-        {QStringLiteral("keep-calls"),
-         QStringLiteral("Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when "
-                        "recording begins and once a day, and stay in the totals. Default: all are kept."),
-         QStringLiteral("DAYS")});
+    parser.addOption({QStringLiteral("keep-calls"),
+                      Text::tr("Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when "
+                               "recording begins and once a day, and stay in the totals. Default: all are kept."),
+                      QStringLiteral("DAYS")});
 }
 
 /// Records what a modem does; with "auto" that of the first daemon that has one, for which it waits.
@@ -93,7 +105,7 @@ private:
         if (!awaited.watch)
             return awaited.error;
         if (!awaited.error.isEmpty())
-            complain(ExitSuccess, awaited.error + QStringLiteral("; it is looked for."));
+            complain(ExitSuccess, Text::tr("%1; it is looked for.").arg(awaited.error));
         return {};
     }
 
@@ -131,12 +143,16 @@ int main(int argc, char **argv)
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kavcallrecorder"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAV_VERSION));
+    language::Catalogue catalogue;
+    const QString language = language::languageFor(QCoreApplication::arguments());
+    if (const QString problem = catalogue.installLanguage(language); !problem.isEmpty())
+        complain(ExitSuccess, problem); // what is recorded is worth more than its language
     QCommandLineParser parser;
     describe(parser);
     if (!parser.parse(QCoreApplication::arguments()))
-        return complain(ExitBadCommandLine, parser.errorText() + QStringLiteral(" See kavcallrecorder --help."));
+        return complainOfCommandLine(parser.errorText());
     if (parser.isSet(QStringLiteral("help"))) {
-        QTextStream(stdout) << parser.helpText() << exitCodes;
+        QTextStream(stdout) << parser.helpText() << Text::tr(exitCodes);
         return ExitSuccess;
     }
     if (parser.isSet(QStringLiteral("version")))
@@ -145,13 +161,10 @@ int main(int argc, char **argv)
     const Options options{parser.value(QStringLiteral("backend")), parser.value(QStringLiteral("state")),
                           handset::keptDaysFrom(days)};
     if (parser.isSet(QStringLiteral("keep-calls")) && !options.keptDays)
-        return complain(
-            ExitBadCommandLine,
-            QStringLiteral("Option 'keep-calls' wants a number of days, 0 to %1. See kavcallrecorder --help.")
-                .arg(handset::mostKeptDays));
+        return complainOfCommandLine(
+            Text::tr("Option 'keep-calls' wants a number of days, 0 to %1.").arg(handset::mostKeptDays));
     if (options.backend.isEmpty() || options.stateDirectory.isEmpty() || !parser.positionalArguments().isEmpty())
-        return complain(ExitBadCommandLine, QStringLiteral("There is a value missing or too many. See "
-                                                           "kavcallrecorder --help."));
+        return complainOfCommandLine(Text::tr("There is a value missing or too many."));
     const process::EndSignals endSignals; // outlives the handset, whose call is to be written
     return Recorder(options, endSignals).run();
 }

@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>الاستخدام: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[خيارات]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>الخيارات:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>المعاملات:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>يعرض الإصدار.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>يعرض هذه المساعدة.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>يعرض المساعدة مع خيارات Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>خيار غير معروف «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>خيارات غير معروفة: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>تنقص قيمة بعد «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>قيمة غير متوقعة بعد «%1».</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>إجمالي المكالمات</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>لا وجود له</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ليس ملفًا عاديًا</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>أكبر من %1 ميبيبايت</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>يرجى الانتظار ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+رموز الخروج:
+  0  أنهت إشارة البرنامج، وكُتب ما كان جاريًا
+  2  سطر الأوامر خاطئ
+  3  لا يوجد ناقل للنظام، أو تعذّر فتح الهاتف
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>انظر kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>يسجّل مكالمات المودم واتصالات بياناته عندما لا تكون أي نافذة مفتوحة.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>الهاتف: %1، أو مسار مكتبة فيها هاتف، أو auto: أول هاتف يوجد عبره مودم، الآن أو لاحقًا. الافتراضي: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>التسجيل في DIR. الافتراضي: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>الاحتفاظ بمكالمات آخر DAYS من الأيام، من 0 إلى 100000؛ تُحذف الأقدم عند بدء التسجيل ومرة كل يوم، وتبقى في المجاميع. الافتراضي: الاحتفاظ بها كلها.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1؛ البحث مستمر.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>يتطلب الخيار «keep-calls» عددًا من الأيام من 0 إلى %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>توجد قيمة ناقصة أو زائدة.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>يعرض عدادات الهاتف: مدد المكالمات وتكاليفها، ومدد بيانات الحزم وبايتاتها.
+
+الأوامر:
+  figures [NAME ...]   كل القيم، أو هذه فقط؛ وهو الافتراضي
+  settings             إشعار التكلفة: طريقة حساب التكاليف، وحد الرصيد، والسعر
+  calls                المكالمات المحفوظة
+  sessions             جلسات البيانات المحفوظة
+  totals               المحفوظ كله، حسب الشهر أو حسب --by و --cycle-day
+  reset NAME           يصفّر: %1
+  delete ID|all        يحذف مكالمة، أو كل المكالمات المنتهية؛ وتبقى المجاميع
+  export FILE          يكتب الحالة كلها بصيغة JSON؛ «-» هو الخرج القياسي
+  import FILE          ينشئ حالة جديدة من ملف كهذا
+
+القيم: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+رموز الخروج:
+  0  تم كل شيء بنجاح
+  1  الهاتف يرفض، أو تعذّرت قراءة سجل المكالمات أو كتابته
+  2  سطر الأوامر خاطئ، أو طُلب تغيير بدون --yes
+  3  لا توجد حالة، أو تعذّر فتح الهاتف
+  4  قيمة مطلوبة غير متاحة
+  5  بُلغ حد الرصيد، أو نفد الرصيد
+  6  بُلغت قيمة --alert
+  7  تعذّرت قراءة ملف أو الخرج أو كتابته، أو فيه خطأ
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>حالة الهاتف في DIR. الافتراضي: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>الهاتف: %1، أو مسار مكتبة فيها هاتف. الافتراضي: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>التحدث بهذه اللغة: %1. الافتراضي: لغة الإعدادات المحلية. ‏JSON و CSV متماثلان في جميعها.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>طباعة JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>طباعة قيم مفصولة بفواصل.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>التصفير أو الحذف فعلًا؛ دون سؤال.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>الطباعة من جديد كلما تغيّر شيء، حتى تصل إشارة.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>المجاميع حسب اليوم أو الشهر أو الدورة (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>تبدأ دورة الفوترة في اليوم N، من 1 إلى 28؛ المجاميع حسب الدورة.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>مع delete all: الاحتفاظ بمكالمات آخر DAYS من الأيام.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N أو TIME N أو BYTES N: رمز الخروج 6 إذا بلغت تكلفة كل المكالمات N أو أكثر، أو مدتها N ثانية أو أكثر، أو نُقل N بايت أو أكثر في الاتجاهين.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>ما العمل.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>يتطلب الخيار «alert» إحدى الكلمات COST أو TIME أو BYTES وعددًا.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>يتطلب الخيار «by» إحدى الكلمات day أو month أو cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>يتطلب الخيار «cycle-day» يومًا من 1 إلى 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>الخيار «cycle-day» يأتي مع --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>يتطلب الخيار «keep-calls» عددًا من الأيام.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>الخيار «keep-calls» يأتي مع delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>لا يوجد أمر «%1».</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>في الأمر «%1» كلمة ناقصة أو زائدة.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>لا يوجد «%1» لعرضه أو تصفيره.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>الخياران «watch» و«alert» يأتيان مع figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>لم يتغيّر شيء: يتطلب «%1» الخيار --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>يتطلب الخياران «state» و«backend» قيمة.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>لغة غير معروفة «%1»؛ المتاح: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>لا يجتمع الخياران «json» و«csv».</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>وحدات</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>بايت</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>عملة</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>مفعّل</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>معطّل</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>تعذّرت كتابة الخرج.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>لا توجد حالة في «%1».</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>قيمة التنبيه غير متاحة.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>تعذّرت قراءة سجل المكالمات.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>لم يتغيّر شيء: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>يتطلب delete معرّف مكالمة، أو all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>انظر kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>جارية</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>منتهية</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>لم تتصل</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>منقطعة</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>بيانات</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>صوت</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>صادرة</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>مُجابة</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>غير متاح</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>ليس عددًا صحيحًا</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>ليس نصًا</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>ليس مكوّنًا من أزواج أرقام ست عشرية</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>ينقص %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 غير معروف</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>تعذّرت قراءة kept[%1].content</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format ليس «%1»</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version ليس %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 ليس قائمة</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 ليس صفًا</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] غير ممكن</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>مجاميعه تناقض صفوفه</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>تعذّر إنشاء «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>تعذّرت كتابة «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>تعذّرت قراءة «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>«%1»، السطر %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>«%1» ليس فارغًا: تُستورد الحالة إلى دليل جديد.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>خيار Qt ‏«%1» لا يجتمع مع الخيار «tour».</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>انظر kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>لا توجد شاشة لعرض الهاتف عليها؛ --tour DIR لا يحتاج إليها.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>تعذّر الوصول إلى الشاشة «%1»؛ --tour DIR لا يحتاج إليها.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>تعذّر فتح ملف التتبع «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>تعذّرت قراءة النص البرمجي «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>تعذّرت كتابة الصورة «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>لا تعطي الإضافة شاشة «%1».</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>يعرض عدادات مكالمات الهاتف: هاتف بشاشته ولوحة مفاتيحه في نافذة، وبجانبه لوحة
+تجري المكالمات على الهاتف المحاكى.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+رموز الخروج:
+  0  تم كل شيء بنجاح
+  1  رأت جولة غير ما يتوقعه نصها البرمجي
+  2  سطر الأوامر خاطئ
+  3  تعذّر فتح الهاتف
+  4  تعذّر فتح ملف التتبع
+  5  الإضافة أو مكتبة أخرى أو إحدى دوالها مفقودة، أو لا تعطي الإضافة شاشة
+  6  تعذّرت قراءة النص البرمجي للجولة، أو فيه خطأ
+  7  تعذّرت كتابة صورة أو نص جولة أو ما طُلب
+  8  تعذّر تحميل فهرس الترجمة
+  9  لا توجد شاشة لعرض النافذة عليها، أو لا توجد منصة Qt كهذه
+ 10  أنهت إشارة جولة قبل نهايتها
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>الاحتفاظ بحالة الهاتف بين مرات التشغيل في DIR؛ «none» يبقيها في الذاكرة. الافتراضي: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>إلحاق التتبع بالملف FILE؛ «-» هو الخرج القياسي. الافتراضي: trace.log في دليل الحالة؛ بلا تتبع إذا كانت الحالة في الذاكرة، وفي الجولة.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>الهاتف في الخلف: %2، أو مسار مكتبة فيها هاتف، أو auto: أول هاتف له مودم، وإلا simulated. الافتراضي: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>الاحتفاظ بمكالمات آخر DAYS من الأيام، من 0 إلى 100000؛ تُحذف الأقدم عند التشغيل ومرة كل يوم، وتبقى في المجاميع. الافتراضي: الاحتفاظ بها كلها.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>مكتبة الإضافة. الافتراضي: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>فتح هذه الشاشة فورًا: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>عرض هذه الصفحة من اللوحة: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>تحميل نصوص الفهرس FILE ‏(.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>التحدث بهذه اللغة: %5. الافتراضي: لغة الإعدادات المحلية؛ والإنجليزية في الجولة ومع --photo.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>تصوير النافذة بصيغة PNG في FILE والإنهاء.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>إجراء جولة بلا شاشة: وضع صور الشاشات في DIR وطباعة نصوصها.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>تشغيل هذا النص البرمجي بدل جولة كل الشاشات؛ مع --tour فقط.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>يعرض هذه المساعدة.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>قيمة الخيار «%1» فارغة.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>الاسم الذي يعطيه الخيار «%1» ليس بترميز UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>شاشة غير معروفة «%1»؛ المتاح: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>صفحة غير معروفة «%1»؛ المتاح: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>لغة غير معروفة «%1»؛ المتاح: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>معامل غير متوقع «%1».</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>الخيار «script» يحتاج إلى الخيار «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>يتطلب الخيار «keep-calls» عددًا من الأيام من 0 إلى %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>الخيار «%1» لا يجتمع مع الخيار «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>الخيار «language» لا يجتمع مع الخيار «translation».</translation>
     </message>
 </context>
 </TS>

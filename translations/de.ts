@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Aufruf: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[Optionen]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumente:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Zeigt die Version an.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Zeigt diese Hilfe an.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Zeigt die Hilfe mit den Optionen von Qt an.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Unbekannte Option »%1«.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Unbekannte Optionen: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>Nach »%1« fehlt ein Wert.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>Nach »%1« darf kein Wert stehen.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Anrufe gesamt</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>sie ist nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>sie ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>sie ist größer als %1 MiB</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Bitte warten ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Exit-Codes:
+  0  ein Signal hat das Programm beendet; was lief, ist geschrieben
+  2  die Befehlszeile ist fehlerhaft
+  3  es gibt keinen Systembus, oder das Telefon kann nicht geöffnet werden
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Siehe kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Zeichnet Anrufe und Datenverbindungen eines Modems auf, solange kein Fenster offen ist.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>Das Telefon: %1, der Pfad einer Bibliothek, die eines hat, oder auto: das erste, über das ein Modem erreichbar ist, jetzt oder später. Vorgabe: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>In DIR aufzeichnen. Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Nur die Anrufe der letzten DAYS Tage behalten, 0 bis 100000; ältere werden beim Beginn der Aufzeichnung und einmal am Tag gelöscht und bleiben in den Summen. Vorgabe: alle bleiben.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; es wird danach gesucht.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>Die Option »keep-calls« verlangt eine Anzahl von Tagen, 0 bis %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Ein Wert fehlt oder ist zu viel.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Zeigt die Zähler des Telefons: Dauer und Kosten von Anrufen, Dauer und Bytes von Paketdaten.
+
+Befehle:
+  figures [NAME ...]   alle Zahlen oder nur diese; die Vorgabe
+  settings             Gebührenanzeige: wie Kosten gezählt werden, das Kostenlimit, der Preis
+  calls                die gespeicherten Anrufe
+  sessions             die gespeicherten Datensitzungen
+  totals               was gespeichert ist, nach Monaten oder nach --by und --cycle-day
+  reset NAME           setzt auf null: %1
+  delete ID|all        löscht einen Anruf oder alle beendeten; die Summen bleiben
+  export FILE          schreibt den ganzen Zustand als JSON; »-« ist die Standardausgabe
+  import FILE          macht aus einer solchen Datei einen neuen Zustand
+
+Zahlen: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Exit-Codes:
+  0  alles ist gut gegangen
+  1  das Telefon lehnt ab, oder die Anrufliste lässt sich nicht lesen oder schreiben
+  2  die Befehlszeile ist fehlerhaft, oder eine Änderung wurde ohne --yes verlangt
+  3  es gibt keinen Zustand, oder das Telefon kann nicht geöffnet werden
+  4  eine genannte Zahl ist nicht verfügbar
+  5  das Kostenlimit ist erreicht oder das Guthaben aufgebraucht
+  6  die Zahl von --alert ist erreicht
+  7  eine Datei oder die Ausgabe lässt sich nicht lesen oder schreiben oder hat einen Fehler
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>Der Zustand des Telefons liegt in DIR. Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>Das Telefon: %1 oder der Pfad einer Bibliothek, die eines hat. Vorgabe: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Diese Sprache sprechen: %1. Vorgabe: die der Locale. JSON und CSV sind in jeder gleich.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>JSON ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Durch Kommas getrennte Werte ausgeben.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Wirklich zurücksetzen oder löschen; es wird nicht nachgefragt.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Bei jeder Änderung neu ausgeben, bis ein Signal kommt.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Summen nach Tag, Monat oder Zyklus (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>Der Abrechnungszeitraum beginnt am Tag N, 1 bis 28; Summen nach Zyklus.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>Mit delete all: die Anrufe der letzten DAYS Tage behalten.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N oder BYTES N: Exit-Code 6, wenn alle Anrufe zusammen N oder mehr gekostet oder N Sekunden oder länger gedauert haben oder in beiden Richtungen N Bytes oder mehr übertragen wurden.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Was zu tun ist.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>Die Option »alert« verlangt COST, TIME oder BYTES und eine Zahl.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>Die Option »by« verlangt day, month oder cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>Die Option »cycle-day« verlangt einen Tag von 1 bis 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>Die Option »cycle-day« gehört zu --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>Die Option »keep-calls« verlangt eine Anzahl von Tagen.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>Die Option »keep-calls« gehört zu delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>Den Befehl »%1« gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>Dem Befehl »%1« fehlt ein Wort, oder es sind zu viele.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>»%1« gibt es nicht, weder zum Anzeigen noch zum Zurücksetzen.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>Die Optionen »watch« und »alert« gehören zu figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Nichts wurde geändert: »%1« verlangt --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>Die Optionen »state« und »backend« verlangen einen Wert.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Unbekannte Sprache »%1«; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>Die Optionen »json« und »csv« schließen einander aus.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>Währung</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ein</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Die Ausgabe lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>In »%1« gibt es keinen Zustand.</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>Die Zahl für die Warnung ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Die Anrufliste lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Nichts wurde geändert: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete verlangt die Kennung eines Anrufs oder all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Siehe kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>beendet</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>nicht verbunden</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>unterbrochen</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>gewählt</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>angenommen</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>ist kein Text</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>besteht nicht aus Paaren von Hexadezimalziffern</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>%1.%2 fehlt</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format ist nicht »%1«</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version ist nicht %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 ist keine Liste</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 ist keine Zeile</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] ist nicht möglich</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>die Summen widersprechen den Zeilen</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>»%1« kann nicht angelegt werden: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>»%1« lässt sich nicht schreiben: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>»%1« lässt sich nicht lesen: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>»%1«, Zeile %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>»%1« ist nicht leer: Ein Zustand wird in ein neues Verzeichnis importiert.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>Die Option »%1« von Qt verträgt sich nicht mit der Option »tour«.</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Siehe kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Es gibt keinen Bildschirm, auf dem das Telefon gezeigt werden kann; --tour DIR braucht keinen.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>Der Bildschirm »%1« ist nicht erreichbar; --tour DIR braucht keinen.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>Die Protokolldatei »%1« lässt sich nicht öffnen: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>Das Skript »%1« lässt sich nicht lesen: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>Das Foto »%1« lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>Das Plug-in liefert keinen Bildschirm »%1«.</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Zeigt die Gesprächszähler des Telefons: ein Telefon mit Display und Tastatur in einem Fenster und daneben ein
+Bedienfeld, das auf dem simulierten Telefon Anrufe macht.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Exit-Codes:
+  0  alles ist gut gegangen
+  1  ein Rundgang hat etwas anderes gesehen, als sein Skript erwartet
+  2  die Befehlszeile ist fehlerhaft
+  3  das Telefon kann nicht geöffnet werden
+  4  die Protokolldatei lässt sich nicht öffnen
+  5  das Plug-in oder eine andere Bibliothek oder eine Funktion davon fehlt, oder das Plug-in liefert keinen Bildschirm
+  6  das Skript des Rundgangs lässt sich nicht lesen oder hat einen Fehler
+  7  ein Foto, der Text eines Rundgangs oder das Verlangte lässt sich nicht schreiben
+  8  der Übersetzungskatalog lässt sich nicht laden
+  9  es gibt keinen Bildschirm für das Fenster oder keine solche Plattform von Qt
+ 10  ein Signal hat einen Rundgang vorzeitig beendet
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Den Zustand des Telefons zwischen den Starts in DIR behalten; »none« hält ihn nur im Speicher. Vorgabe: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Protokollzeilen an FILE anhängen; »-« ist die Standardausgabe. Vorgabe: trace.log im Zustandsverzeichnis; kein Protokoll, wenn der Zustand nur im Speicher ist, und auf einem Rundgang.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>Das Telefon dahinter: %2, der Pfad einer Bibliothek, die eines hat, oder auto: das erste, das ein Modem hat, sonst simulated. Vorgabe: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Nur die Anrufe der letzten DAYS Tage behalten, 0 bis 100000; ältere werden beim Start und einmal am Tag gelöscht und bleiben in den Summen. Vorgabe: alle bleiben.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>Die Plug-in-Bibliothek. Vorgabe: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Diesen Bildschirm gleich öffnen: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Diese Seite des Bedienfelds zeigen: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Die Texte des Katalogs FILE (.qm) laden.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Diese Sprache sprechen: %5. Vorgabe: die der Locale; auf einem Rundgang und mit --photo Englisch.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Das Fenster als PNG in FILE fotografieren und beenden.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Einen Rundgang ohne Bildschirm spielen: Fotos der Bildschirme in DIR ablegen und ihre Texte ausgeben.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Dieses Skript statt des Rundgangs durch alle Bildschirme spielen; nur mit --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Zeigt diese Hilfe an.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>Die Option »%1« hat einen leeren Wert.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>Der Name, den die Option »%1« angibt, ist kein UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Unbekannter Bildschirm »%1«; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Unbekannte Seite »%1«; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Unbekannte Sprache »%1«; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Unerwartetes Argument »%1«.</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>Die Option »script« braucht die Option »tour«.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>Die Option »keep-calls« verlangt eine Anzahl von Tagen, 0 bis %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>Die Option »%1« verträgt sich nicht mit der Option »tour«.</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>Die Option »language« verträgt sich nicht mit der Option »translation«.</translation>
     </message>
 </context>
 </TS>

@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opciones]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opciones:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Muestra la versión.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Muestra esta ayuda.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Muestra la ayuda con las opciones propias de Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Opción desconocida «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opciones desconocidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>Falta un valor después de «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>Valor inesperado después de «%1».</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Total de llamadas</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>no existe</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>supera los %1 MiB</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Espere, por favor ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Códigos de salida:
+  0  una señal ha terminado el programa y lo que estaba en curso está escrito
+  2  la línea de órdenes es incorrecta
+  3  no hay bus del sistema, o no se puede abrir el teléfono
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Véase kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Registra las llamadas y las conexiones de datos de un módem mientras no hay ninguna ventana abierta.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>El teléfono: %1, la ruta de una biblioteca que tenga uno, o auto: el primero por el que se llegue a un módem, ahora o más tarde. Predeterminado: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>Registrar en DIR. Predeterminado: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Conservar las llamadas de los últimos DAYS días, de 0 a 100000; las anteriores se borran al empezar a registrar y una vez al día, y siguen en los totales. Predeterminado: se conservan todas.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; se sigue buscando.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>La opción «keep-calls» requiere un número de días, de 0 a %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Falta o sobra un valor.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Muestra los contadores del teléfono: duración y coste de las llamadas, duración y bytes de los datos por paquetes.
+
+Órdenes:
+  figures [NAME ...]   todas las cifras, o estas; la predeterminada
+  settings             aviso de tarificación: cómo se cuentan los costes, el límite de crédito, el precio
+  calls                las llamadas guardadas
+  sessions             las sesiones de datos guardadas
+  totals               lo guardado, por meses o según --by y --cycle-day
+  reset NAME           pone a cero: %1
+  delete ID|all        borra una llamada, o todas las terminadas; los totales quedan
+  export FILE          escribe todo el estado en JSON; «-» es la salida estándar
+  import FILE          crea un estado nuevo a partir de un archivo así
+
+Cifras: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Códigos de salida:
+  0  todo ha ido bien
+  1  el teléfono se niega, o no se puede leer o escribir el registro de llamadas
+  2  la línea de órdenes es incorrecta, o se pidió un cambio sin --yes
+  3  no hay estado, o no se puede abrir el teléfono
+  4  una cifra pedida no está disponible
+  5  se ha alcanzado el límite de crédito, o se ha agotado el crédito
+  6  se ha alcanzado la cifra de --alert
+  7  un archivo, o la salida, no se puede leer o escribir, o tiene un error
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>El estado del teléfono está en DIR. Predeterminado: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>El teléfono: %1, o la ruta de una biblioteca que tenga uno. Predeterminado: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Hablar este idioma: %1. Predeterminado: el de la configuración regional. JSON y CSV son iguales en todos.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Mostrar JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Mostrar valores separados por comas.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Poner a cero o borrar de verdad; no se pregunta nada.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Mostrar de nuevo cada vez que algo cambie, hasta que llegue una señal.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Totales por día, mes o ciclo (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>El ciclo de facturación empieza el día N, de 1 a 28; totales por ciclo.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>Con delete all: conservar las llamadas de los últimos DAYS días.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N o BYTES N: código de salida 6 si todas las llamadas han costado N o más, o durado N segundos o más, o si se han transferido N bytes o más en ambos sentidos.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Qué hacer.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>La opción «alert» requiere COST, TIME o BYTES, y un número.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>La opción «by» requiere day, month o cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>La opción «cycle-day» requiere un día de 1 a 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>La opción «cycle-day» va con --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>La opción «keep-calls» requiere un número de días.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>La opción «keep-calls» va con delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>No existe la orden «%1».</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>A la orden «%1» le falta o le sobra una palabra.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>No hay ningún «%1» que mostrar o poner a cero.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>Las opciones «watch» y «alert» van con figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>No se ha cambiado nada: «%1» requiere --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>Las opciones «state» y «backend» requieren un valor.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Idioma desconocido «%1»; hay: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>Las opciones «json» y «csv» no van juntas.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unidades</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>moneda</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activado</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desactivado</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>No se puede escribir la salida.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>No hay estado en «%1».</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>La cifra de la alerta no está disponible.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>No se puede leer el registro de llamadas.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>No se ha cambiado nada: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete requiere el identificador de una llamada, o all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Véase kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en curso</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminada</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>no conectada</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrumpida</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>datos</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>voz</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>realizada</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>recibida</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>no disponible</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>no es un número entero</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>no es un texto</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>no consta de pares de dígitos hexadecimales</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>falta %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 no se conoce</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content no se puede leer</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format no es «%1»</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version no es %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 no es una lista</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 no es una fila</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] no es posible</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>sus totales contradicen sus filas</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>No se puede crear «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>No se puede escribir «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>No se puede leer «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>«%1», línea %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>«%1» no está vacío: un estado se importa en un directorio nuevo.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>La opción «%1» de Qt no va con la opción «tour».</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Véase kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>No hay pantalla en la que mostrar el teléfono; --tour DIR no necesita ninguna.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>No se puede acceder a la pantalla «%1»; --tour DIR no necesita ninguna.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>No se puede abrir el archivo de traza «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>No se puede leer el guion «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>No se puede escribir la fotografía «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>El complemento no da ninguna pantalla «%1».</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Muestra los contadores de llamadas del teléfono: un teléfono con su pantalla y su teclado en una ventana, y al lado
+un panel que hace llamadas en el teléfono simulado.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Códigos de salida:
+  0  todo ha ido bien
+  1  un recorrido ha visto algo distinto de lo que espera su guion
+  2  la línea de órdenes es incorrecta
+  3  no se puede abrir el teléfono
+  4  no se puede abrir el archivo de traza
+  5  falta el complemento u otra biblioteca, o una función de ella, o el complemento no da ninguna pantalla
+  6  el guion del recorrido no se puede leer, o tiene un error
+  7  no se puede escribir una fotografía, el texto de un recorrido o lo que se pidió
+  8  no se puede cargar el catálogo de traducción
+  9  no hay pantalla en la que mostrar la ventana, o no existe esa plataforma de Qt
+ 10  una señal ha terminado un recorrido antes de su fin
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Conservar el estado del teléfono en DIR entre arranques; «none» lo mantiene en memoria. Predeterminado: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Añadir las trazas a FILE; «-» es la salida estándar. Predeterminado: trace.log en el directorio de estado; sin traza si el estado está en memoria, y en un recorrido.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>El teléfono que hay detrás: %2, la ruta de una biblioteca que tenga uno, o auto: el primero que tenga un módem, si no simulated. Predeterminado: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Conservar las llamadas de los últimos DAYS días, de 0 a 100000; las anteriores se borran al arrancar y una vez al día, y siguen en los totales. Predeterminado: se conservan todas.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>La biblioteca del complemento. Predeterminado: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Abrir esta pantalla de inmediato: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Mostrar esta página del panel: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Cargar los textos del catálogo FILE (.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Hablar este idioma: %5. Predeterminado: el de la configuración regional; inglés en un recorrido y con --photo.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Fotografiar la ventana como PNG en FILE y terminar.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Hacer un recorrido sin pantalla: guardar fotografías de las pantallas en DIR y mostrar sus textos.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Seguir este guion en lugar del recorrido por todas las pantallas; solo con --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Muestra esta ayuda.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>La opción «%1» tiene un valor vacío.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>El nombre que da la opción «%1» no es UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Pantalla desconocida «%1»; hay: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Página desconocida «%1»; hay: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Idioma desconocido «%1»; hay: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Argumento inesperado «%1».</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>La opción «script» necesita la opción «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>La opción «keep-calls» requiere un número de días, de 0 a %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>La opción «%1» no va con la opción «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>La opción «language» no va con la opción «translation».</translation>
     </message>
 </context>
 </TS>

@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilisation : %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[options]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Arguments :</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Affiche la version.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Affiche cette aide.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Affiche l'aide avec les options propres à Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Option inconnue « %1 ».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Options inconnues : %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>Il manque une valeur après « %1 ».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>Valeur inattendue après « %1 ».</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Total des appels</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>il n'existe pas</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>ce n'est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>il dépasse %1 Mio</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Veuillez patienter ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Codes de retour :
+  0  un signal a mis fin au programme et ce qui était en cours est écrit
+  2  la ligne de commande est incorrecte
+  3  il n'y a pas de bus système, ou le téléphone ne peut pas être ouvert
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Voir kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Enregistre les appels et les connexions de données d'un modem quand aucune fenêtre n'est ouverte.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>Le téléphone : %1, le chemin d'une bibliothèque qui en contient un, ou auto : le premier par lequel un modem est joignable, maintenant ou plus tard. Par défaut : auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>Enregistrer dans DIR. Par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Conserver les appels des DAYS derniers jours, de 0 à 100000 ; les plus anciens sont supprimés au début de l'enregistrement puis une fois par jour, et restent dans les totaux. Par défaut : tous sont conservés.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1 ; la recherche continue.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>L'option « keep-calls » demande un nombre de jours, de 0 à %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Une valeur manque ou est en trop.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Affiche les compteurs du téléphone : durée et coût des appels, durée et octets des données par paquets.
+
+Commandes :
+  figures [NAME ...]   tous les chiffres, ou ceux-ci ; par défaut
+  settings             indication de taxation : mode de calcul des coûts, plafond de crédit, prix
+  calls                les appels conservés
+  sessions             les sessions de données conservées
+  totals               ce qui est conservé, par mois ou selon --by et --cycle-day
+  reset NAME           remet à zéro : %1
+  delete ID|all        supprime un appel, ou tous ceux qui sont terminés ; les totaux restent
+  export FILE          écrit tout l'état en JSON ; « - » est la sortie standard
+  import FILE          crée un nouvel état à partir d'un tel fichier
+
+Chiffres : %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Codes de retour :
+  0  tout s'est bien passé
+  1  le téléphone refuse, ou le journal des appels ne peut pas être lu ou écrit
+  2  la ligne de commande est incorrecte, ou une modification a été demandée sans --yes
+  3  il n'y a pas d'état, ou le téléphone ne peut pas être ouvert
+  4  un chiffre demandé n'est pas disponible
+  5  le plafond de crédit est atteint, ou le crédit est épuisé
+  6  le chiffre de --alert est atteint
+  7  un fichier, ou la sortie, ne peut pas être lu ou écrit, ou contient une erreur
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>L'état du téléphone se trouve dans DIR. Par défaut : %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>Le téléphone : %1, ou le chemin d'une bibliothèque qui en contient un. Par défaut : simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Parler cette langue : %1. Par défaut : celle des paramètres régionaux. JSON et CSV sont identiques dans toutes.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Afficher en JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Afficher des valeurs séparées par des virgules.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Remettre à zéro ou supprimer sans demander confirmation.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Afficher de nouveau à chaque changement, jusqu'à l'arrivée d'un signal.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Totaux par jour, mois ou cycle (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>Le cycle de facturation commence le jour N, de 1 à 28 ; totaux par cycle.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>Avec delete all : conserver les appels des DAYS derniers jours.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N ou BYTES N : code de retour 6 si l'ensemble des appels a coûté N ou plus, ou duré N secondes ou plus, ou si N octets ou plus ont été échangés dans les deux sens.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Ce qu'il faut faire.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>L'option « alert » demande COST, TIME ou BYTES, et un nombre.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>L'option « by » demande day, month ou cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>L'option « cycle-day » demande un jour de 1 à 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>L'option « cycle-day » va avec --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>L'option « keep-calls » demande un nombre de jours.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>L'option « keep-calls » va avec delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>Il n'y a pas de commande « %1 ».</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>La commande « %1 » a un mot en moins ou en trop.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>Il n'y a pas de « %1 » à afficher ou à remettre à zéro.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>Les options « watch » et « alert » vont avec figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Rien n'a été modifié : « %1 » demande --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>Les options « state » et « backend » demandent une valeur.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Langue inconnue « %1 » ; il y a : %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>Les options « json » et « csv » ne vont pas ensemble.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unités</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>octets</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>devise</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>activée</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>désactivée</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>La sortie ne peut pas être écrite.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>Il n'y a pas d'état dans « %1 ».</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>Le chiffre de l'alerte n'est pas disponible.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Le journal des appels ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Rien n'a été modifié : %1 %2 : %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete demande l'identifiant d'un appel, ou all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Voir kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminé</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>non abouti</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompu</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>données</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>voix</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>composé</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>reçu</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>non disponible</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>n'est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>n'est pas un texte</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>n'est pas fait de paires de chiffres hexadécimaux</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>%1.%2 manque</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 n'est pas connu</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content ne peut pas être lu</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format n'est pas « %1 »</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version n'est pas %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 n'est pas une liste</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 n'est pas une ligne</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] n'est pas possible</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>ses totaux contredisent ses lignes</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>« %1 » ne peut pas être créé : %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>« %1 » ne peut pas être écrit : %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>« %1 » ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>« %1 », ligne %2 : %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>« %1 » n'est pas vide : un état s'importe dans un nouveau répertoire.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>L'option « %1 » de Qt ne va pas avec l'option « tour ».</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Voir kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Il n'y a pas d'écran pour afficher le téléphone ; --tour DIR n'en a pas besoin.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>L'écran « %1 » n'est pas joignable ; --tour DIR n'en a pas besoin.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>Le fichier de trace « %1 » ne peut pas être ouvert : %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>Le script « %1 » ne peut pas être lu : %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>La photo « %1 » ne peut pas être écrite.</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>Le greffon ne fournit pas d'écran « %1 ».</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Affiche les compteurs d'appels du téléphone : un téléphone avec son écran et son clavier dans une fenêtre, et à côté
+un panneau qui passe des appels sur le téléphone simulé.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Codes de retour :
+  0  tout s'est bien passé
+  1  une visite a vu autre chose que ce que son script attend
+  2  la ligne de commande est incorrecte
+  3  le téléphone ne peut pas être ouvert
+  4  le fichier de trace ne peut pas être ouvert
+  5  le greffon, une autre bibliothèque ou l'une de leurs fonctions manque, ou le greffon ne fournit pas d'écran
+  6  le script de la visite ne peut pas être lu, ou contient une erreur
+  7  une photo, le texte d'une visite ou ce qui a été demandé ne peut pas être écrit
+  8  le catalogue de traduction ne peut pas être chargé
+  9  il n'y a pas d'écran pour afficher la fenêtre, ou pas de telle plateforme de Qt
+ 10  un signal a mis fin à une visite avant son terme
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Conserver l'état du téléphone dans DIR d'un démarrage à l'autre ; « none » le garde en mémoire. Par défaut : %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Ajouter les traces à FILE ; « - » est la sortie standard. Par défaut : trace.log dans le répertoire d'état ; pas de trace quand l'état est en mémoire, ni pendant une visite.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>Le téléphone derrière : %2, le chemin d'une bibliothèque qui en contient un, ou auto : le premier qui a un modem, sinon simulated. Par défaut : simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Conserver les appels des DAYS derniers jours, de 0 à 100000 ; les plus anciens sont supprimés au démarrage puis une fois par jour, et restent dans les totaux. Par défaut : tous sont conservés.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>La bibliothèque du greffon. Par défaut : libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Ouvrir cet écran tout de suite : %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Afficher cette page du panneau : %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Charger les textes du catalogue FILE (.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Parler cette langue : %5. Par défaut : celle des paramètres régionaux ; l'anglais pendant une visite et avec --photo.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Photographier la fenêtre en PNG dans FILE et quitter.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Jouer une visite sans écran : mettre des photos des écrans dans DIR et afficher leurs textes.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Jouer ce script au lieu de la visite de tous les écrans ; seulement avec --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Affiche cette aide.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>L'option « %1 » a une valeur vide.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>Le nom que donne l'option « %1 » n'est pas en UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Écran inconnu « %1 » ; il y a : %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Page inconnue « %1 » ; il y a : %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Langue inconnue « %1 » ; il y a : %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Argument inattendu « %1 ».</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>L'option « script » nécessite l'option « tour ».</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>L'option « keep-calls » demande un nombre de jours, de 0 à %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>L'option « %1 » ne va pas avec l'option « tour ».</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>L'option « language » ne va pas avec l'option « translation ».</translation>
     </message>
 </context>
 </TS>

@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Uso: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opzioni]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argomenti:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostra la versione.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Mostra l'aiuto con le opzioni proprie di Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Opzione sconosciuta «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opzioni sconosciute: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>Manca un valore dopo «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>Valore inatteso dopo «%1».</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Totale chiamate</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>non esiste</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>supera %1 MiB</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Attendere prego ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Codici di uscita:
+  0  un segnale ha terminato il programma e ciò che era in corso è scritto
+  2  la riga di comando è errata
+  3  non c'è un bus di sistema, o il telefono non può essere aperto
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Vedere kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Registra le chiamate e le connessioni dati di un modem quando nessuna finestra è aperta.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>Il telefono: %1, il percorso di una libreria che ne contiene uno, oppure auto: il primo tramite cui c'è un modem, ora o più tardi. Predefinito: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>Registrare in DIR. Predefinito: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Conservare le chiamate degli ultimi DAYS giorni, da 0 a 100000; le più vecchie vengono eliminate all'inizio della registrazione e una volta al giorno, e restano nei totali. Predefinito: si conservano tutte.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; la ricerca continua.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>L'opzione «keep-calls» richiede un numero di giorni, da 0 a %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Manca un valore o ce n'è uno di troppo.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Mostra i contatori del telefono: durata e costo delle chiamate, durata e byte dei dati a pacchetto.
+
+Comandi:
+  figures [NAME ...]   tutti i valori, o questi; è il predefinito
+  settings             avviso di addebito: come si contano i costi, il limite di credito, il prezzo
+  calls                le chiamate conservate
+  sessions             le sessioni dati conservate
+  totals               ciò che è conservato, per mese o secondo --by e --cycle-day
+  reset NAME           azzera: %1
+  delete ID|all        elimina una chiamata, o tutte quelle terminate; i totali restano
+  export FILE          scrive tutto lo stato come JSON; «-» è lo standard output
+  import FILE          crea un nuovo stato da un file del genere
+
+Valori: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Codici di uscita:
+  0  tutto è andato bene
+  1  il telefono rifiuta, o il registro delle chiamate non può essere letto o scritto
+  2  la riga di comando è errata, o è stata chiesta una modifica senza --yes
+  3  non c'è uno stato, o il telefono non può essere aperto
+  4  un valore richiesto non è disponibile
+  5  il limite di credito è raggiunto, o il credito è esaurito
+  6  il valore di --alert è raggiunto
+  7  un file, o l'output, non può essere letto o scritto, o contiene un errore
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>Lo stato del telefono è in DIR. Predefinito: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>Il telefono: %1, o il percorso di una libreria che ne contiene uno. Predefinito: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Parlare questa lingua: %1. Predefinito: quella della localizzazione. JSON e CSV sono uguali in tutte.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Mostrare JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Mostrare valori separati da virgole.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Azzerare o eliminare davvero; non viene chiesto nulla.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Mostrare di nuovo a ogni cambiamento, finché non arriva un segnale.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Totali per giorno, mese o ciclo (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>Il ciclo di fatturazione inizia il giorno N, da 1 a 28; totali per ciclo.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>Con delete all: conservare le chiamate degli ultimi DAYS giorni.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N o BYTES N: codice di uscita 6 se tutte le chiamate sono costate N o più, o durate N secondi o più, o se N byte o più sono passati nei due sensi.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Che cosa fare.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>L'opzione «alert» richiede COST, TIME o BYTES, e un numero.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>L'opzione «by» richiede day, month o cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>L'opzione «cycle-day» richiede un giorno da 1 a 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>L'opzione «cycle-day» va con --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>L'opzione «keep-calls» richiede un numero di giorni.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>L'opzione «keep-calls» va con delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>Il comando «%1» non esiste.</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>Al comando «%1» manca una parola o ce n'è una di troppo.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>Non c'è alcun «%1» da mostrare o da azzerare.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>Le opzioni «watch» e «alert» vanno con figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Nulla è stato modificato: «%1» richiede --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>Le opzioni «state» e «backend» richiedono un valore.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Lingua sconosciuta «%1»; ci sono: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>Le opzioni «json» e «csv» non vanno insieme.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unità</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>byte</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>valuta</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>attivo</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>non attivo</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>L'output non può essere scritto.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>Non c'è uno stato in «%1».</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>Il valore dell'avviso non è disponibile.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Il registro delle chiamate non può essere letto.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Nulla è stato modificato: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete richiede l'identificativo di una chiamata, o all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Vedere kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>in corso</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminata</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>non connessa</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrotta</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>dati</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>voce</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>effettuata</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>ricevuta</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>non disponibile</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>non è un numero intero</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>non è un testo</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>non è fatto di coppie di cifre esadecimali</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>manca %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 non è noto</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content non può essere letto</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format non è «%1»</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version non è %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 non è un elenco</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 non è una riga</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] non è possibile</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>i suoi totali contraddicono le sue righe</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>«%1» non può essere creato: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>«%1» non può essere scritto: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>«%1» non può essere letto: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>«%1», riga %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>«%1» non è vuota: uno stato si importa in una nuova cartella.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>L'opzione «%1» di Qt non va con l'opzione «tour».</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Vedere kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Non c'è uno schermo su cui mostrare il telefono; --tour DIR non ne ha bisogno.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>Lo schermo «%1» non è raggiungibile; --tour DIR non ne ha bisogno.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>Il file di traccia «%1» non può essere aperto: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>Lo script «%1» non può essere letto: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>La fotografia «%1» non può essere scritta.</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>Il plug-in non fornisce la schermata «%1».</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Mostra i contatori delle chiamate del telefono: un telefono con display e tastiera in una finestra e, accanto, un
+pannello che effettua chiamate sul telefono simulato.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Codici di uscita:
+  0  tutto è andato bene
+  1  un giro ha visto qualcosa di diverso da ciò che il suo script si aspetta
+  2  la riga di comando è errata
+  3  il telefono non può essere aperto
+  4  il file di traccia non può essere aperto
+  5  manca il plug-in o un'altra libreria, o una loro funzione, o il plug-in non fornisce alcuna schermata
+  6  lo script del giro non può essere letto, o contiene un errore
+  7  una fotografia, il testo di un giro o ciò che è stato chiesto non può essere scritto
+  8  il catalogo di traduzione non può essere caricato
+  9  non c'è uno schermo su cui mostrare la finestra, o non esiste quella piattaforma di Qt
+ 10  un segnale ha terminato un giro prima della fine
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Conservare lo stato del telefono in DIR tra un avvio e l'altro; «none» lo tiene in memoria. Predefinito: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Aggiungere le tracce a FILE; «-» è lo standard output. Predefinito: trace.log nella cartella dello stato; nessuna traccia se lo stato è in memoria, e durante un giro.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>Il telefono dietro: %2, il percorso di una libreria che ne contiene uno, oppure auto: il primo che ha un modem, altrimenti simulated. Predefinito: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Conservare le chiamate degli ultimi DAYS giorni, da 0 a 100000; le più vecchie vengono eliminate all'avvio e una volta al giorno, e restano nei totali. Predefinito: si conservano tutte.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>La libreria del plug-in. Predefinito: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Aprire subito questa schermata: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Mostrare questa pagina del pannello: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Caricare i testi del catalogo FILE (.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Parlare questa lingua: %5. Predefinito: quella della localizzazione; inglese durante un giro e con --photo.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Fotografare la finestra come PNG in FILE e terminare.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Fare un giro senza schermo: mettere fotografie delle schermate in DIR e mostrarne i testi.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Seguire questo script invece del giro di tutte le schermate; solo con --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>L'opzione «%1» ha un valore vuoto.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>Il nome indicato dall'opzione «%1» non è UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Schermata sconosciuta «%1»; ci sono: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Pagina sconosciuta «%1»; ci sono: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Lingua sconosciuta «%1»; ci sono: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Argomento inatteso «%1».</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>L'opzione «script» richiede l'opzione «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>L'opzione «keep-calls» richiede un numero di giorni, da 0 a %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>L'opzione «%1» non va con l'opzione «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>L'opzione «language» non va con l'opzione «translation».</translation>
     </message>
 </context>
 </TS>

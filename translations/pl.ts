@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Użycie: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opcje]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opcje:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumenty:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Wyświetla wersję.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Wyświetla tę pomoc.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Wyświetla pomoc z opcjami właściwymi dla Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Nieznana opcja „%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Nieznane opcje: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>Brak wartości po „%1”.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>Nieoczekiwana wartość po „%1”.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Wszystkie od początku</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>nie istnieje</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>to nie jest zwykły plik</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>jest większy niż %1 MiB</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Proszę czekać ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Kody wyjścia:
+  0  program zakończył sygnał, a to, co trwało, jest zapisane
+  2  wiersz poleceń jest błędny
+  3  nie ma magistrali systemowej albo nie można otworzyć telefonu
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Zobacz kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Rejestruje połączenia i sesje danych modemu, gdy żadne okno nie jest otwarte.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>Telefon: %1, ścieżka biblioteki, która go zawiera, albo auto: pierwszy, przez który dostępny jest modem, teraz lub później. Domyślnie: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>Rejestruje w DIR. Domyślnie: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Zachowuje połączenia z ostatnich DAYS dni, od 0 do 100000; starsze są usuwane na początku rejestrowania i raz dziennie, ale pozostają w sumach. Domyślnie: zachowywane są wszystkie.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; trwa szukanie.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>Opcja „keep-calls” wymaga liczby dni od 0 do %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Brakuje wartości albo jest ich za dużo.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Pokazuje liczniki telefonu: czas i koszt połączeń, czas i bajty danych pakietowych.
+
+Polecenia:
+  figures [NAME ...]   wszystkie wartości albo tylko te; domyślne
+  settings             informacja o opłatach: sposób liczenia kosztów, limit kredytu, cena
+  calls                zachowane połączenia
+  sessions             zachowane sesje danych
+  totals               to, co zachowane, według miesięcy albo --by i --cycle-day
+  reset NAME           zeruje: %1
+  delete ID|all        usuwa połączenie albo wszystkie zakończone; sumy pozostają
+  export FILE          zapisuje cały stan jako JSON; „-” to standardowe wyjście
+  import FILE          tworzy z takiego pliku nowy stan
+
+Wartości: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Kody wyjścia:
+  0  wszystko się powiodło
+  1  telefon odmawia albo nie można odczytać lub zapisać rejestru połączeń
+  2  wiersz poleceń jest błędny albo zażądano zmiany bez --yes
+  3  nie ma stanu albo nie można otworzyć telefonu
+  4  podana wartość nie jest dostępna
+  5  limit kredytu jest osiągnięty albo kredyt wyczerpany
+  6  wartość z --alert jest osiągnięta
+  7  pliku lub wyjścia nie można odczytać lub zapisać albo zawiera błąd
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>Stan telefonu jest w DIR. Domyślnie: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>Telefon: %1 albo ścieżka biblioteki, która go zawiera. Domyślnie: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Język: %1. Domyślnie: zgodny z ustawieniami regionalnymi. JSON i CSV są w każdym takie same.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Wypisuje JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Wypisuje wartości rozdzielone przecinkami.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Naprawdę zeruje lub usuwa; bez pytania.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Wypisuje od nowa po każdej zmianie, aż nadejdzie sygnał.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Sumy według dnia, miesiąca lub cyklu (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>Okres rozliczeniowy zaczyna się dnia N, od 1 do 28; sumy według cyklu.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>Z delete all: zachowuje połączenia z ostatnich DAYS dni.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N lub BYTES N: kod wyjścia 6, gdy wszystkie połączenia kosztowały N lub więcej, trwały N sekund lub dłużej albo w obu kierunkach przesłano N bajtów lub więcej.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Co zrobić.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>Opcja „alert” wymaga COST, TIME lub BYTES oraz liczby.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>Opcja „by” wymaga day, month lub cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>Opcja „cycle-day” wymaga dnia od 1 do 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>Opcja „cycle-day” działa z --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>Opcja „keep-calls” wymaga liczby dni.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>Opcja „keep-calls” działa z delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>Nie ma polecenia „%1”.</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>W poleceniu „%1” brakuje słowa albo jest ich za dużo.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>Nie ma „%1” do pokazania ani wyzerowania.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>Opcje „watch” i „alert” działają z figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Nic nie zmieniono: „%1” wymaga --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>Opcje „state” i „backend” wymagają wartości.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Nieznany język „%1”; dostępne: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>Opcji „json” i „csv” nie można łączyć.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>jednostki</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bajty</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>waluta</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>włączony</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>wyłączony</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Nie można zapisać wyjścia.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>W „%1” nie ma stanu.</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>Wartość dla alarmu nie jest dostępna.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Nie można odczytać rejestru połączeń.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Nic nie zmieniono: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete wymaga identyfikatora połączenia albo all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Zobacz kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>trwa</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>zakończone</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>niepołączone</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>przerwane</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>dane</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>głos</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>wybrane</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>odebrane</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>niedostępne</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>nie jest liczbą całkowitą</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>nie jest tekstem</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>nie składa się z par cyfr szesnastkowych</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>brakuje %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 nie jest znane</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>nie można odczytać kept[%1].content</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format nie jest „%1”</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version nie jest %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 nie jest listą</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 nie jest wierszem</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] nie jest możliwe</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>sumy są sprzeczne z wierszami</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>Nie można utworzyć „%1”: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>Nie można zapisać „%1”: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>Nie można odczytać „%1”: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>„%1”, wiersz %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>„%1” nie jest pusty: stan importuje się do nowego katalogu.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>Opcji Qt „%1” nie można łączyć z opcją „tour”.</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Zobacz kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Nie ma ekranu, na którym można pokazać telefon; --tour DIR go nie potrzebuje.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>Ekran „%1” jest nieosiągalny; --tour DIR go nie potrzebuje.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>Nie można otworzyć pliku śladu „%1”: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>Nie można odczytać skryptu „%1”: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>Nie można zapisać fotografii „%1”.</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>Wtyczka nie daje ekranu „%1”.</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Pokazuje liczniki połączeń telefonu: telefon z wyświetlaczem i klawiaturą w oknie, a obok niego panel,
+który wykonuje połączenia na symulowanym telefonie.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Kody wyjścia:
+  0  wszystko się powiodło
+  1  wycieczka zobaczyła coś innego, niż oczekuje jej skrypt
+  2  wiersz poleceń jest błędny
+  3  nie można otworzyć telefonu
+  4  nie można otworzyć pliku śladu
+  5  brakuje wtyczki, innej biblioteki lub ich funkcji albo wtyczka nie daje ekranu
+  6  skryptu wycieczki nie można odczytać albo zawiera błąd
+  7  nie można zapisać fotografii, tekstu wycieczki lub tego, o co proszono
+  8  nie można wczytać katalogu tłumaczeń
+  9  nie ma ekranu, na którym można pokazać okno, albo takiej platformy Qt
+ 10  sygnał zakończył wycieczkę przed jej końcem
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Zachowuje stan telefonu w DIR między uruchomieniami; „none” trzyma go w pamięci. Domyślnie: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Dopisuje ślad do FILE; „-” to standardowe wyjście. Domyślnie: trace.log w katalogu stanu; bez śladu, gdy stan jest w pamięci, i podczas wycieczki.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>Telefon w tle: %2, ścieżka biblioteki, która go zawiera, albo auto: pierwszy, który ma modem, w przeciwnym razie simulated. Domyślnie: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Zachowuje połączenia z ostatnich DAYS dni, od 0 do 100000; starsze są usuwane przy uruchomieniu i raz dziennie, ale pozostają w sumach. Domyślnie: zachowywane są wszystkie.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>Biblioteka wtyczki. Domyślnie: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Otwiera od razu ten ekran: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Pokazuje tę stronę panelu: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Wczytuje teksty z katalogu FILE (.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Język: %5. Domyślnie: zgodny z ustawieniami regionalnymi; podczas wycieczki i z --photo angielski.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Fotografuje okno jako PNG do FILE i kończy.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Odbywa wycieczkę bez ekranu: zapisuje fotografie ekranów w DIR i wypisuje ich teksty.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Wykonuje ten skrypt zamiast wycieczki po wszystkich ekranach; tylko z --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Wyświetla tę pomoc.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>Opcja „%1” ma pustą wartość.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>Nazwa podana w opcji „%1” nie jest w UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Nieznany ekran „%1”; dostępne: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Nieznana strona „%1”; dostępne: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Nieznany język „%1”; dostępne: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Nieoczekiwany argument „%1”.</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>Opcja „script” wymaga opcji „tour”.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>Opcja „keep-calls” wymaga liczby dni od 0 do %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>Opcji „%1” nie można łączyć z opcją „tour”.</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>Opcji „language” nie można łączyć z opcją „translation”.</translation>
     </message>
 </context>
 </TS>

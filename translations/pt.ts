@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Utilização: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[opções]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opções:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Argumentos:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Mostra a versão.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Mostra esta ajuda.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Mostra a ajuda com as opções próprias do Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Opção desconhecida «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Opções desconhecidas: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>Falta um valor depois de «%1».</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>Valor inesperado depois de «%1».</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Total de chamadas</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>não existe</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>não é um ficheiro normal</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>tem mais de %1 MiB</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Aguarde, por favor ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Códigos de saída:
+  0  um sinal terminou o programa e o que decorria está escrito
+  2  a linha de comandos está errada
+  3  não há barramento do sistema, ou o telefone não pode ser aberto
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Ver kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Regista as chamadas e as ligações de dados de um modem enquanto não há nenhuma janela aberta.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>O telefone: %1, o caminho de uma biblioteca que tenha um, ou auto: o primeiro através do qual haja um modem, agora ou mais tarde. Predefinição: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>Registar em DIR. Predefinição: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Guardar as chamadas dos últimos DAYS dias, 0 a 100000; as mais antigas são apagadas ao começar o registo e uma vez por dia, e continuam nos totais. Predefinição: são guardadas todas.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; continua a ser procurado.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>A opção «keep-calls» requer um número de dias, 0 a %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Falta um valor ou há valores a mais.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Mostra os contadores do telefone: duração e custo das chamadas, duração e bytes dos dados por pacotes.
+
+Comandos:
+  figures [NAME ...]   todos os valores, ou estes; a predefinição
+  settings             aviso de tarifação: como se contam os custos, o limite de crédito, o preço
+  calls                as chamadas guardadas
+  sessions             as sessões de dados guardadas
+  totals               o que está guardado, por mês ou segundo --by e --cycle-day
+  reset NAME           repõe a zero: %1
+  delete ID|all        apaga uma chamada, ou todas as terminadas; os totais ficam
+  export FILE          escreve todo o estado em JSON; «-» é a saída padrão
+  import FILE          cria um novo estado a partir de um ficheiro desses
+
+Valores: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Códigos de saída:
+  0  correu tudo bem
+  1  o telefone recusa, ou o registo de chamadas não pode ser lido ou escrito
+  2  a linha de comandos está errada, ou foi pedida uma alteração sem --yes
+  3  não há estado, ou o telefone não pode ser aberto
+  4  um valor pedido não está disponível
+  5  o limite de crédito foi atingido, ou o crédito esgotou-se
+  6  o valor de --alert foi atingido
+  7  um ficheiro, ou a saída, não pode ser lido ou escrito, ou tem um erro
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>O estado do telefone está em DIR. Predefinição: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>O telefone: %1, ou o caminho de uma biblioteca que tenha um. Predefinição: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Falar esta língua: %1. Predefinição: a da configuração regional. JSON e CSV são iguais em todas.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Mostrar JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Mostrar valores separados por vírgulas.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Repor ou apagar mesmo; nada é perguntado.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Mostrar de novo sempre que algo muda, até chegar um sinal.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Totais por dia, mês ou ciclo (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>O ciclo de faturação começa no dia N, 1 a 28; totais por ciclo.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>Com delete all: guardar as chamadas dos últimos DAYS dias.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N ou BYTES N: código de saída 6 se todas as chamadas custaram N ou mais, ou duraram N segundos ou mais, ou se N bytes ou mais passaram nos dois sentidos.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>O que fazer.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>A opção «alert» requer COST, TIME ou BYTES, e um número.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>A opção «by» requer day, month ou cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>A opção «cycle-day» requer um dia de 1 a 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>A opção «cycle-day» usa-se com --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>A opção «keep-calls» requer um número de dias.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>A opção «keep-calls» usa-se com delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>Não existe o comando «%1».</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>O comando «%1» tem uma palavra a menos ou a mais.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>Não há nenhum «%1» para mostrar ou repor a zero.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>As opções «watch» e «alert» usam-se com figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Nada foi alterado: «%1» requer --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>As opções «state» e «backend» requerem um valor.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Língua desconhecida «%1»; há: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>As opções «json» e «csv» não se usam juntas.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>unidades</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bytes</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>moeda</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>ligado</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>desligado</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Não é possível escrever a saída.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>Não há estado em «%1».</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>O valor do alerta não está disponível.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Não é possível ler o registo de chamadas.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Nada foi alterado: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete requer o identificador de uma chamada, ou all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Ver kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>em curso</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>terminada</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>não ligada</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrompida</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>dados</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>voz</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>efetuada</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>atendida</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>não disponível</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>não é um número inteiro</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>não é um texto</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>não é feito de pares de dígitos hexadecimais</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>falta %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 não é conhecido</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content não pode ser lido</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format não é «%1»</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version não é %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 não é uma lista</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 não é uma linha</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] não é possível</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>os totais contradizem as linhas</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>Não é possível criar «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>Não é possível escrever «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>Não é possível ler «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>«%1», linha %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>«%1» não está vazio: um estado é importado para um diretório novo.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>A opção «%1» do Qt não se usa com a opção «tour».</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Ver kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Não há ecrã onde mostrar o telefone; --tour DIR não precisa de nenhum.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>Não é possível aceder ao ecrã «%1»; --tour DIR não precisa de nenhum.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>Não é possível abrir o ficheiro de rastreio «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>Não é possível ler o guião «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>Não é possível escrever a fotografia «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>O plug-in não tem o ecrã «%1».</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Mostra os contadores de chamadas do telefone: um telefone com ecrã e teclado numa janela e, ao lado, um painel
+que faz chamadas no telefone simulado.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Códigos de saída:
+  0  correu tudo bem
+  1  uma visita viu algo diferente do que o guião espera
+  2  a linha de comandos está errada
+  3  o telefone não pode ser aberto
+  4  o ficheiro de rastreio não pode ser aberto
+  5  falta o plug-in ou outra biblioteca, ou uma função deles, ou o plug-in não tem ecrã nenhum
+  6  o guião da visita não pode ser lido, ou tem um erro
+  7  uma fotografia, o texto de uma visita ou o que foi pedido não pode ser escrito
+  8  o catálogo de tradução não pode ser carregado
+  9  não há ecrã onde mostrar a janela, ou não existe essa plataforma do Qt
+ 10  um sinal terminou uma visita antes do fim
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Guardar o estado do telefone em DIR entre arranques; «none» mantém-no em memória. Predefinição: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Acrescentar os rastreios a FILE; «-» é a saída padrão. Predefinição: trace.log no diretório de estado; sem rastreio se o estado estiver em memória, e numa visita.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>O telefone por trás: %2, o caminho de uma biblioteca que tenha um, ou auto: o primeiro que tenha um modem, senão simulated. Predefinição: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Guardar as chamadas dos últimos DAYS dias, 0 a 100000; as mais antigas são apagadas no arranque e uma vez por dia, e continuam nos totais. Predefinição: são guardadas todas.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>A biblioteca do plug-in. Predefinição: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Abrir logo este ecrã: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Mostrar esta página do painel: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Carregar os textos do catálogo FILE (.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Falar esta língua: %5. Predefinição: a da configuração regional; inglês numa visita e com --photo.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Fotografar a janela em PNG para FILE e terminar.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Fazer uma visita sem ecrã: pôr fotografias dos ecrãs em DIR e mostrar os seus textos.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Seguir este guião em vez da visita a todos os ecrãs; só com --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Mostra esta ajuda.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>A opção «%1» tem um valor vazio.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>O nome que a opção «%1» indica não é UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Ecrã desconhecido «%1»; há: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Página desconhecida «%1»; há: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Língua desconhecida «%1»; há: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Argumento inesperado «%1».</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>A opção «script» precisa da opção «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>A opção «keep-calls» requer um número de dias, 0 a %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>A opção «%1» não se usa com a opção «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>A opção «language» não se usa com a opção «translation».</translation>
     </message>
 </context>
 </TS>

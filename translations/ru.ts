@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Использование: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[параметры]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Параметры:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Аргументы:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Показывает версию.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Показывает эту справку.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Показывает справку с параметрами Qt.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Неизвестный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Неизвестные параметры: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>После «%1» не хватает значения.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>После «%1» значения быть не должно.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Всего вызовов</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>его нет</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>это не обычный файл</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>он больше %1 МиБ</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Подождите ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Коды завершения:
+  0  программу завершил сигнал, и то, что шло, записано
+  2  командная строка неверна
+  3  нет системной шины, или телефон нельзя открыть
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>См. kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Записывает вызовы и соединения данных модема, пока не открыто ни одно окно.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>Телефон: %1, путь к библиотеке, в которой он есть, или auto: первый, через который доступен модем, сейчас или позже. По умолчанию: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>Записывать в DIR. По умолчанию: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Хранить вызовы за последние DAYS дней, от 0 до 100000; более старые удаляются в начале записи и раз в день, но остаются в итогах. По умолчанию: хранятся все.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; поиск продолжается.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>Параметру «keep-calls» нужно число дней от 0 до %1.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Не хватает значения, или есть лишнее.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Показывает счётчики телефона: время и стоимость вызовов, время и байты пакетных данных.
+
+Команды:
+  figures [NAME ...]   все показатели или только эти; по умолчанию
+  settings             оповещение о стоимости: как она считается, лимит кредита, цена
+  calls                хранимые вызовы
+  sessions             хранимые сеансы передачи данных
+  totals               всё хранимое, по месяцам или согласно --by и --cycle-day
+  reset NAME           обнуляет: %1
+  delete ID|all        удаляет вызов или все завершённые; итоги остаются
+  export FILE          записывает всё состояние в JSON; «-» — стандартный вывод
+  import FILE          создаёт из такого файла новое состояние
+
+Показатели: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Коды завершения:
+  0  всё прошло успешно
+  1  телефон отказывает, или журнал вызовов нельзя прочитать или записать
+  2  командная строка неверна, или изменение запрошено без --yes
+  3  состояния нет, или телефон нельзя открыть
+  4  названный показатель недоступен
+  5  лимит кредита достигнут, или средства исчерпаны
+  6  показатель из --alert достигнут
+  7  файл или вывод нельзя прочитать или записать, или в нём ошибка
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>Состояние телефона находится в DIR. По умолчанию: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>Телефон: %1 или путь к библиотеке, в которой он есть. По умолчанию: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Язык: %1. По умолчанию: язык локали. JSON и CSV одинаковы на всех.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>Выводить JSON.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Выводить значения, разделённые запятыми.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Действительно обнулить или удалить; без вопросов.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Выводить заново при каждом изменении, пока не придёт сигнал.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Итоги по дням, месяцам или периодам (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>Расчётный период начинается в день N, от 1 до 28; итоги по периодам.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>С delete all: сохранить вызовы за последние DAYS дней.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N или BYTES N: код завершения 6, если все вызовы стоили N или больше, длились N секунд или дольше либо в обе стороны передано N байт или больше.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Что сделать.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>Параметру «alert» нужны COST, TIME или BYTES и число.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>Параметру «by» нужно day, month или cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>Параметру «cycle-day» нужен день от 1 до 28.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>Параметр «cycle-day» используется с --by cycle.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>Параметру «keep-calls» нужно число дней.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>Параметр «keep-calls» используется с delete all.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>Команды «%1» нет.</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>В команде «%1» не хватает слова, или есть лишнее.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>Нет «%1», чтобы показать или обнулить.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>Параметры «watch» и «alert» используются с figures.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Ничего не изменено: для «%1» нужен --yes.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>Параметрам «state» и «backend» нужно значение.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Неизвестный язык «%1»; есть: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>Параметры «json» и «csv» несовместимы.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>единиц</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>байт</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>валюта</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>включён</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>выключен</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Не удаётся записать вывод.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>В «%1» нет состояния.</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>Показатель для предупреждения недоступен.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Журнал вызовов нельзя прочитать.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Ничего не изменено: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>Команде delete нужен номер вызова или all.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>См. kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>идёт</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>завершён</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>не соединён</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>прерван</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>данные</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>голос</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>исходящий</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>принятый</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>недоступно</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>— не целое число</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>— не текст</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>не состоит из пар шестнадцатеричных цифр</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>не хватает %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 неизвестно</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content нельзя прочитать</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format — не «%1»</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version — не %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 — не список</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 — не строка таблицы</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] невозможно</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>итоги противоречат строкам</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>Не удаётся создать «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>Не удаётся записать «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>Не удаётся прочитать «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>«%1», строка %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>Каталог «%1» не пуст: состояние импортируется в новый каталог.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>Параметр Qt «%1» несовместим с параметром «tour».</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>См. kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Нет экрана, чтобы показать телефон; для --tour DIR он не нужен.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>Экран «%1» недоступен; для --tour DIR он не нужен.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>Не удаётся открыть файл трассировки «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>Не удаётся прочитать сценарий «%1»: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>Не удаётся записать снимок «%1».</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>Модуль не даёт экрана «%1».</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Показывает счётчики вызовов телефона: телефон с дисплеем и клавиатурой в окне, а рядом панель,
+которая делает вызовы на имитируемом телефоне.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Коды завершения:
+  0  всё прошло успешно
+  1  обход увидел не то, чего ждёт его сценарий
+  2  командная строка неверна
+  3  телефон нельзя открыть
+  4  файл трассировки нельзя открыть
+  5  нет модуля, другой библиотеки или её функции, или модуль не даёт экрана
+  6  сценарий обхода нельзя прочитать, или в нём ошибка
+  7  снимок, текст обхода или запрошенное нельзя записать
+  8  каталог перевода нельзя загрузить
+  9  нет экрана, чтобы показать окно, или нет такой платформы Qt
+ 10  сигнал завершил обход раньше времени
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Хранить состояние телефона между запусками в DIR; «none» держит его в памяти. По умолчанию: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>Дописывать трассировку в FILE; «-» — стандартный вывод. По умолчанию: trace.log в каталоге состояния; без трассировки, если состояние в памяти, и при обходе.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>Телефон за окном: %2, путь к библиотеке, в которой он есть, или auto: первый, у которого есть модем, иначе simulated. По умолчанию: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Хранить вызовы за последние DAYS дней, от 0 до 100000; более старые удаляются при запуске и раз в день, но остаются в итогах. По умолчанию: хранятся все.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>Библиотека модуля. По умолчанию: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Сразу открыть этот экран: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Показать эту страницу панели: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>Загрузить тексты каталога FILE (.qm).</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Язык: %5. По умолчанию: язык локали; при обходе и с --photo английский.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Сохранить снимок окна в формате PNG в FILE и завершить.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Выполнить обход без экрана: сохранить снимки экранов в DIR и вывести их тексты.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Выполнить этот сценарий вместо обхода всех экранов; только с --tour.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Показывает эту справку.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>У параметра «%1» пустое значение.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>Имя в параметре «%1» не в UTF-8.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Неизвестный экран «%1»; есть: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Неизвестная страница «%1»; есть: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Неизвестный язык «%1»; есть: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Неожиданный аргумент «%1».</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>Параметру «script» нужен параметр «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>Параметру «keep-calls» нужно число дней от 0 до %1.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>Параметр «%1» несовместим с параметром «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>Параметр «language» несовместим с параметром «translation».</translation>
     </message>
 </context>
 </TS>

@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>Kullanım: %1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[seçenekler]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Seçenekler:</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>Bağımsız değişkenler:</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>Sürümü gösterir.</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>Bu yardımı gösterir.</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>Yardımı Qt'ye özgü seçeneklerle gösterir.</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>Bilinmeyen seçenek “%1”.</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>Bilinmeyen seçenekler: %1.</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>“%1” ardından değer eksik.</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>“%1” ardından beklenmeyen değer.</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>Baştan beri tümü</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>dosya yok</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>olağan bir dosya değil</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>%1 MiB'den büyük</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>Lütfen bekleyin ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+Çıkış kodları:
+  0  bir sinyal programı sonlandırdı ve süren her şey yazıldı
+  2  komut satırı yanlış
+  3  sistem veri yolu yok ya da telefon açılamıyor
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>Bkz. kavcallrecorder --help.</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>Hiçbir pencere açık değilken bir modemin aramalarını ve veri bağlantılarını kaydeder.</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>Telefon: %1, telefon içeren bir kitaplığın yolu ya da auto: şimdi veya sonra üzerinden modeme ulaşılan ilk telefon. Varsayılan: auto.</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>DIR dizinine kaydet. Varsayılan: %1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Son DAYS günün aramalarını sakla, 0 ile 100000 arası; daha eskiler kayıt başlarken ve günde bir kez silinir, toplamlarda kalır. Varsayılan: hepsi saklanır.</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1; aranıyor.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>“keep-calls” seçeneği 0 ile %1 arasında bir gün sayısı ister.</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>Bir değer eksik ya da fazla.</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>Telefonun sayaçlarını gösterir: aramaların süresi ve ücreti, paket verinin süresi ve baytları.
+
+Komutlar:
+  figures [NAME ...]   tüm değerler ya da yalnızca bunlar; varsayılan
+  settings             ücret bildirimi: ücretlerin nasıl sayıldığı, kredi sınırı, fiyat
+  calls                saklanan aramalar
+  sessions             saklanan veri oturumları
+  totals               saklananlar, aya göre ya da --by ve --cycle-day ile
+  reset NAME           sıfırlar: %1
+  delete ID|all        bir aramayı ya da bitenlerin hepsini siler; toplamlar kalır
+  export FILE          tüm durumu JSON olarak yazar; “-” standart çıktıdır
+  import FILE          böyle bir dosyadan yeni bir durum oluşturur
+
+Değerler: %2.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+Çıkış kodları:
+  0  her şey yolunda
+  1  telefon reddediyor ya da arama kaydı okunamıyor veya yazılamıyor
+  2  komut satırı yanlış ya da --yes olmadan değişiklik istendi
+  3  durum yok ya da telefon açılamıyor
+  4  adı verilen bir değer kullanılamıyor
+  5  kredi sınırına ulaşıldı ya da kredi bitti
+  6  --alert değerine ulaşıldı
+  7  bir dosya ya da çıktı okunamıyor veya yazılamıyor ya da hatalı
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>Telefonun durumu DIR dizinindedir. Varsayılan: %1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>Telefon: %1 ya da telefon içeren bir kitaplığın yolu. Varsayılan: simulated.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>Bu dili konuş: %1. Varsayılan: yerel ayarın dili. JSON ve CSV hepsinde aynıdır.</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>JSON yazdır.</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>Virgülle ayrılmış değerler yazdır.</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>Gerçekten sıfırla ya da sil; soru sorulmaz.</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>Sinyal gelene kadar her değişiklikte yeniden yazdır.</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>Güne, aya veya döneme göre toplamlar (day, month, cycle).</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>Fatura dönemi N. günde başlar, 1 ile 28 arası; döneme göre toplamlar.</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>delete all ile: son DAYS günün aramalarını sakla.</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N, TIME N veya BYTES N: tüm aramalar N veya daha fazla tuttuysa, N saniye veya daha uzun sürdüyse ya da iki yönde N bayt veya daha fazlası geçtiyse çıkış kodu 6.</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>Ne yapılacağı.</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>“alert” seçeneği COST, TIME veya BYTES ile bir sayı ister.</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>“by” seçeneği day, month veya cycle ister.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>“cycle-day” seçeneği 1 ile 28 arasında bir gün ister.</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>“cycle-day” seçeneği --by cycle ile kullanılır.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>“keep-calls” seçeneği bir gün sayısı ister.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>“keep-calls” seçeneği delete all ile kullanılır.</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>“%1” komutu yok.</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>“%1” komutunda bir sözcük eksik ya da fazla.</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>Gösterilecek ya da sıfırlanacak “%1” yok.</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>“watch” ve “alert” seçenekleri figures ile kullanılır.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>Hiçbir şey değiştirilmedi: “%1” --yes ister.</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>“state” ve “backend” seçenekleri bir değer ister.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Bilinmeyen dil “%1”; olanlar: %2.</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>“json” ve “csv” seçenekleri birlikte kullanılamaz.</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>birim</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>bayt</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>para birimi</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>açık</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>kapalı</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>Çıktı yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>“%1” içinde durum yok.</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>Uyarının değeri kullanılamıyor.</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>Arama kaydı okunamıyor.</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>Hiçbir şey değiştirilmedi: %1 %2: %3.</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete bir aramanın kimliğini ya da all ister.</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>Bkz. kavmeter --help.</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>sürüyor</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>bitti</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>bağlanmadı</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>kesildi</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>veri</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>ses</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>aranan</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>yanıtlanan</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>kullanılamıyor</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>tam sayı değil</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>metin değil</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>onaltılık rakam çiftlerinden oluşmuyor</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>%1.%2 eksik</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 bilinmiyor</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>kept[%1].content okunamıyor</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format “%1” değil</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version %1 değil</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 liste değil</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 satır değil</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] olanaksız</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>toplamları satırlarıyla çelişiyor</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>“%1” oluşturulamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>“%1” yazılamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>“%1” okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>“%1”, satır %2: %3.</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>“%1” boş değil: durum yeni bir dizine aktarılır.</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>Qt'nin “%1” seçeneği “tour” seçeneğiyle kullanılamaz.</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>Bkz. kavrecentcalls --help.</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>Telefonu gösterecek ekran yok; --tour DIR ekran gerektirmez.</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>“%1” ekranına ulaşılamıyor; --tour DIR ekran gerektirmez.</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>“%1” izleme dosyası açılamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>“%1” betiği okunamıyor: %2.</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>“%1” fotoğrafı yazılamıyor.</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>Eklenti “%1” ekranını vermiyor.</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>Telefonun arama sayaçlarını gösterir: bir pencerede ekranı ve tuş takımıyla bir telefon, yanında da benzetimli
+telefonda arama yapan bir panel.</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+Çıkış kodları:
+  0  her şey yolunda
+  1  bir tur, betiğinin beklediğinden başka bir şey gördü
+  2  komut satırı yanlış
+  3  telefon açılamıyor
+  4  izleme dosyası açılamıyor
+  5  eklenti, başka bir kitaplık ya da bir işlevi eksik, ya da eklenti ekran vermiyor
+  6  turun betiği okunamıyor ya da hatalı
+  7  bir fotoğraf, bir turun metni ya da istenen şey yazılamıyor
+  8  çeviri kataloğu yüklenemiyor
+  9  pencereyi gösterecek ekran ya da böyle bir Qt platformu yok
+ 10  bir sinyal turu bitmeden sonlandırdı
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>Telefonun durumunu başlatmalar arasında DIR dizininde sakla; “none” onu bellekte tutar. Varsayılan: %1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>İzleri FILE sonuna ekle; “-” standart çıktıdır. Varsayılan: durum dizinindeki trace.log; durum bellekteyken ve turda iz yoktur.</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>Arkadaki telefon: %2, telefon içeren bir kitaplığın yolu ya da auto: modemi olan ilk telefon, yoksa simulated. Varsayılan: simulated.</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>Son DAYS günün aramalarını sakla, 0 ile 100000 arası; daha eskiler başlangıçta ve günde bir kez silinir, toplamlarda kalır. Varsayılan: hepsi saklanır.</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>Eklenti kitaplığı. Varsayılan: libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>Hemen bu ekranı aç: %3.</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>Panelin bu sayfasını göster: %4.</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>FILE kataloğunun (.qm) metinlerini yükle.</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>Bu dili konuş: %5. Varsayılan: yerel ayarın dili; turda ve --photo ile İngilizce.</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>Pencereyi PNG olarak FILE dosyasına fotoğrafla ve bitir.</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>Ekransız bir tur yap: ekranların fotoğraflarını DIR dizinine koy ve metinlerini yazdır.</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>Tüm ekranların turu yerine bu betiği oynat; yalnızca --tour ile.</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>Bu yardımı gösterir.</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>“%1” seçeneğinin değeri boş.</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>“%1” seçeneğinin verdiği ad UTF-8 değil.</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>Bilinmeyen ekran “%1”; olanlar: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>Bilinmeyen sayfa “%1”; olanlar: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>Bilinmeyen dil “%1”; olanlar: %2.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>Beklenmeyen bağımsız değişken “%1”.</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>“script” seçeneği “tour” seçeneğini gerektirir.</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>“keep-calls” seçeneği 0 ile %1 arasında bir gün sayısı ister.</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>“%1” seçeneği “tour” seçeneğiyle kullanılamaz.</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>“language” seçeneği “translation” seçeneğiyle kullanılamaz.</translation>
     </message>
 </context>
 </TS>

@@ -2143,6 +2143,53 @@
     </message>
 </context>
 <context>
+    <name>QCommandLineParser</name>
+    <message>
+        <source>Usage: %1</source>
+        <translation>用法：%1</translation>
+    </message>
+    <message>
+        <source>[options]</source>
+        <translation>[选项]</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>选项：</translation>
+    </message>
+    <message>
+        <source>Arguments:</source>
+        <translation>参数：</translation>
+    </message>
+    <message>
+        <source>Displays version information.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Displays help on commandline options.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Displays help including Qt specific options.</source>
+        <translation>显示包含 Qt 专用选项的帮助。</translation>
+    </message>
+    <message>
+        <source>Unknown option '%1'.</source>
+        <translation>未知选项“%1”。</translation>
+    </message>
+    <message>
+        <source>Unknown options: %1.</source>
+        <translation>未知选项：%1。</translation>
+    </message>
+    <message>
+        <source>Missing value after '%1'.</source>
+        <translation>“%1”后面缺少值。</translation>
+    </message>
+    <message>
+        <source>Unexpected value after '%1'.</source>
+        <translation>“%1”后面不应有值。</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>
@@ -2335,6 +2382,21 @@
         <source>TXT_RID_SETTING_A_LIFETIME_CALLS</source>
         <comment>Lifetime Calls</comment>
         <translation>累计通话</translation>
+    </message>
+</context>
+<context>
+    <name>ReadFile</name>
+    <message>
+        <source>there is none</source>
+        <translation>文件不存在</translation>
+    </message>
+    <message>
+        <source>it is no file</source>
+        <translation>不是普通文件</translation>
+    </message>
+    <message>
+        <source>it is larger than %1 MiB</source>
+        <translation>大于 %1 MiB</translation>
     </message>
 </context>
 <context>
@@ -3828,6 +3890,531 @@
     <message>
         <source>Please wait ...</source>
         <translation>请稍候 ...</translation>
+    </message>
+</context>
+<context>
+    <name>kavcallrecorder</name>
+    <message>
+        <source>
+Exit codes:
+  0  a signal has ended it, and what ran is written
+  2  the command line is wrong
+  3  there is no system bus, or the telephone cannot be opened
+</source>
+        <translation>
+退出代码：
+  0  程序由信号结束，正在进行的内容已写入
+  2  命令行有误
+  3  没有系统总线，或无法打开电话
+</translation>
+    </message>
+    <message>
+        <source>See kavcallrecorder --help.</source>
+        <translation>请参阅 kavcallrecorder --help。</translation>
+    </message>
+    <message>
+        <source>Records the calls and data connections of a modem while no window is open.</source>
+        <translation>在没有打开窗口时记录调制解调器的通话和数据连接。</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, the path of a library that has one, or auto: the first over which a modem is there, now or later. Default: auto.</source>
+        <translation>电话：%1，包含电话的库的路径，或 auto：现在或以后首个可用的调制解调器所属的电话。 默认：auto。</translation>
+    </message>
+    <message>
+        <source>Record in DIR. Default: %1</source>
+        <translation>记录到 DIR。 默认：%1</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted when recording begins and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>保留最近 DAYS 天的通话，0 到 100000； 更早的通话在开始记录时删除，之后每天删除一次，但仍计入总计。 默认：全部保留。</translation>
+    </message>
+    <message>
+        <source>%1; it is looked for.</source>
+        <translation>%1；正在继续查找。</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>选项“keep-calls”需要天数，0 到 %1。</translation>
+    </message>
+    <message>
+        <source>There is a value missing or too many.</source>
+        <translation>缺少值或值过多。</translation>
+    </message>
+</context>
+<context>
+    <name>kavmeter</name>
+    <message>
+        <source>Shows the meters of the phone: times and costs of calls, times and bytes of packet data.
+
+Commands:
+  figures [NAME ...]   all figures, or these; the default
+  settings             advice of charge: how costs are counted, the credit limit, the price
+  calls                the calls that are kept
+  sessions             the packet-data sessions that are kept
+  totals               what is kept, by month or as --by and --cycle-day say
+  reset NAME           sets to zero: %1
+  delete ID|all        deletes a call, or all that are over; totals stay
+  export FILE          writes the whole state as JSON; "-" is standard output
+  import FILE          makes a new state of such a file
+
+Figures: %2.</source>
+        <translation>显示电话的计量：通话的时间和费用，分组数据的时间和字节数。
+
+命令：
+  figures [NAME ...]   所有数值，或仅这些；默认命令
+  settings             计费通知：费用的计算方式、信用限额、价格
+  calls                保留的通话
+  sessions             保留的分组数据会话
+  totals               保留内容的总计，按月，或按 --by 和 --cycle-day
+  reset NAME           清零：%1
+  delete ID|all        删除一个通话，或所有已结束的通话；总计不变
+  export FILE          将全部状态写成 JSON；“-”为标准输出
+  import FILE          用这样的文件建立新状态
+
+数值：%2。</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  the telephone refuses, or the call log cannot be read or written
+  2  the command line is wrong, or a change was asked for without --yes
+  3  there is no state, or the telephone cannot be opened
+  4  a figure that was named is not available
+  5  the credit limit is reached, or the credit used up
+  6  the figure of --alert is reached
+  7  a file, or the output, cannot be read or written, or has a mistake
+</source>
+        <translation>
+退出代码：
+  0  一切正常
+  1  电话拒绝，或无法读写通话记录
+  2  命令行有误，或要求更改但没有 --yes
+  3  没有状态，或无法打开电话
+  4  指定的数值不可用
+  5  已达到信用限额，或余额已用完
+  6  已达到 --alert 的数值
+  7  文件或输出无法读写，或有错误
+</translation>
+    </message>
+    <message>
+        <source>The telephone's state is in DIR. Default: %1</source>
+        <translation>电话的状态在 DIR 中。 默认：%1</translation>
+    </message>
+    <message>
+        <source>The telephone: %1, or the path of a library that has one. Default: simulated.</source>
+        <translation>电话：%1，或包含电话的库的路径。 默认：simulated。</translation>
+    </message>
+    <message>
+        <source>Speak this language: %1. Default: the locale's. JSON and CSV are the same in each.</source>
+        <translation>使用此语言：%1。 默认：区域设置的语言。 JSON 和 CSV 在各语言中相同。</translation>
+    </message>
+    <message>
+        <source>Print JSON.</source>
+        <translation>输出 JSON。</translation>
+    </message>
+    <message>
+        <source>Print comma-separated values.</source>
+        <translation>输出逗号分隔的值。</translation>
+    </message>
+    <message>
+        <source>Reset or delete indeed; nothing is asked.</source>
+        <translation>确实清零或删除；不再询问。</translation>
+    </message>
+    <message>
+        <source>Print anew whenever something changes, until a signal comes.</source>
+        <translation>每当有变化时重新输出，直到收到信号。</translation>
+    </message>
+    <message>
+        <source>Totals by day, month or cycle.</source>
+        <translation>按日、月或周期统计（day、month、cycle）。</translation>
+    </message>
+    <message>
+        <source>The billing cycle begins on day N, 1 to 28; totals by cycle.</source>
+        <translation>计费周期从第 N 日开始，1 到 28；按周期统计。</translation>
+    </message>
+    <message>
+        <source>With delete all: keep the calls of the last DAYS days.</source>
+        <translation>与 delete all 一起：保留最近 DAYS 天的通话。</translation>
+    </message>
+    <message>
+        <source>COST N, TIME N or BYTES N: exit code 6 where all calls have cost N or more, lasted N seconds or more, or N bytes or more have gone both ways.</source>
+        <translation>COST N、TIME N 或 BYTES N： 若所有通话的费用达到 N，或时长达到 N 秒， 或双向传输达到 N 字节，则退出代码为 6。</translation>
+    </message>
+    <message>
+        <source>What to do.</source>
+        <translation>要做什么。</translation>
+    </message>
+    <message>
+        <source>Option 'alert' wants COST, TIME or BYTES, and a number.</source>
+        <translation>选项“alert”需要 COST、TIME 或 BYTES 以及一个数。</translation>
+    </message>
+    <message>
+        <source>Option 'by' wants day, month or cycle.</source>
+        <translation>选项“by”需要 day、month 或 cycle。</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' wants a day from 1 to 28.</source>
+        <translation>选项“cycle-day”需要 1 到 28 的日期。</translation>
+    </message>
+    <message>
+        <source>Option 'cycle-day' goes with --by cycle.</source>
+        <translation>选项“cycle-day”与 --by cycle 一起使用。</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days.</source>
+        <translation>选项“keep-calls”需要天数。</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' goes with delete all.</source>
+        <translation>选项“keep-calls”与 delete all 一起使用。</translation>
+    </message>
+    <message>
+        <source>There is no command '%1'.</source>
+        <translation>没有命令“%1”。</translation>
+    </message>
+    <message>
+        <source>The command '%1' has a word missing or too many.</source>
+        <translation>命令“%1”缺少词或词过多。</translation>
+    </message>
+    <message>
+        <source>There is no '%1' to show or to reset.</source>
+        <translation>没有可显示或清零的“%1”。</translation>
+    </message>
+    <message>
+        <source>Options 'watch' and 'alert' go with figures.</source>
+        <translation>选项“watch”和“alert”与 figures 一起使用。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: '%1' wants --yes.</source>
+        <translation>未做更改：“%1”需要 --yes。</translation>
+    </message>
+    <message>
+        <source>Options 'state' and 'backend' want a value.</source>
+        <translation>选项“state”和“backend”需要值。</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>未知语言“%1”；可用：%2。</translation>
+    </message>
+    <message>
+        <source>Options 'json' and 'csv' do not go together.</source>
+        <translation>选项“json”和“csv”不能同时使用。</translation>
+    </message>
+    <message>
+        <source>units</source>
+        <translation>单位</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>字节</translation>
+    </message>
+    <message>
+        <source>currency</source>
+        <translation>货币</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>开</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>关</translation>
+    </message>
+    <message>
+        <source>The output cannot be written.</source>
+        <translation>无法写入输出。</translation>
+    </message>
+    <message>
+        <source>There is no state in "%1".</source>
+        <translation>“%1”中没有状态。</translation>
+    </message>
+    <message>
+        <source>The figure of the alert is not available.</source>
+        <translation>警报的数值不可用。</translation>
+    </message>
+    <message>
+        <source>The call log cannot be read.</source>
+        <translation>无法读取通话记录。</translation>
+    </message>
+    <message>
+        <source>Nothing was changed: %1 %2: %3.</source>
+        <translation>未做更改：%1 %2：%3。</translation>
+    </message>
+    <message>
+        <source>delete wants the id of a call, or all.</source>
+        <translation>delete 需要通话的编号，或 all。</translation>
+    </message>
+    <message>
+        <source>See kavmeter --help.</source>
+        <translation>请参阅 kavmeter --help。</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>进行中</translation>
+    </message>
+    <message>
+        <source>finished</source>
+        <translation>已结束</translation>
+    </message>
+    <message>
+        <source>not connected</source>
+        <translation>未接通</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>已中断</translation>
+    </message>
+    <message>
+        <source>data</source>
+        <translation>数据</translation>
+    </message>
+    <message>
+        <source>voice</source>
+        <translation>语音</translation>
+    </message>
+    <message>
+        <source>dialed</source>
+        <translation>已拨</translation>
+    </message>
+    <message>
+        <source>answered</source>
+        <translation>已接</translation>
+    </message>
+    <message>
+        <source>not available</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source>is no whole number</source>
+        <translation>不是整数</translation>
+    </message>
+    <message>
+        <source>is no text</source>
+        <translation>不是文本</translation>
+    </message>
+    <message>
+        <source>has no pairs of hexadecimal digits</source>
+        <translation>不是成对的十六进制数字</translation>
+    </message>
+    <message>
+        <source>%1.%2 is missing</source>
+        <translation>缺少 %1.%2</translation>
+    </message>
+    <message>
+        <source>%1.%2 is not known</source>
+        <translation>%1.%2 未知</translation>
+    </message>
+    <message>
+        <source>kept[%1].content cannot be read</source>
+        <translation>无法读取 kept[%1].content</translation>
+    </message>
+    <message>
+        <source>format is not "%1"</source>
+        <translation>format 不是“%1”</translation>
+    </message>
+    <message>
+        <source>version is not %1</source>
+        <translation>version 不是 %1</translation>
+    </message>
+    <message>
+        <source>%1 is no list</source>
+        <translation>%1 不是列表</translation>
+    </message>
+    <message>
+        <source>%1 is no row</source>
+        <translation>%1 不是行</translation>
+    </message>
+    <message>
+        <source>%1[%2] is not possible</source>
+        <translation>%1[%2] 不可能</translation>
+    </message>
+    <message>
+        <source>its totals contradict its rows</source>
+        <translation>总计与各行矛盾</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be made: %2.</source>
+        <translation>无法创建“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be written: %2.</source>
+        <translation>无法写入“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>"%1" cannot be read: %2.</source>
+        <translation>无法读取“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>"%1", line %2: %3.</source>
+        <translation>“%1”，第 %2 行：%3。</translation>
+    </message>
+    <message>
+        <source>"%1" is not empty: a state is imported into a new directory.</source>
+        <translation>“%1”不是空的：状态只能导入新目录。</translation>
+    </message>
+</context>
+<context>
+    <name>kavrecentcalls</name>
+    <message>
+        <source>Option '%1' of Qt does not go with option 'tour'.</source>
+        <translation>Qt 的选项“%1”不能与选项“tour”同时使用。</translation>
+    </message>
+    <message>
+        <source>See kavrecentcalls --help.</source>
+        <translation>请参阅 kavrecentcalls --help。</translation>
+    </message>
+    <message>
+        <source>There is no display to show the phone on; --tour DIR needs none.</source>
+        <translation>没有可显示电话的屏幕；--tour DIR 不需要屏幕。</translation>
+    </message>
+    <message>
+        <source>The display "%1" cannot be reached; --tour DIR needs none.</source>
+        <translation>无法连接屏幕“%1”；--tour DIR 不需要屏幕。</translation>
+    </message>
+    <message>
+        <source>The trace file "%1" cannot be opened: %2.</source>
+        <translation>无法打开跟踪文件“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The script "%1" cannot be read: %2.</source>
+        <translation>无法读取脚本“%1”：%2。</translation>
+    </message>
+    <message>
+        <source>The photograph "%1" cannot be written.</source>
+        <translation>无法写入照片“%1”。</translation>
+    </message>
+    <message>
+        <source>The plug-in gives no screen "%1".</source>
+        <translation>插件没有提供屏幕“%1”。</translation>
+    </message>
+    <message>
+        <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel
+that makes calls on the simulated telephone.</source>
+        <translation>显示电话的通话计量：窗口中有一部带显示屏和键盘的电话，
+旁边是在模拟电话上拨打通话的面板。</translation>
+    </message>
+    <message>
+        <source>
+Exit codes:
+  0  all went well
+  1  a tour saw something else than its script expects
+  2  the command line is wrong
+  3  the telephone cannot be opened
+  4  the trace file cannot be opened
+  5  the plug-in or another library, or a function of it, is missing, or the plug-in gives no screen
+  6  the tour's script cannot be read, or has a mistake
+  7  a photograph, the text of a tour, or what was asked for cannot be written
+  8  the translation catalogue cannot be loaded
+  9  there is no display to show the window on, or no such platform of Qt
+ 10  a tour was ended by a signal before its end
+</source>
+        <translation>
+退出代码：
+  0  一切正常
+  1  演示看到的与脚本预期不同
+  2  命令行有误
+  3  无法打开电话
+  4  无法打开跟踪文件
+  5  缺少插件或其他库，或其中的函数，或插件没有提供屏幕
+  6  演示脚本无法读取，或有错误
+  7  照片、演示文本或所要求的内容无法写入
+  8  无法加载翻译目录
+  9  没有可显示窗口的屏幕，或没有这样的 Qt 平台
+ 10  演示在结束之前被信号终止
+</translation>
+    </message>
+    <message>
+        <source>Keep the telephone's state in DIR between starts; "none" keeps it in memory. Default: %1</source>
+        <translation>在两次启动之间将电话的状态保存在 DIR 中； “none”则只保存在内存中。 默认：%1</translation>
+    </message>
+    <message>
+        <source>Append the traces to FILE; "-" is standard output. Default: trace.log in the state directory; no trace where the state is in memory, and on a tour.</source>
+        <translation>将跟踪追加到 FILE；“-”为标准输出。 默认：状态目录中的 trace.log； 状态在内存中时以及演示时不跟踪。</translation>
+    </message>
+    <message>
+        <source>The telephone behind: %2, the path of a library that has one, or auto: the first that has a modem, else simulated. Default: simulated.</source>
+        <translation>后端的电话：%2，包含电话的库的路径， 或 auto：首个有调制解调器的电话，否则为 simulated。 默认：simulated。</translation>
+    </message>
+    <message>
+        <source>Keep the calls of the last DAYS days, 0 to 100000; older ones are deleted at the start and once a day, and stay in the totals. Default: all are kept.</source>
+        <translation>保留最近 DAYS 天的通话，0 到 100000； 更早的通话在启动时删除，之后每天删除一次，但仍计入总计。 默认：全部保留。</translation>
+    </message>
+    <message>
+        <source>The plug-in library. Default: libkavcallmeter.so.1</source>
+        <translation>插件库。 默认：libkavcallmeter.so.1</translation>
+    </message>
+    <message>
+        <source>Open this screen at once: %3.</source>
+        <translation>立即打开此屏幕：%3。</translation>
+    </message>
+    <message>
+        <source>Show this page of the panel: %4.</source>
+        <translation>显示面板的此页：%4。</translation>
+    </message>
+    <message>
+        <source>Load the texts of the catalogue FILE (.qm).</source>
+        <translation>加载翻译目录 FILE (.qm) 的文本。</translation>
+    </message>
+    <message>
+        <source>Speak this language: %5. Default: the locale's; English on a tour and with --photo.</source>
+        <translation>使用此语言：%5。 默认：区域设置的语言；演示时和使用 --photo 时为英语。</translation>
+    </message>
+    <message>
+        <source>Photograph the window as PNG to FILE and end.</source>
+        <translation>将窗口拍摄为 PNG 存入 FILE 并结束。</translation>
+    </message>
+    <message>
+        <source>Play a tour without a display: put photographs of the screens into DIR and print their texts.</source>
+        <translation>不用屏幕进行演示：将各屏幕的照片放入 DIR 并输出其文本。</translation>
+    </message>
+    <message>
+        <source>Play this script instead of the tour of all screens; only with --tour.</source>
+        <translation>用此脚本代替所有屏幕的演示；仅与 --tour 一起使用。</translation>
+    </message>
+    <message>
+        <source>Shows this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Option '%1' has an empty value.</source>
+        <translation>选项“%1”的值为空。</translation>
+    </message>
+    <message>
+        <source>The name that option '%1' gives is not UTF-8.</source>
+        <translation>选项“%1”给出的名称不是 UTF-8。</translation>
+    </message>
+    <message>
+        <source>Unknown screen '%1'; there is: %2.</source>
+        <translation>未知屏幕“%1”；可用：%2。</translation>
+    </message>
+    <message>
+        <source>Unknown page '%1'; there is: %2.</source>
+        <translation>未知页“%1”；可用：%2。</translation>
+    </message>
+    <message>
+        <source>Unknown language '%1'; there is: %2.</source>
+        <translation>未知语言“%1”；可用：%2。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument '%1'.</source>
+        <translation>意外的参数“%1”。</translation>
+    </message>
+    <message>
+        <source>Option 'script' needs option 'tour'.</source>
+        <translation>选项“script”需要选项“tour”。</translation>
+    </message>
+    <message>
+        <source>Option 'keep-calls' wants a number of days, 0 to %1.</source>
+        <translation>选项“keep-calls”需要天数，0 到 %1。</translation>
+    </message>
+    <message>
+        <source>Option '%1' does not go with option 'tour'.</source>
+        <translation>选项“%1”不能与选项“tour”同时使用。</translation>
+    </message>
+    <message>
+        <source>Option 'language' does not go with option 'translation'.</source>
+        <translation>选项“language”不能与选项“translation”同时使用。</translation>
     </message>
 </context>
 </TS>

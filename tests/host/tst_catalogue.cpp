@@ -1,6 +1,6 @@
 // Catalogues that a disk, a transfer or somebody has damaged.
-#include "host/Catalogue.h"
 #include "host/HostProcess.h"
+#include "language/Catalogue.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QFile>
@@ -122,7 +122,7 @@ private slots:
 void TestCatalogue::whatLreleaseMakesIsWhole()
 {
     QVERIFY(!wholeCatalogue().isEmpty());
-    QCOMPARE(host::findDamage(wholeCatalogue()), QString());
+    QCOMPARE(language::findDamage(wholeCatalogue()), QString());
 }
 
 void TestCatalogue::damageIsFound_data()
@@ -172,24 +172,24 @@ void TestCatalogue::damageIsFound_data()
 void TestCatalogue::damageIsFound()
 {
     QFETCH(QByteArray, bytes);
-    QVERIFY(!host::findDamage(bytes).isEmpty());
+    QVERIFY(!language::findDamage(bytes).isEmpty());
 }
 
 void TestCatalogue::aTableOfContextsThatIsWholeIsTaken()
 {
     const QByteArray contexts("\0\x02\0\0\0\x01\0\0\x02zz\0", 12);
-    QCOMPARE(host::findDamage(wholeCatalogue() + section(0x2f, contexts)), QString());
+    QCOMPARE(language::findDamage(wholeCatalogue() + section(0x2f, contexts)), QString());
 }
 
 void TestCatalogue::aTextThatTwoHashesShareIsTaken()
 {
     const QByteArray hashes = number(1) + number(0) + number(2) + number(0);
-    QCOMPARE(host::findDamage(magic() + section(0x42, hashes) + section(0x69, "\x01")), QString());
+    QCOMPARE(language::findDamage(magic() + section(0x42, hashes) + section(0x69, "\x01")), QString());
 }
 
 void TestCatalogue::anUnknownSectionIsPassedOver()
 {
-    QCOMPARE(host::findDamage(wholeCatalogue() + section(0x11, "later")), QString());
+    QCOMPARE(language::findDamage(wholeCatalogue() + section(0x11, "later")), QString());
 }
 
 void TestCatalogue::whatIsCutOffAnywhereIsFoundOrHarmless()
@@ -197,13 +197,13 @@ void TestCatalogue::whatIsCutOffAnywhereIsFoundOrHarmless()
     const QByteArray whole = wholeCatalogue();
     for (qsizetype size = 0; size < whole.size(); ++size) {
         const QByteArray bytes = whole.left(size);
-        if (!host::findDamage(bytes).isEmpty())
+        if (!language::findDamage(bytes).isEmpty())
             continue;
         QTranslator translator;
         if (translator.load(reinterpret_cast<const uchar *>(bytes.constData()), static_cast<int>(bytes.size())))
             askForTexts(translator);
     }
-    QVERIFY(!host::findDamage(whole.chopped(1)).isEmpty());
+    QVERIFY(!language::findDamage(whole.chopped(1)).isEmpty());
 }
 
 void TestCatalogue::whatIsChangedAnywhereIsFoundOrHarmless_data()
@@ -224,7 +224,7 @@ void TestCatalogue::whatIsChangedAnywhereIsFoundOrHarmless()
     for (qsizetype place = 0; place < whole.size(); ++place) {
         QByteArray bytes = whole;
         bytes[place] = static_cast<char>(value);
-        if (!host::findDamage(bytes).isEmpty()) {
+        if (!language::findDamage(bytes).isEmpty()) {
             ++found;
             continue;
         }

@@ -83,6 +83,7 @@ private slots:
     void theScreensShowTheSameNumbers();
     void whatATelephoneHasNotIsNoZero();
     void figuresArePrintedForAPersonAndForASpreadsheet();
+    void aLanguageChangesWhatAPersonReadsAlone();
     void aReaderMakesNoState();
     void wrongCommandLinesAreTold_data();
     void wrongCommandLinesAreTold();
@@ -182,6 +183,28 @@ void TestMeter::figuresArePrintedForAPersonAndForASpreadsheet()
                                               "dialed-cost  8.00      units\n");
     QCOMPARE(run(state.path(), names + QStringList{QStringLiteral("--csv")}).output,
              "figure,value,unit\r\ndialed-time,90,s\r\ndialed-cost,8.00,units\r\n");
+}
+
+void TestMeter::aLanguageChangesWhatAPersonReadsAlone()
+{
+    const StateDir state;
+    makeHistory(state.path());
+    const QStringList names{QStringLiteral("figures"), QStringLiteral("dialed-cost"), QStringLiteral("deposit")};
+    const QStringList german{QStringLiteral("--language"), QStringLiteral("de")};
+    QCOMPARE(run(state.path(), names + german).output, "figure       value            unit\n"
+                                                       "dialed-cost  8.00             Einheiten\n"
+                                                       "deposit      nicht verfügbar\n");
+    // A Han character takes two places.
+    QCOMPARE(run(state.path(), names + QStringList{"--language", "zh_CN"}).output, "figure       value   unit\n"
+                                                                                   "dialed-cost  8.00    单位\n"
+                                                                                   "deposit      不可用\n");
+    for (const char *format : {"--json", "--csv"})
+        for (const char *command : {"figures", "settings", "calls", "sessions", "totals"}) {
+            const QStringList asked{QString::fromLatin1(command), QString::fromLatin1(format)};
+            const QByteArray english = run(state.path(), asked).output;
+            QVERIFY(!english.isEmpty());
+            QCOMPARE(run(state.path(), asked + german).output, english);
+        }
 }
 
 void TestMeter::aReaderMakesNoState()

@@ -1,7 +1,7 @@
 // What every language has to keep, whatever it says.
 #include "handset/Handset.h"
-#include "host/Catalogue.h"
-#include "host/Languages.h"
+#include "language/Catalogue.h"
+#include "language/Languages.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZSkinService.h"
 #include "translations/Texts.h"
@@ -19,7 +19,7 @@
 
 namespace {
 
-using host::catalogueOf;
+using language::catalogueOf;
 
 QStringList placeHolders(const QString &text)
 {
@@ -151,7 +151,7 @@ void TestLanguages::languages()
 void TestLanguages::everyTextOfTheTemplateIsTranslatedAndNoOther()
 {
     QFETCH(QString, language);
-    host::Catalogue catalogue; // as the program loads it
+    language::Catalogue catalogue; // as the program loads it
     QCOMPARE(catalogue.install(catalogueOf(language)), QString());
     QHash<QString, QString> known;
     for (const TranslatedText &text : texts(language))
@@ -237,7 +237,7 @@ void TestLanguages::theProgramSpeaksIt()
 void TestLanguages::theTelephonesNoticesAreInIt()
 {
     QFETCH(QString, language);
-    host::Catalogue catalogue;
+    language::Catalogue catalogue;
     QCOMPARE(catalogue.install(catalogueOf(language)), QString());
     const QTemporaryDir state;
     const auto anybody = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther |
@@ -270,7 +270,7 @@ void TestLanguages::theLocaleChoosesTheLanguage()
 {
     QFETCH(QStringList, preferred);
     QFETCH(QString, language);
-    QCOMPARE(host::suitableLanguage(preferred), language);
+    QCOMPARE(language::suitableLanguage(preferred), language);
 }
 
 void TestLanguages::aLanguageThatThereIsNotIsRefusedWithThoseThatThereAre()
@@ -280,7 +280,7 @@ void TestLanguages::aLanguageThatThereIsNotIsRefusedWithThoseThatThereAre()
     QVERIFY(program.waitForFinished(60'000));
     QCOMPARE(program.exitCode(), 2);
     const QString errors = QString::fromUtf8(program.readAllStandardError());
-    QVERIFY2(errors.contains(host::languageNames().join(QStringLiteral(", "))), qPrintable(errors));
+    QVERIFY2(errors.contains(language::languageNames().join(QStringLiteral(", "))), qPrintable(errors));
 }
 
 KAV_TEST_GROUP(TestLanguages, QApplication);

@@ -1,8 +1,8 @@
 // The template is made from the sources as they stand; here the phone says what it asks for when it runs.
-#include "host/Languages.h"
 #include "host/Options.h"
 #include "host/ScreenLibrary.h"
 #include "host/tour/TourPlayer.h"
+#include "language/Languages.h"
 #include "support/RecordingTranslator.h"
 #include "support/TestGroup.h"
 #include "translations/Texts.h"

@@ -2,12 +2,12 @@
 #include "handset/CallLog.h"
 #include "handset/Clock.h"
 #include "handset/Handset.h"
-#include "host/Catalogue.h"
-#include "host/Languages.h"
 #include "host/PhoneWindow.h"
 #include "host/faults/FaultyHandset.h"
 #include "host/panel/Panel.h"
 #include "host/phone/PhoneKey.h"
+#include "language/Catalogue.h"
+#include "language/Languages.h"
 #include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 #include "toolkit/ZApplication.h"
@@ -81,7 +81,7 @@ private:
     void openWindow(const QString &language);
     void clickKey(const char *name) { QTest::mouseClick(window->findChild<PhoneKey *>(name), Qt::LeftButton); }
 
-    std::unique_ptr<host::Catalogue> catalogue;
+    std::unique_ptr<language::Catalogue> catalogue;
     host::ScreenLibrary library;
     std::shared_ptr<handset::ManualClock> clock;
     std::shared_ptr<handset::Handset> owner;
@@ -104,7 +104,7 @@ void TestWindowInLanguages::init()
     QVERIFY(owner);
     installed = std::make_shared<host::FaultyHandset>(owner);
     handset::install(installed);
-    catalogue = std::make_unique<host::Catalogue>();
+    catalogue = std::make_unique<language::Catalogue>();
 }
 
 void TestWindowInLanguages::cleanup()
@@ -116,7 +116,7 @@ void TestWindowInLanguages::cleanup()
 
 void TestWindowInLanguages::openWindow(const QString &language)
 {
-    QCOMPARE(catalogue->install(host::catalogueOf(language)), QString());
+    QCOMPARE(catalogue->install(language::catalogueOf(language)), QString());
     window = std::make_unique<host::PhoneWindow>(
         library, host::PhoneWindow::OpenedHandset{owner, {}, {}, &installed->faults()});
     window->show();

@@ -22,10 +22,14 @@ constexpr Rule rules[] = {
      "platform/security",
      "the plug-in knows the phone's libraries, never the telephone behind them"},
     {"platform/log/", "platform/log", "the log is a leaf"},
+    {"platform/language/", "platform/language", "languages know no telephone"},
     {"platform/process/", "platform/process", "processes know no telephone"},
-    {"recorder/", "recorder/ platform/process platform/handset", "the recorder is a handset without a window"},
+    {"recorder/", "recorder/ platform/language platform/process platform/handset",
+     "the recorder is a handset without a window"},
     {"meter/",
-     "meter/ platform/handset platform/handset/calllog platform/handset/charging platform/process platform/qt",
+     "meter/ platform/handset platform/handset/calllog platform/handset/charging platform/language "
+     "platform/process "
+     "platform/qt",
      "the meters are a handset and a ledger without a window"},
     {"translations/", "translations/", "the build's compiler of catalogues knows the format of those alone"},
     {"platform/qt/", "platform/qt/", "names over the installed Qt, nothing of the phone"},
@@ -61,7 +65,7 @@ constexpr Rule rules[] = {
      "a backend knows no other"},
     {"host/",
      "host/ platform/handset platform/handset/simulated platform/handset/charging platform/toolkit platform/qt "
-     "platform/log platform/process "
+     "platform/language platform/log platform/process "
      "platform/telephony platform/callsetup platform/message platform/security",
      "the host reaches the plug-in by its exported names only"},
     {"examples/", "examples/ platform/toolkit platform/telephony platform/handset",

@@ -1,6 +1,7 @@
-#include "host/Catalogue.h"
+#include "language/Catalogue.h"
 
-#include "host/ReadFile.h"
+#include "language/Languages.h"
+#include "language/ReadFile.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QtEndian>
@@ -8,7 +9,7 @@
 #include <algorithm>
 #include <optional>
 
-namespace host {
+namespace language {
 
 namespace {
 
@@ -228,4 +229,10 @@ QString Catalogue::install(const QString &file)
     return {};
 }
 
-} // namespace host
+QString Catalogue::installLanguage(const QString &language)
+{
+    const QString file = catalogueOf(language);
+    return file.isEmpty() ? QString() : install(file);
+}
+
+} // namespace language

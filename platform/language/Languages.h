@@ -4,7 +4,7 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-namespace host {
+namespace language {
 
 /// "en", which the program speaks without a catalogue, and the names of the catalogues that are installed beside the
 /// program, as QLocale writes them ("de", "zh_CN"); sorted. Needs an application object.
@@ -17,4 +17,7 @@ QString suitableLanguage(const QStringList &wanted);
 /// The file of the catalogue; empty for "en".
 QString catalogueOf(const QString &language);
 
-} // namespace host
+/// The language for a user of a command line: what "--language" names in it, else that of the locale.
+QString languageFor(const QStringList &arguments);
+
+} // namespace language

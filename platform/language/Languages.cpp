@@ -1,12 +1,13 @@
-#include "host/Languages.h"
+#include "language/Languages.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
+#include <QtCore/QRegularExpression>
 
 #include <algorithm>
 
-namespace host {
+namespace language {
 
 namespace {
 
@@ -61,4 +62,18 @@ QString catalogueOf(const QString &language)
     return language == english() ? QString() : folder().filePath(language + QStringLiteral(".qm"));
 }
 
-} // namespace host
+QString languageFor(const QStringList &arguments)
+{
+    // Also in what has a mistake, which is to be told in that language.
+    const qsizetype end = arguments.indexOf(QStringLiteral("--"));
+    static const QRegularExpression option(QStringLiteral("^--?language(?:=(.*))?$"));
+    QString named;
+    for (qsizetype index = 1; index < (end < 0 ? arguments.size() : end); ++index) {
+        const QRegularExpressionMatch match = option.match(arguments[index]);
+        if (match.hasMatch())
+            named = match.hasCaptured(1) ? match.captured(1) : arguments.value(index + 1);
+    }
+    return languageNames().contains(named) ? named : suitableLanguage(QLocale::system().uiLanguages());
+}
+
+} // namespace language

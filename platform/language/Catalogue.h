@@ -5,7 +5,7 @@
 #include <QtCore/QString>
 #include <QtCore/QTranslator>
 
-namespace host {
+namespace language {
 
 /// What is wrong with the bytes of a catalogue, as the end of a sentence; empty when every offset and every length in
 /// it leads to where it must. Qt follows them without looking, and so out of a damaged file. A catalogue that names
@@ -20,10 +20,12 @@ public:
     /// Reads the whole file, which may change afterwards, and installs its texts. Empty, or what is wrong as a
     /// sentence.
     QString install(const QString &file);
+    /// The same with the file of a language; English needs none.
+    QString installLanguage(const QString &language);
 
 private:
     QByteArray bytes; // which the translator does not copy
     QTranslator translator;
 };
 
-} // namespace host
+} // namespace language

@@ -1,16 +1,17 @@
-#include "host/ReadFile.h"
+#include "language/ReadFile.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
-namespace host {
+namespace language {
 
 QString readFile(const QString &file, qint64 limit, QByteArray &bytes)
 {
     if (!QFileInfo::exists(file))
-        return QStringLiteral("there is none");
+        return QCoreApplication::translate("ReadFile", "there is none");
     if (!QFileInfo(file).isFile())
-        return QStringLiteral("it is no file");
+        return QCoreApplication::translate("ReadFile", "it is no file");
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
         return source.errorString();
@@ -18,8 +19,9 @@ QString readFile(const QString &file, qint64 limit, QByteArray &bytes)
     if (source.error() != QFileDevice::NoError)
         return source.errorString();
     if (bytes.size() > limit)
-        return QStringLiteral("it is larger than %1 MiB").arg(limit / (qint64{1024} * 1024));
+        return QCoreApplication::translate("ReadFile", "it is larger than %1 MiB")
+            .arg(limit / (qint64{1024} * 1024));
     return {};
 }
 
-} // namespace host
+} // namespace language
