@@ -13,10 +13,12 @@
 #include <QtGui/QPaintEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
+#include <QtGui/QPicture>
 #include <QtGui/QPixmap>
 #include <QtGui/QRegion>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyleOptionViewItem>
 #include <QtWidgets/QWidget>
 
 using namespace ToolkitTestKit;
@@ -85,6 +87,9 @@ private slots:
     void aTitleIsCutWhereTheListSays();
     void anEnlargedOrOddDisplayShowsTheSameRows_data();
     void anEnlargedOrOddDisplayShowsTheSameRows();
+    void aRowIsPaintedWhereNoPictureStandsForIt_data();
+    void aRowIsPaintedWhereNoPictureStandsForIt();
+    void onlyTheLeftButtonDragsTheScrollBar();
 };
 
 void TestListBoxLook::init()
@@ -637,6 +642,69 @@ void TestListBoxLook::anEnlargedOrOddDisplayShowsTheSameRows()
     };
     QVERIFY(isNear(&firstInk));
     QVERIFY(isNear(&lastInk));
+}
+
+void TestListBoxLook::aRowIsPaintedWhereNoPictureStandsForIt_data()
+{
+    QTest::addColumn<qreal>("scale");
+    QTest::addColumn<qreal>("pixelRatio");
+    QTest::addColumn<bool>("isRecorded");
+    QTest::newRow("enlarged by the painter") << 2.0 << 1.0 << false;
+    QTest::newRow("with half pixels") << 1.0 << 1.5 << false;
+    QTest::newRow("recorded") << 1.0 << 1.0 << true;
+}
+
+void TestListBoxLook::aRowIsPaintedWhereNoPictureStandsForIt()
+{
+    QFETCH(qreal, scale);
+    QFETCH(qreal, pixelRatio);
+    QFETCH(bool, isRecorded);
+    ListScreen screen;
+    screen.addRow(QStringLiteral("bar"));
+    screen.addRow(QStringLiteral("Title"), QStringLiteral("00:01:05"));
+    showSettled(screen);
+    const QImage expected = lookOfRow(screen.list, 1);
+    const QModelIndex index = screen.list->model()->index(1, 0);
+    QStyleOptionViewItem option;
+    option.rect = QRect(QPoint(0, 0), expected.size());
+    option.direction = Qt::LeftToRight;
+    option.textElideMode = Qt::ElideRight;
+    const qreal factor = scale * pixelRatio;
+    QImage found((QSizeF(expected.size()) * factor).toSize(), QImage::Format_RGB32);
+    found.setDevicePixelRatio(pixelRatio);
+    QPicture record;
+    QPainter painter;
+    painter.begin(isRecorded ? static_cast<QPaintDevice *>(&record) : &found);
+    painter.scale(scale, scale);
+    screen.list->itemDelegateForIndex(index)->paint(&painter, option, index);
+    painter.end();
+    if (isRecorded) {
+        QPainter player(&found);
+        player.drawPicture(0, 0, record);
+    }
+    found.setDevicePixelRatio(1);
+    // Without the divider below.
+    const auto text = [&](const QImage &row, qreal by) {
+        return row.copy(0, 0, row.width(), static_cast<int>((ZSkinService::RowHeight - 3) * by));
+    };
+    const int left = firstInk(text(expected, 1), color(ZSkinService::ScreenColor));
+    const int right = lastInk(text(expected, 1), color(ZSkinService::ScreenColor));
+    QVERIFY(std::abs(firstInk(text(found, factor), color(ZSkinService::ScreenColor)) - left * factor) <
+            4 * factor);
+    QVERIFY(std::abs(lastInk(text(found, factor), color(ZSkinService::ScreenColor)) - right * factor) <
+            4 * factor);
+}
+
+void TestListBoxLook::onlyTheLeftButtonDragsTheScrollBar()
+{
+    ListScreen screen;
+    screen.addRows(100);
+    showSettled(screen);
+    QScrollBar *const bar = screen.list->verticalScrollBar();
+    QTest::mouseClick(bar, Qt::RightButton, Qt::NoModifier, QPoint(bar->width() / 2, bar->height() - 3));
+    QCOMPARE(bar->value(), 0);
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, QPoint(bar->width() / 2, bar->height() - 3));
+    QVERIFY(bar->value() > 0);
 }
 
 KAV_TEST_GROUP(TestListBoxLook, QApplication);

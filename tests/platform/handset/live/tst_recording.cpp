@@ -1037,6 +1037,9 @@ void TestRecording::severalThatCouldNotBeWrittenAreWrittenTogether()
         }
         desk.session(QStringLiteral("/a"), Bytes{0, 0});
         desk.session(QStringLiteral("/b"), Bytes{0, 0});
+        const auto sessions = desk.phone->lineControl()->report().sessions;
+        QCOMPARE(sessions.size(), 2);
+        QVERIFY(!sessions.constFirst().sent && !sessions.constFirst().received); // as nothing is recorded of it
     }
     QObject::connect(desk.phone.get(), &live::LiveHandset::changed, [&told] { ++told; });
     desk.pass(5 * second);

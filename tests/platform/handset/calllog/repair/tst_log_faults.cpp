@@ -135,6 +135,10 @@ private slots:
     void aViewTooLargeToStayInMemoryCostsNoCallWhenAReadFailsOnce();
     void theCheckOfTheNewLogSaysHowFarItIsFromItsFirstPagesOn();
     void aNewLogThatCannotBeReadToCountItsCallsIsAnErrorWithTheReason();
+    void whatAFileSystemDoesNotKnowOrDoesLaterIsNoFailure_data();
+    void whatAFileSystemDoesNotKnowOrDoesLaterIsNoFailure();
+    void aReplacementThatCannotBeFinishedIsFinishedByTheNextStart_data();
+    void aReplacementThatCannotBeFinishedIsFinishedByTheNextStart();
 
 private:
     void openWithoutFaults(const StateDir &state, const Surroundings &files, const QString &notice);
@@ -533,6 +537,72 @@ void TestLogFaults::aNewLogThatCannotBeReadToCountItsCallsIsAnErrorWithTheReason
     const Phone phone(state.path());
     QVERIFY2(phone.opened.notice.contains(QStringLiteral("(60000)")), qPrintable(phone.opened.notice));
     QCOMPARE(phone.figures(), figures);
+}
+
+void TestLogFaults::whatAFileSystemDoesNotKnowOrDoesLaterIsNoFailure_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<int>("error");
+    QTest::addColumn<bool>("isAlways"); // else each once
+    QTest::newRow("no second names") << QByteArray("link") << EPERM << true;
+    QTest::newRow("second names that it does not support") << QByteArray("link") << EOPNOTSUPP << true;
+    QTest::newRow("as many names as a file may have") << QByteArray("link") << EMLINK << true;
+    QTest::newRow("a read that a signal interrupts") << QByteArray("read") << EINTR << false;
+    QTest::newRow("a write that a signal interrupts") << QByteArray("write") << EINTR << false;
+}
+
+// Of a damaged log that was not closed: its recordings are kept under another name, too.
+void TestLogFaults::whatAFileSystemDoesNotKnowOrDoesLaterIsNoFailure()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(int, error);
+    QFETCH(bool, isAlways);
+    const Surroundings &files = surroundings[4];
+    const long calls = countOf(files, call.constData());
+    QVERIFY(calls > 0);
+    for (long nth = 1; nth <= (isAlways ? 1 : calls); ++nth) {
+        const StateDir state;
+        QVERIFY(putInto(state, files));
+        kavFaultsArm(qPrintable(state.path()), call.constData(), nth, error, isAlways);
+        QString notice;
+        {
+            const Phone phone(state.path());
+            kavFaultsDisarm();
+            QVERIFY2(phone, qPrintable(phone.opened.error));
+            notice = phone.opened.notice;
+        }
+        QVERIFY(!notice.isEmpty());
+        openWithoutFaults(state, files, notice);
+    }
+}
+
+void TestLogFaults::aReplacementThatCannotBeFinishedIsFinishedByTheNextStart_data()
+{
+    QTest::addColumn<QByteArray>("call");
+    QTest::addColumn<bool>("hasOldRecordings");
+    QTest::newRow("the new log cannot take its place") << QByteArray("rename") << false;
+    QTest::newRow("what the old one has recorded cannot make way") << QByteArray("link") << true;
+}
+
+void TestLogFaults::aReplacementThatCannotBeFinishedIsFinishedByTheNextStart()
+{
+    QFETCH(QByteArray, call);
+    QFETCH(bool, hasOldRecordings);
+    const Surroundings &sound = surroundings[0];
+    const StateDir state;
+    QVERIFY(QDir().mkpath(state.path()));
+    QVERIFY(writeFile(state.file(QStringLiteral("calllog-ready.db")), sound.database));
+    if (hasOldRecordings)
+        QVERIFY(writeFile(state.file(walFile), "stale"));
+    kavFaultsArm(qPrintable(state.path()), call.constData(), 1, EIO, true);
+    const Phone refused(state.path());
+    kavFaultsDisarm();
+    QVERIFY(!refused);
+    QVERIFY2(refused.opened.error.contains(QString::fromLocal8Bit(std::strerror(EIO))),
+             qPrintable(refused.opened.error));
+    const Phone next(state.path());
+    QVERIFY2(next, qPrintable(next.opened.error));
+    QCOMPARE(next.figures(), sound.figures);
 }
 
 KAV_TEST_GROUP(TestLogFaults, QCoreApplication);

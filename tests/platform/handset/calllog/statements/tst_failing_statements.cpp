@@ -12,6 +12,7 @@
 
 #include <QtCore/QDir>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -374,6 +375,9 @@ private slots:
     void callsOfThePastAreAddedWholeOrNotAtAll();
     void whileAnEndIsOwedNothingElseIsWritten();
     void amountsBelowZeroBeginNothing();
+    void whatIsMissingOrUnreadableIsAFailure_data();
+    void whatIsMissingOrUnreadableIsAFailure();
+    void aCallWithoutATariffOfItsOwnCostsNothing();
     void anOpeningSaysWhyAndLosesNothing_data();
     void anOpeningSaysWhyAndLosesNothing();
     void aLogInMemorySaysWhy();
@@ -650,6 +654,60 @@ void TestFailingStatements::aLogInMemorySaysWhy()
     const OpenedLedger refused = open(1);
     QVERIFY(!refused.ledger);
     QCOMPARE(refused.error, QStringLiteral("The call log cannot be opened: disk I/O error."));
+}
+
+void TestFailingStatements::whatIsMissingOrUnreadableIsAFailure_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<QString>("asked");
+    QTest::addColumn<QString>("reason");
+    const QString missing = QStringLiteral("a row is missing");
+    for (const char *counter : {"duration", "sent", "received"})
+        QTest::addRow("the total of sessions %s", counter)
+            << QStringLiteral("DELETE FROM session_totals WHERE counter = '%1'").arg(QLatin1String(counter))
+            << "what the sessions come to" << missing;
+    QTest::newRow("the time of dialed calls")
+        << QStringLiteral("DELETE FROM totals WHERE counter = 'dialed'") << "a time" << missing;
+    QTest::newRow("the cost of dialed calls")
+        << QStringLiteral("DELETE FROM costs WHERE counter = 'dialed'") << "a cost" << missing;
+    QTest::newRow("the tariff of a running call, for its cost")
+        << QStringLiteral("UPDATE calls SET tariff = x'00' WHERE state = 0") << "a cost"
+        << QStringLiteral("the tariff of the running call cannot be read");
+    QTest::newRow("the tariff of a running call, for a change")
+        << QStringLiteral("UPDATE calls SET tariff = x'00' WHERE state = 0") << "a deposit"
+        << QStringLiteral("the tariff of the running call cannot be read");
+    QTest::newRow("the card") << QStringLiteral("DELETE FROM kept WHERE name = 'card'") << "the card"
+                              << QStringLiteral("what is kept of the SIM card and the account cannot be read");
+}
+
+void TestFailingStatements::whatIsMissingOrUnreadableIsAFailure()
+{
+    QFETCH(QString, statement);
+    QFETCH(QString, asked);
+    QFETCH(QString, reason);
+    const auto all = operations();
+    const auto operation =
+        std::find_if(all.begin(), all.end(), [&](const auto &one) { return asked == QLatin1String(one.first); });
+    QVERIFY(operation != all.end());
+    Desk desk;
+    QVERIFY(LogFile(desk.state.database()).run(statement));
+    qint64 answer = unwritten;
+    QCOMPARE(operation->second(desk, answer), int{StorageFailed});
+    QCOMPARE(answer, unwritten);
+    QCOMPARE(warnings, QStringList{QStringLiteral("The call log failed: ") + reason});
+}
+
+void TestFailingStatements::aCallWithoutATariffOfItsOwnCostsNothing()
+{
+    Desk desk;
+    QVERIFY(LogFile(desk.state.database())
+                .run(QStringLiteral("UPDATE calls SET tariff = NULL WHERE id = %1").arg(desk.running)));
+    desk.clock->advance(minute);
+    qint64 due = unwritten;
+    QCOMPARE(desk.ledger().figure(Total::DialedCost, due), int{Success});
+    QCOMPARE(due, qint64{6}); // of the call of the past
+    QCOMPARE(desk.ledger().checkpoint(), int{Success});
+    QCOMPARE(warnings, QStringList());
 }
 
 KAV_TEST_GROUP(TestFailingStatements, QCoreApplication);
