@@ -1,6 +1,6 @@
 #include "host/WindowPlace.h"
 
-#include "host/ReadFile.h"
+#include "language/ReadFile.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QSaveFile>
@@ -29,7 +29,7 @@ QString fileIn(const QString &place)
 void takePlace(QWidget &window)
 {
     QByteArray kept;
-    if (readFile(fileIn(folder()), most, kept).isEmpty())
+    if (language::readFile(fileIn(folder()), most, kept).isEmpty())
         window.restoreGeometry(kept);
 }
 
