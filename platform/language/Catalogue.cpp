@@ -44,10 +44,11 @@ public:
 
     std::optional<QByteArrayView> block(quint32 size)
     {
-        if (left.size() < qsizetype(size))
+        // Compared without a sign: where a size has 32 bits the greatest numbers would be below zero.
+        if (static_cast<quint64>(left.size()) < size)
             return {};
-        const QByteArrayView taken = left.first(size);
-        left = left.sliced(size);
+        const QByteArrayView taken = left.first(static_cast<qsizetype>(size));
+        left = left.sliced(taken.size());
         return taken;
     }
 
@@ -148,9 +149,9 @@ bool areHashes(QByteArrayView hashes, QByteArrayView messages)
     while (!reader.isAtEnd()) {
         const quint32 hash = *reader.number<quint32>();
         const quint32 offset = *reader.number<quint32>();
-        if (hash < before || qsizetype(offset) >= messages.size())
+        if (hash < before || offset >= static_cast<quint64>(messages.size()))
             return false;
-        const auto size = sizeOfMessage(messages.sliced(offset));
+        const auto size = sizeOfMessage(messages.sliced(static_cast<qsizetype>(offset)));
         if (!size || !budget.take(*size))
             return false;
         before = hash;
