@@ -86,7 +86,7 @@ constexpr ModuleRule moduleRules[] = {
     {"QtDBus", "QDBus",
      "platform/handset/live platform/handset/modemmanager/ platform/handset/ofono/ tests/ bench/",
      "the live handsets"},
-    {"dbus", "dbus/", "platform/qt/qcop bench/", "channels, and what they are measured against"},
+    {"dbus", "dbus/", "platform/qt/qcop bench/ tests/fuzz", "channels, and what they are measured against"},
     {"QtTest", "QTest", "tests/", "product code has no tests in it"},
 };
 
