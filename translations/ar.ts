@@ -2716,7 +2716,7 @@
     </message>
     <message>
         <source>&amp;Top up</source>
-        <translation>&amp;شحن</translation>
+        <translation>شحن (&amp;T)</translation>
     </message>
     <message>
         <source>Pays the amount in</source>
@@ -2865,7 +2865,7 @@
     </message>
     <message>
         <source>Set &amp;price</source>
-        <translation>ضبط ال&amp;سعر</translation>
+        <translation>ضبط السعر (&amp;P)</translation>
     </message>
     <message>
         <source>Writes price and currency to the SIM card</source>
@@ -2915,7 +2915,7 @@
     </message>
     <message>
         <source>Let it &amp;fail</source>
-        <translation>اجعلها ت&amp;فشل</translation>
+        <translation>اجعلها تفشل (&amp;F)</translation>
     </message>
     <message>
         <source>From now on the operation only answers the code</source>
@@ -2923,7 +2923,7 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation>إ&amp;زالة</translation>
+        <translation>إزالة (&amp;R)</translation>
     </message>
     <message>
         <source>The chosen operation works again</source>
@@ -2931,7 +2931,7 @@
     </message>
     <message>
         <source>Remove a&amp;ll</source>
-        <translation>إزالة ال&amp;كل</translation>
+        <translation>إزالة الكل (&amp;L)</translation>
     </message>
     <message>
         <source>Every operation works again</source>
@@ -2990,7 +2990,7 @@
     </message>
     <message>
         <source>Add a &amp;ready-made history</source>
-        <translation>إضافة سجل &amp;جاهز</translation>
+        <translation>إضافة سجل جاهز (&amp;R)</translation>
     </message>
     <message>
         <source>Adds a dozen calls of the last days to the call log</source>
@@ -3119,7 +3119,7 @@
     <name>host::LineSection</name>
     <message>
         <source>&amp;Dial</source>
-        <translation>&amp;اتصال</translation>
+        <translation>اتصال (&amp;D)</translation>
     </message>
     <message>
         <source>Calls the number from this phone</source>
@@ -3127,7 +3127,7 @@
     </message>
     <message>
         <source>&amp;Other side answers</source>
-        <translation>ال&amp;طرف الآخر يجيب</translation>
+        <translation>الطرف الآخر يجيب (&amp;O)</translation>
     </message>
     <message>
         <source>The called side answers; the call is connected</source>
@@ -3135,7 +3135,7 @@
     </message>
     <message>
         <source>Dial d&amp;ata call</source>
-        <translation>اتصال &amp;بيانات</translation>
+        <translation>اتصال بيانات (&amp;A)</translation>
     </message>
     <message>
         <source>Sets up a circuit-switched data call to the number</source>
@@ -3143,7 +3143,7 @@
     </message>
     <message>
         <source>&amp;Incoming call</source>
-        <translation>مكالمة &amp;واردة</translation>
+        <translation>مكالمة واردة (&amp;I)</translation>
     </message>
     <message>
         <source>The number calls this phone; empty for a withheld number</source>
@@ -3151,7 +3151,7 @@
     </message>
     <message>
         <source>&amp;Hang up</source>
-        <translation>إن&amp;هاء المكالمة</translation>
+        <translation>إنهاء المكالمة (&amp;H)</translation>
     </message>
     <message>
         <source>Ends the call on the line, whatever its state</source>
@@ -3159,7 +3159,7 @@
     </message>
     <message>
         <source>A&amp;nswer</source>
-        <translation>&amp;رد</translation>
+        <translation>رد (&amp;N)</translation>
     </message>
     <message>
         <source>Answers the incoming call; the call is connected</source>
@@ -3195,7 +3195,7 @@
     </message>
     <message>
         <source>N&amp;umber</source>
-        <translation>ال&amp;رقم</translation>
+        <translation>الرقم (&amp;U)</translation>
     </message>
 </context>
 <context>
@@ -3276,7 +3276,7 @@
     </message>
     <message>
         <source>, %1 B sent, %2 B received</source>
-        <translation>، أُرسل ⁨%1⁩ بايت، استُلم ⁨%2⁩ بايت</translation>
+        <translation>، المرسل ⁨%1⁩ بايت، المستلم ⁨%2⁩ بايت</translation>
     </message>
     <message>
         <source>not connected</source>
@@ -3358,7 +3358,7 @@
     <name>host::PacketSection</name>
     <message>
         <source>%1 B sent, %2 B received</source>
-        <translation>أُرسل ⁨%1⁩ بايت، استُلم ⁨%2⁩ بايت</translation>
+        <translation>المرسل ⁨%1⁩ بايت، المستلم ⁨%2⁩ بايت</translation>
     </message>
     <message>
         <source>empty</source>
@@ -3402,7 +3402,7 @@
     </message>
     <message>
         <source>&amp;Start session</source>
-        <translation>&amp;بدء جلسة</translation>
+        <translation>بدء جلسة (&amp;S)</translation>
     </message>
     <message>
         <source>Begins a session, which counts bytes and time</source>
@@ -3410,7 +3410,7 @@
     </message>
     <message>
         <source>Sto&amp;p session</source>
-        <translation>إ&amp;يقاف الجلسة</translation>
+        <translation>إيقاف الجلسة (&amp;P)</translation>
     </message>
     <message>
         <source>Ends the session</source>
@@ -3446,7 +3446,7 @@
     </message>
     <message>
         <source>S&amp;end update</source>
-        <translation>إرسال &amp;تحديث</translation>
+        <translation>إرسال تحديث (&amp;E)</translation>
     </message>
     <message>
         <source>Tells the screens that the figures have changed</source>
@@ -3563,7 +3563,7 @@
     </message>
     <message>
         <source>&amp;Enter</source>
-        <translation>إ&amp;دخال</translation>
+        <translation>إدخال (&amp;E)</translation>
     </message>
     <message>
         <source>Presents PIN2 to the card, as the phone does; a wrong one costs a try</source>
@@ -3571,7 +3571,7 @@
     </message>
     <message>
         <source>Un&amp;block</source>
-        <translation>&amp;فك الحظر</translation>
+        <translation>فك الحظر (&amp;B)</translation>
     </message>
     <message>
         <source>Sets the new PIN2 and gives all tries back</source>
@@ -3602,7 +3602,7 @@
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation>&amp;حذف</translation>
+        <translation>حذف (&amp;D)</translation>
     </message>
     <message>
         <source>Deletes the chosen call; the totals stay</source>
@@ -3610,7 +3610,7 @@
     </message>
     <message>
         <source>Delete a&amp;ll ...</source>
-        <translation>حذف ال&amp;كل ...</translation>
+        <translation>حذف الكل (&amp;L) ...</translation>
     </message>
     <message>
         <source>Deletes every call that is over; the totals stay</source>
@@ -3630,7 +3630,7 @@
     </message>
     <message>
         <source>&amp;Delete all</source>
-        <translation>حذف ال&amp;كل</translation>
+        <translation>حذف الكل (&amp;D)</translation>
     </message>
 </context>
 <context>

@@ -11,7 +11,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Währung</translation>
+        <translation>Währungsart</translation>
     </message>
     <message>
         <source>TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS</source>
@@ -1241,7 +1241,7 @@
     <message>
         <source>TXT_RID_LIST_A_UNITS</source>
         <comment>units</comment>
-        <translation>Einheiten</translation>
+        <translation>Einh.</translation>
     </message>
     <message>
         <source>TXT_RID_LIST_A_AED</source>
@@ -2236,7 +2236,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Währung</translation>
+        <translation>Währungsart</translation>
     </message>
     <message>
         <source>TXT_RID_SETTING_A_COST_PER_MINUTE</source>
@@ -2246,7 +2246,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CREDIT_AVAILABLE</source>
         <comment>Credit Available</comment>
-        <translation>Verfügbares Guthaben</translation>
+        <translation>Guthaben</translation>
     </message>
     <message>
         <source>TXT_RID_SETTING_A_EXPIRATION_DATE</source>

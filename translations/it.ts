@@ -11,7 +11,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Valuta</translation>
+        <translation>Tipo di valuta</translation>
     </message>
     <message>
         <source>TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS</source>
@@ -2236,7 +2236,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Valuta</translation>
+        <translation>Tipo di valuta</translation>
     </message>
     <message>
         <source>TXT_RID_SETTING_A_COST_PER_MINUTE</source>
@@ -2261,7 +2261,7 @@
     <message>
         <source>TXT_RID_SETTING_A_LAST_CALL_COST</source>
         <comment>Last Call Cost</comment>
-        <translation>Costo ultima chiamata</translation>
+        <translation>Costo ultima</translation>
     </message>
     <message>
         <source>TXT_RID_SETTING_A_DIALED_CALLS_COST</source>

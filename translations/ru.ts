@@ -11,7 +11,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Валюта</translation>
+        <translation>Тип валюты</translation>
     </message>
     <message>
         <source>TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS</source>
@@ -1241,7 +1241,7 @@
     <message>
         <source>TXT_RID_LIST_A_UNITS</source>
         <comment>units</comment>
-        <translation>единицы</translation>
+        <translation>ед.</translation>
     </message>
     <message>
         <source>TXT_RID_LIST_A_AED</source>
@@ -2236,7 +2236,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Валюта</translation>
+        <translation>Тип валюты</translation>
     </message>
     <message>
         <source>TXT_RID_SETTING_A_COST_PER_MINUTE</source>

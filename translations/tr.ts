@@ -11,7 +11,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Para birimi</translation>
+        <translation>Para birimi türü</translation>
     </message>
     <message>
         <source>TXT_RID_INSTRUCTIONALTXT_ALL_COSTS_RESET_TO_000_UNITS</source>
@@ -2236,7 +2236,7 @@
     <message>
         <source>TXT_RID_SETTING_A_CURRENCY_TYPE</source>
         <comment>Currency Type</comment>
-        <translation>Para birimi</translation>
+        <translation>Para birimi türü</translation>
     </message>
     <message>
         <source>TXT_RID_SETTING_A_COST_PER_MINUTE</source>
