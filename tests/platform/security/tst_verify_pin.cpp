@@ -669,7 +669,10 @@ void TestVerifyPin::everyTextIsAskedForByItsKeyAndItsEnglish()
     const auto which = static_cast<SETUP_SECURITY_PINTYPE_E>(pin);
     RecordingTranslator translator;
     handset->sim.tries = 2;
-    User user({keys("0000"), key(Qt::Key_Select), keys("0000"), key(Qt::Key_Select), key(Qt::Key_Select)});
+    QStringList shown;
+    const auto look = [&] { shown << shownText(); };
+    User user(
+        {keys("0000"), key(Qt::Key_Select), look, keys("0000"), key(Qt::Key_Select), look, key(Qt::Key_Select)});
     QCOMPARE(verify(screen.get(), which).error, SETUP_SECURITY_VERIFY_BLOCKED);
     QVERIFY(user.isDone());
     handset->sim.statusOfPinStatus = handset::NotAvailable;
@@ -679,6 +682,8 @@ void TestVerifyPin::everyTextIsAskedForByItsKeyAndItsEnglish()
     asked.removeDuplicates();
     asked.sort();
     const QString name = QTest::currentDataTag();
+    QVERIFY(shown.at(0).contains("Wrong " + name + ". Tries left: 1"));
+    QVERIFY(shown.at(1).contains(name + " is blocked."));
     QStringList expected;
     const auto expect = [&](const QString &text, const QString &english) {
         expected << QStringLiteral("SETUP_SECURITY_Util, %1, %2").arg(text, english);
