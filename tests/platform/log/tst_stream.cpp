@@ -52,6 +52,7 @@ private slots:
     void nobodyGaveItAPlaceAtTheStart();
     void aFileIsMadeForItsOwnerOnlyAndAppendedTo();
     void aFinishedLineIsInTheFileAtOnce();
+    void aLineOfOneByteIsWritten();
     void aNameOutsideAsciiIsTakenAsItIs();
     void openingAnotherPlaceClosesTheFileBefore();
     void aPlaceThatCannotBeHadLeavesTheStreamAsItWas_data();
@@ -126,6 +127,16 @@ void TestStream::aFinishedLineIsInTheFileAtOnce()
     QCOMPARE(contentsOf(path("trace")), QByteArray("finished\n"));
     libaplog_close();
     QCOMPARE(contentsOf(path("trace")), QByteArray("finished\nunfinished"));
+}
+
+void TestStream::aLineOfOneByteIsWritten()
+{
+    QCOMPARE(open("trace"), 0);
+    write("\n");
+    QCOMPARE(contentsOf(path("trace")), QByteArray("\n"));
+    write("x");
+    libaplog_close();
+    QCOMPARE(contentsOf(path("trace")), QByteArray("\nx"));
 }
 
 void TestStream::aNameOutsideAsciiIsTakenAsItIs()
@@ -286,6 +297,7 @@ void TestStream::aFileOfAnotherUserIsNotWrittenTo()
 
 void TestStream::aFileGrowsToItsLimitAndBeginsAnew()
 {
+    QCOMPARE(int{libaplog_largest_file}, 4 * 1024 * 1024);
     QCOMPARE(open("trace"), 0);
     writeLines(libaplog_largest_file);
     QCOMPARE(sizeOf("trace"), libaplog_largest_file);

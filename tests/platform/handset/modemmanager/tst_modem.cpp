@@ -155,6 +155,8 @@ private slots:
     void aBearerThatIsNotToldOrNotConnectedIsNoSession();
     void whatCannotBeDoneForTooLongIsTold();
     void aCallThatWasNotMadeIsNotBegun();
+    void anAnswerThatTheBusGaveUpIsAskedForAgain_data();
+    void anAnswerThatTheBusGaveUpIsAskedForAgain();
 };
 
 void TestModem::callsAreRecordedInBothDirections()
@@ -895,6 +897,9 @@ void TestModem::whatComesAndGoesBesideTheModemChangesNothing()
     desk.fake.set(other, QStringLiteral("Modem.Signal"), {{QStringLiteral("Rate"), 5u}}); // which it has not
     desk.fake.set(QStringLiteral("/org/freedesktop/ModemManager1/Modem/2"), QStringLiteral("Modem"),
                   {{QStringLiteral("Model"), QStringLiteral("Three")}}); // of which nobody was told
+    desk.fake.removeInterfaces(other, {QStringLiteral("org.freedesktop.ModemManager1.Modem.Modem3gpp")});
+    desk.fake.set(other, QStringLiteral("Modem.Modem3gpp"),
+                  {{QStringLiteral("OperatorName"), QStringLiteral("No")}});
     desk.fake.addInterface(desk.fake.modem, QStringLiteral("Modem.Location"));
     desk.settle();
     QCOMPARE(desk.modemState().name, QStringLiteral("Fake One"));
@@ -1068,6 +1073,30 @@ void TestModem::aCallThatWasNotMadeIsNotBegun()
     QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("CreateCall")));
     desk.settle();
     QVERIFY(desk.fake.asked.filter(QStringLiteral("Start")).isEmpty());
+}
+
+void TestModem::anAnswerThatTheBusGaveUpIsAskedForAgain_data()
+{
+    QTest::addColumn<QString>("method");
+    QTest::addColumn<QString>("error");
+    for (const char *method : {"GetManagedObjects", "ListCalls", "GetAll"})
+        for (const char *error : {"NoReply", "Timeout", "TimedOut"})
+            QTest::addRow("%s, %s", method, error)
+                << QString::fromLatin1(method)
+                << QStringLiteral("org.freedesktop.DBus.Error.%1: too late").arg(QLatin1String(error));
+}
+
+void TestModem::anAnswerThatTheBusGaveUpIsAskedForAgain()
+{
+    QFETCH(QString, method);
+    QFETCH(QString, error);
+    Desk desk;
+    desk.fake.errors[method] = error;
+    desk.fake.errorsLeft[method] = 1;
+    desk.fake.addCall(one, Incoming, Active, QStringLiteral("1"), false);
+    desk.open();
+    QTRY_COMPARE(desk.running(), 1);
+    QCOMPARE(desk.fake.asked.count(method), 2);
 }
 
 KAV_TEST_GROUP(TestModem, QCoreApplication);

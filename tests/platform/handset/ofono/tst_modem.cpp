@@ -74,6 +74,10 @@ private slots:
     void withoutCallsThereIsNothingToAnswerOrEnd();
     void dataConnectionsThatAreNotListedAreFollowedWhenTheyAreTold();
     void aNetworkThatIsNotToldIsNone();
+    void anAnswerThatTheBusGaveUpIsAskedForAgain_data();
+    void anAnswerThatTheBusGaveUpIsAskedForAgain();
+    void aCallWithoutAStateIsNotToldYet();
+    void aModemThatIsToldTwiceIsOne();
 };
 
 void TestModem::aCallIsFollowedFromItsFirstState()
@@ -751,6 +755,45 @@ void TestModem::aNetworkThatIsNotToldIsNone()
     QTRY_VERIFY(desk.fake.asked.contains("NetworkRegistration.GetProperties"));
     desk.fake.set(FakeOfono::modem, "NetworkRegistration", "Name", "Told");
     QTRY_COMPARE(desk.modem->state().network, QStringLiteral("Told"));
+}
+
+void TestModem::anAnswerThatTheBusGaveUpIsAskedForAgain_data()
+{
+    QTest::addColumn<QString>("error");
+    for (const char *error : {"NoReply", "Timeout", "TimedOut"})
+        QTest::newRow(error) << QStringLiteral("org.freedesktop.DBus.Error.%1").arg(QLatin1String(error));
+}
+
+void TestModem::anAnswerThatTheBusGaveUpIsAskedForAgain()
+{
+    QFETCH(const QString, error);
+    OfonoDesk desk;
+    desk.fake.errors["Manager.GetModems"] << error;
+    desk.start();
+    QTRY_VERIFY(desk.modem->state().isThere);
+    QCOMPARE(desk.fake.asked.count("Manager.GetModems"), 2);
+}
+
+void TestModem::aCallWithoutAStateIsNotToldYet()
+{
+    OfonoDesk desk;
+    desk.fake.setInterfaces({"VoiceCallManager"});
+    desk.start();
+    QTRY_VERIFY(desk.fake.asked.contains("VoiceCallManager.GetCalls"));
+    desk.fake.addCall(one, {{"LineIdentification", "5550123"}});
+    desk.fake.setCall(one, "State", "active");
+    QTRY_COMPARE(desk.heard->told, QStringList("voicecall01 active 5550123"));
+}
+
+void TestModem::aModemThatIsToldTwiceIsOne()
+{
+    OfonoDesk desk;
+    desk.start();
+    QTRY_VERIFY(desk.modem->state().isThere);
+    desk.fake.addModem(FakeOfono::modem, {{"Online", true}, {"Name", "again"}});
+    QTRY_COMPARE(desk.modem->state().name, "again");
+    desk.fake.removeModem(FakeOfono::modem);
+    QTRY_VERIFY(!desk.modem->state().isThere);
 }
 
 KAV_TEST_GROUP(TestModem, QCoreApplication);
