@@ -154,6 +154,7 @@ bool PhoneWindow::complete()
     panelSetup.stateDirectory = handset->stateDirectory;
     panelSetup.notice = handset->notice;
     panelSetup.faults = handset->faults;
+    panelSetup.renew = handset->renew;
     connectHandset();
     makePanel();
     return true;

@@ -33,6 +33,7 @@ public:
         QString stateDirectory;                    ///< empty in memory
         QString notice;                            ///< of its opening
         Faults *faults = nullptr;                  ///< of what is installed in front of it, as in Panel::Setup
+        std::function<void()> renew = {};          ///< as in Panel::Setup
     };
     /// Opens the handset and installs it; nothing where that failed.
     using OpenHandset = std::function<std::optional<OpenedHandset>()>;

@@ -240,6 +240,9 @@ int runTour(const Options &options, const EndSignals &endSignals)
 
 // --- the window
 
+/// No exit code: the window is to be shown again, with a new telephone.
+constexpr int beginsAnew = -1;
+
 handset::Settings handsetSettings(const Options &options, PhoneWindow &window, const EndSignals &endSignals)
 {
     handset::Settings settings;
@@ -283,7 +286,8 @@ std::optional<PhoneWindow::OpenedHandset> openHandset(const Options &options, co
         return {};
     const auto installed = std::make_shared<FaultyHandset>(opened.handset);
     handset::install(installed);
-    return PhoneWindow::OpenedHandset{opened.handset, options.stateDirectory, notice, &installed->faults()};
+    return PhoneWindow::OpenedHandset{opened.handset, options.stateDirectory, notice, &installed->faults(),
+                                      [] { QCoreApplication::exit(beginsAnew); }};
 }
 
 int photographWindow(PhoneWindow &window, const QString &file)
@@ -324,11 +328,34 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
     return openingCode == ExitSuccess ? code : openingCode;
 }
 
+// What the user should know of it. The telephone that there was is not open any more.
+QString renewTelephone(const Options &options)
+{
+    if (options.stateDirectory.isEmpty())
+        return QCoreApplication::translate("kavrecentcalls", "A new telephone has begun.");
+    const handset::PutAside before = handset::putAside(options.stateDirectory);
+    if (!before.error.isEmpty())
+        return QCoreApplication::translate("kavrecentcalls", "There is no new telephone, but the one before: %1.")
+            .arg(before.error);
+    return QCoreApplication::translate("kavrecentcalls",
+                                       "A new telephone has begun. The one before is kept as \"%1\".")
+        .arg(before.kept);
+}
+
 int runWindow(const Options &options, const QStringList &findings, const EndSignals &endSignals)
 {
-    const int code = showWindow(options, findings, endSignals);
-    handset::install(nullptr);
-    return code;
+    QStringList told = findings;
+    Options shown = options;
+    for (;;) {
+        const int code = showWindow(shown, told, endSignals);
+        handset::install(nullptr);
+        libaplog_close();
+        if (code != beginsAnew)
+            return code;
+        told = {renewTelephone(options)};
+        complain(ExitSuccess, told.constFirst());
+        shown.screen.clear();
+    }
 }
 
 int run(const Options &options, const QStringList &findings)

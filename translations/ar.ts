@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>مكان حفظ الحالة</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>هاتف جديد ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>يبدأ بهاتف جديد بعد سؤال</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>يُحفظ الموجود الآن في ملف بجانبه.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>يضيع الموجود الآن.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>أتريد البدء بهاتف جديد؟ تبدأ المكالمات والعدادات والإعدادات وبطاقة SIM المحاكاة من جديد؛ وتنتهي المكالمة الجارية.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>هاتف جديد</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>البدء من جديد</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Exit codes:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>لا تعطي الإضافة شاشة «%1».</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>بدأ هاتف جديد.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>لا يوجد هاتف جديد، بل السابق: ⁨%1⁩.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>بدأ هاتف جديد. السابق محفوظ باسم "⁨%1⁩".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

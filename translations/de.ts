@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Wo der Zustand aufbewahrt wird</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Neues Telefon ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Beginnt nach einer Frage mit einem neuen Telefon</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>Was jetzt da ist, bleibt in einer Datei daneben erhalten.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>Was jetzt da ist, geht verloren.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Mit einem neuen Telefon beginnen? Anrufe, Zähler, Einstellungen und die simulierte SIM-Karte beginnen von vorn; ein laufender Anruf endet.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Neues Telefon</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Neu beginnen</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Exit-Codes:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>Das Plug-in liefert keinen Bildschirm »%1«.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Ein neues Telefon hat begonnen.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Es ist kein neues Telefon, sondern das bisherige: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Ein neues Telefon hat begonnen. Das bisherige ist als "%1" aufbewahrt.</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Dónde se guarda el estado</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Teléfono nuevo ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Empieza con un teléfono nuevo, tras una pregunta</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>Lo que hay ahora se conserva en un archivo al lado.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>Lo que hay ahora se pierde.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>¿Empezar con un teléfono nuevo? Las llamadas, los contadores, los ajustes y la tarjeta SIM simulada empiezan de cero; una llamada en curso termina.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Teléfono nuevo</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Empezar de nuevo</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Códigos de salida:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>El complemento no da ninguna pantalla «%1».</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Ha empezado un teléfono nuevo.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>No hay un teléfono nuevo, sino el anterior: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Ha empezado un teléfono nuevo. El anterior se conserva como "%1".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Où l'état est conservé</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Nouveau téléphone ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Commence avec un nouveau téléphone, après une question</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>Ce qu'il y a maintenant est conservé dans un fichier à côté.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>Ce qu'il y a maintenant est perdu.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Commencer avec un nouveau téléphone ? Les appels, les compteurs, les réglages et la carte SIM simulée repartent de zéro ; un appel en cours se termine.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Nouveau téléphone</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Recommencer</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Codes de retour :
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>Le greffon ne fournit pas d'écran « %1 ».</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Un nouveau téléphone a commencé.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Il n'y a pas de nouveau téléphone, c'est le précédent : %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Un nouveau téléphone a commencé. Le précédent est conservé sous le nom "%1".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Dove è conservato lo stato</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Nuovo telefono ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Comincia con un nuovo telefono, dopo una domanda</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>Ciò che c'è ora resta in un file accanto.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>Ciò che c'è ora va perso.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Cominciare con un nuovo telefono? Chiamate, contatori, impostazioni e la scheda SIM simulata ricominciano da capo; una chiamata in corso termina.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Nuovo telefono</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Ricomincia</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Codici di uscita:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>Il plug-in non fornisce la schermata «%1».</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>È cominciato un nuovo telefono.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Non c'è un nuovo telefono, ma quello di prima: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>È cominciato un nuovo telefono. Quello di prima è conservato come "%1".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

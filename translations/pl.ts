@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Gdzie przechowywany jest stan</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Nowy telefon ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Zaczyna z nowym telefonem, po pytaniu</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>To, co jest teraz, zostaje w pliku obok.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>To, co jest teraz, przepada.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Zacząć z nowym telefonem? Połączenia, liczniki, ustawienia i symulowana karta SIM zaczynają od nowa; trwające połączenie się kończy.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Nowy telefon</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Zacznij od nowa</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Kody wyjścia:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>Wtyczka nie daje ekranu „%1”.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Nowy telefon jest gotowy.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Nie ma nowego telefonu, jest poprzedni: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Nowy telefon jest gotowy. Poprzedni jest zachowany jako "%1".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

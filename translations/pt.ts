@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Onde o estado é guardado</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Telefone novo ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Começa com um telefone novo, depois de uma pergunta</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>O que há agora fica guardado num ficheiro ao lado.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>O que há agora perde-se.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Começar com um telefone novo? Chamadas, contadores, definições e o cartão SIM simulado começam de novo; uma chamada em curso termina.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Telefone novo</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Começar de novo</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Códigos de saída:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>O plug-in não tem o ecrã «%1».</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Começou um telefone novo.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Não há telefone novo, é o anterior: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Começou um telefone novo. O anterior está guardado como "%1".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Где хранится состояние</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Новый телефон ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Начинает с новым телефоном, после вопроса</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>То, что есть сейчас, останется в файле рядом.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>То, что есть сейчас, будет потеряно.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Начать с новым телефоном? Вызовы, счётчики, настройки и имитируемая SIM-карта начнутся заново; идущий вызов завершится.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Новый телефон</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Начать заново</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Exit codes:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>Модуль не даёт экрана «%1».</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Начат новый телефон.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Нового телефона нет, остался прежний: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Начат новый телефон. Прежний сохранён как "%1".</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

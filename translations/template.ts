@@ -3712,6 +3712,34 @@
         <source>Where the state is kept</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4256,6 +4284,18 @@ Exit codes:
     </message>
     <message>
         <source>The plug-in gives no screen "%1".</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

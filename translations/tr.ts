@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>Durumun saklandığı yer</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>Yeni telefon ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>Bir sorudan sonra yeni bir telefonla başlar</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>Şu anda olanlar yanındaki bir dosyada saklanır.</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>Şu anda olanlar kaybolur.</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>Yeni bir telefonla başlansın mı? Aramalar, sayaçlar, ayarlar ve benzetimli SIM kart baştan başlar; süren bir arama sona erer.</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>Yeni telefon</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>Baştan başla</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Exit codes:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>Eklenti “%1” ekranını vermiyor.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>Yeni bir telefon başladı.</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>Yeni telefon yok, önceki sürüyor: %1.</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>Yeni bir telefon başladı. Öncekisi "%1" adıyla saklandı.</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

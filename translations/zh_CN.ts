@@ -3714,6 +3714,34 @@
         <source>Where the state is kept</source>
         <translation>状态的保存位置</translation>
     </message>
+    <message>
+        <source>New telephone ...</source>
+        <translation>新电话 ...</translation>
+    </message>
+    <message>
+        <source>Begins with a new telephone, after a question</source>
+        <translation>确认后从新电话开始</translation>
+    </message>
+    <message>
+        <source>What there is now is kept in a file beside it.</source>
+        <translation>现有内容保留在旁边的文件中。</translation>
+    </message>
+    <message>
+        <source>What there is now is lost.</source>
+        <translation>现有内容将会丢失。</translation>
+    </message>
+    <message>
+        <source>Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call that is on ends.</source>
+        <translation>要从新电话开始吗？通话、计数、设置和模拟 SIM 卡都重新开始；正在进行的通话将结束。</translation>
+    </message>
+    <message>
+        <source>New telephone</source>
+        <translation>新电话</translation>
+    </message>
+    <message>
+        <source>Begin anew</source>
+        <translation>重新开始</translation>
+    </message>
 </context>
 <context>
     <name>host::StatusText</name>
@@ -4287,6 +4315,18 @@ Exit codes:
     <message>
         <source>The plug-in gives no screen "%1".</source>
         <translation>插件没有提供屏幕“%1”。</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun.</source>
+        <translation>新电话已开始使用。</translation>
+    </message>
+    <message>
+        <source>There is no new telephone, but the one before: %1.</source>
+        <translation>没有新电话，仍是之前的电话：%1。</translation>
+    </message>
+    <message>
+        <source>A new telephone has begun. The one before is kept as "%1".</source>
+        <translation>新电话已开始使用。之前的电话保存为“%1”。</translation>
     </message>
     <message>
         <source>Shows the call meters of the phone: a phone with its display and keypad in a window, and beside it a panel

@@ -83,7 +83,8 @@ void Panel::addPages(const Setup &setup)
     tabs->setAccessibleName(tr("Sides of the telephone"));
     using Sections = QList<PanelSection *>;
     addPage(tr("Calls"), [this, setup] {
-        Sections inPage{new FiguresSection(line), new StateSection(setup.stateDirectory, setup.notice)};
+        Sections inPage{new FiguresSection(line),
+                        new StateSection(setup.stateDirectory, setup.notice, setup.renew)};
         if (line.modemLine())
             inPage.prepend(new ModemSection(line));
         return inPage;

@@ -31,10 +31,11 @@ class Panel : public QWidget
 
 public:
     struct Setup {
-        QString stateDirectory;   ///< empty for a handset in memory
-        QString notice;           ///< what the user should know of its opening, or empty
-        Faults *faults = nullptr; ///< of the handset that the phone's libraries talk to; null: it has none
-        int page = 0;             ///< shown first, as by choosePage()
+        QString stateDirectory;           ///< empty for a handset in memory
+        QString notice;                   ///< what the user should know of its opening, or empty
+        Faults *faults = nullptr;         ///< of the handset that the phone's libraries talk to; null: it has none
+        std::function<void()> renew = {}; ///< begins with a new telephone; null: that is not offered
+        int page = 0;                     ///< shown first, as by choosePage()
     };
 
     /// As wide as it is with its own texts; translated ones may need more.

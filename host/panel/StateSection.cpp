@@ -4,6 +4,8 @@
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
 namespace host {
@@ -21,8 +23,11 @@ QString breakable(const QString &path)
 
 } // namespace
 
-StateSection::StateSection(const QString &stateDirectory, const QString &notice)
+StateSection::StateSection(const QString &stateDirectory, const QString &notice,
+                           const std::function<void()> &begin)
     : PanelSection(tr("State"))
+    , isKept(!stateDirectory.isEmpty())
+    , renew(begin)
 {
     auto *column = new QVBoxLayout(this);
     const QString directory = stateDirectory.isEmpty() ? QString() : QFileInfo(stateDirectory).absoluteFilePath();
@@ -32,11 +37,33 @@ StateSection::StateSection(const QString &stateDirectory, const QString &notice)
     placeLabel->setText(place);
     placeLabel->setToolTip(directory);
     column->addWidget(placeLabel);
-    if (notice.isEmpty())
+    if (!notice.isEmpty()) {
+        QLabel *noticeLabel = makeValue("notice", {});
+        noticeLabel->setText(notice);
+        column->addWidget(noticeLabel);
+    }
+    if (!renew)
         return;
-    QLabel *noticeLabel = makeValue("notice", {});
-    noticeLabel->setText(notice);
-    column->addWidget(noticeLabel);
+    QPushButton *button = makeButton(tr("New telephone ..."), tr("Begins with a new telephone, after a question"));
+    button->setObjectName(QStringLiteral("new telephone"));
+    connect(button, &QPushButton::clicked, this, &StateSection::askToRenew);
+    column->addWidget(button);
+}
+
+void StateSection::askToRenew()
+{
+    const QString fate =
+        isKept ? tr("What there is now is kept in a file beside it.") : tr("What there is now is lost.");
+    const QString question =
+        tr("Begin with a new telephone? Calls, figures, settings and the simulated SIM card begin anew; a call "
+           "that is on ends.");
+    auto *box = new QMessageBox(QMessageBox::Question, tr("New telephone"), question + u' ' + fate,
+                                QMessageBox::Cancel, window());
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QPushButton *yes = box->addButton(tr("Begin anew"), QMessageBox::DestructiveRole);
+    box->setDefaultButton(QMessageBox::Cancel);
+    connect(yes, &QPushButton::clicked, this, [this] { renew(); });
+    box->open();
 }
 
 } // namespace host

@@ -3,6 +3,8 @@
 
 #include "host/panel/PanelSection.h"
 
+#include <functional>
+
 namespace host {
 
 class StateSection : public PanelSection
@@ -11,8 +13,14 @@ class StateSection : public PanelSection
 
 public:
     /// The arguments as in Panel.
-    StateSection(const QString &stateDirectory, const QString &notice);
+    StateSection(const QString &stateDirectory, const QString &notice, const std::function<void()> &renew);
     void refresh() override {} // decided when the handset was opened
+
+private:
+    void askToRenew();
+
+    const bool isKept;
+    const std::function<void()> renew;
 };
 
 } // namespace host

@@ -1,5 +1,6 @@
 #include "handset/Handset.h"
 
+#include "calllog/Finding.h"
 #include "calllog/StateDirectory.h"
 #include "handset/Backend.h"
 #include "handset/CallLog.h"
@@ -22,6 +23,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <cstring>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -252,6 +255,24 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here)
             error = awaited.error;
     }
     return watches->empty() ? Awaited{nullptr, error} : Awaited{watches, isBusThere ? QString() : error};
+}
+
+PutAside putAside(const QString &stateDirectory)
+{
+    const QString name = QString::fromLatin1(calllog::databaseName);
+    QString error;
+    calllog::Waiting waiting(0, nullptr);
+    const std::unique_ptr<calllog::StateDirectory> directory =
+        calllog::StateDirectory::open(stateDirectory, waiting, error);
+    if (!directory || directory->takeAlone(0, waiting, error) != 0)
+        return {{}, error};
+    if (directory->find(name) == ENOENT)
+        return {};
+    const QString kept = directory->unusedName(name);
+    const int failure = kept.isNull() ? EEXIST : directory->keepAside(name, kept);
+    if (failure != 0)
+        return {{}, QString::fromLocal8Bit(std::strerror(failure))};
+    return {kept, {}};
 }
 
 Opened open(const Settings &settings)

@@ -114,6 +114,16 @@ Awaited awaitModem(const std::function<void(const QString &backend)> &here);
 /// the user's input.
 Opened open(const Settings &settings);
 
+/// What has become of a telephone that was put aside.
+struct PutAside {
+    QString kept;  ///< the file's name in its directory; empty where there was none
+    QString error; ///< why it is as it was, part of a sentence; empty when it was put aside
+};
+
+/// Gives what is kept in a state directory another name in it, so that the next open() begins a new telephone. No process
+/// may have it open, this one included; who is in the way is not waited for, and named.
+PutAside putAside(const QString &stateDirectory);
+
 /// Where the default handset keeps its state: a directory of the user's own data directory.
 QString defaultStateDirectory();
 

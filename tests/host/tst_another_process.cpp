@@ -4,6 +4,7 @@
 #include "handset/Clock.h"
 #include "handset/Handset.h"
 #include "handset/HandsetTestKit.h"
+#include "handset/KeptCalls.h"
 #include "handset/OtherProcess.h"
 #include "handset/SimSecurity.h"
 #include "handset/Status.h"
@@ -18,6 +19,8 @@
 #include "toolkit/ZListBox.h"
 #include "toolkit/ZListItem.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 #include <QtWidgets/QLabel>
@@ -55,6 +58,7 @@ private slots:
     void whatTheWindowDoesReachesTheOther();
     void aCallThatTheWindowRecordsReachesTheOther();
     void theWindowRecordsWhenTheOtherIsKilled();
+    void aTelephoneIsPutAsideOnceNobodyHasItOpen();
 
 private:
     void begin(First first);
@@ -289,6 +293,29 @@ void TestAnotherProcess::theWindowRecordsWhenTheOtherIsKilled()
     QCOMPARE(label("line state"), "Idle");
     button("Dial")->click();
     QVERIFY(label("line state").startsWith("Dialing"));
+}
+
+void TestAnotherProcess::aTelephoneIsPutAsideOnceNobodyHasItOpen()
+{
+    begin(First::Other);
+    otherDoes("dial 5550101");
+    window.reset();
+    handset::install(nullptr);
+    owner.reset();
+    const QString log = QDir(state->path()).filePath("calllog.db");
+    handset::PutAside before = handset::putAside(state->path());
+    QVERIFY2(before.error.contains("handset_other"), qPrintable(before.error)); // who is in the way
+    QVERIFY(QFile::exists(log));
+    other.reset();
+    before = handset::putAside(state->path());
+    QCOMPARE(before.error, QString());
+    QCOMPARE(before.kept, QStringLiteral("calllog-kept-1.db"));
+    QVERIFY(!QFile::exists(log));
+    const handset::Opened anew = handset::open({"simulated", state->path()});
+    QVERIFY2(anew.handset && anew.notice.isEmpty(), qPrintable(anew.error + anew.notice));
+    qint64 calls = -1;
+    QCOMPARE(anew.handset->keptCalls()->count(0, handset::KeptCalls::endOfTime, calls), 0);
+    QCOMPARE(calls, 0);
 }
 
 KAV_TEST_GROUP(TestAnotherProcess, QApplication);

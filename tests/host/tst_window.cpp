@@ -37,6 +37,7 @@
 #include <QtWidgets/QGroupBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
+#include <QtWidgets/QMessageBox>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QPushButton>
 
@@ -82,6 +83,7 @@ private slots:
     void theReadyMadeHistoryIsAdded();
     void aRefusedOperationIsToldAndForgotten();
     void stateDirectoryAndNoticeAreShown();
+    void aNewTelephoneIsBegunAfterAQuestion();
     void anotherHandsetThanTheSimulatedIsSaid();
     void everyControlHasANameAndATabStop();
     void aValueOfThePanelIsReadWithItsTitle();
@@ -703,6 +705,34 @@ void TestWindow::stateDirectoryAndNoticeAreShown()
     QCOMPARE(QString(label("state directory")).remove(QChar(0x200b)), "Kept in /some/where");
     QCOMPARE(window->findChild<QLabel *>("state directory")->toolTip(), "/some/where");
     QCOMPARE(label("notice"), "The old file is kept aside.");
+}
+
+void TestWindow::aNewTelephoneIsBegunAfterAQuestion()
+{
+    QVERIFY(!window->findChild<QPushButton *>("new telephone")); // where nobody offers it
+    int begun = 0;
+    window.reset();
+    window = std::make_unique<PhoneWindow>(
+        library, PhoneWindow::OpenedHandset{owner, "/some/where", {}, nullptr, [&begun] { ++begun; }});
+    showWindow();
+    QVERIFY(window->complete());
+    const auto answer = [this](const char *text) {
+        expectSizeHintWarning();
+        window->findChild<QPushButton *>("new telephone")->click();
+        auto *question = window->findChild<QMessageBox *>();
+        QVERIFY(question && question->isVisible());
+        QVERIFY(question->text().contains("is kept in a file beside it"));
+        const QList<QAbstractButton *> buttons = question->buttons();
+        const auto isIt = [text](const QAbstractButton *button) { return button->text().remove(u'&') == text; };
+        const auto found = std::find_if(buttons.begin(), buttons.end(), isIt);
+        QVERIFY(found != buttons.end());
+        (*found)->click();
+        QTRY_VERIFY(!window->findChild<QMessageBox *>());
+    };
+    answer("Cancel");
+    QCOMPARE(begun, 0);
+    answer("Begin anew");
+    QCOMPARE(begun, 1);
 }
 
 void TestWindow::anotherHandsetThanTheSimulatedIsSaid()
