@@ -137,6 +137,12 @@ void TestStream::aLineOfOneByteIsWritten()
     write("x");
     libaplog_close();
     QCOMPARE(contentsOf(path("trace")), QByteArray("\nx"));
+    // Nor is there room for one in a file that is full.
+    QCOMPARE(open("full"), 0);
+    writeLines(libaplog_largest_file);
+    write("\n");
+    QCOMPARE(contentsOf(path("full")), QByteArray("\n"));
+    QCOMPARE(sizeOf("full.1"), libaplog_largest_file);
 }
 
 void TestStream::aNameOutsideAsciiIsTakenAsItIs()

@@ -124,6 +124,9 @@ void TestValues::everyDataCallStatusArrives()
 
 void TestValues::textsArriveUpToTheSizeOfTheBuffer()
 {
+    // What phones' programs were compiled with.
+    QCOMPARE(int{TAPI_CREDIT_TEXT_SIZE}, 100);
+    QCOMPARE(int{TAPI_AMOUNT_TEXT_SIZE}, 50);
     char nextGround = '#';
     for (const TextQuery &query : textQueries) {
         for (const int length : {0, 1, query.size - 2, query.size - 1}) {
