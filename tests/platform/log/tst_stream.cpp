@@ -209,7 +209,11 @@ void TestStream::aStreamThatSomeoneElseSetIsNeverClosed()
     FILE *other = std::tmpfile();
     QVERIFY(other);
     libaplog_to_module_ptr = other;
+    write("kept");
     libaplog_close();
+    struct stat status = {};
+    QCOMPARE(::fstat(::fileno(other), &status), 0);
+    QCOMPARE(status.st_size, off_t{4}); // what was written is not left in memory
     QVERIFY(!libaplog_to_module_ptr);
     libaplog_to_module_ptr = other;
     QCOMPARE(open("trace"), 0);
@@ -398,19 +402,23 @@ void TestStream::aFileThatAnotherProgramPutAsideIsLeftToIt()
 // A limit on the size of files takes the place of the disk's end; it answers EFBIG.
 void TestStream::whatAFullDiskDidNotTakeIsLostAndTheRestIsNot()
 {
-    QCOMPARE(open("trace"), 0);
-    write("first\n");
-    const auto before = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit = {};
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
-    const rlimit tight{8, limit.rlim_max};
-    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &tight), 0);
-    write("cut off\n");
-    write("lost\n");
-    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
-    std::signal(SIGXFSZ, before);
-    write("whole\n");
-    QCOMPARE(contentsOf(path("trace")), QByteArray("first\ncu\nwhole\n"));
+    const QByteArray line("cut off\n");
+    for (int taken = 1; taken < line.size(); ++taken) {
+        const QByteArray name = "trace" + QByteArray::number(taken);
+        QCOMPARE(open(name.constData()), 0);
+        write("first\n");
+        const auto before = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit = {};
+        QCOMPARE(::getrlimit(RLIMIT_FSIZE, &limit), 0);
+        const rlimit tight{static_cast<rlim_t>(6 + taken), limit.rlim_max};
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &tight), 0);
+        write(line.constData());
+        write("lost\n");
+        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &limit), 0);
+        std::signal(SIGXFSZ, before);
+        write("whole\n");
+        QCOMPARE(contentsOf(path(name.constData())), "first\n" + line.first(taken) + "\nwhole\n");
+    }
 }
 
 KAV_TEST_GROUP(TestStream, QCoreApplication);
