@@ -73,6 +73,9 @@ constexpr OptionText optionTexts[] = {
     {"language", "NAME",
      QT_TRANSLATE_NOOP("kavrecentcalls",
                        "Speak this language: %5. Default: the locale's; English on a tour and with --photo.")},
+    {"skin", "NAME",
+     QT_TRANSLATE_NOOP("kavrecentcalls", "The colours: light or dark. Default: the desktop's; light on a tour and "
+                                         "with --photo.")},
     {"photo", "FILE", QT_TRANSLATE_NOOP("kavrecentcalls", "Photograph the window as PNG to FILE and end.")},
     {"tour", "DIR",
      QT_TRANSLATE_NOOP(
@@ -102,6 +105,11 @@ QString allPageNames()
 QString allLanguageNames()
 {
     return language::languageNames().join(QStringLiteral(", "));
+}
+
+QStringList skinNames()
+{
+    return {QStringLiteral("light"), QStringLiteral("dark")};
 }
 
 // -1 for none.
@@ -205,6 +213,10 @@ QString findUnknownName(const QCommandLineParser &parser)
     if (!language.isEmpty() && !language::languageNames().contains(language))
         return QCoreApplication::translate("kavrecentcalls", "Unknown language '%1'; there is: %2.")
             .arg(language, allLanguageNames());
+    const QString skin = parser.value(QStringLiteral("skin"));
+    if (!skin.isEmpty() && !skinNames().contains(skin))
+        return QCoreApplication::translate("kavrecentcalls", "Unknown skin '%1'; there is: %2.")
+            .arg(skin, skinNames().join(QStringLiteral(", ")));
     return {};
 }
 
@@ -224,7 +236,7 @@ QString findMistake(const QCommandLineParser &parser)
         return QCoreApplication::translate("kavrecentcalls",
                                            "Option 'keep-calls' wants a number of days, 0 to %1.")
             .arg(handset::mostKeptDays);
-    for (const char *name : {"screen", "page", "photo", "keep-calls"}) {
+    for (const char *name : {"screen", "page", "skin", "photo", "keep-calls"}) {
         if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
             return QCoreApplication::translate("kavrecentcalls", "Option '%1' does not go with option 'tour'.")
                 .arg(QLatin1StringView(name));
@@ -259,6 +271,7 @@ Options readOptions(const QCommandLineParser &parser)
     options.page = std::max(pageIndex(parser.value(QStringLiteral("page"))), 0);
     options.translation = parser.value(QStringLiteral("translation"));
     options.language = parser.value(QStringLiteral("language"));
+    options.skin = parser.value(QStringLiteral("skin"));
     options.photo = parser.value(QStringLiteral("photo"));
     options.tourDirectory = parser.value(QStringLiteral("tour"));
     options.script = valueOr(parser, "script", QString::fromLatin1(shippedTour));

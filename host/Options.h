@@ -19,6 +19,7 @@ struct Options {
     int page = 0;          ///< row of pageNames that the panel shows
     QString translation;   ///< catalogue to load; empty for none
     QString language;      ///< one of languageNames(); empty for the locale's
+    QString skin;          ///< "light" or "dark"; empty for the desktop's
     QString photo;         ///< where to photograph the window; empty shows it as usual
     QString tourDirectory; ///< where a tour puts its photographs; empty for no tour
     QString script;        ///< what the tour plays

@@ -7,6 +7,7 @@
 #include "host/PhoneWindow.h"
 #include "host/QtStart.h"
 #include "host/ScreenLibrary.h"
+#include "host/Skin.h"
 #include "host/WindowPlace.h"
 #include "host/faults/FaultyHandset.h"
 #include "host/tour/TourPlayer.h"
@@ -396,6 +397,7 @@ extern "C" Q_DECL_EXPORT int runRecentCalls(int argc, char **argv)
     std::optional<PlatformGuard> guard(std::in_place, "kavrecentcalls", namedPlatform());
     const QApplication application(arguments.count(), arguments.values());
     guard.reset();
+    chooseSkin(options.skin);
     nameProgram();
     buses.guardAccessibility(announcedAccessibilityBus());
     for (const QString &finding : buses.notices())

@@ -4401,6 +4401,10 @@ Exit codes:
         <translation>التحدث بهذه اللغة: %5. الافتراضي: لغة الإعدادات المحلية؛ والإنجليزية في الجولة ومع --photo.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>الألوان: light (فاتحة) أو dark (داكنة). الافتراضي: ألوان سطح المكتب؛ و light في الجولة ومع --photo.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>تصوير النافذة بصيغة PNG في FILE والإنهاء.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Exit codes:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>لغة غير معروفة «%1»؛ المتاح: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>سمة غير معروفة «%1»؛ المتاح: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

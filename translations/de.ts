@@ -4401,6 +4401,10 @@ Exit-Codes:
         <translation>Diese Sprache sprechen: %5. Vorgabe: die der Locale; auf einem Rundgang und mit --photo Englisch.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>Die Farben: light (hell) oder dark (dunkel). Vorgabe: die der Arbeitsfläche; auf einem Rundgang und mit --photo light.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Das Fenster als PNG in FILE fotografieren und beenden.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Exit-Codes:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Unbekannte Sprache »%1«; es gibt: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Unbekanntes Farbschema »%1«; es gibt: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

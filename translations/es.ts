@@ -4401,6 +4401,10 @@ Códigos de salida:
         <translation>Hablar este idioma: %5. Predeterminado: el de la configuración regional; inglés en un recorrido y con --photo.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>Los colores: light (claro) o dark (oscuro). Por omisión: los del escritorio; light en un recorrido y con --photo.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Fotografiar la ventana como PNG en FILE y terminar.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Códigos de salida:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Idioma desconocido «%1»; hay: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Tema «%1» desconocido; hay: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

@@ -4401,6 +4401,10 @@ Codes de retour :
         <translation>Parler cette langue : %5. Par défaut : celle des paramètres régionaux ; l'anglais pendant une visite et avec --photo.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>Les couleurs : light (clair) ou dark (sombre). Par défaut : celles du bureau ; light pendant une visite et avec --photo.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Photographier la fenêtre en PNG dans FILE et quitter.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Codes de retour :
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Langue inconnue « %1 » ; il y a : %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Thème « %1 » inconnu ; il y a : %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

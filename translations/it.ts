@@ -4401,6 +4401,10 @@ Codici di uscita:
         <translation>Parlare questa lingua: %5. Predefinito: quella della localizzazione; inglese durante un giro e con --photo.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>I colori: light (chiaro) o dark (scuro). Predefinito: quelli del desktop; light in una visita e con --photo.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Fotografare la finestra come PNG in FILE e terminare.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Codici di uscita:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Lingua sconosciuta «%1»; ci sono: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Tema "%1" sconosciuto; ci sono: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

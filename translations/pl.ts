@@ -4401,6 +4401,10 @@ Kody wyjścia:
         <translation>Język: %5. Domyślnie: zgodny z ustawieniami regionalnymi; podczas wycieczki i z --photo angielski.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>Kolory: light (jasne) lub dark (ciemne). Domyślnie: kolory pulpitu; light podczas zwiedzania i z --photo.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Fotografuje okno jako PNG do FILE i kończy.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Kody wyjścia:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Nieznany język „%1”; dostępne: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Nieznany motyw „%1”; dostępne: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

@@ -4401,6 +4401,10 @@ Códigos de saída:
         <translation>Falar esta língua: %5. Predefinição: a da configuração regional; inglês numa visita e com --photo.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>As cores: light (claro) ou dark (escuro). Predefinição: as do ambiente de trabalho; light numa visita e com --photo.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Fotografar a janela em PNG para FILE e terminar.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Códigos de saída:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Língua desconhecida «%1»; há: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Tema «%1» desconhecido; há: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

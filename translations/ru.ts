@@ -4401,6 +4401,10 @@ Exit codes:
         <translation>Язык: %5. По умолчанию: язык локали; при обходе и с --photo английский.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>Цвета: light (светлые) или dark (тёмные). По умолчанию: как на рабочем столе; при обходе и с --photo — light.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Сохранить снимок окна в формате PNG в FILE и завершить.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Exit codes:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Неизвестный язык «%1»; есть: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Неизвестная тема «%1»; есть: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

@@ -4357,6 +4357,10 @@ Exit codes:
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4390,6 +4394,10 @@ Exit codes:
     </message>
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -4401,6 +4401,10 @@ Exit codes:
         <translation>Bu dili konuş: %5. Varsayılan: yerel ayarın dili; turda ve --photo ile İngilizce.</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>Renkler: light (açık) ya da dark (koyu). Varsayılan: masaüstününkiler; turda ve --photo ile light.</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>Pencereyi PNG olarak FILE dosyasına fotoğrafla ve bitir.</translation>
     </message>
@@ -4435,6 +4439,10 @@ Exit codes:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>Bilinmeyen dil “%1”; olanlar: %2.</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>Bilinmeyen tema “%1”; olanlar: %2.</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

@@ -4401,6 +4401,10 @@ Exit codes:
         <translation>使用此语言：%5。 默认：区域设置的语言；演示时和使用 --photo 时为英语。</translation>
     </message>
     <message>
+        <source>The colours: light or dark. Default: the desktop's; light on a tour and with --photo.</source>
+        <translation>颜色：light（浅色）或 dark（深色）。默认：与桌面相同；演示时和使用 --photo 时为 light。</translation>
+    </message>
+    <message>
         <source>Photograph the window as PNG to FILE and end.</source>
         <translation>将窗口拍摄为 PNG 存入 FILE 并结束。</translation>
     </message>
@@ -4435,6 +4439,10 @@ Exit codes:
     <message>
         <source>Unknown language '%1'; there is: %2.</source>
         <translation>未知语言“%1”；可用：%2。</translation>
+    </message>
+    <message>
+        <source>Unknown skin '%1'; there is: %2.</source>
+        <translation>未知的外观“%1”；可用：%2。</translation>
     </message>
     <message>
         <source>Unexpected argument '%1'.</source>

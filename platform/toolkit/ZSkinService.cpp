@@ -1,5 +1,7 @@
 #include "toolkit/ZSkinService.h"
 
+#include <QtGui/QGuiApplication>
+
 #include <algorithm>
 #include <array>
 
@@ -7,32 +9,33 @@ namespace {
 
 struct ColorEntry {
     ZSkinService::ColorRole role;
-    QRgb value;
+    QRgb light;
+    QRgb dark;
 };
 
 constexpr std::array<ColorEntry, 22> colorTable = {{
-    {ZSkinService::ScreenColor, 0xffffffff},
-    {ZSkinService::TitleBarColor, 0xff1d3550},
-    {ZSkinService::TitleTextColor, 0xffffffff},
-    {ZSkinService::AccentColor, 0xff4da3e8},
-    {ZSkinService::RowTextColor, 0xff1b2530},
-    {ZSkinService::RowValueColor, 0xff1a5a96},
-    {ZSkinService::DisabledTextColor, 0xff8a929b},
-    {ZSkinService::DividerColor, 0xffe3e8ee},
-    {ZSkinService::FocusBarColor, 0xff1f6cb5},
-    {ZSkinService::FocusTextColor, 0xffffffff},
-    {ZSkinService::FocusDisabledTextColor, 0xffb9d2ea},
-    {ZSkinService::HeadingColor, 0xffe4ebf3},
-    {ZSkinService::HeadingTextColor, 0xff33485e},
-    {ZSkinService::SoftkeyBarColor, 0xff1d3550},
-    {ZSkinService::SoftkeyTextColor, 0xffffffff},
-    {ZSkinService::SoftkeyDisabledTextColor, 0xff7c8fa3},
-    {ZSkinService::SoftkeyPressedColor, 0xff37618d},
-    {ZSkinService::DialogColor, 0xffffffff},
-    {ZSkinService::DialogFrameColor, 0xff1d3550},
-    {ZSkinService::BackdropColor, 0x8c0a121c},
-    {ZSkinService::ScrollGrooveColor, 0xffeef2f6},
-    {ZSkinService::ScrollHandleColor, 0xff8fa6bd},
+    {ZSkinService::ScreenColor, 0xffffffff, 0xff14181d},
+    {ZSkinService::TitleBarColor, 0xff1d3550, 0xff1d3550},
+    {ZSkinService::TitleTextColor, 0xffffffff, 0xffffffff},
+    {ZSkinService::AccentColor, 0xff4da3e8, 0xff4da3e8},
+    {ZSkinService::RowTextColor, 0xff1b2530, 0xffe6ebf0},
+    {ZSkinService::RowValueColor, 0xff1a5a96, 0xff8fc3f2},
+    {ZSkinService::DisabledTextColor, 0xff8a929b, 0xff8a929b},
+    {ZSkinService::DividerColor, 0xffe3e8ee, 0xff2a323b},
+    {ZSkinService::FocusBarColor, 0xff1f6cb5, 0xff1f6cb5},
+    {ZSkinService::FocusTextColor, 0xffffffff, 0xffffffff},
+    {ZSkinService::FocusDisabledTextColor, 0xffb9d2ea, 0xffe6f0fa},
+    {ZSkinService::HeadingColor, 0xffe4ebf3, 0xff26303b},
+    {ZSkinService::HeadingTextColor, 0xff33485e, 0xffb9c9da},
+    {ZSkinService::SoftkeyBarColor, 0xff1d3550, 0xff1d3550},
+    {ZSkinService::SoftkeyTextColor, 0xffffffff, 0xffffffff},
+    {ZSkinService::SoftkeyDisabledTextColor, 0xff7c8fa3, 0xff9fb2c6},
+    {ZSkinService::SoftkeyPressedColor, 0xff37618d, 0xff37618d},
+    {ZSkinService::DialogColor, 0xffffffff, 0xff1d232a},
+    {ZSkinService::DialogFrameColor, 0xff1d3550, 0xff4d6f93},
+    {ZSkinService::BackdropColor, 0x8c0a121c, 0xa0000000},
+    {ZSkinService::ScrollGrooveColor, 0xffeef2f6, 0xff232a32},
+    {ZSkinService::ScrollHandleColor, 0xff8fa6bd, 0xff5f7690},
 }};
 
 constexpr bool inRoleOrder()
@@ -44,6 +47,13 @@ constexpr bool inRoleOrder()
     return colorTable.back().role == ZSkinService::ScrollHandleColor;
 }
 static_assert(inRoleOrder(), "a colour for every role, in the roles' order");
+
+bool isDesktopDark()
+{
+    constexpr int middle = 128;
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) &&
+           QGuiApplication::palette().color(QPalette::Window).lightness() < middle;
+}
 
 struct FontEntry {
     ZSkinService::FontRole role;
@@ -93,7 +103,9 @@ QPalette makePalette()
 
 QColor ZSkinService::color(ColorRole role)
 {
-    return QColor::fromRgba(colorTable[static_cast<std::size_t>(role)].value);
+    static const bool isDark = isDesktopDark();
+    const ColorEntry &entry = colorTable[static_cast<std::size_t>(role)];
+    return QColor::fromRgba(isDark ? entry.dark : entry.light);
 }
 
 QFont ZSkinService::font(FontRole role)

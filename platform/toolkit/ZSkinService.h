@@ -57,6 +57,7 @@ public:
     static constexpr int DialogHeaderHeight = 28;
     static_assert((DisplayHeight - TitleBarHeight - SoftkeyBarHeight) % RowHeight == 0, "no half row at the foot");
 
+    /// Of the dark skin where the application's palette was dark when a colour was first asked for.
     static QColor color(ColorRole role);
     static QFont font(FontRole role);
     /// What screens and dialogs set as their own, for themselves and the widgets in them.

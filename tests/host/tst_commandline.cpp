@@ -10,11 +10,15 @@
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QHash>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
+
+#include <algorithm>
+#include <cmath>
 
 // Far beyond the numbers that servers take.
 static const QString deadDisplay = QStringLiteral(":59999");
@@ -64,6 +68,8 @@ private slots:
     void aDisplayThatCannotBeReachedIsNamed();
     void aDisplayThatCannotBeReachedDoesNotHinderAPhotograph();
     void theWindowIsPhotographed();
+    void everyTextOfASkinIsReadable_data();
+    void everyTextOfASkinIsReadable();
     void thePageOfThePanelIsChosen();
     void aPhotographThatCannotBeWrittenIsSaid();
 
@@ -143,6 +149,8 @@ void TestCommandLine::aWrongCommandLineIsRefusedWithCode2_data()
     QTest::newRow("days to keep on a tour") << QStringList{"--tour", "t", "--keep-calls", "1"} << "'keep-calls'";
     QTest::newRow("a script without a tour") << QStringList{"--script", "x"} << "'script' needs option 'tour'";
     QTest::newRow("a page that there is not") << QStringList{"--page", "nowhere"} << "'nowhere'";
+    QTest::newRow("a skin that there is not") << QStringList{"--skin", "green"} << "'green'";
+    QTest::newRow("a skin on a tour") << QStringList{"--tour", "t", "--skin", "dark"} << "'skin'";
     QTest::newRow("a page on a tour") << QStringList{"--tour", "t", "--page", "sim"} << "'page'";
     QTest::newRow("a screen on a tour") << QStringList{"--tour", "t", "--screen", "callTime"} << "'screen'";
     QTest::newRow("a window's photograph on a tour") << QStringList{"--tour", "t", "--photo", "x"} << "'photo'";
@@ -551,6 +559,88 @@ void TestCommandLine::theWindowIsPhotographed()
     const QImage photograph(path("window.png"));
     QVERIFY(photograph.width() > 600);
     QVERIFY(photograph.height() > 600);
+}
+
+namespace {
+
+double luminance(QRgb color)
+{
+    const auto linear = [](int part) {
+        const double share = part / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(qRed(color)) + 0.7152 * linear(qGreen(color)) + 0.0722 * linear(qBlue(color));
+}
+
+double contrast(QRgb one, QRgb other)
+{
+    const auto [dark, bright] = std::minmax({luminance(one), luminance(other)});
+    return (bright + 0.05) / (dark + 0.05);
+}
+
+// What most of a place has.
+QRgb background(const QImage &photograph, const QRect &place)
+{
+    QHash<QRgb, int> counts;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x)
+            ++counts[photograph.pixel(x, y)];
+    }
+    return std::max_element(counts.keyValueBegin(), counts.keyValueEnd(),
+                            [](const auto &a, const auto &b) { return a.second < b.second; })
+        .base()
+        .key();
+}
+
+// Of the text there, to its background: of its strokes' middle, whose edges are of colours in between.
+double contrastIn(const QImage &photograph, const QRect &place)
+{
+    const QRgb behind = background(photograph, place);
+    double most = 1;
+    for (int y = place.top(); y <= place.bottom(); ++y) {
+        for (int x = place.left(); x <= place.right(); ++x)
+            most = std::max(most, contrast(photograph.pixel(x, y), behind));
+    }
+    return most;
+}
+
+} // namespace
+
+void TestCommandLine::everyTextOfASkinIsReadable_data()
+{
+    QTest::addColumn<QString>("skin");
+    QTest::newRow("light") << "light";
+    QTest::newRow("dark") << "dark";
+}
+
+void TestCommandLine::everyTextOfASkinIsReadable()
+{
+    constexpr double leastContrast = 4.5;
+    QFETCH(QString, skin);
+    const HostResult result = showCallTimes({"--state", "none", "--skin", skin});
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
+    const QImage photograph(path("window.png"));
+    const QList<QPair<const char *, QRect>> texts{
+        {"title", {58, 76, 120, 20}},
+        {"focused row", {58, 103, 100, 18}},
+        {"row", {58, 127, 100, 18}},
+        {"value of a row", {220, 127, 64, 18}},
+        {"right softkey", {240, 369, 46, 18}},
+        {"heading of a section", {340, 24, 40, 16}},
+        {"state of the line", {350, 52, 60, 16}},
+        {"number", {414, 81, 70, 14}},
+        {"button", {400, 112, 60, 16}},
+        {"tab", {348, 219, 30, 16}},
+        {"figure", {352, 285, 80, 14}},
+    };
+    for (const auto &[name, place] : texts) {
+        const double found = contrastIn(photograph, place);
+        QVERIFY2(found >= leastContrast,
+                 qPrintable(QStringLiteral("%1: %2").arg(QLatin1StringView(name)).arg(found)));
+    }
+    const bool isDark = skin == QStringLiteral("dark");
+    for (const QRect &place : {QRect(60, 300, 50, 50), QRect(2, 2, 10, 300)})
+        QCOMPARE(qGray(background(photograph, place)) < 128, isDark);
 }
 
 void TestCommandLine::thePageOfThePanelIsChosen()
