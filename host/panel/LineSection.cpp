@@ -136,7 +136,7 @@ void LineSection::refresh()
     state->say(breakableWords(described), withoutClocks(described));
     notice->say(line.chargeNotice(), atTheMark(line.chargeNotice()));
     record->say(line.recordNotice());
-    told->say(line.toldNotice());
+    told->say(breakableWords(line.toldNotice()), line.toldNotice());
     failure->say(line.failure());
     for (std::size_t index = 0; index < buttonPlans.size(); ++index) {
         if (buttons[index])

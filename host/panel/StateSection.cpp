@@ -39,7 +39,7 @@ StateSection::StateSection(const QString &stateDirectory, const QString &notice,
     column->addWidget(placeLabel);
     if (!notice.isEmpty()) {
         QLabel *noticeLabel = makeValue("notice", {});
-        noticeLabel->setText(notice);
+        noticeLabel->setText(breakableWords(notice));
         column->addWidget(noticeLabel);
     }
     if (!renew)

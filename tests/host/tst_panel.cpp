@@ -1340,6 +1340,8 @@ void TestPanel::aLongPathIsBrokenAndPushesNothingOut()
     const Panel panel(line, {QStringLiteral("/home/") + QString(200, QLatin1Char('p')), {}, nullptr}, &desk);
     QCOMPARE(panel.sizeHint().width(), usual.sizeHint().width());
     QCOMPARE(panel.findChild<QLabel *>("state directory")->toolTip().size(), 206);
+    const Panel withNotice(line, {{}, QString(200, QLatin1Char('n')), nullptr}, &desk);
+    QCOMPARE(withNotice.sizeHint().width(), usual.sizeHint().width());
 }
 
 // All that the panel's pages say.
