@@ -80,7 +80,7 @@ PhoneBody::PhoneBody(QWidget *parent)
     setFixedWidth(bodyWidth);
     setMinimumHeight(least.body());
     setMaximumHeight(usual.body());
-    resize(sizeHint());
+    resize(PhoneBody::sizeHint());
 }
 
 QSize PhoneBody::sizeHint() const
