@@ -69,6 +69,10 @@ constexpr OptionText optionTexts[] = {
     {"plugin", "NAME", QT_TRANSLATE_NOOP("kavrecentcalls", "The plug-in library. Default: libkavcallmeter.so.1")},
     {"screen", "NAME", QT_TRANSLATE_NOOP("kavrecentcalls", "Open this screen at once: %3.")},
     {"page", "NAME", QT_TRANSLATE_NOOP("kavrecentcalls", "Show this page of the panel: %4.")},
+    {"display", nullptr,
+     QT_TRANSLATE_NOOP("kavrecentcalls",
+                       "Show the phone's display alone, as large as the window and worked by touch: "
+                       "for a window that is a phone's.")},
     {"translation", "FILE", QT_TRANSLATE_NOOP("kavrecentcalls", "Load the texts of the catalogue FILE (.qm).")},
     {"language", "NAME",
      QT_TRANSLATE_NOOP("kavrecentcalls",
@@ -178,7 +182,7 @@ QString findEmptyValue(const QCommandLineParser &parser)
 {
     for (const OptionText &option : optionTexts) {
         const QString name = QString::fromLatin1(option.name);
-        if (parser.isSet(name) && parser.value(name).isEmpty())
+        if (option.value && parser.isSet(name) && parser.value(name).isEmpty())
             return QCoreApplication::translate("kavrecentcalls", "Option '%1' has an empty value.").arg(name);
     }
     return {};
@@ -236,11 +240,13 @@ QString findMistake(const QCommandLineParser &parser)
         return QCoreApplication::translate("kavrecentcalls",
                                            "Option 'keep-calls' wants a number of days, 0 to %1.")
             .arg(handset::mostKeptDays);
-    for (const char *name : {"screen", "page", "skin", "photo", "keep-calls"}) {
+    for (const char *name : {"screen", "page", "skin", "display", "photo", "keep-calls"}) {
         if (parser.isSet(QString::fromLatin1(name)) && parser.isSet(QStringLiteral("tour")))
             return QCoreApplication::translate("kavrecentcalls", "Option '%1' does not go with option 'tour'.")
                 .arg(QLatin1StringView(name));
     }
+    if (parser.isSet(QStringLiteral("page")) && parser.isSet(QStringLiteral("display")))
+        return QCoreApplication::translate("kavrecentcalls", "Option 'page' does not go with option 'display'.");
     if (parser.isSet(QStringLiteral("language")) && parser.isSet(QStringLiteral("translation")))
         return QCoreApplication::translate("kavrecentcalls",
                                            "Option 'language' does not go with option 'translation'.");
@@ -272,6 +278,7 @@ Options readOptions(const QCommandLineParser &parser)
     options.translation = parser.value(QStringLiteral("translation"));
     options.language = parser.value(QStringLiteral("language"));
     options.skin = parser.value(QStringLiteral("skin"));
+    options.displayAlone = parser.isSet(QStringLiteral("display"));
     options.photo = parser.value(QStringLiteral("photo"));
     options.tourDirectory = parser.value(QStringLiteral("tour"));
     options.script = valueOr(parser, "script", QString::fromLatin1(shippedTour));

@@ -15,14 +15,15 @@ struct Options {
     std::optional<int> keptDays; ///< how long calls are kept; nothing for ever
     QString traceFile;           ///< "-" is standard output, empty drops the trace
     QString plugin;
-    QString screen;        ///< name of the screen to open at once; empty for the menu
-    int page = 0;          ///< row of pageNames that the panel shows
-    QString translation;   ///< catalogue to load; empty for none
-    QString language;      ///< one of languageNames(); empty for the locale's
-    QString skin;          ///< "light" or "dark"; empty for the desktop's
-    QString photo;         ///< where to photograph the window; empty shows it as usual
-    QString tourDirectory; ///< where a tour puts its photographs; empty for no tour
-    QString script;        ///< what the tour plays
+    QString screen;            ///< name of the screen to open at once; empty for the menu
+    int page = 0;              ///< row of pageNames that the panel shows
+    QString translation;       ///< catalogue to load; empty for none
+    QString language;          ///< one of languageNames(); empty for the locale's
+    QString skin;              ///< "light" or "dark"; empty for the desktop's
+    bool displayAlone = false; ///< the phone's display fills the window
+    QString photo;             ///< where to photograph the window; empty shows it as usual
+    QString tourDirectory;     ///< where a tour puts its photographs; empty for no tour
+    QString script;            ///< what the tour plays
 
     bool isTour() const { return !tourDirectory.isEmpty(); }
     /// Of a tour, which takes no language from the locale.

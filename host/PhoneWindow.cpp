@@ -7,6 +7,7 @@
 #include "host/panel/Panel.h"
 #include "host/phone/CallNotice.h"
 #include "host/phone/Display.h"
+#include "host/phone/DisplayView.h"
 #include "host/phone/Keypad.h"
 #include "host/phone/KeysFrame.h"
 #include "host/phone/PhoneBody.h"
@@ -39,10 +40,11 @@ QSize sizeOnScreen(const QWidget &window)
     return wanted.height() <= screen.height() ? wanted.boundedTo(screen)
                                               : wanted.boundedTo(screen - QSize(0, titleHeight));
 }
+constexpr QSize sizeOfDisplayAlone(360, 640); // a small phone's window
 
 } // namespace
 
-PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open, Form form)
     : openHandset(std::move(open))
     , row(new QHBoxLayout)
     , body(new PhoneBody(this))
@@ -51,7 +53,10 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
 {
     giveAccessibleRole<PhoneWindow, QAccessible::Window>();
     setWindowTitle(tr("Recent Calls"));
-    layOut();
+    if (form == Form::OnDesk)
+        layOut();
+    else
+        layOutDisplayAlone();
     connect(menu, &MenuScreen::chosen, this, &PhoneWindow::openScreen);
     connect(menu, &MenuScreen::exitRequested, this, &PhoneWindow::close, Qt::QueuedConnection);
     connect(&screens, &ScreenHost::closed, menu, &MenuScreen::takeFocus);
@@ -60,8 +65,9 @@ PhoneWindow::PhoneWindow(const ScreenLibrary &library, OpenHandset open)
     qApp->installEventFilter(this);
 }
 
-PhoneWindow::PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset)
-    : PhoneWindow(library, [handset] { return handset; })
+PhoneWindow::PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset, Form form)
+    : PhoneWindow(
+          library, [handset] { return handset; }, form)
 {}
 
 PhoneWindow::~PhoneWindow()
@@ -92,13 +98,26 @@ void PhoneWindow::layOut()
     resize(sizeOnScreen(*this));
 }
 
+void PhoneWindow::layOutDisplayAlone()
+{
+    body->hide();
+    alone = new DisplayView(body->display(), this);
+    setLayout(row);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->setDirection(QBoxLayout::TopToBottom);
+    row->addWidget(alone, 1);
+    setFocusProxy(alone);
+    resize(sizeOfDisplayAlone);
+}
+
 // In the panel's place: as wide as a panel at the least, so that the window keeps its size.
 void PhoneWindow::putBeside(QWidget *widget, Qt::Alignment alignment)
 {
     if (placeOfPanel)
         row->removeItem(placeOfPanel);
     delete std::exchange(placeOfPanel, nullptr);
-    row->addWidget(widget, 1, alignment);
+    row->addWidget(widget, alone ? 0 : 1, alignment);
     widget->show();
 }
 
@@ -123,11 +142,11 @@ void PhoneWindow::listen(handset::Settings &settings)
 // What comes in finds no handset yet: complete() returns false. What the user does waits until there is one.
 void PhoneWindow::showProgress(const QString &step, int percent)
 {
-    if (panel)
+    if (line)
         return;
     if (!opening) {
         opening = new OpeningProgress(this);
-        opening->setMinimumWidth(Panel::usualWidth);
+        opening->setMinimumWidth(alone ? 0 : Panel::usualWidth);
         putBeside(opening, Qt::AlignTop);
     }
     opening->showStep(step, percent);
@@ -144,7 +163,7 @@ void PhoneWindow::paintEvent(QPaintEvent *)
 bool PhoneWindow::complete()
 {
     if (!openHandset)
-        return panel != nullptr;
+        return calls != nullptr;
     const std::optional<OpenedHandset> handset = std::exchange(openHandset, nullptr)();
     if (!handset) {
         close();
@@ -156,14 +175,20 @@ bool PhoneWindow::complete()
     panelSetup.faults = handset->faults;
     panelSetup.renew = handset->renew;
     connectHandset();
-    makePanel();
+    if (alone)
+        delete std::exchange(opening, nullptr);
+    else
+        makePanel();
     return true;
 }
 
 void PhoneWindow::connectHandset()
 {
-    new KeysFrame(body->display());
-    calls = new CallNotice(*line, menu->getContentWidget(true), menu->rowsHeight());
+    if (!alone)
+        new KeysFrame(body->display());
+    const auto extent = alone ? CallNotice::Extent::WithKeysAndAllNotices : CallNotice::Extent::CallsOnly;
+    calls = new CallNotice(*line, menu->getContentWidget(true), menu->rowsHeight(), extent);
+    connect(calls, &CallNotice::keyClicked, body->keypad(), &Keypad::press);
     // Before the line is told: a call that one of these ends is news.
     connect(menu, &MenuScreen::clearKeyClicked, calls, &CallNotice::dismiss);
     connect(body->keypad(), &Keypad::hangUpPressed, calls, &CallNotice::dismiss);
@@ -172,10 +197,11 @@ void PhoneWindow::connectHandset()
     connect(body->keypad(), &Keypad::hangUpPressed, line.get(), &Line::pressHangUpKey);
     connect(body->keypad(), &Keypad::numberTyped, line.get(), &Line::typeNumber);
     // The handset may outlive the window.
-    line->handset().setWaitListener([notice = QPointer<WaitNotice>(new WaitNotice(body->display()))](bool waits) {
-        if (notice)
-            notice->setWaiting(waits);
-    });
+    line->handset().setWaitListener(
+        [notice = QPointer<WaitNotice>(new WaitNotice(alone ? alone : body->display()))](bool waits) {
+            if (notice)
+                notice->setWaiting(waits);
+        });
 }
 
 void PhoneWindow::makePanel()
@@ -205,7 +231,7 @@ void PhoneWindow::choosePage(int index)
 
 void PhoneWindow::keyPressEvent(QKeyEvent *event)
 {
-    const bool fromPhone = body->isAncestorOf(focusWidget());
+    const bool fromPhone = isOnPhone(focusWidget());
     const bool isShortcut = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (fromPhone)
         QWidget::keyPressEvent(event);
@@ -225,6 +251,11 @@ bool PhoneWindow::eventFilter(QObject *watched, QEvent *event)
     return isTyped && takeKeyboard(*static_cast<QKeyEvent *>(event));
 }
 
+bool PhoneWindow::isOnPhone(const QWidget *focus) const
+{
+    return alone || body->isAncestorOf(focus);
+}
+
 // Answers whether the key was one that no screen knows.
 bool PhoneWindow::takeKeyboard(const QKeyEvent &event)
 {
@@ -235,7 +266,7 @@ bool PhoneWindow::takeKeyboard(const QKeyEvent &event)
     const bool isColoured = key == Qt::Key_Call || key == Qt::Key_Hangup;
     if (isColoured)
         body->keypad()->press(key);
-    else if (body->isAncestorOf(QApplication::focusWidget()))
+    else if (isOnPhone(QApplication::focusWidget()))
         body->keypad()->tellTyped(key);
     return isColoured;
 }

@@ -38,10 +38,14 @@ public:
     /// Opens the handset and installs it; nothing where that failed.
     using OpenHandset = std::function<std::optional<OpenedHandset>()>;
 
+    /// What of the phone is shown: it lies on a desk, with the panel beside it; or its display fills the window, for a
+    /// window that is a phone's.
+    enum class Form { OnDesk, DisplayAlone };
+
     /// `library` outlives the window. `open` is called once, by complete(); the library is loaded after it.
-    PhoneWindow(const ScreenLibrary &library, OpenHandset open);
+    PhoneWindow(const ScreenLibrary &library, OpenHandset open, Form form = Form::OnDesk);
     /// With a handset that is open already.
-    PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset);
+    PhoneWindow(const ScreenLibrary &library, const OpenedHandset &handset, Form form = Form::OnDesk);
     /// Gives back an open screen. Not before: a closed window's screen may still wait for a dialog that blocks it,
     /// and is destroyed once the event loop has ended.
     ~PhoneWindow() override;
@@ -53,7 +57,7 @@ public:
 
     /// Opens the handset and makes the panel now, which otherwise follows the window's first paint: the phone is
     /// seen that much sooner. False when the handset cannot be opened, and the window is closed then; and while it is
-    /// being opened.
+    /// being opened. A display that is alone has no panel.
     bool complete();
 
     /// Opens row `index` of the screen table, on a complete window; false as in ScreenHost::open().
@@ -69,7 +73,9 @@ protected:
 
 private:
     bool takeKeyboard(const QKeyEvent &event);
+    bool isOnPhone(const QWidget *focus) const;
     void layOut();
+    void layOutDisplayAlone();
     void showProgress(const QString &step, int percent);
     void connectHandset();
     void makePanel();
@@ -79,9 +85,10 @@ private:
     std::unique_ptr<Line> line; ///< until complete() null, as the panel
     QHBoxLayout *row;
     Panel::Setup panelSetup;
-    PhoneBody *body;
-    QSpacerItem *placeOfPanel;          ///< until something is there
-    OpeningProgress *opening = nullptr; ///< until the panel is there; made when there is something to show
+    PhoneBody *body;                     ///< of a display that is alone only the keypad, which nobody sees
+    QWidget *alone = nullptr;            ///< what shows the display where that is alone
+    QSpacerItem *placeOfPanel = nullptr; ///< until something is there
+    OpeningProgress *opening = nullptr;  ///< until the panel is there; made when there is something to show
     Panel *panel = nullptr;
     MenuScreen *menu;
     CallNotice *calls = nullptr; ///< until complete()

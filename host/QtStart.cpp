@@ -28,6 +28,12 @@ QString optionName(const QString &argument)
     return name.section(u'=', 0, 0);
 }
 
+// "-display :1" is Qt's, "--display" ours.
+bool isOurs(const QString &argument)
+{
+    return argument.section(u'=', 0, 0) == QLatin1StringView("--display");
+}
+
 bool takesValue(const QString &name)
 {
     return std::any_of(optionsWithValue.begin(), optionsWithValue.end(),
@@ -69,7 +75,7 @@ DividedArguments divideArguments(const QStringList &arguments)
     for (qsizetype index = 1; index < arguments.size(); ++index) {
         const QString &argument = arguments[index];
         areOptions = areOptions && argument != QLatin1StringView("--");
-        const QString name = areOptions ? optionName(argument) : QString();
+        const QString name = areOptions && !isOurs(argument) ? optionName(argument) : QString();
         const bool hasValue = takesValue(name);
         QStringList &part = hasValue || name == QLatin1StringView(optionWithoutValue) ? divided.ofQt : divided.own;
         part.append(argument);

@@ -305,8 +305,9 @@ int showWindow(const Options &options, const QStringList &findings, const EndSig
 {
     ScreenLibrary library;
     int openingCode = ExitSuccess;
-    PhoneWindow window(library,
-                       [&] { return openHandset(options, findings, library, window, endSignals, openingCode); });
+    PhoneWindow window(
+        library, [&] { return openHandset(options, findings, library, window, endSignals, openingCode); },
+        options.displayAlone ? PhoneWindow::Form::DisplayAlone : PhoneWindow::Form::OnDesk);
     QObject::connect(&endSignals, &EndSignals::asked, &window, [&window] {
         window.close();
         QCoreApplication::exit(ExitSuccess); // also while something else is open

@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>المفتاح الأيسر</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>اختيار</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>اتصال</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>إنهاء</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Exit codes:
         <translation>عرض هذه الصفحة من اللوحة: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>إظهار شاشة الهاتف وحدها، بحجم النافذة وتُستخدم باللمس: لنافذة هاتف.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>تحميل نصوص الفهرس FILE ‏(.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Exit codes:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>الخيار «%1» لا يجتمع مع الخيار «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>الخيار 'page' لا يجتمع مع الخيار 'display'.</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

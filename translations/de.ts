@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Anrufen</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Auflegen</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Linke Taste</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Auswählen</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Anrufen</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Auflegen</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Exit-Codes:
         <translation>Diese Seite des Bedienfelds zeigen: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Nur das Display des Telefons zeigen, so groß wie das Fenster und durch Berühren bedient: für das Fenster eines Telefons.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Die Texte des Katalogs FILE (.qm) laden.</translation>
     </message>
@@ -4459,6 +4463,10 @@ Exit-Codes:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>Die Option »%1« verträgt sich nicht mit der Option »tour«.</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>Option „page“ geht nicht mit Option „display“.</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Llamar</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Colgar</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Tecla izquierda</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Elegir</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Llamar</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Colgar</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Códigos de salida:
         <translation>Mostrar esta página del panel: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Mostrar solo la pantalla del teléfono, tan grande como la ventana y manejada con el dedo: para la ventana de un teléfono.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Cargar los textos del catálogo FILE (.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Códigos de salida:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>La opción «%1» no va con la opción «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>La opción «page» no va con la opción «display».</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

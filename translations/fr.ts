@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Appeler</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Raccrocher</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Touche de gauche</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Choisir</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Appeler</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Raccrocher</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Codes de retour :
         <translation>Afficher cette page du panneau : %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Montrer l'écran du téléphone seul, aussi grand que la fenêtre et commandé au toucher : pour la fenêtre d'un téléphone.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Charger les textes du catalogue FILE (.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Codes de retour :
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>L'option « %1 » ne va pas avec l'option « tour ».</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>L'option « page » ne va pas avec l'option « display ».</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Chiama</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Riaggancia</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Tasto sinistro</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Scegli</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Chiama</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Riaggancia</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Codici di uscita:
         <translation>Mostrare questa pagina del pannello: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Mostrare solo lo schermo del telefono, grande quanto la finestra e usato col tocco: per la finestra di un telefono.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Caricare i testi del catalogo FILE (.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Codici di uscita:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>L'opzione «%1» non va con l'opzione «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>L'opzione «page» non va con l'opzione «display».</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

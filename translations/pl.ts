@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Zadzwoń</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Rozłącz</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Lewy przycisk</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Wybierz</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Zadzwoń</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Rozłącz</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Kody wyjścia:
         <translation>Pokazuje tę stronę panelu: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Pokaż sam wyświetlacz telefonu, tak duży jak okno i obsługiwany dotykiem: dla okna na telefonie.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Wczytuje teksty z katalogu FILE (.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Kody wyjścia:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>Opcji „%1” nie można łączyć z opcją „tour”.</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>Opcja „page” nie łączy się z opcją „display”.</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

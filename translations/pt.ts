@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Ligar</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Desligar</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Tecla esquerda</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Escolher</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Ligar</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Desligar</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Códigos de saída:
         <translation>Mostrar esta página do painel: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Mostrar só o ecrã do telefone, do tamanho da janela e usado por toque: para a janela de um telefone.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Carregar os textos do catálogo FILE (.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Códigos de saída:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>A opção «%1» não se usa com a opção «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>A opção «page» não combina com a opção «display».</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

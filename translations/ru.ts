@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Вызов</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Отбой</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Левая клавиша</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Выбрать</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Вызов</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Отбой</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Exit codes:
         <translation>Показать эту страницу панели: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Показать только экран телефона, размером с окно и с управлением касанием: для окна на телефоне.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>Загрузить тексты каталога FILE (.qm).</translation>
     </message>
@@ -4459,6 +4463,10 @@ Exit codes:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>Параметр «%1» несовместим с параметром «tour».</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>Параметр «page» несовместим с параметром «display».</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

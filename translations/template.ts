@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3017,14 +3025,6 @@
     </message>
     <message>
         <source>Select</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hang up</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -4349,6 +4349,10 @@ Exit codes:
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation type="unfinished"></translation>
     </message>
@@ -4414,6 +4418,10 @@ Exit codes:
     </message>
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>Ara</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>Sol tuş</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>Seç</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Ara</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>Kapat</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Exit codes:
         <translation>Panelin bu sayfasını göster: %4.</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>Yalnızca telefonun ekranını göster, pencere kadar büyük ve dokunarak kullanılır: bir telefonun penceresi için.</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>FILE kataloğunun (.qm) metinlerini yükle.</translation>
     </message>
@@ -4459,6 +4463,10 @@ Exit codes:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>“%1” seçeneği “tour” seçeneğiyle kullanılamaz.</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>'page' seçeneği 'display' seçeneğiyle birlikte kullanılamaz.</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

@@ -3004,6 +3004,14 @@
 <context>
     <name>host::Keypad</name>
     <message>
+        <source>Call</source>
+        <translation>呼叫</translation>
+    </message>
+    <message>
+        <source>Hang up</source>
+        <translation>挂断</translation>
+    </message>
+    <message>
         <source>Left softkey</source>
         <translation>左软键</translation>
     </message>
@@ -3018,14 +3026,6 @@
     <message>
         <source>Select</source>
         <translation>选择</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>呼叫</translation>
-    </message>
-    <message>
-        <source>Hang up</source>
-        <translation>挂断</translation>
     </message>
     <message>
         <source>Down</source>
@@ -4393,6 +4393,10 @@ Exit codes:
         <translation>显示面板的此页：%4。</translation>
     </message>
     <message>
+        <source>Show the phone's display alone, as large as the window and worked by touch: for a window that is a phone's.</source>
+        <translation>仅显示手机的显示屏，与窗口同大并以触摸操作：用于手机的窗口。</translation>
+    </message>
+    <message>
         <source>Load the texts of the catalogue FILE (.qm).</source>
         <translation>加载翻译目录 FILE (.qm) 的文本。</translation>
     </message>
@@ -4459,6 +4463,10 @@ Exit codes:
     <message>
         <source>Option '%1' does not go with option 'tour'.</source>
         <translation>选项“%1”不能与选项“tour”同时使用。</translation>
+    </message>
+    <message>
+        <source>Option 'page' does not go with option 'display'.</source>
+        <translation>选项“page”不能与选项“display”同时使用。</translation>
     </message>
     <message>
         <source>Option 'language' does not go with option 'translation'.</source>

@@ -7,6 +7,8 @@
 #include "host/Line.h"
 #include "host/panel/Controls.h"
 #include "host/panel/CostSection.h"
+#include "host/phone/Keypad.h"
+#include "host/phone/PhoneKey.h"
 #include "toolkit/ZSkinService.h"
 
 #include <QtCore/QEvent>
@@ -83,10 +85,11 @@ QString costOfLastCall(handset::Handset &handset)
 
 } // namespace
 
-CallNotice::CallNotice(const Line &told, QWidget *place, int rows)
+CallNotice::CallNotice(const Line &told, QWidget *place, int rows, Extent toTell)
     : QFrame(place)
     , line(told)
     , rowsHeight(rows)
+    , extent(toTell)
 {
     giveAccessibleRole<CallNotice, QAccessible::Grouping>();
     setAccessibleName(tr("Call"));
@@ -100,6 +103,8 @@ CallNotice::CallNotice(const Line &told, QWidget *place, int rows)
     cost = addLabel("call cost so far", usualPixels, false);
     others = addLabel("other calls", smallPixels, false);
     notice = addLabel("call warning", smallPixels, true);
+    if (extent == Extent::WithKeysAndAllNotices)
+        addKeys();
     place->installEventFilter(this);
     connect(&line, &Line::changed, this, &CallNotice::refresh);
     connect(&tick, &QTimer::timeout, this, &CallNotice::refresh);
@@ -118,6 +123,22 @@ QLabel *CallNotice::addLabel(const char *name, int pixelSize, bool bold)
     return label;
 }
 
+void CallNotice::addKeys()
+{
+    auto *keys = new QHBoxLayout;
+    const auto add = [&](PhoneKey::Legend legend, const QString &name, Qt::Key key) {
+        auto *button = new PhoneKey(legend, {}, {}, this);
+        button->setAccessibleName(name);
+        button->setMinimumHeight(ZSkinService::SoftkeyBarHeight);
+        connect(button, &PhoneKey::clicked, this, [this, key] { emit keyClicked(key); });
+        keys->addWidget(button);
+        return button;
+    };
+    callKey = add(PhoneKey::Legend::Call, Keypad::tr("Call"), Qt::Key_Call);
+    hangUpKey = add(PhoneKey::Legend::HangUp, Keypad::tr("Hang up"), Qt::Key_Hangup);
+    qobject_cast<QVBoxLayout *>(layout())->addLayout(keys);
+}
+
 void CallNotice::dismiss()
 {
     over.reset();
@@ -128,7 +149,13 @@ void CallNotice::refresh()
 {
     const QList<LineCall> calls = line.calls();
     follow(calls);
-    say(describe(calls));
+    Told told = describe(calls);
+    if (extent == Extent::WithKeysAndAllNotices) {
+        QStringList notices{told.notice, line.failure(), line.recordNotice(), line.toldNotice()};
+        notices.removeAll(QString());
+        told.notice = notices.join(u'\n');
+    }
+    say(told);
     if (calls.isEmpty() || !line.isCounting())
         tick.stop();
     else if (!tick.isActive())
@@ -206,7 +233,12 @@ void CallNotice::say(const Told &told)
         label->setVisible(!text.isEmpty());
     }
     sayNumber(told.number);
-    setVisible(!told.state.isEmpty());
+    if (callKey) {
+        const bool isTyped = !line.typedNumber().isEmpty();
+        callKey->setVisible(line.permits(Line::Action::Answer) || (isTyped && line.permits(Line::Action::Dial)));
+        hangUpKey->setVisible(!told.state.isEmpty());
+    }
+    setVisible(!told.state.isEmpty() || !told.notice.isEmpty());
     takePlace();
 }
 

@@ -22,11 +22,18 @@ class CallNotice : public QFrame
     Q_OBJECT
 
 public:
+    /// What it tells: of calls, where a keypad and a panel are beside it; or everything, with the green and the red key.
+    enum class Extent { CallsOnly, WithKeysAndAllNotices };
+
     /// `line` outlives it. The notice fills `place` from its foot up, but for its first `rowsHeight` pixels.
-    CallNotice(const Line &line, QWidget *place, int rowsHeight);
+    CallNotice(const Line &line, QWidget *place, int rowsHeight, Extent extent = Extent::CallsOnly);
 
     /// Forgets the call that is over.
     void dismiss();
+
+signals:
+    /// The green or the red key: Qt::Key_Call, Qt::Key_Hangup.
+    void keyClicked(int qtKey);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -39,10 +46,11 @@ private:
         QString clock;
         QString cost;
         QString others; ///< calls beside it, a line each; what is typed during a call
-        QString notice; ///< of charging
+        QString notice; ///< of charging, and all others
     };
 
     QLabel *addLabel(const char *name, int pixelSize, bool bold);
+    void addKeys();
     void refresh();
     void follow(const QList<handset::LineCall> &calls);
     Told describe(const QList<handset::LineCall> &calls) const;
@@ -54,6 +62,7 @@ private:
 
     const Line &line;
     const int rowsHeight;
+    const Extent extent;
     std::optional<handset::LineCall> latest; ///< while there is a call: the one that is told of
     std::optional<handset::LineCall> over;   ///< the last one, as it was when it was seen last
     QTimer tick;
@@ -63,6 +72,8 @@ private:
     QLabel *cost;
     QLabel *others;
     QLabel *notice;
+    QWidget *callKey = nullptr; ///< as the other key null where the keypad has it
+    QWidget *hangUpKey = nullptr;
 };
 
 } // namespace host

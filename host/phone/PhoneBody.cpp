@@ -96,7 +96,8 @@ QSize PhoneBody::minimumSizeHint() const
 void PhoneBody::resizeEvent(QResizeEvent *)
 {
     const Heights heights = heightsIn(height());
-    phoneDisplay->move(sideMargin, heights.head);
+    if (phoneDisplay->parentWidget() == this) // else it is shown alone
+        phoneDisplay->move(sideMargin, heights.head);
     phoneKeypad->setGeometry(sideMargin, heights.head + ZSkinService::DisplayHeight + displayToKeys,
                              ZSkinService::DisplayWidth, heights.keys);
 }

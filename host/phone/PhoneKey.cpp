@@ -68,8 +68,13 @@ QSize PhoneKey::sizeHint() const
 void PhoneKey::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    painter.drawPixmap(0, 0, face());
+    // Where it is shown larger than it is, a picture would be coarse.
+    const bool isScaled = painter.deviceTransform().m11() != devicePixelRatioF();
     painter.setRenderHint(QPainter::Antialiasing);
+    if (isScaled)
+        paintFace(painter);
+    else
+        painter.drawPixmap(0, 0, face());
     if (isDown())
         painter.translate(0, 1);
     if (legend == Legend::Text)
@@ -81,14 +86,13 @@ void PhoneKey::paintEvent(QPaintEvent *)
 // The key without its legend. Most keys are of one size, and are painted once.
 QPixmap PhoneKey::face() const
 {
-    const bool isTouched = isDown() || underMouse();
     const qreal ratio = devicePixelRatioF();
     const QString name = QStringLiteral("host::PhoneKey %1 %2 %3 %4 %5")
                              .arg(width())
                              .arg(height())
                              .arg(ratio)
                              .arg(isDown())
-                             .arg(isTouched);
+                             .arg(isDown() || underMouse());
     QPixmap pixmap;
     if (QPixmapCache::find(name, &pixmap))
         return pixmap;
@@ -97,15 +101,20 @@ QPixmap PhoneKey::face() const
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
-    QLinearGradient shade(0, 0, 0, height());
-    shade.setColorAt(0, isDown() ? keyFoot.darker(115) : keyTop);
-    shade.setColorAt(1, isDown() || !isTouched ? keyFoot : keyTop);
-    painter.setPen(keyEdge);
-    painter.setBrush(shade);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
+    paintFace(painter);
     painter.end();
     QPixmapCache::insert(name, pixmap);
     return pixmap;
+}
+
+void PhoneKey::paintFace(QPainter &painter) const
+{
+    QLinearGradient shade(0, 0, 0, height());
+    shade.setColorAt(0, isDown() ? keyFoot.darker(115) : keyTop);
+    shade.setColorAt(1, isDown() || !underMouse() ? keyFoot : keyTop);
+    painter.setPen(keyEdge);
+    painter.setBrush(shade);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8, 8);
 }
 
 void PhoneKey::paintText(QPainter &painter) const

@@ -22,6 +22,7 @@ protected:
 
 private:
     QPixmap face() const;
+    void paintFace(QPainter &painter) const;
     void paintText(QPainter &painter) const;
     void paintSign(QPainter &painter) const;
 

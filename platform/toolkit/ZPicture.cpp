@@ -9,8 +9,10 @@
 bool ZPicture::standsFor(const QPainter &painter, QSize size)
 {
     const qreal pixelRatio = painter.device()->devicePixelRatio();
-    return painter.paintEngine()->type() == QPaintEngine::Raster &&
-           painter.worldTransform().type() <= QTransform::TxTranslate && !size.isEmpty() &&
+    // Of a widget in a scene the painter's own transformation does not tell how large it is shown.
+    const QTransform toDevice = painter.deviceTransform();
+    return painter.paintEngine()->type() == QPaintEngine::Raster && toDevice.type() <= QTransform::TxScale &&
+           toDevice.m11() == pixelRatio && toDevice.m22() == pixelRatio && !size.isEmpty() &&
            pixelRatio == std::floor(pixelRatio);
 }
 

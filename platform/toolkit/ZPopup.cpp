@@ -194,9 +194,9 @@ void ZPopup::answerAfter(int milliseconds, Answer answer)
 void ZPopup::setVisible(bool visible)
 {
     d->waitsForDisplay = false;
-    const bool again = visible && isVisible();
     if (visible && isWindow())
-        followDisplay(ZApplication::display());
+        lieOver(ZApplication::display());
+    const bool again = visible && isVisible();
     // Once it is gone it is too late: without a window manager nobody would get the keys.
     if (!visible && isWindow() && isActiveWindow() && d->display && d->display->isVisible())
         d->display->window()->activateWindow();
@@ -344,6 +344,19 @@ void ZPopup::coverParent()
 {
     setGeometry(parentWidget()->rect());
     layOut();
+}
+
+// In a scene, which shows the display larger, no window could lie over it: the dialog is part of it there.
+void ZPopup::lieOver(QWidget *display)
+{
+    if (!display || !display->window()->graphicsProxyWidget()) {
+        followDisplay(display);
+        return;
+    }
+    setParent(display, Qt::Widget);
+    setAttribute(Qt::WA_TranslucentBackground, false);
+    display->installEventFilter(this);
+    coverParent();
 }
 
 void ZPopup::followDisplay(QWidget *display)

@@ -88,6 +88,7 @@ private:
     void comeToFront();
     void layOut();
     void coverParent();
+    void lieOver(QWidget *display);
     void followDisplay(QWidget *display);
     void coverDisplay();
     void showWithDisplay();

@@ -153,6 +153,8 @@ void TestCommandLine::aWrongCommandLineIsRefusedWithCode2_data()
     QTest::newRow("a skin on a tour") << QStringList{"--tour", "t", "--skin", "dark"} << "'skin'";
     QTest::newRow("a page on a tour") << QStringList{"--tour", "t", "--page", "sim"} << "'page'";
     QTest::newRow("a screen on a tour") << QStringList{"--tour", "t", "--screen", "callTime"} << "'screen'";
+    QTest::newRow("a page of a display that is alone") << QStringList{"--display", "--page", "sim"} << "'display'";
+    QTest::newRow("a display that is alone on a tour") << QStringList{"--tour", "t", "--display"} << "'display'";
     QTest::newRow("a window's photograph on a tour") << QStringList{"--tour", "t", "--photo", "x"} << "'photo'";
 }
 
