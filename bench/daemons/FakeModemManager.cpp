@@ -36,10 +36,28 @@ QList<QDBusObjectPath> asPaths(const QStringList &names)
 
 } // namespace
 
+QDBusArgument &operator<<(QDBusArgument &argument, const FakePort &port)
+{
+    argument.beginStructure();
+    argument << port.name << port.kind;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &argument, FakePort &port)
+{
+    argument.beginStructure();
+    argument >> port.name >> port.kind;
+    argument.endStructure();
+    return argument;
+}
+
 FakeModemManager::FakeModemManager(const QString &busAddress)
     : connectionName(newConnectionName())
     , bus(QDBusConnection::connectToBus(busAddress, connectionName))
 {
+    qDBusRegisterMetaType<FakePort>();
+    qDBusRegisterMetaType<QList<FakePort>>();
     qDBusRegisterMetaType<Interfaces>();
     qDBusRegisterMetaType<QMap<QDBusObjectPath, Interfaces>>();
     bus.registerVirtualObject(root, this, QDBusConnection::SubPath);
@@ -83,6 +101,14 @@ void FakeModemManager::addInterface(const QString &path, const QString &interfac
     objects[path][full(interface)] = {};
     send(root, manager, QStringLiteral("InterfacesAdded"),
          {QVariant::fromValue(QDBusObjectPath(path)), QVariant::fromValue(Interfaces{{full(interface), {}}})});
+}
+
+void FakeModemManager::describe(const QString &plugin, const QList<FakePort> &ports)
+{
+    objects[modem][full(QStringLiteral("Modem"))].insert(
+        {{QStringLiteral("Plugin"), plugin},
+         {QStringLiteral("Ports"), QVariant::fromValue(ports)},
+         {QStringLiteral("PrimaryPort"), ports.constLast().name}});
 }
 
 void FakeModemManager::removeInterfaces(const QString &path, const QStringList &interfaces)

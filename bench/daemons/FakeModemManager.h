@@ -26,6 +26,12 @@ enum FakeCallState {
 };
 enum FakeDirection { Incoming = 1, Outgoing = 2 };
 
+/// Of Modem.Ports: its name, and a number of MMModemPortType.
+struct FakePort {
+    QString name;
+    quint32 kind = 0;
+};
+
 class FakeModemManager final : public QDBusVirtualObject
 {
 public:
@@ -39,6 +45,9 @@ public:
     void vanish();
 
     void addModem(const QString &path, bool hasVoice = true);
+    /// Of the modem that there is first, before it is looked at: by which plugin the daemon drives it, and its ports, the
+    /// last of them the primary one.
+    void describe(const QString &plugin, const QList<FakePort> &ports);
     void removeModem(const QString &path) { removeInterfaces(path, objects[path].keys()); }
     void addInterface(const QString &path, const QString &interface);
     void removeInterfaces(const QString &path, const QStringList &interfaces);

@@ -72,6 +72,7 @@ bool CallRecorder::report(const ReportedCall &call)
 void CallRecorder::connect(Followed &followed) const
 {
     followed.connectedAtMs = clock.monotonicMs();
+    followed.beforeMs = followed.call.connectedBeforeMs;
     followed.charge = chargeNow;
     if (chargeNow == calllog::Charge::Measured)
         followed.cost = std::make_shared<Cost>();

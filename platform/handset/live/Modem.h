@@ -23,6 +23,8 @@ struct ReportedCall {
     std::optional<qint64> connectedWallMs;
     /// It was there when the daemon was first asked: nobody has seen how it came to this phase.
     bool isFound = false;
+    /// For how long it has been connected when that is reported first, in ms, where the daemon is late with it.
+    qint64 connectedBeforeMs = 0;
 };
 
 /// Bytes each way, 0 or more.

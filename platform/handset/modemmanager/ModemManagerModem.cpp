@@ -54,6 +54,18 @@ QString lockInWords(quint32 lock)
     return QLatin1String(words[std::min<size_t>(lock, std::size(words)) % std::size(words)]);
 }
 
+// By the daemon's plugins: those of modems that tell by themselves what becomes of a call. One without AT commands does, too.
+VoiceCalls::News newsOf(Reading &reading, const QVariantMap &modem)
+{
+    static const QStringList telling{QStringLiteral("cinterion"), QStringLiteral("huawei"),
+                                     QStringLiteral("simtech"), QStringLiteral("u-blox")};
+    constexpr quint32 atCommands = 3; // of MMModemPortType
+    const QString port = reading.value<QString>(modem, "PrimaryPort").value_or(QString());
+    const QString plugin = reading.value<QString>(modem, "Plugin").value_or(QString());
+    const bool isAsked = Reading::kindOfPort(modem, port) == atCommands && !telling.contains(plugin);
+    return isAsked ? VoiceCalls::News::Asked : VoiceCalls::News::Told;
+}
+
 } // namespace
 
 bool isModemPresent(int longestMs)
@@ -173,7 +185,8 @@ void ModemManagerModem::followVoice()
     }
     if (voice)
         return;
-    voice = std::make_unique<VoiceCalls>(source, modemPath, reading, patience);
+    const VoiceCalls::News news = newsOf(reading, modems.value(modemPath).value(modemInterface));
+    voice = std::make_unique<VoiceCalls>(source, modemPath, news, reading, patience);
     connect(voice.get(), &VoiceCalls::reported, this, &ModemManagerModem::callReported);
     connect(voice.get(), &VoiceCalls::gone, this, &ModemManagerModem::callGone);
     connect(voice.get(), &VoiceCalls::refused, this, &ModemManagerModem::refused);
@@ -181,8 +194,6 @@ void ModemManagerModem::followVoice()
 
 void ModemManagerModem::readModem()
 {
-    if (modemPath.isEmpty())
-        return;
     if (!bearers) {
         bearers = std::make_unique<Bearers>(source, reading, patience);
         connect(bearers.get(), &Bearers::reported, this, &ModemManagerModem::sessionReported);

@@ -53,6 +53,25 @@ std::optional<QStringList> Reading::paths(const QVariantMap &properties, const c
     return names;
 }
 
+quint32 Reading::kindOfPort(const QVariantMap &properties, const QString &port)
+{
+    const auto ports = properties.value(QStringLiteral("Ports")).value<QDBusArgument>();
+    if (ports.currentSignature() != QLatin1String("a(su)"))
+        return 0;
+    quint32 found = 0;
+    ports.beginArray();
+    while (!ports.atEnd()) {
+        QString name;
+        quint32 kind = 0;
+        ports.beginStructure();
+        ports >> name >> kind;
+        ports.endStructure();
+        found = name == port ? kind : found;
+    }
+    ports.endArray();
+    return found;
+}
+
 void Reading::warn(const char *name, const QString &what)
 {
     if (warned.contains(name))

@@ -30,6 +30,9 @@ public:
     /// Object paths, in their order.
     std::optional<QStringList> paths(const QVariantMap &properties, const char *name);
 
+    /// Of one of a modem's Ports, a number of MMModemPortType; 0 where it is not told.
+    static quint32 kindOfPort(const QVariantMap &properties, const QString &port);
+
     /// One warning for what has this name.
     void warn(const char *name, const QString &what);
 

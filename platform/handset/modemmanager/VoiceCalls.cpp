@@ -12,6 +12,8 @@
 #include <QtDBus/QDBusPendingCallWatcher>
 #include <QtDBus/QDBusReply>
 
+#include <algorithm>
+
 namespace handset::modemmanager {
 
 namespace {
@@ -20,6 +22,9 @@ const QString callInterface = QStringLiteral("org.freedesktop.ModemManager1.Call
 
 // Between two attempts at what the daemon cannot do at the moment.
 constexpr int againMs = 200;
+
+// Between two questions of the daemon's to a modem that does not tell by itself what becomes of a dialed call.
+constexpr qint64 askedEveryMs = 2'000;
 
 // Of Call.State.
 constexpr int callOver = 7;
@@ -62,11 +67,13 @@ std::optional<CallDirection> directionOf(int direction)
 
 } // namespace
 
-VoiceCalls::VoiceCalls(const live::BusDaemon &daemon, const QString &modem, Reading &typed, live::Patience waits)
+VoiceCalls::VoiceCalls(const live::BusDaemon &daemon, const QString &modem, News news, Reading &typed,
+                       live::Patience waits)
     : source(daemon)
     , reading(typed)
     , patience(waits)
     , modemPath(modem)
+    , dialedNews(news)
     , voice(new VoiceProxy(daemon.owner(), modem, daemon.bus(), this))
 {
     voice->setTimeout(patience.answerMs);
@@ -182,6 +189,8 @@ void VoiceCalls::move(Followed &followed, int state)
         followed.call.phase = comesIn ? CallPhase::Incoming : CallPhase::Dialing;
         emit reported(followed.call);
     }
+    followed.call.connectedBeforeMs = lateMs(followed, *phase);
+    followed.sinceMoved.start();
     followed.hasBegun = true;
     followed.call.phase = *phase;
     const live::ReportedCall now = followed.call;
@@ -192,6 +201,18 @@ void VoiceCalls::move(Followed &followed, int state)
         forget(now.id);
     }
     emit reported(now);
+}
+
+// The other side has taken a dialed call some time since the daemon asked the modem before: in the middle of that, on the
+// average, and never further from it than half of it.
+qint64 VoiceCalls::lateMs(const Followed &followed, CallPhase now) const
+{
+    const CallPhase before = followed.call.phase;
+    const bool isTaken = followed.hasBegun && now == CallPhase::Active &&
+                         (before == CallPhase::Dialing || before == CallPhase::Alerting);
+    if (dialedNews == News::Told || !isTaken)
+        return 0;
+    return std::min<qint64>(followed.sinceMoved.elapsed(), askedEveryMs) / 2;
 }
 
 // One that has come and gone meanwhile is still to be told of.
@@ -263,8 +284,6 @@ int VoiceCalls::dial(const QString &number)
 // A call that was not begun would stay among the modem's for ever.
 void VoiceCalls::begin(const QString &path)
 {
-    if (path.isEmpty())
-        return;
     auto *const call = new CallProxy(source.owner(), path, source.bus(), this);
     call->setTimeout(patience.dialingMs);
     auto *const answer = new QDBusPendingCallWatcher(call->Start(), this);

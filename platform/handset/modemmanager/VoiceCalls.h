@@ -6,6 +6,7 @@
 #include "modemmanager/Reading.h"
 
 #include <QtCore/QDeadlineTimer>
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QHash>
 #include <QtCore/QObject>
 #include <QtDBus/QDBusMessage>
@@ -27,8 +28,15 @@ class VoiceCalls : public QObject
     Q_OBJECT
 
 public:
+    /// How the daemon learns what becomes of a dialed call.
+    enum class News {
+        Told, ///< by the modem, at once
+        Asked ///< it asks the modem now and then
+    };
+
     /// Both outlive this.
-    VoiceCalls(const live::BusDaemon &daemon, const QString &modem, Reading &typed, live::Patience patience);
+    VoiceCalls(const live::BusDaemon &daemon, const QString &modem, News news, Reading &typed,
+               live::Patience patience);
 
     // As of live::Modem.
     int dial(const QString &number);
@@ -54,6 +62,7 @@ private:
         bool isKnown = false;  ///< its properties have been answered
         bool hasBegun = false; ///< has been reported
         QList<int> before;     ///< its states until then
+        QElapsedTimer sinceMoved;
     };
     using Question = std::function<QDBusPendingCall()>;
 
@@ -63,6 +72,7 @@ private:
     void learn(Followed &followed, const QVariantMap &properties);
     void stateChanged(const QString &path, int state);
     void move(Followed &followed, int state);
+    qint64 lateMs(const Followed &followed, CallPhase now) const;
     void deleted(const QString &path);
     void forget(const QString &path);
     void begin(const QString &path);
@@ -74,6 +84,7 @@ private:
     Reading &reading;
     const live::Patience patience;
     const QString modemPath;
+    const News dialedNews;
     VoiceProxy *const voice;
     QHash<QString, Followed> calls;
 };

@@ -6,6 +6,7 @@
 #include "qt/qcop/PrivateBus.h"
 #include "support/TestGroup.h"
 
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
 #include <QtDBus/QDBusObjectPath>
 #include <QtDBus/QDBusPendingCallWatcher>
@@ -104,6 +105,8 @@ private slots:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
 
     void callsAreRecordedInBothDirections();
+    void aDialedCallIsTakenHalfwayBetweenTwoQuestions_data();
+    void aDialedCallIsTakenHalfwayBetweenTwoQuestions();
     void twoCallsAtOnceAreTwoRows();
     void aCallThatIsOverBeforeItCouldBeLookedAtIsRecorded();
     void aCallThatIsMadeAndNeverBegunIsNone();
@@ -180,6 +183,48 @@ void TestModem::callsAreRecordedInBothDirections()
     desk.settle();
     QCOMPARE(desk.calls(), QStringLiteral("0:5550123:65000:1 1:42:7000:1"));
     QCOMPARE(desk.rows(QStringLiteral("late")), QStringLiteral("0 0"));
+}
+
+void TestModem::aDialedCallIsTakenHalfwayBetweenTwoQuestions_data()
+{
+    QTest::addColumn<QString>("plugin");
+    QTest::addColumn<quint32>("port");
+    QTest::addColumn<int>("direction");
+    QTest::addColumn<bool>("isAsked");
+    QTest::newRow("the daemon asks a modem of AT commands")
+        << QStringLiteral("generic") << 3U << +Outgoing << true;
+    QTest::newRow("a modem tells by itself") << QStringLiteral("huawei") << 3U << +Outgoing << false;
+    QTest::newRow("a modem without AT commands tells") << QStringLiteral("generic") << 6U << +Outgoing << false;
+    QTest::newRow("a call that is taken here") << QStringLiteral("generic") << 3U << +Incoming << false;
+}
+
+// Two states apart by a time that is known to lie between two others.
+void TestModem::aDialedCallIsTakenHalfwayBetweenTwoQuestions()
+{
+    QFETCH(const QString, plugin);
+    QFETCH(const quint32, port);
+    QFETCH(const int, direction);
+    QFETCH(const bool, isAsked);
+    Desk desk;
+    desk.fake.describe(plugin, {{QStringLiteral("ttyOther"), 3}, {QStringLiteral("port0"), port}});
+    desk.openAndSettle();
+    QElapsedTimer most;
+    most.start();
+    desk.fake.addCall(one, direction, direction == Outgoing ? RingingOut : RingingIn, QStringLiteral("1"));
+    desk.settle();
+    QElapsedTimer least;
+    least.start();
+    QTRY_VERIFY(least.hasExpired(100));
+    desk.fake.moveCall(one, Active);
+    const qint64 leastMs = std::min<qint64>(least.elapsed(), 2000) / 2;
+    desk.settle();
+    const qint64 mostMs = std::min<qint64>(most.elapsed(), 2000) / 2;
+    desk.fake.moveCall(one, Held);
+    desk.fake.moveCall(one, Active);
+    desk.fake.moveCall(one, Terminated);
+    desk.settle();
+    const qint64 ms = desk.rows(QStringLiteral("duration_ms")).toLongLong();
+    QVERIFY2(isAsked ? ms >= leastMs && ms <= mostMs : ms == 0, qPrintable(QString::number(ms)));
 }
 
 void TestModem::twoCallsAtOnceAreTwoRows()
@@ -1073,6 +1118,7 @@ void TestModem::aCallThatWasNotMadeIsNotBegun()
     QTRY_VERIFY(desk.fake.asked.contains(QStringLiteral("CreateCall")));
     desk.settle();
     QVERIFY(desk.fake.asked.filter(QStringLiteral("Start")).isEmpty());
+    QCOMPARE(desk.refused.size(), 1); // nothing is dialed, and nobody else would say so
 }
 
 void TestModem::anAnswerThatTheBusGaveUpIsAskedForAgain_data()
