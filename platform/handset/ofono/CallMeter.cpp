@@ -46,6 +46,12 @@ bool priceOf(double value, charging::UnitPrice &price)
 
 } // namespace
 
+bool CallMeter::Values::isNothing() const
+{
+    return accumulated.value_or(0) == 0 && maximum.value_or(0) == 0 &&
+           price.value_or(charging::UnitPrice()).isZero() && currency.value_or(QString()).isEmpty();
+}
+
 CallMeter::CallMeter(OfonoModem &owner, int longestWaitMs)
     : modem(owner)
     , waitMs(longestWaitMs)
@@ -65,6 +71,7 @@ void CallMeter::appearOrVanish()
 {
     if (isThere() != (life != nullptr)) {
         values = {};
+        isCardKnown = false;
         isMeterAsked = isThere();
         life.reset(isThere() ? new QObject : nullptr);
         refresh();
@@ -101,6 +108,7 @@ void CallMeter::take(const QString &name, const QVariant &value)
     } else if (QString text; name == QLatin1String("Currency") && reader.take(told, value, text)) {
         values.currency = text;
     }
+    isCardKnown = isCardKnown || !values.isNothing();
 }
 
 // The current call's meter is news when it is told by itself only: in a list it may be the last call's.
@@ -110,8 +118,8 @@ void CallMeter::takeAll(const QVariantMap &all)
         if (value.key() != QLatin1String("CallMeter"))
             take(value.key(), value.value());
     emit changed();
-    if (values.accumulated && all.contains(QStringLiteral("AccumulatedCallMeter")))
-        emit accumulatedRead(*values.accumulated);
+    if (accumulated() && all.contains(QStringLiteral("AccumulatedCallMeter")))
+        emit accumulatedRead(*accumulated());
 }
 
 void CallMeter::refresh()
@@ -216,10 +224,10 @@ CallMeter::Outcome CallMeter::ask(const Send &send)
                                              return;
                                          }
                                          outcome = outcomeOf(answer);
-                                         if (outcome == Outcome::Written)
-                                             readAgain();
-                                         else
-                                             done();
+                                         if (outcome != Outcome::Written)
+                                             return done();
+                                         isCardKnown = true;
+                                         readAgain();
                                      });
         };
         tryIt();

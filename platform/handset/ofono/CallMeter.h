@@ -40,11 +40,14 @@ public:
     bool isThere() const { return modem.has("CallMeter"); }
     /// The daemon has answered, with an error perhaps, what it was asked for when the interfaces appeared.
     bool isAnswered() const { return !isMeterAsked && !isSimAsked; }
-    /// Units. Nothing as long as the daemon has not told them; so all that follow.
-    std::optional<quint32> accumulated() const { return values.accumulated; }
-    std::optional<quint32> maximum() const { return values.maximum; } ///< 0: none
-    std::optional<charging::UnitPrice> price() const { return values.price; }
-    std::optional<QString> currency() const { return values.currency; }
+    /// Units. Nothing as long as the daemon has not told them, nor while all that it tells is zeros and no currency: that is
+    /// what it says of a card that it cannot read, too. So all that follow.
+    std::optional<quint32> accumulated() const { return known().accumulated; }
+    std::optional<quint32> maximum() const { return known().maximum; } ///< 0: none
+    std::optional<charging::UnitPrice> price() const { return known().price; }
+    std::optional<QString> currency() const { return known().currency; }
+    /// Likewise, and whether or not there is a card behind it.
+    std::optional<quint32> toldMaximum() const { return values.maximum; }
     /// That PIN2 has left.
     std::optional<int> tries() const { return pin2Tries; }
     /// Of PIN1, as the daemon names what is to be entered: "none", "pin", "puk", ...
@@ -81,9 +84,12 @@ private:
         std::optional<quint32> maximum;
         std::optional<charging::UnitPrice> price;
         std::optional<QString> currency;
+
+        bool isNothing() const;
     };
     using Send = std::function<QDBusPendingCall()>;
 
+    Values known() const { return isCardKnown ? values : Values(); }
     void appearOrVanish();
     void take(const QString &name, const QVariant &value);
     void takeAll(const QVariantMap &all);
@@ -96,6 +102,7 @@ private:
     OfonoModem &modem;
     const int waitMs;
     Values values;
+    bool isCardKnown = false; ///< has told, or taken, something
     std::optional<int> pin2Tries;
     QString required;
     bool isMeterAsked = false;

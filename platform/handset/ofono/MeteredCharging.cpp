@@ -231,7 +231,7 @@ int MeteredCharging::verifyPin(quint8 pin, const QByteArray &digits, bool &accep
 {
     if (pin != Pin2)
         return pin == Pin1 ? NotAvailable : InvalidArgument;
-    if (!meter.isThere() || !meter.maximum())
+    if (!meter.isThere() || !meter.toldMaximum())
         return NotAvailable;
     if (!charging::Pin2::isPin(digits))
         return InvalidArgument;
@@ -240,7 +240,7 @@ int MeteredCharging::verifyPin(quint8 pin, const QByteArray &digits, bool &accep
         return NotAllowed;
     pin2.drop();
     meter.beginSeries();
-    const CallMeter::Outcome outcome = meter.write(maximumProperty, *meter.maximum(), digits);
+    const CallMeter::Outcome outcome = meter.write(maximumProperty, *meter.toldMaximum(), digits);
     // Where nobody counts the tries, a wrong PIN2 is the likeliest reason.
     const bool isWrong = outcome == CallMeter::Outcome::Refused && (!before || meter.hasCostATry(*before));
     meter.endSeries();

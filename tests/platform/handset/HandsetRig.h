@@ -31,6 +31,8 @@ public:
     /// The files of the SIM's advice of charge can be read and written; else each is NotAvailable, and a charge type
     /// in the currency as well.
     virtual bool hasSimFiles() const { return true; }
+    /// That a new SIM has.
+    virtual QString newCurrency() const { return {}; }
     /// Rules that a SIM file may have.
     virtual QList<quint8> updateRules() const
     {

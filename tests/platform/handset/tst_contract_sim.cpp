@@ -52,7 +52,7 @@ void TestContractSim::aNewHandsetHasNoLimitAndNoPrice()
 {
     QCOMPARE(chargeType(), int(AdviceOfCharge::InUnits));
     QCOMPARE(limit(), (Limit{0, false}));
-    QCOMPARE(price(), (Price{0, QString()}));
+    QCOMPARE(price(), (Price{0, rig->newCurrency()}));
 }
 
 void TestContractSim::aNewHandsetAsksForPin2()

@@ -9,6 +9,7 @@ namespace {
 
 // Numbers of +CME ERROR.
 constexpr int operationNotAllowed = 3;
+constexpr int simFailure = 13;
 constexpr int incorrectPassword = 16;
 constexpr int simPuk2Required = 18;
 constexpr int notFound = 22;
@@ -639,6 +640,8 @@ Interpreter::Answer Interpreter::meters(const Request &request)
 
 Interpreter::Answer Interpreter::accumulatedMeter(const Request &request)
 {
+    if (request.form == Form::Read && !phone.sim.isMeterReadable)
+        return error(simFailure);
     if (request.form == Form::Read)
         return ok("+CACM: " + sixDigits(phone.sim.acm));
     return request.form == Form::Set ? accessAnswer(phone.sim.resetAcm(request.value(0))) : Answer{};
@@ -646,6 +649,8 @@ Interpreter::Answer Interpreter::accumulatedMeter(const Request &request)
 
 Interpreter::Answer Interpreter::maximum(const Request &request)
 {
+    if (request.form == Form::Read && !phone.sim.isMeterReadable)
+        return error(simFailure);
     if (request.form == Form::Read)
         return ok("+CAMM: " + sixDigits(phone.sim.acmMax));
     if (request.form != Form::Set)
@@ -657,6 +662,8 @@ Interpreter::Answer Interpreter::maximum(const Request &request)
 
 Interpreter::Answer Interpreter::price(const Request &request)
 {
+    if (request.form == Form::Read && !phone.sim.isMeterReadable)
+        return error(simFailure);
     if (request.form == Form::Read)
         return ok("+CPUC: " + quoted(phone.sim.currency) + ',' + quoted(phone.sim.price.text()));
     if (request.form != Form::Set)

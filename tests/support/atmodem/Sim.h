@@ -48,6 +48,7 @@ public:
     /// True when there is a maximum, and the accumulated meter has reached it.
     bool isAtMaximum() const { return acmMax != 0 && acm >= acmMax; }
 
+    bool isMeterReadable = true; ///< false: its files of advice of charge are missing or broken
     QByteArray imsi = "262017890123456";
     QByteArray iccid = "8949020000012345678";
     unsigned acm = 0;

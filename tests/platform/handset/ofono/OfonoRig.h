@@ -69,6 +69,8 @@ public:
     QStringList lackingRoles() const override { return {QStringLiteral("DataCalls")}; }
     bool hasSimFiles() const override { return true; }
     QList<quint8> updateRules() const override { return {AdviceOfCharge::UpdateUnderPin2}; }
+    /// Of a card that has none and only zeros the daemon says what it says of one that it cannot read.
+    QString newCurrency() const override { return QStringLiteral("EUR"); }
     bool asksForPin2EachTime() const override { return true; }
     bool hasAccount() const override { return false; }
     bool setUpdateRule(quint8, quint8 rule) override { return rule == AdviceOfCharge::UpdateUnderPin2; }
@@ -118,7 +120,7 @@ private:
         fake->answers[QStringLiteral("CallMeter")] = {{QStringLiteral("AccumulatedCallMeter"), 0U},
                                                       {QStringLiteral("AccumulatedCallMeterMaximum"), 0U},
                                                       {QStringLiteral("PricePerUnit"), 0.0},
-                                                      {QStringLiteral("Currency"), QString()}};
+                                                      {QStringLiteral("Currency"), newCurrency()}};
         fake->answers[QStringLiteral("SimManager")] = {
             {QStringLiteral("PinRequired"), QStringLiteral("none")},
             {QStringLiteral("Retries"),

@@ -30,6 +30,13 @@ QVariant retries(int pin2)
     return QVariant::fromValue(QMap<QString, uchar>{{QStringLiteral("pin2"), static_cast<uchar>(pin2)}});
 }
 
+/// As the daemon tells it, and one that cannot be read.
+const QVariantMap emptyCard{{"CallMeter", 0U},
+                            {"AccumulatedCallMeter", 0U},
+                            {"AccumulatedCallMeterMaximum", 0U},
+                            {"PricePerUnit", 0.0},
+                            {"Currency", ""}};
+
 /// However busy the machine is.
 template <typename Condition>
 bool waitFor(Condition condition)
@@ -66,6 +73,11 @@ public:
         if (!hasTold)
             qInfo().noquote() << "the daemon was asked" << fake.asked.join(QStringLiteral(", "));
         return hasTold;
+    }
+    /// It has, whether or not that is something.
+    bool isAnswered()
+    {
+        return waitFor([this] { return phone->callMeter().isAnswered() && phone->callMeter().toldMaximum(); });
     }
     AdviceOfCharge &advice() { return *phone->adviceOfCharge(); }
     SimSecurity &sim() { return *phone->simSecurity(); }
@@ -167,6 +179,8 @@ private slots:
     void aModemThatIsUnpluggedComesBackWithItsMeter_data();
     void aModemThatIsUnpluggedComesBackWithItsMeter();
     void aFigureThatIsNotToldIsNotAvailable();
+    void aCardThatCannotBeReadHasNoFigures();
+    void aCardWithNothingOnItIsKnownOnceItHasBeenWritten();
     void aFigureOfAWrongTypeIsNotAvailableAndToldOnce_data();
     void aFigureOfAWrongTypeIsNotAvailableAndToldOnce();
     void aDialedCallCostsWhatTheMeterComesToMore();
@@ -327,6 +341,45 @@ void TestCharge::aFigureThatIsNotToldIsNotAvailable()
     QCOMPARE(desk.sim().verifyPin(SimSecurity::Pin2, "1234", accepted), int(NotAvailable));
     quint32 status = 0;
     QCOMPARE(desk.sim().pinStatus(SimSecurity::Pin1, status), int(NotAvailable));
+}
+
+// What ofonod answers then: no error, and zeros.
+void TestCharge::aCardThatCannotBeReadHasNoFigures()
+{
+    Desk desk;
+    desk.fake.answers["CallMeter"] = emptyCard;
+    QVERIFY(desk.isAnswered());
+    QCOMPARE(desk.costs(), "0.00 0.00 0.00 -2");
+    QCOMPARE(desk.maximum(), "-2");
+    QCOMPARE(desk.price(), "-2");
+    QCOMPARE(desk.pinStatus(), "1/3");
+    // What stands on it all the while no call has cost.
+    QVERIFY(desk.connectCall(one, "dialing"));
+    desk.count(40);
+    desk.end(one);
+    QTRY_COMPARE(desk.costs(), "0.00 0.00 0.00 40.00");
+    QCOMPARE(desk.maximum(), "0.00 off");
+    desk.count(0);
+    QVERIFY(desk.connectCall(two, "dialing"));
+    QTRY_COMPARE(desk.costs(), "0.00 0.00 0.00 0.00"); // a card that has been read may come to zero
+}
+
+void TestCharge::aCardWithNothingOnItIsKnownOnceItHasBeenWritten()
+{
+    Desk desk;
+    desk.fake.answers["CallMeter"] = emptyCard;
+    QVERIFY(desk.isAnswered());
+    QVERIFY(desk.enterPin());
+    QCOMPARE(desk.costs(), "0.00 0.00 0.00 0.00");
+    QCOMPARE(desk.maximum(), "0.00 off");
+    QCOMPARE(desk.advice().setPriceAndCurrency("0.25", "EUR"), int(Success));
+    QCOMPARE(desk.price(), "0.25 EUR");
+    desk.fake.setInterfaces({"VoiceCallManager", "SimManager"});
+    QTRY_COMPARE(desk.maximum(), "-2");
+    desk.fake.answers["CallMeter"] = emptyCard;
+    desk.fake.setInterfaces(all);
+    QVERIFY(desk.isAnswered());
+    QCOMPARE(desk.maximum(), "-2"); // it may be another one
 }
 
 void TestCharge::aFigureOfAWrongTypeIsNotAvailableAndToldOnce_data()

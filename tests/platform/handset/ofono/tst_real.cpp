@@ -44,6 +44,7 @@ private slots:
     void bytesAreThoseOfTheInterface();
     void aCallEndsWithTheDaemonAndTheNextOneIsSeen();
     void aCallEndsWithTheModemThatIsUnpluggedAndTheNextOneIsSeen();
+    void aCardThatCannotBeReadHasNoFigures();
 
 private:
     void lead(const std::function<void(AtPhone &)> &how) { daemon->modem().withPhone(how); }
@@ -349,6 +350,24 @@ void TestReal::aCallEndsWithTheModemThatIsUnpluggedAndTheNextOneIsSeen()
     lead([](AtPhone &there) { there.hangUpThere(); });
     COMES_ABOUT(!phase());
     QCOMPARE(row(), "1:5550006:1");
+}
+
+void TestReal::aCardThatCannotBeReadHasNoFigures()
+{
+    const auto readsAgain = [&](bool isReadable) {
+        lead([isReadable](AtPhone &there) { there.sim.isMeterReadable = isReadable; });
+        daemon->modem().with([](atmodem::Modem &all) { all.unplug(); });
+        COMES_ABOUT(!phone->callMeter().isThere());
+        daemon->modem().with([](atmodem::Modem &all) { all.plugIn(); });
+        QVERIFY2(daemon->bringUpModem(), daemon->story().constData());
+        COMES_ABOUT(phone->callMeter().isAnswered() && phone->callMeter().toldMaximum());
+    };
+    const QString notAvailable = QStringLiteral("-%1").arg(NotAvailable);
+    readsAgain(false);
+    QCOMPARE(phone->callMeter().toldMaximum(), 0U);
+    QCOMPARE(cost(&CallLog::allCallsCost), notAvailable);
+    readsAgain(true);
+    QVERIFY(cost(&CallLog::allCallsCost) != notAvailable);
 }
 
 KAV_TEST_GROUP(TestReal, QCoreApplication);
