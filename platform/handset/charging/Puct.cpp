@@ -61,7 +61,7 @@ Puct decodePuct(const PuctBytes &bytes)
     Puct puct;
     puct.currency = decodeCurrency(bytes);
     // Twelve bits and three bits with a sign are always in range.
-    UnitPrice::fromParts(eppu, bytes[4] & negative ? -magnitude : magnitude, puct.price);
+    UnitPrice::fromParts(eppu, (bytes[4] & negative) != 0 ? -magnitude : magnitude, puct.price);
     return puct;
 }
 

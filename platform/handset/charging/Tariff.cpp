@@ -34,11 +34,9 @@ Wide timelessTenths(const Tariff &tariff, quint64 segments)
     return tariff.unitsAtStart + Wide{tariff.unitsPerDataInterval} * intervals;
 }
 
-// The ticks after which so many intervals are complete.
+// The ticks after which so many intervals, one at least, are complete.
 std::optional<quint64> ticksFor(const Tariff &tariff, quint64 intervals)
 {
-    if (intervals == 0)
-        return 0;
     const quint16 first = lengthOfFirst(tariff);
     if (first == 0 || (intervals > 1 && tariff.interval == 0))
         return std::nullopt;

@@ -114,6 +114,7 @@ void TestAmountText::theLongestAmountFitsTheCallersBuffer()
     const QByteArray longest = amount(std::numeric_limits<quint64>::max(), inCurrency, priceOf("40950000000"));
     QCOMPARE(longest, QByteArray("755394169818406138634250000000.00"));
     QVERIFY(longest.size() <= longestAmountText);
+    QCOMPARE(longestAmountText, qsizetype{50 - 1}); // the phone's screens have 50 bytes, and a NUL behind the text
 }
 
 void TestAmountText::anAmountIsTheSameInEveryLanguage()

@@ -45,6 +45,9 @@ class TestChargingState : public QObject
 
 private slots:
     void aRecordIsReadBack();
+    void aRecordStaysWhatLaterVersionsRead();
+    void whatWasNeverWrittenIsKnown();
+    void aCallToAnEmergencyNumberCostsNothing();
     void aRecordWithAnythingOutOfItsRangeIsNone_data();
     void aRecordWithAnythingOutOfItsRangeIsNone();
     void aCallThatMayCostMoreThanTheMeterHoldsHasNoEnd();
@@ -58,6 +61,40 @@ void TestChargingState::aRecordIsReadBack()
     ChargingState read;
     QVERIFY(readCharging(record, read));
     QVERIFY(isSameCharging(read, prepaid()));
+}
+
+// Another text, and what earlier versions have kept could not be read.
+void TestChargingState::aRecordStaysWhatLaterVersionsRead()
+{
+    ChargingState state = prepaid();
+    state.account->expires = {2031, 12, 31};
+    const QByteArray record =
+        "{\"answered\":[0,0,100,0,0,0,0],\"chargeType\":1,\"check\":\"CHECK\",\"credit\":500,"
+        "\"deposit\":1000,\"dialed\":[10,100,100,0,0,0,0],\"expires\":[2031,12,31],\"version\":2}";
+    const QByteArray kept = checked(QJsonDocument::fromJson(record).object());
+    QCOMPARE(chargingRecord(state), kept);
+    ChargingState read;
+    QVERIFY(readCharging(kept, read));
+    QVERIFY(isSameCharging(read, state));
+}
+
+// In a new call log.
+void TestChargingState::whatWasNeverWrittenIsKnown()
+{
+    QVERIFY(isNeverWritten("new"));
+    for (const char *other : {"", "ne", "news", "New", "{}"})
+        QVERIFY(!isNeverWritten(other));
+}
+
+void TestChargingState::aCallToAnEmergencyNumberCostsNothing()
+{
+    const ChargingState state;
+    const Tariff usual = state.tariff(CallDirection::Dialed);
+    QVERIFY(!(usual == Tariff()));
+    for (const char *number : {"112", "911"})
+        QVERIFY(state.tariffOf({CallKind::Voice, CallDirection::Dialed, QLatin1String(number)}) == Tariff());
+    for (const char *number : {"", "11", "1123", "91", "112x"})
+        QVERIFY(state.tariffOf({CallKind::Voice, CallDirection::Dialed, QLatin1String(number)}) == usual);
 }
 
 void TestChargingState::aRecordWithAnythingOutOfItsRangeIsNone_data()
