@@ -54,7 +54,7 @@ public:
     void draw(QPainter &painter, const QRect &place, Qt::Alignment side) const
     {
         const qreal free = place.width() - line.horizontalAdvance();
-        const qreal left = side & Qt::AlignRight ? free : side & Qt::AlignHCenter ? free / 2 : 0;
+        const qreal left = side.testFlag(Qt::AlignRight) ? free : side.testFlag(Qt::AlignHCenter) ? free / 2 : 0;
         const qreal height = line.ascent() + line.descent(); // line.height() is rounded up
         line.draw(&painter, QPointF(place.left() + left, place.top() + (place.height() - height) / 2));
     }

@@ -1,6 +1,7 @@
 // Catalogues that a disk, a transfer or somebody has damaged.
 #include "host/HostProcess.h"
 #include "language/Catalogue.h"
+#include "language/ReadFile.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QFile>
@@ -8,6 +9,8 @@
 #include <QtCore/QTranslator>
 #include <QtCore/QtEndian>
 #include <QtTest/QTest>
+
+#include <cerrno>
 
 namespace {
 
@@ -105,6 +108,7 @@ class TestCatalogue : public QObject
 
 private slots:
     void whatLreleaseMakesIsWhole();
+    void aFileThatCannotBeReadIsSaid();
     void damageIsFound_data();
     void damageIsFound();
     void aTableOfContextsThatIsWholeIsTaken();
@@ -285,6 +289,14 @@ void TestCatalogue::theProgramSaysThatACatalogueHasNoTexts()
     QCOMPARE(result.code, 8);
     QVERIFY2(result.errors.contains(QStringLiteral("empty.qm\" cannot be loaded: it has no texts.")),
              qPrintable(result.errors));
+}
+
+// The memory of this process, of which nothing is at its beginning.
+void TestCatalogue::aFileThatCannotBeReadIsSaid()
+{
+    QByteArray bytes;
+    const QString why = language::readFile(QStringLiteral("/proc/self/mem"), 1024, bytes);
+    QCOMPARE(why, qt_error_string(EIO));
 }
 
 KAV_TEST_GROUP(TestCatalogue, QCoreApplication);

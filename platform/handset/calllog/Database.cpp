@@ -6,12 +6,12 @@
 #include <QtCore/QLoggingCategory>
 
 #include <cerrno>
+#include <chrono>
 #include <cstring>
+#include <thread>
 #include <utility>
 
 #include <sqlite3.h>
-
-#include <unistd.h>
 
 namespace handset::calllog {
 
@@ -92,7 +92,7 @@ int Database::waitInSqlite(void *self, int tries)
         return database.waitForOthers() ? 1 : 0;
     if (tries >= database.patienceMs / betweenTriesMs)
         return 0;
-    ::usleep(betweenTriesMs * 1000);
+    std::this_thread::sleep_for(std::chrono::milliseconds(betweenTriesMs));
     return 1;
 }
 

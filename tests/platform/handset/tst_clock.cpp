@@ -39,6 +39,7 @@ private slots:
 
     void theMonotonicClockNeverGoesBack();
     void theMonotonicClockCountsThroughSuspend();
+    void aSteadyClockStopsAtTheEndOfAllNumbers();
     void theBootIsTheKernelsInEveryProcess();
     void theWallClockIsUtcInEveryTimeZone_data();
     void theWallClockIsUtcInEveryTimeZone();
@@ -67,6 +68,20 @@ void TestClock::theMonotonicClockCountsThroughSuspend()
 }
 
 // As another program reads it, and without the end of the line: it is compared with what a row has kept.
+// The clock of a host may read whatever it likes.
+void TestClock::aSteadyClockStopsAtTheEndOfAllNumbers()
+{
+    constexpr qint64 first = std::numeric_limits<qint64>::min();
+    constexpr qint64 last = std::numeric_limits<qint64>::max(); // further off than a number can say
+    const auto clock = std::make_shared<ManualClock>();
+    clock->reboot(first);
+    const SteadyClock steady(clock);
+    clock->reboot(last);
+    QCOMPARE(steady.monotonicMs(), first + last);
+    clock->reboot(first);
+    QCOMPARE(steady.monotonicMs(), first + last);
+}
+
 void TestClock::theBootIsTheKernelsInEveryProcess()
 {
     QProcess reader;

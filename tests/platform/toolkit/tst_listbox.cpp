@@ -100,6 +100,8 @@ private slots:
     void anIndexThatIsNotThereGivesNoRow();
     void whatCannotBeInsertedIsRefusedWithAWarning();
     void theListDeletesAllItemsMadeOnItInsertedOrNot();
+    void theModelHasRowsAndNothingBelowThem();
+    void textsOfTheSamePlaceStandBesideEachOther();
     void aDeletedItemTakesItsRowAlong();
     void anItemThatOutlivesItsListKnowsOfNone();
     void clearDeletesTheRowsAndLeavesTheListUsable();
@@ -224,6 +226,26 @@ void TestListBox::theListDeletesAllItemsMadeOnItInsertedOrNot()
         QCOMPARE(livingItems, 10);
     }
     QCOMPARE(livingItems, 0);
+}
+
+void TestListBox::theModelHasRowsAndNothingBelowThem()
+{
+    ListScreen screen;
+    screen.addRows(2);
+    const QAbstractItemModel *const model = screen.list->model();
+    QCOMPARE(model->rowCount(), 2);
+    QCOMPARE(model->rowCount(model->index(0, 0)), 0);
+    QVERIFY(!model->data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
+void TestListBox::textsOfTheSamePlaceStandBesideEachOther()
+{
+    ListScreen screen;
+    ZSettingItem *item = screen.addRow(QStringLiteral("Credit"), QStringLiteral("12.50"));
+    item->appendSubItem(0, QStringLiteral("EUR"), false, Value);
+    item->appendSubItem(0, QStringLiteral("left"), false, Title);
+    QCOMPARE(item->value(), QStringLiteral("12.50 EUR"));
+    QCOMPARE(item->title(), QStringLiteral("Credit left"));
 }
 
 void TestListBox::aDeletedItemTakesItsRowAlong()

@@ -196,6 +196,8 @@ void TestScreen::theInstalledBarLiesAtTheFootUntilAnotherTakesItsPlace()
     QCOMPARE(second->parentWidget(), &screen);
     QVERIFY(second->isVisible());
     QVERIFY(!screen.bar->isVisible());
+    screen.setCSTWidget(second);
+    QVERIFY(second->isVisible());
     QSignalSpy first(screen.bar, &ZSoftKey::leftClicked);
     QSignalSpy later(second, &ZSoftKey::leftClicked);
     click(&screen, Qt::Key_Context1);

@@ -302,6 +302,9 @@ void TestCommand::wrongUsageIsRefusedWithItsReason_data()
     QTest::newRow("two data blocks") << Arguments{"send", phone, "m", "--data", "a", "--data-hex", "00"}
                                      << QByteArray("there is more than one data block: --data-hex");
     QTest::newRow("an odd digit") << Arguments{"send", phone, "m", "--data-hex", "abc"} << hex + "abc";
+    QTest::newRow("what stands before all digits")
+        << Arguments{"send", phone, "m", "--data-hex", "/0"} << hex + "/0";
+    QTest::newRow("what stands between them") << Arguments{"send", phone, "m", "--data-hex", "0:"} << hex + "0:";
     QTest::newRow("a digit that is none") << Arguments{"send", phone, "m", "--data-hex", "0g"} << hex + "0g";
     QTest::newRow("a count of none") << Arguments{"listen", phone, "--count", "0"} << count + "0";
     QTest::newRow("a count below none") << Arguments{"listen", phone, "--count", "-1"} << count + "-1";

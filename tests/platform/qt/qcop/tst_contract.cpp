@@ -94,6 +94,7 @@ private slots:
     void slotsCanBeConnectedByTheirText_data();
     void slotsCanBeConnectedByTheirText();
     void aChannelKnowsItsNames();
+    void anEventOfSomebodyElseIsNoMessage();
     void tenThousandChannelsLeaveNoMemoryBehind();
     void tenThousandMessagesLeaveNoMemoryBehind();
 
@@ -400,6 +401,15 @@ void TestContract::aChannelKnowsItsNames()
     QCOMPARE(channel->objectName(), QString::fromLatin1("\xe9t\xe9"));
     QCOMPARE(channel->className(), "QCopChannel");
     QVERIFY(QCopChannel(phone).objectName().isEmpty());
+}
+
+void TestContract::anEventOfSomebodyElseIsNoMessage()
+{
+    QCopChannel channel("/KAV/phone");
+    const QSignalSpy spy(&channel, SIGNAL(received(QCString, QByteArray)));
+    QEvent event(static_cast<QEvent::Type>(QEvent::registerEventType()));
+    QCoreApplication::sendEvent(&channel, &event);
+    QCOMPARE(spy.size(), 0);
 }
 
 void TestContract::tenThousandChannelsLeaveNoMemoryBehind()

@@ -27,6 +27,13 @@ constexpr qint64 headerSize = 100;
 constexpr qint64 firstPages = qint64{3} * 4096;
 constexpr Date goodUntil{2030, 1, 1};
 
+// A write-ahead log: a header, and the pages, each behind a header of its own.
+constexpr qint64 aheadHeaderSize = 32;
+constexpr qint64 frameSize = 24 + 4096;
+
+const QString logFile = QStringLiteral("calllog.db");
+const QString aheadFile = QStringLiteral("calllog.db-wal");
+
 struct Change {
     qint64 position;
     char value;
@@ -52,6 +59,22 @@ QByteArray grownLog()
            phone.log().resetDialedCallsTime() == Success && phone->addHistory(calls) == Success;
     phone.close();
     return done ? test::readFile(state.database()) : QByteArray();
+}
+
+/// The same, killed after this and that, which stands in the write-ahead log.
+Files killedLog()
+{
+    const StateDir state;
+    putInto(state.path(), {{logFile, grownLog()}});
+    Phone phone(state.path());
+    bool accepted = true;
+    const bool done = phone && phone.dialed(5000) && phone.answered(7000) && phone.session(3000, "x", 10, 20) &&
+                      phone->charging()->topUp(QStringLiteral("70"), goodUntil) == Success &&
+                      phone->simCard().verifyPin(SimSecurity::Pin2, "1111", accepted) == Success &&
+                      phone.log().resetAnsweredCallsTime() == Success && phone.dialed(9000);
+    return done ? Files{{logFile, test::readFile(state.database())},
+                        {aheadFile, test::readFile(state.file(aheadFile))}}
+                : Files();
 }
 
 QByteArray amount(int (CallLog::*ask)(QByteArray &), CallLog &log)
@@ -113,13 +136,18 @@ bool isUnknowable(const QByteArray &now, const QByteArray &before)
     return true;
 }
 
-/// In the process of its own: says "told", "harmless", "unknowable", or what differs.
+QByteArray difference(const QByteArray &now, const QByteArray &before)
+{
+    return "\"" + now + "\" instead of \"" + before + '"';
+}
+
+// In the process of its own: says "told", "harmless", "unknowable", or what differs.
 void tryChange(const QByteArray &log, const Change &change, const QByteArrayList &before, Journal &journal)
 {
     QByteArray changed = log;
     changed[change.position] = change.value;
     const StateDir state;
-    putInto(state.path(), {{QStringLiteral("calllog.db"), changed}});
+    putInto(state.path(), {{logFile, changed}});
     Phone phone(state.path());
     if (!phone || !phone.opened.notice.isEmpty())
         return journal.say("told");
@@ -130,7 +158,7 @@ void tryChange(const QByteArray &log, const Change &change, const QByteArrayList
             continue;
         isUnknown = isUnknowable(now.value(i), before.value(i));
         if (!isUnknown)
-            return journal.say("\"" + now.value(i) + "\" instead of \"" + before.value(i) + '"');
+            return journal.say(difference(now.value(i), before.value(i)));
     }
     // It can be used as before.
     if (!phone.dialed(3000))
@@ -138,10 +166,66 @@ void tryChange(const QByteArray &log, const Change &change, const QByteArrayList
     journal.say(isUnknown ? "unknowable" : "harmless");
 }
 
-// All of the header, as many as are left from the first pages, and those from anywhere; all there are when that is fewer.
-std::vector<Change> chosen(const QByteArray &log, qsizetype count, quint32 seed)
+QByteArrayList figuresOf(const Files &files)
 {
-    std::mt19937 random(seed);
+    const StateDir state;
+    putInto(state.path(), files);
+    const Phone phone(state.path());
+    return phone && phone.opened.notice.isEmpty() ? figures(phone) : QByteArrayList();
+}
+
+// Likewise.
+void tryChangeAhead(const Files &log, const Change &change, const QByteArrayList &before, Journal &journal)
+{
+    Files changed = log;
+    changed[1].second[change.position] = change.value;
+    const StateDir state;
+    putInto(state.path(), changed);
+    Phone phone(state.path());
+    if (!phone || !phone.opened.notice.isEmpty())
+        return journal.say("told");
+    const QByteArrayList now = figures(phone);
+    if (!phone.dialed(3000))
+        return journal.say("no call can be made");
+    if (now == before)
+        return journal.say("harmless");
+    Files cut = log;
+    const qint64 frame = (change.position - aheadHeaderSize) / frameSize;
+    cut[1].second.truncate(change.position < aheadHeaderSize ? 0 : aheadHeaderSize + frame * frameSize);
+    const QByteArrayList expected = figuresOf(cut);
+    if (now == expected)
+        return journal.say("unknowable");
+    for (qsizetype i = 0; i < std::max(now.size(), expected.size()); ++i)
+        if (now.value(i) != expected.value(i))
+            return journal.say(difference(now.value(i), expected.value(i)));
+}
+
+// Where the pages say what they are, and the words by which rows and what is kept are found.
+std::vector<qint64> headersAndKeys(const QByteArray &log)
+{
+    constexpr qint64 pageSize = 4096;
+    constexpr qint64 pageHeaderSize = 12;
+    std::vector<qint64> positions;
+    const auto add = [&](qint64 from, qint64 size) {
+        for (qint64 at = std::max(from, headerSize); at < std::min<qint64>(from + size, log.size()); ++at)
+            positions.push_back(at);
+    };
+    for (qint64 page = 0; page < log.size(); page += pageSize)
+        add(page == 0 ? headerSize : page, pageHeaderSize);
+    for (const QByteArrayView key :
+         {"last", "dialed", "answered", "lifetime", "duration", "received", "sent", "units", "calls", "card",
+          "charging", "chargeType", "credit", "deposit", "expires", "check", "version"})
+        for (qsizetype at = log.indexOf(key); at >= 0; at = log.indexOf(key, at + 1))
+            add(at, key.size());
+    std::sort(positions.begin(), positions.end());
+    positions.erase(std::unique(positions.begin(), positions.end()), positions.end());
+    return positions;
+}
+
+// All of the header, of its pages' headers and keys up to a third, as many as are left from the first pages, and those from
+// anywhere; all there are when that is fewer.
+std::vector<qint64> chosen(const QByteArray &log, qsizetype count, std::mt19937 &random)
+{
     std::vector<qint64> positions;
     for (qint64 at = headerSize; at < log.size(); ++at)
         positions.push_back(at);
@@ -149,14 +233,63 @@ std::vector<Change> chosen(const QByteArray &log, qsizetype count, quint32 seed)
     std::shuffle(positions.begin(), positions.begin() + first, random);
     const auto half = std::min<std::ptrdiff_t>(std::max<qsizetype>(count - headerSize, 0) / 2, first);
     std::shuffle(positions.begin() + half, positions.end(), random);
+    std::vector<qint64> special = headersAndKeys(log);
+    std::shuffle(special.begin(), special.end(), random);
+    special.resize(std::min<std::size_t>(special.size(), static_cast<std::size_t>(count / 3)));
+    positions.insert(positions.begin(), special.begin(), special.end());
     positions.resize(
         static_cast<std::size_t>(std::clamp<qsizetype>(count - headerSize, 0, std::ssize(positions))));
     for (qint64 at = 0; at < std::min<qint64>(headerSize, count); ++at)
         positions.push_back(at);
+    return positions;
+}
+
+std::vector<qint64> chosenAhead(const QByteArray &log, qsizetype count, std::mt19937 &random)
+{
+    std::vector<qint64> positions;
+    for (qint64 at = aheadHeaderSize; at < log.size(); ++at)
+        positions.push_back(at);
+    std::shuffle(positions.begin(), positions.end(), random);
+    for (qint64 at = 0; at < aheadHeaderSize; ++at)
+        positions.insert(positions.begin(), at);
+    positions.resize(static_cast<std::size_t>(std::clamp<qsizetype>(count, 0, std::ssize(positions))));
+    return positions;
+}
+
+std::vector<Change> changesAt(const QByteArray &log, const std::vector<qint64> &positions, std::mt19937 &random)
+{
     std::vector<Change> changes;
+    changes.reserve(positions.size());
     for (const qint64 at : positions)
         changes.push_back({at, static_cast<char>(log[at] ^ static_cast<char>(1 + random() % 255))});
     return changes;
+}
+
+// Tries each in a process of its own, and counts what they say.
+template <typename Try>
+int tell(const std::vector<Change> &changes, const char *repeat, const char *what, Try tryOne)
+{
+    long told = 0;
+    long harmless = 0;
+    long unknowable = 0;
+    Journal journal;
+    for (const Change &change : changes) {
+        journal.clear();
+        const int status = inProcess([&] { tryOne(change, journal); });
+        const QByteArray outcome =
+            status == 0 ? journal.lines().value(0) : QByteArray("the process broke or hung");
+        told += outcome == "told" ? 1 : 0;
+        harmless += outcome == "harmless" ? 1 : 0;
+        unknowable += outcome == "unknowable" ? 1 : 0;
+        if (outcome != "told" && outcome != "harmless" && outcome != "unknowable")
+            std::printf("scripts/faults %s %lld --value %d\n    %s\n", repeat,
+                        static_cast<long long>(change.position), static_cast<unsigned char>(change.value),
+                        outcome.constData());
+    }
+    const long silent = std::ssize(changes) - told - harmless - unknowable;
+    std::printf("%zd positions of %s: %ld harmless, %ld told, %ld that cannot be known, %ld neither\n",
+                std::ssize(changes), what, harmless, told, unknowable, silent);
+    return silent == 0 ? 0 : 1;
 }
 
 } // namespace
@@ -164,38 +297,30 @@ std::vector<Change> chosen(const QByteArray &log, qsizetype count, quint32 seed)
 int changeBytes(qsizetype count, quint32 seed, qint64 position, int value)
 {
     const QByteArray log = grownLog();
-    QByteArrayList before;
-    {
-        const StateDir state;
-        putInto(state.path(), {{QStringLiteral("calllog.db"), log}});
-        const Phone phone(state.path());
-        if (!phone || !phone.opened.notice.isEmpty())
-            return 2;
-        before = figures(phone);
-    }
-    std::vector<Change> changes = chosen(log, count, seed);
+    const QByteArrayList before = figuresOf({{logFile, log}});
+    if (before.isEmpty())
+        return 2;
+    std::mt19937 random(seed);
+    std::vector<Change> changes = changesAt(log, chosen(log, count, random), random);
     if (position >= 0 && position < log.size())
         changes = {{position, static_cast<char>(value)}};
-    long told = 0;
-    long harmless = 0;
-    long unknowable = 0;
-    Journal journal;
-    for (const Change &change : changes) {
-        journal.clear();
-        const int status = inProcess([&] { tryChange(log, change, before, journal); });
-        const QByteArray outcome =
-            status == 0 ? journal.lines().value(0) : QByteArray("the process broke or hung");
-        told += outcome == "told" ? 1 : 0;
-        harmless += outcome == "harmless" ? 1 : 0;
-        unknowable += outcome == "unknowable" ? 1 : 0;
-        if (outcome != "told" && outcome != "harmless" && outcome != "unknowable")
-            std::printf("scripts/faults --at %lld --value %d\n    %s\n", static_cast<long long>(change.position),
-                        static_cast<unsigned char>(change.value), outcome.constData());
-    }
-    const long silent = std::ssize(changes) - told - harmless - unknowable;
-    std::printf("%zd positions of %lld bytes: %ld harmless, %ld told, %ld that cannot be known, %ld neither\n",
-                std::ssize(changes), static_cast<long long>(log.size()), harmless, told, unknowable, silent);
-    return silent == 0 ? 0 : 1;
+    return tell(changes, "--at", "a log",
+                [&](const Change &change, Journal &journal) { tryChange(log, change, before, journal); });
+}
+
+int changeBytesAhead(qsizetype count, quint32 seed, qint64 position, int value)
+{
+    const Files log = killedLog();
+    const QByteArrayList before = log.isEmpty() ? QByteArrayList() : figuresOf(log);
+    if (before.isEmpty())
+        return 2;
+    const QByteArray &ahead = log[1].second;
+    std::mt19937 random(seed);
+    std::vector<Change> changes = changesAt(ahead, chosenAhead(ahead, count, random), random);
+    if (position >= 0 && position < ahead.size())
+        changes = {{position, static_cast<char>(value)}};
+    return tell(changes, "--ahead --at", "its write-ahead log",
+                [&](const Change &change, Journal &journal) { tryChangeAhead(log, change, before, journal); });
 }
 
 } // namespace handset::faults

@@ -29,6 +29,7 @@ using namespace handset::faults;
 namespace {
 
 constexpr qsizetype allBytes = 5000; ///< that are tried where all is
+constexpr qsizetype aheadShare = 10; ///< of so many, one in the write-ahead log
 
 struct Way {
     const char *name;
@@ -77,7 +78,8 @@ struct Asked {
     quint32 seed = 1;
     int jobs = 1;
     bool isVerbose = false;
-    qsizetype bytes = 0; ///< positions to be changed instead
+    qsizetype bytes = 0;  ///< positions to be changed instead, and of a write-ahead log a part of as many
+    bool isAhead = false; ///< of `at`: in the write-ahead log
     qint64 at = -1;
     int value = 0;
 };
@@ -295,8 +297,11 @@ bool read(QCoreApplication &application, Asked &asked)
     option("nth", "Only the n-th such call.", "n");
     option("sample", "Tries no more than so many, some of each kind.", "number");
     option("seed", "Chooses the sample.", "number");
-    option("bytes", "Changes a byte at each of so many positions of a log, instead.", "number");
+    option("bytes",
+           "Changes a byte at each of so many positions of a log, and of a tenth in its write-ahead log, instead.",
+           "number");
     option("at", "The same, at this position alone, to --value.", "position");
+    parser.addOption({QStringLiteral("ahead"), QStringLiteral("Of --at: in the write-ahead log.")});
     option("value", "0 to 255.", "number");
     option("jobs", "So many at once.", "number");
     parser.addOption({QStringLiteral("verbose"), QStringLiteral("Prints what the processes of each scene say.")});
@@ -313,6 +318,7 @@ bool read(QCoreApplication &application, Asked &asked)
     if (asked.bytes > 0 && isAll)
         asked.bytes = std::max(asked.bytes, allBytes);
     asked.at = parser.isSet(QStringLiteral("at")) ? parser.value(QStringLiteral("at")).toLongLong() : -1;
+    asked.isAhead = parser.isSet(QStringLiteral("ahead"));
     asked.value = parser.value(QStringLiteral("value")).toInt();
     asked.jobs = std::max(1, parser.value(QStringLiteral("jobs")).toInt());
     asked.isVerbose = parser.isSet(QStringLiteral("verbose"));
@@ -326,8 +332,11 @@ int main(int argc, char **argv)
     QCoreApplication application(argc, argv);
     Asked asked;
     const bool isRun = read(application, asked);
-    if (asked.bytes > 0 || asked.at >= 0)
-        return changeBytes(asked.bytes, asked.seed, asked.at, asked.value);
+    if (asked.at >= 0)
+        return (asked.isAhead ? changeBytesAhead : changeBytes)(0, asked.seed, asked.at, asked.value);
+    if (asked.bytes > 0)
+        return std::max(changeBytes(asked.bytes, asked.seed, -1, 0),
+                        changeBytesAhead(asked.bytes / aheadShare, asked.seed, -1, 0));
     Prepared prepared{allScenes(), {}};
     for (const Scene &scene : prepared.scenes) {
         if (!isRun)
