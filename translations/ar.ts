@@ -2600,6 +2600,114 @@
         <translation>عملية أخرى</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>فشل</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>جارٍ التهيئة</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>مقفل</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>مقفل: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>مقفل: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>مقفل: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>مقفل: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>معطَّل</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>جارٍ التعطيل</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>جارٍ التشغيل</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>مشغَّل</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>جارٍ البحث عن شبكة</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>مسجَّل</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>جارٍ قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>غير مسجَّل</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>رفضته الشبكة</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>تجوال</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>غير متصل بالشبكة</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 لا يعمل</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>جارٍ سؤال %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>لا يوجد مودم</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 لا يسمح لهذا المستخدم بالتحدث معه</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 لا يذكر أجهزة المودم لديه</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>لا يوجد ناقل للنظام: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager لا يجيب</translation>
     </message>

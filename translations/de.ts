@@ -2600,6 +2600,114 @@
         <translation>einen anderen Prozess</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>gescheitert</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>wird vorbereitet</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>gesperrt: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>gesperrt: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>gesperrt: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>gesperrt: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>wird ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>wird eingeschaltet</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>eingeschaltet</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>sucht ein Netz</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>eingebucht</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>trennt die Verbindung</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>stellt die Verbindung her</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>nicht eingebucht</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>vom Netz abgewiesen</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>eingebucht in einem fremden Netz</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 läuft nicht</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>%1 wird gefragt</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>kein Modem</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 lässt diesen Benutzer nicht mit sich sprechen</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 nennt seine Modems nicht</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Es gibt keinen Systembus: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager antwortet nicht</translation>
     </message>

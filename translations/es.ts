@@ -2600,6 +2600,114 @@
         <translation>otro proceso</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>ha fallado</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>inicializando</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>bloqueado: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>bloqueado: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>bloqueado: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>bloqueado: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>desactivado</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>desactivando</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>activando</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>activado</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>buscando red</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>registrado</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>desconectando</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>conectando</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>conectado</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>no registrado</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>rechazado por la red</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>en itinerancia</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>sin conexión</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 no está en ejecución</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>preguntando a %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>ningún módem</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 no permite que este usuario hable con él</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 no indica sus módems</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>No hay bus del sistema: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager no responde</translation>
     </message>

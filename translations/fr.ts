@@ -2600,6 +2600,114 @@
         <translation>un autre processus</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>en échec</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>initialisation</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>verrouillé</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>verrouillé : PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>verrouillé : PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>verrouillé : PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>verrouillé : PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>désactivation</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>activation</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>activé</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>recherche d’un réseau</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>enregistré</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>déconnexion</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>connexion</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connecté</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>non enregistré</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>refusé par le réseau</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>en itinérance</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>hors ligne</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 n’est pas en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>%1 est interrogé</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>aucun modem</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 ne permet pas à cet utilisateur de lui parler</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 n’indique pas ses modems</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Il n’y a pas de bus système : %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager ne répond pas</translation>
     </message>

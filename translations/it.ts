@@ -2600,6 +2600,114 @@
         <translation>un altro processo</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>non riuscito</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>sconosciuto</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>in inizializzazione</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloccato</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>bloccato: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>bloccato: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>bloccato: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>bloccato: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>disattivato</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>in disattivazione</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>in attivazione</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>attivato</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>in ricerca di una rete</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>registrato</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>in disconnessione</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>in connessione</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connesso</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>non registrato</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>rifiutato dalla rete</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>in roaming</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>non in linea</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 non è in esecuzione</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>si interroga %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>nessun modem</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 non permette a questo utente di parlargli</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 non indica i suoi modem</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Non c’è un bus di sistema: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager non risponde</translation>
     </message>

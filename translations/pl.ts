@@ -2600,6 +2600,114 @@
         <translation>inny proces</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>niepowodzenie</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>nieznany</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>inicjowanie</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>zablokowany</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>zablokowany: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>zablokowany: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>zablokowany: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>zablokowany: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>wyłączony</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>wyłączanie</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>włączanie</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>włączony</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>szuka sieci</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>zarejestrowany</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>rozłączanie</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>łączenie</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>połączony</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>niezarejestrowany</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>odrzucony przez sieć</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>roaming</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 nie działa</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>pytanie do %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>brak modemu</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 nie pozwala temu użytkownikowi na rozmowę z nim</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 nie podaje swoich modemów</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Nie ma magistrali systemowej: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager nie odpowiada</translation>
     </message>

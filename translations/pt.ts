@@ -2600,6 +2600,114 @@
         <translation>outro processo</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>falhou</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>a inicializar</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>bloqueado: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>bloqueado: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>bloqueado: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>bloqueado: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>desativado</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>a desativar</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>a ativar</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>ativado</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>à procura de rede</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>registado</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>a desligar</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>a ligar</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>ligado</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>não registado</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>recusado pela rede</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>em roaming</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>offline</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 não está em execução</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>a perguntar a %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>nenhum modem</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 não permite que este utilizador fale com ele</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 não indica os seus modems</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Não há barramento do sistema: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>O ModemManager não responde</translation>
     </message>

@@ -2600,6 +2600,114 @@
         <translation>другой процесс</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>сбой</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>инициализация</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>заблокирован</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>заблокирован: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>заблокирован: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>заблокирован: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>заблокирован: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>выключен</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>выключается</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>включается</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>включён</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>поиск сети</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>зарегистрирован</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>отключается</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>подключается</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>подключён</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>не зарегистрирован</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>отклонён сетью</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>в роуминге</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>не в сети</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 не запущен</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>запрос к %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>модема нет</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 не разрешает этому пользователю обращаться к нему</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 не сообщает свои модемы</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Нет системной шины: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager не отвечает</translation>
     </message>

@@ -2600,6 +2600,114 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation type="unfinished"></translation>
     </message>

@@ -2600,6 +2600,114 @@
         <translation>başka bir süreç</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>başarısız</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>bilinmiyor</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>başlatılıyor</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>kilitli</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>kilitli: PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>kilitli: PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>kilitli: PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>kilitli: PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>kapalı</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>kapatılıyor</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>açılıyor</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>açık</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>ağ aranıyor</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>kayıtlı</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>bağlantı kesiliyor</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>bağlanıyor</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>bağlı</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>kayıtlı değil</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>ağ tarafından reddedildi</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>dolaşımda</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>çevrimdışı</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 çalışmıyor</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>%1 soruluyor</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>modem yok</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 bu kullanıcının kendisiyle konuşmasına izin vermiyor</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 modemlerini bildirmiyor</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>Sistem veri yolu yok: %1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager yanıt vermiyor</translation>
     </message>

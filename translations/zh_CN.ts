@@ -2600,6 +2600,114 @@
         <translation>另一个进程</translation>
     </message>
     <message>
+        <source>failed</source>
+        <translation>失败</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>initializing</source>
+        <translation>正在初始化</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>已锁定</translation>
+    </message>
+    <message>
+        <source>locked: PIN</source>
+        <translation>已锁定：PIN</translation>
+    </message>
+    <message>
+        <source>locked: PIN2</source>
+        <translation>已锁定：PIN2</translation>
+    </message>
+    <message>
+        <source>locked: PUK</source>
+        <translation>已锁定：PUK</translation>
+    </message>
+    <message>
+        <source>locked: PUK2</source>
+        <translation>已锁定：PUK2</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>已停用</translation>
+    </message>
+    <message>
+        <source>disabling</source>
+        <translation>正在停用</translation>
+    </message>
+    <message>
+        <source>enabling</source>
+        <translation>正在启用</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>已启用</translation>
+    </message>
+    <message>
+        <source>searching</source>
+        <translation>正在搜索网络</translation>
+    </message>
+    <message>
+        <source>registered</source>
+        <translation>已注册</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>正在断开</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>unregistered</source>
+        <translation>未注册</translation>
+    </message>
+    <message>
+        <source>denied</source>
+        <translation>被网络拒绝</translation>
+    </message>
+    <message>
+        <source>roaming</source>
+        <translation>漫游</translation>
+    </message>
+    <message>
+        <source>offline</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>%1 is not running</source>
+        <translation>%1 未运行</translation>
+    </message>
+    <message>
+        <source>asking %1</source>
+        <translation>正在询问 %1</translation>
+    </message>
+    <message>
+        <source>no modem</source>
+        <translation>没有调制解调器</translation>
+    </message>
+    <message>
+        <source>%1 does not let this user talk to it</source>
+        <translation>%1 不允许此用户与其通信</translation>
+    </message>
+    <message>
+        <source>%1 does not tell its modems</source>
+        <translation>%1 不提供其调制解调器</translation>
+    </message>
+    <message>
+        <source>There is no system bus: %1</source>
+        <translation>没有系统总线：%1</translation>
+    </message>
+    <message>
         <source>ModemManager does not answer</source>
         <translation>ModemManager 没有响应</translation>
     </message>

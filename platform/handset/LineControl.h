@@ -33,7 +33,7 @@ struct LineReport {
     bool hasModem = false;
     QString modem;               ///< its name, as the daemon has it; empty while there is none
     QString network;             ///< the operator; empty while there is none
-    QString status;              ///< "registered", "searching", ...: the daemon's own word; may be empty
+    QString status;              ///< "registered", "searching", ..., in the user's language; may be empty
     QList<LineCall> calls;       ///< those that are there now, connected ones first
     QList<LineSession> sessions; ///< likewise
     bool isRecorder = false;     ///< this process records them, and no other

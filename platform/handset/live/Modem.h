@@ -50,7 +50,7 @@ struct ModemState {
     bool isThere = false;
     QString name;    ///< of the modem, as the daemon has it
     QString network; ///< the operator; empty while there is none
-    QString status;  ///< "registered", "searching", ...: the daemon's own word
+    QString status;  ///< "registered", "searching", ..., in the user's language
 };
 
 /// One modem behind its daemon, from now on until the end of this, through every restart of the daemon. All of it on the

@@ -21,6 +21,7 @@ const QString modemInterface = QStringLiteral("org.freedesktop.ModemManager1.Mod
 const QString voiceInterface = QStringLiteral("org.freedesktop.ModemManager1.Modem.Voice");
 const QString networkInterface = QStringLiteral("org.freedesktop.ModemManager1.Modem.Modem3gpp");
 
+using live::NoModem;
 using Interfaces = QMap<QString, QVariantMap>;
 using Objects = QMap<QDBusObjectPath, Interfaces>;
 
@@ -36,7 +37,7 @@ std::optional<Objects> objectsIn(const QDBusMessage &answer)
 constexpr int stateLocked = 2;
 
 // Modem.State.
-QString stateInWords(int state)
+QString stateName(int state)
 {
     constexpr int first = -1;
     static const char *const words[] = {"failed",        "unknown",    "initializing", "locked",    "disabled",
@@ -47,7 +48,7 @@ QString stateInWords(int state)
 }
 
 // Modem.UnlockRequired, of a modem that is locked.
-QString lockInWords(quint32 lock)
+QString lockName(quint32 lock)
 {
     static const char *const words[] = {"locked",       "locked",      "locked: PIN",
                                         "locked: PIN2", "locked: PUK", "locked: PUK2"};
@@ -83,7 +84,7 @@ ModemManagerModem::ModemManagerModem(const QString &address, live::Patience wait
 {
     connect(&source, &live::BusDaemon::appeared, this, [this] { daemonAppeared(); });
     connect(&source, &live::BusDaemon::vanished, this, [this] {
-        manager = Manager::Missing;
+        whyNone = NoModem::DaemonIsNotRunning;
         modems.clear();
         loseModem();
         emit stateChanged();
@@ -95,7 +96,7 @@ ModemManagerModem::~ModemManagerModem() = default;
 QString ModemManagerModem::connectToBus(int longestMs)
 {
     isStarted = true;
-    return source.start(longestMs) ? QString() : QStringLiteral("There is no system bus: %1").arg(source.error());
+    return source.start(longestMs) ? QString() : live::noSystemBus(source.error());
 }
 
 void ModemManagerModem::start()
@@ -106,7 +107,7 @@ void ModemManagerModem::start()
 
 void ModemManagerModem::daemonAppeared()
 {
-    manager = Manager::Asked;
+    whyNone = NoModem::IsAsked;
     QDBusConnection bus = source.bus();
     bus.connect(source.owner(), rootPath, objectManager, QStringLiteral("InterfacesAdded"),
                 QStringLiteral("oa{sa{sv}}"), this, SLOT(interfacesAdded(QDBusMessage)));
@@ -134,12 +135,12 @@ void ModemManagerModem::listModems()
         const std::optional<Objects> objects = objectsIn(answer);
         if (!objects) {
             const bool isDenied = isError && QDBusError(answer).type() == QDBusError::AccessDenied;
-            manager = isDenied ? Manager::Closed : Manager::Unreadable;
+            whyNone = isDenied ? NoModem::IsClosed : NoModem::IsUntold;
             reading.warn("GetManagedObjects", isError ? answer.errorMessage() : answer.signature());
             emit stateChanged();
             return;
         }
-        manager = Manager::Known;
+        whyNone = NoModem::IsNone;
         for (auto object = objects->begin(); object != objects->end(); ++object)
             add(object.key().path(), object.value());
         choose();
@@ -215,7 +216,7 @@ void ModemManagerModem::loseModem()
 
 void ModemManagerModem::interfacesAdded(const QDBusMessage &message)
 {
-    if (manager != Manager::Known)
+    if (whyNone != NoModem::IsNone)
         return;
     const QList<QVariant> values = message.arguments();
     add(values.value(0).value<QDBusObjectPath>().path(), qdbus_cast<Interfaces>(values.value(1)));
@@ -225,7 +226,7 @@ void ModemManagerModem::interfacesAdded(const QDBusMessage &message)
 
 void ModemManagerModem::interfacesRemoved(const QDBusMessage &message)
 {
-    if (manager != Manager::Known)
+    if (whyNone != NoModem::IsNone)
         return;
     const QString path = message.arguments().value(0).value<QDBusObjectPath>().path();
     const auto modem = modems.find(path);
@@ -261,28 +262,11 @@ void ModemManagerModem::propertiesChanged(const QDBusMessage &message)
         emit stateChanged();
 }
 
-QString ModemManagerModem::whyNoModem() const
-{
-    switch (manager) {
-    case Manager::Missing:
-        return QStringLiteral("ModemManager is not running");
-    case Manager::Asked:
-        return QStringLiteral("asking ModemManager");
-    case Manager::Known:
-        return QStringLiteral("no modem");
-    case Manager::Closed:
-        return QStringLiteral("ModemManager does not let this user talk to it");
-    case Manager::Unreadable:
-        return QStringLiteral("ModemManager does not tell its modems");
-    }
-    return {};
-}
-
 live::ModemState ModemManagerModem::state() const
 {
     live::ModemState now;
     if (modemPath.isEmpty()) {
-        now.status = whyNoModem();
+        now.status = live::inWords(whyNone, daemon());
         return now;
     }
     const QVariantMap modem = modems.value(modemPath).value(modemInterface);
@@ -293,8 +277,9 @@ live::ModemState ModemManagerModem::state() const
     now.isThere = true;
     now.name = (text(modem, "Manufacturer") + QLatin1Char(' ') + text(modem, "Model")).trimmed();
     now.network = text(modems.value(modemPath).value(networkInterface), "OperatorName");
-    now.status = number == stateLocked ? lockInWords(reading.value<quint32>(modem, "UnlockRequired").value_or(0))
-                                       : stateInWords(number);
+    now.status = live::stateInWords(number == stateLocked
+                                        ? lockName(reading.value<quint32>(modem, "UnlockRequired").value_or(0))
+                                        : stateName(number));
     return now;
 }
 

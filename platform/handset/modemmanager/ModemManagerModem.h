@@ -3,6 +3,7 @@
 
 #include "live/BusDaemon.h"
 #include "live/Modem.h"
+#include "live/ModemWords.h"
 #include "modemmanager/Reading.h"
 
 #include <QtCore/QMap>
@@ -44,7 +45,6 @@ private slots:
 
 private:
     using Interfaces = QMap<QString, QVariantMap>; ///< properties of each
-    enum class Manager { Missing, Asked, Known, Closed, Unreadable };
 
     void daemonAppeared();
     void listModems();
@@ -53,13 +53,13 @@ private:
     void loseModem();
     void followVoice();
     void readModem();
-    QString whyNoModem() const;
 
     live::BusDaemon source;
     const live::Patience patience;
     mutable Reading reading; ///< remembers what it has warned of
     bool isStarted = false;
-    Manager manager = Manager::Missing;
+    live::NoModem whyNone =
+        live::NoModem::DaemonIsNotRunning; ///< IsNone: the modems that there are have been told
     QMap<QString, Interfaces> modems;
     QString modemPath; ///< of the chosen one; empty for none
     std::unique_ptr<VoiceCalls> voice;

@@ -127,8 +127,7 @@ OfonoModem::OfonoModem(const live::Patience &howPatient)
 QString OfonoModem::connectToBus(int longestMs)
 {
     isStarted = true;
-    return service.start(longestMs) ? QString()
-                                    : QStringLiteral("There is no system bus: %1").arg(service.error());
+    return service.start(longestMs) ? QString() : live::noSystemBus(service.error());
 }
 
 void OfonoModem::start()
@@ -140,6 +139,7 @@ void OfonoModem::start()
 void OfonoModem::appeared()
 {
     owner = service.owner();
+    whyNone = live::NoModem::IsAsked;
     serviceLife = std::make_unique<QObject>();
     subscribe(true);
     askForModems();
@@ -151,9 +151,8 @@ void OfonoModem::vanished()
     subscribe(false);
     serviceLife.reset();
     modems.clear();
-    knowsModems = false;
+    whyNone = live::NoModem::DaemonIsNotRunning;
     owner.clear();
-    refusal.clear();
     choose();
 }
 
@@ -253,16 +252,16 @@ void OfonoModem::askForModems()
                               return;
                           }
                           if (!answer.isValid()) {
-                              refusal = answer.error().type() == QDBusError::AccessDenied
-                                            ? QStringLiteral("oFono does not let this user talk to it")
-                                            : QStringLiteral("oFono does not tell its modems");
+                              whyNone = answer.error().type() == QDBusError::AccessDenied
+                                            ? live::NoModem::IsClosed
+                                            : live::NoModem::IsUntold;
                               properties.warn(QStringLiteral("its modems"), answer.error().message());
                               emit stateChanged();
                               return;
                           }
                           for (const Object &modem : answer.value())
                               modemAdded(modem.path.path(), modem.properties);
-                          knowsModems = true;
+                          whyNone = live::NoModem::IsNone;
                           choose();
                       });
 }
@@ -362,15 +361,11 @@ live::ModemState OfonoModem::state() const
 {
     const Known *const modem = currentModem();
     if (!modem) {
-        const QString why = owner.isEmpty()      ? QStringLiteral("oFono is not running")
-                            : !refusal.isEmpty() ? refusal
-                            : knowsModems        ? QStringLiteral("no modem")
-                                                 : QStringLiteral("asking oFono");
-        return {false, {}, {}, why};
+        return {false, {}, {}, live::inWords(whyNone, daemon())};
     }
     const QString made = (modem->maker + QLatin1Char(' ') + modem->model).trimmed();
     return {true, modem->name.isEmpty() ? made : modem->name, network,
-            modem->isOnline ? networkStatus : QStringLiteral("offline")};
+            live::stateInWords(modem->isOnline ? networkStatus : QStringLiteral("offline"))};
 }
 
 // --- calls

@@ -3,6 +3,7 @@
 
 #include "live/BusDaemon.h"
 #include "live/Modem.h"
+#include "live/ModemWords.h"
 #include "live/Question.h"
 #include "ofono/PropertyReader.h"
 #include "ofono/Types.h"
@@ -41,10 +42,7 @@ public:
     int hangUp(const QString &id) override;
 
     /// Nobody is asked any more which modem there is, and what it has.
-    bool isKnown() const
-    {
-        return service.isOwnerKnown() && (owner.isEmpty() || knowsModems || !refusal.isEmpty());
-    }
+    bool isKnown() const { return service.isOwnerKnown() && whyNone != live::NoModem::IsAsked; }
     /// Whether the modem has that interface ("CallMeter") now.
     bool has(const char *interface) const;
     /// A proxy of qdbusxml2cpp's for the modem, or for another object of the daemon's.
@@ -157,9 +155,8 @@ private:
     QString owner;   ///< the daemon's unique name; empty while there is none
     QString current; ///< the modem's path; likewise
     QList<Known> modems;
-    bool knowsModems = false; ///< the daemon has said which there are
-    QString refusal;          ///< or why it has not, in words
-    QStringList followed;     ///< the interfaces that the modem had last
+    live::NoModem whyNone = live::NoModem::DaemonIsNotRunning; ///< IsNone: it has been said which there are
+    QStringList followed;                                      ///< the interfaces that the modem had last
     QHash<QString, Call> calls;
     QHash<QString, Context> contexts;
     QString network;

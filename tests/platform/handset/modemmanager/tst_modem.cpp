@@ -1,6 +1,7 @@
 // A modem behind a ModemManager that does what it should not, recorded as its calls and connections were.
 #include "bench/daemons/FakeModemManager.h"
 #include "handset/live/LiveDesk.h"
+#include "handset/live/OtherLanguage.h"
 #include "modemmanager/ModemManagerModem.h"
 #include "qt/qcop/BusSocket.h"
 #include "qt/qcop/PrivateBus.h"
@@ -840,6 +841,10 @@ void TestModem::theStateOfTheModemIsInWords()
                   {{QStringLiteral("State"), state}, {QStringLiteral("UnlockRequired"), lock}});
     desk.settle();
     QCOMPARE(desk.modemState().status, words);
+    {
+        const OtherLanguage other;
+        QCOMPARE(desk.modemState().status, QString(QLatin1Char('[') + words + QLatin1Char(']')));
+    }
     QCOMPARE(desk.modemState().name, QStringLiteral("Fake One"));
     QVERIFY(desk.modemState().network.startsWith(QStringLiteral("Network")));
 }

@@ -1,6 +1,7 @@
 // What a modem behind oFono reports, whatever the daemon says.
 #include "handset/CallLog.h"
 #include "handset/HandsetTestKit.h"
+#include "handset/live/OtherLanguage.h"
 #include "handset/ofono/OfonoDesk.h"
 #include "support/TestGroup.h"
 
@@ -327,6 +328,10 @@ void TestModem::aModemThatIsOfflineStaysWhileNoOtherIsOnline()
     QTRY_COMPARE(desk.modem->state().name, "Maker M1");
     desk.fake.set(FakeOfono::modem, "Modem", "Online", false);
     QTRY_COMPARE(desk.modem->state().status, "offline");
+    {
+        const OtherLanguage other;
+        QCOMPARE(desk.modem->state().status, "[offline]");
+    }
     QVERIFY(desk.heard->told.isEmpty());
 }
 
@@ -405,6 +410,13 @@ void TestModem::theNetworkIsTold()
     QCOMPARE(desk.modem->state().network, "Test Net");
     desk.fake.set(FakeOfono::modem, "NetworkRegistration", "Status", "searching");
     QTRY_COMPARE(desk.modem->state().status, "searching");
+    for (const char *status : {"unregistered", "registered", "searching", "denied", "unknown", "roaming"}) {
+        const OtherLanguage other;
+        desk.fake.set(FakeOfono::modem, "NetworkRegistration", "Status", status);
+        QTRY_COMPARE(desk.modem->state().status, QStringLiteral("[%1]").arg(status));
+    }
+    desk.fake.set(FakeOfono::modem, "NetworkRegistration", "Status", "a word of a later daemon");
+    QTRY_COMPARE(desk.modem->state().status, "a word of a later daemon");
     desk.fake.setInterfaces({});
     QTRY_COMPARE(desk.modem->state().network, QString());
 }
