@@ -1,6 +1,7 @@
 // Catalogues that a disk, a transfer or somebody has damaged.
 #include "host/HostProcess.h"
 #include "language/Catalogue.h"
+#include "language/Languages.h"
 #include "language/ReadFile.h"
 #include "support/TestGroup.h"
 
@@ -109,6 +110,8 @@ class TestCatalogue : public QObject
 private slots:
     void whatLreleaseMakesIsWhole();
     void aFileThatCannotBeReadIsSaid();
+    void namesOfScreensAreNoLanguage();
+    void anotherScriptIsAnotherLanguage();
     void damageIsFound_data();
     void damageIsFound();
     void aTableOfContextsThatIsWholeIsTaken();
@@ -297,6 +300,20 @@ void TestCatalogue::aFileThatCannotBeReadIsSaid()
     QByteArray bytes;
     const QString why = language::readFile(QStringLiteral("/proc/self/mem"), 1024, bytes);
     QCOMPARE(why, qt_error_string(EIO));
+}
+
+void TestCatalogue::namesOfScreensAreNoLanguage()
+{
+    const QString program = QStringLiteral("kavrecentcalls");
+    const QString spanish = QStringLiteral("--language=es");
+    QCOMPARE(language::languageFor({program, QStringLiteral("--"), spanish}), language::languageFor({program}));
+    QCOMPARE(language::languageFor({program, spanish, QStringLiteral("--")}), QStringLiteral("es"));
+}
+
+void TestCatalogue::anotherScriptIsAnotherLanguage()
+{
+    QCOMPARE(language::suitableLanguage({QStringLiteral("zh_SG")}), QStringLiteral("zh_CN"));
+    QCOMPARE(language::suitableLanguage({QStringLiteral("zh_TW"), QStringLiteral("es_MX")}), QStringLiteral("es"));
 }
 
 KAV_TEST_GROUP(TestCatalogue, QCoreApplication);

@@ -14,6 +14,7 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QAccessibleInterface>
 #include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QPixmap>
 #include <QtTest/QSignalSpy>
@@ -102,6 +103,7 @@ private slots:
     void theListDeletesAllItemsMadeOnItInsertedOrNot();
     void theModelHasRowsAndNothingBelowThem();
     void textsOfTheSamePlaceStandBesideEachOther();
+    void theScrollBarMovesOnlyByItsHandle();
     void aDeletedItemTakesItsRowAlong();
     void anItemThatOutlivesItsListKnowsOfNone();
     void clearDeletesTheRowsAndLeavesTheListUsable();
@@ -246,6 +248,28 @@ void TestListBox::textsOfTheSamePlaceStandBesideEachOther()
     item->appendSubItem(0, QStringLiteral("left"), false, Title);
     QCOMPARE(item->value(), QStringLiteral("12.50 EUR"));
     QCOMPARE(item->title(), QStringLiteral("Credit left"));
+}
+
+void TestListBox::theScrollBarMovesOnlyByItsHandle()
+{
+    ListScreen screen;
+    screen.addRows(40);
+    screen.show();
+    QScrollBar *const bar = screen.list->verticalScrollBar();
+    const QPoint foot(bar->width() / 2, bar->height() - 2);
+    QTest::mousePress(bar, Qt::LeftButton, {}, foot); // a page on
+    const int page = bar->value();
+    QVERIFY(page > 0);
+    QMouseEvent dragged(QEvent::MouseMove, QPointF(foot.x(), 1), bar->mapToGlobal(QPointF(foot.x(), 1)),
+                        Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(bar, &dragged);
+    QCOMPARE(bar->value(), page);
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, foot);
+    // With nothing to scroll the handle fills it.
+    bar->setPageStep(0);
+    bar->setRange(0, 0);
+    const QImage full = bar->grab().toImage();
+    QCOMPARE(full.pixel(full.width() / 2, 4), full.pixel(full.width() / 2, full.height() - 5));
 }
 
 void TestListBox::aDeletedItemTakesItsRowAlong()
