@@ -94,6 +94,16 @@ class Layout(Case):
             for link in re.findall(r"\]\(([^)#:]+)\)", prose):
                 self.assertTrue((page.parent / link).exists(), f"{page.name} leads to {link}")
 
+    def test_every_test_that_a_table_names_is_there(self):
+        named = 0
+        for page in PAGES:
+            for file, names in re.findall(r"^\|[^|\n]*\| (\S+/tst_\w+\.cpp) \| ([^|\n]*) \|$", page.read_text(), re.M):
+                code = (SOURCE / "tests/platform/handset" / file).read_text()
+                for name in re.findall(r"`(\w+)`", names):
+                    named += 1
+                    self.assertRegex(code, rf"::{name}\(\)\n", f"{page.name}: {file} has no such test")
+        self.assertGreater(named, 50)
+
 
 class Code(Case):
     def flags(self):
