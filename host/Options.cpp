@@ -21,6 +21,8 @@ namespace {
 
 constexpr const char *defaultPlugin = "libkavcallmeter.so.1";
 constexpr const char *shippedTour = ":/tours/tour.tour";
+// Of a telephone that no script can drive, and whose figures are somebody's.
+constexpr const char *liveTour = ":/tours/live.tour";
 
 constexpr const char *description = QT_TRANSLATE_NOOP(
     "kavrecentcalls",
@@ -281,7 +283,8 @@ Options readOptions(const QCommandLineParser &parser)
     options.displayAlone = parser.isSet(QStringLiteral("display"));
     options.photo = parser.value(QStringLiteral("photo"));
     options.tourDirectory = parser.value(QStringLiteral("tour"));
-    options.script = valueOr(parser, "script", QString::fromLatin1(shippedTour));
+    const bool isSimulated = options.backend == handset::Settings().backend;
+    options.script = valueOr(parser, "script", QString::fromLatin1(isSimulated ? shippedTour : liveTour));
     const bool dropTrace = options.stateDirectory.isEmpty() || options.isTour();
     options.traceFile =
         valueOr(parser, "trace", dropTrace ? QString() : QDir(options.stateDirectory).filePath("trace.log"));

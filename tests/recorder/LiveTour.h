@@ -126,22 +126,35 @@ inline QByteArray costsOfTheCard()
            "expect row 6 All Calls Cost | 0.00 DEM\n";
 }
 
-/// Plays it on the backend, whose daemon is at `busAddress`; the recorder has ended.
-inline HostResult playLiveTour(const RecorderProcess &bench, const QString &backend, const QString &busAddress,
-                               const QByteArray &costs)
+/// Plays a script on the backend, whose daemon is at `busAddress`; without one the tour that the host brings along, which
+/// changes nothing.
+inline HostResult playTour(const RecorderProcess &bench, const QString &backend, const QString &busAddress,
+                           const QByteArray &script = {})
 {
     const QTemporaryDir home;
-    const QString file = home.filePath(QStringLiteral("live.tour"));
-    if (!writeFile(file, liveTour(bench, costs)))
-        return {};
+    QStringList arguments{QStringLiteral("--backend"), backend,
+                          QStringLiteral("--state"),   bench.state.path(),
+                          QStringLiteral("--tour"),    home.filePath(QStringLiteral("photographs"))};
+    if (const QString file = home.filePath(QStringLiteral("live.tour")); !script.isEmpty()) {
+        if (!writeFile(file, script))
+            return {};
+        arguments << QStringLiteral("--script") << file;
+    }
     QProcessEnvironment environment = hostEnvironment(home.path());
     environment.remove(QStringLiteral("QT_QPA_PLATFORM")); // the tour sees to that itself
     environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"), busAddress);
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), busAddress);
-    return runHost({QStringLiteral("--backend"), backend, QStringLiteral("--state"), bench.state.path(),
-                    QStringLiteral("--tour"), home.filePath(QStringLiteral("photographs")),
-                    QStringLiteral("--script"), file},
-                   environment);
+    return runHost(arguments, environment);
+}
+
+/// Both tours, the second with what the recorder has recorded, which has ended.
+inline HostResult playLiveTours(const RecorderProcess &bench, const QString &backend, const QString &busAddress,
+                                const QByteArray &costs)
+{
+    const HostResult shipped = playTour(bench, backend, busAddress);
+    return shipped.code == 0 && shipped.errors.isEmpty()
+               ? playTour(bench, backend, busAddress, liveTour(bench, costs))
+               : shipped;
 }
 
 /// The host's window as it is when the screen has been opened at once, of the backend whose daemon is at `busAddress`.

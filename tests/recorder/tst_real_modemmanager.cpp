@@ -86,7 +86,7 @@ void TestRecorderOverModemManager::aCallThatComesInIsRecordedAndShown()
     QCOMPARE(bench.recorder.readAllStandardError(), QByteArray());
 
     const HostResult tour =
-        playLiveTour(bench, QStringLiteral("modemmanager"), daemon.busAddress(), costsOfTheOwnTariff());
+        playLiveTours(bench, QStringLiteral("modemmanager"), daemon.busAddress(), costsOfTheOwnTariff());
     QVERIFY2(tour.code == 0, qPrintable(tour.errors + tour.output));
     QCOMPARE(tour.errors, QString());
 }

@@ -173,7 +173,7 @@ void TestRecorderOverOfono::callsBothWaysAreRecordedToldOnceAndShown()
     const PrivateBus nobody;
     QVERIFY(window != photographScreen(bench, QStringLiteral("callCost"), backend, nobody.address()));
 
-    const HostResult tour = playLiveTour(bench, backend, daemon.busAddress(), costsOfTheCard());
+    const HostResult tour = playLiveTours(bench, backend, daemon.busAddress(), costsOfTheCard());
     QVERIFY2(tour.code == 0, qPrintable(tour.errors + tour.output));
     QCOMPARE(tour.errors, QString());
     daemon.modem().withPhone([](AtPhone &phone) {
