@@ -30,6 +30,7 @@ private slots:
     void cleanup() { screen.reset(); }
 
     void aTypedLetterGoesToTheNextRowWithItAndRound();
+    void aKeyOfThePhoneIsNoLetterWhateverItsText();
     void lettersTypedQuicklyNarrowTheChoice();
     void aLetterNoRowBeginsWithMovesNothing();
     void aNumberKeyGoesThroughItsLetters();
@@ -70,6 +71,13 @@ void TestChoiceByLetter::aTypedLetterGoesToTheNextRowWithItAndRound()
         seen << chosen(list);
     }
     QCOMPARE(seen.join(QLatin1Char(' ')), QStringLiteral("UGANDA UKRAINE URUGUAY UGANDA"));
+}
+
+void TestChoiceByLetter::aKeyOfThePhoneIsNoLetterWhateverItsText()
+{
+    QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier, QStringLiteral("u"));
+    QCoreApplication::sendEvent(list, &down);
+    QCOMPARE(list->currentItem(), 1);
 }
 
 void TestChoiceByLetter::lettersTypedQuicklyNarrowTheChoice()

@@ -296,6 +296,10 @@ void TestChoiceDialog::rowsAddedToAShownDialogMakeItGrow()
     QCOMPARE(dialog->getListBox()->viewport()->height(), 2 * ZSkinService::RowHeight);
     delete dialog->getListBox()->item(0);
     QCOMPARE(dialog->getListBox()->viewport()->height(), ZSkinService::RowHeight);
+    addChoices(dialog->getListBox(), {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+    QCOMPARE(dialog->getListBox()->viewport()->height(), 4 * ZSkinService::RowHeight);
+    dialog->getListBox()->clear();
+    QVERIFY(dialog->getListBox()->viewport()->height() <= ZSkinService::RowHeight);
 }
 
 void TestChoiceDialog::aMessageLeavesTheListItsRoom_data()

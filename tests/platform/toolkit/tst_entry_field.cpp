@@ -228,6 +228,10 @@ void TestEntryField::aLowerMaximumCutsTheEnd()
     field->setMaxLength(-1);
     typed(field.get(), QStringLiteral("x"));
     QCOMPARE(field->toPlainText().size(), 3);
+    // The second half of a letter, without the first.
+    field->setPlainText(QStringLiteral("ab") + QChar(0xDC00));
+    field->setMaxLength(2);
+    QCOMPARE(field->toPlainText(), QStringLiteral("ab"));
 }
 
 void TestEntryField::noMaximumTakesEverything()
