@@ -5,6 +5,7 @@
 #include "support/FullDisk.h"
 #include "support/TestGroup.h"
 
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 using namespace handset;
@@ -908,8 +909,13 @@ void TestRecording::whoDoesNotRecordSaysWhoDoes()
     QVERIFY(desk.isReady);
     QVERIFY(!desk.phone->lineControl()->report().isRecorder);
     QVERIFY(desk.phone->lineControl()->report().isRecordedElsewhere);
+    desk.call(one, CallPhase::Over); // nothing runs any more that would tell of it
+    const QSignalSpy changed(desk.phone.get(), &live::LiveHandset::changed);
+    desk.tick();
+    QCOMPARE(changed.count(), 0);
     desk.recorder->kill();
     desk.tick();
+    QCOMPARE(changed.count(), 1);
     QVERIFY(desk.phone->lineControl()->report().isRecorder);
     QVERIFY(!desk.phone->lineControl()->report().isRecordedElsewhere);
 }

@@ -3,6 +3,7 @@
 #include "handset/HandsetTestKit.h"
 #include "handset/live/OtherLanguage.h"
 #include "handset/ofono/OfonoDesk.h"
+#include "ofono/OfonoHandset.h"
 #include "support/TestGroup.h"
 
 #include <QtCore/QRegularExpression>
@@ -667,7 +668,9 @@ void TestModem::openingWaitsForNobodyAndForNobodyLong()
     fake.appear();
     settings.patience.operation = 200;
     const Opened opened = handset::open(settings);
-    QVERIFY(opened.handset);
+    const auto *const handset = dynamic_cast<const ofono::OfonoHandset *>(opened.handset.get());
+    QVERIFY(handset);
+    QVERIFY(!handset->callMeter().isAnswered()); // else it would have waited for that
     QString text;
     QCOMPARE(opened.handset->adviceOfCharge()->priceAndCurrency(text, text), int(NotAvailable));
 }
