@@ -50,6 +50,8 @@ private slots:
     void aCallToAnEmergencyNumberCostsNothing();
     void aRecordWithAnythingOutOfItsRangeIsNone_data();
     void aRecordWithAnythingOutOfItsRangeIsNone();
+    void whatIsChargedIsOnTheMeterAndOffTheCredit();
+    void whatCostsAUnitOnceIsNotPermittedWithoutOne();
     void aCallThatMayCostMoreThanTheMeterHoldsHasNoEnd();
     void twoNewCardsAreTwoCards();
 };
@@ -132,6 +134,32 @@ void TestChargingState::aRecordWithAnythingOutOfItsRangeIsNone()
     read.account->credit = 7;
     QVERIFY(!readCharging(checked(object), read));
     QCOMPARE(read.account->credit, quint64{7}); // untouched
+}
+
+void TestChargingState::whatIsChargedIsOnTheMeterAndOffTheCredit()
+{
+    ChargingState state = prepaid();
+    state.charge(7);
+    QCOMPARE(state.card.acm(), quint32{7});
+    QCOMPARE(state.account->credit, quint64{493});
+    state.charge(1'000);
+    QCOMPARE(state.card.acm(), quint32{1'007});
+    QCOMPARE(state.account->credit, quint64{0});
+    state.account.reset();
+    state.charge(std::numeric_limits<quint64>::max());
+    QCOMPARE(state.card.acm(), maxUnits);
+}
+
+void TestChargingState::whatCostsAUnitOnceIsNotPermittedWithoutOne()
+{
+    ChargingState state;
+    Tariff once;
+    once.unitsAtStart = 10; // tenths
+    QCOMPARE(state.card.updateAcmMax(1), 0);
+    QVERIFY(state.permits(once));
+    state.charge(1);
+    QVERIFY(!state.permits(once));
+    QVERIFY(state.permits(Tariff()));
 }
 
 void TestChargingState::aCallThatMayCostMoreThanTheMeterHoldsHasNoEnd()
