@@ -19,12 +19,19 @@ namespace {
 constexpr time_t sleptSeconds = 12'345;
 bool hasSlept = false; ///< the machine, for that long
 
+// The call for a time_t of 64 bits, where there is another.
+#ifdef SYS_clock_gettime64
+constexpr long callNumber = SYS_clock_gettime64;
+#else
+constexpr long callNumber = SYS_clock_gettime;
+#endif
+
 } // namespace
 
 // In front of the C library's: the boot clock of a machine that has been suspended.
 extern "C" int clock_gettime(clockid_t clock, timespec *time) noexcept
 {
-    const long status = ::syscall(SYS_clock_gettime, clock, time);
+    const long status = ::syscall(callNumber, clock, time);
     if (status == 0 && clock == CLOCK_BOOTTIME && hasSlept)
         time->tv_sec += sleptSeconds;
     return static_cast<int>(status);
