@@ -14,12 +14,15 @@
 #include "toolkit/ZSettingItem.h"
 
 #include <QtCore/QRegularExpression>
+#include <QtGui/QPointingDevice>
 #include <QtTest/QTest>
 #include <QtWidgets/QGraphicsView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QProgressBar>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QScroller>
+
+#include <memory>
 
 using namespace host;
 using handset::simulated::SimulatedHandset;
@@ -58,6 +61,7 @@ class TestDisplayAlone : public QObject
 
 private slots:
     void initTestCase();
+    void cleanupTestCase() { finger.reset(); }
     void init();
     void cleanup();
     void theDisplayFillsTheWindowInItsProportions_data();
@@ -84,7 +88,7 @@ private:
     QStringList toldOfCalls() const;
 
     ScreenLibrary library;
-    QPointingDevice *finger = nullptr;
+    std::unique_ptr<QPointingDevice> finger;
     std::shared_ptr<handset::ManualClock> clock;
     std::shared_ptr<handset::Handset> owner;
     SimulatedHandset *handset = nullptr;
@@ -95,7 +99,7 @@ void TestDisplayAlone::initTestCase()
 {
     const QString problem = library.load("libkavcallmeter.so.1");
     QVERIFY2(problem.isEmpty(), qPrintable(problem));
-    finger = QTest::createTouchDevice();
+    finger.reset(QTest::createTouchDevice());
 }
 
 void TestDisplayAlone::init()
@@ -154,17 +158,17 @@ QPoint TestDisplayAlone::placeOfRow(const ZListBox *list, int row) const
 
 void TestDisplayAlone::tap(QPoint place)
 {
-    QTest::touchEvent(window->windowHandle(), finger).press(0, place);
-    QTest::touchEvent(window->windowHandle(), finger).release(0, place);
+    QTest::touchEvent(window->windowHandle(), finger.get()).press(0, place);
+    QTest::touchEvent(window->windowHandle(), finger.get()).release(0, place);
 }
 
 // Slowly enough for the list to stop where it is let go.
 void TestDisplayAlone::drag(QPoint from, int byPx)
 {
-    QTest::touchEvent(window->windowHandle(), finger).press(0, from);
+    QTest::touchEvent(window->windowHandle(), finger.get()).press(0, from);
     for (int step = 1; step <= 10; ++step)
-        QTest::touchEvent(window->windowHandle(), finger).move(0, from + QPoint(0, byPx * step / 10));
-    QTest::touchEvent(window->windowHandle(), finger).release(0, from + QPoint(0, byPx));
+        QTest::touchEvent(window->windowHandle(), finger.get()).move(0, from + QPoint(0, byPx * step / 10));
+    QTest::touchEvent(window->windowHandle(), finger.get()).release(0, from + QPoint(0, byPx));
 }
 
 QString TestDisplayAlone::title() const
