@@ -1,5 +1,6 @@
 #include "calllog/CallFigures.h"
 
+#include "calllog/Listing.h"
 #include "charging/AmountText.h"
 
 #include <algorithm>
@@ -108,6 +109,36 @@ int CallFigures::callStatus(quint8 &value)
         value = isOn ? Connected : Idle;
         return int{Success};
     });
+}
+
+int CallFigures::newest(qint64 before, int most, QList<KeptCall> &calls)
+{
+    QList<ListedCall> found;
+    if (const int status = newestCalls(ledger, before, most, found))
+        return status;
+    calls.clear();
+    for (const auto &[id, call, state] : std::as_const(found))
+        calls.append({id, call, state == CallState::Running, state != CallState::NotConnected});
+    return Success;
+}
+
+int CallFigures::count(qint64 first, qint64 before, qint64 &count)
+{
+    return countCalls(ledger, first, before, count);
+}
+
+int CallFigures::remove(qint64 id)
+{
+    return ledger.changed(deleteCall(ledger, id));
+}
+
+int CallFigures::removeBefore(qint64 wallMs, qint64 &count)
+{
+    qint64 deleted = 0;
+    if (const int status = deleteCalls(ledger, {std::numeric_limits<qint64>::min(), wallMs}, deleted))
+        return status;
+    count = deleted;
+    return deleted > 0 ? ledger.changed(Success) : int{Success};
 }
 
 } // namespace handset::calllog

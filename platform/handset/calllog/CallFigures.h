@@ -5,12 +5,13 @@
 #include "handset/CallLog.h"
 #include "handset/CallService.h"
 #include "handset/DataCalls.h"
+#include "handset/KeptCalls.h"
 
 namespace handset::calllog {
 
 /// Times in whole seconds of what the ledger has in milliseconds, the fraction cut off; costs from the totals, the SIM's
 /// meter and the account, in the unit of the charge type.
-class CallFigures : public CallLog, public CallService, public DataCalls
+class CallFigures : public CallLog, public CallService, public DataCalls, public KeptCalls
 {
 public:
     /// `owner` outlives this.
@@ -43,6 +44,11 @@ public:
     int totalDuration(quint32 &seconds) override;
     int callStatus(quint8 &value) override;
     int resetTotalDuration() override { return ledger.reset({Total::DataTime}); }
+
+    int newest(qint64 before, int most, QList<KeptCall> &calls) override;
+    int count(qint64 first, qint64 before, qint64 &count) override;
+    int remove(qint64 id) override;
+    int removeBefore(qint64 wallMs, qint64 &count) override;
 
     /// What callStatus() returns in the process that records; elsewhere that follows from the rows, which know of a call
     /// from its connection to its end.

@@ -1,5 +1,6 @@
 #include "calllog/Ledger.h"
 
+#include "calllog/CheckBeside.h"
 #include "calllog/Finding.h"
 #include "calllog/Saturating.h"
 #include "handset/Status.h"
@@ -101,6 +102,7 @@ Ledger::Ledger(std::unique_ptr<Database> opened, std::unique_ptr<StateDirectory>
 
 Ledger::~Ledger()
 {
+    check.reset();
     forgetNotice();
     callEnd = sessionEnd = {}; // what cannot be written now is lost, and that is told
     const auto endAll = [this](auto &own) {
@@ -115,6 +117,11 @@ Ledger::~Ledger()
     writeOwedSession();
     if (endsSession)
         changed(Success);
+}
+
+void Ledger::readThrough(const QString &file, const std::function<void(const QString &)> &tell)
+{
+    check = std::make_unique<CheckBeside>(*database, file, tell);
 }
 
 int Ledger::changed(int status) const

@@ -16,6 +16,7 @@
 
 namespace handset::calllog {
 
+class CheckBeside;
 struct Traces;
 
 /// All of it stands in the database, so that any process may ask and change it; see "The ledger" in docs/handset.md.
@@ -143,6 +144,8 @@ public:
 
     /// For who looks at the file beside.
     Database &connection() { return *database; }
+    /// Reads `file`, that of this, through while it is in use; as CheckBeside.
+    void readThrough(const QString &file, const std::function<void(const QString &)> &tell);
     /// What the call log had to tell of its opening, when the event loop runs or this ends; else the next start tells it
     /// again.
     void noticeIsTold();
@@ -211,6 +214,7 @@ private:
     RepeatedWrite callEnd;
     RepeatedWrite sessionEnd;
     std::function<void()> onChange;
+    std::unique_ptr<CheckBeside> check; ///< goes before the connection that it stands beside
 };
 
 } // namespace handset::calllog

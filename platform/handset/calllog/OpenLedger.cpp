@@ -177,10 +177,9 @@ ProgressListener progressListener(const Settings &settings)
     };
 }
 
-} // namespace
-
-OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const Patience &patience,
-                        const ProgressListener &progress)
+// `unread` is the file that is still to be read through; empty when it has been.
+OpenedLedger open(const QString &path, const std::shared_ptr<Clock> &clock, const Patience &patience,
+                  const ProgressListener &progress, QString &unread)
 {
     if (path.isEmpty())
         return openInMemory(clock);
@@ -208,18 +207,31 @@ OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock
     if (untold && !untoldNotice(ledger->connection()).value_or(QString()).isEmpty())
         ledger->noticeIsTold();
     ledger->connection().setPatience(patience.operation);
-    OpenedLedger done = opened(std::move(ledger), notices);
     if (!attempt.isReadThrough)
-        done.unread = place.filePath(QString::fromLatin1(databaseName));
-    return done;
+        unread = place.filePath(QString::fromLatin1(databaseName));
+    return opened(std::move(ledger), notices);
+}
+
+} // namespace
+
+OpenedLedger openLedger(const QString &path, const std::shared_ptr<Clock> &clock, const Patience &patience,
+                        const ProgressListener &progress)
+{
+    QString unread;
+    return open(path, clock, patience, progress, unread);
 }
 
 OpenedLedger openLedger(const Settings &settings)
 {
     try {
-        return openLedger(settings.stateDirectory, settings.clock, settings.patience, progressListener(settings));
+        QString unread;
+        OpenedLedger opened =
+            open(settings.stateDirectory, settings.clock, settings.patience, progressListener(settings), unread);
+        if (!unread.isEmpty())
+            opened.ledger->readThrough(unread, settings.tell);
+        return opened;
     } catch (const GivenUp &) {
-        return {nullptr, QStringLiteral("The opening of the call log was given up; it is as it was."), {}, {}};
+        return {nullptr, QStringLiteral("The opening of the call log was given up; it is as it was."), {}};
     }
 }
 

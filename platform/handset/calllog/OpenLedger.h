@@ -17,7 +17,6 @@ struct OpenedLedger {
     /// What happened to a file, or to what is kept of the card and the account, that could not be used; empty for
     /// nothing.
     QString notice;
-    QString unread = {}; ///< the file that is still to be read through, by CheckBeside; empty when it has been
 };
 
 /// An empty directory name keeps the calls in memory only. A file that cannot be used as a call log, or not by this
@@ -26,7 +25,7 @@ struct OpenedLedger {
 /// null.
 OpenedLedger openLedger(const QString &directory, const std::shared_ptr<Clock> &clock,
                         const Patience &patience = {}, const ProgressListener &progress = {});
-/// Likewise that of a handset, which may be given up.
+/// Likewise that of a handset, which may be given up. A big log is read through while it is in use.
 OpenedLedger openLedger(const Settings &settings);
 
 } // namespace handset::calllog

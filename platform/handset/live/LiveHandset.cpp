@@ -31,14 +31,12 @@ int OwnCharging::setChargeType(quint8 type)
 
 LiveHandset::LiveHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_ptr<Clock> clocks,
                          std::unique_ptr<Modem> behind, InterfaceCounters interfaces)
-    : ledger(std::move(opened))
-    , clock(std::move(clocks))
+    : LedgerHandset(std::move(opened), std::move(clocks))
     , source(std::move(behind))
     , callRecorder(*ledger, *clock, calllog::Charge::Unlimited)
     , sessionRecorder(*ledger, *clock, std::move(interfaces))
     , timer(new QTimer(this))
 {
-    ledger->record();
     ledger->setChangeListener([this] {
         tellHere();
         tellElsewhere();
@@ -76,7 +74,7 @@ LiveHandset::~LiveHandset()
 
 bool LiveHandset::owesRecord() const
 {
-    return ledger->owesCall() || ledger->owesSession() || callRecorder.owes() || sessionRecorder.owes();
+    return LedgerHandset::owesRecord() || callRecorder.owes() || sessionRecorder.owes();
 }
 
 LineReport LiveHandset::report() const
@@ -125,7 +123,7 @@ void LiveHandset::sessionsMoved(bool begunOrEnded)
 {
     tellHere();
     if (begunOrEnded && ledger->record())
-        packets.tellUpdate();
+        packetFigures.tellUpdate();
 }
 
 void LiveHandset::tellElsewhere()
@@ -161,7 +159,7 @@ void LiveHandset::runTimer()
         timer->stop();
     } else if (!timer->isActive() || recorded != records) {
         writtenAtMs = clock->monotonicMs();
-        const bool isShown = packets.isListenedTo() || receivers(SIGNAL(changed())) > 0;
+        const bool isShown = packetFigures.isListenedTo() || receivers(SIGNAL(changed())) > 0;
         timer->start(isShown || !records ? shownIntervalMs : calllog::Ledger::checkpointIntervalMs);
     }
 }
@@ -183,7 +181,7 @@ void LiveHandset::tick()
         ledger->checkpointSession();
     }
     if (records && sessionRecorder.isBusy())
-        packets.tellUpdate();
+        packetFigures.tellUpdate();
     if (!isLate && owed == owesRecord())
         return;
     tellHere();
@@ -196,11 +194,6 @@ void LiveHandset::charge(const std::shared_ptr<CallRecorder::Cost> &cost, quint3
     if (callRecorder.charge(cost, more))
         emit changed();
     runTimer();
-}
-
-void LiveHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
-{
-    check = std::make_unique<calllog::CheckBeside>(ledger->connection(), file, tell);
 }
 
 // Queued: whoever is called may end the wait.
@@ -229,10 +222,7 @@ Opened open(const Settings &settings, const Make &make)
     calllog::OpenedLedger opened = calllog::openLedger(settings);
     if (!opened.ledger)
         return {nullptr, opened.error, {}};
-    const std::shared_ptr<LiveHandset> handset = make(std::move(opened.ledger));
-    if (!opened.unread.isEmpty())
-        handset->checkBeside(opened.unread, settings.tell);
-    return {handset, {}, opened.notice};
+    return {make(std::move(opened.ledger)), {}, opened.notice};
 }
 
 } // namespace handset::live

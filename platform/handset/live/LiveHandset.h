@@ -1,12 +1,7 @@
 // A handset whose calls and data connections are those of a modem.
 #pragma once
 
-#include "calllog/CallFigures.h"
-#include "calllog/Charging.h"
-#include "calllog/CheckBeside.h"
-#include "calllog/LedgerCalls.h"
-#include "calllog/PacketFigures.h"
-#include "handset/Handset.h"
+#include "calllog/LedgerHandset.h"
 #include "handset/LineControl.h"
 #include "live/CallRecorder.h"
 #include "live/OwnCharging.h"
@@ -24,7 +19,7 @@ namespace handset::live {
 /// it. Calls and connections are recorded by the process that records the state directory; in every other one this
 /// shows them and reads. A call that is on at the end of this is not ended, but what it has counted is written: whoever
 /// records next goes on.
-class LiveHandset : public QObject, public Handset, private LineControl
+class LiveHandset : public QObject, public calllog::LedgerHandset, private LineControl
 {
     Q_OBJECT
 
@@ -37,21 +32,13 @@ public:
                 std::unique_ptr<Modem> behind, InterfaceCounters interfaces = InterfaceCounters());
     ~LiveHandset() override;
 
-    CallService *callService() override { return &figures; }
-    CallLog *callLog() override { return &figures; }
     /// Modems report no circuit-switched data calls: there is no figure to show.
     DataCalls *dataCalls() override { return nullptr; }
     AdviceOfCharge *adviceOfCharge() override { return &ownCharging; }
-    PacketData *packetData() override { return &packets; }
     LineControl *lineControl() override { return this; }
-    calllog::Charging *charging() override { return &charges; }
-    KeptCalls *keptCalls() override { return &kept; }
     void setChangeListener(const std::function<void()> &listener) override;
     void changedElsewhere() override;
     void setWaitListener(const std::function<void(bool waits)> &listener) override { onWait = listener; }
-
-    /// Reads the call log at `file` through while it is in use. As calllog::CheckBeside.
-    void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
 
     Modem &modem() { return *source; }
     const Modem &modem() const { return *source; }
@@ -68,7 +55,6 @@ signals:
 protected:
     /// The modem's own advice of charge says what calls cost.
     virtual bool isChargedByModem() const { return false; }
-    calllog::Ledger &books() { return *ledger; }
     AdviceOfCharge &ownAdviceOfCharge() { return ownCharging; }
     /// Of Handset::setWaitListener().
     void tellWait(bool waits) const
@@ -100,13 +86,7 @@ private:
     void tellHere();
     void runTimer();
 
-    std::unique_ptr<calllog::Ledger> ledger;
-    std::shared_ptr<Clock> clock;
     std::unique_ptr<Modem> source;
-    calllog::CallFigures figures{*ledger};
-    calllog::PacketFigures packets{*ledger};
-    calllog::LedgerCalls kept{*ledger};
-    calllog::Charging charges{*ledger};
     OwnCharging ownCharging{*ledger};
     CallRecorder callRecorder;
     SessionRecorder sessionRecorder;
@@ -115,10 +95,8 @@ private:
     bool records = true;       ///< as of the last runTimer()
     bool keepsChanges = false; ///< for the first listener
     bool hasKept = false;
-    std::function<void()> onChange;
     std::function<void(bool)> onWait;
     std::function<void(const QString &)> onRefusal;
-    std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
 
 /// Calls `here` from the event loop when the state of `modem` has changed and it is there. As handset::awaitModem().

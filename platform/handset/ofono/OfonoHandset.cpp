@@ -14,8 +14,8 @@ OfonoHandset::OfonoHandset(std::unique_ptr<calllog::Ledger> opened, std::shared_
                            live::InterfaceCounters interfaces)
     : LiveHandset(std::move(opened), std::move(clocks), std::move(behind), std::move(interfaces))
     , meter(static_cast<OfonoModem &>(modem()), longestWaitMs)
-    , charges(meter, books(), ownAdviceOfCharge())
-    , figures(books(), meter, charges)
+    , meteredCharges(meter, *ledger, ownAdviceOfCharge())
+    , meteredFigures(*ledger, meter, meteredCharges)
 {
     // Behind what records the same.
     connect(&modem(), &live::Modem::callReported, this, &OfonoHandset::callReported);
@@ -105,7 +105,7 @@ void OfonoHandset::accumulatedRead(quint32 units)
 void OfonoHandset::setGiven(quint32 units)
 {
     given = units;
-    figures.setUnread(running.isEmpty() ? 0 : given);
+    meteredFigures.setUnread(running.isEmpty() ? 0 : given);
 }
 
 // Of one call, while it is the only one.

@@ -18,11 +18,11 @@ public:
                  std::unique_ptr<OfonoModem> behind, int longestWaitMs = CallMeter::usualWaitMs,
                  live::InterfaceCounters interfaces = live::InterfaceCounters());
 
-    CallService *callService() override { return &figures; }
-    CallLog *callLog() override { return &figures; }
-    AdviceOfCharge *adviceOfCharge() override { return &charges; }
+    CallService *callService() override { return &meteredFigures; }
+    CallLog *callLog() override { return &meteredFigures; }
+    AdviceOfCharge *adviceOfCharge() override { return &meteredCharges; }
     /// PIN2 guards the meter and nothing else here.
-    SimSecurity *simSecurity() override { return meter.isThere() ? &charges : nullptr; }
+    SimSecurity *simSecurity() override { return meter.isThere() ? &meteredCharges : nullptr; }
 
     const CallMeter &callMeter() const { return meter; }
     /// Waits until the daemon has told the figures that it has, `longestMs` at most, with nobody's input taken: a screen that
@@ -43,8 +43,8 @@ private:
     void setGiven(quint32 units);
 
     CallMeter meter;
-    MeteredCharging charges;
-    MeteredFigures figures;
+    MeteredCharging meteredCharges;
+    MeteredFigures meteredFigures;
     QSet<QString> known;
     QHash<QString, Metered> running; ///< those that are connected
     QString connectedLast;           ///< of those

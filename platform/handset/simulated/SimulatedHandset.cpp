@@ -39,18 +39,13 @@ Opened open(const Settings &settings)
     calllog::OpenedLedger opened = calllog::openLedger(settings);
     if (!opened.ledger)
         return {nullptr, opened.error, {}};
-    auto handset = std::make_shared<SimulatedHandset>(std::move(opened.ledger), settings.clock);
-    if (!opened.unread.isEmpty())
-        handset->checkBeside(opened.unread, settings.tell);
-    return {handset, {}, opened.notice};
+    return {std::make_shared<SimulatedHandset>(std::move(opened.ledger), settings.clock), {}, opened.notice};
 }
 
 SimulatedHandset::SimulatedHandset(std::unique_ptr<Ledger> opened, std::shared_ptr<Clock> clocks)
-    : ledger(std::move(opened))
-    , clock(std::move(clocks))
+    : LedgerHandset(std::move(opened), std::move(clocks))
     , timer(new QTimer(this))
 {
-    ledger->record();
     ledger->setChangeListener([this] { figuresChanged(); });
     timer->setInterval(tickMs);
     timer->setTimerType(Qt::PreciseTimer);
@@ -61,7 +56,6 @@ SimulatedHandset::SimulatedHandset(std::unique_ptr<Ledger> opened, std::shared_p
 SimulatedHandset::~SimulatedHandset()
 {
     ledger->setChangeListener({});
-    check.reset();
     if (state != LineState::Idle)
         endCall();
 }
@@ -295,11 +289,6 @@ qint64 SimulatedHandset::connectedMs() const
 {
     const auto running = ledger->standing().call();
     return running ? running->ms : 0;
-}
-
-void SimulatedHandset::checkBeside(const QString &file, const std::function<void(const QString &)> &tell)
-{
-    check = std::make_unique<calllog::CheckBeside>(ledger->connection(), file, tell);
 }
 
 } // namespace handset::simulated

@@ -1,13 +1,8 @@
 // The simulated handset: the embedded default behind the phone's libraries.
 #pragma once
 
-#include "calllog/CallFigures.h"
-#include "calllog/Charging.h"
-#include "calllog/CheckBeside.h"
-#include "calllog/LedgerCalls.h"
-#include "calllog/PacketFigures.h"
+#include "calllog/LedgerHandset.h"
 #include "handset/Call.h"
-#include "handset/Handset.h"
 #include "simulated/SimAccess.h"
 
 #include <QtCore/QList>
@@ -36,7 +31,7 @@ using handset::PastCall;
 ///
 /// A connected call is charged as it goes on. Where nothing more may be charged (Charging::unitsLeft() is 0) the
 /// handset ends a charged call and lets no other begin. Calls to emergencyNumbers cost nothing and always go on.
-class SimulatedHandset final : public QObject, public Handset
+class SimulatedHandset final : public QObject, public calllog::LedgerHandset
 {
     Q_OBJECT
 
@@ -55,14 +50,8 @@ public:
 
     static constexpr auto emergencyNumbers = charging::emergencyNumbers;
 
-    CallService *callService() override { return &figures; }
-    CallLog *callLog() override { return &figures; }
-    DataCalls *dataCalls() override { return &figures; }
     AdviceOfCharge *adviceOfCharge() override { return &sim; }
-    PacketData *packetData() override { return &packetFigures; }
     SimSecurity *simSecurity() override { return &sim; }
-    KeptCalls *keptCalls() override { return &kept; }
-    void setChangeListener(const std::function<void()> &listener) override { onChange = listener; }
     void changedElsewhere() override;
 
     /// Idle -> Dialing. `number` may hold digits, '+', '*', '#', 1 to 80 of them; else InvalidArgument, and so for what
@@ -101,13 +90,9 @@ public:
     QString number() const;     ///< of the call on the line; null when idle
     qint64 connectedMs() const; ///< how long the call on the line is connected, by the clock; else 0
 
-    /// The network's tariffs and the account; the SIM card; packet data. They belong to the handset.
-    Charging *charging() override { return &charges; }
+    /// The SIM card; packet data. They belong to the handset.
     SimAccess &simCard() { return sim; }
     calllog::PacketFigures &packets() { return packetFigures; }
-
-    /// Reads the call log at `file` through while it is in use. As calllog::CheckBeside.
-    void checkBeside(const QString &file, const std::function<void(const QString &)> &tell);
 
 signals:
     /// The line state, a figure that a query returns, or owesRecord() has changed.
@@ -129,13 +114,7 @@ private:
     bool isUnitDue() const;
     bool isCheckpointDue() const;
 
-    std::unique_ptr<calllog::Ledger> ledger;
-    calllog::CallFigures figures{*ledger};
-    Charging charges{*ledger};
     SimAccess sim{*ledger};
-    calllog::PacketFigures packetFigures{*ledger};
-    calllog::LedgerCalls kept{*ledger};
-    std::shared_ptr<Clock> clock;
     LineState state = LineState::Idle;
     PastCall call;     ///< on the line
     qint64 callId = 0; ///< once it is connected
@@ -145,8 +124,6 @@ private:
     bool records = true;         ///< as of the last runTimer()
     bool isWriteFailing = false; ///< the last checkpoint
     bool toldOwing = false;      ///< with the last changed()
-    std::function<void()> onChange;
-    std::unique_ptr<calllog::CheckBeside> check; ///< goes before the connection that it stands beside
 };
 
 } // namespace handset::simulated
