@@ -175,7 +175,8 @@ QString CallLogs::prepareCrashed(int calls) const
     const QTemporaryDir where(directory + QStringLiteral("/crashed-XXXXXX"));
     QProcess process;
     if (copyTo(where, calls))
-        process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--crash-in"), where.path()});
+        startCrashing(process, where.path());
+    process.closeWriteChannel();
     process.waitForFinished(-1);
     const bool hasCrashed = process.exitStatus() == QProcess::CrashExit;
     const qint64 unwritten = QFileInfo(where.filePath(QLatin1StringView(logName) + QStringLiteral("-wal"))).size();
@@ -209,9 +210,18 @@ int recordAndCrash(const QString &directory)
         result = result == 0 ? benched.handset->checkpoint() : result;
         result = result == 0 && i < calls ? benched.handset->hangUp() : result;
     }
-    if (result == 0)
-        ::kill(::getpid(), SIGKILL);
+    if (result != 0)
+        return EXIT_FAILURE;
+    std::puts("recorded");
+    std::fflush(stdout);
+    std::getchar();
+    ::kill(::getpid(), SIGKILL);
     return EXIT_FAILURE;
+}
+
+void startCrashing(QProcess &process, const QString &directory)
+{
+    process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--crash-in"), directory});
 }
 
 BenchedHandset CallLogs::open(int calls, bool keep)

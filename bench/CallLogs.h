@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class QProcess;
+
 namespace bench {
 
 inline constexpr auto logName = "calllog.db";
@@ -68,7 +70,9 @@ private:
     QHash<int, std::shared_ptr<const QTemporaryDir>> kept;
 };
 
-/// What prepareCrashed() runs in a process of its own, which ends in this; it answers only where it fails.
+/// Records calls, says so, and is killed with one connected when its input ends or something comes from there; returns
+/// only where that fails. In a process of its own, which startCrashing() starts.
 int recordAndCrash(const QString &directory);
+void startCrashing(QProcess &process, const QString &directory);
 
 } // namespace bench

@@ -21,5 +21,7 @@ std::vector<Comparison> coldStartComparisons(const QString &directory);
 std::vector<Comparison> callLogComparisons(const QString &directory);
 /// `largest` is the number of calls of the largest log.
 std::vector<Comparison> reopeningComparisons(const QString &directory, int largest);
+/// `directory` as before.
+std::vector<Comparison> takeOverComparisons(const QString &directory);
 
 } // namespace bench

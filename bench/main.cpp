@@ -38,7 +38,8 @@ std::vector<bench::Comparison> allComparisons(const bench::Options &options)
                               bench::overModemComparisons(options.directory), bench::currencyListComparisons(),
                               bench::broadcastComparisons(), bench::coldStartComparisons(options.directory),
                               bench::fanOutComparisons(), bench::callLogComparisons(options.directory),
-                              bench::reopeningComparisons(options.directory, options.largestLog)})
+                              bench::reopeningComparisons(options.directory, options.largestLog),
+                              bench::takeOverComparisons(options.directory)})
         all.insert(all.end(), group.begin(), group.end());
     return all;
 }
