@@ -250,6 +250,8 @@ handset::Settings handsetSettings(const Options &options, PhoneWindow &window, c
     settings.backend = options.backend;
     settings.stateDirectory = options.stateDirectory;
     settings.keptDays = options.keptDays;
+    // Who names a modem's telephone rather waits than is refused it.
+    settings.patience.bus = settings.patience.opening;
     settings.tell = [](const QString &notice) { complain(ExitSuccess, notice); };
     settings.progress = [](const QString &step, int percent) {
         complain(ExitSuccess, QStringLiteral("%1: %2 %").arg(step).arg(percent));

@@ -84,6 +84,7 @@ int withHandset(const Options &options, Act act)
     handset::Settings settings;
     settings.backend = options.backend;
     settings.stateDirectory = options.stateDirectory;
+    settings.patience.bus = settings.patience.opening; // as the window does
     const handset::Opened opened = handset::open(settings);
     if (!opened.notice.isEmpty())
         complain(ExitSuccess, opened.notice);

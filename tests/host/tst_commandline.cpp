@@ -4,6 +4,7 @@
 #include "handset/Handset.h"
 #include "handset/HandsetTestKit.h"
 #include "host/HostProcess.h"
+#include "qt/qcop/PrivateBus.h"
 #include "simulated/SimulatedHandset.h"
 #include "support/TestGroup.h"
 
@@ -14,11 +15,13 @@
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QTemporaryDir>
+#include <QtCore/QThread>
 #include <QtGui/QImage>
 #include <QtTest/QTest>
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 // Far beyond the numbers that servers take.
 static const QString deadDisplay = QStringLiteral(":59999");
@@ -51,6 +54,7 @@ private slots:
     void aSecondStartOnTheSameStateIsShownAndRecordsNothing();
     void anUnknownBackendIsSaid();
     void aTelephoneThatIsChosenByItselfIsTheSimulationWithoutAModem();
+    void aBusThatAnswersLateIsWaitedForByTheTelephoneThatWantsIt();
     void theTraceIsAppendedToItsFile();
     void theTraceGoesToStandardOutputWhenAskedTo();
     void theTraceIsKeptBesideTheStateByDefault();
@@ -389,14 +393,29 @@ void TestCommandLine::anUnknownBackendIsSaid()
 
 void TestCommandLine::aTelephoneThatIsChosenByItselfIsTheSimulationWithoutAModem()
 {
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+    environment.insert("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent/bus");
     const HostResult result = showCallTimes({"--state", path("state"), "--backend", "auto"});
     const HostResult named = showCallTimes({"--state", path("state"), "--backend", "ofono"});
-    qunsetenv("DBUS_SYSTEM_BUS_ADDRESS");
     QVERIFY2(result.code == 0, qPrintable(result.errors));
     QVERIFY(hasMeterTrace(contents("state/trace.log")));
     QCOMPARE(named.code, 3);
     QVERIFY2(named.errors.contains("There is no system bus: "), qPrintable(named.errors));
+}
+
+void TestCommandLine::aBusThatAnswersLateIsWaitedForByTheTelephoneThatWantsIt()
+{
+    PrivateBus bus;
+    bus.halt();
+    const std::unique_ptr<QThread> later(QThread::create([&bus] {
+        // Longer than is waited otherwise.
+        QThread::msleep(3 * static_cast<unsigned long>(handset::Patience().bus));
+        bus.goOn();
+    }));
+    environment.insert("DBUS_SYSTEM_BUS_ADDRESS", bus.address());
+    later->start();
+    const HostResult result = showCallTimes({"--state", path("state"), "--backend", "ofono"});
+    later->wait();
+    QVERIFY2(result.code == 0, qPrintable(result.errors));
 }
 
 void TestCommandLine::theTraceIsAppendedToItsFile()
