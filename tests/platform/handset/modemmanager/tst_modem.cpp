@@ -869,7 +869,7 @@ void TestModem::aBusThatComesBackSilentHoldsNothingUp()
     first.addModem(first.modem);
     first.appear();
     modemmanager::ModemManagerModem modem(bus.address(), {5'000, 5'000, 50});
-    QCOMPARE(modem.connectToBus(), QString());
+    QCOMPARE(modem.connectToBus(60'000), QString());
     QTRY_VERIFY(modem.state().isThere);
     bus.kill();
     const QString path = bus.address().section(u'=', 1);

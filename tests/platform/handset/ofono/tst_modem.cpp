@@ -571,14 +571,22 @@ void TestModem::aCallThatTheNetworkRefusesIsTold()
     QTRY_COMPARE(desk.heard->last(), "voicecall02 gone");
 }
 
+// A bus that a busy machine does not let answer for a quarter of a second is not what these are about.
+static Settings ofSystemBus()
+{
+    Settings settings;
+    settings.backend = QStringLiteral("ofono");
+    settings.patience.bus = 60'000;
+    return settings;
+}
+
 void TestModem::theBackendIsALibraryThatTheFactoryFinds()
 {
     FakeOfono fake(systemBus().address());
     fake.setInterfaces({"VoiceCallManager"});
     fake.addCall(one, callIn("active"));
     fake.appear();
-    Settings settings;
-    settings.backend = QStringLiteral("ofono");
+    Settings settings = ofSystemBus();
     const auto clock = std::make_shared<ManualClock>();
     settings.clock = clock;
     const Opened opened = handset::open(settings);
@@ -622,8 +630,7 @@ void TestModem::theFiguresAreThereWhenItIsOpened()
     fake.errors["CallMeter.GetProperties"] = QStringList("InProgress"); // at first
     fake.setInterfaces({"SimManager", "CallMeter"});
     fake.appear();
-    Settings settings;
-    settings.backend = QStringLiteral("ofono");
+    Settings settings = ofSystemBus();
     settings.patience.operation = 60'000;
     const Opened opened = handset::open(settings);
     QVERIFY2(opened.handset, qPrintable(opened.error));
@@ -644,8 +651,7 @@ void TestModem::whatHappensWhileItIsOpenedIsTold()
     fake.silent.insert("CallMeter.GetProperties");
     fake.addCall(one, callIn("active"));
     fake.appear();
-    Settings settings;
-    settings.backend = QStringLiteral("ofono");
+    Settings settings = ofSystemBus();
     const Opened opened = handset::open(settings);
     QVERIFY2(opened.handset, qPrintable(opened.error));
     int told = 0;
@@ -658,8 +664,7 @@ void TestModem::whatHappensWhileItIsOpenedIsTold()
 
 void TestModem::openingWaitsForNobodyAndForNobodyLong()
 {
-    Settings settings;
-    settings.backend = QStringLiteral("ofono");
+    Settings settings = ofSystemBus();
     settings.patience.operation = 600'000;
     QVERIFY(handset::open(settings).handset); // no daemon
     FakeOfono fake(systemBus().address());
